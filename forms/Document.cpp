@@ -1,0 +1,291 @@
+#include "forms/Document.h"
+
+#include <cstring>
+
+#include "forms/BinaryReader.h"
+#include "forms/BinaryWriter.h"
+#include "forms/Encoding.h"
+#include "forms/TextReader.h"
+#include "forms/TextWriter.h"
+
+namespace forms {
+
+Property* Object::Find(QByteArrayView path) {
+  for (Property& p : properties)
+    if (p.Name().size() == path.size() && p.Name().compare(path, Qt::CaseInsensitive) == 0) return &p;
+  return nullptr;
+}
+const Property* Object::Find(QByteArrayView path) const { return const_cast<Object*>(this)->Find(path); }
+
+int Object::IndexInParent() const {
+  if (!parent) return -1;
+  for (std::size_t i = 0; i < parent->children.size(); ++i)
+    if (parent->children[i].get() == this) return static_cast<int>(i);
+  return -1;
+}
+
+Object& Object::AddChild(QByteArray childClass, QByteArray childName) {
+  auto child = std::make_unique<Object>();
+  child->className = std::move(childClass);
+  child->name = std::move(childName);
+  child->parent = this;
+  children.push_back(std::move(child));
+  return *children.back();
+}
+
+std::unique_ptr<Object> Object::Take(int childIndex) {
+  const auto it = children.begin() + childIndex;
+  auto child = std::move(*it);
+  children.erase(it);
+  child->parent = nullptr;
+  return child;
+}
+
+void Object::Insert(int childIndex, std::unique_ptr<Object> child) {
+  child->parent = this;
+  const auto at = std::min(static_cast<std::size_t>(std::max(childIndex, 0)), children.size());
+  children.insert(children.begin() + static_cast<std::ptrdiff_t>(at), std::move(child));
+}
+
+Document::Document() = default;
+Document::~Document() = default;
+Document::Document(Document&&) noexcept = default;
+Document& Document::operator=(Document&&) noexcept = default;
+
+Format Document::Detect(QByteArrayView bytes) {
+  if (bytes.startsWith("TPF0")) return Format::Binary;
+  if (!bytes.isEmpty() && static_cast<unsigned char>(bytes[0]) == 0xFF) return Format::Resource;
+  return Format::Text;
+}
+
+Document Document::Parse(QByteArray bytes, const Dialect& hint) {
+  if (bytes.size() > MaxFileSize)
+    throw EFormError(QStringLiteral("The form is larger than %1 MB").arg(MaxFileSize >> 20), {});
+  Document doc;
+  doc.dialect_ = hint;
+  doc.format_ = Detect(bytes);
+  doc.source_ = std::move(bytes);
+  if (doc.format_ == Format::Text) {
+    TextReader(doc.source_).ReadDocument(doc);
+  } else {
+    const std::size_t at = StreamOffset(doc.source_);
+    try {
+      BinaryReader(doc.source_, at, false).ReadDocument(doc);
+    } catch (const EFormError&) {
+      // The two families of streams disagree about one code; the other reading may fit.
+      Document other;
+      other.dialect_ = hint;
+      other.format_ = doc.format_;
+      other.source_ = doc.source_;
+      bool fits = true;
+      try {
+        BinaryReader(other.source_, at, true).ReadDocument(other);
+      } catch (const EFormError&) {
+        fits = false;
+      }
+      if (!fits) throw;
+      doc = std::move(other);
+    }
+  }
+  doc.DescribeCodePage();
+  return doc;
+}
+
+Document Document::Create(QByteArray rootClass, QByteArray rootName) {
+  Document doc;
+  doc.root_ = std::make_unique<Object>();
+  doc.root_->className = std::move(rootClass);
+  doc.root_->name = std::move(rootName);
+  return doc;
+}
+
+void Document::DescribeCodePage() {
+  if (format_ == Format::Text && utf8_) return;
+  const Property* charset = root_->Find("Font.Charset");
+  if (!charset) return;
+  const Value v = Read(*charset);
+  if (v.type == ValueType::Ident) codePage_ = CodePageOfCharset(v.bytes);
+}
+
+QByteArrayView Document::Slice(Span span) const {
+  return QByteArrayView(source_).sliced(span.begin, span.end - span.begin);
+}
+
+void Document::Read(const Property& property, Value& out) const {
+  if (const Value* edited = property.Edited()) {
+    out = *edited;
+  } else if (format_ == Format::Text) {
+    TextReader(QByteArrayView(source_).first(property.SourceValue().end), property.SourceValue().begin).ReadValue(&out);
+  } else {
+    BinaryReader(source_, property.SourceValue().begin, lclStream_).ReadValue(&out);
+  }
+}
+
+Value Document::Read(const Property& property) const {
+  Value v;
+  Read(property, v);
+  return v;
+}
+
+Location Document::Where(const Property& property) const {
+  if (!property.FromSource()) return {};
+  if (format_ != Format::Text) return {property.SourceValue().begin, 0, 0};
+  return LocationOf(source_, property.SourceValue().begin);
+}
+
+Location Document::Where(const Object& object) const {
+  if (!object.FromSource()) return {};
+  if (format_ != Format::Text) return {object.header.begin, 0, 0};
+  std::size_t at = object.header.begin;
+  while (at < object.header.end && std::strchr(" \t\r\n", source_[static_cast<qsizetype>(at)])) ++at;
+  return LocationOf(source_, at);
+}
+
+QString Document::Decode(const Value& value) const {
+  switch (value.type) {
+    case ValueType::WString:
+    case ValueType::UString:
+      return value.wide;
+    case ValueType::UTF8String:
+      return QString::fromUtf8(value.bytes);
+    default:
+      return DecodeBytes(value.bytes, codePage_);
+  }
+}
+
+Value Document::MakeText(const QString& text) const {
+  Value v = Value::Text(text);
+  if (v.type == ValueType::WString && format_ == Format::Text && dialect_.literalHighBytes) {
+    v.bytes = text.toUtf8();
+    v.wide.clear();
+    v.type = v.bytes.size() <= 255 ? ValueType::String : ValueType::LString;
+  }
+  return v;
+}
+
+QByteArrayView Document::Intern(QByteArrayView name) {
+  for (const QByteArray& known : interned_)
+    if (known == name) return known;
+  interned_.push_back(name.toByteArray());
+  return interned_.back();
+}
+
+Property Document::MakeProperty(QByteArrayView name, Value value) {
+  return Property(Intern(name), std::move(value));
+}
+
+void Document::WriteTextObject(TextWriter& out, const Object& object, int level) const {
+  if (object.FromSource() && !object.headerChanged) {
+    out.Raw(Slice(object.header));
+  } else {
+    out.FreshLine();
+    out.ObjectHeader(object, level);
+  }
+  for (const Property& p : object.properties) {
+    if (p.FromSource()) {
+      out.Raw(Slice(p.Node()));
+    } else {
+      out.FreshLine();
+      out.PropertyLine(p.Name(), *p.Edited(), level + 1);
+    }
+  }
+  for (const auto& child : object.children) WriteTextObject(out, *child, level + 1);
+  if (object.FromSource()) {
+    const QByteArrayView footer = Slice(object.footer);
+    // A header or property that came from the middle of a line may need a separator before "end".
+    if (!footer.isEmpty() && IsIdentStart(footer[0])) out.FreshLine();
+    out.Raw(footer);
+  } else {
+    out.FreshLine();
+    out.ObjectFooter(level);
+  }
+}
+
+// `copy`: nodes from the source are copied; otherwise every value is encoded anew.
+void Document::WriteBinaryObject(BinaryWriter& out, const Object& object, bool copy) const {
+  if (copy && object.FromSource() && !object.headerChanged)
+    out.Raw(Slice(object.header));
+  else
+    out.ObjectHeader(object);
+  Value v;
+  for (const Property& p : object.properties) {
+    if (copy && p.FromSource()) {
+      out.Raw(Slice(p.Node()));
+      continue;
+    }
+    out.ShortString(p.Name());
+    Read(p, v);
+    out.WriteValue(v);
+  }
+  out.Byte(0);
+  for (const auto& child : object.children) WriteBinaryObject(out, *child, copy);
+  out.Byte(0);
+}
+
+QByteArray Document::Write() const {
+  if (format_ == Format::Text) {
+    TextWriter out(dialect_);
+    out.Raw(Slice(before_));
+    WriteTextObject(out, *root_, 0);
+    out.Raw(Slice(trailer_));
+    return std::move(out).Result();
+  }
+  BinaryWriter out(lclStream_);
+  WriteBinaryObject(out, *root_, true);
+  const QByteArray stream = std::move(out).Result();
+  QByteArray head = Slice(before_).toByteArray();
+  const auto before = static_cast<qsizetype>(before_.end);
+  if (format_ == Format::Resource && stream != Slice({before_.end, trailer_.begin})) {
+    const auto size = static_cast<std::size_t>(stream.size() + 4 + (source_.size() - trailer_.begin));
+    for (int i = 0; i < 4; ++i) head[before - 8 + i] = static_cast<char>(size >> (8 * i));
+  }
+  return head + stream + Slice(trailer_).toByteArray();
+}
+
+namespace {
+void WriteDecodedText(const Document& doc, TextWriter& out, const Object& object, int level) {
+  out.ObjectHeader(object, level);
+  Value v;
+  for (const Property& p : object.properties) {
+    doc.Read(p, v);
+    out.PropertyLine(p.Name(), v, level + 1);
+  }
+  for (const auto& child : object.children) WriteDecodedText(doc, out, *child, level + 1);
+  out.ObjectFooter(level);
+}
+}  // namespace
+
+QByteArray Document::ObjectText(const Object& object) const {
+  TextWriter out(dialect_);
+  WriteDecodedText(*this, out, object, 0);
+  return std::move(out).Result();
+}
+
+QByteArray Document::WriteAs(Format format) const {
+  if (format == format_) return Write();
+  if (format == Format::Text) return ObjectText(*root_);
+  BinaryWriter out(lclStream_);
+  out.Raw("TPF0");
+  WriteBinaryObject(out, *root_, format_ != Format::Text);
+  const QByteArray stream = std::move(out).Result();
+  if (format == Format::Binary) return stream;
+  return ResourceHeader(root_->className, static_cast<std::size_t>(stream.size())) + stream;
+}
+
+std::unique_ptr<Object> Document::Detached(const Object& object, Document& target) const {
+  const auto owned = [](const QByteArray& b) { return QByteArray(b.constData(), b.size()); };
+  auto copy = std::make_unique<Object>();
+  copy->kind = object.kind;
+  copy->name = owned(object.name);
+  copy->className = owned(object.className);
+  copy->position = object.position;
+  for (const Property& p : object.properties)
+    copy->properties.push_back(target.MakeProperty(p.Name(), TextToValue(ValueToText(Read(p)))));
+  for (const auto& child : object.children) {
+    copy->children.push_back(Detached(*child, target));
+    copy->children.back()->parent = copy.get();
+  }
+  return copy;
+}
+
+}  // namespace forms

@@ -1,0 +1,80 @@
+#include "rtl/Collection.h"
+
+#include "rtl/Exceptions.h"
+
+const TClass& TCollectionItem::StaticClass() {
+  static const TClass cls(DescribeClass<TCollectionItem>("TCollectionItem", TPersistent::StaticClass()));
+  return cls;
+}
+
+const TClass& TCollection::StaticClass() {
+  static const TClass cls(DescribeClass<TCollection>("TCollection", TPersistent::StaticClass()));
+  return cls;
+}
+
+TCollectionItem::TCollectionItem(TCollection* collection) : collection_(collection) {
+  if (!collection) throw EComponentError(QStringLiteral("A collection item needs a collection."));
+  collection->items_.emplace_back(this);
+}
+
+TPersistent* TCollectionItem::GetOwner() const { return collection_; }
+
+int TCollectionItem::Index() const {
+  for (int i = 0; i < collection_->Count(); ++i)
+    if (collection_->Item(i) == this) return i;
+  return -1;
+}
+
+QString TCollectionItem::DisplayName() const { return QString::fromLatin1(ClassType().ClassName()); }
+
+TCollection::TCollection(const TClass& itemClass, TPersistent* owner)
+    : TOwnedPersistent(owner), itemClass_(itemClass) {}
+TCollection::~TCollection() = default;
+
+TCollectionItem* TCollection::Add() {
+  auto* item = static_cast<TCollectionItem*>(itemClass_.NewItem(this));
+  Changed();
+  return item;
+}
+
+void TCollection::Delete(int index) {
+  if (index < 0 || index >= Count())
+    throw EComponentError(QStringLiteral("The collection has no item %1 (it has %2).").arg(index).arg(Count()));
+  items_.erase(items_.begin() + index);
+  Changed();
+}
+
+void TCollection::Clear() {
+  if (items_.empty()) return;
+  items_.clear();
+  Changed();
+}
+
+void TCollection::Move(int from, int to) {
+  if (from < 0 || from >= Count() || to < 0 || to >= Count())
+    throw EComponentError(QStringLiteral("The collection cannot move item %1 to %2 (it has %3).")
+                              .arg(from)
+                              .arg(to)
+                              .arg(Count()));
+  const auto b = items_.begin();
+  if (from < to)
+    std::rotate(b + from, b + from + 1, b + to + 1);
+  else
+    std::rotate(b + to, b + from, b + from + 1);
+  if (from != to) Changed();
+}
+
+void TCollection::Assign(const TPersistent* source) {
+  const auto* other = As<TCollection>(source);
+  if (!other) return TPersistent::Assign(source);
+  if (other == this) return;
+  BeginUpdate();
+  try {
+    Clear();
+    for (int i = 0; i < other->Count(); ++i) Add()->Assign(other->Item(i));
+  } catch (...) {
+    EndUpdate();
+    throw;
+  }
+  EndUpdate();
+}

@@ -1,0 +1,45 @@
+// Collections: an ordered list of value objects of one class, owned by the collection.
+#pragma once
+#include "rtl/Component.h"
+
+class TCollectionItem : public TPersistent {
+  VRX_CLASS(TCollectionItem)
+ public:
+  // Appends itself to the collection, which owns it from then on.
+  explicit TCollectionItem(TCollection* collection);
+  TPersistent* GetOwner() const override;
+  TCollection* Collection() const { return collection_; }
+  int Index() const;
+  // A short text that tells the item from its neighbours in editors.
+  virtual QString DisplayName() const;
+
+ private:
+  friend class TCollection;
+  TCollection* collection_;
+};
+
+class TCollection : public TOwnedPersistent, public IStreamedContent {
+  VRX_CLASS(TCollection)
+ public:
+  explicit TCollection(const TClass& itemClass, TPersistent* owner = nullptr);
+  ~TCollection() override;
+
+  const TClass& ItemClass() const { return itemClass_; }
+  int Count() const { return static_cast<int>(items_.size()); }
+  TCollectionItem* Item(int index) const { return items_.at(static_cast<std::size_t>(index)).get(); }
+  TCollectionItem* Add();
+  void Delete(int index);
+  void Clear();
+  // Moves an item; both indexes must exist.
+  void Move(int from, int to);
+
+  // Items are replaced by copies of the source's.
+  void Assign(const TPersistent* source) override;
+  bool ContentEmpty() const override { return items_.empty(); }
+  void ClearContent() override { Clear(); }
+
+ private:
+  friend class TCollectionItem;
+  const TClass& itemClass_;
+  std::vector<std::unique_ptr<TCollectionItem>> items_;
+};

@@ -1,0 +1,161 @@
+#include "rtl/Component.h"
+
+#include "rtl/Exceptions.h"
+#include "rtl/PropAccess.h"
+
+TDesignPoint DesignPointOf(std::int32_t word) {
+  const auto bits = static_cast<std::uint32_t>(word);
+  return {static_cast<std::int16_t>(bits & 0xFFFFu), static_cast<std::int16_t>(bits >> 16)};
+}
+
+std::int32_t DesignWordOf(TDesignPoint p) {
+  return static_cast<std::int32_t>((static_cast<std::uint32_t>(static_cast<std::uint16_t>(p.Top)) << 16) |
+                                   static_cast<std::uint16_t>(p.Left));
+}
+
+bool IsValidIdent(QStringView name) {
+  if (name.isEmpty() || name.size() > 255) return false;
+  const auto letter = [](QChar c) { return c == u'_' || (c.unicode() < 128 && c.isLetter()); };
+  const auto digit = [](QChar c) { return c >= u'0' && c <= u'9'; };
+  return letter(name[0]) && std::all_of(name.begin(), name.end(), [&](QChar c) { return letter(c) || digit(c); });
+}
+
+const TClass& TComponent::StaticClass() {
+  static const TTypeInfo nameType = StringType("TComponentName");
+  static const TTypeInfo tagType = OrdinalType("NativeInt", INT64_MIN, INT64_MAX);
+  static const TClass cls(
+      DescribeClass<TComponent>("TComponent", TPersistent::StaticClass())
+          .Streamed("Left", &TComponent::DesignLeft, &TComponent::SetDesignLeft, 0)
+          .StoredIf(&TComponent::HasDesignPosition)
+          .Streamed("Top", &TComponent::DesignTop, &TComponent::SetDesignTop, 0)
+          .StoredIf(&TComponent::HasDesignPosition)
+          .Published("Name", &TComponent::Name, &TComponent::SetName)
+          .Type(nameType)
+          .NeverStored()
+          .Doc(QStringLiteral("The name that code and other components use; unique on the form."))
+          .Published("Tag", &TComponent::Tag, &TComponent::SetTag, 0)
+          .Type(tagType)
+          .Doc(QStringLiteral("A number for your own use.")));
+  return cls;
+}
+
+TComponent::TComponent(TComponent* owner) {
+  if (owner) owner->InsertComponent(this);
+}
+
+TComponent::~TComponent() {
+  destroying_ = true;
+  for (TComponent* c : std::exchange(freeNotifies_, {})) c->Notification(this, TOperation::opRemove);
+  while (!components_.empty()) {
+    TComponent* last = components_.back();
+    RemoveComponent(last);
+    delete last;
+  }
+  if (owner_) owner_->RemoveComponent(this);
+}
+
+std::vector<TComponent*> TComponent::GetChildren() const {
+  std::vector<TComponent*> result;
+  for (TComponent* c : components_)
+    if (!c->HasParent()) result.push_back(c);
+  return result;
+}
+
+TComponent* TComponent::FindComponent(const QString& name) const {
+  return names_ && !name.isEmpty() ? names_->value(name.toLower()) : nullptr;
+}
+
+int TComponent::ComponentIndex() const {
+  if (!owner_) return -1;
+  const auto& all = owner_->components_;
+  return static_cast<int>(std::find(all.begin(), all.end(), this) - all.begin());
+}
+
+void TComponent::InsertComponent(TComponent* component) {
+  if (component->owner_ == this) return;
+  if (!component->name_.isEmpty() && FindComponent(component->name_))
+    throw EComponentError(
+        QStringLiteral("A component named \"%1\" already exists on %2.").arg(component->name_, name_));
+  if (component->owner_) component->owner_->RemoveComponent(component);
+  components_.push_back(component);
+  component->owner_ = this;
+  component->designing_ = component->designing_ || designing_;
+  if (!component->name_.isEmpty()) {
+    if (!names_) names_ = std::make_unique<QHash<QString, TComponent*>>();
+    names_->insert(component->name_.toLower(), component);
+  }
+}
+
+void TComponent::RemoveComponent(TComponent* component) {
+  const auto it = std::find(components_.rbegin(), components_.rend(), component);
+  if (it == components_.rend()) return;
+  components_.erase(std::next(it).base());
+  component->owner_ = nullptr;
+  if (names_ && !component->name_.isEmpty()) names_->remove(component->name_.toLower());
+}
+
+void TComponent::SetName(const QString& name) {
+  if (name == name_) return;
+  if (!name.isEmpty() && !IsValidIdent(name))
+    throw EComponentError(
+        QStringLiteral("\"%1\" is not a valid component name: use letters, digits and underscores, starting "
+                       "with a letter or underscore.")
+            .arg(name));
+  const QString key = name.toLower();
+  const QString oldKey = name_.toLower();
+  if (owner_ && !name.isEmpty() && key != oldKey &&
+      (owner_->FindComponent(name) || owner_->name_.toLower() == key))
+    throw EComponentError(QStringLiteral("A component named \"%1\" already exists.").arg(name));
+  if (!name.isEmpty() && FindComponent(name))
+    throw EComponentError(QStringLiteral("A component named \"%1\" already exists.").arg(name));
+  if (owner_) {
+    if (!owner_->names_) owner_->names_ = std::make_unique<QHash<QString, TComponent*>>();
+    if (!oldKey.isEmpty()) owner_->names_->remove(oldKey);
+    if (!key.isEmpty()) owner_->names_->insert(key, this);
+  }
+  const QString oldName = std::exchange(name_, name);
+  NameChanged(oldName);
+}
+
+void TComponent::NameChanged(const QString&) {}
+
+void TComponent::FreeNotification(TComponent* component) {
+  if (std::find(freeNotifies_.begin(), freeNotifies_.end(), component) != freeNotifies_.end()) return;
+  freeNotifies_.push_back(component);
+  // Both sides know of each other, so that whoever goes first leaves no dangling pointer.
+  component->FreeNotification(this);
+}
+
+void TComponent::RemoveFreeNotification(TComponent* component) {
+  const auto it = std::find(freeNotifies_.begin(), freeNotifies_.end(), component);
+  if (it == freeNotifies_.end()) return;
+  freeNotifies_.erase(it);
+  component->RemoveFreeNotification(this);
+}
+
+void TComponent::Notification(TComponent* component, TOperation operation) {
+  if (operation != TOperation::opRemove) return;
+  std::erase(freeNotifies_, component);
+  if (destroying_) return;
+  for (const TPropInfo* prop : ClassType().Properties())
+    if (IsComponentRef(*prop) && GetObjectProp(*this, *prop) == component) SetObjectProp(*this, *prop, nullptr);
+}
+
+QString TComponent::MethodName(const TPropInfo& event) const {
+  for (const auto& [key, handler] : methods_)
+    if (key == event.Access.get()) return handler;
+  return {};
+}
+
+void TComponent::SetMethodName(const TPropInfo& event, const QString& handler) {
+  const TPropAccess* key = event.Access.get();
+  std::erase_if(methods_, [&](const auto& m) { return m.first == key; });
+  if (!handler.isEmpty()) methods_.emplace_back(key, handler);
+}
+
+void TComponent::SetDesignLeft(int left) {
+  designInfo_ = DesignWordOf({static_cast<std::int16_t>(left), DesignPointOf(designInfo_).Top});
+}
+void TComponent::SetDesignTop(int top) {
+  designInfo_ = DesignWordOf({DesignPointOf(designInfo_).Left, static_cast<std::int16_t>(top)});
+}

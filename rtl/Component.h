@@ -1,0 +1,119 @@
+// Components: named, owned, streamed with a form.
+#pragma once
+#include <QHash>
+#include <vector>
+
+#include "rtl/Class.h"
+
+// What a value object streams besides properties (lines of a string list, items of a collection). Kept here
+// because "is it at default" and "reset" ask it.
+class IStreamedContent {
+ public:
+  virtual ~IStreamedContent() = default;
+  virtual bool ContentEmpty() const = 0;
+  virtual void ClearContent() = 0;
+};
+
+// Where a designer shows the icon of a component that is not a control: the design-time position word with
+// left in its low and top in its high 16 bits, both signed.
+struct TDesignPoint {
+  std::int16_t Left = 0;
+  std::int16_t Top = 0;
+};
+TDesignPoint DesignPointOf(std::int32_t word);
+std::int32_t DesignWordOf(TDesignPoint point);
+
+enum class TOperation { opInsert, opRemove };
+
+class TComponent : public TPersistent {
+  VRX_CLASS(TComponent)
+ public:
+  explicit TComponent(TComponent* owner);
+  // Frees the components it owns, last first, tells everyone who asked, and leaves its owner.
+  ~TComponent() override;
+
+  TPersistent* GetOwner() const override { return owner_; }
+  TComponent* Owner() const { return owner_; }
+  const std::vector<TComponent*>& Components() const { return components_; }
+  // The owned component of that name (no regard to case), or null.
+  TComponent* FindComponent(const QString& name) const;
+  // Position among the owner's components; -1 without an owner.
+  int ComponentIndex() const;
+  void InsertComponent(TComponent* component);
+  void RemoveComponent(TComponent* component);
+
+  const QString& Name() const { return name_; }
+  // Empty, or an identifier that no other component of the owner has; otherwise EComponentError.
+  void SetName(const QString& name);
+
+  std::int64_t Tag() const { return tag_; }
+  void SetTag(std::int64_t tag) { tag_ = tag; }
+  std::int32_t DesignInfo() const { return designInfo_; }
+  void SetDesignInfo(std::int32_t word) { designInfo_ = word; }
+
+  // The class name the form file gives this component. Differs from the class for forms (their own
+  // descendant) and for stand-ins of classes that are not loaded.
+  virtual QByteArray StreamClassName() const { return ClassType().ClassName(); }
+
+  // The container in the form file: the parent of a control, the owner of anything else.
+  virtual TComponent* GetParentComponent() const { return owner_; }
+  virtual bool HasParent() const { return false; }
+  virtual void SetParentComponent(TComponent*) {}
+  // The components to be written inside this one, in order.
+  virtual std::vector<TComponent*> GetChildren() const;
+
+  bool IsDesigning() const { return designing_; }
+  void SetDesigning(bool designing) { designing_ = designing; }
+  bool IsLoading() const { return loading_; }
+  bool IsDestroying() const { return destroying_; }
+  // Called by readers before the first property and after the last one of the whole form.
+  virtual void BeginLoading() { loading_ = true; }
+  virtual void Loaded() { loading_ = false; }
+
+  // `component` will be told when this one is freed; components of one owner need not ask.
+  void FreeNotification(TComponent* component);
+  void RemoveFreeNotification(TComponent* component);
+  const std::vector<TComponent*>& FreeNotifies() const { return freeNotifies_; }
+  // Somebody was inserted into or removed from this component's surroundings; drop references to it.
+  virtual void Notification(TComponent* component, TOperation operation);
+
+  // Handler names of events.
+  QString MethodName(const TPropInfo& event) const;
+  void SetMethodName(const TPropInfo& event, const QString& handler);
+
+ protected:
+  void DoChanged() override {}
+  // Called for derived classes after a new name is in place.
+  virtual void NameChanged(const QString& oldName);
+
+ private:
+  int DesignLeft() const { return DesignPointOf(designInfo_).Left; }
+  int DesignTop() const { return DesignPointOf(designInfo_).Top; }
+  void SetDesignLeft(int left);
+  void SetDesignTop(int top);
+  bool HasDesignPosition() const { return !HasParent() && owner_; }
+
+  TComponent* owner_ = nullptr;
+  std::vector<TComponent*> components_;
+  std::vector<TComponent*> freeNotifies_;
+  std::vector<std::pair<const TPropAccess*, QString>> methods_;
+  std::unique_ptr<QHash<QString, TComponent*>> names_;  // lower-case names of owned components
+  QString name_;
+  std::int64_t tag_ = 0;
+  std::int32_t designInfo_ = 0;
+  bool designing_ = false;
+  bool loading_ = false;
+  bool destroying_ = false;
+};
+
+// A letter or underscore, then letters, digits and underscores.
+bool IsValidIdent(QStringView name);
+
+// Sets a component-reference member and keeps free notifications in step.
+template <class T>
+void SetReference(TComponent& holder, T*& member, T* value) {
+  if (member == value) return;
+  if (member) member->RemoveFreeNotification(&holder);
+  member = value;
+  if (value) value->FreeNotification(&holder);
+}

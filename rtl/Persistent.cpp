@@ -1,0 +1,60 @@
+#include "rtl/Persistent.h"
+
+#include "rtl/Class.h"
+#include "rtl/Exceptions.h"
+#include "rtl/PropAccess.h"
+
+TPersistent::~TPersistent() = default;
+
+const TClass& TPersistent::StaticClass() {
+  static const TClass cls(TClassBuilder("TPersistent", nullptr));
+  return cls;
+}
+
+const TTypeInfo& TPersistent::StaticTypeInfo() {
+  static const TTypeInfo info{
+      .Kind = TTypeKind::tkClass, .Name = "TPersistent", .ClassType = &TPersistent::StaticClass};
+  return info;
+}
+
+bool TPersistent::InheritsFrom(const TClass& cls) const { return ClassType().InheritsFrom(cls); }
+
+void TPersistent::Assign(const TPersistent* source) {
+  if (source == this) return;
+  const TClass& own = ClassType();
+  if (!source || !(own.InheritsFrom(source->ClassType()) || source->InheritsFrom(own)))
+    throw EConvertError(QStringLiteral("Cannot assign %1 to %2.")
+                            .arg(source ? QString::fromLatin1(source->ClassType().ClassName())
+                                        : QStringLiteral("nil"),
+                                 QString::fromLatin1(own.ClassName())));
+  BeginUpdate();
+  try {
+    const TClass& common = own.InheritsFrom(source->ClassType()) ? source->ClassType() : own;
+    for (const TPropInfo* prop : common.Properties())
+      if (const TPropInfo* target = own.FindProp(prop->Name)) CopyProp(*source, *prop, *this, *target);
+  } catch (...) {
+    EndUpdate();
+    throw;
+  }
+  EndUpdate();
+}
+
+void TPersistent::Changed() {
+  if (updateLock_ > 0) {
+    changePending_ = true;
+    return;
+  }
+  DoChanged();
+}
+
+void TPersistent::EndUpdate() {
+  if (--updateLock_ > 0 || !changePending_) return;
+  changePending_ = false;
+  DoChanged();
+}
+
+void TPersistent::DoChanged() {
+  if (TPersistent* owner = GetOwner()) owner->PartChanged(*this);
+}
+
+void TPersistent::PartChanged(TPersistent&) { Changed(); }

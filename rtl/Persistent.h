@@ -1,0 +1,85 @@
+// The root of everything that has published properties.
+#pragma once
+#include <memory>
+
+#include "rtl/TypeInfo.h"
+
+class TClass;
+
+class TPersistent {
+ public:
+  TPersistent() = default;
+  TPersistent(const TPersistent&) = delete;
+  TPersistent& operator=(const TPersistent&) = delete;
+  virtual ~TPersistent();
+
+  static const TClass& StaticClass();
+  static const TTypeInfo& StaticTypeInfo();
+  virtual const TClass& ClassType() const { return StaticClass(); }
+  bool InheritsFrom(const TClass& cls) const;
+
+  // Copies every published property of `source`, which must be of this object's class, an ancestor or a
+  // descendant of it; otherwise EConvertError, and nothing is changed. Null resets nothing and is refused.
+  virtual void Assign(const TPersistent* source);
+
+  // The object this one is a part of: the component of a value object, the collection of an item.
+  virtual TPersistent* GetOwner() const { return nullptr; }
+
+  // Tells the owner that a value here has changed. Setters call it after the value is in place; between
+  // BeginUpdate and EndUpdate the calls are collected into one.
+  void Changed();
+  void BeginUpdate() { ++updateLock_; }
+  void EndUpdate();
+
+ protected:
+  // What a change means to this object itself; the default hands it to the owner.
+  virtual void DoChanged();
+  // A part of this object has changed.
+  virtual void PartChanged(TPersistent& part);
+
+ private:
+  short updateLock_ = 0;
+  bool changePending_ = false;
+};
+
+// A value object: part of an owner that hears of its changes.
+class TOwnedPersistent : public TPersistent {
+ public:
+  explicit TOwnedPersistent(TPersistent* owner = nullptr) : owner_(owner) {}
+  TPersistent* GetOwner() const override { return owner_; }
+
+ protected:
+  // Stores and reports only real changes.
+  template <class T, class U>
+  void Change(T& member, U&& value) {
+    if (member == value) return;
+    member = std::forward<U>(value);
+    Changed();
+  }
+
+ private:
+  TPersistent* owner_;
+};
+
+#define VRX_CLASS(Type)                                              \
+ public:                                                             \
+  static const TClass& StaticClass();                                \
+  static const TTypeInfo& StaticTypeInfo() {                         \
+    static const TTypeInfo info{.Kind = TTypeKind::tkClass,          \
+                                .Name = #Type,                       \
+                                .ClassType = &Type::StaticClass};    \
+    return info;                                                     \
+  }                                                                  \
+  const TClass& ClassType() const override { return StaticClass(); } \
+                                                                     \
+ private:
+
+// dynamic_cast by another name, kept for reading like the sentence it is.
+template <class T>
+T* As(TPersistent* p) {
+  return dynamic_cast<T*>(p);
+}
+template <class T>
+const T* As(const TPersistent* p) {
+  return dynamic_cast<const T*>(p);
+}
