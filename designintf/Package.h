@@ -5,6 +5,8 @@
 #include <QString>
 #include <QtPlugin>
 
+#include "rtl/PackageIds.h"
+
 
 struct TPackageUnit {
   QString Name;
@@ -46,6 +48,4 @@ class IDesignPackage {
   virtual const std::vector<TUnitEntry>& GetPackageInfoTable() const = 0;
 };
 
-#define VRX_DESIGN_PACKAGE_IID "orlenvo.DesignPackage/1.0"
-#define VRX_LIBRARY_PACKAGE_IID "orlenvo.LibraryPackage/1.0"
 Q_DECLARE_INTERFACE(IDesignPackage, VRX_DESIGN_PACKAGE_IID)

@@ -1,7 +1,10 @@
 // The base of all property editors. An editor serves one property of all selected components at once; it reads
 // the first and writes all.
 #pragma once
+#include <QFont>
+#include <QIcon>
 #include <memory>
+#include <optional>
 
 #include "designintf/Designer.h"
 #include "designintf/PropertyAttributes.h"
@@ -31,6 +34,10 @@ class TPropertyEditor {
   virtual void SetValue(const QString& value);
   // The values of a drop-down list.
   virtual void GetValues(const TGetStrProc& proc) const;
+  // A picture in front of a value, in the list and in the row; null for none.
+  virtual QIcon GetValueIcon(const QString&) const { return {}; }
+  // The face to show a value in; nothing for the inspector's own.
+  virtual std::optional<QFont> GetValueFont(const QString&) const { return {}; }
   // Opens the editor's dialog. May throw; the inspector rolls back what was changed.
   virtual void Edit();
   virtual void GetProperties(const TGetPropProc& proc) const;
