@@ -24,7 +24,8 @@ TComponent* FormReader::Create(Object& object, TComponent* owner) {
   auto it = classes_.find(object.className);
   if (it == classes_.end()) it = classes_.insert(object.className, FindClass(object.className));
   const TClass* cls = *it;
-  if (cls && !cls->IsAbstract()) return cls->NewComponent(owner);
+  standIn_ = !cls || cls->IsAbstract();
+  if (!standIn_) return cls->NewComponent(owner);
   Report(Severity::Note, document_.Where(object),
          QStringLiteral("class %1 is unknown; %2 is kept as it is")
              .arg(QString::fromUtf8(object.className), ObjectTitle(object)),
@@ -57,6 +58,8 @@ TComponent* FormReader::ReadChild(Object& object, TComponent& owner, TComponent&
 }
 
 void FormReader::ReadInto(Object& object, TComponent& component, TComponent* owner) {
+  // One note tells of an unknown class; its properties are not listed one by one.
+  const bool reportUnknown = !std::exchange(standIn_, false);
   if (!component.IsLoading()) component.BeginLoading();
   loading_.push_back(&component);
   map_.Add(component, object);
@@ -65,14 +68,15 @@ void FormReader::ReadInto(Object& object, TComponent& component, TComponent* own
   } catch (const Exception& e) {
     Report(Severity::Error, document_.Where(object), e.Message());
   }
-  ReadProperties(object, component);
+  ReadProperties(object, component, reportUnknown);
   for (const auto& child : object.children) ReadChild(*child, *owner, component);
 }
 
-void FormReader::ReadProperties(Object& object, TComponent& component) {
+void FormReader::ReadProperties(Object& object, TComponent& component, bool reportUnknown) {
   for (const Property& p : object.properties) {
     const PropertyTarget target = FindTarget(component, p.Name());
     if (!target.Found()) {
+      if (!reportUnknown) continue;
       Report(Severity::Note, document_.Where(p),
              QStringLiteral("%1 of %2 is unknown; it is kept as it is")
                  .arg(QString::fromUtf8(p.Name()), ObjectTitle(object)),

@@ -54,7 +54,7 @@ class FormReader {
  private:
   TComponent* Create(Object& object, TComponent* owner);
   void ReadInto(Object& object, TComponent& component, TComponent* owner);
-  void ReadProperties(Object& object, TComponent& component);
+  void ReadProperties(Object& object, TComponent& component, bool reportUnknown);
   void Finish(TComponent& root);
   void Report(Severity severity, Location where, QString text, bool unknownName = false);
 
@@ -62,6 +62,7 @@ class FormReader {
   ObjectMap& map_;
   Maker makeRoot_;
   Maker makeUnknown_;
+  bool standIn_ = false;  // the component created last stands for an unknown class
   bool designing_ = false;
   std::vector<Finding> findings_;
   std::vector<PendingReference> pending_;

@@ -5,7 +5,9 @@
 
 #include "designintf/CustomColors.h"
 
-unsigned char ORLENVOKITEDITOROPTIONS = 0;
+// The environment sets the options for a process that cannot reach the variable before the packages are loaded.
+unsigned char ORLENVOKITEDITOROPTIONS =
+    static_cast<unsigned char>(qEnvironmentVariableIntValue("ORLENVOKITEDITOROPTIONS"));
 
 bool VRXEditorOption(TVRXEditorOption option) {
   return (ORLENVOKITEDITOROPTIONS >> static_cast<unsigned>(option) & 1u) != 0;

@@ -19,7 +19,9 @@ const TClass& TVRXLEDLabel::StaticClass() {
       DescribeClass<TVRXLEDLabel>("TVRXLEDLabel", TVRXLEDCustomLabel::StaticClass())
           .PublishAll("Align", "Alignment", "Anchors")
           .Publish("AutoSize", true)
-          .PublishAll("Caption", "Color", "Enabled", "LED", "ParentColor", "ParentShowHint", "ShowHint", "Transparent",
+          .PublishAll("Caption", "Color", "Enabled", "LED")
+          .Publish("ParentColor", false)
+          .PublishAll("ParentShowHint", "ShowHint", "Transparent",
                       "Visible", "OnClick", "OnDblClick", "OnMouseDown", "OnMouseEnter", "OnMouseLeave",
                       "OnMouseMove", "OnMouseUp")
           .ClassDoc(QStringLiteral("A text in segment letters, as on a machine's display.")));
