@@ -6,8 +6,10 @@
 int main(int argc, char** argv) {
   // Pictures and text measures need no display.
   qputenv("QT_QPA_PLATFORM", "offscreen");
-  qputenv("QT_LOGGING_RULES", "qt.qpa.*=false");
-  if (!qEnvironmentVariableIsSet("XDG_RUNTIME_DIR")) qputenv("XDG_RUNTIME_DIR", "/tmp");
+  // Remarks of the platform about its folders do not belong between the findings.
+  qInstallMessageHandler([](QtMsgType type, const QMessageLogContext&, const QString& text) {
+    if (type == QtCriticalMsg || type == QtFatalMsg) fprintf(stderr, "vrx: %s\n", qPrintable(text));
+  });
   QApplication app(argc, argv);
   ApplyTheme(TTheme::Light);
   QTextStream out(stdout);

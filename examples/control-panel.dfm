@@ -128,7 +128,7 @@ object ControlPanel: TControlPanel
     object TempLabel: TLabel
       Left = 16
       Top = 12
-      Width = 84
+      Width = 115
       Height = 15
       Caption = 'Product temperature'
       Font.Charset = DEFAULT_CHARSET
@@ -177,7 +177,7 @@ object ControlPanel: TControlPanel
     object CountLED: TVRXLEDLabel
       Left = 112
       Top = 70
-      Width = 121
+      Width = 145
       Height = 30
       AutoSize = False
       Caption = '00 48 213'

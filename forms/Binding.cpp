@@ -127,10 +127,28 @@ void ApplyValue(const PropertyTarget& t, const Value& v, const Document& doc, st
   }
 }
 
+namespace {
+TComponent* FindByPath(TComponent& scope, const QString& path) {
+  TComponent* at = &scope;
+  for (const QString& name : path.split(u'.')) {
+    at = at->FindComponent(name);
+    if (!at) return nullptr;
+  }
+  return at;
+}
+
+// The nearest enclosing name space that knows the name: a frame before the form.
+TComponent* FindReferenced(TComponent& root, const TPersistent& from, const QString& path) {
+  for (const TPersistent* p = &from; p; p = p->GetOwner())
+    if (auto* scope = As<TComponent>(const_cast<TPersistent*>(p)))
+      if (TComponent* found = FindByPath(*scope, path)) return found;
+  return root.Name().compare(path, Qt::CaseInsensitive) == 0 ? &root : nullptr;
+}
+}  // namespace
+
 std::vector<PendingReference> ResolveReferences(TComponent& root, std::vector<PendingReference> pending) {
   std::erase_if(pending, [&](const PendingReference& p) {
-    const QString name = QString::fromUtf8(p.target);
-    TComponent* target = root.Name().compare(name, Qt::CaseInsensitive) == 0 ? &root : root.FindComponent(name);
+    TComponent* target = FindReferenced(root, *p.instance, QString::fromUtf8(p.target));
     if (!target || !target->InheritsFrom(p.prop->PropType->ClassType())) return false;
     SetObjectProp(*p.instance, *p.prop, target);
     return true;
@@ -244,8 +262,12 @@ std::optional<Value> ValueOf(const TPersistent& instance, const TPropInfo& prop,
       if (!object) return Value{};
       const auto* component = static_cast<TComponent*>(object);
       const TComponent* root = LookupRoot(instance);
-      if (component != root && component->Owner() != root) return {};
-      return Value::Identifier(component->Name().toUtf8());
+      QByteArray path = component->Name().toUtf8();
+      for (const TComponent* scope = component->Owner(); component != root && scope != root; scope = scope->Owner()) {
+        if (!scope) return {};  // on another form
+        path.prepend(scope->Name().toUtf8() + '.');
+      }
+      return Value::Identifier(path);
     }
     case TTypeKind::tkUnknown:
       return Value::Data(GetBinaryProp(instance, prop));

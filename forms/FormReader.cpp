@@ -69,7 +69,9 @@ void FormReader::ReadInto(Object& object, TComponent& component, TComponent* own
     Report(Severity::Error, document_.Where(object), e.Message());
   }
   ReadProperties(object, component, reportUnknown);
-  for (const auto& child : object.children) ReadChild(*child, *owner, component);
+  // What stands inside an inline object has names of its own: a frame owns its components.
+  const bool scope = object.kind == ObjectKind::Inline && object.parent;
+  for (const auto& child : object.children) ReadChild(*child, scope ? component : *owner, component);
 }
 
 void FormReader::ReadProperties(Object& object, TComponent& component, bool reportUnknown) {
