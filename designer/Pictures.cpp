@@ -28,10 +28,13 @@ class Album {
   QDir folder_;
 };
 
-TComponent* FirstWithLED(FormSession& session) {
+// The component with the largest LED: the one that shows best.
+TComponent* ShowPiece(FormSession& session) {
+  TControl* best = nullptr;
   for (TComponent* c : session.AllComponents())
-    if (c->ClassType().FindProp("LED")) return c;
-  return nullptr;
+    if (auto* control = As<TControl>(c); control && c->ClassType().FindProp("LED"))
+      if (!best || control->Height() > best->Height()) best = control;
+  return best;
 }
 }  // namespace
 
@@ -44,7 +47,7 @@ QStringList TakePictures(PackageManager& packages, const QString& form, const QS
     MainWindow window(packages);
     window.show();
     if (!window.OpenForm(form)) throw Exception(QStringLiteral("%1 cannot be opened").arg(form));
-    if (TComponent* led = FirstWithLED(*window.Session())) {
+    if (TComponent* led = ShowPiece(*window.Session())) {
       window.Session()->Select({led});
       window.Inspector().ShowProperty(QStringLiteral("LED"));
       window.Inspector().View().setExpanded(window.Inspector().View().currentIndex().siblingAtColumn(0), true);

@@ -17,7 +17,7 @@ EditorDialog::EditorDialog(const QString& caption, QSize clientSize, QWidget* pa
   grid_->setHorizontalSpacing(8);
   grid_->setVerticalSpacing(8);
   auto* settingsBox = new QVBoxLayout(settings);
-  settingsBox->setContentsMargins(16, 16, 16, 16);
+  settingsBox->setContentsMargins(16, 16, 16, 8);
   settingsBox->addLayout(grid_);
   settingsBox->addStretch(1);
 

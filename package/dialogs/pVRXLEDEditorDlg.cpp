@@ -56,6 +56,7 @@ void TVRXLEDEditorDlg::Build() {
   test->LED()->SetSize(1, 9);
   test->LED()->SetSize(3, 7);
   testView = named(new ControlView(test.get(), this), "test", "Shows the current settings.");
+  testView->SetShrinkToFit(true);
   SetPreview(testView);
 
   ok = named(AddButton(QStringLiteral("OK")), "ok", "");
