@@ -176,14 +176,14 @@ Property Document::MakeProperty(QByteArrayView name, Value value) {
 
 void Document::WriteTextObject(TextWriter& out, const Object& object, int level) const {
   if (object.FromSource() && !object.headerChanged) {
-    out.Raw(Slice(object.header));
+    out.Copy(Slice(object.header));
   } else {
     out.FreshLine();
     out.ObjectHeader(object, level);
   }
   for (const Property& p : object.properties) {
     if (p.FromSource()) {
-      out.Raw(Slice(p.Node()));
+      out.Copy(Slice(p.Node()));
     } else {
       out.FreshLine();
       out.PropertyLine(p.Name(), *p.Edited(), level + 1);
@@ -191,10 +191,7 @@ void Document::WriteTextObject(TextWriter& out, const Object& object, int level)
   }
   for (const auto& child : object.children) WriteTextObject(out, *child, level + 1);
   if (object.FromSource()) {
-    const QByteArrayView footer = Slice(object.footer);
-    // A header or property that came from the middle of a line may need a separator before "end".
-    if (!footer.isEmpty() && IsIdentStart(footer[0])) out.FreshLine();
-    out.Raw(footer);
+    out.Copy(Slice(object.footer));
   } else {
     out.FreshLine();
     out.ObjectFooter(level);
@@ -225,7 +222,7 @@ void Document::WriteBinaryObject(BinaryWriter& out, const Object& object, bool c
 QByteArray Document::Write() const {
   if (format_ == Format::Text) {
     TextWriter out(dialect_);
-    out.Raw(Slice(before_));
+    out.Copy(Slice(before_));
     WriteTextObject(out, *root_, 0);
     out.Raw(Slice(trailer_));
     return std::move(out).Result();

@@ -142,7 +142,10 @@ void TextReader::ReadDocument(Document& doc) {
 
   Dialect& d = doc.dialect_;
   const char* firstEnd = static_cast<const char*>(std::memchr(begin_, '\n', static_cast<size_t>(end_ - begin_)));
-  if (firstEnd) d.eol = firstEnd != begin_ && firstEnd[-1] == '\r' ? "\r\n" : "\n";
+  if (firstEnd)
+    d.eol = firstEnd != begin_ && firstEnd[-1] == '\r' ? "\r\n" : "\n";
+  else if (std::memchr(begin_, '\r', static_cast<size_t>(end_ - begin_)))
+    d.eol = "\r";
   const int vcl = glued_ * 4 + coded39_ + blankIndex_;
   const int lcl = apart_ * 4 + doubledQuotes_ + tightIndex_;
   if (vcl != lcl) d.lcl = lcl > vcl;

@@ -76,7 +76,17 @@ std::vector<char32_t> UnitsOf(const QByteArray& bytes) {
 }
 }  // namespace
 
+void TextWriter::Copy(QByteArrayView piece) {
+  if (piece.isEmpty()) return;
+  const bool neighbours = piece.data() == copiedEnd_ && out_.size() == sizeThen_;
+  if (!neighbours && IsIdentStart(piece[0])) FreshLine();
+  Raw(piece);
+  copiedEnd_ = piece.end();
+  sizeThen_ = out_.size();
+}
+
 void TextWriter::FreshLine() {
+  if (out_ == "\xEF\xBB\xBF") return;  // a byte-order mark is no part of the line
   if (!out_.isEmpty() && !out_.endsWith('\n') && !out_.endsWith('\r')) NewLine();
 }
 
