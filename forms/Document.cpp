@@ -276,8 +276,11 @@ std::unique_ptr<Object> Document::Detached(const Object& object, Document& targe
   copy->name = owned(object.name);
   copy->className = owned(object.className);
   copy->position = object.position;
-  for (const Property& p : object.properties)
-    copy->properties.push_back(target.MakeProperty(p.Name(), TextToValue(ValueToText(Read(p)))));
+  for (const Property& p : object.properties) {
+    Value value = Read(p);
+    value.Own();
+    copy->properties.push_back(target.MakeProperty(p.Name(), std::move(value)));
+  }
   for (const auto& child : object.children) {
     copy->children.push_back(Detached(*child, target));
     copy->children.back()->parent = copy.get();
