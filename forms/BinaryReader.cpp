@@ -212,6 +212,7 @@ void BinaryReader::ReadValue(Value* out, int depth) {
     }
     case ValueType::Date:
     case ValueType::Double: {
+      sawDouble_ = sawDouble_ || type == ValueType::Double;
       const std::uint64_t bits = LittleEndian(8);
       double v;
       std::memcpy(&v, &bits, 8);

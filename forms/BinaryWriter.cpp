@@ -23,7 +23,8 @@ void BinaryWriter::TaggedInteger(std::int64_t value, ValueType type) {
 void BinaryWriter::ObjectHeader(const Object& object) {
   unsigned flags = object.kind == ObjectKind::Inherited ? 1u : object.kind == ObjectKind::Inline ? 4u : 0u;
   if (object.position) flags |= 2u;
-  if (flags) Byte(0xF0u | flags);
+  // Without a prefix, the length of a name this long would be taken for one.
+  if (flags || object.className.size() >= 0xF0) Byte(0xF0u | flags);
   if (object.position) TaggedInteger(*object.position, IntegerTypeFor(*object.position));
   ShortString(object.className);
   ShortString(object.name);

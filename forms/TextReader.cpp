@@ -47,6 +47,28 @@ std::optional<ObjectKind> KindOf(QByteArrayView word) {
 }
 }  // namespace
 
+bool IsPath(QByteArrayView text) {
+  bool start = true;
+  for (const char c : text) {
+    if (start ? !IsIdentStart(c) : c != '.' && !IsIdentChar(c)) return false;
+    start = c == '.';
+  }
+  return !start;
+}
+
+bool IsPropertyPath(QByteArrayView text) {
+  const qsizetype point = text.indexOf('.');
+  const QByteArrayView word = point < 0 ? text : text.first(point);
+  return IsPath(text) && !Is(word, "end") && !KindOf(word);
+}
+
+bool IsHeaderName(QByteArrayView text) {
+  const auto plain = [](char c) { return IsIdentChar(c) || c == '%'; };
+  if (text.isEmpty() || !std::all_of(text.begin(), text.end(), plain)) return false;
+  const auto marks = std::count(text.begin(), text.end(), '%');
+  return marks ? marks % 2 == 0 : IsIdentStart(text[0]);
+}
+
 TextReader::TextReader(QByteArrayView text, std::size_t at)
     : begin_(text.data()), p_(text.data() + at), end_(text.data() + text.size()) {}
 

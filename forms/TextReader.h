@@ -54,5 +54,9 @@ class TextReader {
 
 bool IsIdentStart(char c);
 bool IsIdentChar(char c);
+// What the reader would take for an identifier with points, a property's name, a name in an object's header.
+bool IsPath(QByteArrayView text);
+bool IsPropertyPath(QByteArrayView text);
+bool IsHeaderName(QByteArrayView text);
 
 }  // namespace forms
