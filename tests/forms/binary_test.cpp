@@ -257,7 +257,7 @@ TEST(BinaryErrors, AreReportedByOffset) {
       {Hex("FF"), 0},
       {Hex("FFFE6F006200"), 1},
       {Hex("FF0A00410030100400000041424344"), 11},
-      {Hex("FF0A0041424344"), 14},
+      {Hex("FF0A0041424344"), 7},
       {"TPF0", 4},
       {StreamWith(Hex("17")), 10},
       {StreamWith(Hex("FF")), 10},
