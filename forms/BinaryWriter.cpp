@@ -9,9 +9,12 @@ void BinaryWriter::LittleEndian(std::uint64_t value, int bytes) {
 }
 
 void BinaryWriter::ShortString(QByteArrayView text) {
-  const QByteArrayView cut = text.first(std::min<qsizetype>(text.size(), 255));
-  Byte(static_cast<unsigned>(cut.size()));
-  Raw(cut);
+  if (text.size() > 255)
+    throw EFormError(QStringLiteral("\"%1...\" is longer than 255 bytes and cannot be written in a stream")
+                         .arg(QString::fromLatin1(text.first(40))),
+                     {});
+  Byte(static_cast<unsigned>(text.size()));
+  Raw(text);
 }
 
 void BinaryWriter::TaggedInteger(std::int64_t value, ValueType type) {

@@ -302,3 +302,13 @@ TEST(BinaryErrors, NamesThatTextCannotHoldAreRefusedWhenTextIsWritten) {
     EXPECT_EQ(doc.Write(), stream);
   }
 }
+
+TEST(BinaryErrors, PathsThatAStreamCannotHoldAreNotCut) {
+  const QByteArray half(200, 'p');
+  for (const QByteArray& text :
+       {"object A: T\n  " + half + "." + half + " = 1\nend\n", FormWith(half + "." + half)}) {
+    const Document doc = Document::Parse(text);
+    EXPECT_THROW(doc.WriteAs(Format::Binary), EFormError);
+    EXPECT_EQ(doc.Write(), text);
+  }
+}

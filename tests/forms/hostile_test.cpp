@@ -123,8 +123,7 @@ TEST(Hostile, NestingHasALimitAndNoStackOverflow) {
     EXPECT_EQ(Survives(FormWith(Repeated("(", depth + 1) + Repeated(")", depth + 1))), legal) << depth;
     EXPECT_EQ(Survives(FormWith(Repeated("<item P=", depth) + "1 " + Repeated("end>", depth))), legal)
         << depth;
-    EXPECT_EQ(Survives("TPF0" + Repeated(Hex("01540000"), depth + 1) + Repeated(Hex("00"), depth + 1)),
-              legal)
+    EXPECT_EQ(Survives("TPF0" + Repeated(Hex("01540000"), depth + 1) + Repeated(Hex("00"), depth + 1)), legal)
         << depth;
     EXPECT_EQ(Survives(StreamWith(Repeated(Hex("01"), depth + 1) + Repeated(Hex("00"), depth + 1))), legal)
         << depth;
