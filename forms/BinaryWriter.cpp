@@ -108,6 +108,8 @@ void BinaryWriter::WriteValue(const Value& v) {
 }
 
 QByteArray ResourceHeader(QByteArrayView rootClass, std::size_t streamSize) {
+  if (rootClass.contains('\0'))
+    throw EFormError(QStringLiteral("The class name \"%1\" cannot name a resource").arg(QString::fromLatin1(rootClass)), {});
   QByteArray out("\xFF\x0A\x00", 3);
   out += rootClass.toByteArray().toUpper();
   out += '\0';

@@ -312,3 +312,8 @@ TEST(BinaryErrors, PathsThatAStreamCannotHoldAreNotCut) {
     EXPECT_EQ(doc.Write(), text);
   }
 }
+
+TEST(BinaryErrors, AClassNameWithAZeroByteNamesNoResource) {
+  const Document doc = Document::Parse("TPF0" + Hex("02 5400 0141 0000"));
+  EXPECT_THROW(doc.WriteAs(Format::Resource), EFormError);
+}

@@ -31,8 +31,10 @@ std::optional<QByteArray> TryWriteAs(const Document& doc, Format format) {
     return doc.WriteAs(format);
   } catch (const EFormError& e) {
     // Streams may hold names that are no words, texts paths that are too long for a stream.
-    const bool known = format == Format::Text ? e.Text().contains(QStringLiteral("cannot be written as text"))
-                                              : e.Text().contains(QStringLiteral("255"));
+    const bool known = format == Format::Text
+                           ? e.Text().contains(QStringLiteral("cannot be written as text"))
+                           : e.Text().contains(QStringLiteral("255")) ||
+                                 e.Text().contains(QStringLiteral("cannot name a resource"));
     Require(known, "a form can be written in the other forms unless a name forbids it");
     return {};
   }
