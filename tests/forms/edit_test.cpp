@@ -210,3 +210,16 @@ TEST(Edit, AResourceGetsItsNewSize) {
   for (int i = 3; i >= 0; --i) size = size << 8 | static_cast<unsigned char>(changed[head - 4 + i]);
   EXPECT_EQ(size, static_cast<std::uint32_t>(changed.size() - head));
 }
+
+TEST(Edit, RenamingInAStreamChangesTheHeaderOnly) {
+  const QByteArray text = Samples()[0].text;
+  for (const Format format : {Format::Binary, Format::Resource}) {
+    const QByteArray source = Document::Parse(text).WriteAs(format);
+    Document doc = Document::Parse(source);
+    doc.Root().name = "Renamed";
+    doc.Root().headerChanged = true;
+    EXPECT_EQ(Document::Parse(doc.Write()).WriteAs(Format::Text),
+              QByteArray(text).replace("Main:", "Renamed:"));
+    EXPECT_EQ(doc.Write().size(), source.size() + 3);
+  }
+}
