@@ -144,8 +144,8 @@ TEST(Hostile, UnclosedNestingIsRefused) {
 }
 
 TEST(Hostile, AnnouncedLengthsAreComparedWithWhatIsThere) {
-  for (const char* value :
-       {"0AFFFFFFFF", "0CFFFFFF7F", "12FFFFFFFF", "12FFFFFF7F", "14FEFFFFFF", "15FFFFFFFF00", "06FF", "0BFF"})
+  for (const char* value : {"0AFFFFFFFF", "0CFFFFFF7F", "12FFFFFFFF", "12FFFFFF7F", "1201000080 4100",
+                            "14FEFFFFFF", "15FFFFFFFF00", "06FF", "0BFF"})
     EXPECT_FALSE(Survives(StreamWith(Hex(value)))) << value;
 }
 
