@@ -1,0 +1,138 @@
+#include <QImage>
+
+#include "cli/Commands.h"
+#include "forms/FormFile.h"
+#include "forms/TextWriter.h"
+#include "ide/FormSession.h"
+#include "rtl/Exceptions.h"
+#include "vcl/FormFrame.h"
+#include "vcl/Theme.h"
+
+using namespace forms;
+
+namespace {
+std::unique_ptr<FormSession> OpenForm(const QString& file) {
+  try {
+    return FormSession::Open(file);
+  } catch (const EFormError& e) {
+    throw Exception(QStringLiteral("%1: %2").arg(file, e.Message()));
+  }
+}
+
+TComponent& ComponentNamed(FormSession& session, const QString& name) {
+  if (TComponent* c = session.GetComponent(name)) return *c;
+  throw Exception(QStringLiteral("%1 has no component named \"%2\"").arg(session.FileName(), name));
+}
+}  // namespace
+
+int GetCommand(const QStringList& list, Console& console) {
+  const Arguments args = ParseArguments(list, {}, {});
+  if (args.values.size() != 2) throw UsageError{QStringLiteral("FORM and COMPONENT or COMPONENT.PROPERTY are needed")};
+  LoadClasses(console);
+  const auto session = OpenForm(args.values[0]);
+  const QString name = args.values[1].section(u'.', 0, 0);
+  const QByteArray path = args.values[1].section(u'.', 1).toUtf8();
+  TComponent& component = ComponentNamed(*session, name);
+  const Document& document = session->Document();
+  const Object& object = *session->ObjectOf(component);
+  const auto below = [&](QByteArrayView property) {
+    return path.isEmpty() || (property.size() > path.size() && property[path.size()] == '.' &&
+                              property.first(path.size()).compare(path, Qt::CaseInsensitive) == 0);
+  };
+  if (const Property* p = path.isEmpty() ? nullptr : object.Find(path)) {
+    console.out << QString::fromUtf8(ValueToText(document.Read(*p), document.Style())) << Qt::endl;
+    return ExitOk;
+  }
+  // Whatever the file says, then what the component adds: the value of a property that is at its default.
+  bool found = false;
+  for (const Property& p : object.properties)
+    if (below(p.Name())) {
+      console.out << QString::fromUtf8(p.Name().toByteArray()) << " = "
+                  << QString::fromUtf8(ValueToText(document.Read(p), document.Style())) << '\n';
+      found = true;
+    }
+  if (!path.isEmpty())
+    for (const StoredValue& v : PropertyValues(component, document, true)) {
+      if (v.path.compare(path, Qt::CaseInsensitive) == 0) {
+        console.out << QString::fromUtf8(ValueToText(v.value, document.Style())) << '\n';
+        found = true;
+      } else if (below(v.path) && !object.Find(v.path)) {
+        console.out << QString::fromUtf8(v.path) << " = " << QString::fromUtf8(ValueToText(v.value, document.Style())) << '\n';
+        found = true;
+      }
+    }
+  console.out.flush();
+  if (!found && !path.isEmpty())
+    throw Exception(QStringLiteral("%1: %2 has no property \"%3\"").arg(component.Name(), QString::fromUtf8(component.StreamClassName()), QString::fromUtf8(path)));
+  return ExitOk;
+}
+
+int SetCommand(const QStringList& list, Console& console) {
+  const Arguments args = ParseArguments(list, {QStringLiteral("-o")}, {});
+  if (args.values.size() < 2) throw UsageError{QStringLiteral("FORM and COMPONENT.PROPERTY=VALUE are needed")};
+  LoadClasses(console);
+  const auto session = OpenForm(args.values[0]);
+  struct Assignment {
+    TComponent* component;
+    QString text;
+    QByteArray path;
+    Value value;
+  };
+  std::vector<Assignment> assignments;
+  std::vector<TComponent*> touched;
+  for (const QString& text : args.values.mid(1)) {
+    const qsizetype equals = text.indexOf(u'=');
+    const qsizetype dot = text.indexOf(u'.');
+    if (equals < 0 || dot < 0 || dot > equals)
+      throw UsageError{QStringLiteral("\"%1\" is not COMPONENT.PROPERTY=VALUE").arg(text)};
+    TComponent& component = ComponentNamed(*session, text.left(dot).trimmed());
+    const QByteArray path = text.mid(dot + 1, equals - dot - 1).trimmed().toUtf8();
+    try {
+      assignments.push_back({&component, text, path, TextToValue(text.mid(equals + 1).trimmed().toUtf8())});
+    } catch (const EFormError& e) {
+      throw Exception(QStringLiteral("%1: the value is not form text: %2. Strings are written as '...'.").arg(text, e.Text()));
+    }
+    touched.push_back(&component);
+  }
+  session->Run(QStringLiteral("set"), touched, [&] {
+    for (const Assignment& a : assignments) {
+      const PropertyTarget target = FindTarget(*a.component, a.path);
+      if (!target.Found())
+        throw Exception(QStringLiteral("%1: %2 has no property \"%3\"")
+                            .arg(a.component->Name(), QString::fromUtf8(a.component->StreamClassName()), QString::fromUtf8(a.path)));
+      try {
+        ApplyNow(session->Form(), target, a.value, session->Document());
+      } catch (const Exception& e) {
+        throw Exception(QStringLiteral("%1: %2").arg(a.text, e.Message()));
+      }
+    }
+  });
+  WriteFile(args.options.value(QStringLiteral("-o"), args.values[0]), session->Bytes());
+  return ExitOk;
+}
+
+int RenderCommand(const QStringList& list, Console& console) {
+  const Arguments args = ParseArguments(list, {QStringLiteral("-o"), QStringLiteral("--scale"), QStringLiteral("--theme")}, {});
+  if (args.values.size() != 1 || !args.Has(QStringLiteral("-o"))) throw UsageError{QStringLiteral("FORM and -o PNG are needed")};
+  bool ok = true;
+  const QString scaleText = args.options.value(QStringLiteral("--scale"), QStringLiteral("1"));
+  const double scale = scaleText.toDouble(&ok);
+  if (!ok || !(scale >= 0.05 && scale <= 20)) throw UsageError{QStringLiteral("--scale takes a number from 0.05 to 20, not \"%1\"").arg(scaleText)};
+  const QString theme = args.options.value(QStringLiteral("--theme"), QStringLiteral("light"));
+  if (theme != QStringLiteral("light") && theme != QStringLiteral("dark"))
+    throw UsageError{QStringLiteral("--theme takes light or dark, not \"%1\"").arg(theme)};
+  ApplyTheme(theme == QStringLiteral("dark") ? TTheme::Dark : TTheme::Light);
+  LoadClasses(console);
+  const auto session = OpenForm(args.values[0]);
+  TForm& form = session->Form();
+  constexpr double MaxPixels = 200e6;
+  if (form.Width() * scale * form.Height() * scale > MaxPixels)
+    throw Exception(QStringLiteral("%1: the picture would have more than 200 million pixels; use a smaller --scale").arg(args.values[0]));
+  const QString file = args.options.value(QStringLiteral("-o"));
+  QByteArray png;
+  QBuffer buffer(&png);
+  buffer.open(QIODevice::WriteOnly);
+  if (!RenderForm(form, scale).save(&buffer, "PNG")) throw Exception(QStringLiteral("The picture could not be made"));
+  WriteFile(file, png);
+  return ExitOk;
+}

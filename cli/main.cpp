@@ -1,0 +1,19 @@
+#include <QApplication>
+
+#include "cli/Commands.h"
+#include "vcl/Theme.h"
+
+int main(int argc, char** argv) {
+  // Pictures and text measures need no display.
+  qputenv("QT_QPA_PLATFORM", "offscreen");
+  // Remarks of the platform about its folders do not belong between the findings.
+  qInstallMessageHandler([](QtMsgType type, const QMessageLogContext&, const QString& text) {
+    if (type == QtCriticalMsg || type == QtFatalMsg) fprintf(stderr, "vrx: %s\n", qPrintable(text));
+  });
+  QApplication app(argc, argv);
+  ApplyTheme(TTheme::Light);
+  QTextStream out(stdout);
+  QTextStream err(stderr);
+  Console console{out, err};
+  return RunVrx(app.arguments().mid(1), console);
+}

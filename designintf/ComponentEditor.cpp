@@ -1,0 +1,30 @@
+#include "designintf/ComponentEditor.h"
+
+#include "designintf/DesignIntf.h"
+
+void TComponentEditor::Edit() {
+  if (GetVerbCount() > 0) ExecuteVerb(0);
+}
+void TComponentEditor::ExecuteVerb(int) {}
+QString TComponentEditor::GetVerb(int) const { return {}; }
+
+bool TDefaultEditor::EditProperty(const TPropertyEditor& property) const {
+  const QString name = property.GetName();
+  return name == QStringLiteral("OnCreate") || name == QStringLiteral("OnChange") || name == QStringLiteral("OnClick");
+}
+
+void TDefaultEditor::Edit() {
+  std::unique_ptr<TPropertyEditor> first;
+  std::unique_ptr<TPropertyEditor> best;
+  GetComponentProperties({GetComponent()}, GetDesigner(), [&](std::unique_ptr<TPropertyEditor> editor) {
+    if (best) return;
+    if (EditProperty(*editor))
+      best = std::move(editor);
+    else if (!first && editor->GetPropInfo().IsEvent())
+      first = std::move(editor);
+  });
+  if (best)
+    best->Edit();
+  else if (first)
+    first->Edit();
+}

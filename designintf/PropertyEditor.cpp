@@ -1,0 +1,92 @@
+#include "designintf/PropertyEditor.h"
+
+#include "rtl/Exceptions.h"
+#include "rtl/PropText.h"
+
+TPropertyAttributes TPropertyEditor::GetAttributes() const {
+  return {TPropertyAttribute::paMultiSelect, TPropertyAttribute::paRevertable};
+}
+
+QString TPropertyEditor::GetName() const { return QString::fromLatin1(GetPropInfo().Name); }
+QString TPropertyEditor::GetValue() const { return GetPropText(*GetComponent(0), GetPropInfo()); }
+
+// Either all components take the value or none does.
+void TPropertyEditor::SetValue(const QString& value) {
+  std::vector<QString> before;
+  try {
+    for (const TInstProp& p : props_) {
+      const QString old = GetPropText(*p.Instance, *p.PropInfo);
+      SetPropText(*p.Instance, *p.PropInfo, value);
+      before.push_back(old);
+    }
+  } catch (...) {
+    for (std::size_t i = 0; i < before.size(); ++i) SetPropText(*props_[i].Instance, *props_[i].PropInfo, before[i]);
+    throw;
+  }
+  Modified();
+}
+
+void TPropertyEditor::GetValues(const TGetStrProc&) const {}
+
+void TPropertyEditor::Edit() {}
+
+void TPropertyEditor::GetProperties(const TGetPropProc&) const {}
+
+bool TPropertyEditor::AllEqual() const {
+  const QString first = GetValue();
+  return std::all_of(props_.begin() + 1, props_.end(),
+                     [&](const TInstProp& p) { return GetPropText(*p.Instance, *p.PropInfo) == first; });
+}
+
+bool TPropertyEditor::IsDefault() const {
+  // A place or size has no default that it could differ from.
+  return std::none_of(props_.begin(), props_.end(), [](const TInstProp& p) {
+    return (!p.PropInfo->IsOrdinal() || p.PropInfo->Default) && IsStoredProp(*p.Instance, *p.PropInfo);
+  });
+}
+
+void TPropertyEditor::Revert() {
+  for (const TInstProp& p : props_) ResetProp(*p.Instance, *p.PropInfo);
+  Modified();
+}
+
+void TPropertyEditor::Modified() const {
+  if (designer_) designer_->Modified();
+}
+
+namespace {
+const TInstProp& At(const TInstProps& props, int index) { return props.at(static_cast<std::size_t>(index)); }
+}  // namespace
+
+std::int64_t TPropertyEditor::GetOrdValueAt(int i) const { return GetOrdProp(*At(props_, i).Instance, *At(props_, i).PropInfo); }
+TPersistent* TPropertyEditor::GetObjectValueAt(int i) const {
+  return GetObjectProp(*At(props_, i).Instance, *At(props_, i).PropInfo);
+}
+long double TPropertyEditor::GetFloatValueAt(int i) const {
+  return GetFloatProp(*At(props_, i).Instance, *At(props_, i).PropInfo);
+}
+QString TPropertyEditor::GetStrValueAt(int i) const { return GetStrProp(*At(props_, i).Instance, *At(props_, i).PropInfo); }
+QString TPropertyEditor::GetMethodValueAt(int i) const {
+  return GetMethodProp(*At(props_, i).Instance, *At(props_, i).PropInfo);
+}
+
+void TPropertyEditor::SetOrdValue(std::int64_t value) {
+  for (const TInstProp& p : props_) SetOrdProp(*p.Instance, *p.PropInfo, value);
+  Modified();
+}
+void TPropertyEditor::SetOrdValue(TPersistent* value) {
+  for (const TInstProp& p : props_) SetObjectProp(*p.Instance, *p.PropInfo, value);
+  Modified();
+}
+void TPropertyEditor::SetFloatValue(long double value) {
+  for (const TInstProp& p : props_) SetFloatProp(*p.Instance, *p.PropInfo, value);
+  Modified();
+}
+void TPropertyEditor::SetStrValue(const QString& value) {
+  for (const TInstProp& p : props_) SetStrProp(*p.Instance, *p.PropInfo, value);
+  Modified();
+}
+void TPropertyEditor::SetMethodValue(const QString& handler) {
+  for (const TInstProp& p : props_) SetMethodProp(*p.Instance, *p.PropInfo, handler);
+  Modified();
+}

@@ -1,0 +1,111 @@
+#include "forms/FormReader.h"
+
+#include "rtl/ClassRegistry.h"
+
+namespace forms {
+
+namespace {
+QString ObjectTitle(const Object& object) {
+  return object.name.isEmpty() ? QString::fromUtf8(object.className)
+                               : QString::fromUtf8(object.name + ": " + object.className);
+}
+qsizetype CountObjects(const Object& object) {
+  qsizetype n = 1;
+  for (const auto& child : object.children) n += CountObjects(*child);
+  return n;
+}
+}  // namespace
+
+void FormReader::Report(Severity severity, Location where, QString text, bool unknownName) {
+  findings_.push_back({severity, where, std::move(text), unknownName});
+}
+
+TComponent* FormReader::Create(Object& object, TComponent* owner) {
+  auto it = classes_.find(object.className);
+  if (it == classes_.end()) it = classes_.insert(object.className, FindClass(object.className));
+  const TClass* cls = *it;
+  standIn_ = !cls || cls->IsAbstract();
+  if (!standIn_) return cls->NewComponent(owner);
+  Report(Severity::Note, document_.Where(object),
+         QStringLiteral("class %1 is unknown; %2 is kept as it is")
+             .arg(QString::fromUtf8(object.className), ObjectTitle(object)),
+         true);
+  return makeUnknown_ ? makeUnknown_(object, owner) : nullptr;
+}
+
+std::unique_ptr<TComponent> FormReader::ReadRoot() {
+  Object& object = document_.Root();
+  map_.Reserve(CountObjects(object));
+  std::unique_ptr<TComponent> root(makeRoot_ ? makeRoot_(object, nullptr) : Create(object, nullptr));
+  if (!root) return nullptr;
+  root->SetDesigning(designing_);
+  ReadInto(object, *root, root.get());
+  Finish(*root);
+  return root;
+}
+
+TComponent* FormReader::ReadChild(Object& object, TComponent& owner, TComponent& parent) {
+  TComponent* component = Create(object, &owner);
+  if (!component) return nullptr;
+  component->BeginLoading();
+  component->SetParentComponent(&parent);
+  ReadInto(object, *component, &owner);
+  if (!object.parent || object.parent == map_.ObjectOf(parent)) {
+    // Only the outermost call resolves references, when all names are there.
+    if (!parent.IsLoading()) Finish(owner);
+  }
+  return component;
+}
+
+void FormReader::ReadInto(Object& object, TComponent& component, TComponent* owner) {
+  // One note tells of an unknown class; its properties are not listed one by one.
+  const bool reportUnknown = !std::exchange(standIn_, false);
+  if (!component.IsLoading()) component.BeginLoading();
+  loading_.push_back(&component);
+  map_.Add(component, object);
+  try {
+    // A template's %NAME% becomes a name when the template is used.
+    if (!object.name.contains('%')) component.SetName(QString::fromUtf8(object.name));
+  } catch (const Exception& e) {
+    Report(Severity::Error, document_.Where(object), e.Message());
+  }
+  ReadProperties(object, component, reportUnknown);
+  // What stands inside an inline object has names of its own: a frame owns its components.
+  const bool scope = object.kind == ObjectKind::Inline && object.parent;
+  for (const auto& child : object.children) ReadChild(*child, scope ? component : *owner, component);
+}
+
+void FormReader::ReadProperties(Object& object, TComponent& component, bool reportUnknown) {
+  for (const Property& p : object.properties) {
+    const PropertyTarget target = FindTarget(component, p.Name());
+    if (!target.Found()) {
+      if (!reportUnknown) continue;
+      Report(Severity::Note, document_.Where(p),
+             QStringLiteral("%1 of %2 is unknown; it is kept as it is")
+                 .arg(QString::fromUtf8(p.Name()), ObjectTitle(object)),
+             true);
+      continue;
+    }
+    document_.Read(p, value_);
+    const std::size_t before = pending_.size();
+    try {
+      ApplyValue(target, value_, document_, pending_);
+    } catch (const Exception& e) {
+      Report(Severity::Error, document_.Where(p), QStringLiteral("%1: %2").arg(ObjectTitle(object), e.Message()));
+    }
+    for (std::size_t i = before; i < pending_.size(); ++i) {
+      pending_[i].holder = &component;
+      pending_[i].source = &p;
+    }
+  }
+}
+
+void FormReader::Finish(TComponent& root) {
+  for (const PendingReference& p : ResolveReferences(root, std::exchange(pending_, {})))
+    Report(Severity::Warning, p.source ? document_.Where(*p.source) : Location{},
+           QStringLiteral("%1.%2 refers to %3, which is not on this form")
+               .arg(p.holder->Name(), QString::fromLatin1(p.prop->Name), QString::fromUtf8(p.target)));
+  for (TComponent* c : std::exchange(loading_, {})) c->Loaded();
+}
+
+}  // namespace forms

@@ -1,0 +1,74 @@
+// Makes components from a document. Whatever is not understood is left in the document, reported as a finding,
+// and written back untouched when the form is saved.
+#pragma once
+#include "forms/Binding.h"
+
+namespace forms {
+
+enum class Severity : std::uint8_t { Note, Warning, Error };
+
+struct Finding {
+  Severity severity = Severity::Note;
+  Location where;
+  QString text;
+  bool unknownName = false;  // a class, property or event that no loaded package has
+};
+
+// Which component stands for which object of the document.
+class ObjectMap {
+ public:
+  void Add(TComponent& component, Object& object) {
+    objects_.insert(&component, &object);
+    components_.insert(&object, &component);
+  }
+  void Remove(TComponent& component) {
+    if (Object* object = objects_.take(&component)) components_.remove(object);
+  }
+  void Clear() { objects_.clear(); components_.clear(); }
+  Object* ObjectOf(const TComponent& component) const { return objects_.value(&component); }
+  TComponent* ComponentOf(const Object& object) const { return components_.value(&object); }
+  void Reserve(qsizetype count) { objects_.reserve(count); components_.reserve(count); }
+
+ private:
+  QHash<const TComponent*, Object*> objects_;
+  QHash<const Object*, TComponent*> components_;
+};
+
+class FormReader {
+ public:
+  // Makes the component for an object whose class is not registered, or for the root.
+  using Maker = std::function<TComponent*(const Object&, TComponent* owner)>;
+
+  FormReader(Document& document, ObjectMap& map) : document_(document), map_(map) {}
+  void SetRootMaker(Maker maker) { makeRoot_ = std::move(maker); }
+  void SetUnknownMaker(Maker maker) { makeUnknown_ = std::move(maker); }
+  void SetDesigning(bool designing) { designing_ = designing; }
+
+  // The whole form; the caller owns the root.
+  std::unique_ptr<TComponent> ReadRoot();
+  // An object (and everything in it) below an existing component.
+  TComponent* ReadChild(Object& object, TComponent& owner, TComponent& parent);
+
+  const std::vector<Finding>& Findings() const { return findings_; }
+
+ private:
+  TComponent* Create(Object& object, TComponent* owner);
+  void ReadInto(Object& object, TComponent& component, TComponent* owner);
+  void ReadProperties(Object& object, TComponent& component, bool reportUnknown);
+  void Finish(TComponent& root);
+  void Report(Severity severity, Location where, QString text, bool unknownName = false);
+
+  Document& document_;
+  ObjectMap& map_;
+  Maker makeRoot_;
+  Maker makeUnknown_;
+  bool standIn_ = false;  // the component created last stands for an unknown class
+  bool designing_ = false;
+  std::vector<Finding> findings_;
+  std::vector<PendingReference> pending_;
+  std::vector<TComponent*> loading_;
+  QHash<QByteArray, const TClass*> classes_;
+  Value value_;
+};
+
+}  // namespace forms

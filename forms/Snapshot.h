@@ -1,0 +1,35 @@
+// What a component looked like before and after an edit, and how its document follows.
+#pragma once
+#include "forms/Binding.h"
+
+namespace forms {
+
+// Every property value of a component, defaults included.
+using Snapshot = std::vector<StoredValue>;
+Snapshot TakeSnapshot(const TComponent& component, const Document& document);
+
+// One property that an edit changed.
+struct ValueChange {
+  QByteArray path;
+  Value before;
+  Value after;
+  bool storedAfter = true;
+  // The document's own node on either side of the edit; none when the property was not written.
+  std::optional<Property> nodeBefore;
+  std::optional<Property> nodeAfter;
+  int index = -1;  // where the node stands or stood
+};
+
+std::vector<ValueChange> Difference(const Snapshot& before, const Snapshot& after);
+
+// Puts the new values into the object: changed lines are replaced, those at default removed (but kept in an
+// inherited object, where leaving out means "as the ancestor has it"), new ones inserted in class order.
+void PatchObject(Object& object, Document& document, const Snapshot& after, std::vector<ValueChange>& changes);
+// Exchanges the nodes of a patched object with those from before, or back again.
+void UnpatchObject(Object& object, std::vector<ValueChange>& changes);
+void RepatchObject(Object& object, std::vector<ValueChange>& changes);
+
+// A new object for a component and everything inside it.
+void DescribeComponent(const TComponent& component, Document& document, Object& object);
+
+}  // namespace forms

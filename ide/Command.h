@@ -1,0 +1,30 @@
+// One undoable step of an open form, in terms of its document. Objects of the document are the identities that
+// outlive components: a deleted component comes back as a new one, made from the same object.
+#pragma once
+#include "forms/Snapshot.h"
+
+// Values and name of one component.
+struct ComponentChange {
+  forms::Object* object = nullptr;
+  std::vector<forms::ValueChange> values;
+  QString nameBefore, nameAfter;  // equal when it was not renamed
+  QByteArray classBefore, classAfter;
+  bool headerChangedBefore = false;
+};
+
+// An object that came or went, with everything inside it.
+struct StructureChange {
+  enum class Kind { Insert, Remove } kind = Kind::Insert;
+  forms::Object* object = nullptr;
+  forms::Object* parent = nullptr;
+  int index = 0;
+  std::unique_ptr<forms::Object> held;  // while it is not in the document
+};
+
+struct Command {
+  QString text;
+  std::vector<StructureChange> structure;
+  std::vector<ComponentChange> components;
+  std::vector<forms::Object*> selectionBefore, selectionAfter;
+  bool Empty() const { return structure.empty() && components.empty(); }
+};

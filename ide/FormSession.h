@@ -1,0 +1,127 @@
+// An open form: its document, its components, the selection and everything that was done to them.
+//
+// Every change goes through Run as one command. A command knows the documents' nodes before and after, so undo gives
+// back the very bytes, and only lines that changed differ in the file. An action that throws is rolled back.
+#pragma once
+#include <QObject>
+
+#include "designintf/Designer.h"
+#include "forms/FormReader.h"
+#include "ide/Command.h"
+#include "vcl/Form.h"
+
+class FormSession : public QObject, public IDesigner, public IControlHost {
+  Q_OBJECT
+ public:
+  ~FormSession() override;
+
+  // Errors: Exception, EFormError. Findings are not errors.
+  static std::unique_ptr<FormSession> Open(const QString& fileName);
+  static std::unique_ptr<FormSession> FromBytes(QByteArray bytes, const QString& fileName = {});
+  static std::unique_ptr<FormSession> NewForm(const QString& name);
+
+  TForm& Form() const { return *root_; }
+  const forms::Document& Document() const { return document_; }
+  const std::vector<forms::Finding>& Findings() const { return findings_; }
+  forms::Object* ObjectOf(const TComponent& component) const { return map_.ObjectOf(component); }
+  // All components in the order of the file, the root first.
+  std::vector<TComponent*> AllComponents() const;
+
+  // --- Files
+  const QString& FileName() const { return fileName_; }
+  QByteArray Bytes() const { return document_.Write(); }
+  // Throws and stays modified when the file cannot be written; the old file is then untouched.
+  void Save();
+  void SaveAs(const QString& fileName);
+  bool IsModified() const { return position_ != clean_; }
+
+  // --- Commands
+  // Runs `action`, which changes `touched` (and whatever follows from that), as one command. Nothing changed: no
+  // command. Nested calls join the outer command. Whatever the action throws comes out, after everything it did
+  // has been taken back.
+  void Run(const QString& text, const std::vector<TComponent*>& touched, const std::function<void()>& action);
+  bool CanUndo() const { return position_ > 0; }
+  bool CanRedo() const { return position_ < static_cast<int>(commands_.size()); }
+  QString UndoText() const;
+  QString RedoText() const;
+  void Undo();
+  void Redo();
+
+  // A component on the form, as one command; its name is made unique.
+  TComponent* CreateComponent(const TClass& cls, TComponent* parent, const QRect& bounds) override;
+  // Deletes components and everything inside them. The form itself and inherited components are refused.
+  void DeleteComponents(const std::vector<TComponent*>& components);
+  void Rename(TComponent& component, const QString& name);
+
+  // Makes all components anew from the document, after classes came or went.
+  void Rebuild();
+
+  // --- Selection
+  std::vector<TComponent*> SelectedComponents() const { return selection_; }
+  void Select(const std::vector<TComponent*>& components);
+  bool IsSelected(const TComponent& component) const;
+
+  // --- IDesigner
+  void Modified() override;
+  TComponent* GetRoot() const override { return root_.get(); }
+  QString GetRootClassName() const override;
+  QString UniqueName(const QString& baseName) const override;
+  TComponent* GetComponent(const QString& name) const override;
+  QString GetComponentName(const TComponent& component) const override { return component.Name(); }
+  void GetComponentNames(const TClass& cls, const TGetStrProc& proc) const override;
+  void SelectComponent(TPersistent* instance) override;
+  void SetSelections(const TDesignerSelections& list) override;
+  TDesignerSelections GetSelections() const override;
+  void DeleteSelection() override;
+  void Edit(TComponent& component) override;
+  bool MethodExists(const QString& name) const override;
+  void GetMethods(const TTypeInfo& eventType, const TGetStrProc& proc) const override;
+  void ShowMethod(const QString& name) override;
+
+  // --- IControlHost
+  void ControlChanged(TControl& control) override;
+  void BoundsChanging(TControl& control) override;
+
+ signals:
+  void FormChanged();       // a property, name or the structure; views read everything anew
+  void StructureChanged();  // components came or went
+  void SelectionChanged();
+  void ModifiedChanged();
+  void RepaintNeeded();
+  void HandlerShown(const QString& name);
+
+ private:
+  struct Pending;
+  explicit FormSession(forms::Document document);
+  void Build();
+  void Capture(TComponent& component);
+  void Commit(const QString& text);
+  void Rollback();
+  std::unique_ptr<Command> TakeDifferences();
+  void Reconcile();
+  void Push(std::unique_ptr<Command> command);
+  void Apply(Command& command, bool redo);
+  void ApplyStructure(StructureChange& change, bool redo);
+  void ApplyValues(ComponentChange& change, bool redo);
+  void SetObjectName(forms::Object& object, const QString& name);
+  void RemoveWithChildren(TComponent& component);
+  void InsertObject(StructureChange& change);
+  void TakeObject(StructureChange& change);
+  void Announce(bool structure);
+  forms::FormReader MakeReader();
+  std::vector<TComponent*> ComponentsOf(const std::vector<forms::Object*>& objects) const;
+  std::vector<forms::Object*> SelectedObjects() const;
+  int NewChildIndex(const forms::Object& parent, const TComponent& component) const;
+
+  forms::Document document_;
+  forms::ObjectMap map_;
+  std::unique_ptr<TForm> root_;
+  std::vector<forms::Finding> findings_;
+  QString fileName_;
+  std::vector<TComponent*> selection_;
+  std::vector<std::unique_ptr<Command>> commands_;
+  int position_ = 0;
+  int clean_ = 0;
+  std::unique_ptr<Pending> pending_;
+  bool applying_ = false;
+};

@@ -1,0 +1,47 @@
+// Finds, checks, loads and unloads design-time packages.
+#pragma once
+#include <QObject>
+#include <QPluginLoader>
+
+#include "designintf/Package.h"
+
+class PackageManager : public QObject {
+  Q_OBJECT
+ public:
+  // Looks for packages and libraries in these folders, in order.
+  explicit PackageManager(QStringList folders);
+  ~PackageManager() override;
+  // The folders beside the running program.
+  static QStringList DefaultFolders();
+  static QString DefaultPackage() { return QStringLiteral("dclvrxmain220"); }
+
+  // The record of a package, found by name or given as a file, without running its code. Throws Exception with
+  // cause and fix when there is none.
+  TPackageRecord ReadRecord(const QString& nameOrFile) const;
+  // Loads the package: its required packages are checked in order, its units initialised, its Register procedures
+  // called. Loading a loaded package does nothing. On failure everything is taken back and Exception tells cause
+  // and fix.
+  void Load(const QString& nameOrFile);
+  // Drops the package's registrations and finalises it.
+  void Unload(const QString& name);
+  bool IsLoaded(const QString& name) const;
+  QStringList LoadedPackages() const;
+
+ signals:
+  // Rows of a package came or went; open forms make their components anew. When a package goes, its code is still
+  // there to destroy the old ones.
+  void ClassesChanged();
+
+ private:
+  struct Loaded {
+    TPackageRecord record;
+    std::unique_ptr<QPluginLoader> loader;
+    IDesignPackage* package;
+  };
+  QString FindFile(const QString& nameOrFile) const;
+  QString MissingRequirement(const TPackageRecord& record) const;
+  static void RunRegisterProcedures(IDesignPackage& package);
+
+  QStringList folders_;
+  std::vector<Loaded> loaded_;
+};

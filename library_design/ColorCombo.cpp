@@ -1,0 +1,73 @@
+#include "library_design/ColorCombo.h"
+
+#include <QSignalBlocker>
+
+#include "designintf/CustomColors.h"
+#include "dclstd/ColorDialog.h"
+#include "library_design/ColorDialogs.h"
+
+TVRXColorComboBox::TVRXColorComboBox(TVRXColorStyles styles, QWidget* parent) : QComboBox(parent), styles_(styles) {
+  setIconSize(QSize(28, 14));
+  setMaxVisibleItems(16);
+  setSizeAdjustPolicy(AdjustToMinimumContentsLengthWithIcon);
+  setMinimumContentsLength(12);
+  Fill();
+  connect(this, &QComboBox::activated, this, [this](int index) {
+    const QVariant value = itemData(index);
+    if (value.isValid())
+      Choose(TColor(value.toUInt()));
+    else
+      Execute();
+  });
+}
+
+void TVRXColorComboBox::Fill() {
+  const QSignalBlocker block(this);
+  clear();
+  const auto add = [this](TColor c, const QString& name) { addItem(ColorSwatch(c), name, static_cast<uint>(c)); };
+  if (styles_.Contains(TVRXColorStyle::csAnyColor)) addItem(tr("Custom..."));
+  for (const TColorEntry& e : NamedColors())
+    if (styles_.Contains(e.System ? TVRXColorStyle::csSystemColors : TVRXColorStyle::csDefaultColors))
+      add(e.Value, QString::fromLatin1(e.Name));
+  if (styles_.Contains(TVRXColorStyle::csCustomColors))
+    for (const TColor c : CustomColorValues(customColors_)) add(c, ColorToString(c));
+  SetSelected(selected_);
+}
+
+void TVRXColorComboBox::SetSelected(TColor color) {
+  const QSignalBlocker block(this);
+  selected_ = color;
+  int index = findData(static_cast<uint>(color));
+  if (index < 0) {
+    addItem(ColorSwatch(color), ColorToString(color), static_cast<uint>(color));
+    index = count() - 1;
+  }
+  setCurrentIndex(index);
+}
+
+void TVRXColorComboBox::SetCustomColors(const QStringList& colors) {
+  customColors_ = colors;
+  Fill();
+}
+
+void TVRXColorComboBox::Choose(TColor color) {
+  SetSelected(color);
+  emit Change();
+}
+
+bool TVRXColorComboBox::Execute() {
+  TColor color = selected_;
+  const bool chosen = ChooseColor(this, color, customColors_);
+  Fill();
+  if (chosen) Choose(color);
+  return chosen;
+}
+
+bool TVRXColorComboBox::ExecuteEnh(QStringList& customColors) {
+  TColor color = selected_;
+  const bool chosen = ChooseColorEnh(this, color, customColors);
+  if (&customColors == &customColors_) Fill();
+  if (chosen) Choose(color);
+  else SetSelected(selected_);
+  return chosen;
+}

@@ -1,0 +1,37 @@
+// The library's extended colour dialog: named and system colours, custom colours and numbers, with old and new side
+// by side. The list of custom colours ("ColorA=00BBGGRR" ...) keeps what was added even when no colour is chosen.
+#pragma once
+#include <QDialog>
+
+#include "vcl/Colors.h"
+
+class QLineEdit;
+class QListWidget;
+class QSpinBox;
+
+bool ChooseColorEnh(QWidget* parent, TColor& color, QStringList& customColors);
+
+class ColorEnhDialog : public QDialog {
+  Q_OBJECT
+ public:
+  ColorEnhDialog(TColor color, const QStringList& customColors, QWidget* parent);
+  TColor Color() const { return color_; }
+  QStringList CustomColors() const;
+
+ private:
+  void Build();
+  void SetColor(TColor color, const QObject* source);
+  void AddCustom();
+  void RemoveCustom();
+  void FillCustom();
+
+  TColor original_, color_;
+  std::vector<TColor> custom_;
+  QListWidget* named_;
+  QListWidget* customList_;
+  QSpinBox* rgb_[3];
+  QLineEdit* text_;
+  QLineEdit* filter_;
+  QWidget* sample_;
+  bool updating_ = false;
+};

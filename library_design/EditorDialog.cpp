@@ -1,0 +1,101 @@
+#include "library_design/EditorDialog.h"
+
+#include <QtWidgets>
+
+EditorDialog::EditorDialog(const QString& caption, QSize clientSize, QWidget* parent)
+    : QDialog(parent, Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowSystemMenuHint |
+                          Qt::WindowCloseButtonHint),
+      clientSize_(clientSize) {
+  setWindowTitle(caption);
+  setModal(true);
+
+  auto* settings = new QFrame(this);
+  settings->setObjectName(QStringLiteral("settings"));
+  settings->setAutoFillBackground(true);
+  settings->setBackgroundRole(QPalette::Base);
+  grid_ = new QGridLayout;
+  grid_->setHorizontalSpacing(8);
+  grid_->setVerticalSpacing(8);
+  auto* settingsBox = new QVBoxLayout(settings);
+  settingsBox->setContentsMargins(16, 16, 16, 8);
+  settingsBox->addLayout(grid_);
+  settingsBox->addStretch(1);
+
+  auto* right = new QWidget(this);
+  right->setFixedWidth(198);
+  auto* rightBox = new QVBoxLayout(right);
+  rightBox->setContentsMargins(12, 16, 12, 12);
+  rightBox->setSpacing(8);
+  auto* quiet = new QFrame(right);
+  quiet->setObjectName(QStringLiteral("previewPanel"));
+  quiet->setFrameShape(QFrame::StyledPanel);
+  previewBox_ = new QVBoxLayout(quiet);
+  previewBox_->setContentsMargins(8, 8, 8, 8);
+  rightBox->addWidget(quiet, 1);
+  buttons_ = new QVBoxLayout;
+  buttons_->setSpacing(8);
+  rightBox->addLayout(buttons_);
+
+  auto* all = new QHBoxLayout(this);
+  all->setContentsMargins(0, 0, 0, 0);
+  all->setSpacing(0);
+  all->addWidget(settings, 1);
+  all->addWidget(right);
+}
+
+void EditorDialog::AddRow(const QString& text, QWidget* control, QWidget* button) {
+  const int row = grid_->rowCount();
+  auto* label = new QLabel(text, this);
+  label->setBuddy(control);
+  label->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+  grid_->addWidget(label, row, 0);
+  grid_->addWidget(control, row, 1);
+  if (button) grid_->addWidget(button, row, 2);
+  grid_->setColumnStretch(1, 1);
+}
+
+void EditorDialog::AddWide(QWidget* widget) { grid_->addWidget(widget, grid_->rowCount(), 1, 1, 2); }
+
+void EditorDialog::SetPreview(QWidget* preview) { previewBox_->addWidget(preview); }
+
+QPushButton* EditorDialog::AddButton(const QString& text) {
+  auto* button = new QPushButton(text, this);
+  button->setAutoDefault(false);
+  buttons_->addWidget(button);
+  return button;
+}
+
+void EditorDialog::AddOk(QPushButton* button) {
+  button->setDefault(true);
+  connect(button, &QPushButton::clicked, this, &QDialog::accept);
+}
+void EditorDialog::AddCancel(QPushButton* button) { connect(button, &QPushButton::clicked, this, &QDialog::reject); }
+
+void EditorDialog::FinishLayout() { setFixedSize(clientSize_.expandedTo(minimumSizeHint())); }
+
+int EditorDialog::ShowModal() {
+  const int result = exec();
+  if (error_) std::rethrow_exception(std::exchange(error_, nullptr));
+  return result == QDialog::Accepted ? mrOk : mrCancel;
+}
+
+void EditorDialog::FormActivate() { activated = true; }
+
+void EditorDialog::showEvent(QShowEvent* event) {
+  QDialog::showEvent(event);
+  if (event->spontaneous()) return;
+  if (const QScreen* s = screen()) move(s->availableGeometry().center() - rect().center());
+  FormActivate();
+}
+
+void EditorDialog::done(int result) {
+  if (isVisible()) {
+    try {
+      FormClose();
+    } catch (...) {
+      error_ = std::current_exception();
+      result = QDialog::Rejected;
+    }
+  }
+  QDialog::done(result);
+}

@@ -1,0 +1,242 @@
+#include "vcl/Control.h"
+
+#include <array>
+
+#include "rtl/ClassRegistry.h"
+#include "rtl/Exceptions.h"
+
+namespace {
+struct CursorRow {
+  int value;
+  const char* name;
+};
+constexpr std::array Cursors{
+    CursorRow{0, "crDefault"},    CursorRow{-1, "crNone"},      CursorRow{-2, "crArrow"},    CursorRow{-3, "crCross"},
+    CursorRow{-4, "crIBeam"},     CursorRow{-6, "crSizeNESW"},  CursorRow{-7, "crSizeNS"},   CursorRow{-8, "crSizeNWSE"},
+    CursorRow{-9, "crSizeWE"},    CursorRow{-10, "crUpArrow"},  CursorRow{-11, "crHourGlass"}, CursorRow{-12, "crDrag"},
+    CursorRow{-13, "crNoDrop"},   CursorRow{-14, "crHSplit"},   CursorRow{-15, "crVSplit"},  CursorRow{-16, "crMultiDrag"},
+    CursorRow{-17, "crSQLWait"},  CursorRow{-18, "crNo"},       CursorRow{-19, "crAppStart"}, CursorRow{-20, "crHelp"},
+    CursorRow{-21, "crHandPoint"}, CursorRow{-22, "crSizeAll"},
+};
+bool IdentToCursor(QByteArrayView ident, std::int64_t& value) {
+  for (const CursorRow& row : Cursors)
+    if (ident.compare(QByteArrayView(row.name), Qt::CaseInsensitive) == 0) return value = row.value, true;
+  return false;
+}
+bool CursorToIdent(std::int64_t value, QByteArray& ident) {
+  for (const CursorRow& row : Cursors)
+    if (row.value == value) return ident = row.name, true;
+  return false;
+}
+}  // namespace
+
+const TTypeInfo& TypeInfoOf<TCursor>::Get() {
+  static const TTypeInfo& info = []() -> const TTypeInfo& {
+    static const TTypeInfo cursor = OrdinalType("TCursor", INT16_MIN, INT16_MAX);
+    RegisterIntegerConsts(cursor, {IdentToCursor, CursorToIdent});
+    return cursor;
+  }();
+  return info;
+}
+
+const TTypeInfo& CaptionType() {
+  static const TTypeInfo info = StringType("TCaption");
+  return info;
+}
+
+const TClass& TControl::StaticClass() {
+  static const TClass cls(
+      DescribeClass<TControl>("TControl", TComponent::StaticClass())
+          .Published("Left", &TControl::Left, &TControl::SetLeft)
+          .Doc(QStringLiteral("Distance from the left edge of the parent, in pixels."))
+          .Published("Top", &TControl::Top, &TControl::SetTop)
+          .Doc(QStringLiteral("Distance from the top edge of the parent, in pixels."))
+          .Published("Width", &TControl::Width, &TControl::SetWidth)
+          .Published("Height", &TControl::Height, &TControl::SetHeight)
+          .Published("Cursor", &TControl::Cursor, &TControl::SetCursor, 0)
+          .Doc(QStringLiteral("The mouse pointer over the control."))
+          .Published("Hint", &TControl::Hint, &TControl::SetHint)
+          .Doc(QStringLiteral("The text shown when the mouse rests on the control."))
+          .Declared("Align", &TControl::Align, &TControl::SetAlign, TAlign::alNone)
+          .Doc(QStringLiteral("Keeps the control along an edge of its parent, or fills what is left."))
+          .Declared("Anchors", &TControl::Anchors, &TControl::SetAnchors, DefaultAnchors)
+          .Doc(QStringLiteral("Edges of the parent that the control keeps its distance from."))
+          .Declared("AutoSize", &TControl::AutoSize, &TControl::SetAutoSize, false)
+          .Doc(QStringLiteral("Fits the size to the content."))
+          .Declared("Caption", &TControl::Caption, &TControl::SetCaption)
+          .Type(CaptionType())
+          .Doc(QStringLiteral("The text on the control; \"&\" marks the accelerator."))
+          .Declared("Color", &TControl::Color, &TControl::SetColor)
+          .StoredIf(&TControl::ColorStored)
+          .Doc(QStringLiteral("The background colour."))
+          .Declared("Enabled", &TControl::Enabled, &TControl::SetEnabled, true)
+          .Doc(QStringLiteral("Whether the control reacts to mouse and keyboard."))
+          .Declared("Font", &TControl::Font, &TControl::SetFont)
+          .StoredIf(&TControl::FontStored)
+          .Doc(QStringLiteral("The font and colour of the text."))
+          .Declared("ParentColor", &TControl::ParentColor, &TControl::SetParentColor, true)
+          .Doc(QStringLiteral("Takes the colour from the parent."))
+          .Declared("ParentFont", &TControl::ParentFont, &TControl::SetParentFont, true)
+          .Doc(QStringLiteral("Takes the font from the parent."))
+          .Declared("ParentShowHint", &TControl::ParentShowHint, &TControl::SetParentShowHint, true)
+          .Declared("ShowHint", &TControl::ShowHint, &TControl::SetShowHint, false)
+          .StoredIf(&TControl::ShowHintStored)
+          .Doc(QStringLiteral("Whether the hint is shown."))
+          .Declared("Visible", &TControl::Visible, &TControl::SetVisible, true)
+          .Doc(QStringLiteral("Whether the control is shown when the program runs."))
+          .DeclaredEvent("OnClick")
+          .DeclaredEvent("OnDblClick")
+          .DeclaredEvent("OnMouseDown", "TMouseEvent")
+          .DeclaredEvent("OnMouseMove", "TMouseMoveEvent")
+          .DeclaredEvent("OnMouseUp", "TMouseEvent")
+          .DeclaredEvent("OnMouseEnter")
+          .DeclaredEvent("OnMouseLeave")
+          .DeclaredEvent("OnResize"));
+  return cls;
+}
+
+const TClass& TGraphicControl::StaticClass() {
+  static const TClass cls(DescribeClass<TGraphicControl>("TGraphicControl", TControl::StaticClass()));
+  return cls;
+}
+
+TControl::TControl(TComponent* owner) : TComponent(owner), font_(std::make_unique<TFont>(this)) {}
+
+TControl::~TControl() {
+  host_ = nullptr;
+  if (parent_) parent_->RemoveControl(this);
+}
+
+void TControl::SetParent(TWinControl* parent) {
+  if (parent == parent_) return;
+  for (TControl* p = parent; p; p = p->parent_)
+    if (p == this)
+      throw EComponentError(QStringLiteral("%1 cannot be placed inside itself.").arg(Name()));
+  if (parent_) parent_->RemoveControl(this);
+  if (parent) parent->InsertControl(this);
+}
+
+TComponent* TControl::GetParentComponent() const { return parent_ ? parent_ : TComponent::GetParentComponent(); }
+
+void TControl::SetParentComponent(TComponent* parent) {
+  if (auto* container = dynamic_cast<TWinControl*>(parent)) SetParent(container);
+}
+
+void TControl::SetBounds(int left, int top, int width, int height) {
+  width = std::max(width, 0);
+  height = std::max(height, 0);
+  if (QRect(left, top, width, height) == BoundsRect()) return;
+  if (IControlHost* host = FindHost()) {
+    host->ControlChanged(*this);
+    host->BoundsChanging(*this);
+  }
+  left_ = left;
+  top_ = top;
+  width_ = width;
+  height_ = height;
+  Invalidate();
+  if (parent_ && align_ != TAlign::alNone) parent_->Realign();
+}
+
+void TControl::SetAlign(TAlign v) {
+  if (align_ == v) return;
+  align_ = v;
+  if (parent_) parent_->Realign();
+  Changed();
+}
+
+void TControl::SetAutoSize(bool v) {
+  if (autoSize_ == v) return;
+  autoSize_ = v;
+  AdjustSize();
+  Changed();
+}
+
+void TControl::AdjustSize() {
+  if (!autoSize_ || IsLoading()) return;
+  const QSize size = AutoSizeHint();
+  SetBounds(left_, top_, size.width(), size.height());
+}
+
+void TControl::SetCaption(const QString& v) {
+  if (caption_ == v) return;
+  caption_ = v;
+  AdjustSize();
+  Changed();
+}
+
+void TControl::NameChanged(const QString& oldName) {
+  TComponent::NameChanged(oldName);
+  if (captionFollowsName_ && IsDesigning() && !IsLoading() && caption_ == oldName) SetCaption(Name());
+}
+
+void TControl::SetColor(TColor v) {
+  if (!takingParentLook_) parentColor_ = false;
+  if (color_ == v) return;
+  color_ = v;
+  Changed();
+}
+
+void TControl::SetParentColor(bool v) {
+  if (parentColor_ == v) return;
+  parentColor_ = v;
+  ParentLookChanged();
+}
+
+void TControl::SetParentFont(bool v) {
+  if (parentFont_ == v) return;
+  parentFont_ = v;
+  ParentLookChanged();
+}
+
+void TControl::ParentLookChanged() {
+  if (!parent_ || IsLoading()) return;
+  takingParentLook_ = true;
+  if (parentColor_) SetColor(parent_->Color());
+  if (parentFont_) font_->Assign(parent_->Font());
+  takingParentLook_ = false;
+}
+
+void TControl::PartChanged(TPersistent& part) {
+  if (&part == font_.get()) {
+    if (!takingParentLook_) parentFont_ = false;
+    AdjustSize();
+  }
+  Changed();
+}
+
+void TControl::SetEnabled(bool v) {
+  if (enabled_ == v) return;
+  enabled_ = v;
+  Changed();
+}
+
+void TControl::SetVisible(bool v) {
+  if (visible_ == v) return;
+  visible_ = v;
+  if (parent_ && align_ != TAlign::alNone) parent_->Realign();
+  Changed();
+}
+
+IControlHost* TControl::FindHost() const {
+  if (IsLoading()) return nullptr;
+  for (const TControl* c = this; c; c = c->parent_)
+    if (c->host_) return c->host_;
+  return nullptr;
+}
+
+void TControl::Invalidate() {
+  if (IControlHost* host = FindHost()) host->ControlChanged(*this);
+}
+
+void TControl::BringToFront() {
+  if (parent_) parent_->SetControlIndex(this, static_cast<int>(parent_->Controls().size()) - 1);
+}
+void TControl::SendToBack() {
+  if (parent_) parent_->SetControlIndex(this, 0);
+}
+
+void TControl::Loaded() {
+  TComponent::Loaded();
+  ParentLookChanged();
+}

@@ -1,0 +1,190 @@
+// Controls: components with a place, a look and a parent. They paint themselves through a canvas and cost an
+// object, not a window.
+#pragma once
+#include <QRect>
+
+#include "rtl/Component.h"
+#include "vcl/Canvas.h"
+#include "vcl/Font.h"
+
+class TWinControl;
+class TControl;
+
+enum class TAlign : std::uint8_t { alNone, alTop, alBottom, alLeft, alRight, alClient, alCustom };
+enum class TAnchorKind : std::uint8_t { akLeft, akTop, akRight, akBottom };
+using TAnchors = TSet<TAnchorKind>;
+enum class TAlignment : std::uint8_t { taLeftJustify, taRightJustify, taCenter };
+enum class TCursor : std::int16_t {};
+
+VRX_ENUM(TAlign, {"alNone", "alTop", "alBottom", "alLeft", "alRight", "alClient", "alCustom"})
+VRX_ENUM(TAnchorKind, {"akLeft", "akTop", "akRight", "akBottom"})
+VRX_SET(TAnchors, TAnchorKind)
+VRX_ENUM(TAlignment, {"taLeftJustify", "taRightJustify", "taCenter"})
+template <>
+struct TypeInfoOf<TCursor> {
+  static const TTypeInfo& Get();
+};
+const TTypeInfo& CaptionType();  // "TCaption", a string shown on a control
+
+constexpr TAnchors DefaultAnchors{TAnchorKind::akLeft, TAnchorKind::akTop};
+
+// Whoever shows a control: a view in a dialog, the designer's surface.
+class IControlHost {
+ public:
+  virtual ~IControlHost() = default;
+  // The control or something inside it must be painted again.
+  virtual void ControlChanged(TControl& control) = 0;
+  // The control is about to leave these bounds.
+  virtual void BoundsChanging(TControl&) {}
+};
+
+class TControl : public TComponent {
+  VRX_CLASS(TControl)
+ public:
+  explicit TControl(TComponent* owner);
+  ~TControl() override;
+
+  TWinControl* Parent() const { return parent_; }
+  // Null takes the control off. Refuses a parent that cannot hold controls or lies inside the control.
+  void SetParent(TWinControl* parent);
+  TComponent* GetParentComponent() const override;
+  bool HasParent() const override { return parent_ != nullptr; }
+  void SetParentComponent(TComponent* parent) override;
+
+  // Pixels at 96 dpi, relative to the parent's client area.
+  QRect BoundsRect() const { return {left_, top_, width_, height_}; }
+  virtual void SetBounds(int left, int top, int width, int height);
+  int Left() const { return left_; }
+  int Top() const { return top_; }
+  int Width() const { return width_; }
+  int Height() const { return height_; }
+  void SetLeft(int v) { SetBounds(v, top_, width_, height_); }
+  void SetTop(int v) { SetBounds(left_, v, width_, height_); }
+  void SetWidth(int v) { SetBounds(left_, top_, v, height_); }
+  void SetHeight(int v) { SetBounds(left_, top_, width_, v); }
+  virtual QRect ClientRect() const { return {0, 0, width_, height_}; }
+
+  TAlign Align() const { return align_; }
+  void SetAlign(TAlign v);
+  TAnchors Anchors() const { return anchors_; }
+  void SetAnchors(TAnchors v) { anchors_ = v; }
+  bool AutoSize() const { return autoSize_; }
+  void SetAutoSize(bool v);
+  const QString& Caption() const { return caption_; }
+  void SetCaption(const QString& v);
+  TColor Color() const { return color_; }
+  void SetColor(TColor v);
+  bool ParentColor() const { return parentColor_; }
+  void SetParentColor(bool v);
+  TFont* Font() const { return font_.get(); }
+  void SetFont(const TFont* v) { font_->Assign(v); }
+  bool ParentFont() const { return parentFont_; }
+  void SetParentFont(bool v);
+  bool Enabled() const { return enabled_; }
+  void SetEnabled(bool v);
+  bool Visible() const { return visible_; }
+  void SetVisible(bool v);
+  const QString& Hint() const { return hint_; }
+  void SetHint(const QString& v) { hint_ = v; }
+  bool ShowHint() const { return showHint_; }
+  void SetShowHint(bool v) { showHint_ = v; parentShowHint_ = false; }
+  bool ParentShowHint() const { return parentShowHint_; }
+  void SetParentShowHint(bool v) { parentShowHint_ = v; }
+  TCursor Cursor() const { return cursor_; }
+  void SetCursor(TCursor v) { cursor_ = v; }
+
+  // Whether a designer may place other controls inside.
+  virtual bool AcceptsControls() const { return false; }
+  virtual void Paint(TCanvas& canvas) = 0;
+  // Asks the host to paint this control again.
+  void Invalidate();
+  // The host that shows this control or the form around it; null when nobody does.
+  IControlHost* FindHost() const;
+  void SetHost(IControlHost* host) { host_ = host; }
+
+  // Place in the parent's painting order; 0 is at the back.
+  void BringToFront();
+  void SendToBack();
+
+  void Loaded() override;
+
+ protected:
+  void DoChanged() override { Invalidate(); }
+  void PartChanged(TPersistent& part) override;
+  void NameChanged(const QString& oldName) override;
+  // The size the content asks for; the current one when the control does not size itself.
+  virtual QSize AutoSizeHint() const { return {width_, height_}; }
+  void AdjustSize();
+  // The caption follows the name until somebody changes it.
+  bool captionFollowsName_ = false;
+  bool autoSize_ = false;
+  bool parentColor_ = true;
+
+ private:
+  friend class TWinControl;
+  bool ColorStored() const { return !parentColor_; }
+  bool FontStored() const { return !parentFont_; }
+  bool ShowHintStored() const { return !parentShowHint_; }
+  void ParentLookChanged();
+
+  TWinControl* parent_ = nullptr;
+  IControlHost* host_ = nullptr;
+  std::unique_ptr<TFont> font_;
+  QString caption_;
+  QString hint_;
+  int left_ = 0, top_ = 0, width_ = 0, height_ = 0;
+  TColor color_ = clBtnFace;
+  TAlign align_ = TAlign::alNone;
+  TAnchors anchors_ = DefaultAnchors;
+  TCursor cursor_{0};
+  bool enabled_ = true, visible_ = true, showHint_ = false;
+  bool parentFont_ = true, parentShowHint_ = true;
+  bool takingParentLook_ = false;
+};
+
+class TGraphicControl : public TControl {
+  VRX_CLASS(TGraphicControl)
+ public:
+  using TControl::TControl;
+};
+
+// A control that can hold others and take the focus.
+class TWinControl : public TControl {
+  VRX_CLASS(TWinControl)
+ public:
+  using TControl::TControl;
+  ~TWinControl() override;
+
+  // Back to front.
+  const std::vector<TControl*>& Controls() const { return controls_; }
+  void InsertControl(TControl* control);
+  void RemoveControl(TControl* control);
+  int ControlIndex(const TControl* control) const;
+  void SetControlIndex(TControl* control, int index);
+  std::vector<TComponent*> GetChildren() const override;
+
+  int TabOrder() const { return tabOrder_; }
+  void SetTabOrder(int v) { tabOrder_ = v; }
+  bool TabStop() const { return tabStop_; }
+  void SetTabStop(bool v) { tabStop_ = v; }
+
+  void SetBounds(int left, int top, int width, int height) override;
+  // Places the aligned children along the edges.
+  void Realign();
+  void Loaded() override;
+  // The topmost visible child at a point of the client area, or null.
+  TControl* ControlAt(QPoint point) const;
+
+ protected:
+  void DoChanged() override;
+  bool tabStop_ = false;
+
+ private:
+  friend class TControl;
+  std::vector<TControl*> controls_;
+  int tabOrder_ = -1;
+  bool realigning_ = false;
+};
+
+// Paints a control and everything inside it; the painter's origin is the control's top left corner.
+void PaintControl(TControl& control, QPainter& painter);

@@ -1,0 +1,81 @@
+// Forms: the root of what is designed. A form's children live in its client area; the frame around it is drawn
+// with fixed measures, so that sizes in form files mean the same everywhere.
+#pragma once
+#include "vcl/Control.h"
+
+enum class TBorderIcon : std::uint8_t { biSystemMenu, biMinimize, biMaximize, biHelp };
+using TBorderIcons = TSet<TBorderIcon>;
+enum class TFormBorderStyle : std::uint8_t { bsNone, bsSingle, bsSizeable, bsDialog, bsToolWindow, bsSizeToolWin };
+enum class TFormStyle : std::uint8_t { fsNormal, fsMDIChild, fsMDIForm, fsStayOnTop };
+enum class TPosition : std::uint8_t {
+  poDesigned, poDefault, poDefaultPosOnly, poDefaultSizeOnly, poScreenCenter, poDesktopCenter, poMainFormCenter,
+  poOwnerFormCenter
+};
+enum class TWindowState : std::uint8_t { wsNormal, wsMinimized, wsMaximized };
+
+VRX_ENUM(TBorderIcon, {"biSystemMenu", "biMinimize", "biMaximize", "biHelp"})
+VRX_SET(TBorderIcons, TBorderIcon)
+VRX_ENUM(TFormBorderStyle, {"bsNone", "bsSingle", "bsSizeable", "bsDialog", "bsToolWindow", "bsSizeToolWin"})
+VRX_ENUM(TFormStyle, {"fsNormal", "fsMDIChild", "fsMDIForm", "fsStayOnTop"})
+VRX_ENUM(TPosition, {"poDesigned", "poDefault", "poDefaultPosOnly", "poDefaultSizeOnly", "poScreenCenter",
+                     "poDesktopCenter", "poMainFormCenter", "poOwnerFormCenter"})
+VRX_ENUM(TWindowState, {"wsNormal", "wsMinimized", "wsMaximized"})
+
+class TForm : public TWinControl {
+  VRX_CLASS(TForm)
+ public:
+  explicit TForm(TComponent* owner);
+
+  // The form's own class, a descendant that only the form file names ("TControlPanel").
+  QByteArray StreamClassName() const override;
+  void SetStreamClassName(QByteArray name) { streamClass_ = std::move(name); }
+
+  // The frame: title bar and borders, in pixels.
+  QMargins FrameMargins() const;
+  QRect ClientRect() const override { return {0, 0, ClientWidth(), ClientHeight()}; }
+  int ClientWidth() const;
+  int ClientHeight() const;
+  void SetClientWidth(int v);
+  void SetClientHeight(int v);
+
+  TBorderIcons BorderIcons() const { return borderIcons_; }
+  void SetBorderIcons(TBorderIcons v) { borderIcons_ = v; Changed(); }
+  TFormBorderStyle BorderStyle() const { return borderStyle_; }
+  // Keeps the client area.
+  void SetBorderStyle(TFormBorderStyle v);
+  TFormStyle FormStyle() const { return formStyle_; }
+  void SetFormStyle(TFormStyle v) { formStyle_ = v; }
+  bool KeyPreview() const { return keyPreview_; }
+  void SetKeyPreview(bool v) { keyPreview_ = v; }
+  TPosition Position() const { return position_; }
+  void SetPosition(TPosition v) { position_ = v; }
+  TWindowState WindowState() const { return windowState_; }
+  void SetWindowState(TWindowState v) { windowState_ = v; }
+  int PixelsPerInch() const { return pixelsPerInch_; }
+  void SetPixelsPerInch(int v) { pixelsPerInch_ = v; }
+
+  bool AcceptsControls() const override { return true; }
+  // The client area only; whoever shows the form draws the frame.
+  void Paint(TCanvas& canvas) override;
+  void BeginLoading() override;
+  void Loaded() override;
+
+ private:
+  bool ClientSizeStored() const { return !frameSizeStored_ || loadClientWidth_ >= 0 || loadClientHeight_ >= 0; }
+  bool FrameSizeStored() const { return frameSizeStored_; }
+  int FrameWidth() const { return Width(); }
+  int FrameHeight() const { return Height(); }
+  void SetFrameWidth(int v);
+  void SetFrameHeight(int v);
+
+  QByteArray streamClass_;
+  TBorderIcons borderIcons_{TBorderIcon::biSystemMenu, TBorderIcon::biMinimize, TBorderIcon::biMaximize};
+  TFormBorderStyle borderStyle_ = TFormBorderStyle::bsSizeable;
+  TFormStyle formStyle_ = TFormStyle::fsNormal;
+  TPosition position_ = TPosition::poDesigned;
+  TWindowState windowState_ = TWindowState::wsNormal;
+  bool keyPreview_ = false;
+  bool frameSizeStored_ = false;  // the file gives the size with the frame
+  int pixelsPerInch_ = 96;
+  int loadClientWidth_ = -1, loadClientHeight_ = -1;
+};

@@ -1,0 +1,85 @@
+#include "vcl/FormFrame.h"
+
+#include <QApplication>
+#include <QPainterPath>
+
+#include "vcl/Theme.h"
+
+namespace {
+void PaintTitleBar(const TForm& form, QPainter& p, bool active) {
+  const QMargins m = form.FrameMargins();
+  const QRect outer(0, 0, form.Width(), form.Height());
+  const QPalette palette = QApplication::palette();
+  const QColor edge = palette.color(QPalette::Mid);
+  QColor bar = palette.color(QPalette::Window);
+  bar = IsDarkTheme() ? bar.lighter(active ? 135 : 115) : bar.darker(active ? 112 : 104);
+  QPainterPath shape;
+  shape.addRoundedRect(QRectF(outer).adjusted(0.5, 0.5, -0.5, 6), 6, 6);
+  p.setRenderHint(QPainter::Antialiasing);
+  p.setClipRect(outer);
+  p.setPen(edge);
+  p.setBrush(bar);
+  p.drawPath(shape);
+  p.setRenderHint(QPainter::Antialiasing, false);
+  p.drawRect(outer.adjusted(0, m.top(), -1, -1));
+
+  // Buttons, from the right.
+  const QRect row(m.left(), 0, outer.width() - m.left() - m.right(), m.top());
+  int x = row.right() + 1;
+  const QColor ink = palette.color(active ? QPalette::Active : QPalette::Disabled, QPalette::WindowText);
+  p.setRenderHint(QPainter::Antialiasing);
+  p.setPen(QPen(ink, 1.2));
+  p.setBrush(Qt::NoBrush);
+  const TBorderIcons icons = form.BorderIcons();
+  if (icons.Contains(TBorderIcon::biSystemMenu)) {
+    const bool full = form.BorderStyle() != TFormBorderStyle::bsDialog && form.BorderStyle() != TFormBorderStyle::bsToolWindow &&
+                      form.BorderStyle() != TFormBorderStyle::bsSizeToolWin;
+    const auto next = [&] {
+      x -= 28;
+      return QRectF(x + 9.5, m.top() / 2.0 - 4.5, 9, 9);
+    };
+    const QRectF close = next();
+    p.drawLine(close.topLeft(), close.bottomRight());
+    p.drawLine(close.topRight(), close.bottomLeft());
+    if (full && icons.Contains(TBorderIcon::biMaximize)) p.drawRect(next());
+    if (full && icons.Contains(TBorderIcon::biMinimize)) {
+      const QRectF r = next();
+      p.drawLine(QPointF(r.left(), r.center().y()), QPointF(r.right(), r.center().y()));
+    }
+  }
+  QFont font = QApplication::font();
+  font.setPixelSize(12);
+  p.setFont(font);
+  p.setPen(ink);
+  const QRect text(row.left() + 2, 0, std::max(0, x - row.left() - 6), m.top());
+  p.drawText(text, Qt::AlignVCenter | Qt::AlignLeft, p.fontMetrics().elidedText(form.Caption(), Qt::ElideRight, text.width()));
+}
+}  // namespace
+
+void PaintFormWindow(TForm& form, QPainter& painter, bool active) {
+  painter.save();
+  if (form.BorderStyle() != TFormBorderStyle::bsNone) {
+    painter.fillRect(QRect(0, form.FrameMargins().top(), form.Width(), form.Height() - form.FrameMargins().top()),
+                     QApplication::palette().color(QPalette::Window));
+    PaintTitleBar(form, painter, active);
+  }
+  painter.restore();
+  painter.save();
+  const QMargins m = form.FrameMargins();
+  painter.translate(m.left(), m.top());
+  painter.setClipRect(form.ClientRect(), Qt::IntersectClip);
+  PaintControl(form, painter);
+  painter.restore();
+}
+
+QImage RenderForm(TForm& form, double scale) {
+  const QSize size(std::max(1, qRound(form.Width() * scale)), std::max(1, qRound(form.Height() * scale)));
+  QImage image(size, QImage::Format_ARGB32_Premultiplied);
+  if (image.isNull()) return image;
+  image.fill(Qt::transparent);
+  QPainter painter(&image);
+  painter.setRenderHint(QPainter::TextAntialiasing);
+  painter.scale(scale, scale);
+  PaintFormWindow(form, painter, true);
+  return image;
+}

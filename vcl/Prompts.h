@@ -1,0 +1,25 @@
+// Questions to the person at the screen, behind one interface that tests and batch tools answer themselves.
+#pragma once
+#include <QString>
+
+class QWidget;
+
+enum class TAnswer { Yes, No, Cancel };
+
+class IPrompts {
+ public:
+  virtual ~IPrompts() = default;
+  virtual void Inform(QWidget* parent, const QString& title, const QString& text) = 0;
+  virtual void Warn(QWidget* parent, const QString& title, const QString& text) = 0;
+  // Save, do not save, or stay. `text` names what would be lost.
+  virtual TAnswer AskToSave(QWidget* parent, const QString& text) = 0;
+  virtual bool Confirm(QWidget* parent, const QString& title, const QString& text) = 0;
+  // Empty when cancelled.
+  virtual QString OpenFileName(QWidget* parent, const QString& title, const QString& folder, const QString& filter) = 0;
+  virtual QString SaveFileName(QWidget* parent, const QString& title, const QString& file, const QString& filter) = 0;
+};
+
+// The current one; message boxes and the platform's file dialogs unless replaced.
+IPrompts& Prompts();
+// Null restores the default. The caller keeps ownership.
+void SetPrompts(IPrompts* prompts);
