@@ -25,10 +25,15 @@ bool Is(QByteArrayView word, const char* keyword) {
   return word.size() == static_cast<qsizetype>(std::strlen(keyword)) &&
          qstrnicmp(word.data(), keyword, static_cast<size_t>(word.size())) == 0;
 }
-// A path may have blanks behind its points.
+// A path may have blanks and directives behind its points.
 QByteArray WithoutBlanks(QByteArrayView path) {
-  QByteArray name = path.toByteArray();
-  name.removeIf(IsBlank);
+  QByteArray name;
+  bool directive = false;
+  for (const char c : path) {
+    directive = directive || c == '{';
+    if (!directive && !IsBlank(c)) name += c;
+    directive = directive && c != '}';
+  }
   return name;
 }
 // Whether a number that fits no type is too small, not too large.
@@ -260,7 +265,8 @@ void TextReader::ReadProperties(Document& doc, Object& object) {
       break;
     }
     QByteArrayView name = PropertyPath();
-    if (std::any_of(name.begin(), name.end(), IsBlank)) name = doc.Intern(WithoutBlanks(name));
+    const auto foreign = [](char c) { return IsBlank(c) || c == '{'; };
+    if (std::any_of(name.begin(), name.end(), foreign)) name = doc.Intern(WithoutBlanks(name));
     Expect('=', "\"=\"");
     SkipBlanks();
     Span value;
