@@ -119,3 +119,30 @@ TEST(Lossless, PlacesOfPropertiesAndObjectsAreThoseInTheFile) {
   EXPECT_EQ(binary.Where(binary.Root().properties.at(0)).line, 0);
   EXPECT_EQ(binary.Where(binary.Root().properties.at(0)).offset, 10u);
 }
+
+TEST(Template, ConditionalLinesAreKept) {
+  const QByteArray text =
+      "object %Name%: T%Name%\n  Left = 1\n{$IFDEF X}  Border = bs{$ELSE}{$ENDIF}\n  P.{$A}Q = 1\n"
+      "  C = <{$B}item X = {$C}1 end>\n{$IFDEF Y}\n  object B: TB\n  end\n{$ENDIF}\nend\n";
+  ExpectLossless(text);
+  Document doc = Document::Parse(text);
+  EXPECT_NE(doc.Root().Find("P.Q"), nullptr);
+  EXPECT_EQ(doc.Read(*doc.Root().Find("Border")).bytes, "bs");
+  Replace(doc, doc.Root(), "Left", Value::Integer(2));
+  EXPECT_EQ(doc.Write().toStdString(), QByteArray(text).replace("Left = 1", "Left = 2").toStdString());
+}
+
+TEST(Template, HasNoBinaryForm) {
+  const Document doc = Document::Parse("object A: T\n{$IFDEF X}\n  P = 1\n{$ENDIF}\nend\n");
+  for (const Format format : {Format::Binary, Format::Resource}) EXPECT_THROW(doc.WriteAs(format), Exception);
+}
+
+TEST(Template, AnUnclosedDirectiveIsRefusedWhereItOpens) {
+  try {
+    Document::Parse("object A: T\n  {$IFDEF X\n  P = 1\nend}\n");
+    FAIL();
+  } catch (const EFormError& e) {
+    EXPECT_EQ(e.Where().line, 2);
+    EXPECT_EQ(e.Where().column, 3);
+  }
+}

@@ -37,6 +37,11 @@ std::optional<QByteArray> TryWriteAs(const Document& doc, Format format) {
                                  e.Text().contains(QStringLiteral("cannot name a resource"));
     Require(known, "a form can be written in the other forms unless a name forbids it");
     return {};
+  } catch (const Exception& e) {
+    const bool isTemplate =
+        e.Message().contains(QStringLiteral("form template")) && doc.Source().contains("{$");
+    Require(isTemplate && format != Format::Text, "only templates have no binary form");
+    return {};
   }
 }
 
