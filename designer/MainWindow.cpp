@@ -194,6 +194,7 @@ void MainWindow::SetSession(std::unique_ptr<FormSession> session) {
   });
   UpdateProblems();
   UpdateActions();
+  surface_->setFocus();
 }
 
 void MainWindow::UpdateProblems() {

@@ -71,6 +71,10 @@ void EditorDialog::AddOk(QPushButton* button) {
 }
 void EditorDialog::AddCancel(QPushButton* button) { connect(button, &QPushButton::clicked, this, &QDialog::reject); }
 
+void EditorDialog::SetTabSequence(const std::vector<QWidget*>& widgets) {
+  for (std::size_t i = 1; i < widgets.size(); ++i) setTabOrder(widgets[i - 1], widgets[i]);
+}
+
 void EditorDialog::FinishLayout() { setFixedSize(clientSize_.expandedTo(minimumSizeHint())); }
 
 int EditorDialog::ShowModal() {

@@ -57,6 +57,10 @@ class OutlinedFusion : public QProxyStyle {
     const Lightened with(control == CC_SpinBox || control == CC_ComboBox ? option : nullptr);
     QProxyStyle::drawComplexControl(control, option, painter, widget);
   }
+  // Drop-down lists open below their field and keep to the number of rows they are given.
+  int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget, QStyleHintReturn* data) const override {
+    return hint == SH_ComboBox_Popup ? 0 : QProxyStyle::styleHint(hint, option, widget, data);
+  }
 
  private:
   // Changes the option's palette while it lives.

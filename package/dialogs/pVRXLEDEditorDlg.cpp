@@ -74,6 +74,7 @@ void TVRXLEDEditorDlg::Build() {
   connect(pred, &QComboBox::currentIndexChanged, this, [this] { Guarded([&] { predChange(); }); });
   connect(chk, &QCheckBox::toggled, this, [this] { Guarded([&] { chkClick(); }); });
   connect(reset, &QPushButton::clicked, this, [this] { Guarded([&] { resetClick(); }); });
+  SetTabSequence({edhs, edvs, edt, cmbb, bt1, cmbL, bt2, pred, chk, ok, Button1, reset});
   FinishLayout();
 }
 
