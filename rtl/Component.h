@@ -70,11 +70,11 @@ class TComponent : public TPersistent {
   virtual void BeginLoading() { loading_ = true; }
   virtual void Loaded() { loading_ = false; }
 
-  // `component` will be told when this one is freed; components of one owner need not ask.
+  // From now on the two tell each other when one of them is freed.
   void FreeNotification(TComponent* component);
   void RemoveFreeNotification(TComponent* component);
   const std::vector<TComponent*>& FreeNotifies() const { return freeNotifies_; }
-  // Somebody was inserted into or removed from this component's surroundings; drop references to it.
+  // `component`, which asked or was asked for a free notification, is going: references to it are dropped.
   virtual void Notification(TComponent* component, TOperation operation);
 
   // Handler names of events.
@@ -82,6 +82,7 @@ class TComponent : public TPersistent {
   void SetMethodName(const TPropInfo& event, const QString& handler);
 
  protected:
+  bool AssignsProperty(const TPropInfo& prop) const override { return prop.Name != "Name"; }
   void DoChanged() override {}
   // Called for derived classes after a new name is in place.
   virtual void NameChanged(const QString& oldName);
