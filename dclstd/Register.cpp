@@ -1,4 +1,5 @@
 #include "designintf/DesignIntf.h"
+#include "dclstd/Icons.h"
 #include "dclstd/StandardEditors.h"
 #include "rtl/ClassRegistry.h"
 #include "rtl/Strings.h"
@@ -15,6 +16,7 @@ void Category(TResString category, const TClass& cls, const QStringList& names) 
 }  // namespace
 
 void RegisterStandard() {
+  RegisterStandardIcons();
   RegisterClass(TForm::StaticClass());
   RegisterComponents(QStringLiteral("Standard"), {&TLabel::StaticClass(), &TButton::StaticClass(), &TPanel::StaticClass()});
   RegisterComponents(QStringLiteral("System"), {&TTimer::StaticClass()});

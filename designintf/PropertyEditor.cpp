@@ -39,7 +39,10 @@ bool TPropertyEditor::AllEqual() const {
 }
 
 bool TPropertyEditor::IsDefault() const {
-  return std::none_of(props_.begin(), props_.end(), [](const TInstProp& p) { return IsStoredProp(*p.Instance, *p.PropInfo); });
+  // A place or size has no default that it could differ from.
+  return std::none_of(props_.begin(), props_.end(), [](const TInstProp& p) {
+    return (!p.PropInfo->IsOrdinal() || p.PropInfo->Default) && IsStoredProp(*p.Instance, *p.PropInfo);
+  });
 }
 
 void TPropertyEditor::Revert() {

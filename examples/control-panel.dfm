@@ -45,12 +45,11 @@ object ControlPanel: TControlPanel
       Anchors = [akTop, akRight]
       AutoSize = False
       Caption = '12:45:07'
-      Color = clBlack
+      Color = 4009240
       LED.ActiveColor = clAqua
       LED.InActiveColor = 4009240
       LED.HorzSize = 7
       LED.VertSize = 7
-      Transparent = True
     end
   end
   object SpeedPanel: TPanel
@@ -128,7 +127,7 @@ object ControlPanel: TControlPanel
     object TempLabel: TLabel
       Left = 16
       Top = 12
-      Width = 115
+      Width = 140
       Height = 15
       Caption = 'Product temperature'
       Font.Charset = DEFAULT_CHARSET

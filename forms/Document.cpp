@@ -263,6 +263,8 @@ QByteArray Document::ObjectText(const Object& object) const {
 
 QByteArray Document::WriteAs(Format format) const {
   if (format == format_) return Write();
+  if (template_)
+    throw Exception(QStringLiteral("This is a form template with {$...} lines; it has no binary form."));
   if (format == Format::Text) return ObjectText(*root_);
   BinaryWriter out(lclStream_);
   out.Raw("TPF0");

@@ -146,6 +146,7 @@ class Document {
   Span trailer_;  // what follows the root's end
   Dialect dialect_;
   bool utf8_ = true;
+  bool template_ = false;   // has conditional lines, which only the text form can hold
   bool lclStream_ = false;  // code 21 is a string
   QByteArray codePage_;
   std::deque<QByteArray> interned_;

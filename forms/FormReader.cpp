@@ -64,7 +64,8 @@ void FormReader::ReadInto(Object& object, TComponent& component, TComponent* own
   loading_.push_back(&component);
   map_.Add(component, object);
   try {
-    component.SetName(QString::fromUtf8(object.name));
+    // A template's %NAME% becomes a name when the template is used.
+    if (!object.name.contains('%')) component.SetName(QString::fromUtf8(object.name));
   } catch (const Exception& e) {
     Report(Severity::Error, document_.Where(object), e.Message());
   }

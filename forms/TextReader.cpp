@@ -51,8 +51,17 @@ QByteArray TextReader::Here() const {
   return "\"" + word + "\"";
 }
 
+// Form templates have conditional lines ({$IFDEF ...}); binary data never starts with "$", so they can be told apart.
 void TextReader::SkipBlanks() {
-  while (p_ != end_ && IsBlank(*p_)) ++p_;
+  for (;;) {
+    while (p_ != end_ && IsBlank(*p_)) ++p_;
+    if (end_ - p_ < 2 || p_[0] != '{' || p_[1] != '$') return;
+    const char* open = p_;
+    while (p_ != end_ && *p_ != '}' && *p_ != '\n') ++p_;
+    if (p_ == end_ || *p_ != '}') Fail(QStringLiteral("The directive is not closed: \"}\" is missing"), open);
+    ++p_;
+    directives_ = true;
+  }
 }
 
 QByteArrayView TextReader::PeekWord() const {
@@ -124,6 +133,7 @@ void TextReader::ReadDocument(Document& doc) {
   doc.root_ = ReadObject(doc, rootBegin, 0);
   doc.trailer_ = {static_cast<std::uint32_t>(Offset()), static_cast<std::uint32_t>(end_ - begin_)};
 
+  doc.template_ = directives_;
   Dialect& d = doc.dialect_;
   const char* firstEnd = static_cast<const char*>(std::memchr(begin_, '\n', static_cast<size_t>(end_ - begin_)));
   if (firstEnd) d.eol = firstEnd != begin_ && firstEnd[-1] == '\r' ? "\r\n" : "\n";

@@ -44,6 +44,7 @@ class TextReader {
   const char* p_;
   const char* end_;
   Scratch scratch_;
+  bool directives_ = false;
   // Signs of the file's style, met on the way.
   int glued_ = 0, apart_ = 0;           // closing brackets
   int doubledQuotes_ = 0, coded39_ = 0; // apostrophes

@@ -9,6 +9,8 @@
 TVRXColorComboBox::TVRXColorComboBox(TVRXColorStyles styles, QWidget* parent) : QComboBox(parent), styles_(styles) {
   setIconSize(QSize(28, 14));
   setMaxVisibleItems(16);
+  setSizeAdjustPolicy(AdjustToMinimumContentsLengthWithIcon);
+  setMinimumContentsLength(12);
   Fill();
   connect(this, &QComboBox::activated, this, [this](int index) {
     const QVariant value = itemData(index);

@@ -17,7 +17,7 @@ EditorDialog::EditorDialog(const QString& caption, QSize clientSize, QWidget* pa
   grid_->setHorizontalSpacing(8);
   grid_->setVerticalSpacing(8);
   auto* settingsBox = new QVBoxLayout(settings);
-  settingsBox->setContentsMargins(16, 16, 16, 16);
+  settingsBox->setContentsMargins(16, 16, 16, 8);
   settingsBox->addLayout(grid_);
   settingsBox->addStretch(1);
 
@@ -70,6 +70,10 @@ void EditorDialog::AddOk(QPushButton* button) {
   connect(button, &QPushButton::clicked, this, &QDialog::accept);
 }
 void EditorDialog::AddCancel(QPushButton* button) { connect(button, &QPushButton::clicked, this, &QDialog::reject); }
+
+void EditorDialog::SetTabSequence(const std::vector<QWidget*>& widgets) {
+  for (std::size_t i = 1; i < widgets.size(); ++i) setTabOrder(widgets[i - 1], widgets[i]);
+}
 
 void EditorDialog::FinishLayout() { setFixedSize(clientSize_.expandedTo(minimumSizeHint())); }
 

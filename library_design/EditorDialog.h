@@ -3,6 +3,7 @@
 #pragma once
 #include <QDialog>
 #include <exception>
+#include <vector>
 
 class QGridLayout;
 class QLabel;
@@ -46,6 +47,7 @@ class EditorDialog : public QDialog {
   // OK and Cancel close the dialog with their results.
   void AddOk(QPushButton* button);
   void AddCancel(QPushButton* button);
+  void SetTabSequence(const std::vector<QWidget*>& widgets);
   // To be called when all controls are there.
   void FinishLayout();
 

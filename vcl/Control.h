@@ -93,6 +93,8 @@ class TControl : public TComponent {
   TCursor Cursor() const { return cursor_; }
   void SetCursor(TCursor v) { cursor_ = v; }
 
+  // Whether a designer may place other controls inside.
+  virtual bool AcceptsControls() const { return false; }
   virtual void Paint(TCanvas& canvas) = 0;
   // Asks the host to paint this control again.
   void Invalidate();

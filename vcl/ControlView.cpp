@@ -2,6 +2,7 @@
 
 #include <QMouseEvent>
 #include <QPainter>
+#include <cmath>
 
 ControlView::ControlView(TControl* control, QWidget* parent) : QWidget(parent) { SetControl(control); }
 
@@ -19,20 +20,31 @@ void ControlView::ControlChanged(TControl&) { update(); }
 
 QSize ControlView::sizeHint() const { return control_ ? control_->BoundsRect().size() : QSize(80, 40); }
 
+void ControlView::SetShrinkToFit(bool shrink) {
+  shrink_ = shrink;
+  update();
+}
+
+double ControlView::Scale() const {
+  if (!shrink_ || !control_ || control_->Width() == 0 || control_->Height() == 0) return 1;
+  return std::min({1.0, static_cast<double>(width()) / control_->Width(), static_cast<double>(height()) / control_->Height()});
+}
+
 // Centred while there is room, else from the left so that the start of a text is never cut.
-QPoint ControlView::Origin() const {
-  const QSize size = control_->BoundsRect().size();
-  return {std::max(0, (width() - size.width()) / 2), std::max(0, (height() - size.height()) / 2)};
+QPointF ControlView::Origin() const {
+  const QSizeF size = QSizeF(control_->BoundsRect().size()) * Scale();
+  return {std::max(0.0, std::floor((width() - size.width()) / 2)), std::max(0.0, std::floor((height() - size.height()) / 2))};
 }
 
 void ControlView::paintEvent(QPaintEvent*) {
   if (!control_) return;
   QPainter painter(this);
   painter.translate(Origin());
+  painter.scale(Scale(), Scale());
   painter.setClipRect(QRect(QPoint(0, 0), control_->BoundsRect().size()));
   PaintControl(*control_, painter);
 }
 
 void ControlView::mouseReleaseEvent(QMouseEvent* event) {
-  if (control_ && QRect(Origin(), control_->BoundsRect().size()).contains(event->pos())) emit Clicked();
+  if (control_ && QRectF(Origin(), QSizeF(control_->BoundsRect().size()) * Scale()).contains(event->position())) emit Clicked();
 }

@@ -12,6 +12,9 @@ class ControlView : public QWidget, public IControlHost {
   ~ControlView() override;
   void SetControl(TControl* control);
   TControl* Control() const { return control_; }
+  // A control larger than the view is drawn smaller instead of being cut; off at first.
+  void SetShrinkToFit(bool shrink);
+  double Scale() const;
 
   void ControlChanged(TControl& control) override;
   QSize sizeHint() const override;
@@ -24,6 +27,7 @@ class ControlView : public QWidget, public IControlHost {
   void mouseReleaseEvent(QMouseEvent* event) override;
 
  private:
-  QPoint Origin() const;
+  QPointF Origin() const;
   TControl* control_ = nullptr;
+  bool shrink_ = false;
 };

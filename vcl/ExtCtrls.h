@@ -21,6 +21,7 @@ class TPanel : public TWinControl {
   int BorderWidth() const { return borderWidth_; }
   void SetBorderWidth(int v) { borderWidth_ = v; Realign(); Changed(); }
 
+  bool AcceptsControls() const override { return true; }
   void Paint(TCanvas& canvas) override;
 
  private:

@@ -54,6 +54,7 @@ class TForm : public TWinControl {
   int PixelsPerInch() const { return pixelsPerInch_; }
   void SetPixelsPerInch(int v) { pixelsPerInch_ = v; }
 
+  bool AcceptsControls() const override { return true; }
   // The client area only; whoever shows the form draws the frame.
   void Paint(TCanvas& canvas) override;
   void BeginLoading() override;

@@ -2,7 +2,9 @@
 
 #include <QApplication>
 #include <QPalette>
+#include <QProxyStyle>
 #include <QStyleFactory>
+#include <QStyleOption>
 
 namespace {
 struct Shades {
@@ -40,11 +42,52 @@ QPalette Palette(const Shades& s) {
   p.setColor(QPalette::Disabled, QPalette::Highlight, QColor(QLatin1StringView(s.mid)));
   return p;
 }
+// Fusion draws the outlines of boxes and fields darker than the window, which disappears in a dark theme. There they
+// are drawn as if the window were lighter.
+class OutlinedFusion : public QProxyStyle {
+ public:
+  OutlinedFusion() : QProxyStyle(QStringLiteral("Fusion")) { setObjectName(QStringLiteral("orlenvo")); }
+
+  void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter, const QWidget* widget) const override {
+    const bool outlined = element == PE_IndicatorCheckBox || element == PE_IndicatorRadioButton || element == PE_FrameLineEdit;
+    const Lightened with(outlined ? option : nullptr);
+    QProxyStyle::drawPrimitive(element, option, painter, widget);
+  }
+  void drawComplexControl(ComplexControl control, const QStyleOptionComplex* option, QPainter* painter, const QWidget* widget) const override {
+    const Lightened with(control == CC_SpinBox || control == CC_ComboBox ? option : nullptr);
+    QProxyStyle::drawComplexControl(control, option, painter, widget);
+  }
+  // Drop-down lists open below their field and keep to the number of rows they are given.
+  int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget, QStyleHintReturn* data) const override {
+    return hint == SH_ComboBox_Popup ? 0 : QProxyStyle::styleHint(hint, option, widget, data);
+  }
+
+ private:
+  // Changes the option's palette while it lives.
+  class Lightened {
+   public:
+    explicit Lightened(const QStyleOption* option)
+        : option_(option && option->palette.color(QPalette::Window).lightness() < 128 ? const_cast<QStyleOption*>(option) : nullptr) {
+      if (!option_) return;
+      before_ = option_->palette;
+      option_->palette.setColor(QPalette::Window, before_.color(QPalette::Window).lighter(230));
+    }
+    ~Lightened() {
+      if (option_) option_->palette = before_;
+    }
+    Lightened(const Lightened&) = delete;
+    Lightened& operator=(const Lightened&) = delete;
+
+   private:
+    QStyleOption* option_;
+    QPalette before_;
+  };
+};
 }  // namespace
 
 void ApplyTheme(TTheme theme) {
-  if (!QApplication::style() || QApplication::style()->name().compare(QLatin1StringView("fusion"), Qt::CaseInsensitive) != 0)
-    QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+  if (!QApplication::style() || QApplication::style()->objectName() != QStringLiteral("orlenvo"))
+    QApplication::setStyle(new OutlinedFusion);
   if (theme != TTheme::System) QApplication::setPalette(Palette(theme == TTheme::Dark ? DarkShades : LightShades));
 }
 

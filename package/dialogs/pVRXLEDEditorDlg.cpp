@@ -56,6 +56,7 @@ void TVRXLEDEditorDlg::Build() {
   test->LED()->SetSize(1, 9);
   test->LED()->SetSize(3, 7);
   testView = named(new ControlView(test.get(), this), "test", "Shows the current settings.");
+  testView->SetShrinkToFit(true);
   SetPreview(testView);
 
   ok = named(AddButton(QStringLiteral("OK")), "ok", "");
@@ -73,6 +74,7 @@ void TVRXLEDEditorDlg::Build() {
   connect(pred, &QComboBox::currentIndexChanged, this, [this] { Guarded([&] { predChange(); }); });
   connect(chk, &QCheckBox::toggled, this, [this] { Guarded([&] { chkClick(); }); });
   connect(reset, &QPushButton::clicked, this, [this] { Guarded([&] { resetClick(); }); });
+  SetTabSequence({edhs, edvs, edt, cmbb, bt1, cmbL, bt2, pred, chk, ok, Button1, reset});
   FinishLayout();
 }
 

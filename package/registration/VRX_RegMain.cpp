@@ -4,6 +4,7 @@
 #include "library/LibraryClasses.h"
 #include "library/controls/LEDLabel.h"
 #include "library_design/pVRXCommon.h"
+#include "package/component_editors/pVRXCEMain.h"
 #include "package/property_editors/pVRXPeMain.h"
 
 const std::vector<TPageRow>& PageRows() {
@@ -34,7 +35,9 @@ void RegisterPages(const std::vector<TPageRow>& rows, const std::function<const 
 
 void VRX_RegMain::Register() {
   RegisterPages(PageRows(), FindLibraryClass, [](const QByteArray& page) {
-    if (page == "VRX Ext")
+    if (page == "VRX Ext") {
       RegisterPropertyEditor(TVRXLED::StaticTypeInfo(), nullptr, {}, VRX_PROPERTY_EDITOR(TVRXLEDProperty));
+      RegisterComponentEditor(TVRXLEDCustomLabel::StaticClass(), VRX_COMPONENT_EDITOR(TVRXLEDLabelComponentEditor));
+    }
   });
 }

@@ -1,0 +1,4 @@
+// Icons of the standard components.
+#pragma once
+
+void RegisterStandardIcons();

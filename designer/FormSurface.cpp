@@ -1,0 +1,496 @@
+#include "designer/FormSurface.h"
+
+#include <QtWidgets>
+
+#include "designintf/ComponentIcons.h"
+#include "rtl/Exceptions.h"
+#include "vcl/FormFrame.h"
+#include "vcl/Theme.h"
+
+namespace {
+constexpr int Desk = 24;  // room around the form
+int Snap(int v, int grid) { return static_cast<int>(std::lround(static_cast<double>(v) / grid)) * grid; }
+bool HasIcon(const TComponent& c) { return !As<TControl>(&c); }
+}  // namespace
+
+FormSurface::FormSurface(QWidget* parent) : QWidget(parent) {
+  setFocusPolicy(Qt::StrongFocus);
+  setMouseTracking(true);
+  setAccessibleName(tr("Form"));
+}
+
+void FormSurface::SetSession(FormSession* session) {
+  if (session_) disconnect(session_, nullptr, this, nullptr);
+  session_ = session;
+  action_ = Action::None;
+  if (session_) {
+    connect(session_, &FormSession::RepaintNeeded, this, qOverload<>(&QWidget::update));
+    connect(session_, &FormSession::FormChanged, this, &FormSurface::UpdateSize);
+    connect(session_, &FormSession::SelectionChanged, this, qOverload<>(&QWidget::update));
+  }
+  UpdateSize();
+}
+
+void FormSurface::SetZoom(double factor) {
+  zoom_ = std::clamp(factor, 0.25, 4.0);
+  UpdateSize();
+}
+
+void FormSurface::SetTool(const TClass* cls) {
+  tool_ = cls;
+  setCursor(cls ? Qt::CrossCursor : Qt::ArrowCursor);
+}
+
+QSize FormSurface::sizeHint() const {
+  if (!session_) return {400, 300};
+  const TForm& form = session_->Form();
+  return QSize(qCeil((form.Width() + 2 * Desk) * zoom_), qCeil((form.Height() + 2 * Desk) * zoom_));
+}
+
+void FormSurface::UpdateSize() {
+  setMinimumSize(sizeHint());
+  updateGeometry();
+  update();
+}
+
+QPoint FormSurface::ClientOrigin() const {
+  const QMargins m = session_->Form().FrameMargins();
+  return {Desk + m.left(), Desk + m.top()};
+}
+
+QPoint FormSurface::ToForm(QPoint p) const {
+  return QPoint(qFloor(p.x() / zoom_), qFloor(p.y() / zoom_)) - ClientOrigin();
+}
+
+QRect FormSurface::RectOf(const TComponent& c) const {
+  if (const auto* control = As<TControl>(&c)) return control->BoundsRect();
+  const TDesignPoint at = DesignPointOf(c.DesignInfo());
+  return {at.Left, at.Top, IconSize, IconSize};
+}
+
+void FormSurface::SetRect(TComponent& c, const QRect& r) {
+  if (auto* control = As<TControl>(&c)) {
+    control->SetBounds(r.left(), r.top(), r.width(), r.height());
+  } else {
+    c.SetDesignInfo(DesignWordOf({static_cast<std::int16_t>(r.left()), static_cast<std::int16_t>(r.top())}));
+    update();
+  }
+}
+
+// In client coordinates of the form; the form itself with its frame.
+QRect FormSurface::FormRectOf(const TComponent& c) const {
+  const TForm& form = session_->Form();
+  const QMargins m = form.FrameMargins();
+  if (&c == &form) return QRect(-m.left(), -m.top(), form.Width(), form.Height());
+  QRect r = RectOf(c);
+  if (const auto* control = As<TControl>(&c))
+    for (const TControl* p = control->Parent(); p && p != &form; p = p->Parent()) r.translate(p->Left(), p->Top());
+  return r;
+}
+
+QRect FormSurface::WidgetRect(const TComponent& c) const {
+  const QRect r = FormRectOf(c).translated(ClientOrigin());
+  return QRectF(r.left() * zoom_, r.top() * zoom_, r.width() * zoom_, r.height() * zoom_).toRect();
+}
+
+TControl* FormSurface::DeepestAt(QPoint p) const {
+  TForm& form = session_->Form();
+  TControl* at = &form;
+  QPoint inside = p;
+  while (auto* container = As<TWinControl>(at)) {
+    TControl* next = container->ControlAt(inside);
+    if (!next) break;
+    inside -= next->BoundsRect().topLeft();
+    at = next;
+  }
+  return at;
+}
+
+TComponent* FormSurface::ComponentAt(QPoint widgetPoint) const {
+  if (!session_) return nullptr;
+  const QPoint p = ToForm(widgetPoint);
+  const auto& all = session_->Form().Components();
+  for (auto it = all.rbegin(); it != all.rend(); ++it)
+    if (HasIcon(**it) && RectOf(**it).contains(p)) return *it;
+  const TForm& form = session_->Form();
+  if (!form.ClientRect().contains(p)) return FormRectOf(form).contains(p) ? session_->GetRoot() : nullptr;
+  return DeepestAt(p);
+}
+
+// --- Painting
+
+void FormSurface::paintEvent(QPaintEvent*) {
+  QPainter p(this);
+  p.fillRect(rect(), palette().color(QPalette::Window).darker(IsDarkTheme() ? 125 : 107));
+  if (!session_) return;
+  p.scale(zoom_, zoom_);
+  p.save();
+  p.translate(Desk, Desk);
+  PaintFormWindow(session_->Form(), p, true);
+  p.restore();
+  p.save();
+  p.translate(ClientOrigin());
+  p.setClipRect(session_->Form().ClientRect());
+  PaintGrid(p);
+  PaintIcons(p);
+  p.restore();
+  p.resetTransform();
+  PaintSelection(p);
+}
+
+void FormSurface::PaintGrid(QPainter& p) const {
+  if (zoom_ < 0.75) return;
+  // Only where nothing else stands: the dots belong to the empty form.
+  const TForm& form = session_->Form();
+  QRegion empty(form.ClientRect());
+  for (const TControl* c : form.Controls()) empty -= c->BoundsRect();
+  p.save();
+  p.setClipRegion(empty, Qt::IntersectClip);
+  QColor ink = palette().color(QPalette::WindowText);
+  ink.setAlpha(48);
+  p.setPen(QPen(ink, 1 / zoom_));
+  QList<QPoint> dots;
+  for (int y = 0; y < form.ClientHeight(); y += Grid)
+    for (int x = 0; x < form.ClientWidth(); x += Grid) dots << QPoint(x, y);
+  p.drawPoints(dots.data(), static_cast<int>(dots.size()));
+  p.restore();
+}
+
+void FormSurface::PaintIcons(QPainter& p) const {
+  QFont font = QApplication::font();
+  font.setPixelSize(11);
+  p.setFont(font);
+  for (const TComponent* c : session_->Form().Components()) {
+    if (!HasIcon(*c)) continue;
+    const QRect r = RectOf(*c);
+    p.setRenderHint(QPainter::Antialiasing);
+    p.setPen(palette().color(QPalette::Mid));
+    p.setBrush(palette().color(QPalette::Base));
+    p.drawRoundedRect(QRectF(r).adjusted(0.5, 0.5, -0.5, -0.5), 4, 4);
+    p.drawPixmap(r.topLeft() + QPoint(2, 2), ComponentPixmap(c->ClassType(), IconSize - 4, devicePixelRatioF() * zoom_));
+    const int width = p.fontMetrics().horizontalAdvance(c->Name()) + 6;
+    const QRect label(r.center().x() - width / 2, r.bottom() + 2, width, 14);
+    p.setPen(Qt::NoPen);
+    QColor back = palette().color(QPalette::Base);
+    back.setAlpha(200);
+    p.setBrush(back);
+    p.drawRoundedRect(label, 3, 3);
+    p.setPen(palette().color(QPalette::WindowText));
+    p.drawText(label, Qt::AlignCenter, c->Name());
+  }
+}
+
+std::vector<QRect> FormSurface::Handles() const {
+  const auto selected = session_->SelectedComponents();
+  if (selected.size() != 1 || HasIcon(*selected[0])) return {};
+  const QRect r = WidgetRect(*selected[0]);
+  const int x[] = {r.left(), r.center().x(), r.right()};
+  const int y[] = {r.top(), r.center().y(), r.bottom()};
+  std::vector<QRect> handles;  // clockwise from the top left corner
+  static constexpr int places[8][2] = {{0, 0}, {1, 0}, {2, 0}, {2, 1}, {2, 2}, {1, 2}, {0, 2}, {0, 1}};
+  const bool form = selected[0] == session_->GetRoot();
+  for (int i = 0; i < 8; ++i) {
+    const bool usable = !form || (i >= 3 && i <= 5);  // a form grows to the right and down
+    handles.push_back(usable ? QRect(x[places[i][0]] - 3, y[places[i][1]] - 3, 7, 7) : QRect());
+  }
+  return handles;
+}
+
+int FormSurface::HandleAt(QPoint p) const {
+  const auto handles = Handles();
+  for (std::size_t i = 0; i < handles.size(); ++i)
+    if (handles[i].isValid() && handles[i].adjusted(-2, -2, 2, 2).contains(p)) return static_cast<int>(i);
+  return -1;
+}
+
+void FormSurface::PaintSelection(QPainter& p) const {
+  const QColor accent = palette().color(QPalette::Highlight);
+  const auto selected = session_->SelectedComponents();
+  p.setRenderHint(QPainter::Antialiasing, false);
+  for (const TComponent* c : selected) {
+    if (c == session_->GetRoot()) continue;
+    p.setPen(QPen(accent, 1));
+    p.setBrush(Qt::NoBrush);
+    p.drawRect(WidgetRect(*c).adjusted(0, 0, -1, -1));
+    if (selected.size() == 1) continue;
+    // Several: small marks at the corners.
+    const QRect r = WidgetRect(*c);
+    for (const QPoint corner : {r.topLeft(), r.topRight(), r.bottomLeft(), r.bottomRight()})
+      p.fillRect(QRect(corner - QPoint(2, 2), QSize(5, 5)), accent);
+  }
+  for (const QRect& h : Handles()) {
+    if (!h.isValid()) continue;
+    p.setPen(accent);
+    p.setBrush(palette().color(QPalette::Base));
+    p.drawRect(h.adjusted(0, 0, -1, -1));
+  }
+  if (action_ == Action::Band || action_ == Action::Place) {
+    QColor fill = accent;
+    fill.setAlpha(40);
+    p.setPen(QPen(accent, 1, action_ == Action::Band ? Qt::DashLine : Qt::SolidLine));
+    p.setBrush(fill);
+    p.drawRect(QRect(pressed_, current_).normalized());
+  }
+  if (action_ == Action::Move || action_ == Action::Resize) {
+    const QRect r = FormRectOf(*starts_.front().component);
+    const QRect own = RectOf(*starts_.front().component);
+    const QString text = action_ == Action::Move ? QStringLiteral("%1, %2").arg(own.left()).arg(own.top())
+                                                 : QStringLiteral("%1 x %2").arg(r.width()).arg(r.height());
+    const int width = p.fontMetrics().horizontalAdvance(text) + 12;
+    const QRect label(current_ + QPoint(14, 16), QSize(width, p.fontMetrics().height() + 6));
+    p.setPen(palette().color(QPalette::Mid));
+    p.setBrush(palette().color(QPalette::ToolTipBase));
+    p.drawRect(label);
+    p.setPen(palette().color(QPalette::ToolTipText));
+    p.drawText(label, Qt::AlignCenter, text);
+  }
+}
+
+// --- Mouse
+
+void FormSurface::mousePressEvent(QMouseEvent* event) {
+  if (!session_ || event->button() != Qt::LeftButton) return;
+  setFocus();
+  pressed_ = current_ = event->pos();
+  handle_ = tool_ ? -1 : HandleAt(pressed_);
+  const QPoint p = ToForm(pressed_);
+  if (tool_) {
+    action_ = Action::Place;
+    return;
+  }
+  if (handle_ >= 0) {
+    TComponent* c = session_->SelectedComponents().front();
+    starts_ = {{c, RectOf(*c)}};
+    action_ = Action::Resize;
+    return;
+  }
+  TComponent* hit = ComponentAt(pressed_);
+  if (!hit) return session_->Select({});
+  const bool add = event->modifiers() & (Qt::ControlModifier | Qt::ShiftModifier);
+  if (hit == session_->GetRoot()) {
+    target_ = &session_->Form();
+    action_ = session_->Form().ClientRect().contains(p) ? Action::Band : Action::None;
+    if (!add) session_->Select({});
+    return;
+  }
+  auto selected = session_->SelectedComponents();
+  if (add) {
+    if (session_->IsSelected(*hit))
+      std::erase(selected, hit);
+    else
+      selected.push_back(hit);
+    return session_->Select(selected);
+  }
+  if (!session_->IsSelected(*hit)) session_->Select({hit});
+  action_ = Action::Press;
+}
+
+void FormSurface::mouseMoveEvent(QMouseEvent* event) {
+  if (!session_) return;
+  current_ = event->pos();
+  switch (action_) {
+    case Action::None:
+      return UpdateCursor(current_);
+    case Action::Press:
+      // A trembling click is not a drag.
+      if ((current_ - pressed_).manhattanLength() < QApplication::startDragDistance()) return;
+      starts_.clear();
+      for (TComponent* c : session_->SelectedComponents())
+        if (c != session_->GetRoot()) starts_.push_back({c, RectOf(*c)});
+      if (starts_.empty()) return;
+      action_ = Action::Move;
+      [[fallthrough]];
+    case Action::Move:
+    case Action::Resize:
+      return Drag(current_, event->modifiers() & Qt::AltModifier);
+    case Action::Band:
+    case Action::Place:
+      return update();
+  }
+}
+
+void FormSurface::UpdateCursor(QPoint p) {
+  if (tool_) return;
+  static constexpr Qt::CursorShape shapes[] = {Qt::SizeFDiagCursor, Qt::SizeVerCursor, Qt::SizeBDiagCursor, Qt::SizeHorCursor};
+  const int handle = HandleAt(p);
+  setCursor(handle < 0 ? Qt::ArrowCursor : shapes[handle % 4]);
+}
+
+// Live: the components follow the pointer; the command is made when the button is let go.
+void FormSurface::Drag(QPoint p, bool fine) {
+  const int grid = fine ? 1 : Grid;
+  const QPoint delta((p - pressed_) / zoom_);
+  if (action_ == Action::Move) {
+    const QPoint first = starts_.front().rect.topLeft();
+    const QPoint step = QPoint(Snap(first.x() + delta.x(), grid), Snap(first.y() + delta.y(), grid)) - first;
+    for (const Start& s : starts_) SetRect(*s.component, s.rect.translated(step));
+  } else {
+    static constexpr int sides[8][4] = {{1, 1, 0, 0}, {0, 1, 0, 0}, {0, 1, 1, 0}, {0, 0, 1, 0},
+                                        {0, 0, 1, 1}, {0, 0, 0, 1}, {1, 0, 0, 1}, {1, 0, 0, 0}};
+    const QRect r = starts_.front().rect;
+    int left = r.left(), top = r.top(), right = r.left() + r.width(), bottom = r.top() + r.height();
+    const int* side = sides[handle_];
+    if (side[0]) left = std::min(Snap(left + delta.x(), grid), right - 1);
+    if (side[1]) top = std::min(Snap(top + delta.y(), grid), bottom - 1);
+    if (side[2]) right = std::max(Snap(right + delta.x(), grid), left + 1);
+    if (side[3]) bottom = std::max(Snap(bottom + delta.y(), grid), top + 1);
+    SetRect(*starts_.front().component, QRect(left, top, right - left, bottom - top));
+  }
+  update();
+}
+
+void FormSurface::FinishDrag() {
+  std::vector<TComponent*> touched;
+  std::vector<QRect> final;
+  for (const Start& s : starts_) {
+    touched.push_back(s.component);
+    final.push_back(RectOf(*s.component));
+  }
+  for (const Start& s : starts_) SetRect(*s.component, s.rect);
+  const QString text = action_ == Action::Move ? tr("Move") : tr("Resize");
+  action_ = Action::None;
+  session_->Run(text, touched, [&] {
+    for (std::size_t i = 0; i < touched.size(); ++i) SetRect(*touched[i], final[i]);
+  });
+}
+
+void FormSurface::CancelDrag() {
+  if (action_ == Action::Move || action_ == Action::Resize)
+    for (const Start& s : starts_) SetRect(*s.component, s.rect);
+  action_ = Action::None;
+  update();
+}
+
+void FormSurface::mouseReleaseEvent(QMouseEvent* event) {
+  if (!session_ || event->button() != Qt::LeftButton) return;
+  current_ = event->pos();
+  const QRect rect = QRect(ToForm(pressed_), ToForm(current_)).normalized();
+  switch (action_) {
+    case Action::Move:
+    case Action::Resize:
+      FinishDrag();
+      break;
+    case Action::Band:
+      action_ = Action::None;
+      if (rect.width() > 3 || rect.height() > 3) SelectBand(rect, event->modifiers() & (Qt::ControlModifier | Qt::ShiftModifier));
+      break;
+    case Action::Place:
+      action_ = Action::None;
+      PlaceTool(rect);
+      break;
+    default:
+      action_ = Action::None;
+  }
+  update();
+}
+
+void FormSurface::SelectBand(const QRect& band, bool add) {
+  std::vector<TComponent*> found;
+  if (add) found = session_->SelectedComponents();
+  for (TControl* c : session_->Form().Controls())
+    if (FormRectOf(*c).intersects(band) && std::find(found.begin(), found.end(), c) == found.end()) found.push_back(c);
+  for (TComponent* c : session_->Form().Components())
+    if (HasIcon(*c) && RectOf(*c).intersects(band) && std::find(found.begin(), found.end(), c) == found.end()) found.push_back(c);
+  session_->Select(found);
+}
+
+void FormSurface::PlaceTool(const QRect& drawn) {
+  const TClass& cls = *tool_;
+  SetTool(nullptr);
+  emit ToolUsed();
+  TControl* at = DeepestAt(drawn.topLeft());
+  while (at && !at->AcceptsControls()) at = at->Parent();
+  auto* container = at ? As<TWinControl>(at) : &session_->Form();
+  const QPoint origin = container == &session_->Form() ? QPoint() : FormRectOf(*container).topLeft();
+  QRect r = drawn.translated(-origin);
+  r.moveTopLeft({Snap(r.left(), Grid), Snap(r.top(), Grid)});
+  const bool sized = drawn.width() > 8 && drawn.height() > 8;
+  r.setSize(sized ? QSize(Snap(r.width(), Grid), Snap(r.height(), Grid)) : QSize(0, 0));
+  session_->CreateComponent(cls, container, r);
+}
+
+void FormSurface::mouseDoubleClickEvent(QMouseEvent* event) {
+  if (!session_ || event->button() != Qt::LeftButton) return;
+  CancelDrag();
+  if (TComponent* c = ComponentAt(event->pos())) session_->Edit(*c);
+}
+
+void FormSurface::contextMenuEvent(QContextMenuEvent* event) {
+  if (!session_) return;
+  if (event->reason() == QContextMenuEvent::Mouse)
+    if (TComponent* c = ComponentAt(event->pos()); c && !session_->IsSelected(*c)) session_->Select({c});
+  emit ContextMenuWanted(event->globalPos());
+}
+
+// --- Keyboard
+
+// Tab walks the components here instead of leaving the surface.
+bool FormSurface::event(QEvent* event) {
+  if (event->type() == QEvent::KeyPress && session_) {
+    const auto* key = static_cast<QKeyEvent*>(event);
+    if (key->key() == Qt::Key_Tab || key->key() == Qt::Key_Backtab) {
+      WalkSelection(key->key() == Qt::Key_Tab ? 1 : -1);
+      return true;
+    }
+  }
+  return QWidget::event(event);
+}
+
+void FormSurface::WalkSelection(int step) {
+  const auto all = session_->AllComponents();
+  const auto selected = session_->SelectedComponents();
+  const auto at = std::find(all.begin(), all.end(), selected.front());
+  const auto count = static_cast<std::ptrdiff_t>(all.size());
+  session_->Select({all[static_cast<std::size_t>(((at - all.begin()) + step + count) % count)]});
+}
+
+void FormSurface::Nudge(int dx, int dy, bool resize) {
+  auto touched = session_->SelectedComponents();
+  std::erase(touched, session_->GetRoot());
+  if (touched.empty()) return;
+  session_->Run(resize ? tr("Resize") : tr("Move"), touched, [&] {
+    for (TComponent* c : touched) {
+      QRect r = RectOf(*c);
+      if (!resize)
+        r.translate(dx, dy);
+      else if (!HasIcon(*c))
+        r.setSize(QSize(std::max(1, r.width() + dx), std::max(1, r.height() + dy)));
+      SetRect(*c, r);
+    }
+  });
+}
+
+void FormSurface::keyPressEvent(QKeyEvent* event) {
+  if (!session_) return QWidget::keyPressEvent(event);
+  const int step = event->modifiers() & Qt::ControlModifier ? 1 : Grid;
+  const bool resize = event->modifiers() & Qt::ShiftModifier;
+  switch (event->key()) {
+    case Qt::Key_Left:
+      return Nudge(-step, 0, resize);
+    case Qt::Key_Right:
+      return Nudge(step, 0, resize);
+    case Qt::Key_Up:
+      return Nudge(0, -step, resize);
+    case Qt::Key_Down:
+      return Nudge(0, step, resize);
+    case Qt::Key_Delete:
+      return session_->DeleteSelection();
+    case Qt::Key_Return:
+    case Qt::Key_F11:
+      emit InspectorWanted();
+      return;
+    case Qt::Key_Escape:
+      if (tool_) {
+        SetTool(nullptr);
+        action_ = Action::None;
+        emit ToolUsed();
+      } else if (action_ != Action::None) {
+        CancelDrag();
+      } else if (TComponent* c = session_->SelectedComponents().front(); c != session_->GetRoot()) {
+        session_->Select({c->GetParentComponent()});
+      }
+      return update();
+    default:
+      QWidget::keyPressEvent(event);
+  }
+}

@@ -1,0 +1,81 @@
+// The surface a form is designed on: the form drawn as a window on a desk, with handles, rubber band and the icons of
+// components that are not controls. Zoom never changes the form.
+#pragma once
+#include <QWidget>
+#include <optional>
+
+#include "ide/FormSession.h"
+
+class FormSurface : public QWidget {
+  Q_OBJECT
+ public:
+  explicit FormSurface(QWidget* parent = nullptr);
+  void SetSession(FormSession* session);
+
+  void SetZoom(double factor);
+  double Zoom() const { return zoom_; }
+  static constexpr int Grid = 8;
+  static constexpr int IconSize = 28;
+
+  // The class that the next click places; null for the arrow.
+  void SetTool(const TClass* cls);
+  const TClass* Tool() const { return tool_; }
+
+  // Places in widget coordinates, for views and tests.
+  QRect WidgetRect(const TComponent& component) const;
+  TComponent* ComponentAt(QPoint widgetPoint) const;
+  QSize sizeHint() const override;
+
+ signals:
+  void ToolUsed();
+  void Message(const QString& text);
+  void ContextMenuWanted(const QPoint& globalPos);
+  void InspectorWanted();
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+  void mousePressEvent(QMouseEvent* event) override;
+  void mouseMoveEvent(QMouseEvent* event) override;
+  void mouseReleaseEvent(QMouseEvent* event) override;
+  void mouseDoubleClickEvent(QMouseEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
+  void contextMenuEvent(QContextMenuEvent* event) override;
+  bool event(QEvent* event) override;
+
+ private:
+  enum class Action { None, Press, Move, Resize, Band, Place };
+  struct Start {
+    TComponent* component;
+    QRect rect;
+  };
+  TControl* DeepestAt(QPoint formPoint) const;
+  QPoint ToForm(QPoint widgetPoint) const;     // client coordinates of the form
+  QPoint ClientOrigin() const;                 // of the form's client area, in unzoomed surface coordinates
+  QRect FormRectOf(const TComponent& component) const;
+  int HandleAt(QPoint widgetPoint) const;
+  std::vector<QRect> Handles() const;
+  void Drag(QPoint widgetPoint, bool fine);
+  void FinishDrag();
+  void CancelDrag();
+  void PlaceTool(const QRect& formRect);
+  void SelectBand(const QRect& formRect, bool add);
+  void Nudge(int dx, int dy, bool resize);
+  void SetRect(TComponent& component, const QRect& rect);
+  QRect RectOf(const TComponent& component) const;
+  void WalkSelection(int step);
+  void PaintGrid(QPainter& p) const;
+  void PaintIcons(QPainter& p) const;
+  void PaintSelection(QPainter& p) const;
+  void UpdateSize();
+  void UpdateCursor(QPoint widgetPoint);
+
+  FormSession* session_ = nullptr;
+  double zoom_ = 1;
+  const TClass* tool_ = nullptr;
+  Action action_ = Action::None;
+  int handle_ = -1;
+  QPoint pressed_;
+  QPoint current_;
+  std::vector<Start> starts_;
+  TWinControl* target_ = nullptr;  // where a tool or band works
+};

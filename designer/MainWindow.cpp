@@ -1,0 +1,327 @@
+#include "designer/MainWindow.h"
+
+#include <QtWidgets>
+
+#include "designer/FormSurface.h"
+#include "designer/InspectorPane.h"
+#include "designer/PalettePane.h"
+#include "designer/StructurePane.h"
+#include "designintf/ComponentEditor.h"
+#include "designintf/DesignIntf.h"
+#include "rtl/Exceptions.h"
+#include "vcl/Prompts.h"
+#include "vcl/Theme.h"
+
+namespace {
+QString FormFilter() { return MainWindow::tr("Forms (*.dfm *.lfm);;All files (*)"); }
+}  // namespace
+
+void ReportException(QWidget* parent, const std::exception& error) {
+  Prompts().Warn(parent, QCoreApplication::applicationName(), ExceptionMessage(error));
+}
+
+MainWindow::MainWindow(PackageManager& packages) : packages_(packages) {
+  setWindowIcon(QIcon::fromTheme(QStringLiteral("document-edit")));
+  BuildPanes();
+  BuildActions();
+  connect(&packages_, &PackageManager::ClassesChanged, this, [this] {
+    palette_->Reload();
+    if (session_) {
+      inspector_->SetSession(nullptr);  // its rows belong to editors that may be gone
+      session_->Rebuild();
+      inspector_->SetSession(session_.get());
+      UpdateProblems();
+    }
+  });
+  resize(1280, 820);
+  UpdateActions();
+}
+
+MainWindow::~MainWindow() {
+  inspector_->SetSession(nullptr);
+  structure_->SetSession(nullptr);
+  surface_->SetSession(nullptr);
+}
+
+void MainWindow::BuildPanes() {
+  setDockOptions(AnimatedDocks | AllowTabbedDocks);
+  palette_ = new PalettePane;
+  auto* paletteBar = new QToolBar(tr("Palette"));
+  paletteBar->setObjectName(QStringLiteral("paletteBar"));
+  paletteBar->setMovable(false);
+  paletteBar->addWidget(palette_);
+  palette_->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+  addToolBar(Qt::TopToolBarArea, paletteBar);
+  insertToolBarBreak(paletteBar);
+
+  surface_ = new FormSurface;
+  auto* scroll = new QScrollArea;
+  scroll->setWidget(surface_);
+  scroll->setWidgetResizable(true);
+  scroll->setFrameShape(QFrame::NoFrame);
+  setCentralWidget(scroll);
+
+  const auto dock = [this](const QString& title, QWidget* widget, Qt::DockWidgetArea area) {
+    auto* d = new QDockWidget(title, this);
+    d->setObjectName(title);
+    d->setWidget(widget);
+    d->setFeatures(QDockWidget::DockWidgetMovable | QDockWidget::DockWidgetClosable);
+    addDockWidget(area, d);
+    return d;
+  };
+  structure_ = new StructurePane;
+  inspector_ = new InspectorPane;
+  problems_ = new QListWidget;
+  problems_->setFrameShape(QFrame::NoFrame);
+  problems_->setWordWrap(true);
+  auto* structureDock = dock(tr("Structure"), structure_, Qt::LeftDockWidgetArea);
+  auto* inspectorDock = dock(tr("Inspector"), inspector_, Qt::LeftDockWidgetArea);
+  problemsDock_ = dock(tr("Problems"), problems_, Qt::BottomDockWidgetArea);
+  problemsDock_->hide();
+  setCorner(Qt::BottomLeftCorner, Qt::LeftDockWidgetArea);
+  resizeDocks({structureDock, inspectorDock}, {220, 440}, Qt::Vertical);
+  resizeDocks({inspectorDock}, {340}, Qt::Horizontal);
+
+  for (QLabel** label : {&selectionLabel_, &boundsLabel_, &modifiedLabel_, &zoomLabel_}) *label = new QLabel;
+  statusBar()->addWidget(selectionLabel_);
+  statusBar()->addWidget(boundsLabel_);
+  statusBar()->addPermanentWidget(new QLabel(tr("Grid %1").arg(FormSurface::Grid)));
+  statusBar()->addPermanentWidget(zoomLabel_);
+  statusBar()->addPermanentWidget(modifiedLabel_);
+
+  connect(palette_, &PalettePane::ToolChosen, surface_, &FormSurface::SetTool);
+  connect(palette_, &PalettePane::AddWanted, this, [this](const TClass& cls) {
+    if (!session_) return;
+    const TForm& form = session_->Form();
+    const QPoint centre(form.ClientWidth() / 2 / 8 * 8, form.ClientHeight() / 2 / 8 * 8);
+    session_->CreateComponent(cls, nullptr, QRect(centre, QSize()));
+  });
+  connect(surface_, &FormSurface::ToolUsed, palette_, &PalettePane::SelectArrow);
+  connect(surface_, &FormSurface::ContextMenuWanted, this, &MainWindow::ShowContextMenu);
+  connect(surface_, &FormSurface::InspectorWanted, inspector_, &InspectorPane::FocusValue);
+}
+
+QAction* MainWindow::AddAction(QWidget* menu, const QString& text, const QString& icon, const QKeySequence& keys,
+                               const std::function<void()>& run, const char* name) {
+  auto* action = new QAction(icon.isEmpty() ? QIcon() : QIcon::fromTheme(icon), text, this);
+  action->setShortcut(keys);
+  action->setObjectName(QString::fromLatin1(name));
+  connect(action, &QAction::triggered, this, [this, run] {
+    try {
+      run();
+    } catch (const std::exception& e) {
+      ReportException(this, e);
+    }
+  });
+  menu->addAction(action);
+  return action;
+}
+
+void MainWindow::BuildActions() {
+  auto* tools = new QToolBar(tr("Tools"));
+  tools->setObjectName(QStringLiteral("tools"));
+  tools->setMovable(false);
+  tools->setIconSize(QSize(22, 22));
+  insertToolBar(findChild<QToolBar*>(QStringLiteral("paletteBar")), tools);
+  insertToolBarBreak(findChild<QToolBar*>(QStringLiteral("paletteBar")));
+
+  QMenu* file = menuBar()->addMenu(tr("&File"));
+  auto* fresh = AddAction(file, tr("&New form"), QStringLiteral("document-new"), QKeySequence::New, [this] { if (MayClose()) NewForm(); }, "new");
+  auto* open = AddAction(file, tr("&Open..."), QStringLiteral("document-open"), QKeySequence::Open, [this] {
+    if (!MayClose()) return;
+    const QString folder = session_ ? QFileInfo(session_->FileName()).path() : QString();
+    if (const QString name = Prompts().OpenFileName(this, tr("Open form"), folder, FormFilter()); !name.isEmpty()) OpenForm(name);
+  }, "open");
+  save_ = AddAction(file, tr("&Save"), QStringLiteral("document-save"), QKeySequence::Save, [this] { Save(); }, "save");
+  AddAction(file, tr("Save &as..."), QStringLiteral("document-save-as"), QKeySequence::SaveAs, [this] { SaveAs(); }, "saveAs");
+  file->addSeparator();
+  AddAction(file, tr("&Quit"), QStringLiteral("application-exit"), QKeySequence::Quit, [this] { close(); }, "quit");
+
+  QMenu* edit = menuBar()->addMenu(tr("&Edit"));
+  undo_ = AddAction(edit, tr("&Undo"), QStringLiteral("edit-undo"), QKeySequence::Undo, [this] { session_->Undo(); }, "undo");
+  redo_ = AddAction(edit, tr("&Redo"), QStringLiteral("edit-redo"), QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Z), [this] { session_->Redo(); }, "redo");
+  edit->addSeparator();
+  delete_ = AddAction(edit, tr("&Delete"), QStringLiteral("edit-delete"), {}, [this] { session_->DeleteSelection(); }, "delete");
+  AddAction(edit, tr("Select &all"), QStringLiteral("edit-select-all"), {}, [this] {
+    auto all = session_->AllComponents();
+    all.erase(all.begin());
+    session_->Select(all);
+  }, "selectAll");
+
+  QMenu* view = menuBar()->addMenu(tr("&View"));
+  for (QDockWidget* d : findChildren<QDockWidget*>()) view->addAction(d->toggleViewAction());
+  view->addSeparator();
+  auto* zoomIn = AddAction(view, tr("Zoom &in"), QStringLiteral("zoom-in"), QKeySequence::ZoomIn, [this] { SetZoom(surface_->Zoom() * 1.25); }, "zoomIn");
+  auto* zoomOut = AddAction(view, tr("Zoom &out"), QStringLiteral("zoom-out"), QKeySequence::ZoomOut, [this] { SetZoom(surface_->Zoom() / 1.25); }, "zoomOut");
+  AddAction(view, tr("&100 %"), {}, QKeySequence(Qt::CTRL | Qt::Key_0), [this] { SetZoom(1); }, "zoom100");
+  view->addSeparator();
+  AddAction(view, tr("&Light theme"), {}, {}, [] { ApplyTheme(TTheme::Light); }, "light");
+  AddAction(view, tr("&Dark theme"), {}, {}, [] { ApplyTheme(TTheme::Dark); }, "dark");
+
+  QMenu* help = menuBar()->addMenu(tr("&Help"));
+  AddAction(help, tr("&About"), QStringLiteral("help-about"), {}, [this] {
+    Prompts().Inform(this, tr("About"), tr("Orlenvo-Kit form designer %1").arg(QStringLiteral(VRX_VERSION)));
+  }, "about");
+
+  for (QAction* a : {fresh, open, save_}) tools->addAction(a);
+  tools->addSeparator();
+  for (QAction* a : {undo_, redo_, delete_}) tools->addAction(a);
+  tools->addSeparator();
+  for (QAction* a : {zoomOut, zoomIn}) tools->addAction(a);
+}
+
+void MainWindow::SetZoom(double factor) {
+  if (std::abs(factor - 1) < 0.05) factor = 1;
+  surface_->SetZoom(factor);
+  UpdateStatus();
+}
+
+// --- Files
+
+void MainWindow::SetSession(std::unique_ptr<FormSession> session) {
+  inspector_->SetSession(nullptr);
+  structure_->SetSession(nullptr);
+  surface_->SetSession(nullptr);
+  session_ = std::move(session);
+  surface_->SetSession(session_.get());
+  structure_->SetSession(session_.get());
+  inspector_->SetSession(session_.get());
+  connect(session_.get(), &FormSession::ModifiedChanged, this, &MainWindow::UpdateActions);
+  connect(session_.get(), &FormSession::FormChanged, this, &MainWindow::UpdateActions);
+  connect(session_.get(), &FormSession::SelectionChanged, this, &MainWindow::UpdateStatus);
+  connect(session_.get(), &FormSession::HandlerShown, this, [this](const QString& name) {
+    statusBar()->showMessage(tr("Event handler %1").arg(name), 5000);
+  });
+  UpdateProblems();
+  UpdateActions();
+  surface_->setFocus();
+}
+
+void MainWindow::UpdateProblems() {
+  problems_->clear();
+  int count = 0;
+  if (session_)
+    for (const forms::Finding& f : session_->Findings()) {
+      if (f.severity == forms::Severity::Note) continue;
+      ++count;
+      auto* item = new QListWidgetItem(f.where.line > 0 ? tr("Line %1: %2").arg(f.where.line).arg(f.text) : f.text, problems_);
+      item->setIcon(style()->standardIcon(f.severity == forms::Severity::Error ? QStyle::SP_MessageBoxCritical
+                                                                               : QStyle::SP_MessageBoxWarning));
+    }
+  problemsDock_->setWindowTitle(tr("Problems (%1)").arg(count));
+  problemsDock_->setVisible(count > 0);
+}
+
+bool MainWindow::OpenForm(const QString& fileName) {
+  try {
+    SetSession(FormSession::Open(fileName));
+    return true;
+  } catch (const std::exception& e) {
+    Prompts().Warn(this, tr("Open form"), tr("%1 cannot be opened.\n%2").arg(QFileInfo(fileName).fileName(), ExceptionMessage(e)));
+    return false;
+  }
+}
+
+void MainWindow::NewForm() { SetSession(FormSession::NewForm(QStringLiteral("Form1"))); }
+
+bool MainWindow::SaveTo(const QString& fileName) {
+  try {
+    session_->SaveAs(fileName);
+    return true;
+  } catch (const std::exception& e) {
+    Prompts().Warn(this, tr("Save form"), ExceptionMessage(e));
+    return false;
+  }
+}
+
+bool MainWindow::Save() {
+  if (!session_) return true;
+  return session_->FileName().isEmpty() ? SaveAs() : SaveTo(session_->FileName());
+}
+
+bool MainWindow::SaveAs() {
+  if (!session_) return true;
+  const QString start = session_->FileName().isEmpty() ? session_->Form().Name().toLower() + QStringLiteral(".dfm") : session_->FileName();
+  const QString name = Prompts().SaveFileName(this, tr("Save form as"), start, FormFilter());
+  return !name.isEmpty() && SaveTo(name);
+}
+
+bool MainWindow::MayClose() {
+  if (!session_ || !session_->IsModified()) return true;
+  const QString what = session_->FileName().isEmpty() ? session_->Form().Name() : QFileInfo(session_->FileName()).fileName();
+  switch (Prompts().AskToSave(this, tr("%1 has changes that are not saved. Save them?").arg(what))) {
+    case TAnswer::Yes:
+      return Save();
+    case TAnswer::No:
+      return true;
+    case TAnswer::Cancel:
+      return false;
+  }
+  return false;
+}
+
+void MainWindow::closeEvent(QCloseEvent* event) { event->setAccepted(MayClose()); }
+
+// --- State
+
+void MainWindow::UpdateActions() {
+  const bool open = session_ != nullptr;
+  const QString file = !open ? QString() : session_->FileName().isEmpty() ? session_->Form().Name() : QFileInfo(session_->FileName()).fileName();
+  setWindowTitle(open ? tr("%1[*] - Orlenvo-Kit designer").arg(file) : tr("Orlenvo-Kit designer"));
+  setWindowModified(open && session_->IsModified());
+  save_->setEnabled(open && (session_->IsModified() || session_->FileName().isEmpty()));
+  undo_->setEnabled(open && session_->CanUndo());
+  undo_->setText(open && session_->CanUndo() ? tr("&Undo %1").arg(session_->UndoText()) : tr("&Undo"));
+  redo_->setEnabled(open && session_->CanRedo());
+  redo_->setText(open && session_->CanRedo() ? tr("&Redo %1").arg(session_->RedoText()) : tr("&Redo"));
+  delete_->setEnabled(open);
+  UpdateStatus();
+}
+
+void MainWindow::UpdateStatus() {
+  zoomLabel_->setText(tr("%1 %").arg(qRound(surface_->Zoom() * 100)));
+  if (!session_) return;
+  modifiedLabel_->setText(session_->IsModified() ? tr("Modified") : QString());
+  const auto selected = session_->SelectedComponents();
+  if (selected.size() > 1) {
+    selectionLabel_->setText(tr("%n selected", nullptr, static_cast<int>(selected.size())));
+    boundsLabel_->clear();
+  } else {
+    const TComponent& c = *selected.front();
+    selectionLabel_->setText(QStringLiteral("%1: %2").arg(c.Name(), QString::fromUtf8(c.StreamClassName())));
+    const auto* control = As<TControl>(&c);
+    boundsLabel_->setText(control ? QStringLiteral("%1, %2   %3 x %4").arg(control->Left()).arg(control->Top()).arg(control->Width()).arg(control->Height())
+                                  : QString());
+  }
+}
+
+// The component's verbs first, then the designer's own.
+void MainWindow::ShowContextMenu(const QPoint& pos) {
+  QMenu menu(this);
+  menu.setObjectName(QStringLiteral("surfaceMenu"));
+  const auto selected = session_->SelectedComponents();
+  std::unique_ptr<TComponentEditor> editor;
+  if (selected.size() == 1) {
+    editor = GetComponentEditor(selected[0], session_.get());
+    for (int i = 0; i < editor->GetVerbCount(); ++i) {
+      const QString verb = editor->GetVerb(i);
+      if (verb == QStringLiteral("-")) {
+        menu.addSeparator();
+        continue;
+      }
+      menu.addAction(verb, this, [&, i, verb] {
+        try {
+          session_->Run(QString(verb).remove(u'&'), selected, [&] { editor->ExecuteVerb(i); });
+        } catch (const std::exception& e) {
+          ReportException(this, e);
+        }
+      });
+    }
+    menu.addSeparator();
+  }
+  menu.addAction(undo_);
+  menu.addAction(redo_);
+  menu.addSeparator();
+  menu.addAction(delete_);
+  menu.exec(pos);
+}

@@ -1,0 +1,57 @@
+// What the object inspector shows: the properties or events of the selected components, as a tree. Column 0 is the
+// name, column 1 the value. Every change goes through the session as one command.
+#pragma once
+#include <QAbstractItemModel>
+
+#include "designintf/PropertyEditor.h"
+#include "ide/FormSession.h"
+
+class InspectorModel : public QAbstractItemModel {
+  Q_OBJECT
+ public:
+  enum Roles { NotDefaultRole = Qt::UserRole, PathRole, IsBooleanRole, IsCategoryRole, DescriptionRole };
+
+  explicit InspectorModel(QObject* parent = nullptr);
+  ~InspectorModel() override;
+
+  void SetSession(FormSession* session);
+  void ShowEvents(bool events);
+  bool ShowsEvents() const { return events_; }
+  void GroupByCategory(bool group);
+  void SetFilter(const QString& text);
+
+  // The editor of a row; null for a category.
+  TPropertyEditor* EditorAt(const QModelIndex& index) const;
+  QModelIndex IndexOfPath(const QString& path) const;
+  // The value as text; empty when the selected components differ.
+  QString ValueText(const QModelIndex& index) const;
+  QStringList ValueList(const QModelIndex& index) const;
+  // Applies a text. Empty on success, else why it was refused; nothing is changed then.
+  QString SetValueText(const QModelIndex& index, const QString& text);
+  // Runs the editor's dialog as one command. Empty on success, else the message of what it threw.
+  QString RunDialog(const QModelIndex& index);
+  QString Reset(const QModelIndex& index);
+
+  QModelIndex index(int row, int column, const QModelIndex& parent = {}) const override;
+  QModelIndex parent(const QModelIndex& child) const override;
+  int rowCount(const QModelIndex& parent = {}) const override;
+  int columnCount(const QModelIndex& = {}) const override { return 2; }
+  bool hasChildren(const QModelIndex& parent = {}) const override;
+  QVariant data(const QModelIndex& index, int role) const override;
+  Qt::ItemFlags flags(const QModelIndex& index) const override;
+
+ private:
+  struct Node;
+  Node* NodeAt(const QModelIndex& index) const;
+  void Load(Node& node) const;
+  void Rebuild();
+  void Refresh();
+  QString Guarded(const QString& text, const std::function<void()>& action);
+
+  FormSession* session_ = nullptr;
+  std::unique_ptr<Node> root_;
+  std::vector<TComponent*> shown_;
+  bool events_ = false;
+  bool byCategory_ = false;
+  QString filter_;
+};
