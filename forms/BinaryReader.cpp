@@ -30,7 +30,8 @@ std::size_t StreamOffset(QByteArrayView bytes) {
     return fail("The resource header is damaged", 1);
   }
   at += 6;  // flags, size
-  if (at + 4 > bytes.size() || !bytes.sliced(at).startsWith(Signature))
+  at = std::min(at, bytes.size());
+  if (!bytes.sliced(at).startsWith(Signature))
     return fail("The resource holds no form stream (\"TPF0\" expected)", static_cast<std::size_t>(at));
   return static_cast<std::size_t>(at);
 }
@@ -212,6 +213,7 @@ void BinaryReader::ReadValue(Value* out, int depth) {
     }
     case ValueType::Date:
     case ValueType::Double: {
+      sawDouble_ = sawDouble_ || type == ValueType::Double;
       const std::uint64_t bits = LittleEndian(8);
       double v;
       std::memcpy(&v, &bits, 8);

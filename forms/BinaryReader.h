@@ -11,6 +11,8 @@ class BinaryReader {
 
   void ReadDocument(Document& document);
   void ReadValue(Value* out, int depth = 0);
+  // Whether code 21 was met and read as a double.
+  bool SawDouble() const { return sawDouble_; }
 
  private:
   std::unique_ptr<Object> ReadObject(Document& document, int depth);
@@ -30,6 +32,7 @@ class BinaryReader {
   const char* p_;
   const char* end_;
   bool lclStream_;
+  bool sawDouble_ = false;
 };
 
 // Offset of "TPF0" in a resource-wrapped file; 0 for a bare stream. Refuses anything else.

@@ -9,9 +9,12 @@ void BinaryWriter::LittleEndian(std::uint64_t value, int bytes) {
 }
 
 void BinaryWriter::ShortString(QByteArrayView text) {
-  const QByteArrayView cut = text.first(std::min<qsizetype>(text.size(), 255));
-  Byte(static_cast<unsigned>(cut.size()));
-  Raw(cut);
+  if (text.size() > 255)
+    throw EFormError(QStringLiteral("\"%1...\" is longer than 255 bytes and cannot be written in a stream")
+                         .arg(QString::fromLatin1(text.first(40))),
+                     {});
+  Byte(static_cast<unsigned>(text.size()));
+  Raw(text);
 }
 
 void BinaryWriter::TaggedInteger(std::int64_t value, ValueType type) {
@@ -23,7 +26,8 @@ void BinaryWriter::TaggedInteger(std::int64_t value, ValueType type) {
 void BinaryWriter::ObjectHeader(const Object& object) {
   unsigned flags = object.kind == ObjectKind::Inherited ? 1u : object.kind == ObjectKind::Inline ? 4u : 0u;
   if (object.position) flags |= 2u;
-  if (flags) Byte(0xF0u | flags);
+  // Without a prefix, the length of a name this long would be taken for one.
+  if (flags || object.className.size() >= 0xF0) Byte(0xF0u | flags);
   if (object.position) TaggedInteger(*object.position, IntegerTypeFor(*object.position));
   ShortString(object.className);
   ShortString(object.name);
@@ -104,6 +108,8 @@ void BinaryWriter::WriteValue(const Value& v) {
 }
 
 QByteArray ResourceHeader(QByteArrayView rootClass, std::size_t streamSize) {
+  if (rootClass.contains('\0'))
+    throw EFormError(QStringLiteral("The class name \"%1\" cannot name a resource").arg(QString::fromLatin1(rootClass)), {});
   QByteArray out("\xFF\x0A\x00", 3);
   out += rootClass.toByteArray().toUpper();
   out += '\0';

@@ -69,23 +69,30 @@ Document Document::Parse(QByteArray bytes, const Dialect& hint) {
     TextReader(doc.source_).ReadDocument(doc);
   } else {
     const std::size_t at = StreamOffset(doc.source_);
-    try {
-      BinaryReader(doc.source_, at, false).ReadDocument(doc);
-    } catch (const EFormError&) {
-      // The two families of streams disagree about one code; the other reading may fit.
+    // The two families of streams disagree about one code; the other reading may fit, too.
+    const auto takeOther = [&](bool mustEndAlike) {
       Document other;
       other.dialect_ = hint;
       other.format_ = doc.format_;
       other.source_ = doc.source_;
-      bool fits = true;
       try {
         BinaryReader(other.source_, at, true).ReadDocument(other);
       } catch (const EFormError&) {
-        fits = false;
+        return false;
       }
-      if (!fits) throw;
+      if (mustEndAlike && other.trailer_.begin != doc.trailer_.begin) return false;
       doc = std::move(other);
+      return true;
+    };
+    BinaryReader reader(doc.source_, at, false);
+    try {
+      reader.ReadDocument(doc);
+    } catch (const EFormError&) {
+      if (!takeOther(false)) throw;
+      reader = BinaryReader(doc.source_, at, true);
     }
+    // A string of two units is as long as a double, but hardly any double begins with its length.
+    if (reader.SawDouble()) takeOther(true);
   }
   doc.DescribeCodePage();
   return doc;
@@ -176,14 +183,14 @@ Property Document::MakeProperty(QByteArrayView name, Value value) {
 
 void Document::WriteTextObject(TextWriter& out, const Object& object, int level) const {
   if (object.FromSource() && !object.headerChanged) {
-    out.Raw(Slice(object.header));
+    out.Copy(Slice(object.header));
   } else {
     out.FreshLine();
     out.ObjectHeader(object, level);
   }
   for (const Property& p : object.properties) {
     if (p.FromSource()) {
-      out.Raw(Slice(p.Node()));
+      out.Copy(Slice(p.Node()));
     } else {
       out.FreshLine();
       out.PropertyLine(p.Name(), *p.Edited(), level + 1);
@@ -191,10 +198,7 @@ void Document::WriteTextObject(TextWriter& out, const Object& object, int level)
   }
   for (const auto& child : object.children) WriteTextObject(out, *child, level + 1);
   if (object.FromSource()) {
-    const QByteArrayView footer = Slice(object.footer);
-    // A header or property that came from the middle of a line may need a separator before "end".
-    if (!footer.isEmpty() && IsIdentStart(footer[0])) out.FreshLine();
-    out.Raw(footer);
+    out.Copy(Slice(object.footer));
   } else {
     out.FreshLine();
     out.ObjectFooter(level);
@@ -225,7 +229,7 @@ void Document::WriteBinaryObject(BinaryWriter& out, const Object& object, bool c
 QByteArray Document::Write() const {
   if (format_ == Format::Text) {
     TextWriter out(dialect_);
-    out.Raw(Slice(before_));
+    out.Copy(Slice(before_));
     WriteTextObject(out, *root_, 0);
     out.Raw(Slice(trailer_));
     return std::move(out).Result();
@@ -243,11 +247,36 @@ QByteArray Document::Write() const {
 }
 
 namespace {
+// Names may be anything in a stream, but text that could not be read again must not be written.
+[[noreturn]] void RefuseName(const char* what, const QByteArray& name, Location where) {
+  throw EFormError(QStringLiteral("%1 \"%2\" cannot be written as text")
+                       .arg(QLatin1StringView(what), QString::fromLatin1(name)),
+                   where);
+}
+
+void CheckValue(const Value& v, Location where) {
+  if (v.type == ValueType::Ident && !IsPath(v.bytes)) RefuseName("The identifier", v.bytes, where);
+  for (const QByteArray& element : v.elements)
+    if (!IsPath(element) || element.contains('.')) RefuseName("The set element", element, where);
+  for (const Value& item : v.items) CheckValue(item, where);
+  for (const CollectionItem& item : v.collection) {
+    for (const NamedValue& p : item.properties) {
+      if (!IsPropertyPath(p.path)) RefuseName("The property name", p.path, where);
+      CheckValue(p.value, where);
+    }
+  }
+}
+
 void WriteDecodedText(const Document& doc, TextWriter& out, const Object& object, int level) {
+  if (!object.name.isEmpty() && !IsHeaderName(object.name))
+    RefuseName("The component name", object.name, doc.Where(object));
+  if (!IsHeaderName(object.className)) RefuseName("The class name", object.className, doc.Where(object));
   out.ObjectHeader(object, level);
   Value v;
   for (const Property& p : object.properties) {
+    if (!IsPropertyPath(p.Name())) RefuseName("The property name", p.Name().toByteArray(), doc.Where(p));
     doc.Read(p, v);
+    CheckValue(v, doc.Where(p));
     out.PropertyLine(p.Name(), v, level + 1);
   }
   for (const auto& child : object.children) WriteDecodedText(doc, out, *child, level + 1);
@@ -281,8 +310,11 @@ std::unique_ptr<Object> Document::Detached(const Object& object, Document& targe
   copy->name = owned(object.name);
   copy->className = owned(object.className);
   copy->position = object.position;
-  for (const Property& p : object.properties)
-    copy->properties.push_back(target.MakeProperty(p.Name(), TextToValue(ValueToText(Read(p)))));
+  for (const Property& p : object.properties) {
+    Value value = Read(p);
+    value.Own();
+    copy->properties.push_back(target.MakeProperty(p.Name(), std::move(value)));
+  }
   for (const auto& child : object.children) {
     copy->children.push_back(Detached(*child, target));
     copy->children.back()->parent = copy.get();

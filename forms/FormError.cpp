@@ -15,6 +15,8 @@ Location LocationOf(QByteArrayView text, std::size_t offset) {
       lineStart = i + 1;
     }
   }
+  if (lineStart == 0 && text.startsWith("\xEF\xBB\xBF"))
+    lineStart = 3;  // the byte-order mark takes no column
   for (std::size_t i = lineStart; i < end; ++i)
     if ((static_cast<unsigned char>(text[static_cast<qsizetype>(i)]) & 0xC0u) != 0x80u) ++where.column;
   return where;

@@ -1,7 +1,9 @@
 #include "forms/TextReader.h"
 
 #include <charconv>
+#include <cmath>
 #include <cstring>
+#include <limits>
 
 #include "forms/Encoding.h"
 
@@ -23,6 +25,25 @@ bool Is(QByteArrayView word, const char* keyword) {
   return word.size() == static_cast<qsizetype>(std::strlen(keyword)) &&
          qstrnicmp(word.data(), keyword, static_cast<size_t>(word.size())) == 0;
 }
+// A path may have blanks and directives behind its points.
+QByteArray WithoutBlanks(QByteArrayView path) {
+  QByteArray name;
+  bool directive = false;
+  for (const char c : path) {
+    directive = directive || c == '{';
+    if (!directive && !IsBlank(c)) name += c;
+    directive = directive && c != '}';
+  }
+  return name;
+}
+// Whether a number that fits no type is too small, not too large.
+bool IsTiny(const char* digits, const char* end) {
+  const char* exponent = std::find_if(digits, end, [](char c) { return c == 'e' || c == 'E'; });
+  if (exponent != end) return exponent[1] == '-';
+  const char* significant =
+      std::find_if(digits, end, [](char c) { return (c >= '1' && c <= '9') || c == '.'; });
+  return significant != end && *significant == '.';
+}
 std::optional<ObjectKind> KindOf(QByteArrayView word) {
   if (Is(word, "object")) return ObjectKind::Object;
   if (Is(word, "inherited")) return ObjectKind::Inherited;
@@ -30,6 +51,28 @@ std::optional<ObjectKind> KindOf(QByteArrayView word) {
   return {};
 }
 }  // namespace
+
+bool IsPath(QByteArrayView text) {
+  bool start = true;
+  for (const char c : text) {
+    if (start ? !IsIdentStart(c) : c != '.' && !IsIdentChar(c)) return false;
+    start = c == '.';
+  }
+  return !start;
+}
+
+bool IsPropertyPath(QByteArrayView text) {
+  const qsizetype point = text.indexOf('.');
+  const QByteArrayView word = point < 0 ? text : text.first(point);
+  return IsPath(text) && !Is(word, "end") && !KindOf(word);
+}
+
+bool IsHeaderName(QByteArrayView text) {
+  const auto plain = [](char c) { return IsIdentChar(c) || c == '%'; };
+  if (text.isEmpty() || !std::all_of(text.begin(), text.end(), plain)) return false;
+  const auto marks = std::count(text.begin(), text.end(), '%');
+  return marks ? marks % 2 == 0 : IsIdentStart(text[0]);
+}
 
 TextReader::TextReader(QByteArrayView text, std::size_t at)
     : begin_(text.data()), p_(text.data() + at), end_(text.data() + text.size()) {}
@@ -136,7 +179,10 @@ void TextReader::ReadDocument(Document& doc) {
   doc.template_ = directives_;
   Dialect& d = doc.dialect_;
   const char* firstEnd = static_cast<const char*>(std::memchr(begin_, '\n', static_cast<size_t>(end_ - begin_)));
-  if (firstEnd) d.eol = firstEnd != begin_ && firstEnd[-1] == '\r' ? "\r\n" : "\n";
+  if (firstEnd)
+    d.eol = firstEnd != begin_ && firstEnd[-1] == '\r' ? "\r\n" : "\n";
+  else if (std::memchr(begin_, '\r', static_cast<size_t>(end_ - begin_)))
+    d.eol = "\r";
   const int vcl = glued_ * 4 + coded39_ + blankIndex_;
   const int lcl = apart_ * 4 + doubledQuotes_ + tightIndex_;
   if (vcl != lcl) d.lcl = lcl > vcl;
@@ -207,7 +253,7 @@ std::unique_ptr<Object> TextReader::ReadObject(Document& doc, std::size_t nodeBe
 }
 
 // Properties are gathered in one scratch list and copied out at their exact number.
-void TextReader::ReadProperties(Document&, Object& object) {
+void TextReader::ReadProperties(Document& doc, Object& object) {
   scratch_.clear();
   for (;;) {
     const char* nodeStart = p_;
@@ -218,7 +264,9 @@ void TextReader::ReadProperties(Document&, Object& object) {
       p_ = nodeStart;
       break;
     }
-    const QByteArrayView name = PropertyPath();
+    QByteArrayView name = PropertyPath();
+    const auto foreign = [](char c) { return IsBlank(c) || c == '{'; };
+    if (std::any_of(name.begin(), name.end(), foreign)) name = doc.Intern(WithoutBlanks(name));
     Expect('=', "\"=\"");
     SkipBlanks();
     Span value;
@@ -256,7 +304,7 @@ void TextReader::ReadValue(Value* out, int depth) {
 // Decimal or hexadecimal; more than 64 bits are refused, the upper half of unsigned wraps to negative.
 std::int64_t TextReader::ReadInteger() {
   const char* start = p_;
-  const bool negative = *p_ == '-';
+  const bool negative = p_ != end_ && *p_ == '-';
   if (negative) ++p_;
   const int base = !negative && p_ != end_ && *p_ == '$' ? 16 : 10;
   if (base == 16) ++p_;
@@ -309,10 +357,22 @@ void TextReader::ReadNumber(Value* out) {
   }
   if (q != end_ && IsIdentChar(*q)) Fail(QStringLiteral("Unexpected %1 behind a number").arg(QLatin1Char(*q)), q);
   p_ = q;
-  if (!out) return;
+  // Only these can be too large; the rest is checked by its form alone.
+  if (!out && !suffix && digitsEnd - start < 1000 &&
+      !std::memchr(start, 'e', static_cast<size_t>(digitsEnd - start)) &&
+      !std::memchr(start, 'E', static_cast<size_t>(digitsEnd - start)))
+    return;
   long double v = 0;
-  if (std::from_chars(start, digitsEnd, v).ec == std::errc::result_out_of_range)
-    v = 0;  // underflow; overflow is caught below
+  if (std::from_chars(start, digitsEnd, v).ec == std::errc::result_out_of_range) {
+    if (!IsTiny(start, digitsEnd)) Fail(QStringLiteral("The number is too large"), start);
+    v = 0;
+  }
+  const long double limit = suffix == 's'   ? static_cast<long double>(std::numeric_limits<float>::max())
+                            : suffix == 'd' ? static_cast<long double>(std::numeric_limits<double>::max())
+                                            : std::numeric_limits<long double>::max();
+  if (std::fabs(v) > limit || (suffix == 'c' && !(v >= -0x1p63L && v < 0x1p63L)))
+    Fail(QStringLiteral("The number is too large"), start);
+  if (!out) return;
   switch (suffix) {
     case 's':
       *out = Value::Real(static_cast<float>(v), ValueType::Single);
@@ -324,7 +384,7 @@ void TextReader::ReadNumber(Value* out) {
       // The text shows the stored integer, which is the amount x 10000.
       *out = Value{};
       out->type = ValueType::Currency;
-      out->integer = v >= 9.2e18L || v <= -9.2e18L ? 0 : static_cast<std::int64_t>(v);
+      out->integer = static_cast<std::int64_t>(v);
       break;
     default:
       *out = Value::Real(v);
@@ -425,16 +485,14 @@ void TextReader::ReadIdent(Value* out) {
   }
   if (!out) return;
   const QByteArrayView word(start, p_);
-  *out = Value{};
   if (Is(word, "True"))
-    out->type = ValueType::True;
+    *out = Value::Boolean(true);
   else if (Is(word, "False"))
-    out->type = ValueType::False;
+    *out = Value::Boolean(false);
   else if (Is(word, "nil"))
-    out->type = ValueType::Nil;
+    *out = Value{};
   else
-    out->type = ValueType::Ident;
-  out->bytes = QByteArray::fromRawData(word.data(), word.size());
+    *out = Value::Identifier(QByteArray::fromRawData(word.data(), word.size()));
 }
 
 void TextReader::ReadSet(Value* out) {
@@ -518,7 +576,7 @@ void TextReader::ReadCollection(Value* out, int depth) {
       NamedValue property;
       ReadValue(out ? &property.value : nullptr, depth + 1);
       if (out) {
-        property.path = path.toByteArray();
+        property.path = WithoutBlanks(path);
         item.properties.push_back(std::move(property));
       }
     }

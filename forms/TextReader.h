@@ -12,6 +12,7 @@ class TextReader {
   void ReadDocument(Document& document);
   // Reads one value at the current place; with null it is only checked.
   void ReadValue(Value* out, int depth = 0);
+  void SkipBlanks();
   // Refuses anything but blanks up to the end.
   void ExpectEnd();
 
@@ -29,7 +30,6 @@ class TextReader {
   void ReadBinary(Value* out);
   std::int64_t ReadInteger();
 
-  void SkipBlanks();
   std::size_t NodeEnd();
   QByteArrayView PeekWord() const;
   QByteArrayView Word(const char* what);
@@ -55,5 +55,9 @@ class TextReader {
 
 bool IsIdentStart(char c);
 bool IsIdentChar(char c);
+// What the reader would take for an identifier with points, a property's name, a name in an object's header.
+bool IsPath(QByteArrayView text);
+bool IsPropertyPath(QByteArrayView text);
+bool IsHeaderName(QByteArrayView text);
 
 }  // namespace forms

@@ -19,8 +19,16 @@ QByteArray Chars(F&& convert) {
   return {buffer, end - buffer};
 }
 
+// At 1E15 and above always with an exponent: a longer run of digits alone would be read as an integer.
 QByteArray General(long double v, int digits) {
-  QByteArray text = Chars([&](char* b, char* e) { return std::to_chars(b, e, v, std::chars_format::general, digits).ptr; });
+  const auto shape = std::fabs(v) >= 1e15L ? std::chars_format::scientific : std::chars_format::general;
+  const int precision = shape == std::chars_format::general ? digits : digits - 1;
+  QByteArray text = Chars([&](char* b, char* e) { return std::to_chars(b, e, v, shape, precision).ptr; });
+  if (shape == std::chars_format::scientific) {
+    qsizetype end = text.indexOf('e');
+    while (text[end - 1] == '0') text.remove(--end, 1);
+    if (text[end - 1] == '.') text.remove(end - 1, 1);
+  }
   const qsizetype exponent = text.indexOf('e');
   if (exponent < 0) return text;
   QByteArray power = text.mid(exponent + 1);  // "+05" -> "5", "-05" -> "-5"
@@ -50,7 +58,6 @@ long double ParseReal(const QByteArray& text) {
 
 // The style's own form when it keeps the value, else as many digits as it takes.
 QByteArray RealText(long double v, const Dialect& style, int usefulDigits) {
-  if (!std::isfinite(v)) v = 0;  // the text form has no word for it
   if (style.fixedFloats && std::fabs(v) < 1e60L) {
     QByteArray text = Fixed18(v, 16);
     if (ParseReal(text) == v || usefulDigits <= 16) return text;
@@ -76,7 +83,17 @@ std::vector<char32_t> UnitsOf(const QByteArray& bytes) {
 }
 }  // namespace
 
+void TextWriter::Copy(QByteArrayView piece) {
+  if (piece.isEmpty()) return;
+  const bool neighbours = piece.data() == copiedEnd_ && out_.size() == sizeThen_;
+  if (!neighbours && IsIdentStart(piece[0])) FreshLine();
+  Raw(piece);
+  copiedEnd_ = piece.end();
+  sizeThen_ = out_.size();
+}
+
 void TextWriter::FreshLine() {
+  if (out_ == "\xEF\xBB\xBF") return;  // a byte-order mark is no part of the line
   if (!out_.isEmpty() && !out_.endsWith('\n') && !out_.endsWith('\r')) NewLine();
 }
 
@@ -163,17 +180,18 @@ void TextWriter::WriteValue(const Value& v, int level) {
 }
 
 void TextWriter::WriteReal(const Value& v) {
+  const long double real = std::isfinite(v.real) ? v.real : 0;  // the text form has no word for the others
   switch (v.type) {
     case ValueType::Single:
-      return Raw(General(static_cast<float>(v.real), 9) + "s");
+      return Raw(General(static_cast<float>(real), 9) + "s");
     case ValueType::Date:
-      return Raw(General(v.real, 17) + "d");
+      return Raw(General(real, 17) + "d");
     case ValueType::Currency:
       return Raw(QByteArray::number(static_cast<qlonglong>(v.integer)) + "c");
     case ValueType::Double:
-      return Raw(RealText(v.real, style_, 17));
+      return Raw(RealText(real, style_, 17));
     default:
-      return Raw(RealText(v.real, style_, 21));
+      return Raw(RealText(real, style_, 21));
   }
 }
 
@@ -269,22 +287,13 @@ QByteArray ValueToText(const Value& value, const Dialect& style, int level) {
   return std::move(writer).Result();
 }
 
-namespace {
-void Own(Value& v) {
-  v.bytes.detach();
-  v.bytes = QByteArray(v.bytes.constData(), v.bytes.size());
-  for (Value& item : v.items) Own(item);
-  for (CollectionItem& item : v.collection)
-    for (NamedValue& p : item.properties) Own(p.value);
-}
-}  // namespace
-
 Value TextToValue(QByteArrayView text) {
   TextReader reader(text);
+  reader.SkipBlanks();  // a string of several lines starts on a line of its own
   Value v;
   reader.ReadValue(&v);
   reader.ExpectEnd();
-  Own(v);
+  v.Own();
   return v;
 }
 

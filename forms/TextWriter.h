@@ -14,6 +14,8 @@ class TextWriter {
   // A value that starts on the current line; `level` is that of the property.
   void WriteValue(const Value& value, int level);
   void Raw(QByteArrayView text) { out_.append(text); }
+  // A piece of the source as it stands; on a new line where it would run into what now stands before it.
+  void Copy(QByteArrayView piece);
   // Starts a new line unless the output is at the start of one.
   void FreshLine();
   bool Empty() const { return out_.isEmpty(); }
@@ -30,6 +32,8 @@ class TextWriter {
 
   const Dialect& style_;
   QByteArray out_;
+  const char* copiedEnd_ = nullptr;  // in the source, of the last piece copied
+  qsizetype sizeThen_ = -1;          // of the output, behind it
 };
 
 // One value as it stands in a form file, on one line where the style allows.

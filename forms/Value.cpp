@@ -71,6 +71,13 @@ bool Value::operator==(const Value& o) const {
          items == o.items && elements == o.elements && collection == o.collection;
 }
 
+void Value::Own() {
+  bytes = QByteArray(bytes.constData(), bytes.size());
+  for (Value& item : items) item.Own();
+  for (CollectionItem& item : collection)
+    for (NamedValue& p : item.properties) p.value.Own();
+}
+
 ValueType IntegerTypeFor(std::int64_t v) {
   if (v >= INT8_MIN && v <= INT8_MAX) return ValueType::Int8;
   if (v >= INT16_MIN && v <= INT16_MAX) return ValueType::Int16;

@@ -63,6 +63,9 @@ struct Value {
   bool IsReal() const;
   bool IsString() const;
   bool operator==(const Value& other) const;
+
+  // Values read from a document refer to its source; from now on this one does not.
+  void Own();
 };
 
 struct NamedValue {

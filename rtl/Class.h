@@ -107,7 +107,9 @@ struct Member;
       return ToWire(std::invoke(getter, static_cast<const C&>(p)));       \
     }                                                                     \
     void Set(TPersistent& p, SetArg<Wire> v) const override {             \
-      if constexpr (!std::same_as<S, std::nullptr_t>)                     \
+      if constexpr (std::is_member_object_pointer_v<S>)                   \
+        std::invoke(setter, static_cast<C&>(p)) = FromWire(v);            \
+      else if constexpr (!std::same_as<S, std::nullptr_t>)                \
         std::invoke(setter, static_cast<C&>(p), FromWire(v));             \
     }                                                                     \
   };

@@ -68,6 +68,10 @@ void TCollection::Assign(const TPersistent* source) {
   const auto* other = As<TCollection>(source);
   if (!other) return TPersistent::Assign(source);
   if (other == this) return;
+  if (!other->itemClass_.InheritsFrom(itemClass_) && !itemClass_.InheritsFrom(other->itemClass_))
+    throw EConvertError(QStringLiteral("Cannot assign a collection of %1 to one of %2.")
+                            .arg(QString::fromLatin1(other->itemClass_.ClassName()),
+                                 QString::fromLatin1(itemClass_.ClassName())));
   BeginUpdate();
   try {
     Clear();

@@ -1,5 +1,7 @@
 #include "rtl/PropAccess.h"
 
+#include <limits>
+
 #include "rtl/Component.h"
 #include "rtl/Exceptions.h"
 
@@ -24,6 +26,17 @@ const TOrdAccess& OrdAccess(const TPersistent& instance, const TPropInfo& prop) 
 const TStrAccess& StrAccess(const TPersistent& instance, const TPropInfo& prop) {
   if (prop.Kind() == TTypeKind::tkString) return static_cast<const TStrAccess&>(*prop.Access);
   return AccessAs<TStrAccess>(instance, prop, "a string");
+}
+
+long double FloatLimit(TFloatType type) {
+  switch (type) {
+    case TFloatType::ftSingle:
+      return static_cast<long double>(std::numeric_limits<float>::max());
+    case TFloatType::ftCurrency:
+      return 922337203685477.5807L;
+    default:
+      return static_cast<long double>(std::numeric_limits<double>::max());
+  }
 }
 
 void CheckWritable(const TPersistent& instance, const TPropInfo& prop) {
@@ -52,7 +65,14 @@ long double GetFloatProp(const TPersistent& instance, const TPropInfo& prop) {
 }
 void SetFloatProp(TPersistent& instance, const TPropInfo& prop, long double value) {
   CheckWritable(instance, prop);
-  AccessAs<TFloatAccess>(instance, prop, "a floating-point").Set(instance, value);
+  const auto& access = AccessAs<TFloatAccess>(instance, prop, "a floating-point");
+  const long double limit = FloatLimit(prop.PropType->FloatType);
+  if (!(value >= -limit && value <= limit))  // refuses what is not a number, too
+    throw EPropertyError(QStringLiteral("%1 cannot be %2: values from -%3 to %3 are accepted.")
+                             .arg(Path(instance, prop))
+                             .arg(static_cast<double>(value))
+                             .arg(static_cast<double>(limit)));
+  access.Set(instance, value);
 }
 
 QString GetStrProp(const TPersistent& instance, const TPropInfo& prop) {

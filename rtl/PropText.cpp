@@ -1,5 +1,7 @@
 #include "rtl/PropText.h"
 
+#include <cctype>
+
 #include "rtl/ClassRegistry.h"
 #include "rtl/Component.h"
 #include "rtl/Exceptions.h"
@@ -36,7 +38,10 @@ std::int64_t IntegerFromText(const TTypeInfo& type, const QString& text) {
   if (const TIntegerConsts* consts = FindIntegerConsts(type); consts && consts->IdentToInt(text.toUtf8(), value))
     return value;
   bool ok = false;
-  value = text.startsWith(u'$') ? text.mid(1).toLongLong(&ok, 16) : text.toLongLong(&ok, 10);
+  if (!text.startsWith(u'$'))
+    value = text.toLongLong(&ok, 10);
+  else if (text.size() > 1 && isxdigit(text[1].toLatin1()))  // no sign, no blank
+    value = text.mid(1).toLongLong(&ok, 16);
   if (!ok) Refuse(type, text, QStringLiteral("a whole number is expected"));
   if (type.MinValue == INT32_MIN && value > INT32_MAX && value <= UINT32_MAX && text.startsWith(u'$'))
     value = static_cast<std::int32_t>(static_cast<std::uint32_t>(value));

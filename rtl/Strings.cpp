@@ -14,8 +14,9 @@ int TStrings::Add(const QString& line) {
 void TStrings::SetText(const QString& text) {
   QString unified = text;
   unified.replace(QStringLiteral("\r\n"), QStringLiteral("\n")).replace(u'\r', u'\n');
+  if (unified.isEmpty()) return Clear();
   if (unified.endsWith(u'\n')) unified.chop(1);
-  SetLines(unified.isEmpty() ? QStringList() : unified.split(u'\n'));
+  SetLines(unified.split(u'\n'));
 }
 
 void TStrings::Assign(const TPersistent* source) {

@@ -1,0 +1,4 @@
+﻿object WithMark: TWithMark
+  Caption = 'grün'
+  Left = 5
+end

@@ -1,0 +1,1 @@
+object Old: TOld  Left = 1  Lines.Strings = (    'a'    'b')end

@@ -1,0 +1,1 @@
+object A:TOne P=1 Q='x'R=[a]S={}object B:TTwo[0]L=('y')end inline C:TThree end end

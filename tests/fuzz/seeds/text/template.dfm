@@ -1,0 +1,4 @@
+object %FormName%: T%FormName%
+  Caption = '%Caption%'
+  Left = 0
+end
