@@ -25,6 +25,23 @@ std::int32_t DesignWordOf(TDesignPoint point);
 
 enum class TOperation { opInsert, opRemove };
 
+// A component's name as a key: no regard to case, and no copy of the text. Names are plain ASCII.
+struct TNameKey {
+  QStringView Text;
+  static constexpr char16_t Fold(QChar c) {
+    return static_cast<char16_t>(c >= u'A' && c <= u'Z' ? c.unicode() + (u'a' - u'A') : c.unicode());
+  }
+  friend bool operator==(TNameKey a, TNameKey b) {
+    return std::equal(a.Text.begin(), a.Text.end(), b.Text.begin(), b.Text.end(),
+                      [](QChar x, QChar y) { return Fold(x) == Fold(y); });
+  }
+  friend std::size_t qHash(TNameKey key, std::size_t seed = 0) {
+    std::size_t h = seed ^ 14695981039346656037u;  // FNV-1a
+    for (const QChar c : key.Text) h = (h ^ Fold(c)) * 1099511628211u;
+    return h ^ h >> 32;
+  }
+};
+
 class TComponent : public TPersistent {
   VRX_CLASS(TComponent)
  public:
@@ -88,6 +105,8 @@ class TComponent : public TPersistent {
   virtual void NameChanged(const QString& oldName);
 
  private:
+  void EnterName(TComponent& component);
+  void LeaveName(TComponent& component);
   int DesignLeft() const { return DesignPointOf(designInfo_).Left; }
   int DesignTop() const { return DesignPointOf(designInfo_).Top; }
   void SetDesignLeft(int left);
@@ -98,7 +117,7 @@ class TComponent : public TPersistent {
   std::vector<TComponent*> components_;
   std::vector<TComponent*> freeNotifies_;
   std::vector<std::pair<const TPropAccess*, QString>> methods_;
-  std::unique_ptr<QHash<QString, TComponent*>> names_;  // lower-case names of owned components
+  std::unique_ptr<QHash<TNameKey, TComponent*>> names_;  // of owned components; the keys are their names
   QString name_;
   std::int64_t tag_ = 0;
   std::int32_t designInfo_ = 0;
