@@ -1,6 +1,7 @@
 // Components: named, owned, streamed with a form.
 #pragma once
 #include <QHash>
+#include <utility>
 #include <vector>
 
 #include "rtl/Class.h"
@@ -91,6 +92,8 @@ class TComponent : public TPersistent {
   void FreeNotification(TComponent* component);
   void RemoveFreeNotification(TComponent* component);
   const std::vector<TComponent*>& FreeNotifies() const { return freeNotifies_; }
+  // Whether a published reference of this component leads to the other one.
+  bool RefersTo(const TComponent& other) const;
   // `component`, which asked or was asked for a free notification, is going: references to it are dropped.
   virtual void Notification(TComponent* component, TOperation operation);
 
@@ -133,7 +136,7 @@ bool IsValidIdent(QStringView name);
 template <class T>
 void SetReference(TComponent& holder, T*& member, T* value) {
   if (member == value) return;
-  if (member) member->RemoveFreeNotification(&holder);
-  member = value;
+  T* const before = std::exchange(member, value);
+  if (before && !holder.RefersTo(*before) && !before->RefersTo(holder)) before->RemoveFreeNotification(&holder);
   if (value) value->FreeNotification(&holder);
 }
