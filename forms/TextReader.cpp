@@ -268,11 +268,9 @@ void TextReader::ReadProperties(Document& doc, Object& object) {
     if (std::any_of(name.begin(), name.end(), foreign)) name = doc.Intern(WithoutBlanks(name));
     Expect('=', "\"=\"");
     SkipBlanks();
-    Span value;
-    value.begin = static_cast<std::uint32_t>(Offset());
+    const auto valueBegin = static_cast<std::uint32_t>(Offset());
     ReadValue(nullptr);
-    value.end = static_cast<std::uint32_t>(Offset());
-    scratch_.emplace_back(name, Span{nodeBegin, static_cast<std::uint32_t>(NodeEnd())}, value);
+    scratch_.emplace_back(name, Span{nodeBegin, static_cast<std::uint32_t>(NodeEnd())}, valueBegin);
   }
   object.properties.reserve(scratch_.size());
   for (Property& p : scratch_) object.properties.push_back(std::move(p));
