@@ -113,8 +113,7 @@ QByteArrayView TextReader::PeekWord() const {
   return {p_, q};
 }
 
-QByteArrayView TextReader::Word(const char* what) {
-  const QByteArrayView word = PeekWord();
+QByteArrayView TextReader::Take(QByteArrayView word, const char* what) {
   if (word.isEmpty())
     Fail(QStringLiteral("%1 expected, but %2 found").arg(QLatin1StringView(what), QString::fromLatin1(Here())));
   if (word.size() > 255) Fail(QStringLiteral("%1 is longer than 255 characters").arg(QLatin1StringView(what)));
@@ -154,9 +153,9 @@ std::size_t TextReader::NodeEnd() {
   return Offset();
 }
 
-QByteArrayView TextReader::PropertyPath() {
+QByteArrayView TextReader::PropertyPath(QByteArrayView firstWord) {
   const char* start = p_;
-  Word("A property name");
+  Take(firstWord, "A property name");
   while (p_ != end_ && *p_ == '.') {
     ++p_;
     SkipBlanks();
@@ -263,16 +262,14 @@ void TextReader::ReadProperties(Document& doc, Object& object) {
       p_ = nodeStart;
       break;
     }
-    QByteArrayView name = PropertyPath();
+    QByteArrayView name = PropertyPath(word);
     const auto foreign = [](char c) { return IsBlank(c) || c == '{'; };
-    if (std::any_of(name.begin(), name.end(), foreign)) name = doc.Intern(WithoutBlanks(name));
+    if (name.size() > word.size() && std::any_of(name.begin(), name.end(), foreign)) name = doc.Intern(WithoutBlanks(name));
     Expect('=', "\"=\"");
     SkipBlanks();
-    Span value;
-    value.begin = static_cast<std::uint32_t>(Offset());
+    const auto valueBegin = static_cast<std::uint32_t>(Offset());
     ReadValue(nullptr);
-    value.end = static_cast<std::uint32_t>(Offset());
-    scratch_.emplace_back(name, Span{nodeBegin, static_cast<std::uint32_t>(NodeEnd())}, value);
+    scratch_.emplace_back(name, Span{nodeBegin, static_cast<std::uint32_t>(NodeEnd())}, valueBegin);
   }
   object.properties.reserve(scratch_.size());
   for (Property& p : scratch_) object.properties.push_back(std::move(p));
@@ -317,7 +314,24 @@ std::int64_t TextReader::ReadInteger() {
   return static_cast<std::int64_t>(negative ? 0 - magnitude : magnitude);
 }
 
+// Nearly all numbers are a few decimal digits; others are left to the general way.
+bool TextReader::ReadShortInteger(Value* out) {
+  const bool negative = *p_ == '-';
+  const char* digits = p_ + (negative ? 1 : 0);
+  const char* q = digits;
+  std::int64_t v = 0;
+  while (q != end_ && IsDigit(*q) && q - digits < 18) v = v * 10 + (*q++ - '0');
+  if (q == digits || (q != end_ && (IsIdentChar(*q) || *q == '.'))) return false;
+  p_ = q;
+  if (!out) return true;
+  if (negative) v = -v;
+  out->Reset(IntegerTypeFor(v));
+  out->integer = v;
+  return true;
+}
+
 void TextReader::ReadNumber(Value* out) {
+  if (ReadShortInteger(out)) return;
   const char* start = p_;
   const char* q = p_;
   if (*q == '-') ++q;
@@ -527,7 +541,7 @@ void TextReader::ReadSet(Value* out) {
   for (;;) {
     SkipBlanks();
     const QByteArrayView word = Word("A set element");
-    if (out) out->elements.append(word.toByteArray());
+    if (out) out->elements.append(QByteArray::fromRawData(word.data(), word.size()));
     SkipBlanks();
     if (p_ != end_ && *p_ == ']') break;
     if (p_ == end_ || *p_ != ',')
@@ -591,7 +605,7 @@ void TextReader::ReadCollection(Value* out, int depth) {
       if (word.isEmpty())
         Fail(QStringLiteral("A property or \"end\" expected in a collection item, but %1 found")
                  .arg(QString::fromLatin1(Here())));
-      const QByteArrayView path = PropertyPath();
+      const QByteArrayView path = PropertyPath(word);
       Expect('=', "\"=\"");
       SkipBlanks();
       NamedValue property;

@@ -24,6 +24,7 @@ class TextReader {
   std::unique_ptr<Object> ReadObject(Document& document, std::size_t nodeBegin, int depth);
   void ReadProperties(Document& document, Object& object);
   void ReadNumber(Value* out);
+  bool ReadShortInteger(Value* out);
   void ReadString(Value* out);
   bool ReadPlainString(Value* out);
   void ReadIdent(Value* out);
@@ -35,9 +36,10 @@ class TextReader {
 
   std::size_t NodeEnd();
   QByteArrayView PeekWord() const;
-  QByteArrayView Word(const char* what);
+  QByteArrayView Take(QByteArrayView word, const char* what);
+  QByteArrayView Word(const char* what) { return Take(PeekWord(), what); }
   QByteArrayView HeaderWord(const char* what);
-  QByteArrayView PropertyPath();
+  QByteArrayView PropertyPath(QByteArrayView firstWord);
   void Expect(char c, const char* what);
   std::size_t Offset() const { return static_cast<std::size_t>(p_ - begin_); }
   QByteArray Here() const;
