@@ -16,6 +16,9 @@
 #include "vcl/ExtCtrls.h"
 #include "vcl/StdCtrls.h"
 
+// Forms are shown as texts when they differ.
+inline void PrintTo(const QByteArray& bytes, std::ostream* out) { *out << bytes.toStdString(); }
+
 namespace ide {
 
 inline void RegisterAll() {
@@ -126,7 +129,7 @@ end
 )";
 
 // Everything the components say about themselves, as one text.
-inline QByteArray StateOf(const FormSession& session) {
+inline std::string StateOf(const FormSession& session) {
   QByteArray state;
   for (const TComponent* c : session.AllComponents()) {
     const TComponent* parent = c->GetParentComponent();
@@ -135,9 +138,9 @@ inline QByteArray StateOf(const FormSession& session) {
     for (const forms::StoredValue& v : forms::PropertyValues(*c, session.Document(), true))
       state += "  " + v.path + " = " + forms::ValueToText(v.value, {}) + '\n';
   }
-  return state;
+  return state.toStdString();
 }
-inline QByteArray StateOf(const QByteArray& bytes) { return StateOf(*FormSession::FromBytes(bytes)); }
+inline std::string StateOf(const QByteArray& bytes) { return StateOf(*FormSession::FromBytes(bytes)); }
 
 // The lines that only one of the two texts has, in order, marked "-" and "+".
 inline QByteArrayList ChangedLines(const QByteArray& before, const QByteArray& after) {
@@ -181,7 +184,7 @@ class SessionTest : public testing::Test {
     ASSERT_TRUE(session_->CanUndo());
     ASSERT_FALSE(session_->CanRedo());
     const QByteArray edited = session_->Bytes();
-    const QByteArray editedState = StateOf(*session_);
+    const std::string editedState = StateOf(*session_);
     EXPECT_NE(edited, Sample);
     for (int round = 0; round < 2; ++round) {
       session_->Undo();
@@ -197,7 +200,7 @@ class SessionTest : public testing::Test {
   QByteArray Changes() const { return ChangedLines(Sample, session_->Bytes()).join('|'); }
 
   std::unique_ptr<FormSession> session_;
-  QByteArray state_;
+  std::string state_;
 };
 
 }  // namespace ide
