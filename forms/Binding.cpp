@@ -14,7 +14,8 @@ PropertyTarget FindTarget(TPersistent& root, QByteArrayView path) {
   for (;;) {
     const qsizetype dot = path.indexOf('.');
     if (dot < 0) {
-      if (auto* strings = As<TStrings>(instance); strings && path.compare(QByteArrayView("Strings"), Qt::CaseInsensitive) == 0)
+      constexpr QByteArrayView content("Strings");
+      if (path.size() == content.size() && path.compare(content, Qt::CaseInsensitive) == 0 && As<TStrings>(instance))
         return {instance, nullptr};
       const TPropInfo* prop = instance->ClassType().FindProp(path);
       return prop ? PropertyTarget{instance, prop} : PropertyTarget{};

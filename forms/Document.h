@@ -28,12 +28,14 @@ class Property {
  public:
   Property() = default;
   Property(QByteArrayView name, Span node, Span value) : name_(name), node_(node), value_(value) {}
-  // A property that is not in the source. The name is interned by the document.
-  Property(QByteArrayView internedName, Value value)
-      : name_(internedName), edited_(std::make_unique<Value>(std::move(value))) {}
+  // A property that is not in the source. The name is interned by the document; `lead` are the blank lines of the
+  // source that stand above it.
+  Property(QByteArrayView internedName, Value value, Span lead)
+      : name_(internedName), node_(lead), edited_(std::make_unique<Value>(std::move(value))) {}
 
   QByteArrayView Name() const { return name_; }
   bool FromSource() const { return !edited_; }
+  // The whole node in the source; of an edited property, the blank lines above it.
   Span Node() const { return node_; }
   Span SourceValue() const { return value_; }
   const Value* Edited() const { return edited_.get(); }
@@ -117,7 +119,8 @@ class Document {
   // A string value the way this file keeps strings.
   Value MakeText(const QString& text) const;
   // A property that carries `value` and is not from the source.
-  Property MakeProperty(QByteArrayView name, Value value);
+  // It can take over the blank lines above the one that it replaces.
+  Property MakeProperty(QByteArrayView name, Value value, const Property* replaced = nullptr);
 
   // The document in its own form: untouched parts are copied.
   QByteArray Write() const;

@@ -4,13 +4,11 @@
 #include <cmath>
 #include <cstring>
 #include <limits>
+#include <string_view>
 
 #include "forms/Encoding.h"
 
 namespace forms {
-
-bool IsIdentStart(char c) { return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || c == '_'; }
-bool IsIdentChar(char c) { return IsIdentStart(c) || (c >= '0' && c <= '9'); }
 
 namespace {
 bool IsBlank(char c) { return c == ' ' || c == '\t' || c == '\r' || c == '\n'; }
@@ -21,9 +19,10 @@ int HexDigit(char c) {
   if (c >= 'A' && c <= 'F') return c - 'A' + 10;
   return -1;
 }
-bool Is(QByteArrayView word, const char* keyword) {
-  return word.size() == static_cast<qsizetype>(std::strlen(keyword)) &&
-         qstrnicmp(word.data(), keyword, static_cast<size_t>(word.size())) == 0;
+// No regard to case; the keyword is in lower case.
+bool Is(QByteArrayView word, std::string_view keyword) {
+  return word.size() == static_cast<qsizetype>(keyword.size()) &&
+         std::equal(word.begin(), word.end(), keyword.begin(), [](char c, char k) { return (c | 0x20) == k; });
 }
 // A path may have blanks and directives behind its points.
 QByteArray WithoutBlanks(QByteArrayView path) {
@@ -352,7 +351,10 @@ void TextReader::ReadNumber(Value* out) {
     const std::int64_t v = ReadInteger();
     if (p_ != end_ && IsIdentChar(*p_))
       Fail(QStringLiteral("\"%1\" is not a number").arg(QString::fromLatin1(start, p_ - start + 1)), start);
-    if (out) *out = Value::Integer(v);
+    if (out) {
+      out->Reset(IntegerTypeFor(v));
+      out->integer = v;
+    }
     return;
   }
   if (q != end_ && IsIdentChar(*q)) Fail(QStringLiteral("Unexpected %1 behind a number").arg(QLatin1Char(*q)), q);
@@ -391,7 +393,25 @@ void TextReader::ReadNumber(Value* out) {
   }
 }
 
+// Nearly all strings are one run without apostrophes on one line; others are left to the general way.
+bool TextReader::ReadPlainString(Value* out) {
+  if (*p_ != '\'') return false;
+  const char* q = p_ + 1;
+  while (q != end_ && *q >= ' ' && *q != '\'' && static_cast<unsigned char>(*q) < 128) ++q;
+  if (q == end_ || *q != '\'') return false;
+  const char* next = q + 1;
+  while (next != end_ && IsBlank(*next)) ++next;
+  if (next != end_ && std::strchr("'#+{", *next)) return false;
+  if (out) {
+    out->Reset(q - p_ - 1 <= 255 ? ValueType::String : ValueType::LString);
+    out->bytes = QByteArray::fromRawData(p_ + 1, q - p_ - 1);
+  }
+  p_ = q + 1;
+  return true;
+}
+
 void TextReader::ReadString(Value* out) {
+  if (ReadPlainString(out)) return;
   bool wide = false;
   std::vector<std::pair<bool, QByteArray>> parts;  // (is a character code, text or code)
   for (;;) {
@@ -485,19 +505,20 @@ void TextReader::ReadIdent(Value* out) {
   }
   if (!out) return;
   const QByteArrayView word(start, p_);
-  if (Is(word, "True"))
-    *out = Value::Boolean(true);
-  else if (Is(word, "False"))
-    *out = Value::Boolean(false);
+  if (Is(word, "true"))
+    out->Reset(ValueType::True);
+  else if (Is(word, "false"))
+    out->Reset(ValueType::False);
   else if (Is(word, "nil"))
-    *out = Value{};
+    out->Reset(ValueType::Nil);
   else
-    *out = Value::Identifier(QByteArray::fromRawData(word.data(), word.size()));
+    out->Reset(ValueType::Ident);
+  if (out->type == ValueType::Ident) out->bytes = QByteArray::fromRawData(word.data(), word.size());
 }
 
 void TextReader::ReadSet(Value* out) {
   ++p_;
-  if (out) *out = Value::SetOf({});
+  if (out) out->Reset(ValueType::Set);
   SkipBlanks();
   if (p_ != end_ && *p_ == ']') {
     ++p_;

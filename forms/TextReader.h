@@ -1,5 +1,7 @@
 // The text form: one grammar for checking a whole file and for decoding one value.
 #pragma once
+#include <array>
+
 #include "forms/Document.h"
 
 namespace forms {
@@ -23,6 +25,7 @@ class TextReader {
   void ReadProperties(Document& document, Object& object);
   void ReadNumber(Value* out);
   void ReadString(Value* out);
+  bool ReadPlainString(Value* out);
   void ReadIdent(Value* out);
   void ReadSet(Value* out);
   void ReadList(Value* out, int depth);
@@ -53,8 +56,15 @@ class TextReader {
   int highBytes_ = 0;
 };
 
-bool IsIdentStart(char c);
-bool IsIdentChar(char c);
+constexpr bool IsIdentStart(char c) { return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || c == '_'; }
+// Asked for every character of a file.
+inline constexpr std::array<bool, 256> IdentChars = [] {
+  std::array<bool, 256> table{};
+  for (unsigned c = 0; c < 128; ++c)
+    table[c] = IsIdentStart(static_cast<char>(c)) || (c >= '0' && c <= '9');
+  return table;
+}();
+constexpr bool IsIdentChar(char c) { return IdentChars[static_cast<unsigned char>(c)]; }
 // What the reader would take for an identifier with points, a property's name, a name in an object's header.
 bool IsPath(QByteArrayView text);
 bool IsPropertyPath(QByteArrayView text);

@@ -53,6 +53,17 @@ Value Value::SetOf(QByteArrayList elements) {
   return r;
 }
 
+void Value::Reset(ValueType newType) {
+  type = newType;
+  integer = 0;
+  real = 0;
+  bytes = QByteArray();
+  if (!wide.isNull()) wide = QString();
+  items.clear();
+  if (!elements.isEmpty()) elements.clear();
+  collection.clear();
+}
+
 bool Value::IsInteger() const {
   return type == ValueType::Int8 || type == ValueType::Int16 || type == ValueType::Int32 ||
          type == ValueType::Int64 || type == ValueType::QWord;

@@ -59,6 +59,9 @@ struct Value {
   static Value Data(QByteArray bytes);
   static Value SetOf(QByteArrayList elements);
 
+  // Makes it an empty value of the type; cheaper than assigning one, for values that are used again and again.
+  void Reset(ValueType newType);
+
   bool IsInteger() const;
   bool IsReal() const;
   bool IsString() const;

@@ -62,7 +62,7 @@ std::vector<TComponent*> TComponent::GetChildren() const {
 }
 
 TComponent* TComponent::FindComponent(const QString& name) const {
-  return names_ && !name.isEmpty() ? names_->value(name.toLower()) : nullptr;
+  return names_ && !name.isEmpty() ? names_->value({name}) : nullptr;
 }
 
 int TComponent::ComponentIndex() const {
@@ -80,10 +80,17 @@ void TComponent::InsertComponent(TComponent* component) {
   components_.push_back(component);
   component->owner_ = this;
   component->designing_ = component->designing_ || designing_;
-  if (!component->name_.isEmpty()) {
-    if (!names_) names_ = std::make_unique<QHash<QString, TComponent*>>();
-    names_->insert(component->name_.toLower(), component);
-  }
+  EnterName(*component);
+}
+
+void TComponent::EnterName(TComponent& component) {
+  if (component.name_.isEmpty()) return;
+  if (!names_) names_ = std::make_unique<QHash<TNameKey, TComponent*>>();
+  names_->insert({component.name_}, &component);
+}
+
+void TComponent::LeaveName(TComponent& component) {
+  if (names_ && !component.name_.isEmpty()) names_->remove({component.name_});
 }
 
 void TComponent::RemoveComponent(TComponent* component) {
@@ -91,7 +98,7 @@ void TComponent::RemoveComponent(TComponent* component) {
   if (it == components_.rend()) return;
   components_.erase(std::next(it).base());
   component->owner_ = nullptr;
-  if (names_ && !component->name_.isEmpty()) names_->remove(component->name_.toLower());
+  LeaveName(*component);
 }
 
 void TComponent::SetName(const QString& name) {
@@ -101,19 +108,16 @@ void TComponent::SetName(const QString& name) {
         QStringLiteral("\"%1\" is not a valid component name: use letters, digits and underscores, starting "
                        "with a letter or underscore.")
             .arg(name));
-  const QString key = name.toLower();
-  const QString oldKey = name_.toLower();
-  if (owner_ && !name.isEmpty() && key != oldKey &&
-      (owner_->FindComponent(name) || owner_->name_.toLower() == key))
+  const auto taken = [&](const TComponent& scope) {
+    const TComponent* found = scope.FindComponent(name);
+    return found && found != this;
+  };
+  const bool ownersName = owner_ && name.compare(owner_->name_, Qt::CaseInsensitive) == 0;
+  if (!name.isEmpty() && (taken(*this) || ownersName || (owner_ && taken(*owner_))))
     throw EComponentError(QStringLiteral("A component named \"%1\" already exists.").arg(name));
-  if (!name.isEmpty() && FindComponent(name))
-    throw EComponentError(QStringLiteral("A component named \"%1\" already exists.").arg(name));
-  if (owner_) {
-    if (!owner_->names_) owner_->names_ = std::make_unique<QHash<QString, TComponent*>>();
-    if (!oldKey.isEmpty()) owner_->names_->remove(oldKey);
-    if (!key.isEmpty()) owner_->names_->insert(key, this);
-  }
+  if (owner_) owner_->LeaveName(*this);
   const QString oldName = std::exchange(name_, name);
+  if (owner_) owner_->EnterName(*this);
   NameChanged(oldName);
 }
 
@@ -131,6 +135,13 @@ void TComponent::RemoveFreeNotification(TComponent* component) {
   if (it == freeNotifies_.end()) return;
   freeNotifies_.erase(it);
   component->RemoveFreeNotification(this);
+}
+
+bool TComponent::RefersTo(const TComponent& other) const {
+  const auto& all = ClassType().Properties();
+  return std::any_of(all.begin(), all.end(), [&](const TPropInfo* prop) {
+    return IsComponentRef(*prop) && GetObjectProp(*this, *prop) == &other;
+  });
 }
 
 void TComponent::Notification(TComponent* component, TOperation operation) {

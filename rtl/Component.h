@@ -1,6 +1,7 @@
 // Components: named, owned, streamed with a form.
 #pragma once
 #include <QHash>
+#include <utility>
 #include <vector>
 
 #include "rtl/Class.h"
@@ -24,6 +25,23 @@ TDesignPoint DesignPointOf(std::int32_t word);
 std::int32_t DesignWordOf(TDesignPoint point);
 
 enum class TOperation { opInsert, opRemove };
+
+// A component's name as a key: no regard to case, and no copy of the text. Names are plain ASCII.
+struct TNameKey {
+  QStringView Text;
+  static constexpr char16_t Fold(QChar c) {
+    return static_cast<char16_t>(c >= u'A' && c <= u'Z' ? c.unicode() + (u'a' - u'A') : c.unicode());
+  }
+  friend bool operator==(TNameKey a, TNameKey b) {
+    return std::equal(a.Text.begin(), a.Text.end(), b.Text.begin(), b.Text.end(),
+                      [](QChar x, QChar y) { return Fold(x) == Fold(y); });
+  }
+  friend std::size_t qHash(TNameKey key, std::size_t seed = 0) {
+    std::size_t h = seed ^ 14695981039346656037u;  // FNV-1a
+    for (const QChar c : key.Text) h = (h ^ Fold(c)) * 1099511628211u;
+    return h ^ h >> 32;
+  }
+};
 
 class TComponent : public TPersistent {
   VRX_CLASS(TComponent)
@@ -70,11 +88,13 @@ class TComponent : public TPersistent {
   virtual void BeginLoading() { loading_ = true; }
   virtual void Loaded() { loading_ = false; }
 
-  // `component` will be told when this one is freed; components of one owner need not ask.
+  // From now on the two tell each other when one of them is freed.
   void FreeNotification(TComponent* component);
   void RemoveFreeNotification(TComponent* component);
   const std::vector<TComponent*>& FreeNotifies() const { return freeNotifies_; }
-  // Somebody was inserted into or removed from this component's surroundings; drop references to it.
+  // Whether a published reference of this component leads to the other one.
+  bool RefersTo(const TComponent& other) const;
+  // `component`, which asked or was asked for a free notification, is going: references to it are dropped.
   virtual void Notification(TComponent* component, TOperation operation);
 
   // Handler names of events.
@@ -82,11 +102,14 @@ class TComponent : public TPersistent {
   void SetMethodName(const TPropInfo& event, const QString& handler);
 
  protected:
+  bool AssignsProperty(const TPropInfo& prop) const override { return prop.Name != "Name"; }
   void DoChanged() override {}
   // Called for derived classes after a new name is in place.
   virtual void NameChanged(const QString& oldName);
 
  private:
+  void EnterName(TComponent& component);
+  void LeaveName(TComponent& component);
   int DesignLeft() const { return DesignPointOf(designInfo_).Left; }
   int DesignTop() const { return DesignPointOf(designInfo_).Top; }
   void SetDesignLeft(int left);
@@ -97,7 +120,7 @@ class TComponent : public TPersistent {
   std::vector<TComponent*> components_;
   std::vector<TComponent*> freeNotifies_;
   std::vector<std::pair<const TPropAccess*, QString>> methods_;
-  std::unique_ptr<QHash<QString, TComponent*>> names_;  // lower-case names of owned components
+  std::unique_ptr<QHash<TNameKey, TComponent*>> names_;  // of owned components; the keys are their names
   QString name_;
   std::int64_t tag_ = 0;
   std::int32_t designInfo_ = 0;
@@ -113,7 +136,7 @@ bool IsValidIdent(QStringView name);
 template <class T>
 void SetReference(TComponent& holder, T*& member, T* value) {
   if (member == value) return;
-  if (member) member->RemoveFreeNotification(&holder);
-  member = value;
+  T* const before = std::exchange(member, value);
+  if (before && !holder.RefersTo(*before) && !before->RefersTo(holder)) before->RemoveFreeNotification(&holder);
   if (value) value->FreeNotification(&holder);
 }

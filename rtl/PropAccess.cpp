@@ -27,6 +27,10 @@ const TStrAccess& StrAccess(const TPersistent& instance, const TPropInfo& prop) 
   if (prop.Kind() == TTypeKind::tkString) return static_cast<const TStrAccess&>(*prop.Access);
   return AccessAs<TStrAccess>(instance, prop, "a string");
 }
+const TObjectAccess& ObjectAccess(const TPersistent& instance, const TPropInfo& prop) {
+  if (prop.Kind() == TTypeKind::tkClass) return static_cast<const TObjectAccess&>(*prop.Access);
+  return AccessAs<TObjectAccess>(instance, prop, "an object");
+}
 
 long double FloatLimit(TFloatType type) {
   switch (type) {
@@ -84,10 +88,10 @@ void SetStrProp(TPersistent& instance, const TPropInfo& prop, const QString& val
 }
 
 TPersistent* GetObjectProp(const TPersistent& instance, const TPropInfo& prop) {
-  return AccessAs<TObjectAccess>(instance, prop, "an object").Get(instance);
+  return ObjectAccess(instance, prop).Get(instance);
 }
 void SetObjectProp(TPersistent& instance, const TPropInfo& prop, TPersistent* value) {
-  const auto& access = AccessAs<TObjectAccess>(instance, prop, "an object");
+  const auto& access = ObjectAccess(instance, prop);
   if (value && !value->InheritsFrom(prop.PropType->ClassType()))
     throw EPropertyError(QStringLiteral("%1 needs a %2, not a %3.")
                              .arg(Path(instance, prop), QString::fromLatin1(prop.PropType->Name),
