@@ -122,6 +122,8 @@ void TStringListProperty::Edit() {
   dialog.resize(480, 360);
   ApplyIDETheme(dialog);
   if (dialog.exec() != QDialog::Accepted) return;
-  copy.SetText(text->toPlainText());
+  // Exactly the lines on the screen, an empty last one included.
+  const QString all = text->toPlainText();
+  copy.SetLines(all.isEmpty() ? QStringList() : all.split(u'\n'));
   SetOrdValue(&copy);
 }

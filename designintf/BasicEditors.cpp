@@ -38,11 +38,10 @@ QString TSetElementProperty::GetValue() const { return Has(0) ? QStringLiteral("
 void TSetElementProperty::SetValue(const QString& value) { Set(TextToOrd(TypeInfoOf<bool>::Get(), value) != 0); }
 void TSetElementProperty::Set(bool on) {
   const std::int64_t bit = std::int64_t{1} << element_;
-  for (const TInstProp& p : Props()) {
+  ChangeAll([&](const TInstProp& p) {
     const std::int64_t bits = GetOrdProp(*p.Instance, *p.PropInfo);
     SetOrdProp(*p.Instance, *p.PropInfo, on ? bits | bit : bits & ~bit);
-  }
-  Modified();
+  });
 }
 void TSetElementProperty::GetValues(const TGetStrProc& proc) const {
   proc(QStringLiteral("False"));

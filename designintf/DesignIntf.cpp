@@ -129,12 +129,14 @@ void RegisterActions(const QString& category, const std::vector<const TClass*>& 
   TRegistration& row = Record(TRegistrationKind::Actions);
   row.PageOrCategory = category;
   row.Classes = classes;
+  Changed();
 }
 
 void RegisterComponentEditor(const TClass& componentClass, TComponentEditorClass editor) {
   TRegistration& row = Record(TRegistrationKind::ComponentEditor);
   row.ComponentClass = &componentClass;
   row.ComponentEditor = std::move(editor);
+  Changed();
 }
 
 void RegisterPropertyEditor(const TTypeInfo& type, const TClass* componentClass, const QByteArray& propertyName,
@@ -144,6 +146,7 @@ void RegisterPropertyEditor(const TTypeInfo& type, const TClass* componentClass,
   row.ComponentClass = componentClass;
   row.PropertyName = propertyName;
   row.PropertyEditor = std::move(editor);
+  Changed();
 }
 
 void RegisterPropertiesInCategory(const QString& category, const TClass& componentClass, const QStringList& properties) {
@@ -151,6 +154,7 @@ void RegisterPropertiesInCategory(const QString& category, const TClass& compone
   row.PageOrCategory = category;
   row.ComponentClass = &componentClass;
   row.Properties = properties;
+  Changed();
 }
 
 QString LoadResString(TResString id) {

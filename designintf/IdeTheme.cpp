@@ -6,20 +6,24 @@
 
 namespace {
 constexpr char Themed[] = "ideThemed";
+constexpr char LeftOut[] = "ideLeftOut";  // has the plain palette because a filter refused it
 
-void Apply(QWidget& widget, const std::function<bool(const QWidget&)>& needTheme) {
-  if (needTheme && !needTheme(widget)) {
-    widget.setProperty(Themed, false);
-    // Palettes are handed down to children; the ones it has now become its own.
+void Mark(QWidget& widget, const std::function<bool(const QWidget&)>& needTheme, bool parentThemed) {
+  const bool themed = parentThemed && (!needTheme || needTheme(widget));
+  widget.setProperty(Themed, themed);
+  // Palettes are handed down to children, so the outermost one that is left out decides.
+  if (parentThemed && !themed) {
     widget.setPalette(QApplication::style()->standardPalette());
-    return;
+    widget.setProperty(LeftOut, true);
+  } else if (themed && widget.property(LeftOut).toBool()) {
+    widget.setPalette(QPalette());
+    widget.setProperty(LeftOut, false);
   }
-  widget.setProperty(Themed, true);
   for (QObject* child : widget.children())
-    if (auto* inner = qobject_cast<QWidget*>(child); inner && !inner->isWindow()) Apply(*inner, needTheme);
+    if (auto* inner = qobject_cast<QWidget*>(child); inner && !inner->isWindow()) Mark(*inner, needTheme, themed);
 }
 }  // namespace
 
-void ApplyIDETheme(QWidget& window, const std::function<bool(const QWidget&)>& needTheme) { Apply(window, needTheme); }
+void ApplyIDETheme(QWidget& window, const std::function<bool(const QWidget&)>& needTheme) { Mark(window, needTheme, true); }
 
 bool IsIDEThemed(const QWidget& widget) { return widget.property(Themed).toBool(); }

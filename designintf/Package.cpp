@@ -47,5 +47,6 @@ QJsonObject TPackageRecord::ToJson() const {
   o[QStringLiteral("flags")] = flags;
   o[QStringLiteral("requires")] = QJsonArray::fromStringList(Requires);
   o[QStringLiteral("contains")] = contains;
+  if (!Provides.isEmpty()) o[QStringLiteral("provides")] = QJsonArray::fromStringList(Provides);
   return o;
 }

@@ -10,17 +10,44 @@ TPropertyAttributes TPropertyEditor::GetAttributes() const {
 QString TPropertyEditor::GetName() const { return QString::fromLatin1(GetPropInfo().Name); }
 QString TPropertyEditor::GetValue() const { return GetPropText(*GetComponent(0), GetPropInfo()); }
 
-// Either all components take the value or none does.
 void TPropertyEditor::SetValue(const QString& value) {
-  std::vector<QString> before;
+  ChangeAll([&](const TInstProp& p) { SetPropText(*p.Instance, *p.PropInfo, value); });
+}
+
+namespace {
+// What gives the property back the value it has now. A value object is all of one type and refuses at once.
+std::function<void()> Restorer(const TInstProp& p) {
+  TPersistent& instance = *p.Instance;
+  const TPropInfo& prop = *p.PropInfo;
+  switch (prop.Kind()) {
+    case TTypeKind::tkFloat:
+      return [&, v = GetFloatProp(instance, prop)] { SetFloatProp(instance, prop, v); };
+    case TTypeKind::tkString:
+      return [&, v = GetStrProp(instance, prop)] { SetStrProp(instance, prop, v); };
+    case TTypeKind::tkMethod:
+      return [&, v = GetMethodProp(instance, prop)] { SetMethodProp(instance, prop, v); };
+    case TTypeKind::tkClass:
+      if (!IsComponentRef(prop)) break;
+      return [&, v = GetObjectProp(instance, prop)] { SetObjectProp(instance, prop, v); };
+    case TTypeKind::tkUnknown:
+      break;
+    default:
+      return [&, v = GetOrdProp(instance, prop)] { SetOrdProp(instance, prop, v); };
+  }
+  return [] {};
+}
+}  // namespace
+
+void TPropertyEditor::ChangeAll(const std::function<void(const TInstProp&)>& change) {
+  std::vector<std::function<void()>> before;
   try {
     for (const TInstProp& p : props_) {
-      const QString old = GetPropText(*p.Instance, *p.PropInfo);
-      SetPropText(*p.Instance, *p.PropInfo, value);
-      before.push_back(old);
+      auto restore = Restorer(p);
+      change(p);
+      before.push_back(std::move(restore));
     }
   } catch (...) {
-    for (std::size_t i = 0; i < before.size(); ++i) SetPropText(*props_[i].Instance, *props_[i].PropInfo, before[i]);
+    for (const auto& restore : before) restore();
     throw;
   }
   Modified();
@@ -71,22 +98,17 @@ QString TPropertyEditor::GetMethodValueAt(int i) const {
 }
 
 void TPropertyEditor::SetOrdValue(std::int64_t value) {
-  for (const TInstProp& p : props_) SetOrdProp(*p.Instance, *p.PropInfo, value);
-  Modified();
+  ChangeAll([&](const TInstProp& p) { SetOrdProp(*p.Instance, *p.PropInfo, value); });
 }
 void TPropertyEditor::SetOrdValue(TPersistent* value) {
-  for (const TInstProp& p : props_) SetObjectProp(*p.Instance, *p.PropInfo, value);
-  Modified();
+  ChangeAll([&](const TInstProp& p) { SetObjectProp(*p.Instance, *p.PropInfo, value); });
 }
 void TPropertyEditor::SetFloatValue(long double value) {
-  for (const TInstProp& p : props_) SetFloatProp(*p.Instance, *p.PropInfo, value);
-  Modified();
+  ChangeAll([&](const TInstProp& p) { SetFloatProp(*p.Instance, *p.PropInfo, value); });
 }
 void TPropertyEditor::SetStrValue(const QString& value) {
-  for (const TInstProp& p : props_) SetStrProp(*p.Instance, *p.PropInfo, value);
-  Modified();
+  ChangeAll([&](const TInstProp& p) { SetStrProp(*p.Instance, *p.PropInfo, value); });
 }
 void TPropertyEditor::SetMethodValue(const QString& handler) {
-  for (const TInstProp& p : props_) SetMethodProp(*p.Instance, *p.PropInfo, handler);
-  Modified();
+  ChangeAll([&](const TInstProp& p) { SetMethodProp(*p.Instance, *p.PropInfo, handler); });
 }

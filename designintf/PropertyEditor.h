@@ -73,6 +73,8 @@ class TPropertyEditor {
 
  protected:
   void Modified() const;
+  // Changes the property of every component: all of them, or, when one refuses, none.
+  void ChangeAll(const std::function<void(const TInstProp&)>& change);
   const TInstProps& Props() const { return props_; }
 
  private:

@@ -177,8 +177,20 @@ QByteArrayView Document::Intern(QByteArrayView name) {
   return interned_.back();
 }
 
-Property Document::MakeProperty(QByteArrayView name, Value value) {
-  return Property(Intern(name), std::move(value));
+Property Document::MakeProperty(QByteArrayView name, Value value, const Property* replaced) {
+  Span lead;
+  if (replaced && format_ == Format::Text) {
+    lead = replaced->Node();
+    if (replaced->FromSource()) {
+      const QByteArrayView node = Slice(lead);
+      // The name starts its line; what stands above are blank lines and directives.
+      const qsizetype nameAt = replaced->Name().data() - node.data();
+      const bool inNode = nameAt >= 0 && nameAt < node.size();
+      const qsizetype newline = inNode ? node.first(nameAt).lastIndexOf('\n') : -1;
+      lead.end = lead.begin + static_cast<std::uint32_t>(newline + 1);
+    }
+  }
+  return Property(Intern(name), std::move(value), lead);
 }
 
 void Document::WriteTextObject(TextWriter& out, const Object& object, int level) const {
@@ -192,6 +204,7 @@ void Document::WriteTextObject(TextWriter& out, const Object& object, int level)
     if (p.FromSource()) {
       out.Copy(Slice(p.Node()));
     } else {
+      out.Copy(Slice(p.Node()));
       out.FreshLine();
       out.PropertyLine(p.Name(), *p.Edited(), level + 1);
     }
@@ -238,6 +251,9 @@ QByteArray Document::Write() const {
   BinaryWriter out(lclStream_);
   WriteBinaryObject(out, *root_, true);
   const QByteArray stream = std::move(out).Result();
+  // A renamed class renames the resource.
+  if (format_ == Format::Resource && root_->headerChanged)
+    return ResourceHeader(root_->className, static_cast<std::size_t>(stream.size()) + 4) + "TPF0" + stream;
   QByteArray head = Slice(before_).toByteArray();
   const auto before = static_cast<qsizetype>(before_.end);
   if (format_ == Format::Resource && stream != Slice({before_.end, trailer_.begin})) {

@@ -30,14 +30,17 @@ class Property {
   // A property of the source. The name is in the source or interned by the document.
   Property(QByteArrayView name, Span node, std::uint32_t valueBegin)
       : name_(name.data()), nameSize_(static_cast<std::uint32_t>(name.size())), node_(node), valueBegin_(valueBegin) {}
-  // A property that is not in the source. The name is interned by the document.
-  Property(QByteArrayView internedName, Value value)
+  // A property that is not in the source. The name is interned by the document; `lead` are the blank lines of the
+  // source that stand above it.
+  Property(QByteArrayView internedName, Value value, Span lead)
       : name_(internedName.data()),
         nameSize_(static_cast<std::uint32_t>(internedName.size())),
+        node_(lead),
         edited_(std::make_unique<Value>(std::move(value))) {}
 
   QByteArrayView Name() const { return {name_, static_cast<qsizetype>(nameSize_)}; }
   bool FromSource() const { return !edited_; }
+  // The whole node in the source; of an edited property, the blank lines above it.
   Span Node() const { return node_; }
   // From the value to the end of the node: a text node may have blanks behind the value.
   Span SourceValue() const { return {valueBegin_, node_.end}; }
@@ -123,7 +126,8 @@ class Document {
   // A string value the way this file keeps strings.
   Value MakeText(const QString& text) const;
   // A property that carries `value` and is not from the source.
-  Property MakeProperty(QByteArrayView name, Value value);
+  // It can take over the blank lines above the one that it replaces.
+  Property MakeProperty(QByteArrayView name, Value value, const Property* replaced = nullptr);
 
   // The document in its own form: untouched parts are copied.
   QByteArray Write() const;

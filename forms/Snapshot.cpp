@@ -61,7 +61,7 @@ void PatchObject(Object& object, Document& document, const Snapshot& after, std:
     if (at >= 0) change.nodeBefore = Remove(object, at);
     if (!written) continue;
     if (at < 0) change.index = InsertionIndex(object, after, change.path);
-    object.properties.insert(object.properties.begin() + change.index, document.MakeProperty(change.path, change.after));
+    object.properties.insert(object.properties.begin() + change.index, document.MakeProperty(change.path, change.after, change.nodeBefore ? &*change.nodeBefore : nullptr));
     change.nodeAfter.emplace();  // stands in the object now
   }
 }

@@ -137,6 +137,13 @@ void TComponent::RemoveFreeNotification(TComponent* component) {
   component->RemoveFreeNotification(this);
 }
 
+bool TComponent::RefersTo(const TComponent& other) const {
+  const auto& all = ClassType().Properties();
+  return std::any_of(all.begin(), all.end(), [&](const TPropInfo* prop) {
+    return IsComponentRef(*prop) && GetObjectProp(*this, *prop) == &other;
+  });
+}
+
 void TComponent::Notification(TComponent* component, TOperation operation) {
   if (operation != TOperation::opRemove) return;
   std::erase(freeNotifies_, component);

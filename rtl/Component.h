@@ -1,6 +1,7 @@
 // Components: named, owned, streamed with a form.
 #pragma once
 #include <QHash>
+#include <utility>
 #include <vector>
 
 #include "rtl/Class.h"
@@ -87,11 +88,13 @@ class TComponent : public TPersistent {
   virtual void BeginLoading() { loading_ = true; }
   virtual void Loaded() { loading_ = false; }
 
-  // `component` will be told when this one is freed; components of one owner need not ask.
+  // From now on the two tell each other when one of them is freed.
   void FreeNotification(TComponent* component);
   void RemoveFreeNotification(TComponent* component);
   const std::vector<TComponent*>& FreeNotifies() const { return freeNotifies_; }
-  // Somebody was inserted into or removed from this component's surroundings; drop references to it.
+  // Whether a published reference of this component leads to the other one.
+  bool RefersTo(const TComponent& other) const;
+  // `component`, which asked or was asked for a free notification, is going: references to it are dropped.
   virtual void Notification(TComponent* component, TOperation operation);
 
   // Handler names of events.
@@ -99,6 +102,7 @@ class TComponent : public TPersistent {
   void SetMethodName(const TPropInfo& event, const QString& handler);
 
  protected:
+  bool AssignsProperty(const TPropInfo& prop) const override { return prop.Name != "Name"; }
   void DoChanged() override {}
   // Called for derived classes after a new name is in place.
   virtual void NameChanged(const QString& oldName);
@@ -132,7 +136,7 @@ bool IsValidIdent(QStringView name);
 template <class T>
 void SetReference(TComponent& holder, T*& member, T* value) {
   if (member == value) return;
-  if (member) member->RemoveFreeNotification(&holder);
-  member = value;
+  T* const before = std::exchange(member, value);
+  if (before && !holder.RefersTo(*before) && !before->RefersTo(holder)) before->RemoveFreeNotification(&holder);
   if (value) value->FreeNotification(&holder);
 }

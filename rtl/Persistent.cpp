@@ -31,7 +31,7 @@ void TPersistent::Assign(const TPersistent* source) {
   try {
     const TClass& common = own.InheritsFrom(source->ClassType()) ? source->ClassType() : own;
     for (const TPropInfo* prop : common.Properties())
-      if (const TPropInfo* target = own.FindProp(prop->Name)) CopyProp(*source, *prop, *this, *target);
+      if (const TPropInfo* target = own.FindProp(prop->Name); target && AssignsProperty(*target)) CopyProp(*source, *prop, *this, *target);
   } catch (...) {
     EndUpdate();
     throw;

@@ -5,6 +5,7 @@
 #include "rtl/TypeInfo.h"
 
 class TClass;
+class TPropInfo;
 
 class TPersistent {
  public:
@@ -32,6 +33,8 @@ class TPersistent {
   void EndUpdate();
 
  protected:
+  // Whether Assign copies the property; names of components are their own.
+  virtual bool AssignsProperty(const TPropInfo&) const { return true; }
   // What a change means to this object itself; the default hands it to the owner.
   virtual void DoChanged();
   // A part of this object has changed.

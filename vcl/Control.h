@@ -172,7 +172,7 @@ class TWinControl : public TControl {
   // Places the aligned children along the edges.
   void Realign();
   void Loaded() override;
-  // The topmost visible child at a point of the client area, or null.
+  // The topmost child that is shown at a point of the client area, or null.
   TControl* ControlAt(QPoint point) const;
 
  protected:

@@ -62,6 +62,18 @@ const TClass& TFont::StaticClass() {
   return cls;
 }
 
+namespace {
+// -value * numerator / denominator, rounded to the nearest and away from zero, within the range of int.
+int Rescaled(int value, int numerator, int denominator) {
+  const std::int64_t product = -std::int64_t{value} * numerator;
+  const std::int64_t rounded = (product + (product < 0 ? -denominator : denominator) / 2) / denominator;
+  return static_cast<int>(std::clamp<std::int64_t>(rounded, INT_MIN, INT_MAX));
+}
+}  // namespace
+
+int TFont::Size() const { return Rescaled(height_, 72, 96); }
+void TFont::SetSize(int v) { SetHeight(Rescaled(v, 96, 72)); }
+
 QString TFont::Name() const { return name_.isNull() ? DefaultFamily() : name_; }
 
 void TFont::Assign(const TPersistent* source) {
@@ -83,8 +95,8 @@ void TFont::Assign(const TPersistent* source) {
 QFont ToQFont(const TFont& font) {
   QFont q(font.Name());
   q.setStyleHint(font.Pitch() == TFontPitch::fpFixed ? QFont::TypeWriter : QFont::SansSerif);
-  const int h = font.Height();
-  q.setPixelSize(std::max(1, h < 0 ? -h : h * 4 / 5));
+  const std::int64_t h = font.Height();
+  q.setPixelSize(static_cast<int>(std::clamp<std::int64_t>(h < 0 ? -h : h * 4 / 5, 1, INT_MAX)));
   q.setBold(font.Style().Contains(TFontStyle::fsBold));
   q.setItalic(font.Style().Contains(TFontStyle::fsItalic));
   q.setUnderline(font.Style().Contains(TFontStyle::fsUnderline));

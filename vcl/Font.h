@@ -36,8 +36,8 @@ class TFont : public TOwnedPersistent {
   int Height() const { return height_; }
   void SetHeight(int v) { Change(height_, v); }
   // Points at 96 dpi; the same value as Height in another unit.
-  int Size() const { return -height_ * 72 / 96; }
-  void SetSize(int v) { SetHeight(-(v * 96 + 36) / 72); }
+  int Size() const;
+  void SetSize(int v);
   QString Name() const;
   void SetName(const QString& v) { Change(name_, v); }
   int Orientation() const { return orientation_; }

@@ -132,7 +132,9 @@ void TWinControl::Loaded() {
 TControl* TWinControl::ControlAt(QPoint point) const {
   const auto hit = [&](bool windowed) -> TControl* {
     for (auto it = controls_.rbegin(); it != controls_.rend(); ++it)
-      if ((dynamic_cast<TWinControl*>(*it) != nullptr) == windowed && (*it)->BoundsRect().contains(point)) return *it;
+      if ((dynamic_cast<TWinControl*>(*it) != nullptr) == windowed && ((*it)->Visible() || (*it)->IsDesigning()) &&
+          (*it)->BoundsRect().contains(point))
+        return *it;
     return nullptr;
   };
   TControl* found = hit(true);

@@ -110,7 +110,7 @@ std::vector<QPolygonF> LEDSegmentShapes(TLEDCell cell, const TVRXLED& led) {
     const bool alone = led.VertSize() < 2 * led.Thickness();
     const qreal upper = alone ? b.top + led.VertSize() / 2.0 : b.middle - led.VertSize() / 2.0;
     return {square(b.bottom), square(upper),
-            QPolygonF({{0, b.bottom + b.t / 2}, {b.t, b.bottom + b.t / 2}, {0, b.bottom + b.t * 1.4}}),
+            QPolygonF({{0, b.bottom + b.t / 2}, {b.t, b.bottom + b.t / 2}, {0, b.bottom + b.t}}),
             square(alone ? b.bottom - led.VertSize() / 2.0 : b.middle + led.VertSize() / 2.0)};
   }
   std::vector<QPolygonF> shapes{

@@ -1,0 +1,191 @@
+// Colours and fonts handed down from the parent, texts that size their control, names and captions.
+#include "VclTest.h"
+#include "rtl/PropAccess.h"
+#include "vcl/ExtCtrls.h"
+#include "vcl/Form.h"
+#include "vcl/StdCtrls.h"
+
+namespace {
+struct Nest {
+  TForm form{nullptr};
+  TPanel panel{&form};
+  TLabel label{&form};
+  Nest() {
+    panel.SetParent(&form);
+    label.SetParent(&panel);
+  }
+};
+}  // namespace
+
+TEST(ParentColor, ReachesEveryLevel) {
+  Nest n;
+  n.form.SetColor(clRed);
+  EXPECT_EQ(n.panel.Color(), clRed);
+  EXPECT_EQ(n.label.Color(), clRed);
+  EXPECT_TRUE(n.panel.ParentColor());
+}
+
+TEST(ParentColor, AColorOfItsOwnEndsIt) {
+  Nest n;
+  n.panel.SetColor(clBlue);
+  EXPECT_FALSE(n.panel.ParentColor());
+  EXPECT_EQ(n.label.Color(), clBlue);
+  n.form.SetColor(clRed);
+  EXPECT_EQ(n.panel.Color(), clBlue);
+  EXPECT_EQ(n.label.Color(), clBlue);
+  n.panel.SetParentColor(true);
+  EXPECT_EQ(n.panel.Color(), clRed);
+  EXPECT_EQ(n.label.Color(), clRed);
+}
+
+TEST(ParentColor, IsTakenWhenTheParentChanges) {
+  Nest n;
+  n.form.SetColor(clYellow);
+  n.panel.SetColor(clBlue);
+  n.label.SetParent(&n.form);
+  EXPECT_EQ(n.label.Color(), clYellow);
+  n.label.SetColor(clLime);
+  n.label.SetParent(&n.panel);
+  EXPECT_EQ(n.label.Color(), clLime);
+}
+
+TEST(ParentColor, DecidesWhetherTheColorIsStored) {
+  Nest n;
+  const TPropInfo& color = TPanel::StaticClass().GetProp("Color");
+  EXPECT_FALSE(IsStoredProp(n.panel, color));
+  n.panel.SetColor(clBlue);
+  EXPECT_TRUE(IsStoredProp(n.panel, color));
+  n.panel.SetParentColor(true);
+  EXPECT_FALSE(IsStoredProp(n.panel, color));
+}
+
+TEST(ParentFont, ReachesEveryLevelAndEndsWithAFontOfItsOwn) {
+  Nest n;
+  n.form.Font()->SetHeight(-20);
+  EXPECT_EQ(n.panel.Font()->Height(), -20);
+  EXPECT_EQ(n.label.Font()->Height(), -20);
+  n.panel.Font()->SetColor(clRed);
+  EXPECT_FALSE(n.panel.ParentFont());
+  EXPECT_TRUE(n.label.ParentFont());
+  EXPECT_EQ(n.label.Font()->Color(), clRed);
+  n.form.Font()->SetHeight(-30);
+  EXPECT_EQ(n.panel.Font()->Height(), -20);
+  EXPECT_EQ(n.label.Font()->Height(), -20);
+  n.panel.SetParentFont(true);
+  EXPECT_EQ(n.panel.Font()->Height(), -30);
+  EXPECT_EQ(n.label.Font()->Height(), -30);
+  EXPECT_EQ(n.label.Font()->Color(), clWindowText);
+}
+
+TEST(ParentFont, IsTakenAfterLoading) {
+  Nest n;
+  n.label.BeginLoading();
+  n.panel.BeginLoading();
+  n.panel.Font()->SetHeight(-40);
+  EXPECT_NE(n.label.Font()->Height(), -40);
+  n.panel.Loaded();
+  n.label.Loaded();
+  EXPECT_EQ(n.label.Font()->Height(), -40);
+}
+
+TEST(ShowHint, AValueOfItsOwnIsNotTheParents) {
+  TPanel p(nullptr);
+  const TPropInfo& prop = TPanel::StaticClass().GetProp("ShowHint");
+  EXPECT_TRUE(p.ParentShowHint());
+  EXPECT_FALSE(IsStoredProp(p, prop));
+  p.SetShowHint(true);
+  EXPECT_FALSE(p.ParentShowHint());
+  EXPECT_TRUE(IsStoredProp(p, prop));
+}
+
+TEST(AutoSize, TheLabelFollowsTextAndFont) {
+  TLabel label(nullptr);
+  label.SetCaption(QStringLiteral("Hi"));
+  const QSize small = label.BoundsRect().size();
+  EXPECT_EQ(small, TextExtent(QStringLiteral("Hi"), *label.Font()));
+  label.SetCaption(QStringLiteral("Hi, a much longer text"));
+  EXPECT_GT(label.Width(), small.width());
+  EXPECT_EQ(label.Height(), small.height());
+  label.SetCaption(QStringLiteral("Hi"));
+  EXPECT_EQ(label.BoundsRect().size(), small);
+  label.Font()->SetHeight(-40);
+  EXPECT_GT(label.Width(), small.width());
+  EXPECT_GT(label.Height(), small.height());
+}
+
+TEST(AutoSize, OffKeepsTheSizeAndOnTakesItUpAgain) {
+  TLabel label(nullptr);
+  label.SetAutoSize(false);
+  label.SetBounds(5, 6, 200, 90);
+  label.SetCaption(QStringLiteral("Hi"));
+  EXPECT_EQ(label.BoundsRect(), QRect(5, 6, 200, 90));
+  label.SetAutoSize(true);
+  EXPECT_EQ(label.BoundsRect(), QRect(QPoint(5, 6), TextExtent(QStringLiteral("Hi"), *label.Font())));
+}
+
+TEST(AutoSize, AWrappedLabelGrowsDownwards) {
+  TLabel label(nullptr);
+  label.SetWordWrap(true);
+  label.SetWidth(60);
+  label.SetCaption(QStringLiteral("word"));
+  const int one = label.Height();
+  label.SetCaption(QStringLiteral("several words that do not fit into one line of this label"));
+  EXPECT_EQ(label.Width(), 60);
+  EXPECT_GE(label.Height(), 2 * one - 2);
+}
+
+TEST(AutoSize, AcceleratorMarksTakeNoRoom) {
+  TFont font;
+  EXPECT_EQ(TextExtent(QStringLiteral("&File"), font), TextExtent(QStringLiteral("File"), font));
+}
+
+TEST(AutoSize, AnEmptyLabelKeepsItsHeight) {
+  TLabel label(nullptr);
+  label.SetCaption(QStringLiteral("x"));
+  const int height = label.Height();
+  label.SetCaption(QString());
+  EXPECT_EQ(label.Width(), 0);
+  EXPECT_EQ(label.Height(), height);
+}
+
+TEST(Caption, FollowsTheNameInTheDesignerUntilItIsChanged) {
+  TForm form(nullptr);
+  form.SetDesigning(true);
+  auto* button = new TButton(&form);
+  button->SetName(QStringLiteral("Button1"));
+  EXPECT_EQ(button->Caption(), QStringLiteral("Button1"));
+  button->SetName(QStringLiteral("StartButton"));
+  EXPECT_EQ(button->Caption(), QStringLiteral("StartButton"));
+  button->SetCaption(QStringLiteral("Start"));
+  button->SetName(QStringLiteral("GoButton"));
+  EXPECT_EQ(button->Caption(), QStringLiteral("Start"));
+  TButton running(nullptr);
+  running.SetName(QStringLiteral("Running"));
+  EXPECT_EQ(running.Caption(), QString());
+}
+
+TEST(Changes, AreToldOnceAndOnlyWhenReal) {
+  CountingHost host;
+  TPanel panel(nullptr);
+  panel.SetHost(&host);
+  const auto changes = [&](const std::function<void()>& change) {
+    const int before = host.changes;
+    change();
+    return host.changes - before;
+  };
+  EXPECT_EQ(changes([&] { panel.SetColor(clRed); }), 1);
+  EXPECT_EQ(changes([&] { panel.SetColor(clRed); }), 0);
+  EXPECT_EQ(changes([&] { panel.SetCaption(QStringLiteral("x")); }), 1);
+  EXPECT_EQ(changes([&] { panel.SetCaption(QStringLiteral("x")); }), 0);
+  EXPECT_EQ(changes([&] { panel.SetEnabled(false); }), 1);
+  EXPECT_EQ(changes([&] { panel.SetVisible(false); }), 1);
+  EXPECT_EQ(changes([&] { panel.Font()->SetHeight(-33); }), 1);
+  EXPECT_EQ(changes([&] {
+              panel.BeginUpdate();
+              panel.SetColor(clBlue);
+              panel.SetEnabled(true);
+              panel.EndUpdate();
+            }),
+            1);
+  panel.SetHost(nullptr);
+}

@@ -1,0 +1,248 @@
+#include "VclTest.h"
+#include "vcl/ControlView.h"
+#include "vcl/ExtCtrls.h"
+#include "vcl/StdCtrls.h"
+
+namespace {
+const QColor Background(1, 254, 3);
+
+template <class T>
+QImage Picture(TTheme theme, bool enabled) {
+  const ThemeScope scope(theme);
+  T control(nullptr);
+  control.SetCaption(QStringLiteral("Sample text"));
+  control.SetEnabled(enabled);
+  return Draw(control, ToQColor(clBtnFace));
+}
+
+template <class T>
+class PaintedClass : public testing::Test {};
+using PaintedClasses = testing::Types<TLabel, TButton, TPanel>;
+TYPED_TEST_SUITE(PaintedClass, PaintedClasses);
+}  // namespace
+
+TYPED_TEST(PaintedClass, LooksDifferentDisabledAndInEachTheme) {
+  const QImage light = Picture<TypeParam>(TTheme::Light, true),
+               lightOff = Picture<TypeParam>(TTheme::Light, false);
+  const QImage dark = Picture<TypeParam>(TTheme::Dark, true),
+               darkOff = Picture<TypeParam>(TTheme::Dark, false);
+  ASSERT_GT(light.width(), 20);
+  EXPECT_NE(light, lightOff);
+  EXPECT_NE(dark, darkOff);
+  EXPECT_NE(light, dark);
+  EXPECT_NE(lightOff, darkOff);
+}
+
+TYPED_TEST(PaintedClass, ShowsItsCaptionAndFontColor) {
+  TypeParam control(nullptr);
+  control.SetBounds(0, 0, 120, 30);
+  const QImage empty = Draw(control);
+  control.SetCaption(QStringLiteral("HHHH"));
+  control.SetBounds(0, 0, 120, 30);
+  const QImage text = Draw(control);
+  EXPECT_NE(empty, text);
+  control.Font()->SetHeight(-24);
+  control.Font()->SetStyle({TFontStyle::fsBold});
+  control.Font()->SetColor(clRed);
+  control.SetBounds(0, 0, 120, 30);
+  EXPECT_GT(CountPixels(Draw(control), Qt::red), 0);
+  EXPECT_EQ(CountPixels(text, Qt::red), 0);
+}
+
+TEST(PaintLabel, TransparentLeavesTheBackground) {
+  TLabel label(nullptr);
+  label.SetAutoSize(false);
+  label.SetBounds(0, 0, 60, 40);
+  label.SetColor(clYellow);
+  EXPECT_EQ(Draw(label, Background).pixelColor(59, 39), Background);
+  label.SetTransparent(false);
+  EXPECT_EQ(Draw(label, Background).pixelColor(59, 39), QColor(Qt::yellow));
+  label.SetColor(clNone);
+  EXPECT_EQ(Draw(label, Background).pixelColor(59, 39), Background);
+}
+
+TEST(PaintLabel, AlignmentAndLayoutMoveTheText) {
+  TLabel label(nullptr);
+  label.SetAutoSize(false);
+  label.SetBounds(0, 0, 100, 80);
+  label.SetCaption(QStringLiteral("H"));
+  const auto inked = [&] {
+    const QImage image = Draw(label, Qt::white);
+    QRect box;
+    for (int y = 0; y < image.height(); ++y)
+      for (int x = 0; x < image.width(); ++x)
+        if (image.pixelColor(x, y) != QColor(Qt::white)) box |= QRect(x, y, 1, 1);
+    return box.center();
+  };
+  const QPoint topLeft = inked();
+  label.SetAlignment(TAlignment::taRightJustify);
+  label.SetLayout(TTextLayout::tlBottom);
+  const QPoint bottomRight = inked();
+  label.SetAlignment(TAlignment::taCenter);
+  label.SetLayout(TTextLayout::tlCenter);
+  const QPoint centre = inked();
+  EXPECT_LT(topLeft.x(), 20);
+  EXPECT_LT(topLeft.y(), 20);
+  EXPECT_GT(bottomRight.x(), 80);
+  EXPECT_GT(bottomRight.y(), 60);
+  EXPECT_NEAR(centre.x(), 50, 3);
+  EXPECT_NEAR(centre.y(), 40, 5);
+}
+
+TEST(PaintPanel, BevelsAreLitFromTheTopLeft) {
+  TPanel panel(nullptr);
+  panel.SetBounds(0, 0, 40, 30);
+  panel.SetColor(clRed);
+  panel.SetBevelWidth(3);
+  const QColor light = ToQColor(clBtnHighlight), shadow = ToQColor(clBtnShadow);
+  ASSERT_NE(light, shadow);
+  QImage image = Draw(panel);
+  for (int i = 0; i < 3; ++i) {
+    EXPECT_EQ(image.pixelColor(i, 15), light);
+    EXPECT_EQ(image.pixelColor(20, i), light);
+    EXPECT_EQ(image.pixelColor(39 - i, 15), shadow);
+    EXPECT_EQ(image.pixelColor(20, 29 - i), shadow);
+  }
+  EXPECT_EQ(CountPixels(image, Qt::red), 34 * 24);
+  panel.SetBevelOuter(TBevelCut::bvLowered);
+  image = Draw(panel);
+  EXPECT_EQ(image.pixelColor(0, 15), shadow);
+  EXPECT_EQ(image.pixelColor(39, 15), light);
+  panel.SetBorderWidth(4);
+  panel.SetBevelInner(TBevelCut::bvRaised);
+  image = Draw(panel);
+  EXPECT_EQ(image.pixelColor(4, 15), QColor(Qt::red)) << "the border between the bevels";
+  EXPECT_EQ(image.pixelColor(7, 15), light);
+  EXPECT_EQ(image.pixelColor(32, 15), shadow);
+  panel.SetBevelOuter(TBevelCut::bvNone);
+  panel.SetBevelInner(TBevelCut::bvNone);
+  EXPECT_EQ(CountPixels(Draw(panel), Qt::red), 40 * 30);
+}
+
+TEST(PaintButton, TheDefaultButtonStandsOut) {
+  TButton button(nullptr);
+  const QImage plain = Draw(button, ToQColor(clBtnFace));
+  button.SetDefault(true);
+  EXPECT_NE(Draw(button, ToQColor(clBtnFace)), plain);
+}
+
+TEST(PaintChildren, WindowedControlsCoverGraphicOnes) {
+  TPanel parent(nullptr);
+  parent.SetBounds(0, 0, 40, 40);
+  parent.SetBevelOuter(TBevelCut::bvNone);
+  TPanel window(&parent);
+  TLabel label(&parent);
+  for (TControl* c : {static_cast<TControl*>(&window), static_cast<TControl*>(&label)}) {
+    c->SetParent(&parent);
+    c->SetAutoSize(false);
+    c->SetBounds(10, 10, 20, 20);
+  }
+  window.SetBevelOuter(TBevelCut::bvNone);
+  window.SetColor(clBlue);
+  label.SetTransparent(false);
+  label.SetColor(clRed);
+  EXPECT_EQ(CountPixels(Draw(parent), Qt::blue), 400);
+  EXPECT_EQ(CountPixels(Draw(parent), Qt::red), 0);
+  window.SetVisible(false);
+  EXPECT_EQ(CountPixels(Draw(parent), Qt::red), 400);
+  window.SetDesigning(true);
+  EXPECT_EQ(CountPixels(Draw(parent), Qt::blue), 400) << "in the designer it is still shown";
+}
+
+TEST(PaintChildren, AreCutAtTheirParent) {
+  TPanel parent(nullptr);
+  parent.SetBounds(0, 0, 40, 40);
+  parent.SetBevelOuter(TBevelCut::bvNone);
+  TPanel inner(&parent), deep(&parent);
+  inner.SetParent(&parent);
+  deep.SetParent(&inner);
+  for (TPanel* p : {&inner, &deep}) p->SetBevelOuter(TBevelCut::bvNone);
+  inner.SetBounds(5, 5, 10, 10);
+  deep.SetBounds(5, 5, 100, 100);
+  deep.SetColor(clRed);
+  EXPECT_EQ(CountPixels(Draw(parent), Qt::red), 25);
+}
+
+namespace {
+class PaintCounter : public QObject {
+ public:
+  int paints = 0;
+  bool eventFilter(QObject*, QEvent* event) override {
+    paints += event->type() == QEvent::Paint;
+    return false;
+  }
+};
+}  // namespace
+
+TEST(ControlView, RepaintsWhenSomethingInsideChanges) {
+  TPanel panel(nullptr);
+  TLabel label(nullptr);
+  label.SetParent(&panel);
+  panel.SetBevelOuter(TBevelCut::bvNone);
+  ControlView view(&panel);
+  PaintCounter counter;
+  view.installEventFilter(&counter);
+  view.resize(200, 60);
+  view.show();
+  ASSERT_TRUE(QTest::qWaitForWindowExposed(&view));
+  QCoreApplication::processEvents();
+  const int before = counter.paints;
+  ASSERT_GT(before, 0);
+  QCoreApplication::processEvents();
+  EXPECT_EQ(counter.paints, before);
+  label.SetCaption(QStringLiteral("changed"));
+  EXPECT_TRUE(QTest::qWaitFor([&] { return counter.paints > before; }, 2000));
+  panel.SetColor(clRed);
+  EXPECT_EQ(view.grab().toImage().pixelColor(100, 45), QColor(Qt::red));
+}
+
+TEST(ControlView, LetsGoOfItsControl) {
+  TPanel panel(nullptr);
+  {
+    ControlView view(&panel);
+    EXPECT_EQ(panel.FindHost(), &view);
+    TPanel other(nullptr);
+    view.SetControl(&other);
+    EXPECT_EQ(panel.FindHost(), nullptr);
+    EXPECT_EQ(other.FindHost(), &view);
+    view.SetControl(&panel);
+  }
+  EXPECT_EQ(panel.FindHost(), nullptr);
+  ControlView empty(nullptr);
+  EXPECT_GT(empty.sizeHint().width(), 0);
+  EXPECT_FALSE(empty.grab().isNull());
+}
+
+TEST(ControlView, ShrinksToFitOnlyWhenAskedAndNeverGrows) {
+  TPanel panel(nullptr);
+  panel.SetBounds(0, 0, 400, 100);
+  panel.SetBevelOuter(TBevelCut::bvNone);
+  panel.SetColor(clRed);
+  ControlView view(&panel);
+  view.resize(100, 100);
+  EXPECT_EQ(view.sizeHint(), QSize(400, 100));
+  EXPECT_DOUBLE_EQ(view.Scale(), 1);
+  EXPECT_EQ(view.grab().toImage().pixelColor(50, 5), QColor(Qt::red));
+  view.SetShrinkToFit(true);
+  EXPECT_DOUBLE_EQ(view.Scale(), 0.25);
+  const QImage small = view.grab().toImage();
+  EXPECT_NE(small.pixelColor(50, 5), QColor(Qt::red));
+  EXPECT_EQ(small.pixelColor(50, 50), QColor(Qt::red));
+  EXPECT_EQ(CountPixels(small, Qt::red), 100 * 25);
+  view.resize(800, 800);
+  EXPECT_DOUBLE_EQ(view.Scale(), 1);
+  EXPECT_EQ(CountPixels(view.grab().toImage(), Qt::red), 400 * 100);
+}
+
+TEST(ControlView, TellsOfAClickOnTheControl) {
+  TPanel panel(nullptr);
+  panel.SetBounds(0, 0, 50, 20);
+  ControlView view(&panel);
+  view.resize(200, 100);
+  int clicks = 0;
+  QObject::connect(&view, &ControlView::Clicked, [&] { ++clicks; });
+  QTest::mouseClick(&view, Qt::LeftButton, {}, {100, 50});
+  EXPECT_EQ(clicks, 1);
+  QTest::mouseClick(&view, Qt::LeftButton, {}, {5, 5});
+  EXPECT_EQ(clicks, 1) << "beside the control";
+}
