@@ -102,7 +102,11 @@ void FormSession::Rebuild() {
 
 std::vector<TComponent*> FormSession::AllComponents() const {
   std::vector<TComponent*> all;
-  CollectComponents(*root_, all);
+  const std::function<void(const forms::Object&)> collect = [&](const forms::Object& object) {
+    if (TComponent* c = map_.ComponentOf(object)) all.push_back(c);
+    for (const auto& child : object.children) collect(*child);
+  };
+  collect(document_.Root());
   return all;
 }
 
@@ -180,6 +184,8 @@ std::unique_ptr<Command> FormSession::TakeDifferences() {
   command->structure = std::move(pending_->structure);
   command->selectionBefore = pending_->selectionBefore;
   const auto alive = [this](TComponent* c) { return map_.ObjectOf(*c) != nullptr; };
+  // A new component may stand at the address of a deleted one; the object tells them apart.
+  const auto stillThere = [this](const Pending::Captured& c) { return map_.ObjectOf(*c.component) == c.object; };
 
   for (auto& [control, before] : pending_->bounds) {
     if (pending_->index.contains(control) || !alive(control) || pending_->created.contains(map_.ObjectOf(*control))) continue;
@@ -201,7 +207,7 @@ std::unique_ptr<Command> FormSession::TakeDifferences() {
   }
 
   for (auto& c : pending_->captured) {
-    if (!alive(c.component)) continue;
+    if (!stillThere(c)) continue;
     ComponentChange change;
     change.object = c.object;
     const forms::Snapshot after = forms::TakeSnapshot(*c.component, document_);
@@ -261,8 +267,9 @@ void FormSession::Rollback() {
   auto command = TakeDifferences();
   pending_.reset();
   Apply(*command, false);
+  selection_ = ComponentsOf(command->selectionBefore);
   Announce(!command->structure.empty());
-  emit SelectionChanged();
+  Select(selection_);
 }
 
 void FormSession::Announce(bool structure) {
@@ -278,8 +285,9 @@ void FormSession::Undo() {
   if (!CanUndo() || pending_) return;
   Command& command = *commands_[static_cast<std::size_t>(--position_)];
   Apply(command, false);
+  selection_ = ComponentsOf(command.selectionBefore);
   Announce(!command.structure.empty());
-  Select(ComponentsOf(command.selectionBefore));
+  Select(selection_);
   emit ModifiedChanged();
 }
 
@@ -287,8 +295,9 @@ void FormSession::Redo() {
   if (!CanRedo() || pending_) return;
   Command& command = *commands_[static_cast<std::size_t>(position_++)];
   Apply(command, true);
+  selection_ = ComponentsOf(command.selectionAfter);
   Announce(!command.structure.empty());
-  Select(ComponentsOf(command.selectionAfter));
+  Select(selection_);
   emit ModifiedChanged();
 }
 
@@ -358,9 +367,16 @@ void FormSession::InsertObject(StructureChange& s) {
 }
 
 void FormSession::TakeObject(StructureChange& s) {
-  if (TComponent* c = map_.ComponentOf(*s.object)) RemoveWithChildren(*c);
+  RemoveObject(*s.object);
+  if (selection_.empty()) selection_ = {root_.get()};
   s.index = s.object->IndexInParent();
   s.held = s.parent->Take(s.index);
+}
+
+// By objects, because components of unknown classes do not know what stands inside them.
+void FormSession::RemoveObject(forms::Object& object) {
+  for (auto it = object.children.rbegin(); it != object.children.rend(); ++it) RemoveObject(**it);
+  if (TComponent* c = map_.ComponentOf(object)) RemoveWithChildren(*c);
 }
 
 void FormSession::RemoveWithChildren(TComponent& component) {
@@ -427,7 +443,7 @@ TComponent* FormSession::CreateComponent(const TClass& cls, TComponent* parent, 
     selection_ = {component};
     NotifyDesign([&](IDesignNotification& n) { n.ItemInserted(this, component); });
   });
-  emit SelectionChanged();
+  Select(selection_);
   return result;
 }
 
@@ -462,9 +478,8 @@ void FormSession::DeleteComponents(const std::vector<TComponent*>& components) {
           TakeObject(s);
           pending_->structure.push_back(std::move(s));
         }
-        if (selection_.empty()) selection_ = {root_.get()};
       });
-  emit SelectionChanged();
+  Select(selection_);
 }
 
 void FormSession::DeleteSelection() { DeleteComponents(selection_); }

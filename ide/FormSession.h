@@ -104,6 +104,7 @@ class FormSession : public QObject, public IDesigner, public IControlHost {
   void ApplyStructure(StructureChange& change, bool redo);
   void ApplyValues(ComponentChange& change, bool redo);
   void SetObjectName(forms::Object& object, const QString& name);
+  void RemoveObject(forms::Object& object);
   void RemoveWithChildren(TComponent& component);
   void InsertObject(StructureChange& change);
   void TakeObject(StructureChange& change);

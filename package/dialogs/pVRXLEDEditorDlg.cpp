@@ -129,10 +129,12 @@ void TVRXLEDEditorDlg::chkClick() { test->LED()->SetDisabledDigits(chk->isChecke
 
 // Both dialogs work on the one list of custom colours that cmbb holds.
 void TVRXLEDEditorDlg::btn(const QToolButton* sender) {
-  if (sender == bt1)
+  if (sender == bt1) {
     cmbb->Execute();
-  else
-    cmbL->ExecuteEnh(cmbb->CustomColorList());
+    return;
+  }
+  cmbL->ExecuteEnh(cmbb->CustomColorList());
+  cmbb->SetCustomColors(cmbb->CustomColors());  // its drop-down list shows what was added, too
 }
 
 void TVRXLEDEditorDlg::resetClick() {

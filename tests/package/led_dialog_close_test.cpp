@@ -1,0 +1,148 @@
+// Closing the LED dialog: results, custom colours, errors.
+#include "library_design/ColorDialogs.h"
+#include "rtl/Exceptions.h"
+#include "tests/package/LedTest.h"
+
+using namespace ledtest;
+
+namespace {
+int ResultOf(std::function<void(TVRXLEDEditorDlg&)> act) {
+  TVRXLEDEditorDlg dlg(nullptr);
+  dlg.SetLabels();
+  modal::NextOf<TVRXLEDEditorDlg>(std::move(act));
+  return dlg.ShowModal();
+}
+QStringList Saved(TColor color) { return CustomColorEntries({color}); }
+
+class ThrowingHost : public IControlHost {
+ public:
+  void ControlChanged(TControl&) override { throw Exception(QStringLiteral("The view is broken.")); }
+};
+}  // namespace
+
+TEST_F(LedDialog, OkGivesOneAndEverythingElseTwo) {
+  EXPECT_EQ(ResultOf([](auto& dlg) { QTest::mouseClick(dlg.ok, Qt::LeftButton); }), 1);
+  EXPECT_EQ(ResultOf([](auto& dlg) { QTest::mouseClick(dlg.Button1, Qt::LeftButton); }), 2);
+  EXPECT_EQ(ResultOf([](auto& dlg) { dlg.close(); }), 2);
+}
+
+TEST_F(LedDialog, ReturnConfirmsAndEscapeCancels) {
+  EXPECT_EQ(ResultOf([](auto& dlg) { QTest::keyClick(&dlg, Qt::Key_Return); }), 1);
+  EXPECT_EQ(ResultOf([](auto& dlg) { QTest::keyClick(&dlg, Qt::Key_Escape); }), 2);
+  EXPECT_EQ(ResultOf([](auto& dlg) { QTest::keyClick(dlg.edhs, Qt::Key_Return); }), 1);
+}
+
+TEST_F(LedDialog, SavedCustomColoursAreInTheListOfTheFirstCombo) {
+  SaveIDECustomColors(Saved(TColor(0x332211)));
+  const TVRXLEDEditorDlg dlg(nullptr);
+  EXPECT_EQ(dlg.cmbb->CustomColors(), Saved(TColor(0x332211)));
+  EXPECT_GE(dlg.cmbb->findText(QStringLiteral("$00332211")), 0);
+}
+
+TEST_F(LedDialog, AColourChosenThroughTheFirstButtonIsTheActiveOne) {
+  Look now{};
+  ResultOf([&](auto& dlg) {
+    modal::NextOf<QColorDialog>([](QColorDialog& colors) {
+      colors.setCurrentColor(QColor(1, 2, 3));
+      colors.accept();
+    });
+    QTest::mouseClick(dlg.bt1, Qt::LeftButton);
+    now = LookOf(*dlg.test->LED());
+    dlg.reject();
+  });
+  EXPECT_EQ(now.active, RGBColor(1, 2, 3));
+  EXPECT_EQ(now.inactive, TVRXLED().InActiveColor());
+}
+
+TEST_F(LedDialog, AColourChosenThroughTheSecondButtonIsTheInactiveOne) {
+  Look now{};
+  ResultOf([&](auto& dlg) {
+    modal::NextOf<ColorEnhDialog>([](ColorEnhDialog& colors) {
+      AddInEnhDialog(colors, RGBColor(9, 8, 7));
+      colors.accept();
+    });
+    QTest::mouseClick(dlg.bt2, Qt::LeftButton);
+    now = LookOf(*dlg.test->LED());
+    dlg.reject();
+  });
+  EXPECT_EQ(now.inactive, RGBColor(9, 8, 7));
+  EXPECT_EQ(now.active, TVRXLED().ActiveColor());
+}
+
+TEST_F(LedDialog, ACancelledColourDialogChangesNoColour) {
+  Look now{};
+  ResultOf([&](auto& dlg) {
+    for (QToolButton* button : {dlg.bt1, dlg.bt2}) {
+      modal::Next([](QDialog& colors) { colors.reject(); });
+      QTest::mouseClick(button, Qt::LeftButton);
+    }
+    now = LookOf(*dlg.test->LED());
+    dlg.reject();
+  });
+  Look before = LookOf(TVRXLED());
+  before.horz = 9;
+  before.vert = 7;
+  EXPECT_EQ(now, before);
+}
+
+TEST_F(LedDialog, ACustomColourOfTheFirstButtonIsSavedOnOkAndOnCancel) {
+  for (const bool confirm : {true, false}) {
+    SaveIDECustomColors({});
+    ResultOf([confirm](auto& dlg) {
+      modal::Next([](QDialog& colors) {
+        AddInColorDialog(colors, RGBColor(17, 34, 51));
+        colors.reject();
+      });
+      QTest::mouseClick(dlg.bt1, Qt::LeftButton);
+      EXPECT_TRUE(LoadIDECustomColors().isEmpty());  // only when the dialog closes
+      QTest::mouseClick(confirm ? dlg.ok : dlg.Button1, Qt::LeftButton);
+    });
+    EXPECT_EQ(LoadIDECustomColors(), Saved(RGBColor(17, 34, 51))) << confirm;
+  }
+}
+
+TEST_F(LedDialog, ACustomColourOfTheSecondButtonIsSavedOnOkCancelAndClose) {
+  for (int way = 0; way < 3; ++way) {
+    SaveIDECustomColors({});
+    ResultOf([way](auto& dlg) {
+      modal::Next([](QDialog& colors) {
+        AddInEnhDialog(colors, RGBColor(51, 34, 17));
+        colors.reject();
+      });
+      QTest::mouseClick(dlg.bt2, Qt::LeftButton);
+      way == 0 ? dlg.accept() : way == 1 ? dlg.reject() : static_cast<void>(dlg.close());
+    });
+    EXPECT_EQ(LoadIDECustomColors(), Saved(RGBColor(51, 34, 17))) << way;
+  }
+}
+
+TEST_F(LedDialog, BothButtonsWorkOnOneListOfCustomColours) {
+  ResultOf([](auto& dlg) {
+    modal::Next([](QDialog& colors) {
+      AddInColorDialog(colors, RGBColor(1, 1, 1));
+      colors.reject();
+    });
+    QTest::mouseClick(dlg.bt1, Qt::LeftButton);
+    modal::Next([](QDialog& colors) {
+      AddInEnhDialog(colors, RGBColor(2, 2, 2));
+      colors.reject();
+    });
+    QTest::mouseClick(dlg.bt2, Qt::LeftButton);
+    EXPECT_GE(dlg.cmbb->findText(QStringLiteral("$00020202")), 0);
+    dlg.reject();
+  });
+  EXPECT_EQ(LoadIDECustomColors(), CustomColorEntries({RGBColor(1, 1, 1), RGBColor(2, 2, 2)}));
+}
+
+TEST_F(LedDialog, AnExceptionOfAHandlerClosesTheDialogAndComesOut) {
+  TVRXLEDEditorDlg dlg(nullptr);
+  dlg.SetLabels();
+  ThrowingHost host;
+  modal::NextOf<TVRXLEDEditorDlg>([&](TVRXLEDEditorDlg& shown) {
+    shown.test->SetHost(&host);
+    shown.edhs->setValue(50);
+  });
+  EXPECT_THROW(dlg.ShowModal(), Exception);
+  EXPECT_FALSE(dlg.isVisible());
+  dlg.test->SetHost(nullptr);
+}
