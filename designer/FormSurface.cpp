@@ -27,6 +27,12 @@ void FormSurface::SetSession(FormSession* session) {
     connect(session_, &FormSession::RepaintNeeded, this, qOverload<>(&QWidget::update));
     connect(session_, &FormSession::FormChanged, this, &FormSurface::UpdateSize);
     connect(session_, &FormSession::SelectionChanged, this, qOverload<>(&QWidget::update));
+    // What was being dragged may be gone.
+    connect(session_, &FormSession::StructureChanged, this, [this] {
+      action_ = Action::None;
+      starts_.clear();
+      others_.clear();
+    });
   }
   UpdateSize();
 }
@@ -261,6 +267,7 @@ void FormSurface::mousePressEvent(QMouseEvent* event) {
   if (handle_ >= 0) {
     TComponent* c = session_->SelectedComponents().front();
     starts_ = {{c, RectOf(*c)}};
+    RememberOthers();
     action_ = Action::Resize;
     return;
   }
@@ -298,6 +305,7 @@ void FormSurface::mouseMoveEvent(QMouseEvent* event) {
       for (TComponent* c : session_->SelectedComponents())
         if (c != session_->GetRoot()) starts_.push_back({c, RectOf(*c)});
       if (starts_.empty()) return;
+      RememberOthers();
       action_ = Action::Move;
       [[fallthrough]];
     case Action::Move:
@@ -316,10 +324,23 @@ void FormSurface::UpdateCursor(QPoint p) {
   setCursor(handle < 0 ? Qt::ArrowCursor : shapes[handle % 4]);
 }
 
+// Sizes have effects on what is inside and beside; taking them back needs every place, from the outside in.
+void FormSurface::RememberOthers() {
+  others_.clear();
+  for (TComponent* c : session_->AllComponents())
+    if (c != session_->GetRoot() && As<TControl>(c)) others_.push_back({c, RectOf(*c)});
+}
+
+void FormSurface::RestorePlaces() {
+  for (const Start& s : starts_) SetRect(*s.component, s.rect);
+  for (const Start& s : others_) SetRect(*s.component, s.rect);
+}
+
 // Live: the components follow the pointer; the command is made when the button is let go.
 void FormSurface::Drag(QPoint p, bool fine) {
   const int grid = fine ? 1 : Grid;
   const QPoint delta((p - pressed_) / zoom_);
+  RestorePlaces();
   if (action_ == Action::Move) {
     const QPoint first = starts_.front().rect.topLeft();
     const QPoint step = QPoint(Snap(first.x() + delta.x(), grid), Snap(first.y() + delta.y(), grid)) - first;
@@ -346,7 +367,7 @@ void FormSurface::FinishDrag() {
     touched.push_back(s.component);
     final.push_back(RectOf(*s.component));
   }
-  for (const Start& s : starts_) SetRect(*s.component, s.rect);
+  RestorePlaces();
   const QString text = action_ == Action::Move ? tr("Move") : tr("Resize");
   action_ = Action::None;
   session_->Run(text, touched, [&] {
@@ -355,8 +376,7 @@ void FormSurface::FinishDrag() {
 }
 
 void FormSurface::CancelDrag() {
-  if (action_ == Action::Move || action_ == Action::Resize)
-    for (const Start& s : starts_) SetRect(*s.component, s.rect);
+  if (action_ == Action::Move || action_ == Action::Resize) RestorePlaces();
   action_ = Action::None;
   update();
 }
@@ -462,6 +482,8 @@ void FormSurface::Nudge(int dx, int dy, bool resize) {
 
 void FormSurface::keyPressEvent(QKeyEvent* event) {
   if (!session_) return QWidget::keyPressEvent(event);
+  // While something is dragged only Escape counts.
+  if ((action_ == Action::Move || action_ == Action::Resize) && event->key() != Qt::Key_Escape) return;
   const int step = event->modifiers() & Qt::ControlModifier ? 1 : Grid;
   const bool resize = event->modifiers() & Qt::ShiftModifier;
   switch (event->key()) {

@@ -55,6 +55,8 @@ class FormSurface : public QWidget {
   int HandleAt(QPoint widgetPoint) const;
   std::vector<QRect> Handles() const;
   void Drag(QPoint widgetPoint, bool fine);
+  void RememberOthers();
+  void RestorePlaces();
   void FinishDrag();
   void CancelDrag();
   void PlaceTool(const QRect& formRect);
@@ -76,6 +78,7 @@ class FormSurface : public QWidget {
   int handle_ = -1;
   QPoint pressed_;
   QPoint current_;
-  std::vector<Start> starts_;
+  std::vector<Start> starts_;  // what is dragged
+  std::vector<Start> others_;  // every control, parents first
   TWinControl* target_ = nullptr;  // where a tool or band works
 };

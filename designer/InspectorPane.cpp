@@ -207,9 +207,11 @@ void InspectorPane::CurrentChanged(const QModelIndex& now, const QModelIndex& be
   if (filling_ || returning_) return;
   // Leaving a row applies what was typed; a refused value keeps the row.
   if (before.isValid() && editor_->isVisible() && editor_->IsChanged()) {
+    // A refusal makes the rows anew, so the path is asked for before.
+    const QString path = before.data(InspectorModel::PathRole).toString();
     const QString reason = model_.SetValueText(before, editor_->Field()->text());
     if (!reason.isEmpty()) {
-      QMetaObject::invokeMethod(this, [this, path = before.data(InspectorModel::PathRole).toString(), reason] {
+      QMetaObject::invokeMethod(this, [this, path, reason] {
         returning_ = true;
         ShowProperty(path);
         returning_ = false;

@@ -23,6 +23,11 @@ void TEnumProperty::GetValues(const TGetStrProc& proc) const {
 
 TPropertyAttributes TCaptionProperty::GetAttributes() const { return {paMultiSelect, paAutoUpdate, paRevertable}; }
 
+void TComponentNameProperty::SetValue(const QString& value) {
+  if (value.isEmpty()) throw EComponentError(QStringLiteral("%1 needs a name.").arg(GetStrValue()));
+  TStringProperty::SetValue(value);
+}
+
 TPropertyAttributes TSetProperty::GetAttributes() const {
   return {paMultiSelect, paSubProperties, paReadOnly, paRevertable};
 }

@@ -40,6 +40,8 @@ class TComponentNameProperty : public TStringProperty {
  public:
   using TStringProperty::TStringProperty;
   TPropertyAttributes GetAttributes() const override { return {TPropertyAttribute::paNotNestable}; }
+  // A component on a form has a name.
+  void SetValue(const QString& value) override;
 };
 
 // A set: its text, and one yes/no row for every element.

@@ -193,7 +193,8 @@ void GetComponentProperties(const TDesignerSelections& objects, IDesigner* desig
     TInstProps props{{objects.front(), prop}};
     for (std::size_t i = 1; i < objects.size() && props.size() == i; ++i) {
       const TPropInfo* other = objects[i]->ClassType().FindProp(prop->Name);
-      if (other && SameType(*other->PropType, *prop->PropType)) props.push_back({objects[i], other});
+      if (other && other->Visibility == TPropVisibility::Published && SameType(*other->PropType, *prop->PropType))
+        props.push_back({objects[i], other});
     }
     if (props.size() != objects.size()) continue;
     auto editor = CreatePropertyEditor(designer, std::move(props));

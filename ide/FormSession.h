@@ -102,6 +102,7 @@ class FormSession : public QObject, public IDesigner, public IControlHost {
   void Push(std::unique_ptr<Command> command);
   void Apply(Command& command, bool redo);
   void ApplyStructure(StructureChange& change, bool redo);
+  void Settle(forms::Object& object);
   void ApplyValues(ComponentChange& change, bool redo);
   void SetObjectName(forms::Object& object, const QString& name);
   void RemoveObject(forms::Object& object);

@@ -1,6 +1,11 @@
 // Running, undoing and redoing commands.
 #include "designintf/DesignWindow.h"
 #include "ide/PendingCommand.h"
+#include "rtl/PropAccess.h"
+
+namespace {
+QSet<QByteArray> BoundsPaths() { return {"Left", "Top", "Width", "Height", "ClientWidth", "ClientHeight"}; }
+}  // namespace
 
 void FormSession::Capture(TComponent& component) {
   if (pending_->index.contains(&component)) return;
@@ -35,10 +40,6 @@ void FormSession::Run(const QString& text, const std::vector<TComponent*>& touch
   }
   Commit(text);
 }
-
-namespace {
-QSet<QByteArray> BoundsPaths() { return {"Left", "Top", "Width", "Height", "ClientWidth", "ClientHeight"}; }
-}  // namespace
 
 // What the pending command changed, with the document patched accordingly.
 std::unique_ptr<Command> FormSession::TakeDifferences() {
@@ -185,7 +186,26 @@ void FormSession::Apply(Command& command, bool redo) {
     if (component == root_.get()) root_->SetStreamClassName(c.object->className);
   }
   for (ComponentChange& c : command.components) ApplyValues(c, redo);
+  for (StructureChange& s : command.structure)
+    if (!s.held) Settle(*s.object);
   applying_ = false;
+}
+
+// What came back before everything else was in place: components it refers to may have come later, and its
+// surroundings may have changed its bounds since.
+void FormSession::Settle(forms::Object& object) {
+  if (TComponent* c = map_.ComponentOf(object))
+    for (const forms::Property& p : object.properties) {
+      const forms::PropertyTarget target = forms::FindTarget(*c, p.Name());
+      if (!target.Found() || !target.prop) continue;
+      if (!IsComponentRef(*target.prop) && !BoundsPaths().contains(p.Name().toByteArray())) continue;
+      try {
+        forms::ApplyNow(*root_, target, document_.Read(p), document_);
+      } catch (const Exception&) {
+        // A reference to something that is not on this form; the reader has reported it.
+      }
+    }
+  for (const auto& child : object.children) Settle(*child);
 }
 
 void FormSession::ApplyValues(ComponentChange& change, bool redo) {

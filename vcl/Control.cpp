@@ -238,5 +238,8 @@ void TControl::SendToBack() {
 
 void TControl::Loaded() {
   TComponent::Loaded();
+  // The form file's size stands, whatever the parent's font would make of it.
+  const bool sizesItself = std::exchange(autoSize_, false);
   ParentLookChanged();
+  autoSize_ = sizesItself;
 }

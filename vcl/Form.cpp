@@ -74,6 +74,10 @@ void TForm::SetClientHeight(int v) {
   if (IsLoading()) loadClientHeight_ = v;
   SetBounds(Left(), Top(), Width(), v + FrameMargins().top() + FrameMargins().bottom());
 }
+void TForm::SetBounds(int left, int top, int width, int height) {
+  const QMargins m = IsLoading() ? QMargins() : FrameMargins();
+  TWinControl::SetBounds(left, top, std::max(width, m.left() + m.right()), std::max(height, m.top() + m.bottom()));
+}
 void TForm::SetFrameWidth(int v) {
   if (IsLoading()) frameSizeStored_ = true;
   SetBounds(Left(), Top(), v, Height());

@@ -54,6 +54,8 @@ class TForm : public TWinControl {
   int PixelsPerInch() const { return pixelsPerInch_; }
   void SetPixelsPerInch(int v) { pixelsPerInch_ = v; }
 
+  // No smaller than its frame.
+  void SetBounds(int left, int top, int width, int height) override;
   bool AcceptsControls() const override { return true; }
   // The client area only; whoever shows the form draws the frame.
   void Paint(TCanvas& canvas) override;

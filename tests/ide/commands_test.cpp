@@ -225,3 +225,21 @@ TEST_F(SessionTest, AComponentReplacedInOneCommandComesBackOnUndo) {
   });
   ExpectUndoable();
 }
+
+TEST_F(SessionTest, ReferencesBetweenDeletedComponentsComeBack) {
+  session_->DeleteComponents({&Get("Button1"), &Get("Label1")});
+  ExpectUndoable();
+  session_->Undo();
+  session_->DeleteComponents({&Get("Label1"), &Get("Button1")});
+  ExpectUndoable();
+  session_->Undo();
+  EXPECT_EQ(Get<TLabel>("Label1").FocusControl(), session_->GetComponent(QStringLiteral("Button1")));
+}
+
+TEST_F(SessionTest, AnAnchoredControlDeletedWithAResizeComesBackInItsPlace) {
+  session_->Run(QStringLiteral("Both"), {&session_->Form()}, [&] {
+    session_->Form().SetClientWidth(200);
+    session_->DeleteComponents({&Get("Button1")});
+  });
+  ExpectUndoable();
+}

@@ -197,7 +197,8 @@ TEST_P(RandomCommands, EveryStateComesBackForwardsAndBackwards) {
     for (std::size_t i = stages.size() - 1; i > 0; --i) {
       session.Undo();
       ASSERT_EQ(session.Bytes(), stages[i - 1].bytes) << i;
-      ASSERT_EQ(StateOf(session), stages[i - 1].state) << i;
+      ASSERT_EQ(StateOf(session), stages[i - 1].state)
+          << "undoing " << ChangedLines(stages[i - 1].bytes, stages[i].bytes).join('|').toStdString();
     }
     EXPECT_FALSE(session.CanUndo());
     EXPECT_FALSE(session.IsModified());
@@ -205,7 +206,8 @@ TEST_P(RandomCommands, EveryStateComesBackForwardsAndBackwards) {
     for (std::size_t i = 1; i < stages.size(); ++i) {
       session.Redo();
       ASSERT_EQ(session.Bytes(), stages[i].bytes) << i;
-      ASSERT_EQ(StateOf(session), stages[i].state) << i;
+      ASSERT_EQ(StateOf(session), stages[i].state)
+          << "redoing " << ChangedLines(stages[i - 1].bytes, stages[i].bytes).join('|').toStdString();
     }
     EXPECT_FALSE(session.CanRedo());
   }

@@ -1,0 +1,221 @@
+// Editing values in the inspector.
+#include "tests/designer/DesignerTest.h"
+
+using namespace designer;
+
+namespace {
+class Inspecting : public DesignerTest {
+ protected:
+  void Show(const char* component, const char* property) {
+    Select(component);
+    ASSERT_TRUE(Inspector().ShowProperty(QLatin1StringView(property)));
+    Inspector().FocusValue();
+    ASSERT_TRUE(Editor().isVisible());
+  }
+  QLineEdit& Field() { return *Editor().Field(); }
+  void Type(const char* text) {
+    Field().selectAll();
+    QTest::keyClicks(&Field(), QString::fromLatin1(text));
+  }
+  std::string Row() {
+    return Inspector().View().currentIndex().data(InspectorModel::PathRole).toString().toStdString();
+  }
+};
+}  // namespace
+
+TEST_F(Inspecting, EnterAppliesAValueAndStays) {
+  Show("Button1", "Caption");
+  Type("Start");
+  EXPECT_EQ(dynamic_cast<TControl&>(Get("Button1")).Caption(), QStringLiteral("One"));
+  QTest::keyClick(&Field(), Qt::Key_Return);
+  EXPECT_EQ(dynamic_cast<TControl&>(Get("Button1")).Caption(), QStringLiteral("Start"));
+  EXPECT_EQ(Row(), "Caption");
+  EXPECT_EQ(Field().text(), QStringLiteral("Start"));
+  ExpectOneCommand();
+}
+
+TEST_F(Inspecting, EscapeRestoresTheValue) {
+  Show("Button1", "Caption");
+  Type("Start");
+  QTest::keyClick(&Field(), Qt::Key_Escape);
+  EXPECT_EQ(Field().text(), QStringLiteral("One"));
+  QTest::keyClick(&Field(), Qt::Key_Return);
+  ExpectUntouched();
+}
+
+TEST_F(Inspecting, ArrowsApplyAndMove) {
+  Show("Button1", "Left");
+  const QModelIndex below = Inspector().View().indexBelow(Inspector().View().currentIndex());
+  const std::string next = below.data(InspectorModel::PathRole).toString().toStdString();
+  Type("248");
+  QTest::keyClick(&Field(), Qt::Key_Down);
+  EXPECT_EQ(Bounds("Button1").left(), 248);
+  EXPECT_EQ(Row(), next);
+  QTest::keyClick(&Field(), Qt::Key_Up);
+  EXPECT_EQ(Row(), "Left");
+  ExpectOneCommand();
+}
+
+TEST_F(Inspecting, ARefusedValueStaysWithItsReason) {
+  Show("Button1", "Left");
+  Type("wide");
+  QTest::keyClick(&Field(), Qt::Key_Return);
+  EXPECT_EQ(Field().text(), QStringLiteral("wide"));
+  EXPECT_TRUE(Editor().Problem().contains(QStringLiteral("wide"))) << Editor().Problem().toStdString();
+  EXPECT_EQ(Row(), "Left");
+  ExpectUntouched();
+  QTest::keyClick(&Field(), Qt::Key_Down);
+  EXPECT_EQ(Row(), "Left");
+  EXPECT_FALSE(Editor().Problem().isEmpty());
+  QTest::keyClick(&Field(), Qt::Key_Escape);
+  EXPECT_TRUE(Editor().Problem().isEmpty());
+  EXPECT_EQ(Field().text(), QStringLiteral("240"));
+}
+
+TEST_F(Inspecting, LeavingARowAppliesItsValue) {
+  Show("Button1", "Tag");
+  Type("12");
+  Inspector().View().setCurrentIndex(Inspector().Model().IndexOfPath(QStringLiteral("Top")));
+  EXPECT_EQ(Get("Button1").Tag(), 12);
+  EXPECT_EQ(Row(), "Top");
+}
+
+TEST_F(Inspecting, LeavingARowWithARefusedValueComesBackToIt) {
+  Show("Button1", "Left");
+  Type("wide");
+  Inspector().View().setCurrentIndex(Inspector().Model().IndexOfPath(QStringLiteral("Top")));
+  QTRY_COMPARE_WITH_TIMEOUT(Row(), std::string("Left"), 2000);
+  EXPECT_TRUE(Editor().Problem().contains(QStringLiteral("wide")));
+  ExpectUntouched();
+}
+
+TEST_F(Inspecting, ANameThatIsTakenIsRefused) {
+  Show("Button1", "Name");
+  Type("Button2");
+  QTest::keyClick(&Field(), Qt::Key_Return);
+  EXPECT_TRUE(Editor().Problem().contains(QStringLiteral("Button2")));
+  ExpectUntouched();
+}
+
+TEST_F(Inspecting, ANewNameShowsEverywhere) {
+  Show("Button1", "Name");
+  Type("Starter");
+  QTest::keyClick(&Field(), Qt::Key_Return);
+  EXPECT_NE(Session().GetComponent(QStringLiteral("Starter")), nullptr);
+  EXPECT_TRUE(Inspector()
+                  .findChild<QComboBox*>(QStringLiteral("componentBox"))
+                  ->currentText()
+                  .startsWith(QStringLiteral("Starter")));
+  ExpectOneCommand();
+}
+
+TEST_F(Inspecting, ADropDownChoiceIsApplied) {
+  Show("Panel1", "BevelOuter");
+  QTimer::singleShot(0, [] {
+    auto* list = QApplication::activePopupWidget()->findChild<QListWidget*>();
+    ASSERT_NE(list, nullptr);
+    const auto items = list->findItems(QStringLiteral("bvLowered"), Qt::MatchExactly);
+    ASSERT_EQ(items.size(), 1);
+    QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, list->visualItemRect(items[0]).center());
+  });
+  QTest::mouseClick(Editor().DropButton(), Qt::LeftButton);
+  EXPECT_EQ(dynamic_cast<TPanel&>(Get("Panel1")).BevelOuter(), TBevelCut::bvLowered);
+  ExpectOneCommand();
+}
+
+TEST_F(Inspecting, TheBoxOfABooleanTogglesIt) {
+  Select("Button1");
+  ASSERT_TRUE(Inspector().ShowProperty(QStringLiteral("Default")));
+  QTreeView& view = Inspector().View();
+  const QRect cell = view.visualRect(view.currentIndex().siblingAtColumn(1));
+  const QPoint box(cell.left() + 10, cell.center().y());
+  QTest::mouseClick(view.viewport(), Qt::LeftButton, {}, box);
+  EXPECT_TRUE(dynamic_cast<TButton&>(Get("Button1")).Default());
+  ExpectOneCommand();
+  QTest::mouseClick(view.viewport(), Qt::LeftButton, {}, box);
+  EXPECT_FALSE(dynamic_cast<TButton&>(Get("Button1")).Default());
+}
+
+TEST_F(Inspecting, TheEllipsisOpensTheLedDialogAndOkChangesTheForm) {
+  Show("Led", "LED");
+  EXPECT_TRUE(Editor().EllipsisButton()->isVisible());
+  modal::NextOf<TVRXLEDEditorDlg>([](auto& dlg) {
+    EXPECT_EQ(dlg.edhs->value(), 12);
+    dlg.edhs->setValue(18);
+    QTest::mouseClick(dlg.ok, Qt::LeftButton);
+  });
+  QTest::mouseClick(Editor().EllipsisButton(), Qt::LeftButton);
+  EXPECT_TRUE(Session().Bytes().contains("LED.HorzSize = 18"));
+  EXPECT_TRUE(window_->isWindowModified());
+  ExpectOneCommand();
+}
+
+TEST_F(Inspecting, CancellingTheLedDialogChangesNothing) {
+  Show("Led", "LED");
+  modal::NextOf<TVRXLEDEditorDlg>([](auto& dlg) {
+    dlg.edhs->setValue(18);
+    QTest::mouseClick(dlg.Button1, Qt::LeftButton);
+  });
+  QTest::mouseClick(Editor().EllipsisButton(), Qt::LeftButton);
+  ExpectUntouched();
+  EXPECT_FALSE(window_->isWindowModified());
+}
+
+TEST_F(Inspecting, ASubPropertyIsEditedInItsOwnRow) {
+  Show("Led", "LED.VertSize");
+  Type("15");
+  QTest::keyClick(&Field(), Qt::Key_Return);
+  EXPECT_TRUE(Session().Bytes().contains("LED.VertSize = 15"));
+  EXPECT_EQ(Row(), "LED.VertSize");
+  ExpectOneCommand();
+}
+
+TEST_F(Inspecting, ADifferingValueIsEmptyAndWritingItReachesAll) {
+  Session().Select({&Get("Button1"), &Get("Button2")});
+  ASSERT_TRUE(Inspector().ShowProperty(QStringLiteral("Caption")));
+  Inspector().FocusValue();
+  EXPECT_EQ(Field().text(), QString());
+  Type("Both");
+  QTest::keyClick(&Field(), Qt::Key_Return);
+  for (const char* name : {"Button1", "Button2"})
+    EXPECT_EQ(dynamic_cast<TControl&>(Get(name)).Caption(), QStringLiteral("Both"));
+  ExpectOneCommand();
+}
+
+TEST_F(Inspecting, TheEventsPageOffersExistingHandlers) {
+  Select("Button2");
+  Inspector().findChild<QTabBar*>()->setCurrentIndex(1);
+  ASSERT_TRUE(Inspector().ShowProperty(QStringLiteral("OnClick")));
+  const QModelIndex row = Inspector().View().currentIndex().siblingAtColumn(0);
+  EXPECT_EQ(Inspector().Model().ValueList(row).join(u' '), QStringLiteral("Button1Click"));
+  Inspector().FocusValue();
+  Type("Button1Click");
+  QTest::keyClick(&Field(), Qt::Key_Return);
+  EXPECT_EQ(Session().Bytes().count("OnClick = Button1Click"), 2);
+  ExpectOneCommand();
+}
+
+TEST_F(Inspecting, TheFilterShowsMatchingRowsOnly) {
+  Select("Button1");
+  QLineEdit* filter = nullptr;
+  for (QLineEdit* edit : Inspector().findChildren<QLineEdit*>())
+    if (edit->placeholderText().startsWith(QStringLiteral("Filter"))) filter = edit;
+  ASSERT_NE(filter, nullptr);
+  QTest::keyClicks(filter, QStringLiteral("cap"));
+  EXPECT_EQ(Inspector().Model().rowCount(), 1);
+  EXPECT_EQ(Inspector().Model().index(0, 0).data().toString(), QStringLiteral("Caption"));
+}
+
+TEST_F(Inspecting, TypingInTheNameColumnGoesToAProperty) {
+  Select("Button1");
+  Inspector().View().setFocus();
+  QTest::keyClicks(&Inspector().View(), QStringLiteral("tab"));
+  EXPECT_EQ(Row(), "TabOrder");
+}
+
+TEST_F(Inspecting, ReturnOnTheFormGoesToTheInspector) {
+  Select("Button1");
+  Surface().setFocus();
+  Key(Qt::Key_F11);
+  EXPECT_TRUE(Field().hasFocus());
+}

@@ -1,0 +1,244 @@
+// Mouse and keyboard on the form.
+#include "tests/designer/DesignerTest.h"
+
+using namespace designer;
+
+TEST_F(DesignerTest, AClickSelects) {
+  EXPECT_EQ(Selected(), "Main");
+  Click(At("Button1"));
+  EXPECT_EQ(Selected(), "Button1");
+  Click(At("Inner"));
+  EXPECT_EQ(Selected(), "Inner");
+  Click(At("Timer1"));
+  EXPECT_EQ(Selected(), "Timer1");
+  Click(FormPoint(400, 280));
+  EXPECT_EQ(Selected(), "Main");
+  ExpectUntouched();
+}
+
+TEST_F(DesignerTest, AClickWithControlOrShiftAddsAndTakesAway) {
+  Click(At("Button1"));
+  Click(At("Button2"), Qt::ControlModifier);
+  EXPECT_EQ(Selected(), "Button1+Button2");
+  Click(At("Led"), Qt::ShiftModifier);
+  EXPECT_EQ(Selected(), "Button1+Button2+Led");
+  Click(At("Button1"), Qt::ControlModifier);
+  EXPECT_EQ(Selected(), "Button2+Led");
+}
+
+TEST_F(DesignerTest, ARubberBandSelectsWhatItTouches) {
+  Drag(FormPoint(230, 8), FormPoint(350, 30));
+  EXPECT_EQ(Selected(), "Button1+Button2");
+  Drag(FormPoint(8, 180), FormPoint(100, 260));
+  EXPECT_EQ(Selected(), "Timer1");
+  ExpectUntouched();
+}
+
+TEST_F(DesignerTest, ARubberBandAroundNothingSelectsTheForm) {
+  Click(At("Led"));
+  Drag(FormPoint(300, 200), FormPoint(400, 300));
+  EXPECT_EQ(Selected(), "Main");
+}
+
+TEST_F(DesignerTest, ADragMovesAsOneCommand) {
+  Drag(At("Button1"), At("Button1") + QPoint(32, 48));
+  EXPECT_EQ(Bounds("Button1"), QRect(272, 64, 80, 24));
+  EXPECT_EQ(Selected(), "Button1");
+  ExpectOneCommand();
+}
+
+TEST_F(DesignerTest, ADragSnapsToTheGrid) {
+  Drag(At("Button1"), At("Button1") + QPoint(13, 21));
+  EXPECT_EQ(Bounds("Button1"), QRect(256, 40, 80, 24));
+}
+
+TEST_F(DesignerTest, ADragMovesEverythingSelected) {
+  Click(At("Button1"));
+  Click(At("Timer1"), Qt::ControlModifier);
+  Click(At("Led"), Qt::ControlModifier);
+  Drag(At("Led"), At("Led") + QPoint(16, 40));
+  EXPECT_EQ(Bounds("Led"), QRect(256, 104, 160, 40));
+  EXPECT_EQ(Bounds("Button1"), QRect(256, 56, 80, 24));
+  EXPECT_EQ(DesignPointOf(Get("Timer1").DesignInfo()).Left, 56);
+  EXPECT_EQ(DesignPointOf(Get("Timer1").DesignInfo()).Top, 240);
+  ExpectOneCommand();
+}
+
+TEST_F(DesignerTest, EscapeUndoesADrag) {
+  const QPoint from = At("Button1");
+  Press(from);
+  MoveTo(from + QPoint(60, 60));
+  EXPECT_NE(Bounds("Button1"), QRect(240, 16, 80, 24));
+  Key(Qt::Key_Escape);
+  EXPECT_EQ(Bounds("Button1"), QRect(240, 16, 80, 24));
+  MoveTo(from + QPoint(90, 90));
+  Release(from + QPoint(90, 90));
+  EXPECT_EQ(Bounds("Button1"), QRect(240, 16, 80, 24));
+  EXPECT_EQ(Selected(), "Button1");
+  ExpectUntouched();
+}
+
+TEST_F(DesignerTest, ATremblingClickMovesNothing) {
+  Drag(At("Button1"), At("Button1") + QPoint(2, 2));
+  ExpectUntouched();
+}
+
+TEST_F(DesignerTest, EveryHandleResizesItsSide) {
+  const struct {
+    QPoint handle, by;
+    QRect result;
+  } cases[] = {{{0, 0}, {-16, -8}, {224, 56, 176, 48}},  {{80, 0}, {0, -8}, {240, 56, 160, 48}},
+               {{159, 0}, {16, -8}, {240, 56, 176, 48}}, {{159, 20}, {16, 0}, {240, 64, 176, 40}},
+               {{159, 39}, {16, 8}, {240, 64, 176, 48}}, {{80, 39}, {0, 8}, {240, 64, 160, 48}},
+               {{0, 39}, {-16, 8}, {224, 64, 176, 48}},  {{0, 20}, {-16, 0}, {224, 64, 176, 40}}};
+  for (const auto& c : cases) {
+    Select("Led");
+    const QPoint from = Surface().WidgetRect(Get("Led")).topLeft() + c.handle;
+    Drag(from, from + c.by);
+    EXPECT_EQ(Bounds("Led"), c.result) << c.handle.x() << ' ' << c.handle.y();
+    Session().Undo();
+    ExpectUntouched();
+  }
+}
+
+TEST_F(DesignerTest, TheFormGrowsAtItsRightAndBottom) {
+  Select("Main");
+  const QRect form = Surface().WidgetRect(Get("Main"));
+  Drag(form.bottomRight(), form.bottomRight() + QPoint(32, 16));
+  EXPECT_EQ(Session().Form().ClientWidth(), 512);
+  EXPECT_GT(Session().Form().ClientHeight(), 320);
+  ExpectOneCommand();
+}
+
+TEST_F(DesignerTest, EscapeDuringAResizeBringsTheChildrenBackToo) {
+  Select("Panel1");
+  const QPoint corner = Surface().WidgetRect(Get("Panel1")).bottomRight();
+  Press(corner);
+  MoveTo(corner - QPoint(190, 100));  // narrower than what is anchored inside
+  Key(Qt::Key_Escape);
+  Release(corner);
+  EXPECT_EQ(Bounds("Panel1"), QRect(16, 16, 200, 120));
+  EXPECT_EQ(Bounds("Inner"), QRect(16, 48, 80, 24));
+  ExpectUntouched();
+}
+
+TEST_F(DesignerTest, AResizeThatWasSmallOnTheWayKeepsTheChildren) {
+  Select("Panel1");
+  const QPoint corner = Surface().WidgetRect(Get("Panel1")).bottomRight();
+  Press(corner);
+  MoveTo(corner - QPoint(190, 100));
+  MoveTo(corner + QPoint(16, 0));
+  Release(corner + QPoint(16, 0));
+  EXPECT_EQ(Bounds("Panel1"), QRect(16, 16, 216, 120));
+  EXPECT_EQ(Bounds("Inner"), QRect(16, 48, 96, 24));
+  ExpectOneCommand();
+  Session().Undo();
+  EXPECT_EQ(Bounds("Inner"), QRect(16, 48, 80, 24));
+}
+
+TEST_F(DesignerTest, DeletingDuringADragEndsTheDrag) {
+  const QPoint from = At("Button1");
+  Press(from);
+  MoveTo(from + QPoint(40, 40));
+  Key(Qt::Key_Delete);
+  MoveTo(from + QPoint(80, 80));
+  Release(from + QPoint(80, 80));
+  while (Session().CanUndo()) Session().Undo();
+  ExpectUntouched();
+  EXPECT_EQ(Bounds("Button1"), QRect(240, 16, 80, 24));
+}
+
+TEST_F(DesignerTest, ArrowsMoveByTheGridAndWithControlByAPixel) {
+  Select("Button1");
+  Key(Qt::Key_Right);
+  Key(Qt::Key_Down);
+  EXPECT_EQ(Bounds("Button1"), QRect(248, 24, 80, 24));
+  Key(Qt::Key_Left, Qt::ControlModifier);
+  Key(Qt::Key_Up, Qt::ControlModifier);
+  EXPECT_EQ(Bounds("Button1"), QRect(247, 23, 80, 24));
+  for (int i = 0; i < 4; ++i) Session().Undo();
+  ExpectUntouched();
+}
+
+TEST_F(DesignerTest, ShiftArrowsResize) {
+  Select("Button1");
+  Key(Qt::Key_Right, Qt::ShiftModifier);
+  Key(Qt::Key_Up, Qt::ShiftModifier | Qt::ControlModifier);
+  EXPECT_EQ(Bounds("Button1"), QRect(240, 16, 88, 23));
+}
+
+TEST_F(DesignerTest, ArrowsOnTheFormItselfDoNothing) {
+  Select("Main");
+  Key(Qt::Key_Right);
+  ExpectUntouched();
+}
+
+TEST_F(DesignerTest, DeleteDeletesTheSelection) {
+  Click(At("Panel1"));
+  Click(At("Timer1"), Qt::ControlModifier);
+  Key(Qt::Key_Delete);
+  EXPECT_EQ(Session().GetComponent(QStringLiteral("Inner")), nullptr);
+  EXPECT_EQ(Session().GetComponent(QStringLiteral("Timer1")), nullptr);
+  EXPECT_EQ(Selected(), "Main");
+  ExpectOneCommand();
+}
+
+TEST_F(DesignerTest, TabWalksTheComponentsAndStaysOnTheForm) {
+  std::string walk;
+  for (int i = 0; i < 7; ++i) {
+    Key(Qt::Key_Tab);
+    walk += Selected() + ' ';
+  }
+  EXPECT_EQ(walk, "Panel1 Inner Button1 Button2 Led Timer1 Main ");
+  Key(Qt::Key_Backtab, Qt::ShiftModifier);
+  EXPECT_EQ(Selected(), "Timer1");
+  EXPECT_TRUE(Surface().hasFocus());
+}
+
+TEST_F(DesignerTest, EscapeSelectsTheParent) {
+  Select("Inner");
+  Key(Qt::Key_Escape);
+  EXPECT_EQ(Selected(), "Panel1");
+  Key(Qt::Key_Escape);
+  EXPECT_EQ(Selected(), "Main");
+  Key(Qt::Key_Escape);
+  EXPECT_EQ(Selected(), "Main");
+}
+
+TEST_F(DesignerTest, ADoubleClickRunsTheDefaultAction) {
+  QTest::mouseDClick(&Surface(), Qt::LeftButton, {}, At("Button2"));
+  EXPECT_TRUE(Session().Bytes().contains("OnClick = Button2Click"));
+  ExpectOneCommand();
+}
+
+TEST_F(DesignerTest, ADoubleClickOnALedLabelOpensItsLook) {
+  modal::NextOf<TVRXLEDEditorDlg>([](auto& dlg) {
+    dlg.edhs->setValue(25);
+    QTest::mouseClick(dlg.ok, Qt::LeftButton);
+  });
+  QTest::mouseDClick(&Surface(), Qt::LeftButton, {}, At("Led"));
+  EXPECT_TRUE(Session().Bytes().contains("LED.HorzSize = 25"));
+  ExpectOneCommand();
+}
+
+TEST_F(DesignerTest, ZoomNeverChangesTheForm) {
+  const QRect before = Surface().WidgetRect(Get("Led"));
+  for (int i = 0; i < 3; ++i) Action("zoomIn").trigger();
+  EXPECT_GT(Surface().WidgetRect(Get("Led")).width(), before.width());
+  for (int i = 0; i < 9; ++i) Action("zoomOut").trigger();
+  EXPECT_LT(Surface().WidgetRect(Get("Led")).width(), before.width());
+  Surface().SetZoom(100);
+  EXPECT_EQ(Surface().Zoom(), 4.0);
+  Surface().SetZoom(0);
+  EXPECT_EQ(Surface().Zoom(), 0.25);
+  ExpectUntouched();
+  EXPECT_FALSE(Session().IsModified());
+  Action("zoom100").trigger();
+  EXPECT_EQ(Surface().WidgetRect(Get("Led")), before);
+}
+
+TEST_F(DesignerTest, ADragAtTwiceTheSizeMovesHalfAsFar) {
+  Surface().SetZoom(2);
+  Drag(At("Button1"), At("Button1") + QPoint(32, 64));
+  EXPECT_EQ(Bounds("Button1"), QRect(256, 48, 80, 24));
+}

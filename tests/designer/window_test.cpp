@@ -1,0 +1,291 @@
+// Files, undo, questions, errors and looks of the main window.
+#include "rtl/Exceptions.h"
+#include "tests/designer/DesignerTest.h"
+#include "vcl/Theme.h"
+
+using namespace designer;
+
+namespace {
+class ThrowingEditor : public TComponentEditor {
+ public:
+  using TComponentEditor::TComponentEditor;
+  void Edit() override {
+    As<TControl>(GetComponent())->SetCaption(QStringLiteral("half done"));
+    GetDesigner()->CreateComponent(TButton::StaticClass(), nullptr, QRect(0, 0, 8, 8));
+    throw Exception(QStringLiteral("The editor gave up."));
+  }
+  int GetVerbCount() const override { return 1; }
+  QString GetVerb(int) const override { return QStringLiteral("&Break"); }
+  void ExecuteVerb(int) override { Edit(); }
+};
+
+// While it lives, buttons have an editor that throws.
+class WithThrowingEditor {
+ public:
+  WithThrowingEditor() {
+    const RegistrationScope scope(this, "test");
+    RegisterComponentEditor(TButton::StaticClass(), VRX_COMPONENT_EDITOR(ThrowingEditor));
+  }
+  ~WithThrowingEditor() { UnregisterPackage(this); }
+};
+
+class Window : public DesignerTest {
+ protected:
+  void Change() {
+    Select("Button1");
+    Key(Qt::Key_Right);
+    ASSERT_TRUE(Session().IsModified());
+  }
+};
+}  // namespace
+
+TEST_F(Window, UndoAndRedoFollowTheCommands) {
+  EXPECT_FALSE(Action("undo").isEnabled());
+  EXPECT_FALSE(Action("redo").isEnabled());
+  Change();
+  EXPECT_TRUE(Action("undo").isEnabled());
+  EXPECT_EQ(Action("undo").text(), QStringLiteral("&Undo Move"));
+  Action("undo").trigger();
+  EXPECT_EQ(Bounds("Button1").left(), 240);
+  EXPECT_FALSE(Action("undo").isEnabled());
+  EXPECT_EQ(Action("redo").text(), QStringLiteral("&Redo Move"));
+  Action("redo").trigger();
+  EXPECT_EQ(Bounds("Button1").left(), 248);
+}
+
+TEST_F(Window, UndoingACreationWithEverythingShownIsHarmless) {
+  Session().CreateComponent(TPanel::StaticClass(), nullptr, QRect(8, 200, 40, 40));
+  Action("undo").trigger();
+  Action("redo").trigger();
+  EXPECT_EQ(Selected(), "Panel2");
+  Action("undo").trigger();
+  ExpectUntouched();
+}
+
+TEST_F(Window, TheModifiedMarkFollowsTheForm) {
+  EXPECT_FALSE(window_->isWindowModified());
+  EXPECT_FALSE(Action("save").isEnabled());
+  Change();
+  EXPECT_TRUE(window_->isWindowModified());
+  EXPECT_TRUE(Action("save").isEnabled());
+  Action("undo").trigger();
+  EXPECT_FALSE(window_->isWindowModified());
+}
+
+TEST_F(Window, SaveWritesTheFileAndTakesTheMarkAway) {
+  Change();
+  Action("save").trigger();
+  EXPECT_EQ(Read(file_).toStdString(), Session().Bytes().toStdString());
+  EXPECT_NE(Read(file_), Sample);
+  EXPECT_FALSE(window_->isWindowModified());
+}
+
+TEST_F(Window, SaveAsTakesTheNewName) {
+  Change();
+  prompts_.fileName = folder_.filePath(QStringLiteral("other.dfm"));
+  Action("saveAs").trigger();
+  EXPECT_EQ(Read(prompts_.fileName), Session().Bytes());
+  EXPECT_EQ(Read(file_), Sample);
+  EXPECT_TRUE(window_->windowTitle().startsWith(QStringLiteral("other.dfm")));
+  EXPECT_FALSE(window_->isWindowModified());
+}
+
+TEST_F(Window, SaveAsThatIsCancelledSavesNothing) {
+  Change();
+  Action("saveAs").trigger();
+  EXPECT_EQ(prompts_.saveNames, 1);
+  EXPECT_EQ(Read(file_), Sample);
+  EXPECT_TRUE(window_->isWindowModified());
+}
+
+TEST_F(Window, ASaveThatFailsTellsAndKeepsTheMark) {
+  Change();
+  prompts_.fileName = folder_.filePath(QStringLiteral("gone/other.dfm"));
+  EXPECT_FALSE(window_->SaveAs());
+  ASSERT_EQ(prompts_.warnings.size(), 1);
+  EXPECT_TRUE(prompts_.warnings[0].contains(prompts_.fileName));
+  EXPECT_TRUE(window_->isWindowModified());
+  EXPECT_EQ(Session().FileName(), file_);
+  expectedWarnings_ = prompts_.warnings;
+}
+
+TEST_F(Window, ANewFormAsksForANameWhenItIsSaved) {
+  window_->NewForm();
+  EXPECT_EQ(Session().Form().Name(), QStringLiteral("Form1"));
+  prompts_.fileName = folder_.filePath(QStringLiteral("new.dfm"));
+  EXPECT_TRUE(window_->Save());
+  EXPECT_EQ(prompts_.saveNames, 1);
+  EXPECT_TRUE(Read(prompts_.fileName).startsWith("object Form1: TForm1"));
+}
+
+TEST_F(Window, AnUnchangedFormClosesWithoutAQuestion) {
+  EXPECT_TRUE(window_->close());
+  EXPECT_TRUE(prompts_.questions.isEmpty());
+}
+
+TEST_F(Window, CancelKeepsTheWindowAndTheChanges) {
+  Change();
+  prompts_.answer = TAnswer::Cancel;
+  EXPECT_FALSE(window_->close());
+  EXPECT_TRUE(window_->isVisible());
+  EXPECT_TRUE(Session().IsModified());
+  EXPECT_EQ(Read(file_), Sample);
+  ASSERT_EQ(prompts_.questions.size(), 1);
+  EXPECT_TRUE(prompts_.questions[0].contains(QStringLiteral("main.dfm")));
+}
+
+TEST_F(Window, DiscardClosesWithoutSaving) {
+  Change();
+  prompts_.answer = TAnswer::No;
+  EXPECT_TRUE(window_->close());
+  EXPECT_EQ(Read(file_), Sample);
+}
+
+TEST_F(Window, SaveSavesAndCloses) {
+  Change();
+  prompts_.answer = TAnswer::Yes;
+  EXPECT_TRUE(window_->close());
+  EXPECT_EQ(Read(file_), Session().Bytes());
+}
+
+TEST_F(Window, SaveThatFailsKeepsTheWindow) {
+  Change();
+  ASSERT_TRUE(QDir(folder_.path()).removeRecursively());
+  prompts_.answer = TAnswer::Yes;
+  EXPECT_FALSE(window_->close());
+  EXPECT_TRUE(Session().IsModified());
+  EXPECT_EQ(prompts_.warnings.size(), 1);
+  expectedWarnings_ = prompts_.warnings;
+}
+
+TEST_F(Window, NewAndOpenAskFirstAndCancelKeepsTheForm) {
+  Change();
+  prompts_.answer = TAnswer::Cancel;
+  prompts_.fileName = file_;
+  FormSession* before = window_->Session();
+  Action("new").trigger();
+  Action("open").trigger();
+  EXPECT_EQ(window_->Session(), before);
+  EXPECT_EQ(prompts_.questions.size(), 2);
+  EXPECT_TRUE(Session().IsModified());
+}
+
+TEST_F(Window, OpeningABrokenFileTellsAndKeepsTheForm) {
+  Change();
+  const QString broken = folder_.filePath(QStringLiteral("broken.dfm"));
+  Write(broken, "object A: TA\n  Left = \nend\n");
+  FormSession* before = window_->Session();
+  EXPECT_FALSE(window_->OpenForm(broken));
+  EXPECT_EQ(window_->Session(), before);
+  EXPECT_TRUE(Session().IsModified());
+  ASSERT_EQ(prompts_.warnings.size(), 1);
+  EXPECT_TRUE(prompts_.warnings[0].contains(QStringLiteral("broken.dfm")));
+  expectedWarnings_ = prompts_.warnings;
+}
+
+TEST_F(Window, OpeningAFileThatIsNotThereTells) {
+  EXPECT_FALSE(window_->OpenForm(folder_.filePath(QStringLiteral("none.dfm"))));
+  EXPECT_EQ(prompts_.warnings.size(), 1);
+  expectedWarnings_ = prompts_.warnings;
+  ExpectUntouched();
+}
+
+TEST_F(Window, AReferenceToNobodyIsListedAsAProblem) {
+  const QString odd = folder_.filePath(QStringLiteral("odd.dfm"));
+  Write(odd, "object A: TA\n  object B: TLabel\n    FocusControl = NobodyKnows\n  end\nend\n");
+  ASSERT_TRUE(window_->OpenForm(odd));
+  QString texts;
+  for (const QDockWidget* dock : window_->findChildren<QDockWidget*>())
+    if (dock->windowTitle() == QStringLiteral("Problems (1)")) {
+      EXPECT_TRUE(dock->isVisible());
+      const auto* list = dock->findChild<QListWidget*>();
+      for (int i = 0; i < list->count(); ++i) texts += list->item(i)->text();
+    }
+  EXPECT_TRUE(texts.contains(QStringLiteral("NobodyKnows"))) << texts.toStdString();
+}
+
+TEST_F(Window, AnEditorThatThrowsOnADoubleClickTellsAndChangesNothing) {
+  const WithThrowingEditor editor;
+  Select("Led");
+  QTest::mouseDClick(&Surface(), Qt::LeftButton, {}, At("Button1"));
+  expectedWarnings_ = QStringList(QStringLiteral("The editor gave up."));
+  ExpectUntouched();
+  EXPECT_EQ(dynamic_cast<TControl&>(Get("Button1")).Caption(), QStringLiteral("One"));
+  Click(At("Button2"));  // the designer goes on
+  EXPECT_EQ(Selected(), "Button2");
+}
+
+TEST_F(Window, AVerbThatThrowsTellsAndChangesNothing) {
+  const WithThrowingEditor editor;
+  Select("Button1");
+  bool found = false;
+  QTimer::singleShot(0, [&] {
+    auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+    ASSERT_NE(menu, nullptr);
+    ASSERT_FALSE(menu->actions().isEmpty());
+    found = menu->actions().front()->text() == QStringLiteral("&Break");
+    QTest::keyClick(menu, Qt::Key_Down);
+    QTest::keyClick(menu, Qt::Key_Return);
+  });
+  emit Surface().ContextMenuWanted(Surface().mapToGlobal(At("Button1")));
+  EXPECT_TRUE(found);
+  expectedWarnings_ = QStringList(QStringLiteral("The editor gave up."));
+  ExpectUntouched();
+}
+
+TEST_F(Window, TheStatusBarTellsTheSelectionAndItsPlace) {
+  Select("Button1");
+  QStringList texts;
+  for (const QLabel* label : window_->statusBar()->findChildren<QLabel*>()) texts << label->text();
+  const QString all = texts.join(u'|');
+  EXPECT_TRUE(all.contains(QStringLiteral("Button1: TButton"))) << all.toStdString();
+  EXPECT_TRUE(all.contains(QStringLiteral("240, 16   80 x 24"))) << all.toStdString();
+  EXPECT_TRUE(all.contains(QStringLiteral("100 %"))) << all.toStdString();
+}
+
+TEST_F(Window, BothThemesReachTheWholeWindowAndLeaveTheFormAlone) {
+  const auto lightness = [&](QWidget& w) {
+    const QImage picture = w.grab().toImage().convertToFormat(QImage::Format_RGB32);
+    qint64 sum = 0;
+    for (int y = 0; y < picture.height(); y += 4)
+      for (int x = 0; x < picture.width(); x += 4) sum += qGray(picture.pixel(x, y));
+    return static_cast<double>(sum) / ((picture.width() / 4.0) * (picture.height() / 4.0));
+  };
+  Action("light").trigger();
+  QCoreApplication::processEvents();
+  EXPECT_FALSE(IsDarkTheme());
+  const double lightInspector = lightness(Inspector()), lightTree = lightness(window_->Structure());
+  Action("dark").trigger();
+  QCoreApplication::processEvents();
+  EXPECT_TRUE(IsDarkTheme());
+  EXPECT_LT(lightness(Inspector()), lightInspector / 2);
+  EXPECT_LT(lightness(window_->Structure()), lightTree / 2);
+  ExpectUntouched();
+  Action("light").trigger();
+}
+
+TEST_F(Window, ThePackageThatGoesLeavesTheOpenFormWhole) {
+  packages_.Load(QStringLiteral("testsample"));
+  const QString name = folder_.filePath(QStringLiteral("gauge.dfm"));
+  const QByteArray bytes =
+      "object A: TA\n  object Gauge1: TSampleGauge\n    Left = 8\n    Top = 8\n    Width = 60\n    Height = "
+      "20\n    "
+      "Level = 4\n  end\nend\n";
+  Write(name, bytes);
+  ASSERT_TRUE(window_->OpenForm(name));
+  Select("Gauge1");
+  ASSERT_TRUE(Inspector().ShowProperty(QStringLiteral("Level")));
+  packages_.Unload(QStringLiteral("testsample"));
+  EXPECT_FALSE(Inspector().ShowProperty(QStringLiteral("Level")));
+  EXPECT_EQ(Selected(), "Gauge1");
+  packages_.Load(QStringLiteral("testsample"));
+  EXPECT_TRUE(Inspector().ShowProperty(QStringLiteral("Level")));
+  EXPECT_EQ(Session().Bytes(), bytes);
+}
+
+TEST_F(Window, APackageThatFailsLeavesTheOpenFormWhole) {
+  EXPECT_THROW(packages_.Load(QStringLiteral("testthrowing")), Exception);
+  ExpectUntouched();
+  Click(At("Button1"));
+  EXPECT_EQ(Selected(), "Button1");
+}

@@ -1,0 +1,240 @@
+// The rows of the inspector and what editing them does.
+#include "ide/InspectorModel.h"
+#include "tests/ide/SessionTest.h"
+
+using namespace ide;
+
+namespace {
+class InspectorTest : public SessionTest {
+ protected:
+  void Show(std::initializer_list<const char*> names) {
+    std::vector<TComponent*> components;
+    for (const char* name : names) components.push_back(session_->GetComponent(QLatin1StringView(name)));
+    session_->Select(components);
+    model_.SetSession(session_.get());
+  }
+  void TearDown() override {
+    model_.SetSession(nullptr);
+    UnregisterPackage(this);
+  }
+  QModelIndex At(const char* path) const { return model_.IndexOfPath(QLatin1StringView(path)); }
+  std::string Text(const char* path) const { return model_.ValueText(At(path)).toStdString(); }
+  QString Set(const char* path, const char* text) {
+    return model_.SetValueText(At(path), QLatin1StringView(text));
+  }
+  QStringList Rows(const QModelIndex& parent = {}) const {
+    QStringList rows;
+    for (int i = 0; i < model_.rowCount(parent); ++i) rows << model_.index(i, 0, parent).data().toString();
+    return rows;
+  }
+  InspectorModel model_;
+};
+}  // namespace
+
+TEST_F(InspectorTest, ShowsPublishedPropertiesByNameWithTheirValues) {
+  Show({"Timer1"});
+  EXPECT_EQ(Rows().join(u' '), QStringLiteral("Enabled Interval Name Tag"));
+  EXPECT_EQ(Text("Interval"), "250");
+  EXPECT_EQ(Text("Name"), "Timer1");
+  EXPECT_EQ(Text("Enabled"), "True");
+}
+
+TEST_F(InspectorTest, EventsHaveAPageOfTheirOwn) {
+  Show({"Timer1"});
+  model_.ShowEvents(true);
+  EXPECT_EQ(Rows().join(u' '), QStringLiteral("OnTimer"));
+  EXPECT_EQ(Text("OnTimer"), "Timer1Timer");
+  EXPECT_EQ(Set("OnTimer", "Tick"), QString());
+  EXPECT_EQ(Changes(), "-OnTimer = Timer1Timer|+OnTimer = Tick");
+  ExpectUndoable();
+}
+
+TEST_F(InspectorTest, AnEventIsTakenAwayByAnEmptyText) {
+  Show({"Timer1"});
+  model_.ShowEvents(true);
+  EXPECT_EQ(Set("OnTimer", ""), QString());
+  EXPECT_EQ(Changes(), "-OnTimer = Timer1Timer");
+  ExpectUndoable();
+}
+
+TEST_F(InspectorTest, ObjectsOpenIntoTheirProperties) {
+  Show({"Led"});
+  EXPECT_EQ(Text("LED"), "(TVRXLED)");
+  EXPECT_TRUE(model_.hasChildren(At("LED")));
+  EXPECT_EQ(Rows(At("LED")).join(u' '),
+            QStringLiteral("ActiveColor DisabledDigits HorzSize InActiveColor Thickness VertSize"));
+  EXPECT_EQ(Text("LED.ActiveColor"), "clAqua");
+  EXPECT_EQ(Set("LED.HorzSize", "20"), QString());
+  EXPECT_EQ(Changes(), "+LED.HorzSize = 20");
+  ExpectUndoable();
+}
+
+TEST_F(InspectorTest, SetsOpenIntoOneRowForEveryElement) {
+  Show({"Button1"});
+  EXPECT_EQ(Text("Anchors"), "[akTop,akRight]");
+  EXPECT_EQ(Rows(At("Anchors")).join(u' '), QStringLiteral("akLeft akTop akRight akBottom"));
+  EXPECT_EQ(Text("Anchors.akRight"), "True");
+  EXPECT_EQ(Set("Anchors.akBottom", "True"), QString());
+  EXPECT_EQ(Changes(), "-Anchors = [akTop, akRight]|+Anchors = [akTop, akRight, akBottom]");
+  ExpectUndoable();
+}
+
+TEST_F(InspectorTest, SeveralComponentsShowWhatTheyHaveInCommon) {
+  Show({"Button1", "Timer1"});
+  EXPECT_EQ(Rows().join(u' '), QStringLiteral("Enabled Tag"));
+  Show({"Button1", "Led"});
+  EXPECT_TRUE(Rows().contains(QStringLiteral("Caption")));
+  EXPECT_FALSE(Rows().contains(QStringLiteral("LED")));
+  EXPECT_FALSE(Rows().contains(QStringLiteral("Name")));
+}
+
+TEST_F(InspectorTest, ADifferingValueIsEmptyAndAnEqualOneIsShown) {
+  Show({"Button1", "Led"});
+  EXPECT_EQ(Text("Caption"), "");
+  EXPECT_EQ(Text("Left"), "240");
+  EXPECT_EQ(Text("Enabled"), "True");
+  EXPECT_EQ(Text("Anchors.akRight"), "");
+  EXPECT_EQ(Text("Anchors.akTop"), "True");
+}
+
+TEST_F(InspectorTest, WritingReachesEverySelectedComponentAsOneCommand) {
+  Show({"Button1", "Led", "Label1"});
+  EXPECT_EQ(Set("Caption", "same"), QString());
+  for (const char* name : {"Button1", "Led", "Label1"})
+    EXPECT_EQ(Get(name).Caption(), QStringLiteral("same")) << name;
+  EXPECT_EQ(Text("Caption"), "same");
+  ExpectUndoable();
+}
+
+TEST_F(InspectorTest, ARefusedValueChangesNothingAndSaysWhy) {
+  Show({"Button1", "Led"});
+  const struct {
+    const char *path, *text;
+  } cases[] = {{"Left", "wide"}, {"Enabled", "perhaps"}, {"Anchors.akTop", "7"}, {"Tag", ""}};
+  for (const auto& c : cases) {
+    const QString reason = Set(c.path, c.text);
+    EXPECT_FALSE(reason.isEmpty()) << c.path;
+    EXPECT_EQ(session_->Bytes(), Sample) << c.path;
+    EXPECT_EQ(StateOf(*session_), state_) << c.path;
+    EXPECT_FALSE(session_->CanUndo()) << c.path;
+  }
+}
+
+TEST_F(InspectorTest, AValueOutOfRangeIsRefused) {
+  Show({"Led"});
+  EXPECT_FALSE(Set("LED.HorzSize", "256").isEmpty());
+  EXPECT_FALSE(Set("LED.HorzSize", "-1").isEmpty());
+  EXPECT_EQ(session_->Bytes(), Sample);
+}
+
+TEST_F(InspectorTest, ATakenNameIsRefused) {
+  Show({"Button1"});
+  EXPECT_TRUE(Set("Name", "Led").contains(QStringLiteral("Led")));
+  EXPECT_FALSE(Set("Name", "").isEmpty());
+  EXPECT_EQ(session_->Bytes(), Sample);
+  EXPECT_EQ(StateOf(*session_), state_);
+}
+
+TEST_F(InspectorTest, AnObjectItselfIsReadOnly) {
+  Show({"Label1"});
+  EXPECT_TRUE(model_.EditorAt(At("Font"))->GetAttributes().Contains(TPropertyAttribute::paReadOnly));
+  EXPECT_FALSE(Set("Font", "x").isEmpty());
+  EXPECT_EQ(session_->Bytes(), Sample);
+}
+
+TEST_F(InspectorTest, AReferenceOffersTheFormsComponents) {
+  Show({"Label1"});
+  EXPECT_EQ(Text("FocusControl"), "Button1");
+  const QStringList values = model_.ValueList(At("FocusControl"));
+  EXPECT_TRUE(values.contains(QStringLiteral("Inner")));
+  EXPECT_TRUE(values.contains(QStringLiteral("Panel1")));
+  EXPECT_FALSE(values.contains(QStringLiteral("Timer1")));
+  EXPECT_EQ(Set("FocusControl", "Inner"), QString());
+  EXPECT_EQ(Changes(), "-FocusControl = Button1|+FocusControl = Inner");
+  EXPECT_FALSE(Set("FocusControl", "Timer1").isEmpty());
+  EXPECT_FALSE(Set("FocusControl", "Nobody").isEmpty());
+  ExpectUndoable();
+}
+
+TEST_F(InspectorTest, TheFilterLeavesMatchingNames) {
+  Show({"Button1"});
+  model_.SetFilter(QStringLiteral("ABLE"));
+  EXPECT_EQ(Rows().join(u' '), QStringLiteral("Enabled"));
+  model_.SetFilter(QStringLiteral("no such"));
+  EXPECT_EQ(model_.rowCount(), 0);
+  model_.SetFilter({});
+  EXPECT_TRUE(Rows().contains(QStringLiteral("Caption")));
+}
+
+TEST_F(InspectorTest, APropertyStandsUnderEveryCategoryItBelongsTo) {
+  {
+    const RegistrationScope scope(this, "test");
+    RegisterPropertiesInCategory(QStringLiteral("Favourites"), TVRXLEDLabel::StaticClass(),
+                                 {QStringLiteral("LED")});
+  }
+  Show({"Led"});
+  model_.GroupByCategory(true);
+  const QStringList categories = Rows();
+  for (const char* name : {"Favourites", "Layout", "Visual", "Miscellaneous"})
+    EXPECT_TRUE(categories.contains(QLatin1StringView(name))) << name;
+  EXPECT_TRUE(At("Favourites").data(InspectorModel::IsCategoryRole).toBool());
+  EXPECT_EQ(Rows(At("Favourites")).join(u' '), QStringLiteral("LED"));
+  EXPECT_TRUE(Rows(At("Visual")).contains(QStringLiteral("LED")));
+  EXPECT_TRUE(Rows(At("Layout")).contains(QStringLiteral("Left")));
+  EXPECT_TRUE(Rows(At("Miscellaneous")).contains(QStringLiteral("Tag")));
+  EXPECT_EQ(Set("Favourites.LED.HorzSize", "22"), QString());
+  EXPECT_EQ(Text("Visual.LED.HorzSize"), "22");
+  EXPECT_EQ(Set("Layout.Left", "248"), QString());
+  EXPECT_EQ(Text("Layout.Left"), "248");
+}
+
+TEST_F(InspectorTest, AHiddenPropertyHasNoRow) {
+  {
+    const RegistrationScope scope(this, "test");
+    RegisterPropertyEditor(TypeInfoOf<unsigned>::Get(), &TTimer::StaticClass(), "Interval", std::nullopt);
+  }
+  Show({"Timer1"});
+  EXPECT_EQ(Rows().join(u' '), QStringLiteral("Enabled Name Tag"));
+  model_.GroupByCategory(true);
+  EXPECT_FALSE(At("Miscellaneous.Interval").isValid());
+}
+
+TEST_F(InspectorTest, ValuesThatDifferFromTheDefaultAreMarked) {
+  Show({"Timer1"});
+  EXPECT_TRUE(At("Interval").data(InspectorModel::NotDefaultRole).toBool());
+  EXPECT_FALSE(At("Enabled").data(InspectorModel::NotDefaultRole).toBool());
+  EXPECT_EQ(model_.Reset(At("Interval")), QString());
+  EXPECT_FALSE(At("Interval").data(InspectorModel::NotDefaultRole).toBool());
+  EXPECT_EQ(Changes(), "-Interval = 250");
+  ExpectUndoable();
+}
+
+TEST_F(InspectorTest, BooleansAreKnownAsSuch) {
+  Show({"Button1"});
+  EXPECT_TRUE(At("Default").data(InspectorModel::IsBooleanRole).toBool());
+  EXPECT_TRUE(At("Anchors.akTop").data(InspectorModel::IsBooleanRole).toBool());
+  EXPECT_FALSE(At("Caption").data(InspectorModel::IsBooleanRole).toBool());
+  EXPECT_EQ(model_.ValueList(At("Default")).join(u' '), QStringLiteral("False True"));
+}
+
+TEST_F(InspectorTest, RowsFollowUndo) {
+  Show({"Button1"});
+  Set("Caption", "x");
+  session_->Undo();
+  EXPECT_EQ(Text("Caption"), "Go");
+}
+
+TEST_F(InspectorTest, RowsFollowTheSelection) {
+  Show({"Button1"});
+  session_->Select({session_->GetComponent(QStringLiteral("Timer1"))});
+  EXPECT_EQ(Rows().join(u' '), QStringLiteral("Enabled Interval Name Tag"));
+}
+
+TEST_F(InspectorTest, AnUnknownComponentShowsWhatIsKnown) {
+  Show({"Mystery"});
+  EXPECT_EQ(Text("Width"), "50");
+  EXPECT_FALSE(At("Items").isValid());
+  EXPECT_EQ(Set("Left", "16"), QString());
+  EXPECT_EQ(Changes(), "-Left = 240|+Left = 16");
+  ExpectUndoable();
+}
