@@ -8,9 +8,7 @@
 #include "vcl/Theme.h"
 
 namespace {
-constexpr int Desk = 24;  // room around the form
 int Snap(int v, int grid) { return static_cast<int>(std::lround(static_cast<double>(v) / grid)) * grid; }
-bool HasIcon(const TComponent& c) { return !As<TControl>(&c); }
 }  // namespace
 
 FormSurface::FormSurface(QWidget* parent) : QWidget(parent) {
@@ -123,132 +121,12 @@ TComponent* FormSurface::ComponentAt(QPoint widgetPoint) const {
   return DeepestAt(p);
 }
 
-// --- Painting
-
-void FormSurface::paintEvent(QPaintEvent*) {
-  QPainter p(this);
-  p.fillRect(rect(), palette().color(QPalette::Window).darker(IsDarkTheme() ? 125 : 107));
-  if (!session_) return;
-  p.scale(zoom_, zoom_);
-  p.save();
-  p.translate(Desk, Desk);
-  PaintFormWindow(session_->Form(), p, true);
-  p.restore();
-  p.save();
-  p.translate(ClientOrigin());
-  p.setClipRect(session_->Form().ClientRect());
-  PaintGrid(p);
-  PaintIcons(p);
-  p.restore();
-  p.resetTransform();
-  PaintSelection(p);
-}
-
-void FormSurface::PaintGrid(QPainter& p) const {
-  if (zoom_ < 0.75) return;
-  // Only where nothing else stands: the dots belong to the empty form.
-  const TForm& form = session_->Form();
-  QRegion empty(form.ClientRect());
-  for (const TControl* c : form.Controls()) empty -= c->BoundsRect();
-  p.save();
-  p.setClipRegion(empty, Qt::IntersectClip);
-  QColor ink = palette().color(QPalette::WindowText);
-  ink.setAlpha(48);
-  p.setPen(QPen(ink, 1 / zoom_));
-  QList<QPoint> dots;
-  for (int y = 0; y < form.ClientHeight(); y += Grid)
-    for (int x = 0; x < form.ClientWidth(); x += Grid) dots << QPoint(x, y);
-  p.drawPoints(dots.data(), static_cast<int>(dots.size()));
-  p.restore();
-}
-
-void FormSurface::PaintIcons(QPainter& p) const {
-  QFont font = QApplication::font();
-  font.setPixelSize(11);
-  p.setFont(font);
-  for (const TComponent* c : session_->Form().Components()) {
-    if (!HasIcon(*c)) continue;
-    const QRect r = RectOf(*c);
-    p.setRenderHint(QPainter::Antialiasing);
-    p.setPen(palette().color(QPalette::Mid));
-    p.setBrush(palette().color(QPalette::Base));
-    p.drawRoundedRect(QRectF(r).adjusted(0.5, 0.5, -0.5, -0.5), 4, 4);
-    p.drawPixmap(r.topLeft() + QPoint(2, 2), ComponentPixmap(c->ClassType(), IconSize - 4, devicePixelRatioF() * zoom_));
-    const int width = p.fontMetrics().horizontalAdvance(c->Name()) + 6;
-    const QRect label(r.center().x() - width / 2, r.bottom() + 2, width, 14);
-    p.setPen(Qt::NoPen);
-    QColor back = palette().color(QPalette::Base);
-    back.setAlpha(200);
-    p.setBrush(back);
-    p.drawRoundedRect(label, 3, 3);
-    p.setPen(palette().color(QPalette::WindowText));
-    p.drawText(label, Qt::AlignCenter, c->Name());
-  }
-}
-
-std::vector<QRect> FormSurface::Handles() const {
-  const auto selected = session_->SelectedComponents();
-  if (selected.size() != 1 || HasIcon(*selected[0])) return {};
-  const QRect r = WidgetRect(*selected[0]);
-  const int x[] = {r.left(), r.center().x(), r.right()};
-  const int y[] = {r.top(), r.center().y(), r.bottom()};
-  std::vector<QRect> handles;  // clockwise from the top left corner
-  static constexpr int places[8][2] = {{0, 0}, {1, 0}, {2, 0}, {2, 1}, {2, 2}, {1, 2}, {0, 2}, {0, 1}};
-  const bool form = selected[0] == session_->GetRoot();
-  for (int i = 0; i < 8; ++i) {
-    const bool usable = !form || (i >= 3 && i <= 5);  // a form grows to the right and down
-    handles.push_back(usable ? QRect(x[places[i][0]] - 3, y[places[i][1]] - 3, 7, 7) : QRect());
-  }
-  return handles;
-}
-
-int FormSurface::HandleAt(QPoint p) const {
-  const auto handles = Handles();
-  for (std::size_t i = 0; i < handles.size(); ++i)
-    if (handles[i].isValid() && handles[i].adjusted(-2, -2, 2, 2).contains(p)) return static_cast<int>(i);
-  return -1;
-}
-
-void FormSurface::PaintSelection(QPainter& p) const {
-  const QColor accent = palette().color(QPalette::Highlight);
-  const auto selected = session_->SelectedComponents();
-  p.setRenderHint(QPainter::Antialiasing, false);
-  for (const TComponent* c : selected) {
-    if (c == session_->GetRoot()) continue;
-    p.setPen(QPen(accent, 1));
-    p.setBrush(Qt::NoBrush);
-    p.drawRect(WidgetRect(*c).adjusted(0, 0, -1, -1));
-    if (selected.size() == 1) continue;
-    // Several: small marks at the corners.
-    const QRect r = WidgetRect(*c);
-    for (const QPoint corner : {r.topLeft(), r.topRight(), r.bottomLeft(), r.bottomRight()})
-      p.fillRect(QRect(corner - QPoint(2, 2), QSize(5, 5)), accent);
-  }
-  for (const QRect& h : Handles()) {
-    if (!h.isValid()) continue;
-    p.setPen(accent);
-    p.setBrush(palette().color(QPalette::Base));
-    p.drawRect(h.adjusted(0, 0, -1, -1));
-  }
-  if (action_ == Action::Band || action_ == Action::Place) {
-    QColor fill = accent;
-    fill.setAlpha(40);
-    p.setPen(QPen(accent, 1, action_ == Action::Band ? Qt::DashLine : Qt::SolidLine));
-    p.setBrush(fill);
-    p.drawRect(QRect(pressed_, current_).normalized());
-  }
-  if (action_ == Action::Move || action_ == Action::Resize) {
-    const QRect r = FormRectOf(*starts_.front().component);
-    const QRect own = RectOf(*starts_.front().component);
-    const QString text = action_ == Action::Move ? QStringLiteral("%1, %2").arg(own.left()).arg(own.top())
-                                                 : QStringLiteral("%1 x %2").arg(r.width()).arg(r.height());
-    const int width = p.fontMetrics().horizontalAdvance(text) + 12;
-    const QRect label(current_ + QPoint(14, 16), QSize(width, p.fontMetrics().height() + 6));
-    p.setPen(palette().color(QPalette::Mid));
-    p.setBrush(palette().color(QPalette::ToolTipBase));
-    p.drawRect(label);
-    p.setPen(palette().color(QPalette::ToolTipText));
-    p.drawText(label, Qt::AlignCenter, text);
+// Whatever a command throws is told to the person; the session has taken it back already.
+void FormSurface::Guarded(const std::function<void()>& action) {
+  try {
+    action();
+  } catch (const std::exception& e) {
+    emit Message(ExceptionMessage(e));
   }
 }
 
@@ -370,8 +248,10 @@ void FormSurface::FinishDrag() {
   RestorePlaces();
   const QString text = action_ == Action::Move ? tr("Move") : tr("Resize");
   action_ = Action::None;
-  session_->Run(text, touched, [&] {
-    for (std::size_t i = 0; i < touched.size(); ++i) SetRect(*touched[i], final[i]);
+  Guarded([&] {
+    session_->Run(text, touched, [&] {
+      for (std::size_t i = 0; i < touched.size(); ++i) SetRect(*touched[i], final[i]);
+    });
   });
 }
 
@@ -426,13 +306,13 @@ void FormSurface::PlaceTool(const QRect& drawn) {
   r.moveTopLeft({Snap(r.left(), Grid), Snap(r.top(), Grid)});
   const bool sized = drawn.width() > 8 && drawn.height() > 8;
   r.setSize(sized ? QSize(Snap(r.width(), Grid), Snap(r.height(), Grid)) : QSize(0, 0));
-  session_->CreateComponent(cls, container, r);
+  Guarded([&] { session_->CreateComponent(cls, container, r); });
 }
 
 void FormSurface::mouseDoubleClickEvent(QMouseEvent* event) {
   if (!session_ || event->button() != Qt::LeftButton) return;
   CancelDrag();
-  if (TComponent* c = ComponentAt(event->pos())) session_->Edit(*c);
+  if (TComponent* c = ComponentAt(event->pos())) Guarded([&] { session_->Edit(*c); });
 }
 
 void FormSurface::contextMenuEvent(QContextMenuEvent* event) {
@@ -496,7 +376,7 @@ void FormSurface::keyPressEvent(QKeyEvent* event) {
     case Qt::Key_Down:
       return Nudge(0, step, resize);
     case Qt::Key_Delete:
-      return session_->DeleteSelection();
+      return Guarded([&] { session_->DeleteSelection(); });
     case Qt::Key_Return:
     case Qt::Key_F11:
       emit InspectorWanted();

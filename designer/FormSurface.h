@@ -16,6 +16,7 @@ class FormSurface : public QWidget {
   double Zoom() const { return zoom_; }
   static constexpr int Grid = 8;
   static constexpr int IconSize = 28;
+  static constexpr int Desk = 24;  // room around the form
 
   // The class that the next click places; null for the arrow.
   void SetTool(const TClass* cls);
@@ -48,9 +49,11 @@ class FormSurface : public QWidget {
     TComponent* component;
     QRect rect;
   };
+  void Guarded(const std::function<void()>& action);
   TControl* DeepestAt(QPoint formPoint) const;
   QPoint ToForm(QPoint widgetPoint) const;     // client coordinates of the form
   QPoint ClientOrigin() const;                 // of the form's client area, in unzoomed surface coordinates
+  static bool HasIcon(const TComponent& component) { return !As<TControl>(&component); }
   QRect FormRectOf(const TComponent& component) const;
   int HandleAt(QPoint widgetPoint) const;
   std::vector<QRect> Handles() const;

@@ -98,6 +98,7 @@ void MainWindow::BuildPanes() {
   });
   connect(surface_, &FormSurface::ToolUsed, palette_, &PalettePane::SelectArrow);
   connect(surface_, &FormSurface::ContextMenuWanted, this, &MainWindow::ShowContextMenu);
+  connect(surface_, &FormSurface::Message, this, [this](const QString& text) { Prompts().Warn(this, QCoreApplication::applicationName(), text); });
   connect(surface_, &FormSurface::InspectorWanted, inspector_, &InspectorPane::FocusValue);
 }
 

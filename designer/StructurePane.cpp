@@ -3,6 +3,8 @@
 #include <QtWidgets>
 
 #include "designintf/ComponentIcons.h"
+#include "rtl/Exceptions.h"
+#include "vcl/Prompts.h"
 
 namespace {
 TComponent* ComponentOf(const QTreeWidgetItem* item) {
@@ -39,7 +41,13 @@ StructurePane::StructurePane(QWidget* parent) : QWidget(parent) {
     session_->Select(selected);
     updating_ = false;
   });
-  connect(tree_, &QTreeWidget::itemDoubleClicked, this, [this](QTreeWidgetItem* item) { session_->Edit(*ComponentOf(item)); });
+  connect(tree_, &QTreeWidget::itemDoubleClicked, this, [this](QTreeWidgetItem* item) {
+    try {
+      session_->Edit(*ComponentOf(item));
+    } catch (const std::exception& e) {
+      Prompts().Warn(this, QCoreApplication::applicationName(), ExceptionMessage(e));
+    }
+  });
   tree_->setExpandsOnDoubleClick(false);
 }
 
