@@ -1,6 +1,7 @@
 #include "bench/Measure.h"
 
 #include <malloc.h>
+#include <time.h>
 
 #include <QCoreApplication>
 #include <QFile>
@@ -19,6 +20,12 @@ double StatusField(const char* name) {
   return 0;
 }
 }  // namespace
+
+double Stopwatch::Now() {
+  timespec time{};
+  clock_gettime(CLOCK_PROCESS_CPUTIME_ID, &time);
+  return static_cast<double>(time.tv_sec) * 1e9 + static_cast<double>(time.tv_nsec);
+}
 
 MemoryPeak::MemoryPeak() {
   malloc_trim(0);

@@ -12,8 +12,6 @@ if(VRX_SANITIZE)
 endif()
 if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
   add_compile_options(-fpch-preprocess) # lets ccache see through precompiled headers
-  # Calls within a library go straight to their target: nobody replaces its functions from outside.
-  add_compile_options(-fno-semantic-interposition)
 endif()
 
 function(vrx_setup target)
@@ -31,6 +29,8 @@ function(vrx_layer name)
   file(GLOB_RECURSE sources CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/*.cpp ${CMAKE_CURRENT_SOURCE_DIR}/*.h)
   add_library(${name} SHARED ${sources})
   vrx_setup(${name})
+  # Calls within a library go straight to their target: nobody replaces its functions from outside.
+  target_compile_options(${name} PRIVATE $<$<CXX_COMPILER_ID:GNU>:-fno-semantic-interposition>)
   target_link_libraries(${name} PUBLIC ${ARG_LINK})
   if(ARG_PCH)
     target_precompile_headers(${name} PRIVATE ${CMAKE_SOURCE_DIR}/cmake/${ARG_PCH})

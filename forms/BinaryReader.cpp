@@ -118,7 +118,7 @@ std::unique_ptr<Object> BinaryReader::ReadObject(Document& doc, int depth) {
     const auto valueBegin = static_cast<std::uint32_t>(Offset());
     ReadValue(nullptr);
     const auto end = static_cast<std::uint32_t>(Offset());
-    properties.emplace_back(path, Span{begin, end}, Span{valueBegin, end});
+    properties.emplace_back(path, Span{begin, end}, valueBegin);
   }
   properties.shrink_to_fit();
   object->properties = std::move(properties);

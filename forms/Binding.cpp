@@ -1,5 +1,7 @@
 #include "forms/Binding.h"
 
+#include <cstring>
+
 #include "forms/TextWriter.h"
 #include "rtl/ClassRegistry.h"
 #include "rtl/Collection.h"
@@ -12,14 +14,15 @@ namespace forms {
 PropertyTarget FindTarget(TPersistent& root, QByteArrayView path) {
   TPersistent* instance = &root;
   for (;;) {
-    const qsizetype dot = path.indexOf('.');
-    if (dot < 0) {
+    const auto* point = path.isEmpty() ? nullptr : std::memchr(path.data(), '.', static_cast<std::size_t>(path.size()));
+    if (!point) {
       constexpr QByteArrayView content("Strings");
       if (path.size() == content.size() && path.compare(content, Qt::CaseInsensitive) == 0 && As<TStrings>(instance))
         return {instance, nullptr};
       const TPropInfo* prop = instance->ClassType().FindProp(path);
       return prop ? PropertyTarget{instance, prop} : PropertyTarget{};
     }
+    const qsizetype dot = static_cast<const char*>(point) - path.data();
     const TPropInfo* prop = instance->ClassType().FindProp(path.first(dot));
     if (!prop || prop->Kind() != TTypeKind::tkClass) return {};
     instance = GetObjectProp(*instance, *prop);

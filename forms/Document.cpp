@@ -242,6 +242,7 @@ void Document::WriteBinaryObject(BinaryWriter& out, const Object& object, bool c
 QByteArray Document::Write() const {
   if (format_ == Format::Text) {
     TextWriter out(dialect_);
+    out.Reserve(source_.size());
     out.Copy(Slice(before_));
     WriteTextObject(out, *root_, 0);
     out.Raw(Slice(trailer_));

@@ -23,27 +23,34 @@ struct Span {
   bool Empty() const { return begin == end; }
 };
 
-// One "Name = value". Cheap: the value is decoded only when somebody asks.
+// One "Name = value". Cheap, for a form has many: the value is decoded only when somebody asks.
 class Property {
  public:
   Property() = default;
-  Property(QByteArrayView name, Span node, Span value) : name_(name), node_(node), value_(value) {}
+  // A property of the source. The name is in the source or interned by the document.
+  Property(QByteArrayView name, Span node, std::uint32_t valueBegin)
+      : name_(name.data()), nameSize_(static_cast<std::uint32_t>(name.size())), node_(node), valueBegin_(valueBegin) {}
   // A property that is not in the source. The name is interned by the document; `lead` are the blank lines of the
   // source that stand above it.
   Property(QByteArrayView internedName, Value value, Span lead)
-      : name_(internedName), node_(lead), edited_(std::make_unique<Value>(std::move(value))) {}
+      : name_(internedName.data()),
+        nameSize_(static_cast<std::uint32_t>(internedName.size())),
+        node_(lead),
+        edited_(std::make_unique<Value>(std::move(value))) {}
 
-  QByteArrayView Name() const { return name_; }
+  QByteArrayView Name() const { return {name_, static_cast<qsizetype>(nameSize_)}; }
   bool FromSource() const { return !edited_; }
   // The whole node in the source; of an edited property, the blank lines above it.
   Span Node() const { return node_; }
-  Span SourceValue() const { return value_; }
+  // From the value to the end of the node: a text node may have blanks behind the value.
+  Span SourceValue() const { return {valueBegin_, node_.end}; }
   const Value* Edited() const { return edited_.get(); }
 
  private:
-  QByteArrayView name_;
+  const char* name_ = nullptr;
+  std::uint32_t nameSize_ = 0;
   Span node_;
-  Span value_;
+  std::uint32_t valueBegin_ = 0;
   std::unique_ptr<Value> edited_;
 };
 

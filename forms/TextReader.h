@@ -1,8 +1,7 @@
 // The text form: one grammar for checking a whole file and for decoding one value.
 #pragma once
-#include <array>
-
 #include "forms/Document.h"
+#include "forms/TextChars.h"
 
 namespace forms {
 
@@ -14,7 +13,10 @@ class TextReader {
   void ReadDocument(Document& document);
   // Reads one value at the current place; with null it is only checked.
   void ReadValue(Value* out, int depth = 0);
-  void SkipBlanks();
+  void SkipBlanks() {
+    while (p_ != end_ && IsBlank(*p_)) ++p_;
+    if (p_ != end_ && *p_ == '{') SkipDirectives();
+  }
   // Refuses anything but blanks up to the end.
   void ExpectEnd();
 
@@ -24,6 +26,7 @@ class TextReader {
   std::unique_ptr<Object> ReadObject(Document& document, std::size_t nodeBegin, int depth);
   void ReadProperties(Document& document, Object& object);
   void ReadNumber(Value* out);
+  bool ReadShortInteger(Value* out);
   void ReadString(Value* out);
   bool ReadPlainString(Value* out);
   void ReadIdent(Value* out);
@@ -33,11 +36,18 @@ class TextReader {
   void ReadBinary(Value* out);
   std::int64_t ReadInteger();
 
+  void SkipDirectives();
   std::size_t NodeEnd();
-  QByteArrayView PeekWord() const;
-  QByteArrayView Word(const char* what);
+  QByteArrayView PeekWord() const {
+    const char* q = p_;
+    if (q == end_ || !IsIdentStart(*q)) return {};
+    while (q != end_ && IsIdentChar(*q)) ++q;
+    return {p_, q};
+  }
+  QByteArrayView Take(QByteArrayView word, const char* what);
+  QByteArrayView Word(const char* what) { return Take(PeekWord(), what); }
   QByteArrayView HeaderWord(const char* what);
-  QByteArrayView PropertyPath();
+  QByteArrayView PropertyPath(QByteArrayView firstWord);
   void Expect(char c, const char* what);
   std::size_t Offset() const { return static_cast<std::size_t>(p_ - begin_); }
   QByteArray Here() const;
@@ -56,15 +66,6 @@ class TextReader {
   int highBytes_ = 0;
 };
 
-constexpr bool IsIdentStart(char c) { return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || c == '_'; }
-// Asked for every character of a file.
-inline constexpr std::array<bool, 256> IdentChars = [] {
-  std::array<bool, 256> table{};
-  for (unsigned c = 0; c < 128; ++c)
-    table[c] = IsIdentStart(static_cast<char>(c)) || (c >= '0' && c <= '9');
-  return table;
-}();
-constexpr bool IsIdentChar(char c) { return IdentChars[static_cast<unsigned char>(c)]; }
 // What the reader would take for an identifier with points, a property's name, a name in an object's header.
 bool IsPath(QByteArrayView text);
 bool IsPropertyPath(QByteArrayView text);

@@ -84,6 +84,7 @@ bool Value::operator==(const Value& o) const {
 
 void Value::Own() {
   bytes = QByteArray(bytes.constData(), bytes.size());
+  for (QByteArray& element : elements) element = QByteArray(element.constData(), element.size());
   for (Value& item : items) item.Own();
   for (CollectionItem& item : collection)
     for (NamedValue& p : item.properties) p.value.Own();

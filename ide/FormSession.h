@@ -110,7 +110,7 @@ class FormSession : public QObject, public IDesigner, public IControlHost {
   void InsertObject(StructureChange& change);
   void TakeObject(StructureChange& change);
   void Announce(bool structure);
-  forms::FormReader MakeReader();
+  static forms::FormReader MakeReader(forms::Document& document, forms::ObjectMap& map);
   std::vector<TComponent*> ComponentsOf(const std::vector<forms::Object*>& objects) const;
   std::vector<forms::Object*> SelectedObjects() const;
   int NewChildIndex(const forms::Object& parent, const TComponent& component) const;

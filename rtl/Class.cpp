@@ -1,5 +1,7 @@
 #include "rtl/Class.h"
 
+#include <cstring>
+
 #include "rtl/Exceptions.h"
 
 namespace {
@@ -14,7 +16,9 @@ std::uint32_t FoldedHash(QByteArrayView name) {
 }
 
 bool SameName(QByteArrayView a, QByteArrayView b) {
-  return a.size() == b.size() &&
+  if (a.size() != b.size()) return false;
+  const auto size = static_cast<std::size_t>(a.size());
+  return size == 0 || std::memcmp(a.data(), b.data(), size) == 0 ||  // nearly always written as declared
          std::equal(a.begin(), a.end(), b.begin(), [](char x, char y) { return Fold(x) == Fold(y); });
 }
 

@@ -69,7 +69,7 @@ static std::int64_t Ord(TColor c) { return static_cast<std::int64_t>(c); }
 
 bool IdentToColor(QByteArrayView ident, std::int64_t& value) {
   for (const TColorEntry& e : NamedColors())
-    if (ident.compare(QByteArrayView(e.Name), Qt::CaseInsensitive) == 0) {
+    if (const QByteArrayView name(e.Name); name.size() == ident.size() && name.compare(ident, Qt::CaseInsensitive) == 0) {
       value = Ord(e.Value);
       return true;
     }

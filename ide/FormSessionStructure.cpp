@@ -1,0 +1,135 @@
+// Components that come and go, and changes that nobody announced.
+#include "designintf/DesignWindow.h"
+#include "ide/PendingCommand.h"
+#include "rtl/Exceptions.h"
+
+namespace {
+void CollectComponents(TComponent& component, std::vector<TComponent*>& out) {
+  out.push_back(&component);
+  for (TComponent* child : component.GetChildren()) CollectComponents(*child, out);
+}
+}  // namespace
+
+// Controls stand before the components that are none, as in every form file.
+int FormSession::NewChildIndex(const forms::Object& parent, const TComponent& component) const {
+  int index = static_cast<int>(parent.children.size());
+  if (!As<TControl>(&component)) return index;
+  while (index > 0) {
+    const TComponent* c = map_.ComponentOf(*parent.children[static_cast<std::size_t>(index - 1)]);
+    if (!c || As<TControl>(c)) break;
+    --index;
+  }
+  return index;
+}
+
+TComponent* FormSession::CreateComponent(const TClass& cls, TComponent* parent, const QRect& bounds) {
+  TComponent* result = nullptr;
+  if (!parent) parent = root_.get();
+  Run(tr("Add %1").arg(QString::fromLatin1(cls.ClassName())), {}, [&] {
+    TComponent* component = cls.NewComponent(root_.get());
+    component->SetDesigning(true);
+    auto* control = As<TControl>(component);
+    TComponent* container = root_.get();
+    if (control) {
+      auto* holder = As<TWinControl>(parent);
+      container = holder ? static_cast<TComponent*>(holder) : root_.get();
+      while (container != root_.get() && !map_.ObjectOf(*container)) container = container->GetParentComponent();
+    }
+    forms::Object* parentObject = map_.ObjectOf(*container);
+    auto object = std::make_unique<forms::Object>();
+    object->className = component->StreamClassName();
+    StructureChange s;
+    s.object = object.get();
+    s.parent = parentObject;
+    s.index = NewChildIndex(*parentObject, *component);
+    parentObject->Insert(s.index, std::move(object));
+    pending_->created.insert(s.object);
+    map_.Add(*component, *s.object);
+    pending_->structure.push_back(std::move(s));
+    component->SetName(UniqueName(QString::fromLatin1(cls.ClassName())));
+    if (control) {
+      control->SetParent(As<TWinControl>(container));
+      control->SetCaption(control->Caption().isEmpty() ? control->Name() : control->Caption());
+      const bool sized = bounds.width() > 1 && bounds.height() > 1;
+      control->SetBounds(bounds.left(), bounds.top(), sized ? bounds.width() : control->Width(),
+                         sized ? bounds.height() : control->Height());
+      if (auto* windowed = As<TWinControl>(control))
+        windowed->SetTabOrder(static_cast<int>(std::count_if(
+            windowed->Parent()->Controls().begin(), windowed->Parent()->Controls().end(),
+            [&](TControl* c) { return c != control && As<TWinControl>(c); })));
+    } else {
+      component->SetDesignInfo(DesignWordOf({static_cast<std::int16_t>(bounds.left()), static_cast<std::int16_t>(bounds.top())}));
+    }
+    result = component;
+    selection_ = {component};
+    NotifyDesign([&](IDesignNotification& n) { n.ItemInserted(this, component); });
+  });
+  Select(selection_);
+  return result;
+}
+
+void FormSession::DeleteComponents(const std::vector<TComponent*>& components) {
+  std::vector<TComponent*> doomed;
+  const auto insideAnother = [&](const TComponent* c) {
+    for (const TComponent* p = c->GetParentComponent(); p && p != root_.get(); p = p->GetParentComponent())
+      if (std::find(components.begin(), components.end(), p) != components.end()) return true;
+    return false;
+  };
+  for (TComponent* c : components) {
+    if (c == root_.get() || insideAnother(c)) continue;
+    if (map_.ObjectOf(*c)->kind == forms::ObjectKind::Inherited)
+      throw EComponentError(tr("%1 comes from the ancestor form and cannot be deleted here.").arg(c->Name()));
+    doomed.push_back(c);
+  }
+  if (doomed.empty()) return;
+  Run(doomed.size() == 1 ? tr("Delete %1").arg(doomed[0]->Name()) : tr("Delete %n components", nullptr, static_cast<int>(doomed.size())),
+      {}, [&] {
+        for (TComponent* c : doomed) {
+          std::vector<TComponent*> all;
+          CollectComponents(*c, all);
+          for (TComponent* inner : all)
+            for (TComponent* holder : inner->FreeNotifies())
+              if (std::find(all.begin(), all.end(), holder) == all.end() && map_.ObjectOf(*holder)) Capture(*holder);
+        }
+        for (TComponent* c : doomed) {
+          StructureChange s;
+          s.kind = StructureChange::Kind::Remove;
+          s.object = map_.ObjectOf(*c);
+          s.parent = s.object->parent;
+          TakeObject(s);
+          pending_->structure.push_back(std::move(s));
+        }
+      });
+  Select(selection_);
+}
+
+void FormSession::DeleteSelection() { DeleteComponents(selection_); }
+
+void FormSession::Rename(TComponent& component, const QString& name) {
+  if (name.isEmpty()) throw EComponentError(tr("%1 needs a name.").arg(component.Name()));
+  Run(tr("Rename %1").arg(component.Name()), {&component}, [&] { component.SetName(name); });
+}
+
+// A change that nobody announced beforehand, made by a design window: found by comparing every component with what
+// the document makes of it.
+void FormSession::Reconcile() {
+  forms::Document copy = forms::Document::Parse(document_.Write(), document_.Style());
+  forms::ObjectMap copyMap;
+  forms::FormReader reader = MakeReader(copy, copyMap);
+  const auto before = reader.ReadRoot();
+  pending_ = std::make_unique<Pending>();
+  pending_->selectionBefore = SelectedObjects();
+  std::function<void(const forms::Object&, forms::Object&)> walk = [&](const forms::Object& was, forms::Object& is) {
+    TComponent* old = copyMap.ComponentOf(was);
+    TComponent* now = map_.ComponentOf(is);
+    if (old && now) pending_->captured.push_back({now, &is, old->Name(), forms::TakeSnapshot(*old, copy)});
+    for (std::size_t i = 0; i < is.children.size(); ++i) walk(*was.children[i], *is.children[i]);
+  };
+  walk(copy.Root(), document_.Root());
+  Commit(tr("Change"));
+}
+
+void FormSession::Modified() {
+  if (pending_ || applying_) return;  // the running command takes it along
+  Reconcile();
+}
