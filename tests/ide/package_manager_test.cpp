@@ -107,16 +107,18 @@ TEST_F(PackageTest, TheUnitTableOfTheMainPackageAgreesWithItsRecord) {
 }
 
 TEST_F(PackageTest, LoadingTheMainPackagePutsTheLedLabelOnThePalette) {
+  const TClass* before = FindClass("TVRXLEDLabel");
   manager_.Load(PackageManager::DefaultPackage());
   EXPECT_NE(FindClass("TVRXLEDLabel"), nullptr);
-  bool found = false;
-  for (const TPalettePage& page : PalettePages())
-    for (const TClass* cls : page.Classes)
-      found = found || (page.Name == QStringLiteral("VRX Ext") && cls->ClassName() == "TVRXLEDLabel");
-  EXPECT_TRUE(found);
+  ASSERT_GT(Registrations().size(), rows_);
+  const TRegistration& first = Registrations()[rows_];
+  EXPECT_EQ(first.Kind, TRegistrationKind::Components);
+  EXPECT_EQ(first.PageOrCategory, QStringLiteral("VRX Ext"));
+  ASSERT_EQ(first.Classes.size(), 1u);
+  EXPECT_EQ(first.Classes[0]->ClassName(), "TVRXLEDLabel");
   manager_.Unload(PackageManager::DefaultPackage());
   EXPECT_TRUE(NothingLeft());
-  EXPECT_EQ(FindClass("TVRXLEDLabel"), nullptr);
+  EXPECT_EQ(FindClass("TVRXLEDLabel"), before);
 }
 
 TEST_F(PackageTest, UnitsStartInOrderThenRegisterAndEndInReverse) {

@@ -43,7 +43,8 @@ class Monkey {
         });
       case 7:
         return Run(c, [&] {
-          if (control) control->Font()->SetColor(TColor(static_cast<unsigned>(Below(0xFFFFFF))));
+          if (control && c.ClassType().FindProp("Font"))
+            control->Font()->SetColor(TColor(static_cast<unsigned>(Below(0xFFFFFF))));
         });
       case 8:
         return Run(c, [&] {
