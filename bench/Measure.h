@@ -3,8 +3,8 @@
 #include <QMap>
 #include <QStringList>
 
-// Processor time of this process: what else the machine does counts less than with a clock on the wall. The files
-// that are read are in the system's cache.
+// Processor time of this process: what else the machine does counts less than with a clock on the wall. The
+// files that are read are in the system's cache.
 class Stopwatch {
  public:
   // Nanoseconds since the start.

@@ -6,7 +6,8 @@
 using namespace forms;
 
 namespace {
-void PrintFinding(QTextStream& out, const QString& file, const Location& where, const char* severity, const QString& text) {
+void PrintFinding(QTextStream& out, const QString& file, const Location& where, const char* severity,
+                  const QString& text) {
   // A binary form has no lines; its one line is counted in bytes.
   const int line = where.line > 0 ? where.line : 1;
   const auto column = where.line > 0 ? static_cast<std::size_t>(where.column) : where.offset + 1;
@@ -53,7 +54,9 @@ int ConvertCommand(const QStringList& list, Console&) {
   const QString in = args.values[0];
   try {
     const Document document = Document::Parse(ReadFile(in), DialectOfName(args.values[1]));
-    const Format target = to.isEmpty() ? (document.SourceFormat() == Format::Text ? Format::Resource : Format::Text) : formats[to];
+    const Format target = to.isEmpty()
+                              ? (document.SourceFormat() == Format::Text ? Format::Resource : Format::Text)
+                              : formats[to];
     WriteFile(args.values[1], document.WriteAs(target));
   } catch (const EFormError& e) {
     throw Exception(QStringLiteral("%1: %2").arg(in, e.Message()));

@@ -18,7 +18,8 @@ const std::vector<CommandRow>& CommandTable() {
        "comes out byte for byte.",
        ConvertCommand},
       {"render", "FORM -o PNG [--scale F] [--theme light|dark]", "Draws a form as a picture.", RenderCommand},
-      {"get", "FORM COMPONENT[.PROPERTY]", "Prints a property, or all of a component, as form text.", GetCommand},
+      {"get", "FORM COMPONENT[.PROPERTY]", "Prints a property, or all of a component, as form text.",
+       GetCommand},
       {"set", "FORM COMPONENT.PROPERTY=VALUE... [-o OUT]",
        "Changes properties; values are written as in form text ('a string', clRed,\n"
        "[a, b], 12). A refused value says why, and nothing is written.",
@@ -81,7 +82,8 @@ void LoadClasses(Console& console, bool labeled) {
 
 namespace {
 void PrintHelp(QTextStream& out) {
-  out << "vrx - works on form files without a display\n\nUsage: vrx COMMAND ARGUMENTS\n       vrx --help | --version\n";
+  out << "vrx - works on form files without a display\n\nUsage: vrx COMMAND ARGUMENTS\n       vrx --help | "
+         "--version\n";
   for (const CommandRow& row : CommandTable()) {
     out << "\n  vrx " << row.name << ' ' << row.arguments << '\n';
     for (const QString& line : QString::fromLatin1(row.help).split(u'\n')) out << "      " << line << '\n';
@@ -109,7 +111,8 @@ int RunVrx(const QStringList& arguments, Console& console) {
     try {
       return row.run(arguments.mid(1), console);
     } catch (const UsageError& e) {
-      console.err << "vrx " << row.name << ": " << e.text << "\nUsage: vrx " << row.name << ' ' << row.arguments << Qt::endl;
+      console.err << "vrx " << row.name << ": " << e.text << "\nUsage: vrx " << row.name << ' '
+                  << row.arguments << Qt::endl;
       return ExitUsage;
     } catch (const std::exception& e) {
       console.err << "vrx " << row.name << ": " << ExceptionMessage(e) << Qt::endl;

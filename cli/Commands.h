@@ -35,7 +35,8 @@ struct Arguments {
 };
 Arguments ParseArguments(const QStringList& list, const QStringList& withValue, const QStringList& flags);
 
-// Makes the host's classes and, when it can be loaded, the package's known; a package that cannot is told on `err`.
+// Makes the host's classes and, when it can be loaded, the package's known; a package that cannot is told on
+// `err`.
 void LoadClasses(Console& console, bool labeled = false);
 
 int CheckCommand(const QStringList& arguments, Console& console);

@@ -27,7 +27,8 @@ TComponent& ComponentNamed(FormSession& session, const QString& name) {
 
 int GetCommand(const QStringList& list, Console& console) {
   const Arguments args = ParseArguments(list, {}, {});
-  if (args.values.size() != 2) throw UsageError{QStringLiteral("FORM and COMPONENT or COMPONENT.PROPERTY are needed")};
+  if (args.values.size() != 2)
+    throw UsageError{QStringLiteral("FORM and COMPONENT or COMPONENT.PROPERTY are needed")};
   LoadClasses(console);
   const auto session = OpenForm(args.values[0]);
   const QString name = args.values[1].section(u'.', 0, 0);
@@ -57,19 +58,23 @@ int GetCommand(const QStringList& list, Console& console) {
         console.out << QString::fromUtf8(ValueToText(v.value, document.Style())) << '\n';
         found = true;
       } else if (below(v.path) && !object.Find(v.path)) {
-        console.out << QString::fromUtf8(v.path) << " = " << QString::fromUtf8(ValueToText(v.value, document.Style())) << '\n';
+        console.out << QString::fromUtf8(v.path) << " = "
+                    << QString::fromUtf8(ValueToText(v.value, document.Style())) << '\n';
         found = true;
       }
     }
   console.out.flush();
   if (!found && !path.isEmpty())
-    throw Exception(QStringLiteral("%1: %2 has no property \"%3\"").arg(component.Name(), QString::fromUtf8(component.StreamClassName()), QString::fromUtf8(path)));
+    throw Exception(
+        QStringLiteral("%1: %2 has no property \"%3\"")
+            .arg(component.Name(), QString::fromUtf8(component.StreamClassName()), QString::fromUtf8(path)));
   return ExitOk;
 }
 
 int SetCommand(const QStringList& list, Console& console) {
   const Arguments args = ParseArguments(list, {QStringLiteral("-o")}, {});
-  if (args.values.size() < 2) throw UsageError{QStringLiteral("FORM and COMPONENT.PROPERTY=VALUE are needed")};
+  if (args.values.size() < 2)
+    throw UsageError{QStringLiteral("FORM and COMPONENT.PROPERTY=VALUE are needed")};
   LoadClasses(console);
   const auto session = OpenForm(args.values[0]);
   struct Assignment {
@@ -90,7 +95,8 @@ int SetCommand(const QStringList& list, Console& console) {
     try {
       assignments.push_back({&component, text, path, TextToValue(text.mid(equals + 1).trimmed().toUtf8())});
     } catch (const EFormError& e) {
-      throw Exception(QStringLiteral("%1: the value is not form text: %2. Strings are written as '...'.").arg(text, e.Text()));
+      throw Exception(QStringLiteral("%1: the value is not form text: %2. Strings are written as '...'.")
+                          .arg(text, e.Text()));
     }
     touched.push_back(&component);
   }
@@ -99,7 +105,8 @@ int SetCommand(const QStringList& list, Console& console) {
       const PropertyTarget target = FindTarget(*a.component, a.path);
       if (!target.Found())
         throw Exception(QStringLiteral("%1: %2 has no property \"%3\"")
-                            .arg(a.component->Name(), QString::fromUtf8(a.component->StreamClassName()), QString::fromUtf8(a.path)));
+                            .arg(a.component->Name(), QString::fromUtf8(a.component->StreamClassName()),
+                                 QString::fromUtf8(a.path)));
       try {
         ApplyNow(session->Form(), target, a.value, session->Document());
       } catch (const Exception& e) {
@@ -112,12 +119,15 @@ int SetCommand(const QStringList& list, Console& console) {
 }
 
 int RenderCommand(const QStringList& list, Console& console) {
-  const Arguments args = ParseArguments(list, {QStringLiteral("-o"), QStringLiteral("--scale"), QStringLiteral("--theme")}, {});
-  if (args.values.size() != 1 || !args.Has(QStringLiteral("-o"))) throw UsageError{QStringLiteral("FORM and -o PNG are needed")};
+  const Arguments args =
+      ParseArguments(list, {QStringLiteral("-o"), QStringLiteral("--scale"), QStringLiteral("--theme")}, {});
+  if (args.values.size() != 1 || !args.Has(QStringLiteral("-o")))
+    throw UsageError{QStringLiteral("FORM and -o PNG are needed")};
   bool ok = true;
   const QString scaleText = args.options.value(QStringLiteral("--scale"), QStringLiteral("1"));
   const double scale = scaleText.toDouble(&ok);
-  if (!ok || !(scale >= 0.05 && scale <= 20)) throw UsageError{QStringLiteral("--scale takes a number from 0.05 to 20, not \"%1\"").arg(scaleText)};
+  if (!ok || !(scale >= 0.05 && scale <= 20))
+    throw UsageError{QStringLiteral("--scale takes a number from 0.05 to 20, not \"%1\"").arg(scaleText)};
   const QString theme = args.options.value(QStringLiteral("--theme"), QStringLiteral("light"));
   if (theme != QStringLiteral("light") && theme != QStringLiteral("dark"))
     throw UsageError{QStringLiteral("--theme takes light or dark, not \"%1\"").arg(theme)};
@@ -127,12 +137,15 @@ int RenderCommand(const QStringList& list, Console& console) {
   TForm& form = session->Form();
   constexpr double MaxPixels = 200e6;
   if (form.Width() * scale * form.Height() * scale > MaxPixels)
-    throw Exception(QStringLiteral("%1: the picture would have more than 200 million pixels; use a smaller --scale").arg(args.values[0]));
+    throw Exception(
+        QStringLiteral("%1: the picture would have more than 200 million pixels; use a smaller --scale")
+            .arg(args.values[0]));
   const QString file = args.options.value(QStringLiteral("-o"));
   QByteArray png;
   QBuffer buffer(&png);
   buffer.open(QIODevice::WriteOnly);
-  if (!RenderForm(form, scale).save(&buffer, "PNG")) throw Exception(QStringLiteral("The picture could not be made"));
+  if (!RenderForm(form, scale).save(&buffer, "PNG"))
+    throw Exception(QStringLiteral("The picture could not be made"));
   WriteFile(file, png);
   return ExitOk;
 }

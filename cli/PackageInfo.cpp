@@ -6,9 +6,14 @@
 #include "ide/PackageManager.h"
 
 namespace {
-void PrintJson(QTextStream& out, const QJsonDocument& json) { out << QString::fromUtf8(json.toJson()); out.flush(); }
+void PrintJson(QTextStream& out, const QJsonDocument& json) {
+  out << QString::fromUtf8(json.toJson());
+  out.flush();
+}
 
-QString ClassNameOf(const TClass* cls) { return cls ? QString::fromLatin1(cls->ClassName()) : QStringLiteral("nil"); }
+QString ClassNameOf(const TClass* cls) {
+  return cls ? QString::fromLatin1(cls->ClassName()) : QStringLiteral("nil");
+}
 
 QJsonArray ClassNames(const std::vector<const TClass*>& classes) {
   QJsonArray names;
@@ -22,7 +27,9 @@ QJsonValue NullableClass(const TClass* cls) {
 
 QJsonObject RowToJson(const TRegistration& r) {
   QJsonObject o{{QStringLiteral("procedure"), QString::fromLatin1(r.Procedure)}};
-  const auto set = [&o](const char* key, QJsonValue value) { o.insert(QString::fromLatin1(key), std::move(value)); };
+  const auto set = [&o](const char* key, QJsonValue value) {
+    o.insert(QString::fromLatin1(key), std::move(value));
+  };
   switch (r.Kind) {
     case TRegistrationKind::Components:
       set("call", QStringLiteral("RegisterComponents"));
@@ -45,7 +52,8 @@ QJsonObject RowToJson(const TRegistration& r) {
       set("type", QString::fromLatin1(r.PropertyType->Name));
       set("class", NullableClass(r.ComponentClass));
       set("name", QString::fromLatin1(r.PropertyName));
-      set("editor", r.PropertyEditor ? QJsonValue(QString::fromLatin1(r.PropertyEditor->Name)) : QJsonValue(QJsonValue::Null));
+      set("editor", r.PropertyEditor ? QJsonValue(QString::fromLatin1(r.PropertyEditor->Name))
+                                     : QJsonValue(QJsonValue::Null));
       break;
     case TRegistrationKind::Category:
       set("call", QStringLiteral("RegisterPropertiesInCategory"));
@@ -67,10 +75,12 @@ QString RowToText(const TRegistration& r) {
     case TRegistrationKind::Actions:
       return QStringLiteral("RegisterActions \"%1\" %2 nil").arg(r.PageOrCategory, list);
     case TRegistrationKind::ComponentEditor:
-      return QStringLiteral("RegisterComponentEditor %1 -> %2").arg(ClassNameOf(r.ComponentClass), QString::fromLatin1(r.ComponentEditor->Name));
+      return QStringLiteral("RegisterComponentEditor %1 -> %2")
+          .arg(ClassNameOf(r.ComponentClass), QString::fromLatin1(r.ComponentEditor->Name));
     case TRegistrationKind::PropertyEditor:
       return QStringLiteral("RegisterPropertyEditor %1 %2 \"%3\" -> %4")
-          .arg(QString::fromLatin1(r.PropertyType->Name), ClassNameOf(r.ComponentClass), QString::fromLatin1(r.PropertyName),
+          .arg(QString::fromLatin1(r.PropertyType->Name), ClassNameOf(r.ComponentClass),
+               QString::fromLatin1(r.PropertyName),
                r.PropertyEditor ? QString::fromLatin1(r.PropertyEditor->Name) : QStringLiteral("nil"));
     case TRegistrationKind::Category:
       return QStringLiteral("RegisterPropertiesInCategory \"%1\" %2 [%3]")
@@ -83,7 +93,8 @@ QString RowToText(const TRegistration& r) {
 int PackageCommand(const QStringList& list, Console& console) {
   const Arguments args = ParseArguments(list, {}, {QStringLiteral("--json")});
   if (!args.values.isEmpty()) throw UsageError{QStringLiteral("no argument is expected")};
-  const TPackageRecord record = PackageManager(PackageManager::DefaultFolders()).ReadRecord(PackageManager::DefaultPackage());
+  const TPackageRecord record =
+      PackageManager(PackageManager::DefaultFolders()).ReadRecord(PackageManager::DefaultPackage());
   if (args.Has(QStringLiteral("--json"))) {
     PrintJson(console.out, QJsonDocument(record.ToJson()));
     return ExitOk;
@@ -91,7 +102,8 @@ int PackageCommand(const QStringList& list, Console& console) {
   const auto yes = [](bool b) { return b ? "yes" : "no"; };
   console.out << "Package:      " << record.Name << "\nDescription:  " << record.Description
               << "\nNever build:  " << yes(record.NeverBuild) << "\nDesign only:  " << yes(record.DesignOnly)
-              << "\nRun only:     " << yes(record.RunOnly) << "\nRequires (" << record.Requires.size() << "):\n";
+              << "\nRun only:     " << yes(record.RunOnly) << "\nRequires (" << record.Requires.size()
+              << "):\n";
   for (const QString& name : record.Requires) console.out << "  " << name << '\n';
   console.out << "Contains (" << record.Contains.size() << "):\n";
   for (const TPackageUnit& unit : record.Contains)

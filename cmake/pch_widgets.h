@@ -1,4 +1,4 @@
 #pragma once
-#include "cmake/pch_core.h"
 #include <QtGui>
 #include <QtWidgets>
+#include "cmake/pch_core.h"

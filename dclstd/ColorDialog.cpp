@@ -7,8 +7,9 @@
 bool ChooseColor(QWidget* parent, TColor& color, QStringList& customColors) {
   const std::vector<TColor> custom = CustomColorValues(customColors);
   for (int i = 0; i < MaxCustomColors; ++i)
-    QColorDialog::setCustomColor(i, static_cast<std::size_t>(i) < custom.size() ? ToQColor(custom[static_cast<std::size_t>(i)])
-                                                                                : QColor(Qt::white));
+    QColorDialog::setCustomColor(i, static_cast<std::size_t>(i) < custom.size()
+                                        ? ToQColor(custom[static_cast<std::size_t>(i)])
+                                        : QColor(Qt::white));
   QColorDialog dialog(ToQColor(color), parent);
   dialog.setOption(QColorDialog::DontUseNativeDialog);
   dialog.setWindowTitle(QObject::tr("Color"));

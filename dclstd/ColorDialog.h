@@ -6,6 +6,6 @@
 
 class QWidget;
 
-// True when a colour was chosen. Custom colours ("ColorA=00BBGGRR" ...) made in the dialog stay in the list, whatever
-// the answer. A system colour starts as the shade it has now.
+// True when a colour was chosen. Custom colours ("ColorA=00BBGGRR" ...) made in the dialog stay in the list,
+// whatever the answer. A system colour starts as the shade it has now.
 bool ChooseColor(QWidget* parent, TColor& color, QStringList& customColors);

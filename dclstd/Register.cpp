@@ -1,6 +1,6 @@
-#include "designintf/DesignIntf.h"
 #include "dclstd/Icons.h"
 #include "dclstd/StandardEditors.h"
+#include "designintf/DesignIntf.h"
 #include "rtl/ClassRegistry.h"
 #include "rtl/Strings.h"
 #include "vcl/ExtCtrls.h"
@@ -18,16 +18,19 @@ void Category(TResString category, const TClass& cls, const QStringList& names) 
 void RegisterStandard() {
   RegisterStandardIcons();
   RegisterClass(TForm::StaticClass());
-  RegisterComponents(QStringLiteral("Standard"), {&TLabel::StaticClass(), &TButton::StaticClass(), &TPanel::StaticClass()});
+  RegisterComponents(QStringLiteral("Standard"),
+                     {&TLabel::StaticClass(), &TButton::StaticClass(), &TPanel::StaticClass()});
   RegisterComponents(QStringLiteral("System"), {&TTimer::StaticClass()});
 
   RegisterPropertyEditor(TypeInfoOf<TColor>::Get(), nullptr, {}, VRX_PROPERTY_EDITOR(TColorProperty));
   RegisterPropertyEditor(TypeInfoOf<TCursor>::Get(), nullptr, {}, VRX_PROPERTY_EDITOR(TCursorProperty));
-  RegisterPropertyEditor(TypeInfoOf<TFontCharset>::Get(), nullptr, {}, VRX_PROPERTY_EDITOR(TFontCharsetProperty));
+  RegisterPropertyEditor(TypeInfoOf<TFontCharset>::Get(), nullptr, {},
+                         VRX_PROPERTY_EDITOR(TFontCharsetProperty));
   RegisterPropertyEditor(TFont::StaticTypeInfo(), nullptr, {}, VRX_PROPERTY_EDITOR(TFontProperty));
   RegisterPropertyEditor(TStrings::StaticTypeInfo(), nullptr, {}, VRX_PROPERTY_EDITOR(TStringListProperty));
   RegisterPropertyEditor(CaptionType(), nullptr, {}, VRX_PROPERTY_EDITOR(TCaptionProperty));
-  RegisterPropertyEditor(TypeOfProp(TFont::StaticClass(), "Name"), nullptr, {}, VRX_PROPERTY_EDITOR(TFontNameProperty));
+  RegisterPropertyEditor(TypeOfProp(TFont::StaticClass(), "Name"), nullptr, {},
+                         VRX_PROPERTY_EDITOR(TFontNameProperty));
   RegisterPropertyEditor(TypeOfProp(TComponent::StaticClass(), "Name"), nullptr, {},
                          VRX_PROPERTY_EDITOR(TComponentNameProperty));
   RegisterPropertyEditor(TypeOfProp(TButton::StaticClass(), "ModalResult"), nullptr, {},
@@ -39,9 +42,9 @@ void RegisterStandard() {
     return result;
   };
   Category(TResString::sLayoutCategoryName, TControl::StaticClass(),
-           names({"Left", "Top", "Width", "Height", "Align", "Anchors", "AutoSize", "Alignment", "Layout", "ClientWidth",
-                  "ClientHeight", "BorderWidth", "Position"}));
+           names({"Left", "Top", "Width", "Height", "Align", "Anchors", "AutoSize", "Alignment", "Layout",
+                  "ClientWidth", "ClientHeight", "BorderWidth", "Position"}));
   Category(TResString::sVisualCategoryName, TControl::StaticClass(),
-           names({"Caption", "Color", "Font", "ParentColor", "ParentFont", "Visible", "Transparent", "Cursor", "BevelInner",
-                  "BevelOuter", "BevelWidth", "BorderStyle", "BorderIcons", "LED", "Enabled"}));
+           names({"Caption", "Color", "Font", "ParentColor", "ParentFont", "Visible", "Transparent", "Cursor",
+                  "BevelInner", "BevelOuter", "BevelWidth", "BorderStyle", "BorderIcons", "LED", "Enabled"}));
 }

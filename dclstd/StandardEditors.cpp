@@ -55,9 +55,10 @@ void NamesOf(const TTypeInfo& type, std::int64_t from, std::int64_t to, const TG
 }
 const QStringList& ModalResultNames() {
   static const QStringList names{
-      QStringLiteral("mrNone"),   QStringLiteral("mrOk"),  QStringLiteral("mrCancel"), QStringLiteral("mrAbort"),
-      QStringLiteral("mrRetry"),  QStringLiteral("mrIgnore"), QStringLiteral("mrYes"), QStringLiteral("mrNo"),
-      QStringLiteral("mrClose"),  QStringLiteral("mrHelp"), QStringLiteral("mrTryAgain"), QStringLiteral("mrContinue")};
+      QStringLiteral("mrNone"),  QStringLiteral("mrOk"),       QStringLiteral("mrCancel"),
+      QStringLiteral("mrAbort"), QStringLiteral("mrRetry"),    QStringLiteral("mrIgnore"),
+      QStringLiteral("mrYes"),   QStringLiteral("mrNo"),       QStringLiteral("mrClose"),
+      QStringLiteral("mrHelp"),  QStringLiteral("mrTryAgain"), QStringLiteral("mrContinue")};
   return names;
 }
 }  // namespace
@@ -68,7 +69,9 @@ void TFontCharsetProperty::GetValues(const TGetStrProc& proc) const { NamesOf(Ge
 void TModalResultProperty::GetValues(const TGetStrProc& proc) const {
   for (const QString& name : ModalResultNames()) proc(name);
 }
-QString TModalResultProperty::GetValue() const { return ModalResultNames().value(GetOrdValue(), QString::number(GetOrdValue())); }
+QString TModalResultProperty::GetValue() const {
+  return ModalResultNames().value(GetOrdValue(), QString::number(GetOrdValue()));
+}
 
 TPropertyAttributes TFontNameProperty::GetAttributes() const {
   return {paMultiSelect, paValueList, paSortList, paRevertable, paValueEditable};
@@ -78,7 +81,9 @@ void TFontNameProperty::GetValues(const TGetStrProc& proc) const {
 }
 std::optional<QFont> TFontNameProperty::GetValueFont(const QString& value) const { return QFont(value); }
 
-TPropertyAttributes TFontProperty::GetAttributes() const { return {paMultiSelect, paSubProperties, paDialog, paReadOnly}; }
+TPropertyAttributes TFontProperty::GetAttributes() const {
+  return {paMultiSelect, paSubProperties, paDialog, paReadOnly};
+}
 void TFontProperty::Edit() {
   TFont copy;
   copy.Assign(GetObjectValue());
@@ -101,7 +106,9 @@ void TFontProperty::Edit() {
   SetOrdValue(&copy);
 }
 
-TPropertyAttributes TStringListProperty::GetAttributes() const { return {paMultiSelect, paDialog, paReadOnly}; }
+TPropertyAttributes TStringListProperty::GetAttributes() const {
+  return {paMultiSelect, paDialog, paReadOnly};
+}
 void TStringListProperty::Edit() {
   TStrings copy;
   copy.Assign(GetObjectValue());
@@ -109,7 +116,10 @@ void TStringListProperty::Edit() {
   dialog.setWindowTitle(QObject::tr("String List Editor"));
   auto* text = new QPlainTextEdit(copy.Text());
   auto* count = new QLabel;
-  const auto showCount = [=] { count->setText(QObject::tr("%n line(s)", nullptr, text->toPlainText().isEmpty() ? 0 : text->blockCount())); };
+  const auto showCount = [=] {
+    count->setText(
+        QObject::tr("%n line(s)", nullptr, text->toPlainText().isEmpty() ? 0 : text->blockCount()));
+  };
   QObject::connect(text, &QPlainTextEdit::textChanged, &dialog, showCount);
   showCount();
   auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel);

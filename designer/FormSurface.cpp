@@ -88,7 +88,8 @@ QRect FormSurface::FormRectOf(const TComponent& c) const {
   if (&c == &form) return QRect(-m.left(), -m.top(), form.Width(), form.Height());
   QRect r = RectOf(c);
   if (const auto* control = As<TControl>(&c))
-    for (const TControl* p = control->Parent(); p && p != &form; p = p->Parent()) r.translate(p->Left(), p->Top());
+    for (const TControl* p = control->Parent(); p && p != &form; p = p->Parent())
+      r.translate(p->Left(), p->Top());
   return r;
 }
 
@@ -197,7 +198,8 @@ void FormSurface::mouseMoveEvent(QMouseEvent* event) {
 
 void FormSurface::UpdateCursor(QPoint p) {
   if (tool_) return;
-  static constexpr Qt::CursorShape shapes[] = {Qt::SizeFDiagCursor, Qt::SizeVerCursor, Qt::SizeBDiagCursor, Qt::SizeHorCursor};
+  static constexpr Qt::CursorShape shapes[] = {Qt::SizeFDiagCursor, Qt::SizeVerCursor, Qt::SizeBDiagCursor,
+                                               Qt::SizeHorCursor};
   const int handle = HandleAt(p);
   setCursor(handle < 0 ? Qt::ArrowCursor : shapes[handle % 4]);
 }
@@ -272,7 +274,8 @@ void FormSurface::mouseReleaseEvent(QMouseEvent* event) {
       break;
     case Action::Band:
       action_ = Action::None;
-      if (rect.width() > 3 || rect.height() > 3) SelectBand(rect, event->modifiers() & (Qt::ControlModifier | Qt::ShiftModifier));
+      if (rect.width() > 3 || rect.height() > 3)
+        SelectBand(rect, event->modifiers() & (Qt::ControlModifier | Qt::ShiftModifier));
       break;
     case Action::Place:
       action_ = Action::None;
@@ -288,9 +291,11 @@ void FormSurface::SelectBand(const QRect& band, bool add) {
   std::vector<TComponent*> found;
   if (add) found = session_->SelectedComponents();
   for (TControl* c : session_->Form().Controls())
-    if (FormRectOf(*c).intersects(band) && std::find(found.begin(), found.end(), c) == found.end()) found.push_back(c);
+    if (FormRectOf(*c).intersects(band) && std::find(found.begin(), found.end(), c) == found.end())
+      found.push_back(c);
   for (TComponent* c : session_->Form().Components())
-    if (HasIcon(*c) && RectOf(*c).intersects(band) && std::find(found.begin(), found.end(), c) == found.end()) found.push_back(c);
+    if (HasIcon(*c) && RectOf(*c).intersects(band) && std::find(found.begin(), found.end(), c) == found.end())
+      found.push_back(c);
   session_->Select(found);
 }
 

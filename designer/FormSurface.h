@@ -1,5 +1,5 @@
-// The surface a form is designed on: the form drawn as a window on a desk, with handles, rubber band and the icons of
-// components that are not controls. Zoom never changes the form.
+// The surface a form is designed on: the form drawn as a window on a desk, with handles, rubber band and the
+// icons of components that are not controls. Zoom never changes the form.
 #pragma once
 #include <QWidget>
 #include <optional>
@@ -51,8 +51,8 @@ class FormSurface : public QWidget {
   };
   void Guarded(const std::function<void()>& action);
   TControl* DeepestAt(QPoint formPoint) const;
-  QPoint ToForm(QPoint widgetPoint) const;     // client coordinates of the form
-  QPoint ClientOrigin() const;                 // of the form's client area, in unzoomed surface coordinates
+  QPoint ToForm(QPoint widgetPoint) const;  // client coordinates of the form
+  QPoint ClientOrigin() const;              // of the form's client area, in unzoomed surface coordinates
   static bool HasIcon(const TComponent& component) { return !As<TControl>(&component); }
   QRect FormRectOf(const TComponent& component) const;
   int HandleAt(QPoint widgetPoint) const;
@@ -81,7 +81,7 @@ class FormSurface : public QWidget {
   int handle_ = -1;
   QPoint pressed_;
   QPoint current_;
-  std::vector<Start> starts_;  // what is dragged
-  std::vector<Start> others_;  // every control, parents first
+  std::vector<Start> starts_;      // what is dragged
+  std::vector<Start> others_;      // every control, parents first
   TWinControl* target_ = nullptr;  // where a tool or band works
 };

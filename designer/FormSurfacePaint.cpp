@@ -54,7 +54,8 @@ void FormSurface::PaintIcons(QPainter& p) const {
     p.setPen(palette().color(QPalette::Mid));
     p.setBrush(palette().color(QPalette::Base));
     p.drawRoundedRect(QRectF(r).adjusted(0.5, 0.5, -0.5, -0.5), 4, 4);
-    p.drawPixmap(r.topLeft() + QPoint(2, 2), ComponentPixmap(c->ClassType(), IconSize - 4, devicePixelRatioF() * zoom_));
+    p.drawPixmap(r.topLeft() + QPoint(2, 2),
+                 ComponentPixmap(c->ClassType(), IconSize - 4, devicePixelRatioF() * zoom_));
     const int width = p.fontMetrics().horizontalAdvance(c->Name()) + 6;
     const QRect label(r.center().x() - width / 2, r.bottom() + 2, width, 14);
     p.setPen(Qt::NoPen);

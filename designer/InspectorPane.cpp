@@ -13,9 +13,7 @@ class RowDelegate : public QStyledItemDelegate {
  public:
   using QStyledItemDelegate::QStyledItemDelegate;
 
-  static QRect BoxRect(const QRect& cell) {
-    return {cell.left() + 4, cell.center().y() - 6, 13, 13};
-  }
+  static QRect BoxRect(const QRect& cell) { return {cell.left() + 4, cell.center().y() - 6, 13, 13}; }
 
   void paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const override {
     QStyleOptionViewItem o = option;
@@ -33,24 +31,28 @@ class RowDelegate : public QStyledItemDelegate {
       QStyleOptionButton box;
       box.rect = BoxRect(o.rect);
       box.palette = o.palette;
-      box.state = QStyle::State_Enabled | (text == QStringLiteral("True") ? QStyle::State_On : QStyle::State_Off);
+      box.state =
+          QStyle::State_Enabled | (text == QStringLiteral("True") ? QStyle::State_On : QStyle::State_Off);
       o.widget->style()->drawPrimitive(QStyle::PE_IndicatorCheckBox, &box, painter, o.widget);
       painter->save();
       painter->setFont(o.font);
-      painter->setPen(o.palette.color(o.state & QStyle::State_Selected ? QPalette::HighlightedText : QPalette::Text));
+      painter->setPen(
+          o.palette.color(o.state & QStyle::State_Selected ? QPalette::HighlightedText : QPalette::Text));
       painter->drawText(o.rect.adjusted(22, 0, 0, 0), Qt::AlignVCenter, text);
       painter->restore();
     } else {
       o.widget->style()->drawControl(QStyle::CE_ItemViewItem, &o, painter, o.widget);
     }
     painter->save();
-    painter->setPen(o.palette.color(QPalette::Midlight).lighter(o.palette.color(QPalette::Base).lightness() > 128 ? 118 : 80));
+    painter->setPen(o.palette.color(QPalette::Midlight)
+                        .lighter(o.palette.color(QPalette::Base).lightness() > 128 ? 118 : 80));
     painter->drawLine(o.rect.bottomLeft(), o.rect.bottomRight());
     if (index.column() == 0 && !category) painter->drawLine(o.rect.topRight(), o.rect.bottomRight());
     painter->restore();
   }
   QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override {
-    return {QStyledItemDelegate::sizeHint(option, index).width(), std::max(22, option.fontMetrics.height() + 6)};
+    return {QStyledItemDelegate::sizeHint(option, index).width(),
+            std::max(22, option.fontMetrics.height() + 6)};
   }
 };
 }  // namespace
@@ -119,9 +121,16 @@ InspectorPane::InspectorPane(QWidget* parent) : QWidget(parent) {
   connect(&model_, &QAbstractItemModel::modelAboutToBeReset, this, &InspectorPane::RememberExpanded);
   connect(&model_, &QAbstractItemModel::modelReset, this, &InspectorPane::RestoreExpanded);
   connect(&model_, &QAbstractItemModel::dataChanged, this, &InspectorPane::RefreshEditor);
-  connect(view_->selectionModel(), &QItemSelectionModel::currentRowChanged, this, &InspectorPane::CurrentChanged);
-  connect(view_, &QTreeView::expanded, this, [this](const QModelIndex& i) { expanded_.insert(i.data(InspectorModel::PathRole).toString()); PlaceEditor(); });
-  connect(view_, &QTreeView::collapsed, this, [this](const QModelIndex& i) { expanded_.remove(i.data(InspectorModel::PathRole).toString()); PlaceEditor(); });
+  connect(view_->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
+          &InspectorPane::CurrentChanged);
+  connect(view_, &QTreeView::expanded, this, [this](const QModelIndex& i) {
+    expanded_.insert(i.data(InspectorModel::PathRole).toString());
+    PlaceEditor();
+  });
+  connect(view_, &QTreeView::collapsed, this, [this](const QModelIndex& i) {
+    expanded_.remove(i.data(InspectorModel::PathRole).toString());
+    PlaceEditor();
+  });
   connect(view_, &QTreeView::customContextMenuRequested, this, &InspectorPane::ShowMenu);
   connect(view_->verticalScrollBar(), &QScrollBar::valueChanged, this, &InspectorPane::PlaceEditor);
   connect(view_->header(), &QHeaderView::sectionResized, this, &InspectorPane::PlaceEditor);
@@ -158,10 +167,13 @@ void InspectorPane::FillComponents() {
   components_->clear();
   if (!session_) return;
   const auto selected = session_->SelectedComponents();
-  if (selected.size() > 1) components_->addItem(tr("%n components", nullptr, static_cast<int>(selected.size())), QString());
+  if (selected.size() > 1)
+    components_->addItem(tr("%n components", nullptr, static_cast<int>(selected.size())), QString());
   for (const TComponent* c : session_->AllComponents()) {
     if (c->Name().isEmpty()) continue;
-    components_->addItem(ComponentIcon(c->ClassType()), QStringLiteral("%1: %2").arg(c->Name(), QString::fromUtf8(c->StreamClassName())), c->Name());
+    components_->addItem(ComponentIcon(c->ClassType()),
+                         QStringLiteral("%1: %2").arg(c->Name(), QString::fromUtf8(c->StreamClassName())),
+                         c->Name());
     if (selected.size() == 1 && c == selected[0]) components_->setCurrentIndex(components_->count() - 1);
   }
 }
@@ -177,7 +189,8 @@ void InspectorPane::RestoreExpanded() {
     if (const QModelIndex i = model_.IndexOfPath(path); i.isValid()) view_->setExpanded(i, true);
   // Categories are open unless somebody closed them.
   for (int row = 0; row < model_.rowCount(); ++row)
-    if (const QModelIndex i = model_.index(row, 0); i.data(InspectorModel::IsCategoryRole).toBool()) view_->setExpanded(i, true);
+    if (const QModelIndex i = model_.index(row, 0); i.data(InspectorModel::IsCategoryRole).toBool())
+      view_->setExpanded(i, true);
   filling_ = false;
   if (!currentPath_.isEmpty()) ShowProperty(currentPath_);
   PlaceEditor();
@@ -211,14 +224,17 @@ void InspectorPane::CurrentChanged(const QModelIndex& now, const QModelIndex& be
     const QString path = before.data(InspectorModel::PathRole).toString();
     const QString reason = model_.SetValueText(before, editor_->Field()->text());
     if (!reason.isEmpty()) {
-      QMetaObject::invokeMethod(this, [this, path, reason] {
-        returning_ = true;
-        ShowProperty(path);
-        returning_ = false;
-        PlaceEditor();
-        editor_->SetProblem(reason);
-        editor_->Field()->setFocus();
-      }, Qt::QueuedConnection);
+      QMetaObject::invokeMethod(
+          this,
+          [this, path, reason] {
+            returning_ = true;
+            ShowProperty(path);
+            returning_ = false;
+            PlaceEditor();
+            editor_->SetProblem(reason);
+            editor_->Field()->setFocus();
+          },
+          Qt::QueuedConnection);
       return;
     }
   }
@@ -237,9 +253,12 @@ void InspectorPane::RefreshEditor() {
   ValueEditor::Setup setup;
   setup.text = model_.ValueText(row);
   setup.values = model_.ValueList(row);
-  setup.readOnly = a.Contains(paReadOnly) || a.Contains(paDisplayReadOnly) ||
-                   (property->GetPropInfo().ReadOnly && property->GetPropType().Kind != TTypeKind::tkClass) ||
-                   property->GetPropType().Kind == TTypeKind::tkClass ? !a.Contains(paValueList) : false;
+  setup.readOnly =
+      a.Contains(paReadOnly) || a.Contains(paDisplayReadOnly) ||
+              (property->GetPropInfo().ReadOnly && property->GetPropType().Kind != TTypeKind::tkClass) ||
+              property->GetPropType().Kind == TTypeKind::tkClass
+          ? !a.Contains(paValueList)
+          : false;
   setup.dialog = a.Contains(paDialog);
   setup.iconOf = [property](const QString& v) { return property->GetValueIcon(v); };
   editor_->Field()->setMaxLength(property->GetEditLimit());
@@ -283,11 +302,15 @@ void InspectorPane::ShowMenu(const QPoint& pos) {
   if (!model_.EditorAt(row)) return;
   view_->setCurrentIndex(row);
   QMenu menu(this);
-  menu.addAction(tr("&Reset to default"), this, [&] {
-    if (const QString reason = model_.Reset(row); !reason.isEmpty()) editor_->SetProblem(reason);
-  })->setEnabled(row.data(InspectorModel::NotDefaultRole).toBool());
+  menu.addAction(tr("&Reset to default"), this,
+                 [&] {
+                   if (const QString reason = model_.Reset(row); !reason.isEmpty())
+                     editor_->SetProblem(reason);
+                 })
+      ->setEnabled(row.data(InspectorModel::NotDefaultRole).toBool());
   menu.addAction(tr("&Copy value"), this, [&] { QApplication::clipboard()->setText(model_.ValueText(row)); });
-  menu.addAction(tr("Copy &name"), this, [&] { QApplication::clipboard()->setText(row.data(InspectorModel::PathRole).toString()); });
+  menu.addAction(tr("Copy &name"), this,
+                 [&] { QApplication::clipboard()->setText(row.data(InspectorModel::PathRole).toString()); });
   menu.exec(view_->viewport()->mapToGlobal(pos));
 }
 
@@ -309,9 +332,11 @@ bool InspectorPane::eventFilter(QObject* watched, QEvent* event) {
     const auto* mouse = static_cast<QMouseEvent*>(event);
     const QModelIndex cell = view_->indexAt(mouse->pos());
     if (cell.column() == 1 && mouse->button() == Qt::LeftButton) {
-      if (cell.data(InspectorModel::IsBooleanRole).toBool() && RowDelegate::BoxRect(view_->visualRect(cell)).adjusted(-3, -3, 3, 3).contains(mouse->pos())) {
+      if (cell.data(InspectorModel::IsBooleanRole).toBool() &&
+          RowDelegate::BoxRect(view_->visualRect(cell)).adjusted(-3, -3, 3, 3).contains(mouse->pos())) {
         view_->setCurrentIndex(cell.siblingAtColumn(0));
-        Apply(model_.ValueText(cell.siblingAtColumn(0)) == QStringLiteral("True") ? QStringLiteral("False") : QStringLiteral("True"));
+        Apply(model_.ValueText(cell.siblingAtColumn(0)) == QStringLiteral("True") ? QStringLiteral("False")
+                                                                                  : QStringLiteral("True"));
       }
       FocusValue();
     }

@@ -20,7 +20,8 @@ class InspectorPane : public QWidget {
   InspectorModel& Model() { return model_; }
   QTreeView& View() { return *view_; }
   ValueEditor& Editor() { return *editor_; }
-  // Makes the row of a property current ("LED.ActiveColor"), opening what is above it. False when there is none.
+  // Makes the row of a property current ("LED.ActiveColor"), opening what is above it. False when there is
+  // none.
   bool ShowProperty(const QString& path);
   void FocusValue();
 

@@ -98,12 +98,13 @@ void MainWindow::BuildPanes() {
   });
   connect(surface_, &FormSurface::ToolUsed, palette_, &PalettePane::SelectArrow);
   connect(surface_, &FormSurface::ContextMenuWanted, this, &MainWindow::ShowContextMenu);
-  connect(surface_, &FormSurface::Message, this, [this](const QString& text) { Prompts().Warn(this, QCoreApplication::applicationName(), text); });
+  connect(surface_, &FormSurface::Message, this,
+          [this](const QString& text) { Prompts().Warn(this, QCoreApplication::applicationName(), text); });
   connect(surface_, &FormSurface::InspectorWanted, inspector_, &InspectorPane::FocusValue);
 }
 
-QAction* MainWindow::AddAction(QWidget* menu, const QString& text, const QString& icon, const QKeySequence& keys,
-                               const std::function<void()>& run, const char* name) {
+QAction* MainWindow::AddAction(QWidget* menu, const QString& text, const QString& icon,
+                               const QKeySequence& keys, const std::function<void()>& run, const char* name) {
   auto* action = new QAction(icon.isEmpty() ? QIcon() : QIcon::fromTheme(icon), text, this);
   action->setShortcut(keys);
   action->setObjectName(QString::fromLatin1(name));
@@ -127,42 +128,76 @@ void MainWindow::BuildActions() {
   insertToolBarBreak(findChild<QToolBar*>(QStringLiteral("paletteBar")));
 
   QMenu* file = menuBar()->addMenu(tr("&File"));
-  auto* fresh = AddAction(file, tr("&New form"), QStringLiteral("document-new"), QKeySequence::New, [this] { if (MayClose()) NewForm(); }, "new");
-  auto* open = AddAction(file, tr("&Open..."), QStringLiteral("document-open"), QKeySequence::Open, [this] {
-    if (!MayClose()) return;
-    const QString folder = session_ ? QFileInfo(session_->FileName()).path() : QString();
-    if (const QString name = Prompts().OpenFileName(this, tr("Open form"), folder, FormFilter()); !name.isEmpty()) OpenForm(name);
-  }, "open");
-  save_ = AddAction(file, tr("&Save"), QStringLiteral("document-save"), QKeySequence::Save, [this] { Save(); }, "save");
-  AddAction(file, tr("Save &as..."), QStringLiteral("document-save-as"), QKeySequence::SaveAs, [this] { SaveAs(); }, "saveAs");
+  auto* fresh = AddAction(
+      file, tr("&New form"), QStringLiteral("document-new"), QKeySequence::New,
+      [this] {
+        if (MayClose()) NewForm();
+      },
+      "new");
+  auto* open = AddAction(
+      file, tr("&Open..."), QStringLiteral("document-open"), QKeySequence::Open,
+      [this] {
+        if (!MayClose()) return;
+        const QString folder = session_ ? QFileInfo(session_->FileName()).path() : QString();
+        if (const QString name = Prompts().OpenFileName(this, tr("Open form"), folder, FormFilter());
+            !name.isEmpty())
+          OpenForm(name);
+      },
+      "open");
+  save_ = AddAction(
+      file, tr("&Save"), QStringLiteral("document-save"), QKeySequence::Save, [this] { Save(); }, "save");
+  AddAction(
+      file, tr("Save &as..."), QStringLiteral("document-save-as"), QKeySequence::SaveAs, [this] { SaveAs(); },
+      "saveAs");
   file->addSeparator();
-  AddAction(file, tr("&Quit"), QStringLiteral("application-exit"), QKeySequence::Quit, [this] { close(); }, "quit");
+  AddAction(
+      file, tr("&Quit"), QStringLiteral("application-exit"), QKeySequence::Quit, [this] { close(); }, "quit");
 
   QMenu* edit = menuBar()->addMenu(tr("&Edit"));
-  undo_ = AddAction(edit, tr("&Undo"), QStringLiteral("edit-undo"), QKeySequence::Undo, [this] { session_->Undo(); }, "undo");
-  redo_ = AddAction(edit, tr("&Redo"), QStringLiteral("edit-redo"), QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Z), [this] { session_->Redo(); }, "redo");
+  undo_ = AddAction(
+      edit, tr("&Undo"), QStringLiteral("edit-undo"), QKeySequence::Undo, [this] { session_->Undo(); },
+      "undo");
+  redo_ = AddAction(
+      edit, tr("&Redo"), QStringLiteral("edit-redo"), QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Z),
+      [this] { session_->Redo(); }, "redo");
   edit->addSeparator();
-  delete_ = AddAction(edit, tr("&Delete"), QStringLiteral("edit-delete"), {}, [this] { session_->DeleteSelection(); }, "delete");
-  AddAction(edit, tr("Select &all"), QStringLiteral("edit-select-all"), {}, [this] {
-    auto all = session_->AllComponents();
-    all.erase(all.begin());
-    session_->Select(all);
-  }, "selectAll");
+  delete_ = AddAction(
+      edit, tr("&Delete"), QStringLiteral("edit-delete"), {}, [this] { session_->DeleteSelection(); },
+      "delete");
+  AddAction(
+      edit, tr("Select &all"), QStringLiteral("edit-select-all"), {},
+      [this] {
+        auto all = session_->AllComponents();
+        all.erase(all.begin());
+        session_->Select(all);
+      },
+      "selectAll");
 
   QMenu* view = menuBar()->addMenu(tr("&View"));
   for (QDockWidget* d : findChildren<QDockWidget*>()) view->addAction(d->toggleViewAction());
   view->addSeparator();
-  auto* zoomIn = AddAction(view, tr("Zoom &in"), QStringLiteral("zoom-in"), QKeySequence::ZoomIn, [this] { SetZoom(surface_->Zoom() * 1.25); }, "zoomIn");
-  auto* zoomOut = AddAction(view, tr("Zoom &out"), QStringLiteral("zoom-out"), QKeySequence::ZoomOut, [this] { SetZoom(surface_->Zoom() / 1.25); }, "zoomOut");
-  AddAction(view, tr("&100 %"), {}, QKeySequence(Qt::CTRL | Qt::Key_0), [this] { SetZoom(1); }, "zoom100");
+  auto* zoomIn = AddAction(
+      view, tr("Zoom &in"), QStringLiteral("zoom-in"), QKeySequence::ZoomIn,
+      [this] { SetZoom(surface_->Zoom() * 1.25); }, "zoomIn");
+  auto* zoomOut = AddAction(
+      view, tr("Zoom &out"), QStringLiteral("zoom-out"), QKeySequence::ZoomOut,
+      [this] { SetZoom(surface_->Zoom() / 1.25); }, "zoomOut");
+  AddAction(
+      view, tr("&100 %"), {}, QKeySequence(Qt::CTRL | Qt::Key_0), [this] { SetZoom(1); }, "zoom100");
   view->addSeparator();
-  AddAction(view, tr("&Light theme"), {}, {}, [] { ApplyTheme(TTheme::Light); }, "light");
-  AddAction(view, tr("&Dark theme"), {}, {}, [] { ApplyTheme(TTheme::Dark); }, "dark");
+  AddAction(
+      view, tr("&Light theme"), {}, {}, [] { ApplyTheme(TTheme::Light); }, "light");
+  AddAction(
+      view, tr("&Dark theme"), {}, {}, [] { ApplyTheme(TTheme::Dark); }, "dark");
 
   QMenu* help = menuBar()->addMenu(tr("&Help"));
-  AddAction(help, tr("&About"), QStringLiteral("help-about"), {}, [this] {
-    Prompts().Inform(this, tr("About"), tr("Orlenvo-Kit form designer %1").arg(QStringLiteral(VRX_VERSION)));
-  }, "about");
+  AddAction(
+      help, tr("&About"), QStringLiteral("help-about"), {},
+      [this] {
+        Prompts().Inform(this, tr("About"),
+                         tr("Orlenvo-Kit form designer %1").arg(QStringLiteral(VRX_VERSION)));
+      },
+      "about");
 
   for (QAction* a : {fresh, open, save_}) tools->addAction(a);
   tools->addSeparator();
@@ -190,9 +225,8 @@ void MainWindow::SetSession(std::unique_ptr<FormSession> session) {
   connect(session_.get(), &FormSession::ModifiedChanged, this, &MainWindow::UpdateActions);
   connect(session_.get(), &FormSession::FormChanged, this, &MainWindow::UpdateActions);
   connect(session_.get(), &FormSession::SelectionChanged, this, &MainWindow::UpdateStatus);
-  connect(session_.get(), &FormSession::HandlerShown, this, [this](const QString& name) {
-    statusBar()->showMessage(tr("Event handler %1").arg(name), 5000);
-  });
+  connect(session_.get(), &FormSession::HandlerShown, this,
+          [this](const QString& name) { statusBar()->showMessage(tr("Event handler %1").arg(name), 5000); });
   UpdateProblems();
   UpdateActions();
   surface_->setFocus();
@@ -205,9 +239,11 @@ void MainWindow::UpdateProblems() {
     for (const forms::Finding& f : session_->Findings()) {
       if (f.severity == forms::Severity::Note) continue;
       ++count;
-      auto* item = new QListWidgetItem(f.where.line > 0 ? tr("Line %1: %2").arg(f.where.line).arg(f.text) : f.text, problems_);
-      item->setIcon(style()->standardIcon(f.severity == forms::Severity::Error ? QStyle::SP_MessageBoxCritical
-                                                                               : QStyle::SP_MessageBoxWarning));
+      auto* item = new QListWidgetItem(
+          f.where.line > 0 ? tr("Line %1: %2").arg(f.where.line).arg(f.text) : f.text, problems_);
+      item->setIcon(style()->standardIcon(f.severity == forms::Severity::Error
+                                              ? QStyle::SP_MessageBoxCritical
+                                              : QStyle::SP_MessageBoxWarning));
     }
   problemsDock_->setWindowTitle(tr("Problems (%1)").arg(count));
   problemsDock_->setVisible(count > 0);
@@ -218,7 +254,8 @@ bool MainWindow::OpenForm(const QString& fileName) {
     SetSession(FormSession::Open(fileName));
     return true;
   } catch (const std::exception& e) {
-    Prompts().Warn(this, tr("Open form"), tr("%1 cannot be opened.\n%2").arg(QFileInfo(fileName).fileName(), ExceptionMessage(e)));
+    Prompts().Warn(this, tr("Open form"),
+                   tr("%1 cannot be opened.\n%2").arg(QFileInfo(fileName).fileName(), ExceptionMessage(e)));
     return false;
   }
 }
@@ -242,14 +279,17 @@ bool MainWindow::Save() {
 
 bool MainWindow::SaveAs() {
   if (!session_) return true;
-  const QString start = session_->FileName().isEmpty() ? session_->Form().Name().toLower() + QStringLiteral(".dfm") : session_->FileName();
+  const QString start = session_->FileName().isEmpty()
+                            ? session_->Form().Name().toLower() + QStringLiteral(".dfm")
+                            : session_->FileName();
   const QString name = Prompts().SaveFileName(this, tr("Save form as"), start, FormFilter());
   return !name.isEmpty() && SaveTo(name);
 }
 
 bool MainWindow::MayClose() {
   if (!session_ || !session_->IsModified()) return true;
-  const QString what = session_->FileName().isEmpty() ? session_->Form().Name() : QFileInfo(session_->FileName()).fileName();
+  const QString what =
+      session_->FileName().isEmpty() ? session_->Form().Name() : QFileInfo(session_->FileName()).fileName();
   switch (Prompts().AskToSave(this, tr("%1 has changes that are not saved. Save them?").arg(what))) {
     case TAnswer::Yes:
       return Save();
@@ -267,7 +307,9 @@ void MainWindow::closeEvent(QCloseEvent* event) { event->setAccepted(MayClose())
 
 void MainWindow::UpdateActions() {
   const bool open = session_ != nullptr;
-  const QString file = !open ? QString() : session_->FileName().isEmpty() ? session_->Form().Name() : QFileInfo(session_->FileName()).fileName();
+  const QString file = !open                            ? QString()
+                       : session_->FileName().isEmpty() ? session_->Form().Name()
+                                                        : QFileInfo(session_->FileName()).fileName();
   setWindowTitle(open ? tr("%1[*] - Orlenvo-Kit designer").arg(file) : tr("Orlenvo-Kit designer"));
   setWindowModified(open && session_->IsModified());
   save_->setEnabled(open && (session_->IsModified() || session_->FileName().isEmpty()));
@@ -291,7 +333,11 @@ void MainWindow::UpdateStatus() {
     const TComponent& c = *selected.front();
     selectionLabel_->setText(QStringLiteral("%1: %2").arg(c.Name(), QString::fromUtf8(c.StreamClassName())));
     const auto* control = As<TControl>(&c);
-    boundsLabel_->setText(control ? QStringLiteral("%1, %2   %3 x %4").arg(control->Left()).arg(control->Top()).arg(control->Width()).arg(control->Height())
+    boundsLabel_->setText(control ? QStringLiteral("%1, %2   %3 x %4")
+                                        .arg(control->Left())
+                                        .arg(control->Top())
+                                        .arg(control->Width())
+                                        .arg(control->Height())
                                   : QString());
   }
 }

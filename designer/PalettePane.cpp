@@ -6,7 +6,9 @@
 #include "designintf/DesignIntf.h"
 
 namespace {
-const TClass* ClassOf(const QObject* button) { return static_cast<const TClass*>(button->property("class").value<void*>()); }
+const TClass* ClassOf(const QObject* button) {
+  return static_cast<const TClass*>(button->property("class").value<void*>());
+}
 }  // namespace
 
 PalettePane::PalettePane(QWidget* parent) : QWidget(parent) {
@@ -54,7 +56,8 @@ void PalettePane::ShowPage() {
     delete item;
   }
   arrow_ = new QToolButton;
-  arrow_->setIcon(QIcon::fromTheme(QStringLiteral("edit-select"), QIcon::fromTheme(QStringLiteral("cursor-arrow"))));
+  arrow_->setIcon(
+      QIcon::fromTheme(QStringLiteral("edit-select"), QIcon::fromTheme(QStringLiteral("cursor-arrow"))));
   if (arrow_->icon().isNull()) arrow_->setText(QStringLiteral("\u2196"));
   arrow_->setToolTip(tr("Select"));
   arrow_->setIconSize(QSize(24, 24));
@@ -81,7 +84,8 @@ void PalettePane::AddButton(const TClass& cls, const QString& page) {
   button->setIconSize(QSize(24, 24));
   button->setCheckable(true);
   button->setAutoRaise(true);
-  QString hint = QStringLiteral("<b>%1</b><br>%2").arg(QString::fromLatin1(cls.ClassName()), page.toHtmlEscaped());
+  QString hint =
+      QStringLiteral("<b>%1</b><br>%2").arg(QString::fromLatin1(cls.ClassName()), page.toHtmlEscaped());
   if (!cls.Description().isEmpty()) hint += QStringLiteral("<br>") + cls.Description().toHtmlEscaped();
   button->setToolTip(hint);
   button->setProperty("class", QVariant::fromValue(static_cast<void*>(const_cast<TClass*>(&cls))));

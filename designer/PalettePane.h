@@ -20,8 +20,8 @@ class PalettePane : public QWidget {
   QToolButton* ButtonOf(const QByteArray& className) const;
 
  signals:
-  void ToolChosen(const TClass* cls);    // null: the arrow
-  void AddWanted(const TClass& cls);     // a double-click
+  void ToolChosen(const TClass* cls);  // null: the arrow
+  void AddWanted(const TClass& cls);   // a double-click
 
  protected:
   bool eventFilter(QObject* watched, QEvent* event) override;

@@ -19,7 +19,8 @@ class Album {
   void Take(QWidget& widget, const QString& name) {
     QCoreApplication::processEvents();
     const QString file = folder_.filePath(name + QStringLiteral(".png"));
-    if (!widget.grab().save(file)) throw Exception(QStringLiteral("The picture %1 cannot be written").arg(file));
+    if (!widget.grab().save(file))
+      throw Exception(QStringLiteral("The picture %1 cannot be written").arg(file));
     files << file;
   }
   QStringList files;
@@ -50,7 +51,8 @@ QStringList TakePictures(PackageManager& packages, const QString& form, const QS
     if (TComponent* led = ShowPiece(*window.Session())) {
       window.Session()->Select({led});
       window.Inspector().ShowProperty(QStringLiteral("LED"));
-      window.Inspector().View().setExpanded(window.Inspector().View().currentIndex().siblingAtColumn(0), true);
+      window.Inspector().View().setExpanded(window.Inspector().View().currentIndex().siblingAtColumn(0),
+                                            true);
       window.Inspector().FocusValue();
       album.Take(window, QStringLiteral("designer") + suffix);
       // The dialog is modal: the picture is taken from inside its event loop.

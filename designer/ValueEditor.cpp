@@ -101,7 +101,8 @@ void ValueEditor::OpenList() {
     if (value == field_->text()) list->setCurrentItem(item);
   }
   const int rows = static_cast<int>(std::min<qsizetype>(setup_.values.size(), 14));
-  list->setFixedSize(std::max(width(), list->sizeHintForColumn(0) + 30), rows * std::max(18, list->sizeHintForRow(0)) + 4);
+  list->setFixedSize(std::max(width(), list->sizeHintForColumn(0) + 30),
+                     rows * std::max(18, list->sizeHintForRow(0)) + 4);
   auto* action = new QWidgetAction(&menu);
   action->setDefaultWidget(list);
   menu.addAction(action);
@@ -111,7 +112,8 @@ void ValueEditor::OpenList() {
   };
   connect(list, &QListWidget::itemClicked, this, choose);
   connect(list, &QListWidget::itemActivated, this, choose);
-  connect(list, &QListWidget::itemEntered, list, [list](QListWidgetItem* item) { list->setCurrentItem(item); });
+  connect(list, &QListWidget::itemEntered, list,
+          [list](QListWidgetItem* item) { list->setCurrentItem(item); });
   QTimer::singleShot(0, list, [list] {
     list->setFocus();
     if (list->currentItem()) list->scrollToItem(list->currentItem());
@@ -120,7 +122,8 @@ void ValueEditor::OpenList() {
 }
 
 bool ValueEditor::eventFilter(QObject* watched, QEvent* event) {
-  if (watched != field_ || (event->type() != QEvent::KeyPress && event->type() != QEvent::MouseButtonDblClick))
+  if (watched != field_ ||
+      (event->type() != QEvent::KeyPress && event->type() != QEvent::MouseButtonDblClick))
     return QWidget::eventFilter(watched, event);
   if (event->type() == QEvent::MouseButtonDblClick) {
     // A double-click opens the dialog, or moves to the next value.

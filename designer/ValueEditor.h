@@ -1,5 +1,5 @@
-// The in-place editor of the inspector's current row: a field, a drop-down list when there are values to choose from,
-// an ellipsis when there is a dialog, and under it the reason when a value was refused.
+// The in-place editor of the inspector's current row: a field, a drop-down list when there are values to
+// choose from, an ellipsis when there is a dialog, and under it the reason when a value was refused.
 #pragma once
 #include <QWidget>
 
@@ -30,8 +30,8 @@ class ValueEditor : public QWidget {
   void Restore();
 
  signals:
-  void Entered(const QString& text);       // Enter, or a value chosen from the list
-  void Moved(int rows);                    // up or down, after applying
+  void Entered(const QString& text);  // Enter, or a value chosen from the list
+  void Moved(int rows);               // up or down, after applying
   void DialogWanted();
 
  protected:

@@ -15,16 +15,22 @@ int main(int argc, char** argv) {
   options.setApplicationDescription(QObject::tr("Designs forms."));
   options.addHelpOption();
   options.addVersionOption();
-  options.addPositionalArgument(QStringLiteral("form"), QObject::tr("The form to open."), QStringLiteral("[form]"));
-  const QCommandLineOption theme(QStringLiteral("theme"), QObject::tr("light or dark."), QStringLiteral("theme"));
-  const QCommandLineOption pictures(QStringLiteral("pictures"), QObject::tr("Writes pictures of the designer at work into the folder and ends."),
-                                    QStringLiteral("folder"));
+  options.addPositionalArgument(QStringLiteral("form"), QObject::tr("The form to open."),
+                                QStringLiteral("[form]"));
+  const QCommandLineOption theme(QStringLiteral("theme"), QObject::tr("light or dark."),
+                                 QStringLiteral("theme"));
+  const QCommandLineOption pictures(
+      QStringLiteral("pictures"),
+      QObject::tr("Writes pictures of the designer at work into the folder and ends."),
+      QStringLiteral("folder"));
   options.addOption(theme);
   options.addOption(pictures);
   options.process(app);
 
   const QString wanted = options.value(theme);
-  ApplyTheme(wanted == QStringLiteral("dark") ? TTheme::Dark : wanted == QStringLiteral("light") ? TTheme::Light : TTheme::System);
+  ApplyTheme(wanted == QStringLiteral("dark")    ? TTheme::Dark
+             : wanted == QStringLiteral("light") ? TTheme::Light
+                                                 : TTheme::System);
   UseThemeIcons();
   RegisterStandard();
   PackageManager packages(PackageManager::DefaultFolders());
@@ -40,7 +46,8 @@ int main(int argc, char** argv) {
     QTextStream err(stderr);
     if (!packageProblem.isEmpty()) err << packageProblem << Qt::endl;
     try {
-      for (const QString& file : TakePictures(packages, form, options.value(pictures))) QTextStream(stdout) << file << Qt::endl;
+      for (const QString& file : TakePictures(packages, form, options.value(pictures)))
+        QTextStream(stdout) << file << Qt::endl;
       return 0;
     } catch (const std::exception& e) {
       err << ExceptionMessage(e) << Qt::endl;

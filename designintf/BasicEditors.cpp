@@ -21,7 +21,9 @@ void TEnumProperty::GetValues(const TGetStrProc& proc) const {
   for (const QByteArray& element : GetPropType().Elements) proc(QString::fromLatin1(element));
 }
 
-TPropertyAttributes TCaptionProperty::GetAttributes() const { return {paMultiSelect, paAutoUpdate, paRevertable}; }
+TPropertyAttributes TCaptionProperty::GetAttributes() const {
+  return {paMultiSelect, paAutoUpdate, paRevertable};
+}
 
 void TComponentNameProperty::SetValue(const QString& value) {
   if (value.isEmpty()) throw EComponentError(QStringLiteral("%1 needs a name.").arg(GetStrValue()));
@@ -36,11 +38,19 @@ void TSetProperty::GetProperties(const TGetPropProc& proc) const {
   for (int i = 0; i < count; ++i) proc(std::make_unique<TSetElementProperty>(Designer(), Props(), i));
 }
 
-TPropertyAttributes TSetElementProperty::GetAttributes() const { return {paMultiSelect, paValueList, paSortList}; }
-QString TSetElementProperty::GetName() const { return QString::fromLatin1(GetPropType().CompType->Elements[element_]); }
+TPropertyAttributes TSetElementProperty::GetAttributes() const {
+  return {paMultiSelect, paValueList, paSortList};
+}
+QString TSetElementProperty::GetName() const {
+  return QString::fromLatin1(GetPropType().CompType->Elements[element_]);
+}
 bool TSetElementProperty::Has(int index) const { return (GetOrdValueAt(index) >> element_ & 1) != 0; }
-QString TSetElementProperty::GetValue() const { return Has(0) ? QStringLiteral("True") : QStringLiteral("False"); }
-void TSetElementProperty::SetValue(const QString& value) { Set(TextToOrd(TypeInfoOf<bool>::Get(), value) != 0); }
+QString TSetElementProperty::GetValue() const {
+  return Has(0) ? QStringLiteral("True") : QStringLiteral("False");
+}
+void TSetElementProperty::SetValue(const QString& value) {
+  Set(TextToOrd(TypeInfoOf<bool>::Get(), value) != 0);
+}
 void TSetElementProperty::Set(bool on) {
   const std::int64_t bit = std::int64_t{1} << element_;
   ChangeAll([&](const TInstProp& p) {
@@ -68,7 +78,9 @@ void TSetElementProperty::Revert() {
   if (const auto def = GetPropInfo().Default) Set((*def >> element_ & 1) != 0);
 }
 
-TPropertyAttributes TClassProperty::GetAttributes() const { return {paMultiSelect, paSubProperties, paReadOnly}; }
+TPropertyAttributes TClassProperty::GetAttributes() const {
+  return {paMultiSelect, paSubProperties, paReadOnly};
+}
 QString TClassProperty::GetValue() const { return u'(' + QString::fromLatin1(GetPropType().Name) + u')'; }
 void TClassProperty::SetValue(const QString&) {
   throw EPropertyError(QStringLiteral("%1 is edited through its parts or its dialog.").arg(GetName()));

@@ -10,7 +10,8 @@ QString TComponentEditor::GetVerb(int) const { return {}; }
 
 bool TDefaultEditor::EditProperty(const TPropertyEditor& property) const {
   const QString name = property.GetName();
-  return name == QStringLiteral("OnCreate") || name == QStringLiteral("OnChange") || name == QStringLiteral("OnClick");
+  return name == QStringLiteral("OnCreate") || name == QStringLiteral("OnChange") ||
+         name == QStringLiteral("OnClick");
 }
 
 void TDefaultEditor::Edit() {

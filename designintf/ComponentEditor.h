@@ -41,6 +41,8 @@ struct TComponentEditorClass {
 };
 template <class T>
 TComponentEditorClass ComponentEditorClass(const char* name) {
-  return {name, [](TComponent* c, IDesigner* d) -> std::unique_ptr<TComponentEditor> { return std::make_unique<T>(c, d); }};
+  return {name, [](TComponent* c, IDesigner* d) -> std::unique_ptr<TComponentEditor> {
+            return std::make_unique<T>(c, d);
+          }};
 }
 #define VRX_COMPONENT_EDITOR(Type) ComponentEditorClass<Type>(#Type)

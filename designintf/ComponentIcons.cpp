@@ -46,7 +46,9 @@ void Draw(const TClass& cls, QPainter& painter, const QRectF& rect) {
 class Engine : public QIconEngine {
  public:
   explicit Engine(const TClass& cls) : cls_(cls) {}
-  void paint(QPainter* painter, const QRect& rect, QIcon::Mode, QIcon::State) override { Draw(cls_, *painter, rect); }
+  void paint(QPainter* painter, const QRect& rect, QIcon::Mode, QIcon::State) override {
+    Draw(cls_, *painter, rect);
+  }
   QPixmap pixmap(const QSize& size, QIcon::Mode, QIcon::State) override {
     QPixmap pixmap(size);
     pixmap.fill(Qt::transparent);

@@ -39,7 +39,8 @@ std::vector<TColor> CustomColorValues(const QStringList& colors) {
 QStringList CustomColorEntries(const std::vector<TColor>& colors) {
   QStringList entries;
   for (std::size_t i = 0; i < colors.size() && i < MaxCustomColors; ++i)
-    entries << QStringLiteral("%1=%2").arg(Name(static_cast<int>(i)),
-                                           QStringLiteral("%1").arg(static_cast<uint>(colors[i]), 8, 16, QLatin1Char('0')).toUpper());
+    entries << QStringLiteral("%1=%2").arg(
+        Name(static_cast<int>(i)),
+        QStringLiteral("%1").arg(static_cast<uint>(colors[i]), 8, 16, QLatin1Char('0')).toUpper());
   return entries;
 }

@@ -29,7 +29,9 @@ void Changed() {
   if (Design().changed) Design().changed();
 }
 
-bool SameType(const TTypeInfo& a, const TTypeInfo& b) { return &a == &b || (a.Kind == b.Kind && a.Name == b.Name); }
+bool SameType(const TTypeInfo& a, const TTypeInfo& b) {
+  return &a == &b || (a.Kind == b.Kind && a.Name == b.Name);
+}
 
 int Depth(const TClass* cls) {
   int depth = 0;
@@ -52,7 +54,8 @@ std::optional<Fit> FitOf(const TRegistration& row, const TPersistent& instance, 
   Fit fit;
   if (SameType(*row.PropertyType, type))
     fit.typeDepth = INT_MAX;
-  else if (type.ClassType && row.PropertyType->ClassType && type.ClassType().InheritsFrom(row.PropertyType->ClassType()))
+  else if (type.ClassType && row.PropertyType->ClassType &&
+           type.ClassType().InheritsFrom(row.PropertyType->ClassType()))
     fit.typeDepth = Depth(&row.PropertyType->ClassType());
   else
     return {};
@@ -81,7 +84,8 @@ TPropertyEditorClass EditorForKind(const TPropInfo& prop) {
     case TTypeKind::tkMethod:
       return VRX_PROPERTY_EDITOR(TMethodProperty);
     case TTypeKind::tkClass:
-      return IsComponentRef(prop) ? VRX_PROPERTY_EDITOR(TComponentProperty) : VRX_PROPERTY_EDITOR(TClassProperty);
+      return IsComponentRef(prop) ? VRX_PROPERTY_EDITOR(TComponentProperty)
+                                  : VRX_PROPERTY_EDITOR(TClassProperty);
     default:
       return VRX_PROPERTY_EDITOR(TIntegerProperty);
   }
@@ -91,10 +95,12 @@ std::vector<TPalettePage> Pages(TRegistrationKind kind) {
   std::vector<TPalettePage> pages;
   for (const TRegistration& row : Design().rows) {
     if (row.Kind != kind) continue;
-    auto page = std::find_if(pages.begin(), pages.end(), [&](const auto& p) { return p.Name == row.PageOrCategory; });
+    auto page =
+        std::find_if(pages.begin(), pages.end(), [&](const auto& p) { return p.Name == row.PageOrCategory; });
     if (page == pages.end()) page = pages.insert(pages.end(), TPalettePage{row.PageOrCategory, {}});
     for (const TClass* cls : row.Classes)
-      if (std::find(page->Classes.begin(), page->Classes.end(), cls) == page->Classes.end()) page->Classes.push_back(cls);
+      if (std::find(page->Classes.begin(), page->Classes.end(), cls) == page->Classes.end())
+        page->Classes.push_back(cls);
   }
   return pages;
 }
@@ -139,8 +145,8 @@ void RegisterComponentEditor(const TClass& componentClass, TComponentEditorClass
   Changed();
 }
 
-void RegisterPropertyEditor(const TTypeInfo& type, const TClass* componentClass, const QByteArray& propertyName,
-                            std::optional<TPropertyEditorClass> editor) {
+void RegisterPropertyEditor(const TTypeInfo& type, const TClass* componentClass,
+                            const QByteArray& propertyName, std::optional<TPropertyEditorClass> editor) {
   TRegistration& row = Record(TRegistrationKind::PropertyEditor);
   row.PropertyType = &type;
   row.ComponentClass = componentClass;
@@ -149,7 +155,8 @@ void RegisterPropertyEditor(const TTypeInfo& type, const TClass* componentClass,
   Changed();
 }
 
-void RegisterPropertiesInCategory(const QString& category, const TClass& componentClass, const QStringList& properties) {
+void RegisterPropertiesInCategory(const QString& category, const TClass& componentClass,
+                                  const QStringList& properties) {
   TRegistration& row = Record(TRegistrationKind::Category);
   row.PageOrCategory = category;
   row.ComponentClass = &componentClass;
@@ -186,14 +193,16 @@ std::unique_ptr<TPropertyEditor> CreatePropertyEditor(IDesigner* designer, TInst
   return editor.Create(designer, std::move(props));
 }
 
-void GetComponentProperties(const TDesignerSelections& objects, IDesigner* designer, const TGetPropProc& proc) {
+void GetComponentProperties(const TDesignerSelections& objects, IDesigner* designer,
+                            const TGetPropProc& proc) {
   if (objects.empty()) return;
   for (const TPropInfo* prop : objects.front()->ClassType().Properties()) {
     if (prop->Visibility != TPropVisibility::Published) continue;
     TInstProps props{{objects.front(), prop}};
     for (std::size_t i = 1; i < objects.size() && props.size() == i; ++i) {
       const TPropInfo* other = objects[i]->ClassType().FindProp(prop->Name);
-      if (other && other->Visibility == TPropVisibility::Published && SameType(*other->PropType, *prop->PropType))
+      if (other && other->Visibility == TPropVisibility::Published &&
+          SameType(*other->PropType, *prop->PropType))
         props.push_back({objects[i], other});
     }
     if (props.size() != objects.size()) continue;
@@ -218,7 +227,8 @@ QStringList CategoriesOf(const TClass& cls, const QByteArray& property) {
   QStringList result;
   for (const TRegistration& row : Design().rows)
     if (row.Kind == TRegistrationKind::Category && cls.InheritsFrom(*row.ComponentClass) &&
-        row.Properties.contains(QString::fromLatin1(property), Qt::CaseInsensitive) && !result.contains(row.PageOrCategory))
+        row.Properties.contains(QString::fromLatin1(property), Qt::CaseInsensitive) &&
+        !result.contains(row.PageOrCategory))
       result << row.PageOrCategory;
   if (result.isEmpty()) result << LoadResString(TResString::sMiscCategoryName);
   return result;

@@ -1,37 +1,45 @@
 // What packages call to make themselves known, and how the answers are looked up.
 //
-// Every call is recorded in order with the package and the unit whose Register made it; looking up gives the most
-// specific row, the later of two equal ones. Unloading a package removes its rows.
+// Every call is recorded in order with the package and the unit whose Register made it; looking up gives the
+// most specific row, the later of two equal ones. Unloading a package removes its rows.
 #pragma once
 #include <QStringList>
 
 #include "designintf/BasicEditors.h"
 #include "designintf/ComponentEditor.h"
 
-enum class TRegistrationKind : std::uint8_t { Components, Actions, PropertyEditor, ComponentEditor, Category };
+enum class TRegistrationKind : std::uint8_t {
+  Components,
+  Actions,
+  PropertyEditor,
+  ComponentEditor,
+  Category
+};
 
 struct TRegistration {
   TRegistrationKind Kind;
-  QByteArray Procedure;       // the unit
+  QByteArray Procedure;  // the unit
   const void* Package = nullptr;
   QString PageOrCategory;
-  std::vector<const TClass*> Classes;   // components or actions
+  std::vector<const TClass*> Classes;  // components or actions
   const TClass* ComponentClass = nullptr;
   const TTypeInfo* PropertyType = nullptr;
   QByteArray PropertyName;
-  QStringList Properties;               // of a category
-  std::optional<TPropertyEditorClass> PropertyEditor;    // none: the property is hidden
+  QStringList Properties;                              // of a category
+  std::optional<TPropertyEditorClass> PropertyEditor;  // none: the property is hidden
   std::optional<TComponentEditorClass> ComponentEditor;
 };
 
 void RegisterComponents(const QString& page, const std::vector<const TClass*>& classes);
 // The resource class is always null here: actions bring no images.
-void RegisterActions(const QString& category, const std::vector<const TClass*>& classes, const TClass* resource);
+void RegisterActions(const QString& category, const std::vector<const TClass*>& classes,
+                     const TClass* resource);
 void RegisterComponentEditor(const TClass& componentClass, TComponentEditorClass editor);
 // Null class and empty name: every property of the type. No editor: the property is hidden.
-void RegisterPropertyEditor(const TTypeInfo& type, const TClass* componentClass, const QByteArray& propertyName,
-                            std::optional<TPropertyEditorClass> editor);
-void RegisterPropertiesInCategory(const QString& category, const TClass& componentClass, const QStringList& properties);
+void RegisterPropertyEditor(const TTypeInfo& type, const TClass* componentClass,
+                            const QByteArray& propertyName, std::optional<TPropertyEditorClass> editor);
+void RegisterPropertiesInCategory(const QString& category, const TClass& componentClass,
+                                  const QStringList& properties);
 
 // The IDE's own texts.
 enum class TResString { sLayoutCategoryName, sVisualCategoryName, sMiscCategoryName };
@@ -63,7 +71,8 @@ std::vector<TPalettePage> ActionCategories();
 // The editor for a property of an object; null when it is hidden.
 std::unique_ptr<TPropertyEditor> CreatePropertyEditor(IDesigner* designer, TInstProps props);
 // Editors of the properties that all objects have in common and that may be edited together.
-void GetComponentProperties(const TDesignerSelections& objects, IDesigner* designer, const TGetPropProc& proc);
+void GetComponentProperties(const TDesignerSelections& objects, IDesigner* designer,
+                            const TGetPropProc& proc);
 std::unique_ptr<TComponentEditor> GetComponentEditor(TComponent* component, IDesigner* designer);
 // Categories of a property, in order of registration; "Miscellaneous" when there is none.
 QStringList CategoriesOf(const TClass& cls, const QByteArray& property);

@@ -21,7 +21,15 @@ void UnregisterDesignNotification(IDesignNotification* listener);
 // Called by designers.
 void NotifyDesign(const std::function<void(IDesignNotification&)>& call);
 
-enum class TEditState : std::uint8_t { esCanUndo, esCanRedo, esCanCut, esCanCopy, esCanPaste, esCanDelete, esCanSelectAll };
+enum class TEditState : std::uint8_t {
+  esCanUndo,
+  esCanRedo,
+  esCanCut,
+  esCanCopy,
+  esCanPaste,
+  esCanDelete,
+  esCanSelectAll
+};
 using TEditStates = TSet<TEditState>;
 enum class TEditAction : std::uint8_t { eaUndo, eaRedo, eaCut, eaCopy, eaPaste, eaDelete, eaSelectAll };
 

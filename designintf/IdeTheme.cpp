@@ -20,10 +20,13 @@ void Mark(QWidget& widget, const std::function<bool(const QWidget&)>& needTheme,
     widget.setProperty(LeftOut, false);
   }
   for (QObject* child : widget.children())
-    if (auto* inner = qobject_cast<QWidget*>(child); inner && !inner->isWindow()) Mark(*inner, needTheme, themed);
+    if (auto* inner = qobject_cast<QWidget*>(child); inner && !inner->isWindow())
+      Mark(*inner, needTheme, themed);
 }
 }  // namespace
 
-void ApplyIDETheme(QWidget& window, const std::function<bool(const QWidget&)>& needTheme) { Mark(window, needTheme, true); }
+void ApplyIDETheme(QWidget& window, const std::function<bool(const QWidget&)>& needTheme) {
+  Mark(window, needTheme, true);
+}
 
 bool IsIDEThemed(const QWidget& widget) { return widget.property(Themed).toBool(); }

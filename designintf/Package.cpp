@@ -24,7 +24,8 @@ TPackageRecord TPackageRecord::FromJson(const QJsonObject& o) {
     const QJsonObject unit = v.toObject();
     const QStringList unitFlags = Strings(unit.value(QStringLiteral("flags")));
     r.Contains.push_back({v.isString() ? v.toString() : unit.value(QStringLiteral("unit")).toString(),
-                          unitFlags.contains(QStringLiteral("main-unit")), unitFlags.contains(QStringLiteral("package-unit"))});
+                          unitFlags.contains(QStringLiteral("main-unit")),
+                          unitFlags.contains(QStringLiteral("package-unit"))});
   }
   return r;
 }

@@ -7,7 +7,6 @@
 
 #include "rtl/PackageIds.h"
 
-
 struct TPackageUnit {
   QString Name;
   bool MainUnit = false;
@@ -30,7 +29,8 @@ struct TPackageRecord {
   QJsonObject ToJson() const;
 };
 
-// One unit: what it does when the package is loaded and unloaded, and its Register procedure; any may be null.
+// One unit: what it does when the package is loaded and unloaded, and its Register procedure; any may be
+// null.
 struct TUnitEntry {
   const char* Name;
   void (*Initialization)() = nullptr;

@@ -22,7 +22,7 @@ enum class TPropertyAttribute : std::uint8_t {
 using TPropertyAttributes = TSet<TPropertyAttribute>;
 
 VRX_ENUM(TPropertyAttribute,
-         {"paValueList", "paSubProperties", "paDialog", "paMultiSelect", "paAutoUpdate", "paSortList", "paReadOnly",
-          "paRevertable", "paFullWidthName", "paVolatileSubProperties", "paVCL", "paNotNestable", "paDisplayReadOnly",
-          "paCustomDropDown", "paValueEditable"})
+         {"paValueList", "paSubProperties", "paDialog", "paMultiSelect", "paAutoUpdate", "paSortList",
+          "paReadOnly", "paRevertable", "paFullWidthName", "paVolatileSubProperties", "paVCL",
+          "paNotNestable", "paDisplayReadOnly", "paCustomDropDown", "paValueEditable"})
 VRX_SET(TPropertyAttributes, TPropertyAttribute)

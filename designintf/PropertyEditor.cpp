@@ -85,14 +85,18 @@ namespace {
 const TInstProp& At(const TInstProps& props, int index) { return props.at(static_cast<std::size_t>(index)); }
 }  // namespace
 
-std::int64_t TPropertyEditor::GetOrdValueAt(int i) const { return GetOrdProp(*At(props_, i).Instance, *At(props_, i).PropInfo); }
+std::int64_t TPropertyEditor::GetOrdValueAt(int i) const {
+  return GetOrdProp(*At(props_, i).Instance, *At(props_, i).PropInfo);
+}
 TPersistent* TPropertyEditor::GetObjectValueAt(int i) const {
   return GetObjectProp(*At(props_, i).Instance, *At(props_, i).PropInfo);
 }
 long double TPropertyEditor::GetFloatValueAt(int i) const {
   return GetFloatProp(*At(props_, i).Instance, *At(props_, i).PropInfo);
 }
-QString TPropertyEditor::GetStrValueAt(int i) const { return GetStrProp(*At(props_, i).Instance, *At(props_, i).PropInfo); }
+QString TPropertyEditor::GetStrValueAt(int i) const {
+  return GetStrProp(*At(props_, i).Instance, *At(props_, i).PropInfo);
+}
 QString TPropertyEditor::GetMethodValueAt(int i) const {
   return GetMethodProp(*At(props_, i).Instance, *At(props_, i).PropInfo);
 }

@@ -1,5 +1,5 @@
-// The base of all property editors. An editor serves one property of all selected components at once; it reads
-// the first and writes all.
+// The base of all property editors. An editor serves one property of all selected components at once; it
+// reads the first and writes all.
 #pragma once
 #include <QFont>
 #include <QIcon>

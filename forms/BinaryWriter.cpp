@@ -19,7 +19,10 @@ void BinaryWriter::ShortString(QByteArrayView text) {
 
 void BinaryWriter::TaggedInteger(std::int64_t value, ValueType type) {
   Byte(static_cast<unsigned>(type));
-  const int size = type == ValueType::Int8 ? 1 : type == ValueType::Int16 ? 2 : type == ValueType::Int32 ? 4 : 8;
+  const int size = type == ValueType::Int8    ? 1
+                   : type == ValueType::Int16 ? 2
+                   : type == ValueType::Int32 ? 4
+                                              : 8;
   LittleEndian(static_cast<std::uint64_t>(value), size);
 }
 
@@ -109,7 +112,9 @@ void BinaryWriter::WriteValue(const Value& v) {
 
 QByteArray ResourceHeader(QByteArrayView rootClass, std::size_t streamSize) {
   if (rootClass.contains('\0'))
-    throw EFormError(QStringLiteral("The class name \"%1\" cannot name a resource").arg(QString::fromLatin1(rootClass)), {});
+    throw EFormError(
+        QStringLiteral("The class name \"%1\" cannot name a resource").arg(QString::fromLatin1(rootClass)),
+        {});
   QByteArray out("\xFF\x0A\x00", 3);
   out += rootClass.toByteArray().toUpper();
   out += '\0';

@@ -14,10 +14,12 @@ namespace forms {
 PropertyTarget FindTarget(TPersistent& root, QByteArrayView path) {
   TPersistent* instance = &root;
   for (;;) {
-    const auto* point = path.isEmpty() ? nullptr : std::memchr(path.data(), '.', static_cast<std::size_t>(path.size()));
+    const auto* point =
+        path.isEmpty() ? nullptr : std::memchr(path.data(), '.', static_cast<std::size_t>(path.size()));
     if (!point) {
       constexpr QByteArrayView content("Strings");
-      if (path.size() == content.size() && path.compare(content, Qt::CaseInsensitive) == 0 && As<TStrings>(instance))
+      if (path.size() == content.size() && path.compare(content, Qt::CaseInsensitive) == 0 &&
+          As<TStrings>(instance))
         return {instance, nullptr};
       const TPropInfo* prop = instance->ClassType().FindProp(path);
       return prop ? PropertyTarget{instance, prop} : PropertyTarget{};
@@ -34,8 +36,8 @@ PropertyTarget FindTarget(TPersistent& root, QByteArrayView path) {
 namespace {
 [[noreturn]] void Refuse(const PropertyTarget& t, const Value& v, const QString& expected) {
   const QString name = t.prop ? QString::fromLatin1(t.prop->Name) : QStringLiteral("Strings");
-  throw EPropertyError(QStringLiteral("%1 cannot be %2: %3.")
-                           .arg(name, QString::fromUtf8(ValueToText(v)).left(60), expected));
+  throw EPropertyError(
+      QStringLiteral("%1 cannot be %2: %3.").arg(name, QString::fromUtf8(ValueToText(v)).left(60), expected));
 }
 
 std::int64_t OrdinalOf(const PropertyTarget& t, const Value& v) {
@@ -47,7 +49,10 @@ std::int64_t OrdinalOf(const PropertyTarget& t, const Value& v) {
       std::int64_t bits = 0;
       for (const QByteArray& element : v.elements) {
         const int i = type.CompType->IndexOfElement(element);
-        if (i < 0) Refuse(t, v, QStringLiteral("%1 is no element of %2").arg(QString::fromUtf8(element), QString::fromLatin1(type.Name)));
+        if (i < 0)
+          Refuse(t, v,
+                 QStringLiteral("%1 is no element of %2")
+                     .arg(QString::fromUtf8(element), QString::fromLatin1(type.Name)));
         bits |= std::int64_t{1} << i;
       }
       return bits;
@@ -63,16 +68,20 @@ std::int64_t OrdinalOf(const PropertyTarget& t, const Value& v) {
       std::int64_t value = 0;
       const TIntegerConsts* consts = v.type == ValueType::Ident ? FindIntegerConsts(type) : nullptr;
       if (!consts || !consts->IdentToInt(v.bytes, value))
-        Refuse(t, v, QStringLiteral("a number or name of type %1 is expected").arg(QString::fromLatin1(type.Name)));
+        Refuse(t, v,
+               QStringLiteral("a number or name of type %1 is expected").arg(QString::fromLatin1(type.Name)));
       return value;
     }
   }
 }
 
-void ApplyCollection(const PropertyTarget& t, const Value& v, const Document& doc, std::vector<PendingReference>& pending) {
+void ApplyCollection(const PropertyTarget& t, const Value& v, const Document& doc,
+                     std::vector<PendingReference>& pending) {
   auto* collection = As<TCollection>(GetObjectProp(*t.instance, *t.prop));
   if (!collection || v.type != ValueType::Collection)
-    Refuse(t, v, collection ? QStringLiteral("a collection <...> is expected") : QStringLiteral("its parts are set one by one"));
+    Refuse(t, v,
+           collection ? QStringLiteral("a collection <...> is expected")
+                      : QStringLiteral("its parts are set one by one"));
   collection->BeginUpdate();
   try {
     collection->Clear();
@@ -81,7 +90,9 @@ void ApplyCollection(const PropertyTarget& t, const Value& v, const Document& do
       for (const NamedValue& p : item.properties) {
         const PropertyTarget inner = FindTarget(*target, p.path);
         if (!inner.Found())
-          throw EPropertyError(QStringLiteral("%1 has no property %2.").arg(QString::fromLatin1(target->ClassType().ClassName()), QString::fromUtf8(p.path)));
+          throw EPropertyError(
+              QStringLiteral("%1 has no property %2.")
+                  .arg(QString::fromLatin1(target->ClassType().ClassName()), QString::fromUtf8(p.path)));
         ApplyValue(inner, p.value, doc, pending);
       }
     }
@@ -93,7 +104,8 @@ void ApplyCollection(const PropertyTarget& t, const Value& v, const Document& do
 }
 }  // namespace
 
-void ApplyValue(const PropertyTarget& t, const Value& v, const Document& doc, std::vector<PendingReference>& pending) {
+void ApplyValue(const PropertyTarget& t, const Value& v, const Document& doc,
+                std::vector<PendingReference>& pending) {
   if (!t.prop) {
     if (v.type != ValueType::List) Refuse(t, v, QStringLiteral("a list of strings (...) is expected"));
     QStringList lines;
@@ -110,18 +122,22 @@ void ApplyValue(const PropertyTarget& t, const Value& v, const Document& doc, st
       if (!v.IsString()) Refuse(t, v, QStringLiteral("a string '...' is expected"));
       return SetStrProp(*t.instance, prop, doc.Decode(v));
     case TTypeKind::tkFloat:
-      if (v.type == ValueType::Currency) return SetFloatProp(*t.instance, prop, static_cast<long double>(v.integer) / 10000.0L);
+      if (v.type == ValueType::Currency)
+        return SetFloatProp(*t.instance, prop, static_cast<long double>(v.integer) / 10000.0L);
       if (v.IsReal()) return SetFloatProp(*t.instance, prop, v.real);
       if (v.IsInteger()) return SetFloatProp(*t.instance, prop, static_cast<long double>(v.integer));
       Refuse(t, v, QStringLiteral("a number is expected"));
     case TTypeKind::tkMethod:
-      if (v.type != ValueType::Nil && v.type != ValueType::Ident) Refuse(t, v, QStringLiteral("the name of a handler is expected"));
-      return SetMethodProp(*t.instance, prop, v.type == ValueType::Nil ? QString() : QString::fromUtf8(v.bytes));
+      if (v.type != ValueType::Nil && v.type != ValueType::Ident)
+        Refuse(t, v, QStringLiteral("the name of a handler is expected"));
+      return SetMethodProp(*t.instance, prop,
+                           v.type == ValueType::Nil ? QString() : QString::fromUtf8(v.bytes));
     case TTypeKind::tkClass:
       if (!IsComponentRef(prop)) return ApplyCollection(t, v, doc, pending);
       if (v.type == ValueType::Nil) return SetObjectProp(*t.instance, prop, nullptr);
       if (v.type != ValueType::Ident) Refuse(t, v, QStringLiteral("the name of a component is expected"));
-      pending.push_back({nullptr, t.instance, &prop, QByteArray(v.bytes.constData(), v.bytes.size()), nullptr});
+      pending.push_back(
+          {nullptr, t.instance, &prop, QByteArray(v.bytes.constData(), v.bytes.size()), nullptr});
       return;
     case TTypeKind::tkUnknown:
       if (v.type != ValueType::Binary) Refuse(t, v, QStringLiteral("binary data {...} is expected"));
@@ -166,7 +182,8 @@ void ApplyNow(TComponent& root, const PropertyTarget& target, const Value& value
   const auto unresolved = ResolveReferences(root, std::move(pending));
   if (!unresolved.empty())
     throw EPropertyError(QStringLiteral("%1 cannot be %2: the form has no such component of type %3.")
-                             .arg(QString::fromLatin1(unresolved[0].prop->Name), QString::fromUtf8(unresolved[0].target),
+                             .arg(QString::fromLatin1(unresolved[0].prop->Name),
+                                  QString::fromUtf8(unresolved[0].target),
                                   QString::fromLatin1(unresolved[0].prop->PropType->Name)));
 }
 
@@ -188,7 +205,8 @@ Value OrdinalValue(const TTypeInfo& type, std::int64_t v) {
       if (const TIntegerConsts* consts = FindIntegerConsts(type); consts && consts->IntToIdent(v, ident))
         return Value::Identifier(ident);
       // 32-bit properties are signed in form files, whatever they are in memory.
-      if (type.MinValue == INT32_MIN && v > INT32_MAX) v = static_cast<std::int32_t>(static_cast<std::uint32_t>(v));
+      if (type.MinValue == INT32_MIN && v > INT32_MAX)
+        v = static_cast<std::int32_t>(static_cast<std::uint32_t>(v));
     }
   }
   return Value::Integer(v);
@@ -206,8 +224,8 @@ Value CollectionValue(const TCollection& collection, const Document& doc) {
   return v;
 }
 
-void Collect(const TPersistent& instance, const Document& doc, bool all, bool ownerStored, const QByteArray& prefix,
-             std::vector<StoredValue>& out) {
+void Collect(const TPersistent& instance, const Document& doc, bool all, bool ownerStored,
+             const QByteArray& prefix, std::vector<StoredValue>& out) {
   if (const auto* strings = As<TStrings>(&instance)) {
     const bool stored = ownerStored && !strings->ContentEmpty();
     if (all || stored) {
@@ -230,8 +248,11 @@ void Collect(const TPersistent& instance, const Document& doc, bool all, bool ow
         Collect(*value, doc, all, stored, prefix + prop->Name + '.', out);
       continue;
     }
-    if (prop->ReadOnly || prop->Name == "Name") continue;
-    if (std::optional<Value> value = ValueOf(instance, *prop, doc)) out.push_back({prefix + prop->Name, std::move(*value), stored});
+    if (prop->ReadOnly) continue;
+    if (prop->Name == "Name" && As<TComponent>(&instance))
+      continue;  // stands in the header; a font keeps its name
+    if (std::optional<Value> value = ValueOf(instance, *prop, doc))
+      out.push_back({prefix + prop->Name, std::move(*value), stored});
   }
 }
 }  // namespace
@@ -267,7 +288,8 @@ std::optional<Value> ValueOf(const TPersistent& instance, const TPropInfo& prop,
       const auto* component = static_cast<TComponent*>(object);
       const TComponent* root = LookupRoot(instance);
       QByteArray path = component->Name().toUtf8();
-      for (const TComponent* scope = component->Owner(); component != root && scope != root; scope = scope->Owner()) {
+      for (const TComponent* scope = component->Owner(); component != root && scope != root;
+           scope = scope->Owner()) {
         if (!scope) return {};  // on another form
         path.prepend(scope->Name().toUtf8() + '.');
       }

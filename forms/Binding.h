@@ -24,8 +24,8 @@ struct PropertyTarget {
 };
 PropertyTarget FindTarget(TPersistent& root, QByteArrayView path);
 
-// Gives the property the value. References are appended to `pending`. Throws Exception when the value does not
-// fit, saying what was expected; the property is then unchanged.
+// Gives the property the value. References are appended to `pending`. Throws Exception when the value does
+// not fit, saying what was expected; the property is then unchanged.
 void ApplyValue(const PropertyTarget& target, const Value& value, const Document& document,
                 std::vector<PendingReference>& pending);
 // Looks the references up among the root's components; those that cannot be found are returned.

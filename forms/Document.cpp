@@ -122,7 +122,8 @@ void Document::Read(const Property& property, Value& out) const {
   if (const Value* edited = property.Edited()) {
     out = *edited;
   } else if (format_ == Format::Text) {
-    TextReader(QByteArrayView(source_).first(property.SourceValue().end), property.SourceValue().begin).ReadValue(&out);
+    TextReader(QByteArrayView(source_).first(property.SourceValue().end), property.SourceValue().begin)
+        .ReadValue(&out);
   } else {
     BinaryReader(source_, property.SourceValue().begin, lclStream_).ReadValue(&out);
   }

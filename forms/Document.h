@@ -29,9 +29,12 @@ class Property {
   Property() = default;
   // A property of the source. The name is in the source or interned by the document.
   Property(QByteArrayView name, Span node, std::uint32_t valueBegin)
-      : name_(name.data()), nameSize_(static_cast<std::uint32_t>(name.size())), node_(node), valueBegin_(valueBegin) {}
-  // A property that is not in the source. The name is interned by the document; `lead` are the blank lines of the
-  // source that stand above it.
+      : name_(name.data()),
+        nameSize_(static_cast<std::uint32_t>(name.size())),
+        node_(node),
+        valueBegin_(valueBegin) {}
+  // A property that is not in the source. The name is interned by the document; `lead` are the blank lines of
+  // the source that stand above it.
   Property(QByteArrayView internedName, Value value, Span lead)
       : name_(internedName.data()),
         nameSize_(static_cast<std::uint32_t>(internedName.size())),
@@ -84,9 +87,9 @@ class Object {
 
 // How a file writes what can be written in several ways; read off the file itself.
 struct Dialect {
-  bool lcl = false;              // closing brackets on lines of their own, '' for apostrophes, Cls[3]
-  bool fixedFloats = true;       // 18 decimals instead of 15 significant digits
-  bool literalHighBytes = false; // non-ASCII as UTF-8 instead of #n
+  bool lcl = false;               // closing brackets on lines of their own, '' for apostrophes, Cls[3]
+  bool fixedFloats = true;        // 18 decimals instead of 15 significant digits
+  bool literalHighBytes = false;  // non-ASCII as UTF-8 instead of #n
   QByteArray eol = "\n";
 };
 
@@ -162,7 +165,7 @@ class Document {
   std::deque<QByteArray> interned_;
 };
 
-constexpr int MaxDepth = 400;                              // nesting of objects and of values
-constexpr qsizetype MaxFileSize = qsizetype{512} << 20;    // bytes
+constexpr int MaxDepth = 400;                            // nesting of objects and of values
+constexpr qsizetype MaxFileSize = qsizetype{512} << 20;  // bytes
 
 }  // namespace forms

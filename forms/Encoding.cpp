@@ -20,13 +20,20 @@ QByteArray CodePageOfCharset(QByteArrayView charset) {
     const char* codePage;
   };
   static constexpr std::array rows{
-      Row{"ANSI_CHARSET", "windows-1252"},       Row{"EASTEUROPE_CHARSET", "windows-1250"},
-      Row{"RUSSIAN_CHARSET", "windows-1251"},    Row{"GREEK_CHARSET", "windows-1253"},
-      Row{"TURKISH_CHARSET", "windows-1254"},    Row{"HEBREW_CHARSET", "windows-1255"},
-      Row{"ARABIC_CHARSET", "windows-1256"},     Row{"BALTIC_CHARSET", "windows-1257"},
-      Row{"VIETNAMESE_CHARSET", "windows-1258"}, Row{"THAI_CHARSET", "windows-874"},
-      Row{"SHIFTJIS_CHARSET", "Shift_JIS"},      Row{"GB2312_CHARSET", "GBK"},
-      Row{"HANGEUL_CHARSET", "EUC-KR"},          Row{"CHINESEBIG5_CHARSET", "Big5"},
+      Row{"ANSI_CHARSET", "windows-1252"},
+      Row{"EASTEUROPE_CHARSET", "windows-1250"},
+      Row{"RUSSIAN_CHARSET", "windows-1251"},
+      Row{"GREEK_CHARSET", "windows-1253"},
+      Row{"TURKISH_CHARSET", "windows-1254"},
+      Row{"HEBREW_CHARSET", "windows-1255"},
+      Row{"ARABIC_CHARSET", "windows-1256"},
+      Row{"BALTIC_CHARSET", "windows-1257"},
+      Row{"VIETNAMESE_CHARSET", "windows-1258"},
+      Row{"THAI_CHARSET", "windows-874"},
+      Row{"SHIFTJIS_CHARSET", "Shift_JIS"},
+      Row{"GB2312_CHARSET", "GBK"},
+      Row{"HANGEUL_CHARSET", "EUC-KR"},
+      Row{"CHINESEBIG5_CHARSET", "Big5"},
       Row{"OEM_CHARSET", "IBM850"},
   };
   for (const Row& row : rows)

@@ -24,9 +24,9 @@ QByteArray ReadFile(const QString& fileName) {
     open = !QFileInfo(fileName).isDir() && file.open(QIODevice::ReadOnly);
   }
   if (!open)
-    throw Exception(QStringLiteral("Cannot read %1: %2").arg(fileName, QFileInfo(fileName).isDir()
-                                                                           ? QStringLiteral("it is a folder")
-                                                                           : file.errorString()));
+    throw Exception(QStringLiteral("Cannot read %1: %2")
+                        .arg(fileName, QFileInfo(fileName).isDir() ? QStringLiteral("it is a folder")
+                                                                   : file.errorString()));
   if (file.size() > MaxFileSize)
     throw Exception(QStringLiteral("%1 is larger than %2 MB").arg(fileName).arg(MaxFileSize >> 20));
   QByteArray bytes = file.readAll();
@@ -35,7 +35,9 @@ QByteArray ReadFile(const QString& fileName) {
   return bytes;
 }
 
-Document LoadForm(const QString& fileName) { return Document::Parse(ReadFile(fileName), DialectOfName(fileName)); }
+Document LoadForm(const QString& fileName) {
+  return Document::Parse(ReadFile(fileName), DialectOfName(fileName));
+}
 
 void WriteFile(const QString& fileName, const QByteArray& bytes) {
   const auto fail = [&](const QString& why) {

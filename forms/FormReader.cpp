@@ -91,7 +91,8 @@ void FormReader::ReadProperties(Object& object, TComponent& component, bool repo
     try {
       ApplyValue(target, value_, document_, pending_);
     } catch (const Exception& e) {
-      Report(Severity::Error, document_.Where(p), QStringLiteral("%1: %2").arg(ObjectTitle(object), e.Message()));
+      Report(Severity::Error, document_.Where(p),
+             QStringLiteral("%1: %2").arg(ObjectTitle(object), e.Message()));
     }
     for (std::size_t i = before; i < pending_.size(); ++i) {
       pending_[i].holder = &component;

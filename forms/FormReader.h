@@ -1,5 +1,5 @@
-// Makes components from a document. Whatever is not understood is left in the document, reported as a finding,
-// and written back untouched when the form is saved.
+// Makes components from a document. Whatever is not understood is left in the document, reported as a
+// finding, and written back untouched when the form is saved.
 #pragma once
 #include "forms/Binding.h"
 
@@ -24,10 +24,16 @@ class ObjectMap {
   void Remove(TComponent& component) {
     if (Object* object = objects_.take(&component)) components_.remove(object);
   }
-  void Clear() { objects_.clear(); components_.clear(); }
+  void Clear() {
+    objects_.clear();
+    components_.clear();
+  }
   Object* ObjectOf(const TComponent& component) const { return objects_.value(&component); }
   TComponent* ComponentOf(const Object& object) const { return components_.value(&object); }
-  void Reserve(qsizetype count) { objects_.reserve(count); components_.reserve(count); }
+  void Reserve(qsizetype count) {
+    objects_.reserve(count);
+    components_.reserve(count);
+  }
 
  private:
   QHash<const TComponent*, Object*> objects_;

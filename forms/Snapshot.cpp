@@ -27,7 +27,8 @@ namespace {
 int IndexOf(const Object& object, QByteArrayView path) {
   for (std::size_t i = 0; i < object.properties.size(); ++i) {
     const QByteArrayView name = object.properties[i].Name();
-    if (name.size() == path.size() && name.compare(path, Qt::CaseInsensitive) == 0) return static_cast<int>(i);
+    if (name.size() == path.size() && name.compare(path, Qt::CaseInsensitive) == 0)
+      return static_cast<int>(i);
   }
   return -1;
 }
@@ -53,15 +54,19 @@ std::optional<Property> Remove(Object& object, int index) {
 }
 }  // namespace
 
-void PatchObject(Object& object, Document& document, const Snapshot& after, std::vector<ValueChange>& changes) {
+void PatchObject(Object& object, Document& document, const Snapshot& after,
+                 std::vector<ValueChange>& changes) {
   for (ValueChange& change : changes) {
-    const bool written = change.storedAfter || (object.kind == ObjectKind::Inherited && !(change.before == change.after));
+    const bool written =
+        change.storedAfter || (object.kind == ObjectKind::Inherited && !(change.before == change.after));
     const int at = IndexOf(object, change.path);
     change.index = at;
     if (at >= 0) change.nodeBefore = Remove(object, at);
     if (!written) continue;
     if (at < 0) change.index = InsertionIndex(object, after, change.path);
-    object.properties.insert(object.properties.begin() + change.index, document.MakeProperty(change.path, change.after, change.nodeBefore ? &*change.nodeBefore : nullptr));
+    object.properties.insert(
+        object.properties.begin() + change.index,
+        document.MakeProperty(change.path, change.after, change.nodeBefore ? &*change.nodeBefore : nullptr));
     change.nodeAfter.emplace();  // stands in the object now
   }
 }

@@ -24,7 +24,8 @@ std::vector<ValueChange> Difference(const Snapshot& before, const Snapshot& afte
 
 // Puts the new values into the object: changed lines are replaced, those at default removed (but kept in an
 // inherited object, where leaving out means "as the ancestor has it"), new ones inserted in class order.
-void PatchObject(Object& object, Document& document, const Snapshot& after, std::vector<ValueChange>& changes);
+void PatchObject(Object& object, Document& document, const Snapshot& after,
+                 std::vector<ValueChange>& changes);
 // Exchanges the nodes of a patched object with those from before, or back again.
 void UnpatchObject(Object& object, std::vector<ValueChange>& changes);
 void RepatchObject(Object& object, std::vector<ValueChange>& changes);

@@ -19,8 +19,7 @@ constexpr bool IsIdentStart(char c) { return (c >= 'a' && c <= 'z') || (c >= 'A'
 // Asked for every character of a file.
 inline constexpr std::array<bool, 256> IdentChars = [] {
   std::array<bool, 256> table{};
-  for (unsigned c = 0; c < 128; ++c)
-    table[c] = IsIdentStart(static_cast<char>(c)) || (c >= '0' && c <= '9');
+  for (unsigned c = 0; c < 128; ++c) table[c] = IsIdentStart(static_cast<char>(c)) || (c >= '0' && c <= '9');
   return table;
 }();
 constexpr bool IsIdentChar(char c) { return IdentChars[static_cast<unsigned char>(c)]; }
@@ -28,7 +27,8 @@ constexpr bool IsIdentChar(char c) { return IdentChars[static_cast<unsigned char
 // No regard to case; the keyword is in lower case.
 inline bool Is(QByteArrayView word, std::string_view keyword) {
   return word.size() == static_cast<qsizetype>(keyword.size()) &&
-         std::equal(word.begin(), word.end(), keyword.begin(), [](char c, char k) { return (c | 0x20) == k; });
+         std::equal(word.begin(), word.end(), keyword.begin(),
+                    [](char c, char k) { return (c | 0x20) == k; });
 }
 
 // A property path may have blanks and directives behind its points; this is the path without them.

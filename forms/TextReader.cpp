@@ -68,7 +68,8 @@ QByteArray TextReader::Here() const {
   return "\"" + word + "\"";
 }
 
-// Form templates have conditional lines ({$IFDEF ...}); binary data never starts with "$", so they can be told apart.
+// Form templates have conditional lines ({$IFDEF ...}); binary data never starts with "$", so they can be
+// told apart.
 void TextReader::SkipDirectives() {
   while (end_ - p_ >= 2 && p_[0] == '{' && p_[1] == '$') {
     const char* open = p_;
@@ -82,8 +83,10 @@ void TextReader::SkipDirectives() {
 
 QByteArrayView TextReader::Take(QByteArrayView word, const char* what) {
   if (word.isEmpty())
-    Fail(QStringLiteral("%1 expected, but %2 found").arg(QLatin1StringView(what), QString::fromLatin1(Here())));
-  if (word.size() > 255) Fail(QStringLiteral("%1 is longer than 255 characters").arg(QLatin1StringView(what)));
+    Fail(QStringLiteral("%1 expected, but %2 found")
+             .arg(QLatin1StringView(what), QString::fromLatin1(Here())));
+  if (word.size() > 255)
+    Fail(QStringLiteral("%1 is longer than 255 characters").arg(QLatin1StringView(what)));
   p_ += word.size();
   return word;
 }
@@ -99,14 +102,16 @@ QByteArrayView TextReader::HeaderWord(const char* what) {
     p_ = start;
     return Word(what);
   }
-  if (word.size() > 255) Fail(QStringLiteral("%1 is longer than 255 characters").arg(QLatin1StringView(what)), start);
+  if (word.size() > 255)
+    Fail(QStringLiteral("%1 is longer than 255 characters").arg(QLatin1StringView(what)), start);
   return word;
 }
 
 void TextReader::Expect(char c, const char* what) {
   SkipBlanks();
   if (p_ == end_ || *p_ != c)
-    Fail(QStringLiteral("%1 expected, but %2 found").arg(QLatin1StringView(what), QString::fromLatin1(Here())));
+    Fail(QStringLiteral("%1 expected, but %2 found")
+             .arg(QLatin1StringView(what), QString::fromLatin1(Here())));
   ++p_;
 }
 
@@ -143,7 +148,8 @@ void TextReader::ReadDocument(Document& doc) {
 
   doc.template_ = directives_;
   Dialect& d = doc.dialect_;
-  const char* firstEnd = static_cast<const char*>(std::memchr(begin_, '\n', static_cast<size_t>(end_ - begin_)));
+  const char* firstEnd =
+      static_cast<const char*>(std::memchr(begin_, '\n', static_cast<size_t>(end_ - begin_)));
   if (firstEnd)
     d.eol = firstEnd != begin_ && firstEnd[-1] == '\r' ? "\r\n" : "\n";
   else if (std::memchr(begin_, '\r', static_cast<size_t>(end_ - begin_)))
@@ -206,10 +212,10 @@ std::unique_ptr<Object> TextReader::ReadObject(Document& doc, std::size_t nodeBe
       if (p_ == end_)
         Fail(QStringLiteral("The file ends inside %1: \"end\" is missing")
                  .arg(QString::fromLatin1(object->name.isEmpty() ? object->className : object->name)));
-      Fail(word.isEmpty()
-               ? QStringLiteral("A property, an object or \"end\" expected, but %1 found").arg(QString::fromLatin1(Here()))
-               : QStringLiteral("Property %1 stands behind a child object; properties come first")
-                     .arg(QString::fromLatin1(word)));
+      Fail(word.isEmpty() ? QStringLiteral("A property, an object or \"end\" expected, but %1 found")
+                                .arg(QString::fromLatin1(Here()))
+                          : QStringLiteral("Property %1 stands behind a child object; properties come first")
+                                .arg(QString::fromLatin1(word)));
     }
     auto child = ReadObject(doc, childBegin, depth + 1);
     child->parent = object.get();
@@ -231,7 +237,8 @@ void TextReader::ReadProperties(Document& doc, Object& object) {
     }
     QByteArrayView name = PropertyPath(word);
     const auto foreign = [](char c) { return IsBlank(c) || c == '{'; };
-    if (name.size() > word.size() && std::any_of(name.begin(), name.end(), foreign)) name = doc.Intern(WithoutBlanks(name));
+    if (name.size() > word.size() && std::any_of(name.begin(), name.end(), foreign))
+      name = doc.Intern(WithoutBlanks(name));
     Expect('=', "\"=\"");
     SkipBlanks();
     const auto valueBegin = static_cast<std::uint32_t>(Offset());

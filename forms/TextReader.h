@@ -59,8 +59,8 @@ class TextReader {
   Scratch scratch_;
   bool directives_ = false;
   // Signs of the file's style, met on the way.
-  int glued_ = 0, apart_ = 0;           // closing brackets
-  int doubledQuotes_ = 0, coded39_ = 0; // apostrophes
+  int glued_ = 0, apart_ = 0;            // closing brackets
+  int doubledQuotes_ = 0, coded39_ = 0;  // apostrophes
   int fixedFloats_ = 0, shortFloats_ = 0;
   int blankIndex_ = 0, tightIndex_ = 0;
   int highBytes_ = 0;

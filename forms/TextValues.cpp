@@ -115,7 +115,8 @@ void TextReader::ReadNumber(Value* out) {
     }
     return;
   }
-  if (q != end_ && IsIdentChar(*q)) Fail(QStringLiteral("Unexpected %1 behind a number").arg(QLatin1Char(*q)), q);
+  if (q != end_ && IsIdentChar(*q))
+    Fail(QStringLiteral("Unexpected %1 behind a number").arg(QLatin1Char(*q)), q);
   p_ = q;
   // Only these can be too large; the rest is checked by its form alone.
   if (!out && !suffix && digitsEnd - start < 1000 &&
@@ -377,7 +378,8 @@ void TextReader::ReadBinary(Value* out) {
     }
     const int high = HexDigit(*p_);
     const int low = p_ + 1 != end_ ? HexDigit(p_[1]) : -1;
-    if (high < 0 || low < 0) Fail(QStringLiteral("Two hexadecimal digits expected, but %1 found").arg(QString::fromLatin1(Here())));
+    if (high < 0 || low < 0)
+      Fail(QStringLiteral("Two hexadecimal digits expected, but %1 found").arg(QString::fromLatin1(Here())));
     if (out) out->bytes.append(static_cast<char>(high << 4 | low));
     p_ += 2;
   }

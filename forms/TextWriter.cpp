@@ -9,8 +9,8 @@
 namespace forms {
 
 namespace {
-constexpr int BreakAfter = 64;     // units of a string on one line, in the style that breaks strings
-constexpr int BytesPerLine = 32;   // of binary data
+constexpr int BreakAfter = 64;    // units of a string on one line, in the style that breaks strings
+constexpr int BytesPerLine = 32;  // of binary data
 
 template <class F>
 QByteArray Chars(F&& convert) {
@@ -40,8 +40,9 @@ QByteArray General(long double v, int digits) {
 
 // `digits` significant digits, then zeros up to 18 decimals.
 QByteArray Fixed18(long double v, int digits) {
-  const QByteArray sci =
-      Chars([&](char* b, char* e) { return std::to_chars(b, e, v, std::chars_format::scientific, digits - 1).ptr; });
+  const QByteArray sci = Chars([&](char* b, char* e) {
+    return std::to_chars(b, e, v, std::chars_format::scientific, digits - 1).ptr;
+  });
   const int power = sci.mid(sci.indexOf('e') + 1).toInt();
   const int decimals = std::clamp(digits - 1 - power, 0, 18);
   QByteArray text =

@@ -132,8 +132,8 @@ QByteArray EncodeExtended(long double value) {
 long double DecodeExtended(const char* bytes) {
   std::uint64_t mantissa = 0;
   for (int i = 7; i >= 0; --i) mantissa = mantissa << 8 | static_cast<unsigned char>(bytes[i]);
-  const unsigned head =
-      static_cast<unsigned char>(bytes[8]) | (static_cast<unsigned>(static_cast<unsigned char>(bytes[9])) << 8);
+  const unsigned head = static_cast<unsigned char>(bytes[8]) |
+                        (static_cast<unsigned>(static_cast<unsigned char>(bytes[9])) << 8);
   const int exponent = static_cast<int>(head & 0x7FFFu);
   long double value;
   if (exponent == 0x7FFF)

@@ -42,12 +42,12 @@ struct CollectionItem;
 
 struct Value {
   ValueType type = ValueType::Nil;
-  std::int64_t integer = 0;     // integers; Currency: the value x 10000; QWord: the bits
-  long double real = 0;         // Extended, Single, Double; Date: days since 1899-12-30
-  QByteArray bytes;             // String, LString: bytes of the file's code page; UTF8String; Ident; Binary
-  QString wide;                 // WString, UString
-  std::vector<Value> items;     // List
-  QByteArrayList elements;      // Set
+  std::int64_t integer = 0;  // integers; Currency: the value x 10000; QWord: the bits
+  long double real = 0;      // Extended, Single, Double; Date: days since 1899-12-30
+  QByteArray bytes;          // String, LString: bytes of the file's code page; UTF8String; Ident; Binary
+  QString wide;              // WString, UString
+  std::vector<Value> items;  // List
+  QByteArrayList elements;   // Set
   std::vector<CollectionItem> collection;
 
   static Value Integer(std::int64_t v);
@@ -59,7 +59,8 @@ struct Value {
   static Value Data(QByteArray bytes);
   static Value SetOf(QByteArrayList elements);
 
-  // Makes it an empty value of the type; cheaper than assigning one, for values that are used again and again.
+  // Makes it an empty value of the type; cheaper than assigning one, for values that are used again and
+  // again.
   void Reset(ValueType newType);
 
   bool IsInteger() const;

@@ -1,5 +1,5 @@
-// One undoable step of an open form, in terms of its document. Objects of the document are the identities that
-// outlive components: a deleted component comes back as a new one, made from the same object.
+// One undoable step of an open form, in terms of its document. Objects of the document are the identities
+// that outlive components: a deleted component comes back as a new one, made from the same object.
 #pragma once
 #include "forms/Snapshot.h"
 

@@ -1,7 +1,8 @@
 // An open form: its document, its components, the selection and everything that was done to them.
 //
-// Every change goes through Run as one command. A command knows the documents' nodes before and after, so undo gives
-// back the very bytes, and only lines that changed differ in the file. An action that throws is rolled back.
+// Every change goes through Run as one command. A command knows the documents' nodes before and after, so
+// undo gives back the very bytes, and only lines that changed differ in the file. An action that throws is
+// rolled back.
 #pragma once
 #include <QObject>
 
@@ -36,9 +37,9 @@ class FormSession : public QObject, public IDesigner, public IControlHost {
   bool IsModified() const { return position_ != clean_; }
 
   // --- Commands
-  // Runs `action`, which changes `touched` (and whatever follows from that), as one command. Nothing changed: no
-  // command. Nested calls join the outer command. Whatever the action throws comes out, after everything it did
-  // has been taken back.
+  // Runs `action`, which changes `touched` (and whatever follows from that), as one command. Nothing changed:
+  // no command. Nested calls join the outer command. Whatever the action throws comes out, after everything
+  // it did has been taken back.
   void Run(const QString& text, const std::vector<TComponent*>& touched, const std::function<void()>& action);
   bool CanUndo() const { return position_ > 0; }
   bool CanRedo() const { return position_ < static_cast<int>(commands_.size()); }
@@ -81,6 +82,8 @@ class FormSession : public QObject, public IDesigner, public IControlHost {
   // --- IControlHost
   void ControlChanged(TControl& control) override;
   void BoundsChanging(TControl& control) override;
+  // Undo and redo know every place themselves.
+  bool LayoutFrozen() const override { return applying_; }
 
  signals:
   void FormChanged();       // a property, name or the structure; views read everything anew

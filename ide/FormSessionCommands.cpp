@@ -12,7 +12,8 @@ void FormSession::Capture(TComponent& component) {
   forms::Object* object = map_.ObjectOf(component);
   if (!object || pending_->created.contains(object)) return;
   pending_->index.insert(&component, static_cast<int>(pending_->captured.size()));
-  pending_->captured.push_back({&component, object, component.Name(), forms::TakeSnapshot(component, document_)});
+  pending_->captured.push_back(
+      {&component, object, component.Name(), forms::TakeSnapshot(component, document_)});
   // Whoever refers to it writes its name.
   for (TComponent* holder : component.FreeNotifies())
     if (holder->Owner() == root_.get() || holder == root_.get()) Capture(*holder);
@@ -24,7 +25,8 @@ void FormSession::BoundsChanging(TControl& control) {
   pending_->bounds.emplace_back(&control, control.BoundsRect());
 }
 
-void FormSession::Run(const QString& text, const std::vector<TComponent*>& touched, const std::function<void()>& action) {
+void FormSession::Run(const QString& text, const std::vector<TComponent*>& touched,
+                      const std::function<void()>& action) {
   const bool outer = !pending_;
   if (outer) {
     pending_ = std::make_unique<Pending>();
@@ -48,10 +50,14 @@ std::unique_ptr<Command> FormSession::TakeDifferences() {
   command->selectionBefore = pending_->selectionBefore;
   const auto alive = [this](TComponent* c) { return map_.ObjectOf(*c) != nullptr; };
   // A new component may stand at the address of a deleted one; the object tells them apart.
-  const auto stillThere = [this](const Pending::Captured& c) { return map_.ObjectOf(*c.component) == c.object; };
+  const auto stillThere = [this](const Pending::Captured& c) {
+    return map_.ObjectOf(*c.component) == c.object;
+  };
 
   for (auto& [control, before] : pending_->bounds) {
-    if (pending_->index.contains(control) || !alive(control) || pending_->created.contains(map_.ObjectOf(*control))) continue;
+    if (pending_->index.contains(control) || !alive(control) ||
+        pending_->created.contains(map_.ObjectOf(*control)))
+      continue;
     // Only its place can have changed: the old values are the present ones with the old bounds.
     const QRect now = control->BoundsRect();
     forms::Snapshot values;
@@ -66,7 +72,8 @@ std::unique_ptr<Command> FormSession::TakeDifferences() {
       if (v.path == "Height") v.value = forms::Value::Integer(before.height());
       values.push_back(std::move(v));
     }
-    if (now != before) pending_->captured.push_back({control, map_.ObjectOf(*control), control->Name(), std::move(values)});
+    if (now != before)
+      pending_->captured.push_back({control, map_.ObjectOf(*control), control->Name(), std::move(values)});
   }
 
   for (auto& c : pending_->captured) {
@@ -89,7 +96,8 @@ std::unique_ptr<Command> FormSession::TakeDifferences() {
       }
     }
     forms::PatchObject(*c.object, document_, after, change.values);
-    if (!change.values.empty() || change.nameBefore != change.nameAfter) command->components.push_back(std::move(change));
+    if (!change.values.empty() || change.nameBefore != change.nameAfter)
+      command->components.push_back(std::move(change));
   }
 
   for (const StructureChange& s : command->structure)
@@ -141,8 +149,12 @@ void FormSession::Announce(bool structure) {
   NotifyDesign([this](IDesignNotification& n) { n.ItemsModified(this); });
 }
 
-QString FormSession::UndoText() const { return CanUndo() ? commands_[static_cast<std::size_t>(position_ - 1)]->text : QString(); }
-QString FormSession::RedoText() const { return CanRedo() ? commands_[static_cast<std::size_t>(position_)]->text : QString(); }
+QString FormSession::UndoText() const {
+  return CanUndo() ? commands_[static_cast<std::size_t>(position_ - 1)]->text : QString();
+}
+QString FormSession::RedoText() const {
+  return CanRedo() ? commands_[static_cast<std::size_t>(position_)]->text : QString();
+}
 
 void FormSession::Undo() {
   if (!CanUndo() || pending_) return;
@@ -174,7 +186,8 @@ void FormSession::Apply(Command& command, bool redo) {
   if (redo)
     for (StructureChange& s : command.structure) ApplyStructure(s, true);
   else
-    for (auto it = command.structure.rbegin(); it != command.structure.rend(); ++it) ApplyStructure(*it, false);
+    for (auto it = command.structure.rbegin(); it != command.structure.rend(); ++it)
+      ApplyStructure(*it, false);
   // Names first: values may refer to them.
   for (ComponentChange& c : command.components) {
     if (c.nameBefore == c.nameAfter) continue;

@@ -33,7 +33,8 @@ TComponent* FormSession::CreateComponent(const TClass& cls, TComponent* parent, 
     if (control) {
       auto* holder = As<TWinControl>(parent);
       container = holder ? static_cast<TComponent*>(holder) : root_.get();
-      while (container != root_.get() && !map_.ObjectOf(*container)) container = container->GetParentComponent();
+      while (container != root_.get() && !map_.ObjectOf(*container))
+        container = container->GetParentComponent();
     }
     forms::Object* parentObject = map_.ObjectOf(*container);
     auto object = std::make_unique<forms::Object>();
@@ -54,11 +55,12 @@ TComponent* FormSession::CreateComponent(const TClass& cls, TComponent* parent, 
       control->SetBounds(bounds.left(), bounds.top(), sized ? bounds.width() : control->Width(),
                          sized ? bounds.height() : control->Height());
       if (auto* windowed = As<TWinControl>(control))
-        windowed->SetTabOrder(static_cast<int>(std::count_if(
-            windowed->Parent()->Controls().begin(), windowed->Parent()->Controls().end(),
-            [&](TControl* c) { return c != control && As<TWinControl>(c); })));
+        windowed->SetTabOrder(static_cast<int>(
+            std::count_if(windowed->Parent()->Controls().begin(), windowed->Parent()->Controls().end(),
+                          [&](TControl* c) { return c != control && As<TWinControl>(c); })));
     } else {
-      component->SetDesignInfo(DesignWordOf({static_cast<std::int16_t>(bounds.left()), static_cast<std::int16_t>(bounds.top())}));
+      component->SetDesignInfo(
+          DesignWordOf({static_cast<std::int16_t>(bounds.left()), static_cast<std::int16_t>(bounds.top())}));
     }
     result = component;
     selection_ = {component};
@@ -82,14 +84,16 @@ void FormSession::DeleteComponents(const std::vector<TComponent*>& components) {
     doomed.push_back(c);
   }
   if (doomed.empty()) return;
-  Run(doomed.size() == 1 ? tr("Delete %1").arg(doomed[0]->Name()) : tr("Delete %n components", nullptr, static_cast<int>(doomed.size())),
+  Run(doomed.size() == 1 ? tr("Delete %1").arg(doomed[0]->Name())
+                         : tr("Delete %n components", nullptr, static_cast<int>(doomed.size())),
       {}, [&] {
         for (TComponent* c : doomed) {
           std::vector<TComponent*> all;
           CollectComponents(*c, all);
           for (TComponent* inner : all)
             for (TComponent* holder : inner->FreeNotifies())
-              if (std::find(all.begin(), all.end(), holder) == all.end() && map_.ObjectOf(*holder)) Capture(*holder);
+              if (std::find(all.begin(), all.end(), holder) == all.end() && map_.ObjectOf(*holder))
+                Capture(*holder);
         }
         for (TComponent* c : doomed) {
           StructureChange s;
@@ -110,8 +114,8 @@ void FormSession::Rename(TComponent& component, const QString& name) {
   Run(tr("Rename %1").arg(component.Name()), {&component}, [&] { component.SetName(name); });
 }
 
-// A change that nobody announced beforehand, made by a design window: found by comparing every component with what
-// the document makes of it.
+// A change that nobody announced beforehand, made by a design window: found by comparing every component with
+// what the document makes of it.
 void FormSession::Reconcile() {
   forms::Document copy = forms::Document::Parse(document_.Write(), document_.Style());
   forms::ObjectMap copyMap;
@@ -119,7 +123,8 @@ void FormSession::Reconcile() {
   const auto before = reader.ReadRoot();
   pending_ = std::make_unique<Pending>();
   pending_->selectionBefore = SelectedObjects();
-  std::function<void(const forms::Object&, forms::Object&)> walk = [&](const forms::Object& was, forms::Object& is) {
+  std::function<void(const forms::Object&, forms::Object&)> walk = [&](const forms::Object& was,
+                                                                       forms::Object& is) {
     TComponent* old = copyMap.ComponentOf(was);
     TComponent* now = map_.ComponentOf(is);
     if (old && now) pending_->captured.push_back({now, &is, old->Name(), forms::TakeSnapshot(*old, copy)});

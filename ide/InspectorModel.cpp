@@ -27,7 +27,8 @@ struct InspectorModel::Node {
   }
 };
 
-InspectorModel::InspectorModel(QObject* parent) : QAbstractItemModel(parent), root_(std::make_unique<Node>()) {}
+InspectorModel::InspectorModel(QObject* parent)
+    : QAbstractItemModel(parent), root_(std::make_unique<Node>()) {}
 InspectorModel::~InspectorModel() = default;
 
 void InspectorModel::SetSession(FormSession* session) {
@@ -82,7 +83,8 @@ void InspectorModel::Rebuild() {
         }
         TInstProps props;
         for (int i = 0; i < e->PropCount(); ++i)
-          props.push_back({e->GetComponent(i), e->GetComponent(i)->ClassType().FindProp(e->GetPropInfo().Name)});
+          props.push_back(
+              {e->GetComponent(i), e->GetComponent(i)->ClassType().FindProp(e->GetPropInfo().Name)});
         group->Add(CreatePropertyEditor(session_, std::move(props)));
       }
   }
@@ -124,7 +126,8 @@ QModelIndex InspectorModel::IndexOfPath(const QString& path) const {
     for (int row = 0; row < rowCount(at) && !next.isValid(); ++row) {
       const QModelIndex candidate = index(row, 0, at);
       const Node* node = NodeAt(candidate);
-      if ((node->editor ? node->editor->GetName() : node->category).compare(name, Qt::CaseInsensitive) == 0) next = candidate;
+      if ((node->editor ? node->editor->GetName() : node->category).compare(name, Qt::CaseInsensitive) == 0)
+        next = candidate;
     }
     if (!next.isValid()) return {};
     at = next;
@@ -219,7 +222,8 @@ QVariant InspectorModel::data(const QModelIndex& index, int role) const {
       return !editor->IsDefault();
     case IsBooleanRole: {
       const QStringList values = ValueList(index);
-      return values.size() == 2 && values[0] == QStringLiteral("False") && values[1] == QStringLiteral("True");
+      return values.size() == 2 && values[0] == QStringLiteral("False") &&
+             values[1] == QStringLiteral("True");
     }
     case DescriptionRole:
       return editor->GetPropInfo().Description;

@@ -1,5 +1,5 @@
-// What the object inspector shows: the properties or events of the selected components, as a tree. Column 0 is the
-// name, column 1 the value. Every change goes through the session as one command.
+// What the object inspector shows: the properties or events of the selected components, as a tree. Column 0
+// is the name, column 1 the value. Every change goes through the session as one command.
 #pragma once
 #include <QAbstractItemModel>
 

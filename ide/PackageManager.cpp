@@ -10,8 +10,9 @@
 namespace {
 // What the host's own layers stand for.
 const QStringList& HostPackages() {
-  static const QStringList names{QStringLiteral("rtl220"), QStringLiteral("vcl220"), QStringLiteral("vclx220"),
-                                 QStringLiteral("designide220"), QStringLiteral("dclstd220")};
+  static const QStringList names{QStringLiteral("rtl220"), QStringLiteral("vcl220"),
+                                 QStringLiteral("vclx220"), QStringLiteral("designide220"),
+                                 QStringLiteral("dclstd220")};
   return names;
 }
 
@@ -46,7 +47,8 @@ QStringList PackageManager::DefaultFolders() {
 QString PackageManager::FindFile(const QString& nameOrFile) const {
   if (nameOrFile.contains(u'/')) {
     if (!QFileInfo::exists(nameOrFile))
-      throw Exception(tr("Package %1 cannot be loaded: there is no such file. Check the path.").arg(nameOrFile));
+      throw Exception(
+          tr("Package %1 cannot be loaded: there is no such file. Check the path.").arg(nameOrFile));
     return nameOrFile;
   }
   for (const QString& folder : folders_)
@@ -56,16 +58,18 @@ QString PackageManager::FindFile(const QString& nameOrFile) const {
       // A file of that name that cannot be read is worth telling about.
       if (meta.isEmpty() && file.completeBaseName() == nameOrFile) return file.filePath();
     }
-  throw Exception(tr("Package %1 cannot be loaded: it was not found in %2. Build the project or put the package there.")
-                      .arg(nameOrFile, QDir::cleanPath(folders_.value(0))));
+  throw Exception(
+      tr("Package %1 cannot be loaded: it was not found in %2. Build the project or put the package there.")
+          .arg(nameOrFile, QDir::cleanPath(folders_.value(0))));
 }
 
 TPackageRecord PackageManager::ReadRecord(const QString& nameOrFile) const {
   const QString file = FindFile(nameOrFile);
   const QJsonObject meta = MetaData(file);
   if (!IsDesignPackage(meta))
-    throw Exception(tr("Package %1 cannot be loaded: %2 is not a design-time package or is damaged. Build it again.")
-                        .arg(QFileInfo(nameOrFile).completeBaseName(), QDir::cleanPath(file)));
+    throw Exception(
+        tr("Package %1 cannot be loaded: %2 is not a design-time package or is damaged. Build it again.")
+            .arg(QFileInfo(nameOrFile).completeBaseName(), QDir::cleanPath(file)));
   return RecordOf(meta);
 }
 
@@ -73,7 +77,8 @@ QString PackageManager::MissingRequirement(const TPackageRecord& record) const {
   QStringList provided = HostPackages();
   for (const QString& folder : folders_)
     for (const QFileInfo& file : Libraries(folder))
-      if (const QJsonObject meta = MetaData(file.filePath()); IsLibrary(meta)) provided += RecordOf(meta).Provides;
+      if (const QJsonObject meta = MetaData(file.filePath()); IsLibrary(meta))
+        provided += RecordOf(meta).Provides;
   for (const Loaded& l : loaded_) provided << l.record.Name;
   for (const QString& name : record.Requires)
     if (!provided.contains(name, Qt::CaseInsensitive)) return name;
@@ -92,7 +97,8 @@ void PackageManager::Load(const QString& nameOrFile) {
   const TPackageRecord record = ReadRecord(nameOrFile);
   if (IsLoaded(record.Name)) return;
   if (const QString missing = MissingRequirement(record); !missing.isEmpty())
-    throw Exception(tr("Package %1 cannot be loaded: it requires package %2, which is not there. Install the library that "
+    throw Exception(tr("Package %1 cannot be loaded: it requires package %2, which is not there. Install the "
+                       "library that "
                        "provides %2.")
                         .arg(record.Name, missing));
   auto loader = std::make_unique<QPluginLoader>(FindFile(nameOrFile));
@@ -100,8 +106,9 @@ void PackageManager::Load(const QString& nameOrFile) {
   loader->setLoadHints(QLibrary::PreventUnloadHint | QLibrary::ResolveAllSymbolsHint);
   auto* package = qobject_cast<IDesignPackage*>(loader->instance());
   if (!package)
-    throw Exception(tr("Package %1 cannot be loaded: %2. Build the package again for this version of the designer.")
-                        .arg(record.Name, loader->errorString()));
+    throw Exception(
+        tr("Package %1 cannot be loaded: %2. Build the package again for this version of the designer.")
+            .arg(record.Name, loader->errorString()));
   bool initialised = false;
   try {
     package->Initialize();
@@ -111,14 +118,16 @@ void PackageManager::Load(const QString& nameOrFile) {
     UnregisterPackage(package);
     if (initialised) package->Finalize();
     loader->unload();
-    throw Exception(tr("Package %1 failed to register: %2 Update or remove the package.").arg(record.Name, ExceptionMessage(e)));
+    throw Exception(tr("Package %1 failed to register: %2 Update or remove the package.")
+                        .arg(record.Name, ExceptionMessage(e)));
   }
   loaded_.push_back({record, std::move(loader), package});
   emit ClassesChanged();
 }
 
 void PackageManager::Unload(const QString& name) {
-  const auto it = std::find_if(loaded_.begin(), loaded_.end(), [&](const Loaded& l) { return l.record.Name == name; });
+  const auto it =
+      std::find_if(loaded_.begin(), loaded_.end(), [&](const Loaded& l) { return l.record.Name == name; });
   if (it == loaded_.end()) return;
   UnregisterPackage(it->package);
   emit ClassesChanged();
@@ -127,7 +136,9 @@ void PackageManager::Unload(const QString& name) {
   loaded_.erase(it);
 }
 
-bool PackageManager::IsLoaded(const QString& name) const { return LoadedPackages().contains(name, Qt::CaseInsensitive); }
+bool PackageManager::IsLoaded(const QString& name) const {
+  return LoadedPackages().contains(name, Qt::CaseInsensitive);
+}
 
 QStringList PackageManager::LoadedPackages() const {
   QStringList names;

@@ -15,12 +15,12 @@ class PackageManager : public QObject {
   static QStringList DefaultFolders();
   static QString DefaultPackage() { return QStringLiteral("dclvrxmain220"); }
 
-  // The record of a package, found by name or given as a file, without running its code. Throws Exception with
-  // cause and fix when there is none.
+  // The record of a package, found by name or given as a file, without running its code. Throws Exception
+  // with cause and fix when there is none.
   TPackageRecord ReadRecord(const QString& nameOrFile) const;
-  // Loads the package: its required packages are checked in order, its units initialised, its Register procedures
-  // called. Loading a loaded package does nothing. On failure everything is taken back and Exception tells cause
-  // and fix.
+  // Loads the package: its required packages are checked in order, its units initialised, its Register
+  // procedures called. Loading a loaded package does nothing. On failure everything is taken back and
+  // Exception tells cause and fix.
   void Load(const QString& nameOrFile);
   // Drops the package's registrations and finalises it.
   void Unload(const QString& name);
@@ -28,8 +28,8 @@ class PackageManager : public QObject {
   QStringList LoadedPackages() const;
 
  signals:
-  // Rows of a package came or went; open forms make their components anew. When a package goes, its code is still
-  // there to destroy the old ones.
+  // Rows of a package came or went; open forms make their components anew. When a package goes, its code is
+  // still there to destroy the old ones.
   void ClassesChanged();
 
  private:

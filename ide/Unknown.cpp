@@ -29,13 +29,15 @@ void TUnknownControl::Paint(TCanvas& canvas) {
   QFont font = ToQFont(*Font());
   font.setPixelSize(std::min(font.pixelSize(), 12));
   p.setFont(font);
-  const QString title = Name().isEmpty() ? QString::fromUtf8(streamClass_)
-                                         : QStringLiteral("%1: %2").arg(Name(), QString::fromUtf8(streamClass_));
+  const QString title = Name().isEmpty()
+                            ? QString::fromUtf8(streamClass_)
+                            : QStringLiteral("%1: %2").arg(Name(), QString::fromUtf8(streamClass_));
   const QRect inside = r.adjusted(4, 2, -4, -2);
   p.drawText(inside, Controls().empty() ? Qt::AlignLeft | Qt::AlignVCenter : Qt::AlignLeft | Qt::AlignTop,
              p.fontMetrics().elidedText(title, Qt::ElideRight, inside.width()));
 }
 
 bool IsUnknown(const TComponent& component) {
-  return component.InheritsFrom(TUnknownControl::StaticClass()) || component.InheritsFrom(TUnknownComponent::StaticClass());
+  return component.InheritsFrom(TUnknownControl::StaticClass()) ||
+         component.InheritsFrom(TUnknownComponent::StaticClass());
 }

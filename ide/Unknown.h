@@ -1,5 +1,5 @@
-// Stand-ins for classes that no loaded package has. They keep their place on the surface; everything else about them
-// stays in the document.
+// Stand-ins for classes that no loaded package has. They keep their place on the surface; everything else
+// about them stays in the document.
 #pragma once
 #include "vcl/Control.h"
 

@@ -2,11 +2,12 @@
 
 #include <QSignalBlocker>
 
-#include "designintf/CustomColors.h"
 #include "dclstd/ColorDialog.h"
+#include "designintf/CustomColors.h"
 #include "library_design/ColorDialogs.h"
 
-TVRXColorComboBox::TVRXColorComboBox(TVRXColorStyles styles, QWidget* parent) : QComboBox(parent), styles_(styles) {
+TVRXColorComboBox::TVRXColorComboBox(TVRXColorStyles styles, QWidget* parent)
+    : QComboBox(parent), styles_(styles) {
   setIconSize(QSize(28, 14));
   setMaxVisibleItems(16);
   setSizeAdjustPolicy(AdjustToMinimumContentsLengthWithIcon);
@@ -24,7 +25,9 @@ TVRXColorComboBox::TVRXColorComboBox(TVRXColorStyles styles, QWidget* parent) : 
 void TVRXColorComboBox::Fill() {
   const QSignalBlocker block(this);
   clear();
-  const auto add = [this](TColor c, const QString& name) { addItem(ColorSwatch(c), name, static_cast<uint>(c)); };
+  const auto add = [this](TColor c, const QString& name) {
+    addItem(ColorSwatch(c), name, static_cast<uint>(c));
+  };
   if (styles_.Contains(TVRXColorStyle::csAnyColor)) addItem(tr("Custom..."));
   for (const TColorEntry& e : NamedColors())
     if (styles_.Contains(e.System ? TVRXColorStyle::csSystemColors : TVRXColorStyle::csDefaultColors))
@@ -67,7 +70,9 @@ bool TVRXColorComboBox::ExecuteEnh(QStringList& customColors) {
   TColor color = selected_;
   const bool chosen = ChooseColorEnh(this, color, customColors);
   if (&customColors == &customColors_) Fill();
-  if (chosen) Choose(color);
-  else SetSelected(selected_);
+  if (chosen)
+    Choose(color);
+  else
+    SetSelected(selected_);
   return chosen;
 }

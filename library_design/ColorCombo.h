@@ -10,8 +10,10 @@ using TVRXColorStyles = TSet<TVRXColorStyle>;
 class TVRXColorComboBox : public QComboBox {
   Q_OBJECT
  public:
-  explicit TVRXColorComboBox(TVRXColorStyles styles = {TVRXColorStyle::csDefaultColors, TVRXColorStyle::csSystemColors,
-                                                       TVRXColorStyle::csCustomColors, TVRXColorStyle::csAnyColor},
+  explicit TVRXColorComboBox(TVRXColorStyles styles = {TVRXColorStyle::csDefaultColors,
+                                                       TVRXColorStyle::csSystemColors,
+                                                       TVRXColorStyle::csCustomColors,
+                                                       TVRXColorStyle::csAnyColor},
                              QWidget* parent = nullptr);
 
   TColor Selected() const { return selected_; }
@@ -22,8 +24,8 @@ class TVRXColorComboBox : public QComboBox {
   const QStringList& CustomColors() const { return customColors_; }
   void SetCustomColors(const QStringList& colors);
 
-  // The colour dialog; true when a colour was chosen, which is then selected and reported. Custom colours made
-  // there stay, whatever the answer.
+  // The colour dialog; true when a colour was chosen, which is then selected and reported. Custom colours
+  // made there stay, whatever the answer.
   bool Execute();
   // The extended colour dialog, working on a list of custom colours that may be another combo's.
   bool ExecuteEnh(QStringList& customColors);

@@ -18,7 +18,8 @@ namespace {
 // Old and new colour side by side.
 class Sample : public QWidget {
  public:
-  Sample(const TColor& before, const TColor& now, QWidget* parent) : QWidget(parent), before_(before), now_(now) {
+  Sample(const TColor& before, const TColor& now, QWidget* parent)
+      : QWidget(parent), before_(before), now_(now) {
     setMinimumHeight(40);
   }
 

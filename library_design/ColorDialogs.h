@@ -1,5 +1,6 @@
-// The library's extended colour dialog: named and system colours, custom colours and numbers, with old and new side
-// by side. The list of custom colours ("ColorA=00BBGGRR" ...) keeps what was added even when no colour is chosen.
+// The library's extended colour dialog: named and system colours, custom colours and numbers, with old and
+// new side by side. The list of custom colours ("ColorA=00BBGGRR" ...) keeps what was added even when no
+// colour is chosen.
 #pragma once
 #include <QDialog>
 

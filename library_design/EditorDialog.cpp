@@ -69,7 +69,9 @@ void EditorDialog::AddOk(QPushButton* button) {
   button->setDefault(true);
   connect(button, &QPushButton::clicked, this, &QDialog::accept);
 }
-void EditorDialog::AddCancel(QPushButton* button) { connect(button, &QPushButton::clicked, this, &QDialog::reject); }
+void EditorDialog::AddCancel(QPushButton* button) {
+  connect(button, &QPushButton::clicked, this, &QDialog::reject);
+}
 
 void EditorDialog::SetTabSequence(const std::vector<QWidget*>& widgets) {
   for (std::size_t i = 1; i < widgets.size(); ++i) setTabOrder(widgets[i - 1], widgets[i]);

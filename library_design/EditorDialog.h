@@ -1,5 +1,5 @@
-// The base of the library's editor dialogs: a fixed window with settings on the left and a preview and the buttons
-// on the right. The code that shows a dialog owns it.
+// The base of the library's editor dialogs: a fixed window with settings on the left and a preview and the
+// buttons on the right. The code that shows a dialog owns it.
 #pragma once
 #include <QDialog>
 #include <exception>
@@ -19,8 +19,8 @@ class EditorDialog : public QDialog {
   // The client area is at least `clientSize`, and more where font or language need it.
   EditorDialog(const QString& caption, QSize clientSize, QWidget* parent = nullptr);
 
-  // Shows the dialog and waits. 1 when it was confirmed; closing it in any other way is 2. An exception thrown by
-  // one of the dialog's handlers closes it and comes out here.
+  // Shows the dialog and waits. 1 when it was confirmed; closing it in any other way is 2. An exception
+  // thrown by one of the dialog's handlers closes it and comes out here.
   int ShowModal();
 
   bool activated = false;  // from the first activation on

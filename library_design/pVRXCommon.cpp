@@ -5,7 +5,8 @@
 
 #include "designintf/CustomColors.h"
 
-// The environment sets the options for a process that cannot reach the variable before the packages are loaded.
+// The environment sets the options for a process that cannot reach the variable before the packages are
+// loaded.
 unsigned char ORLENVOKITEDITOROPTIONS =
     static_cast<unsigned char>(qEnvironmentVariableIntValue("ORLENVOKITEDITOROPTIONS"));
 

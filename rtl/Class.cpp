@@ -5,9 +5,7 @@
 #include "rtl/Exceptions.h"
 
 namespace {
-unsigned char Fold(char c) {
-  return static_cast<unsigned char>(c >= 'A' && c <= 'Z' ? c + ('a' - 'A') : c);
-}
+unsigned char Fold(char c) { return static_cast<unsigned char>(c >= 'A' && c <= 'Z' ? c + ('a' - 'A') : c); }
 
 std::uint32_t FoldedHash(QByteArrayView name) {
   std::uint32_t h = 2166136261u;  // FNV-1a
@@ -91,8 +89,8 @@ const TPropInfo* TClass::FindProp(QByteArrayView name) const {
 
 const TPropInfo& TClass::GetProp(QByteArrayView name) const {
   if (const TPropInfo* p = FindProp(name)) return *p;
-  throw EPropertyError(QStringLiteral("%1 has no property \"%2\".")
-                           .arg(QString::fromLatin1(name_), QString::fromUtf8(name)));
+  throw EPropertyError(
+      QStringLiteral("%1 has no property \"%2\".").arg(QString::fromLatin1(name_), QString::fromUtf8(name)));
 }
 
 const TPropInfo* TClass::FindAny(QByteArrayView name) const {
@@ -125,7 +123,8 @@ TPersistent* TClass::NewItem(TCollection* collection) const {
   return makeItem_(collection);
 }
 
-TClassBuilder::TClassBuilder(QByteArray name, const TClass* parent) : name_(std::move(name)), parent_(parent) {}
+TClassBuilder::TClassBuilder(QByteArray name, const TClass* parent)
+    : name_(std::move(name)), parent_(parent) {}
 TClassBuilder::TClassBuilder(TClassBuilder&&) noexcept = default;
 TClassBuilder::~TClassBuilder() = default;
 

@@ -97,21 +97,21 @@ T FromFloat(long double v) {
 template <class Base, class C, class T, class G, class S>
 struct Member;
 
-#define VRX_MEMBER_ACCESS(Base, Wire, ToWire, FromWire)                   \
-  template <class C, class T, class G, class S>                           \
-  struct Member<Base, C, T, G, S> : Base {                                \
-    G getter;                                                             \
-    S setter;                                                             \
-    Member(G g, S s) : getter(g), setter(s) {}                            \
-    Wire Get(const TPersistent& p) const override {                       \
-      return ToWire(std::invoke(getter, static_cast<const C&>(p)));       \
-    }                                                                     \
-    void Set(TPersistent& p, SetArg<Wire> v) const override {             \
-      if constexpr (std::is_member_object_pointer_v<S>)                   \
-        std::invoke(setter, static_cast<C&>(p)) = FromWire(v);            \
-      else if constexpr (!std::same_as<S, std::nullptr_t>)                \
-        std::invoke(setter, static_cast<C&>(p), FromWire(v));             \
-    }                                                                     \
+#define VRX_MEMBER_ACCESS(Base, Wire, ToWire, FromWire)             \
+  template <class C, class T, class G, class S>                     \
+  struct Member<Base, C, T, G, S> : Base {                          \
+    G getter;                                                       \
+    S setter;                                                       \
+    Member(G g, S s) : getter(g), setter(s) {}                      \
+    Wire Get(const TPersistent& p) const override {                 \
+      return ToWire(std::invoke(getter, static_cast<const C&>(p))); \
+    }                                                               \
+    void Set(TPersistent& p, SetArg<Wire> v) const override {       \
+      if constexpr (std::is_member_object_pointer_v<S>)             \
+        std::invoke(setter, static_cast<C&>(p)) = FromWire(v);      \
+      else if constexpr (!std::same_as<S, std::nullptr_t>)          \
+        std::invoke(setter, static_cast<C&>(p), FromWire(v));       \
+    }                                                               \
   };
 
 template <class Wire>
@@ -124,7 +124,7 @@ VRX_MEMBER_ACCESS(TBinaryAccess, QByteArray, QByteArray, QByteArray)
 #undef VRX_MEMBER_ACCESS
 
 template <class T>
-constexpr bool IsObject = std::is_pointer_v<T> && std::derived_from<std::remove_pointer_t<T>, TPersistent>;
+constexpr bool IsObject = std::is_pointer_v<T>&& std::derived_from<std::remove_pointer_t<T>, TPersistent>;
 template <class T>
 constexpr bool IsFloat =
     std::is_floating_point_v<T> || std::same_as<T, TCurrency> || std::same_as<T, TDateTime>;
@@ -197,7 +197,10 @@ class TClassBuilder {
     if constexpr (std::is_abstract_v<C>) {
     } else if constexpr (std::is_base_of_v<TComponent, C>) {
       makeComponent_ = [](TComponent* o) -> TComponent* { return new C(o); };
-    } else if constexpr (requires(TCollection* o) { requires !std::is_default_constructible_v<C>; new C(o); }) {
+    } else if constexpr (requires(TCollection * o) {
+                           requires !std::is_default_constructible_v<C>;
+                           new C(o);
+                         }) {
       makeItem_ = [](TCollection* o) -> TPersistent* { return new C(o); };
     } else if constexpr (std::is_default_constructible_v<C>) {
       makePersistent_ = []() -> TPersistent* { return new C(); };
@@ -219,8 +222,7 @@ class TClassBuilder {
     using Result = rtl_detail::Bare<R>;
   };
   template <class R, class C>
-    requires(!std::is_function_v<R>)
-  struct GetterClass<R C::*> {
+  requires(!std::is_function_v<R>) struct GetterClass<R C::*> {
     using Class = C;
     using Result = rtl_detail::Bare<R>;
   };

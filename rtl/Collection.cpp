@@ -39,7 +39,8 @@ TCollectionItem* TCollection::Add() {
 
 void TCollection::Delete(int index) {
   if (index < 0 || index >= Count())
-    throw EComponentError(QStringLiteral("The collection has no item %1 (it has %2).").arg(index).arg(Count()));
+    throw EComponentError(
+        QStringLiteral("The collection has no item %1 (it has %2).").arg(index).arg(Count()));
   items_.erase(items_.begin() + index);
   Changed();
 }

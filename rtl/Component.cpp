@@ -17,7 +17,8 @@ bool IsValidIdent(QStringView name) {
   if (name.isEmpty() || name.size() > 255) return false;
   const auto letter = [](QChar c) { return c == u'_' || (c.unicode() < 128 && c.isLetter()); };
   const auto digit = [](QChar c) { return c >= u'0' && c <= u'9'; };
-  return letter(name[0]) && std::all_of(name.begin(), name.end(), [&](QChar c) { return letter(c) || digit(c); });
+  return letter(name[0]) &&
+         std::all_of(name.begin(), name.end(), [&](QChar c) { return letter(c) || digit(c); });
 }
 
 const TClass& TComponent::StaticClass() {
@@ -149,7 +150,8 @@ void TComponent::Notification(TComponent* component, TOperation operation) {
   std::erase(freeNotifies_, component);
   if (destroying_) return;
   for (const TPropInfo* prop : ClassType().Properties())
-    if (IsComponentRef(*prop) && GetObjectProp(*this, *prop) == component) SetObjectProp(*this, *prop, nullptr);
+    if (IsComponentRef(*prop) && GetObjectProp(*this, *prop) == component)
+      SetObjectProp(*this, *prop, nullptr);
 }
 
 QString TComponent::MethodName(const TPropInfo& event) const {

@@ -137,6 +137,7 @@ template <class T>
 void SetReference(TComponent& holder, T*& member, T* value) {
   if (member == value) return;
   T* const before = std::exchange(member, value);
-  if (before && !holder.RefersTo(*before) && !before->RefersTo(holder)) before->RemoveFreeNotification(&holder);
+  if (before && !holder.RefersTo(*before) && !before->RefersTo(holder))
+    before->RemoveFreeNotification(&holder);
   if (value) value->FreeNotification(&holder);
 }

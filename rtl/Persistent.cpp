@@ -23,15 +23,16 @@ void TPersistent::Assign(const TPersistent* source) {
   if (source == this) return;
   const TClass& own = ClassType();
   if (!source || !(own.InheritsFrom(source->ClassType()) || source->InheritsFrom(own)))
-    throw EConvertError(QStringLiteral("Cannot assign %1 to %2.")
-                            .arg(source ? QString::fromLatin1(source->ClassType().ClassName())
-                                        : QStringLiteral("nil"),
-                                 QString::fromLatin1(own.ClassName())));
+    throw EConvertError(
+        QStringLiteral("Cannot assign %1 to %2.")
+            .arg(source ? QString::fromLatin1(source->ClassType().ClassName()) : QStringLiteral("nil"),
+                 QString::fromLatin1(own.ClassName())));
   BeginUpdate();
   try {
     const TClass& common = own.InheritsFrom(source->ClassType()) ? source->ClassType() : own;
     for (const TPropInfo* prop : common.Properties())
-      if (const TPropInfo* target = own.FindProp(prop->Name); target && AssignsProperty(*target)) CopyProp(*source, *prop, *this, *target);
+      if (const TPropInfo* target = own.FindProp(prop->Name); target && AssignsProperty(*target))
+        CopyProp(*source, *prop, *this, *target);
   } catch (...) {
     EndUpdate();
     throw;

@@ -64,17 +64,15 @@ class TOwnedPersistent : public TPersistent {
   TPersistent* owner_;
 };
 
-#define VRX_CLASS(Type)                                              \
- public:                                                             \
-  static const TClass& StaticClass();                                \
-  static const TTypeInfo& StaticTypeInfo() {                         \
-    static const TTypeInfo info{.Kind = TTypeKind::tkClass,          \
-                                .Name = #Type,                       \
-                                .ClassType = &Type::StaticClass};    \
-    return info;                                                     \
-  }                                                                  \
-  const TClass& ClassType() const override { return StaticClass(); } \
-                                                                     \
+#define VRX_CLASS(Type)                                                                                      \
+ public:                                                                                                     \
+  static const TClass& StaticClass();                                                                        \
+  static const TTypeInfo& StaticTypeInfo() {                                                                 \
+    static const TTypeInfo info{.Kind = TTypeKind::tkClass, .Name = #Type, .ClassType = &Type::StaticClass}; \
+    return info;                                                                                             \
+  }                                                                                                          \
+  const TClass& ClassType() const override { return StaticClass(); }                                         \
+                                                                                                             \
  private:
 
 // dynamic_cast by another name, kept for reading like the sentence it is.

@@ -13,9 +13,9 @@ QString Path(const TPersistent& instance, const TPropInfo& prop) {
 template <class A>
 const A& AccessAs(const TPersistent& instance, const TPropInfo& prop, const char* wanted) {
   if (const auto* access = dynamic_cast<const A*>(prop.Access.get())) return *access;
-  throw EPropertyError(QStringLiteral("%1 is not %2 property but of type %3.")
-                           .arg(Path(instance, prop), QString::fromLatin1(wanted),
-                                QString::fromLatin1(prop.PropType->Name)));
+  throw EPropertyError(
+      QStringLiteral("%1 is not %2 property but of type %3.")
+          .arg(Path(instance, prop), QString::fromLatin1(wanted), QString::fromLatin1(prop.PropType->Name)));
 }
 
 // The hot kinds skip the dynamic_cast: the kind already says which accessor it is.
@@ -129,7 +129,8 @@ void SetBinaryProp(TPersistent& instance, const TPropInfo& prop, const QByteArra
 bool IsBinary(const TPropInfo& prop) { return prop.PropType->Kind == TTypeKind::tkUnknown; }
 
 bool IsComponentRef(const TPropInfo& prop) {
-  return prop.Kind() == TTypeKind::tkClass && prop.PropType->ClassType().InheritsFrom(TComponent::StaticClass());
+  return prop.Kind() == TTypeKind::tkClass &&
+         prop.PropType->ClassType().InheritsFrom(TComponent::StaticClass());
 }
 
 bool IsDefaultValue(const TPersistent& instance, const TPropInfo& prop) {

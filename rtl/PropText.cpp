@@ -11,8 +11,7 @@ namespace {
 QString Latin(const QByteArray& text) { return QString::fromLatin1(text); }
 
 [[noreturn]] void Refuse(const TTypeInfo& type, const QString& text, const QString& expected) {
-  throw EConvertError(
-      QStringLiteral("\"%1\" is not a valid %2: %3.").arg(text, Latin(type.Name), expected));
+  throw EConvertError(QStringLiteral("\"%1\" is not a valid %2: %3.").arg(text, Latin(type.Name), expected));
 }
 
 QString ExpectedElements(const TTypeInfo& type) {
@@ -35,7 +34,8 @@ std::int64_t SetFromText(const TTypeInfo& type, const QString& text) {
 
 std::int64_t IntegerFromText(const TTypeInfo& type, const QString& text) {
   std::int64_t value = 0;
-  if (const TIntegerConsts* consts = FindIntegerConsts(type); consts && consts->IdentToInt(text.toUtf8(), value))
+  if (const TIntegerConsts* consts = FindIntegerConsts(type);
+      consts && consts->IdentToInt(text.toUtf8(), value))
     return value;
   bool ok = false;
   if (!text.startsWith(u'$'))
@@ -46,7 +46,8 @@ std::int64_t IntegerFromText(const TTypeInfo& type, const QString& text) {
   if (type.MinValue == INT32_MIN && value > INT32_MAX && value <= UINT32_MAX && text.startsWith(u'$'))
     value = static_cast<std::int32_t>(static_cast<std::uint32_t>(value));
   if (value < type.MinValue || value > type.MaxValue)
-    Refuse(type, text, QStringLiteral("values from %1 to %2 are accepted").arg(type.MinValue).arg(type.MaxValue));
+    Refuse(type, text,
+           QStringLiteral("values from %1 to %2 are accepted").arg(type.MinValue).arg(type.MaxValue));
   return value;
 }
 }  // namespace
@@ -144,6 +145,6 @@ void SetPropText(TPersistent& instance, const TPropInfo& prop, const QString& te
     default:
       return SetOrdProp(instance, prop, TextToOrd(*prop.PropType, text));
   }
-  throw EPropertyError(
-      QStringLiteral("%1.%2 cannot be given as text.").arg(Latin(instance.ClassType().ClassName()), Latin(prop.Name)));
+  throw EPropertyError(QStringLiteral("%1.%2 cannot be given as text.")
+                           .arg(Latin(instance.ClassType().ClassName()), Latin(prop.Name)));
 }

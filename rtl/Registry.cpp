@@ -68,7 +68,9 @@ bool TRegistry::KeyExists(const QString& key) const {
   return exists;
 }
 
-bool TRegistry::ValueExists(const QString& name) const { return !Find(settings_->childKeys(), name).isNull(); }
+bool TRegistry::ValueExists(const QString& name) const {
+  return !Find(settings_->childKeys(), name).isNull();
+}
 
 QString TRegistry::ReadString(const QString& name, const QString& otherwise) const {
   const QString key = Find(settings_->childKeys(), name);
@@ -115,11 +117,13 @@ QString SectionKey(const QString& key, const QString& section) { return key + u'
 
 QString TRegIniFile::ReadString(const QString& section, const QString& name, const QString& otherwise) const {
   TRegistry registry;
-  return registry.OpenKey(SectionKey(key_, section), false) ? registry.ReadString(name, otherwise) : otherwise;
+  return registry.OpenKey(SectionKey(key_, section), false) ? registry.ReadString(name, otherwise)
+                                                            : otherwise;
 }
 int TRegIniFile::ReadInteger(const QString& section, const QString& name, int otherwise) const {
   TRegistry registry;
-  return registry.OpenKey(SectionKey(key_, section), false) ? registry.ReadInteger(name, otherwise) : otherwise;
+  return registry.OpenKey(SectionKey(key_, section), false) ? registry.ReadInteger(name, otherwise)
+                                                            : otherwise;
 }
 bool TRegIniFile::ReadBool(const QString& section, const QString& name, bool otherwise) const {
   return ReadInteger(section, name, otherwise ? 1 : 0) != 0;

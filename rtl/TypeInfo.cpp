@@ -2,7 +2,8 @@
 
 int TTypeInfo::IndexOfElement(QByteArrayView name) const {
   for (qsizetype i = 0; i < Elements.size(); ++i)
-    if (Elements[i].size() == name.size() && Elements[i].compare(name, Qt::CaseInsensitive) == 0) return static_cast<int>(i);
+    if (Elements[i].size() == name.size() && Elements[i].compare(name, Qt::CaseInsensitive) == 0)
+      return static_cast<int>(i);
   return -1;
 }
 

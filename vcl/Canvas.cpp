@@ -35,5 +35,7 @@ void TCanvas::TextRect(const QRect& rect, int flags, const QString& text, const 
 
 QSize TextExtent(const QString& text, const TFont& font, int flags, int width) {
   const QFontMetrics metrics(ToQFont(font));
-  return metrics.boundingRect(QRect(0, 0, width > 0 ? width : 32000, 32000), flags | Qt::TextShowMnemonic, text).size();
+  return metrics
+      .boundingRect(QRect(0, 0, width > 0 ? width : 32000, 32000), flags | Qt::TextShowMnemonic, text)
+      .size();
 }

@@ -69,7 +69,8 @@ static std::int64_t Ord(TColor c) { return static_cast<std::int64_t>(c); }
 
 bool IdentToColor(QByteArrayView ident, std::int64_t& value) {
   for (const TColorEntry& e : NamedColors())
-    if (const QByteArrayView name(e.Name); name.size() == ident.size() && name.compare(ident, Qt::CaseInsensitive) == 0) {
+    if (const QByteArrayView name(e.Name);
+        name.size() == ident.size() && name.compare(ident, Qt::CaseInsensitive) == 0) {
       value = Ord(e.Value);
       return true;
     }
@@ -98,7 +99,8 @@ const TTypeInfo& TypeInfoOf<TColor>::Get() {
 QString ColorToString(TColor color) {
   QByteArray ident;
   if (ColorToIdent(Ord(color), ident)) return QString::fromLatin1(ident);
-  return QStringLiteral("$") + QStringLiteral("%1").arg(static_cast<uint>(color), 8, 16, QLatin1Char('0')).toUpper();
+  return QStringLiteral("$") +
+         QStringLiteral("%1").arg(static_cast<uint>(color), 8, 16, QLatin1Char('0')).toUpper();
 }
 
 TColor StringToColor(const QString& input) {
@@ -121,7 +123,8 @@ TColor StringToColor(const QString& input) {
 }
 
 TColor FromQColor(const QColor& c) {
-  return RGBColor(static_cast<unsigned>(c.red()), static_cast<unsigned>(c.green()), static_cast<unsigned>(c.blue()));
+  return RGBColor(static_cast<unsigned>(c.red()), static_cast<unsigned>(c.green()),
+                  static_cast<unsigned>(c.blue()));
 }
 
 TColor ColorToRGB(TColor color) {
@@ -132,20 +135,42 @@ TColor ColorToRGB(TColor color) {
       return FromQColor(p.color(g, r));
     };
     switch (bits & 0xFFu) {
-      case 2: case 13: case 27: case 29: return role(QPalette::Highlight);
-      case 9: case 14: return role(QPalette::HighlightedText);
-      case 5: return role(QPalette::Base);
-      case 6: case 21: return role(QPalette::Shadow);
-      case 7: case 8: return role(QPalette::WindowText);
-      case 16: case 12: return role(QPalette::Dark);
-      case 17: case 19: return role(QPalette::WindowText, QPalette::Disabled);
-      case 18: return role(QPalette::ButtonText);
-      case 20: return role(QPalette::Light);
-      case 22: return role(QPalette::Midlight);
-      case 23: return role(QPalette::ToolTipText);
-      case 24: return role(QPalette::ToolTipBase);
-      case 26: return role(QPalette::Link);
-      default: return role(QPalette::Window);
+      case 2:
+      case 13:
+      case 27:
+      case 29:
+        return role(QPalette::Highlight);
+      case 9:
+      case 14:
+        return role(QPalette::HighlightedText);
+      case 5:
+        return role(QPalette::Base);
+      case 6:
+      case 21:
+        return role(QPalette::Shadow);
+      case 7:
+      case 8:
+        return role(QPalette::WindowText);
+      case 16:
+      case 12:
+        return role(QPalette::Dark);
+      case 17:
+      case 19:
+        return role(QPalette::WindowText, QPalette::Disabled);
+      case 18:
+        return role(QPalette::ButtonText);
+      case 20:
+        return role(QPalette::Light);
+      case 22:
+        return role(QPalette::Midlight);
+      case 23:
+        return role(QPalette::ToolTipText);
+      case 24:
+        return role(QPalette::ToolTipBase);
+      case 26:
+        return role(QPalette::Link);
+      default:
+        return role(QPalette::Window);
     }
   }
   return (bits & 0xFF000000u) == 0x1F000000u || color == clDefault ? clBlack : TColor(bits & 0xFFFFFFu);
@@ -154,5 +179,6 @@ TColor ColorToRGB(TColor color) {
 QColor ToQColor(TColor color) {
   if (color == clNone) return QColor(0, 0, 0, 0);
   const auto rgb = static_cast<std::uint32_t>(ColorToRGB(color));
-  return QColor(static_cast<int>(rgb & 0xFFu), static_cast<int>(rgb >> 8 & 0xFFu), static_cast<int>(rgb >> 16 & 0xFFu));
+  return QColor(static_cast<int>(rgb & 0xFFu), static_cast<int>(rgb >> 8 & 0xFFu),
+                static_cast<int>(rgb >> 16 & 0xFFu));
 }

@@ -11,12 +11,14 @@ struct CursorRow {
   const char* name;
 };
 constexpr std::array Cursors{
-    CursorRow{0, "crDefault"},    CursorRow{-1, "crNone"},      CursorRow{-2, "crArrow"},    CursorRow{-3, "crCross"},
-    CursorRow{-4, "crIBeam"},     CursorRow{-6, "crSizeNESW"},  CursorRow{-7, "crSizeNS"},   CursorRow{-8, "crSizeNWSE"},
-    CursorRow{-9, "crSizeWE"},    CursorRow{-10, "crUpArrow"},  CursorRow{-11, "crHourGlass"}, CursorRow{-12, "crDrag"},
-    CursorRow{-13, "crNoDrop"},   CursorRow{-14, "crHSplit"},   CursorRow{-15, "crVSplit"},  CursorRow{-16, "crMultiDrag"},
-    CursorRow{-17, "crSQLWait"},  CursorRow{-18, "crNo"},       CursorRow{-19, "crAppStart"}, CursorRow{-20, "crHelp"},
-    CursorRow{-21, "crHandPoint"}, CursorRow{-22, "crSizeAll"},
+    CursorRow{0, "crDefault"},     CursorRow{-1, "crNone"},       CursorRow{-2, "crArrow"},
+    CursorRow{-3, "crCross"},      CursorRow{-4, "crIBeam"},      CursorRow{-6, "crSizeNESW"},
+    CursorRow{-7, "crSizeNS"},     CursorRow{-8, "crSizeNWSE"},   CursorRow{-9, "crSizeWE"},
+    CursorRow{-10, "crUpArrow"},   CursorRow{-11, "crHourGlass"}, CursorRow{-12, "crDrag"},
+    CursorRow{-13, "crNoDrop"},    CursorRow{-14, "crHSplit"},    CursorRow{-15, "crVSplit"},
+    CursorRow{-16, "crMultiDrag"}, CursorRow{-17, "crSQLWait"},   CursorRow{-18, "crNo"},
+    CursorRow{-19, "crAppStart"},  CursorRow{-20, "crHelp"},      CursorRow{-21, "crHandPoint"},
+    CursorRow{-22, "crSizeAll"},
 };
 bool IdentToCursor(QByteArrayView ident, std::int64_t& value) {
   for (const CursorRow& row : Cursors)
@@ -110,13 +112,14 @@ TControl::~TControl() {
 void TControl::SetParent(TWinControl* parent) {
   if (parent == parent_) return;
   for (TControl* p = parent; p; p = p->parent_)
-    if (p == this)
-      throw EComponentError(QStringLiteral("%1 cannot be placed inside itself.").arg(Name()));
+    if (p == this) throw EComponentError(QStringLiteral("%1 cannot be placed inside itself.").arg(Name()));
   if (parent_) parent_->RemoveControl(this);
   if (parent) parent->InsertControl(this);
 }
 
-TComponent* TControl::GetParentComponent() const { return parent_ ? parent_ : TComponent::GetParentComponent(); }
+TComponent* TControl::GetParentComponent() const {
+  return parent_ ? parent_ : TComponent::GetParentComponent();
+}
 
 void TControl::SetParentComponent(TComponent* parent) {
   if (auto* container = dynamic_cast<TWinControl*>(parent)) SetParent(container);
@@ -153,7 +156,7 @@ void TControl::SetAutoSize(bool v) {
 }
 
 void TControl::AdjustSize() {
-  if (!autoSize_ || IsLoading()) return;
+  if (!autoSize_ || IsLoading() || IsLayoutFrozen()) return;
   const QSize size = AutoSizeHint();
   SetBounds(left_, top_, size.width(), size.height());
 }
@@ -189,11 +192,25 @@ void TControl::SetParentFont(bool v) {
   ParentLookChanged();
 }
 
+void TControl::SetShowHint(bool v) {
+  if (showHint_ == v) return;
+  showHint_ = v;
+  if (!takingParentLook_) parentShowHint_ = false;
+  Changed();
+}
+
+void TControl::SetParentShowHint(bool v) {
+  if (parentShowHint_ == v) return;
+  parentShowHint_ = v;
+  ParentLookChanged();
+}
+
 void TControl::ParentLookChanged() {
   if (!parent_ || IsLoading()) return;
   takingParentLook_ = true;
   if (parentColor_) SetColor(parent_->Color());
   if (parentFont_) font_->Assign(parent_->Font());
+  if (parentShowHint_) SetShowHint(parent_->ShowHint());
   takingParentLook_ = false;
 }
 
@@ -223,6 +240,11 @@ IControlHost* TControl::FindHost() const {
   for (const TControl* c = this; c; c = c->parent_)
     if (c->host_) return c->host_;
   return nullptr;
+}
+
+bool TControl::IsLayoutFrozen() const {
+  const IControlHost* host = FindHost();
+  return host && host->LayoutFrozen();
 }
 
 void TControl::Invalidate() {

@@ -36,6 +36,9 @@ class IControlHost {
   virtual void ControlChanged(TControl& control) = 0;
   // The control is about to leave these bounds.
   virtual void BoundsChanging(TControl&) {}
+  // While true, controls keep exactly the bounds they are given: nothing is aligned, anchored or sized by its
+  // content.
+  virtual bool LayoutFrozen() const { return false; }
 };
 
 class TControl : public TComponent {
@@ -87,9 +90,9 @@ class TControl : public TComponent {
   const QString& Hint() const { return hint_; }
   void SetHint(const QString& v) { hint_ = v; }
   bool ShowHint() const { return showHint_; }
-  void SetShowHint(bool v) { showHint_ = v; parentShowHint_ = false; }
+  void SetShowHint(bool v);
   bool ParentShowHint() const { return parentShowHint_; }
-  void SetParentShowHint(bool v) { parentShowHint_ = v; }
+  void SetParentShowHint(bool v);
   TCursor Cursor() const { return cursor_; }
   void SetCursor(TCursor v) { cursor_ = v; }
 
@@ -100,6 +103,7 @@ class TControl : public TComponent {
   void Invalidate();
   // The host that shows this control or the form around it; null when nobody does.
   IControlHost* FindHost() const;
+  bool IsLayoutFrozen() const;
   void SetHost(IControlHost* host) { host_ = host; }
 
   // Place in the parent's painting order; 0 is at the back.

@@ -27,13 +27,15 @@ void ControlView::SetShrinkToFit(bool shrink) {
 
 double ControlView::Scale() const {
   if (!shrink_ || !control_ || control_->Width() == 0 || control_->Height() == 0) return 1;
-  return std::min({1.0, static_cast<double>(width()) / control_->Width(), static_cast<double>(height()) / control_->Height()});
+  return std::min({1.0, static_cast<double>(width()) / control_->Width(),
+                   static_cast<double>(height()) / control_->Height()});
 }
 
 // Centred while there is room, else from the left so that the start of a text is never cut.
 QPointF ControlView::Origin() const {
   const QSizeF size = QSizeF(control_->BoundsRect().size()) * Scale();
-  return {std::max(0.0, std::floor((width() - size.width()) / 2)), std::max(0.0, std::floor((height() - size.height()) / 2))};
+  return {std::max(0.0, std::floor((width() - size.width()) / 2)),
+          std::max(0.0, std::floor((height() - size.height()) / 2))};
 }
 
 void ControlView::paintEvent(QPaintEvent*) {
@@ -46,5 +48,7 @@ void ControlView::paintEvent(QPaintEvent*) {
 }
 
 void ControlView::mouseReleaseEvent(QMouseEvent* event) {
-  if (control_ && QRectF(Origin(), QSizeF(control_->BoundsRect().size()) * Scale()).contains(event->position())) emit Clicked();
+  if (control_ &&
+      QRectF(Origin(), QSizeF(control_->BoundsRect().size()) * Scale()).contains(event->position()))
+    emit Clicked();
 }

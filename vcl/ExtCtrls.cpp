@@ -14,9 +14,9 @@ const TClass& TPanel::StaticClass() {
           .Type(width)
           .Published("BorderWidth", &TPanel::BorderWidth, &TPanel::SetBorderWidth, 0)
           .Type(border)
-          .PublishAll("Caption", "Color", "Enabled", "Font", "ParentColor", "ParentFont", "ParentShowHint", "ShowHint",
-                      "TabOrder", "TabStop", "Visible", "OnClick", "OnDblClick", "OnEnter", "OnExit", "OnMouseDown",
-                      "OnMouseMove", "OnMouseUp", "OnResize")
+          .PublishAll("Caption", "Color", "Enabled", "Font", "ParentColor", "ParentFont", "ParentShowHint",
+                      "ShowHint", "TabOrder", "TabStop", "Visible", "OnClick", "OnDblClick", "OnEnter",
+                      "OnExit", "OnMouseDown", "OnMouseMove", "OnMouseUp", "OnResize")
           .ClassDoc(QStringLiteral("A surface that groups other controls.")));
   return cls;
 }
@@ -41,16 +41,16 @@ void TPanel::Paint(TCanvas& canvas) {
   inside.adjust(borderWidth_, borderWidth_, -borderWidth_, -borderWidth_);
   bevel(bevelInner_);
   static constexpr int horizontal[] = {Qt::AlignLeft, Qt::AlignRight, Qt::AlignHCenter};
-  canvas.TextRect(inside, horizontal[static_cast<int>(alignment_)] | Qt::AlignVCenter, Caption(), *Font(), Enabled());
+  canvas.TextRect(inside, horizontal[static_cast<int>(alignment_)] | Qt::AlignVCenter, Caption(), *Font(),
+                  Enabled());
 }
 
 const TClass& TTimer::StaticClass() {
-  static const TClass cls(
-      DescribeClass<TTimer>("TTimer", TComponent::StaticClass())
-          .Published("Enabled", &TTimer::Enabled, &TTimer::SetEnabled, true)
-          .Published("Interval", &TTimer::Interval, &TTimer::SetInterval, 1000)
-          .Doc(QStringLiteral("Milliseconds between two events."))
-          .Event("OnTimer")
-          .ClassDoc(QStringLiteral("Raises an event at regular intervals.")));
+  static const TClass cls(DescribeClass<TTimer>("TTimer", TComponent::StaticClass())
+                              .Published("Enabled", &TTimer::Enabled, &TTimer::SetEnabled, true)
+                              .Published("Interval", &TTimer::Interval, &TTimer::SetInterval, 1000)
+                              .Doc(QStringLiteral("Milliseconds between two events."))
+                              .Event("OnTimer")
+                              .ClassDoc(QStringLiteral("Raises an event at regular intervals.")));
   return cls;
 }

@@ -11,15 +11,34 @@ class TPanel : public TWinControl {
   explicit TPanel(TComponent* owner);
 
   TAlignment Alignment() const { return alignment_; }
-  void SetAlignment(TAlignment v) { alignment_ = v; Changed(); }
+  void SetAlignment(TAlignment v) {
+    alignment_ = v;
+    Changed();
+  }
   TBevelCut BevelInner() const { return bevelInner_; }
-  void SetBevelInner(TBevelCut v) { bevelInner_ = v; Realign(); Changed(); }
+  void SetBevelInner(TBevelCut v) {
+    bevelInner_ = v;
+    Realign();
+    Changed();
+  }
   TBevelCut BevelOuter() const { return bevelOuter_; }
-  void SetBevelOuter(TBevelCut v) { bevelOuter_ = v; Realign(); Changed(); }
+  void SetBevelOuter(TBevelCut v) {
+    bevelOuter_ = v;
+    Realign();
+    Changed();
+  }
   int BevelWidth() const { return bevelWidth_; }
-  void SetBevelWidth(int v) { bevelWidth_ = v; Realign(); Changed(); }
+  void SetBevelWidth(int v) {
+    bevelWidth_ = v;
+    Realign();
+    Changed();
+  }
   int BorderWidth() const { return borderWidth_; }
-  void SetBorderWidth(int v) { borderWidth_ = v; Realign(); Changed(); }
+  void SetBorderWidth(int v) {
+    borderWidth_ = v;
+    Realign();
+    Changed();
+  }
 
   bool AcceptsControls() const override { return true; }
   void Paint(TCanvas& canvas) override;

@@ -11,12 +11,15 @@ struct CharsetRow {
   const char* name;
 };
 constexpr std::array Charsets{
-    CharsetRow{0, "ANSI_CHARSET"},        CharsetRow{1, "DEFAULT_CHARSET"},     CharsetRow{2, "SYMBOL_CHARSET"},
-    CharsetRow{77, "MAC_CHARSET"},        CharsetRow{128, "SHIFTJIS_CHARSET"},  CharsetRow{129, "HANGEUL_CHARSET"},
-    CharsetRow{130, "JOHAB_CHARSET"},     CharsetRow{134, "GB2312_CHARSET"},    CharsetRow{136, "CHINESEBIG5_CHARSET"},
-    CharsetRow{161, "GREEK_CHARSET"},     CharsetRow{162, "TURKISH_CHARSET"},   CharsetRow{163, "VIETNAMESE_CHARSET"},
-    CharsetRow{177, "HEBREW_CHARSET"},    CharsetRow{178, "ARABIC_CHARSET"},    CharsetRow{186, "BALTIC_CHARSET"},
-    CharsetRow{204, "RUSSIAN_CHARSET"},   CharsetRow{222, "THAI_CHARSET"},      CharsetRow{238, "EASTEUROPE_CHARSET"},
+    CharsetRow{0, "ANSI_CHARSET"},          CharsetRow{1, "DEFAULT_CHARSET"},
+    CharsetRow{2, "SYMBOL_CHARSET"},        CharsetRow{77, "MAC_CHARSET"},
+    CharsetRow{128, "SHIFTJIS_CHARSET"},    CharsetRow{129, "HANGEUL_CHARSET"},
+    CharsetRow{130, "JOHAB_CHARSET"},       CharsetRow{134, "GB2312_CHARSET"},
+    CharsetRow{136, "CHINESEBIG5_CHARSET"}, CharsetRow{161, "GREEK_CHARSET"},
+    CharsetRow{162, "TURKISH_CHARSET"},     CharsetRow{163, "VIETNAMESE_CHARSET"},
+    CharsetRow{177, "HEBREW_CHARSET"},      CharsetRow{178, "ARABIC_CHARSET"},
+    CharsetRow{186, "BALTIC_CHARSET"},      CharsetRow{204, "RUSSIAN_CHARSET"},
+    CharsetRow{222, "THAI_CHARSET"},        CharsetRow{238, "EASTEUROPE_CHARSET"},
     CharsetRow{255, "OEM_CHARSET"},
 };
 bool IdentToCharset(QByteArrayView ident, std::int64_t& value) {

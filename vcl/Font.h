@@ -8,7 +8,13 @@
 enum class TFontCharset : std::uint8_t {};
 enum class TFontPitch : std::uint8_t { fpDefault, fpVariable, fpFixed };
 enum class TFontQuality : std::uint8_t {
-  fqDefault, fqDraft, fqProof, fqNonAntialiased, fqAntialiased, fqClearType, fqClearTypeNatural
+  fqDefault,
+  fqDraft,
+  fqProof,
+  fqNonAntialiased,
+  fqAntialiased,
+  fqClearType,
+  fqClearTypeNatural
 };
 enum class TFontStyle : std::uint8_t { fsBold, fsItalic, fsUnderline, fsStrikeOut };
 using TFontStyles = TSet<TFontStyle>;

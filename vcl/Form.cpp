@@ -9,8 +9,9 @@ const TClass& TForm::StaticClass() {
           .Published("Height", &TForm::FrameHeight, &TForm::SetFrameHeight)
           .StoredIf(&TForm::FrameSizeStored)
           .Doc(QStringLiteral("Height with the frame."))
-          .Published("BorderIcons", &TForm::BorderIcons, &TForm::SetBorderIcons,
-                     TBorderIcons{TBorderIcon::biSystemMenu, TBorderIcon::biMinimize, TBorderIcon::biMaximize})
+          .Published(
+              "BorderIcons", &TForm::BorderIcons, &TForm::SetBorderIcons,
+              TBorderIcons{TBorderIcon::biSystemMenu, TBorderIcon::biMinimize, TBorderIcon::biMaximize})
           .Doc(QStringLiteral("Buttons of the title bar."))
           .Published("BorderStyle", &TForm::BorderStyle, &TForm::SetBorderStyle, TFormBorderStyle::bsSizeable)
           .Publish("Caption")
@@ -55,16 +56,23 @@ TForm::TForm(TComponent* owner) : TWinControl(owner) {
             240 + FrameMargins().top() + FrameMargins().bottom());
 }
 
-QByteArray TForm::StreamClassName() const { return streamClass_.isEmpty() ? ClassType().ClassName() : streamClass_; }
+QByteArray TForm::StreamClassName() const {
+  return streamClass_.isEmpty() ? ClassType().ClassName() : streamClass_;
+}
 
 QMargins TForm::FrameMargins() const {
   if (borderStyle_ == TFormBorderStyle::bsNone) return {};
-  const bool small = borderStyle_ == TFormBorderStyle::bsToolWindow || borderStyle_ == TFormBorderStyle::bsSizeToolWin;
+  const bool small =
+      borderStyle_ == TFormBorderStyle::bsToolWindow || borderStyle_ == TFormBorderStyle::bsSizeToolWin;
   return {8, small ? 25 : 31, 8, 8};
 }
 
-int TForm::ClientWidth() const { return std::max(0, Width() - FrameMargins().left() - FrameMargins().right()); }
-int TForm::ClientHeight() const { return std::max(0, Height() - FrameMargins().top() - FrameMargins().bottom()); }
+int TForm::ClientWidth() const {
+  return std::max(0, Width() - FrameMargins().left() - FrameMargins().right());
+}
+int TForm::ClientHeight() const {
+  return std::max(0, Height() - FrameMargins().top() - FrameMargins().bottom());
+}
 
 void TForm::SetClientWidth(int v) {
   if (IsLoading()) loadClientWidth_ = v;
@@ -76,7 +84,8 @@ void TForm::SetClientHeight(int v) {
 }
 void TForm::SetBounds(int left, int top, int width, int height) {
   const QMargins m = IsLoading() ? QMargins() : FrameMargins();
-  TWinControl::SetBounds(left, top, std::max(width, m.left() + m.right()), std::max(height, m.top() + m.bottom()));
+  TWinControl::SetBounds(left, top, std::max(width, m.left() + m.right()),
+                         std::max(height, m.top() + m.bottom()));
 }
 void TForm::SetFrameWidth(int v) {
   if (IsLoading()) frameSizeStored_ = true;

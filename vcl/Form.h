@@ -1,14 +1,27 @@
-// Forms: the root of what is designed. A form's children live in its client area; the frame around it is drawn
-// with fixed measures, so that sizes in form files mean the same everywhere.
+// Forms: the root of what is designed. A form's children live in its client area; the frame around it is
+// drawn with fixed measures, so that sizes in form files mean the same everywhere.
 #pragma once
 #include "vcl/Control.h"
 
 enum class TBorderIcon : std::uint8_t { biSystemMenu, biMinimize, biMaximize, biHelp };
 using TBorderIcons = TSet<TBorderIcon>;
-enum class TFormBorderStyle : std::uint8_t { bsNone, bsSingle, bsSizeable, bsDialog, bsToolWindow, bsSizeToolWin };
+enum class TFormBorderStyle : std::uint8_t {
+  bsNone,
+  bsSingle,
+  bsSizeable,
+  bsDialog,
+  bsToolWindow,
+  bsSizeToolWin
+};
 enum class TFormStyle : std::uint8_t { fsNormal, fsMDIChild, fsMDIForm, fsStayOnTop };
 enum class TPosition : std::uint8_t {
-  poDesigned, poDefault, poDefaultPosOnly, poDefaultSizeOnly, poScreenCenter, poDesktopCenter, poMainFormCenter,
+  poDesigned,
+  poDefault,
+  poDefaultPosOnly,
+  poDefaultSizeOnly,
+  poScreenCenter,
+  poDesktopCenter,
+  poMainFormCenter,
   poOwnerFormCenter
 };
 enum class TWindowState : std::uint8_t { wsNormal, wsMinimized, wsMaximized };
@@ -39,7 +52,10 @@ class TForm : public TWinControl {
   void SetClientHeight(int v);
 
   TBorderIcons BorderIcons() const { return borderIcons_; }
-  void SetBorderIcons(TBorderIcons v) { borderIcons_ = v; Changed(); }
+  void SetBorderIcons(TBorderIcons v) {
+    borderIcons_ = v;
+    Changed();
+  }
   TFormBorderStyle BorderStyle() const { return borderStyle_; }
   // Keeps the client area.
   void SetBorderStyle(TFormBorderStyle v);
@@ -63,7 +79,9 @@ class TForm : public TWinControl {
   void Loaded() override;
 
  private:
-  bool ClientSizeStored() const { return !frameSizeStored_ || loadClientWidth_ >= 0 || loadClientHeight_ >= 0; }
+  bool ClientSizeStored() const {
+    return !frameSizeStored_ || loadClientWidth_ >= 0 || loadClientHeight_ >= 0;
+  }
   bool FrameSizeStored() const { return frameSizeStored_; }
   int FrameWidth() const { return Width(); }
   int FrameHeight() const { return Height(); }

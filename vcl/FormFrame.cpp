@@ -32,7 +32,8 @@ void PaintTitleBar(const TForm& form, QPainter& p, bool active) {
   p.setBrush(Qt::NoBrush);
   const TBorderIcons icons = form.BorderIcons();
   if (icons.Contains(TBorderIcon::biSystemMenu)) {
-    const bool full = form.BorderStyle() != TFormBorderStyle::bsDialog && form.BorderStyle() != TFormBorderStyle::bsToolWindow &&
+    const bool full = form.BorderStyle() != TFormBorderStyle::bsDialog &&
+                      form.BorderStyle() != TFormBorderStyle::bsToolWindow &&
                       form.BorderStyle() != TFormBorderStyle::bsSizeToolWin;
     const auto next = [&] {
       x -= 28;
@@ -52,15 +53,17 @@ void PaintTitleBar(const TForm& form, QPainter& p, bool active) {
   p.setFont(font);
   p.setPen(ink);
   const QRect text(row.left() + 2, 0, std::max(0, x - row.left() - 6), m.top());
-  p.drawText(text, Qt::AlignVCenter | Qt::AlignLeft, p.fontMetrics().elidedText(form.Caption(), Qt::ElideRight, text.width()));
+  p.drawText(text, Qt::AlignVCenter | Qt::AlignLeft,
+             p.fontMetrics().elidedText(form.Caption(), Qt::ElideRight, text.width()));
 }
 }  // namespace
 
 void PaintFormWindow(TForm& form, QPainter& painter, bool active) {
   painter.save();
   if (form.BorderStyle() != TFormBorderStyle::bsNone) {
-    painter.fillRect(QRect(0, form.FrameMargins().top(), form.Width(), form.Height() - form.FrameMargins().top()),
-                     QApplication::palette().color(QPalette::Window));
+    painter.fillRect(
+        QRect(0, form.FrameMargins().top(), form.Width(), form.Height() - form.FrameMargins().top()),
+        QApplication::palette().color(QPalette::Window));
     PaintTitleBar(form, painter, active);
   }
   painter.restore();

@@ -16,15 +16,19 @@ class WidgetPrompts : public IPrompts {
     const auto button = QMessageBox::question(parent, QObject::tr("Save changes"), text,
                                               QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel,
                                               QMessageBox::Save);
-    return button == QMessageBox::Save ? TAnswer::Yes : button == QMessageBox::Discard ? TAnswer::No : TAnswer::Cancel;
+    return button == QMessageBox::Save      ? TAnswer::Yes
+           : button == QMessageBox::Discard ? TAnswer::No
+                                            : TAnswer::Cancel;
   }
   bool Confirm(QWidget* parent, const QString& title, const QString& text) override {
     return QMessageBox::question(parent, title, text) == QMessageBox::Yes;
   }
-  QString OpenFileName(QWidget* parent, const QString& title, const QString& folder, const QString& filter) override {
+  QString OpenFileName(QWidget* parent, const QString& title, const QString& folder,
+                       const QString& filter) override {
     return QFileDialog::getOpenFileName(parent, title, folder, filter);
   }
-  QString SaveFileName(QWidget* parent, const QString& title, const QString& file, const QString& filter) override {
+  QString SaveFileName(QWidget* parent, const QString& title, const QString& file,
+                       const QString& filter) override {
     return QFileDialog::getSaveFileName(parent, title, file, filter);
   }
 };

@@ -15,8 +15,10 @@ class IPrompts {
   virtual TAnswer AskToSave(QWidget* parent, const QString& text) = 0;
   virtual bool Confirm(QWidget* parent, const QString& title, const QString& text) = 0;
   // Empty when cancelled.
-  virtual QString OpenFileName(QWidget* parent, const QString& title, const QString& folder, const QString& filter) = 0;
-  virtual QString SaveFileName(QWidget* parent, const QString& title, const QString& file, const QString& filter) = 0;
+  virtual QString OpenFileName(QWidget* parent, const QString& title, const QString& folder,
+                               const QString& filter) = 0;
+  virtual QString SaveFileName(QWidget* parent, const QString& title, const QString& file,
+                               const QString& filter) = 0;
 };
 
 // The current one; message boxes and the platform's file dialogs unless replaced.

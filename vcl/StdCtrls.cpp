@@ -54,19 +54,21 @@ void TLabel::Paint(TCanvas& canvas) {
 }
 
 namespace {
-constexpr std::array<const char*, 12> ModalResults{"mrNone", "mrOk",     "mrCancel", "mrAbort", "mrRetry",   "mrIgnore",
-                                                   "mrYes",  "mrNo",     "mrClose",  "mrHelp",  "mrTryAgain", "mrContinue"};
+constexpr std::array<const char*, 12> ModalResults{"mrNone",  "mrOk",     "mrCancel",   "mrAbort",
+                                                   "mrRetry", "mrIgnore", "mrYes",      "mrNo",
+                                                   "mrClose", "mrHelp",   "mrTryAgain", "mrContinue"};
 const TTypeInfo& ModalResultType() {
   static const TTypeInfo& info = []() -> const TTypeInfo& {
     static const TTypeInfo type = OrdinalType("TModalResult", INT32_MIN, INT32_MAX);
-    RegisterIntegerConsts(type, {[](QByteArrayView ident, std::int64_t& value) {
-                                   for (std::size_t i = 0; i < ModalResults.size(); ++i)
-                                     if (ident.compare(QByteArrayView(ModalResults[i]), Qt::CaseInsensitive) == 0)
-                                       return value = static_cast<std::int64_t>(i), true;
-                                   return false;
-                                 },
-                                 // Form files hold the number; the name is only an input aid.
-                                 [](std::int64_t, QByteArray&) { return false; }});
+    RegisterIntegerConsts(type,
+                          {[](QByteArrayView ident, std::int64_t& value) {
+                             for (std::size_t i = 0; i < ModalResults.size(); ++i)
+                               if (ident.compare(QByteArrayView(ModalResults[i]), Qt::CaseInsensitive) == 0)
+                                 return value = static_cast<std::int64_t>(i), true;
+                             return false;
+                           },
+                           // Form files hold the number; the name is only an input aid.
+                           [](std::int64_t, QByteArray&) { return false; }});
     return type;
   }();
   return info;
@@ -74,23 +76,22 @@ const TTypeInfo& ModalResultType() {
 }  // namespace
 
 const TClass& TButton::StaticClass() {
-  static const TClass cls(
-      DescribeClass<TButton>("TButton", TWinControl::StaticClass())
-          .PublishAll("Align", "Anchors")
-          .Published("Cancel", &TButton::Cancel, &TButton::SetCancel, false)
-          .Doc(QStringLiteral("Escape presses this button."))
-          .Publish("Caption")
-          .Published("Default", &TButton::Default, &TButton::SetDefault, false)
-          .Doc(QStringLiteral("Enter presses this button."))
-          .PublishAll("Enabled", "Font")
-          .Published("ModalResult", &TButton::ModalResult, &TButton::SetModalResult, 0)
-          .Type(ModalResultType())
-          .Doc(QStringLiteral("What a modal form returns when the button is pressed."))
-          .PublishAll("ParentFont", "ParentShowHint", "ShowHint", "TabOrder")
-          .Publish("TabStop", true)
-          .PublishAll("Visible", "OnClick", "OnEnter", "OnExit", "OnKeyDown", "OnKeyPress", "OnKeyUp", "OnMouseDown",
-                      "OnMouseMove", "OnMouseUp")
-          .ClassDoc(QStringLiteral("A push button.")));
+  static const TClass cls(DescribeClass<TButton>("TButton", TWinControl::StaticClass())
+                              .PublishAll("Align", "Anchors")
+                              .Published("Cancel", &TButton::Cancel, &TButton::SetCancel, false)
+                              .Doc(QStringLiteral("Escape presses this button."))
+                              .Publish("Caption")
+                              .Published("Default", &TButton::Default, &TButton::SetDefault, false)
+                              .Doc(QStringLiteral("Enter presses this button."))
+                              .PublishAll("Enabled", "Font")
+                              .Published("ModalResult", &TButton::ModalResult, &TButton::SetModalResult, 0)
+                              .Type(ModalResultType())
+                              .Doc(QStringLiteral("What a modal form returns when the button is pressed."))
+                              .PublishAll("ParentFont", "ParentShowHint", "ShowHint", "TabOrder")
+                              .Publish("TabStop", true)
+                              .PublishAll("Visible", "OnClick", "OnEnter", "OnExit", "OnKeyDown",
+                                          "OnKeyPress", "OnKeyUp", "OnMouseDown", "OnMouseMove", "OnMouseUp")
+                              .ClassDoc(QStringLiteral("A push button.")));
   return cls;
 }
 

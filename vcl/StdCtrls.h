@@ -11,17 +11,34 @@ class TLabel : public TGraphicControl {
   explicit TLabel(TComponent* owner);
 
   TAlignment Alignment() const { return alignment_; }
-  void SetAlignment(TAlignment v) { alignment_ = v; Changed(); }
+  void SetAlignment(TAlignment v) {
+    alignment_ = v;
+    Changed();
+  }
   TWinControl* FocusControl() const { return focusControl_; }
   void SetFocusControl(TWinControl* v) { SetReference(*this, focusControl_, v); }
   TTextLayout Layout() const { return layout_; }
-  void SetLayout(TTextLayout v) { layout_ = v; Changed(); }
+  void SetLayout(TTextLayout v) {
+    layout_ = v;
+    Changed();
+  }
   bool ShowAccelChar() const { return showAccelChar_; }
-  void SetShowAccelChar(bool v) { showAccelChar_ = v; AdjustSize(); Changed(); }
+  void SetShowAccelChar(bool v) {
+    showAccelChar_ = v;
+    AdjustSize();
+    Changed();
+  }
   bool Transparent() const { return transparent_; }
-  void SetTransparent(bool v) { transparent_ = v; Changed(); }
+  void SetTransparent(bool v) {
+    transparent_ = v;
+    Changed();
+  }
   bool WordWrap() const { return wordWrap_; }
-  void SetWordWrap(bool v) { wordWrap_ = v; AdjustSize(); Changed(); }
+  void SetWordWrap(bool v) {
+    wordWrap_ = v;
+    AdjustSize();
+    Changed();
+  }
 
   void Paint(TCanvas& canvas) override;
 
@@ -44,7 +61,10 @@ class TButton : public TWinControl {
   bool Cancel() const { return cancel_; }
   void SetCancel(bool v) { cancel_ = v; }
   bool Default() const { return default_; }
-  void SetDefault(bool v) { default_ = v; Changed(); }
+  void SetDefault(bool v) {
+    default_ = v;
+    Changed();
+  }
   int ModalResult() const { return modalResult_; }
   void SetModalResult(int v) { modalResult_ = v; }
 

@@ -8,7 +8,8 @@
 
 namespace {
 struct Shades {
-  const char *window, *text, *base, *alternate, *button, *mid, *dark, *light, *disabled, *highlight, *tip, *link;
+  const char *window, *text, *base, *alternate, *button, *mid, *dark, *light, *disabled, *highlight, *tip,
+      *link;
 };
 constexpr Shades LightShades{"#f3f4f6", "#1e2227", "#ffffff", "#f7f8fa", "#eceef1", "#c3c8cf",
                              "#9aa1ab", "#ffffff", "#9aa1ab", "#2f6fd6", "#fffbe6", "#1d5dc4"};
@@ -17,7 +18,9 @@ constexpr Shades DarkShades{"#2b2e33", "#e4e6ea", "#1f2226", "#26292e", "#363a40
 
 QPalette Palette(const Shades& s) {
   QPalette p;
-  const auto set = [&](QPalette::ColorRole role, const char* colour) { p.setColor(role, QColor(QLatin1StringView(colour))); };
+  const auto set = [&](QPalette::ColorRole role, const char* colour) {
+    p.setColor(role, QColor(QLatin1StringView(colour)));
+  };
   set(QPalette::Window, s.window);
   set(QPalette::WindowText, s.text);
   set(QPalette::Base, s.base);
@@ -42,23 +45,27 @@ QPalette Palette(const Shades& s) {
   p.setColor(QPalette::Disabled, QPalette::Highlight, QColor(QLatin1StringView(s.mid)));
   return p;
 }
-// Fusion draws the outlines of boxes and fields darker than the window, which disappears in a dark theme. There they
-// are drawn as if the window were lighter.
+// Fusion draws the outlines of boxes and fields darker than the window, which disappears in a dark theme.
+// There they are drawn as if the window were lighter.
 class OutlinedFusion : public QProxyStyle {
  public:
   OutlinedFusion() : QProxyStyle(QStringLiteral("Fusion")) { setObjectName(QStringLiteral("orlenvo")); }
 
-  void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter, const QWidget* widget) const override {
-    const bool outlined = element == PE_IndicatorCheckBox || element == PE_IndicatorRadioButton || element == PE_FrameLineEdit;
+  void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
+                     const QWidget* widget) const override {
+    const bool outlined =
+        element == PE_IndicatorCheckBox || element == PE_IndicatorRadioButton || element == PE_FrameLineEdit;
     const Lightened with(outlined ? option : nullptr);
     QProxyStyle::drawPrimitive(element, option, painter, widget);
   }
-  void drawComplexControl(ComplexControl control, const QStyleOptionComplex* option, QPainter* painter, const QWidget* widget) const override {
+  void drawComplexControl(ComplexControl control, const QStyleOptionComplex* option, QPainter* painter,
+                          const QWidget* widget) const override {
     const Lightened with(control == CC_SpinBox || control == CC_ComboBox ? option : nullptr);
     QProxyStyle::drawComplexControl(control, option, painter, widget);
   }
   // Drop-down lists open below their field and keep to the number of rows they are given.
-  int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget, QStyleHintReturn* data) const override {
+  int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                QStyleHintReturn* data) const override {
     return hint == SH_ComboBox_Popup ? 0 : QProxyStyle::styleHint(hint, option, widget, data);
   }
 
@@ -67,7 +74,9 @@ class OutlinedFusion : public QProxyStyle {
   class Lightened {
    public:
     explicit Lightened(const QStyleOption* option)
-        : option_(option && option->palette.color(QPalette::Window).lightness() < 128 ? const_cast<QStyleOption*>(option) : nullptr) {
+        : option_(option && option->palette.color(QPalette::Window).lightness() < 128
+                      ? const_cast<QStyleOption*>(option)
+                      : nullptr) {
       if (!option_) return;
       before_ = option_->palette;
       option_->palette.setColor(QPalette::Window, before_.color(QPalette::Window).lighter(230));
@@ -88,7 +97,8 @@ class OutlinedFusion : public QProxyStyle {
 void ApplyTheme(TTheme theme) {
   if (!QApplication::style() || QApplication::style()->objectName() != QStringLiteral("orlenvo"))
     QApplication::setStyle(new OutlinedFusion);
-  if (theme != TTheme::System) QApplication::setPalette(Palette(theme == TTheme::Dark ? DarkShades : LightShades));
+  if (theme != TTheme::System)
+    QApplication::setPalette(Palette(theme == TTheme::Dark ? DarkShades : LightShades));
 }
 
 bool IsDarkTheme() {

@@ -2,18 +2,17 @@
 
 const TClass& TWinControl::StaticClass() {
   static const TTypeInfo tabOrder = OrdinalType("TTabOrder", -1, INT16_MAX);
-  static const TClass cls(
-      DescribeClass<TWinControl>("TWinControl", TControl::StaticClass())
-          .Declared("TabOrder", &TWinControl::TabOrder, &TWinControl::SetTabOrder, -1)
-          .Type(tabOrder)
-          .Doc(QStringLiteral("Place in the order in which Tab visits the controls."))
-          .Declared("TabStop", &TWinControl::TabStop, &TWinControl::SetTabStop, false)
-          .Doc(QStringLiteral("Whether Tab stops here."))
-          .DeclaredEvent("OnEnter")
-          .DeclaredEvent("OnExit")
-          .DeclaredEvent("OnKeyDown", "TKeyEvent")
-          .DeclaredEvent("OnKeyPress", "TKeyPressEvent")
-          .DeclaredEvent("OnKeyUp", "TKeyEvent"));
+  static const TClass cls(DescribeClass<TWinControl>("TWinControl", TControl::StaticClass())
+                              .Declared("TabOrder", &TWinControl::TabOrder, &TWinControl::SetTabOrder, -1)
+                              .Type(tabOrder)
+                              .Doc(QStringLiteral("Place in the order in which Tab visits the controls."))
+                              .Declared("TabStop", &TWinControl::TabStop, &TWinControl::SetTabStop, false)
+                              .Doc(QStringLiteral("Whether Tab stops here."))
+                              .DeclaredEvent("OnEnter")
+                              .DeclaredEvent("OnExit")
+                              .DeclaredEvent("OnKeyDown", "TKeyEvent")
+                              .DeclaredEvent("OnKeyPress", "TKeyPressEvent")
+                              .DeclaredEvent("OnKeyUp", "TKeyEvent"));
   return cls;
 }
 
@@ -69,7 +68,7 @@ void TWinControl::SetBounds(int left, int top, int width, int height) {
   const QSize before = ClientRect().size();
   TControl::SetBounds(left, top, width, height);
   const QSize after = ClientRect().size();
-  if (before == after || IsLoading()) return;
+  if (before == after || IsLoading() || IsLayoutFrozen()) return;
   const int dx = after.width() - before.width();
   const int dy = after.height() - before.height();
   for (TControl* c : controls_) {
@@ -77,12 +76,16 @@ void TWinControl::SetBounds(int left, int top, int width, int height) {
     QRect r = c->BoundsRect();
     const TAnchors a = c->Anchors();
     if (a.Contains(TAnchorKind::akRight)) {
-      if (!a.Contains(TAnchorKind::akLeft)) r.translate(dx, 0);
-      else r.setWidth(r.width() + dx);
+      if (!a.Contains(TAnchorKind::akLeft))
+        r.translate(dx, 0);
+      else
+        r.setWidth(r.width() + dx);
     }
     if (a.Contains(TAnchorKind::akBottom)) {
-      if (!a.Contains(TAnchorKind::akTop)) r.translate(0, dy);
-      else r.setHeight(r.height() + dy);
+      if (!a.Contains(TAnchorKind::akTop))
+        r.translate(0, dy);
+      else
+        r.setHeight(r.height() + dy);
     }
     c->SetBounds(r.left(), r.top(), r.width(), r.height());
   }
@@ -90,33 +93,52 @@ void TWinControl::SetBounds(int left, int top, int width, int height) {
 }
 
 void TWinControl::Realign() {
-  if (realigning_ || IsLoading() || IsDestroying()) return;
+  if (realigning_ || IsLoading() || IsDestroying() || IsLayoutFrozen()) return;
   realigning_ = true;
   QRect left = ClientRect();
-  for (const TAlign pass : {TAlign::alTop, TAlign::alBottom, TAlign::alLeft, TAlign::alRight, TAlign::alClient}) {
+  for (const TAlign pass :
+       {TAlign::alTop, TAlign::alBottom, TAlign::alLeft, TAlign::alRight, TAlign::alClient}) {
     std::vector<TControl*> row;
     for (TControl* c : controls_)
       if (c->Align() == pass && (c->Visible() || IsDesigning())) row.push_back(c);
     // Who is nearer to the edge stays nearer.
     std::stable_sort(row.begin(), row.end(), [pass](const TControl* a, const TControl* b) {
       switch (pass) {
-        case TAlign::alTop: return a->Top() < b->Top();
-        case TAlign::alBottom: return a->Top() + a->Height() > b->Top() + b->Height();
-        case TAlign::alLeft: return a->Left() < b->Left();
-        case TAlign::alRight: return a->Left() + a->Width() > b->Left() + b->Width();
-        default: return false;
+        case TAlign::alTop:
+          return a->Top() < b->Top();
+        case TAlign::alBottom:
+          return a->Top() + a->Height() > b->Top() + b->Height();
+        case TAlign::alLeft:
+          return a->Left() < b->Left();
+        case TAlign::alRight:
+          return a->Left() + a->Width() > b->Left() + b->Width();
+        default:
+          return false;
       }
     });
     for (TControl* c : row) {
       QRect r = left;
       switch (pass) {
-        case TAlign::alTop: r.setHeight(c->Height()); left.setTop(r.top() + r.height()); break;
-        case TAlign::alBottom: r.setTop(left.top() + left.height() - c->Height()); r.setHeight(c->Height());
-          left.setHeight(left.height() - c->Height()); break;
-        case TAlign::alLeft: r.setWidth(c->Width()); left.setLeft(r.left() + r.width()); break;
-        case TAlign::alRight: r.setLeft(left.left() + left.width() - c->Width()); r.setWidth(c->Width());
-          left.setWidth(left.width() - c->Width()); break;
-        default: break;
+        case TAlign::alTop:
+          r.setHeight(c->Height());
+          left.setTop(r.top() + r.height());
+          break;
+        case TAlign::alBottom:
+          r.setTop(left.top() + left.height() - c->Height());
+          r.setHeight(c->Height());
+          left.setHeight(left.height() - c->Height());
+          break;
+        case TAlign::alLeft:
+          r.setWidth(c->Width());
+          left.setLeft(r.left() + r.width());
+          break;
+        case TAlign::alRight:
+          r.setLeft(left.left() + left.width() - c->Width());
+          r.setWidth(c->Width());
+          left.setWidth(left.width() - c->Width());
+          break;
+        default:
+          break;
       }
       c->SetBounds(r.left(), r.top(), std::max(r.width(), 0), std::max(r.height(), 0));
     }
@@ -132,8 +154,8 @@ void TWinControl::Loaded() {
 TControl* TWinControl::ControlAt(QPoint point) const {
   const auto hit = [&](bool windowed) -> TControl* {
     for (auto it = controls_.rbegin(); it != controls_.rend(); ++it)
-      if ((dynamic_cast<TWinControl*>(*it) != nullptr) == windowed && ((*it)->Visible() || (*it)->IsDesigning()) &&
-          (*it)->BoundsRect().contains(point))
+      if ((dynamic_cast<TWinControl*>(*it) != nullptr) == windowed &&
+          ((*it)->Visible() || (*it)->IsDesigning()) && (*it)->BoundsRect().contains(point))
         return *it;
     return nullptr;
   };

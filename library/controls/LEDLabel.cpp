@@ -9,7 +9,8 @@ const TClass& TVRXLEDCustomLabel::StaticClass() {
                     TAlignment::taLeftJustify)
           .Declared("LED", &TVRXLEDCustomLabel::LED, &TVRXLEDCustomLabel::SetLED)
           .Doc(QStringLiteral("Size and colours of the segment letters."))
-          .Declared("Transparent", &TVRXLEDCustomLabel::Transparent, &TVRXLEDCustomLabel::SetTransparent, false)
+          .Declared("Transparent", &TVRXLEDCustomLabel::Transparent, &TVRXLEDCustomLabel::SetTransparent,
+                    false)
           .Doc(QStringLiteral("Lets what is behind the letters show through.")));
   return cls;
 }
@@ -21,9 +22,8 @@ const TClass& TVRXLEDLabel::StaticClass() {
           .Publish("AutoSize", true)
           .PublishAll("Caption", "Color", "Enabled", "LED")
           .Publish("ParentColor", false)
-          .PublishAll("ParentShowHint", "ShowHint", "Transparent",
-                      "Visible", "OnClick", "OnDblClick", "OnMouseDown", "OnMouseEnter", "OnMouseLeave",
-                      "OnMouseMove", "OnMouseUp")
+          .PublishAll("ParentShowHint", "ShowHint", "Transparent", "Visible", "OnClick", "OnDblClick",
+                      "OnMouseDown", "OnMouseEnter", "OnMouseLeave", "OnMouseMove", "OnMouseUp")
           .ClassDoc(QStringLiteral("A text in segment letters, as on a machine's display.")));
   return cls;
 }
@@ -71,5 +71,6 @@ void TVRXLEDCustomLabel::Paint(TCanvas& canvas) {
   int x = margin;
   if (alignment_ == TAlignment::taCenter) x = room / 2;
   if (alignment_ == TAlignment::taRightJustify) x = room - margin;
-  DrawLEDText(canvas, {x, (Height() - text.height() + 1) / 2}, Caption(), *led_, Enabled() || !led_->DisabledDigits());
+  DrawLEDText(canvas, {x, (Height() - text.height() + 1) / 2}, Caption(), *led_,
+              Enabled() || !led_->DisabledDigits());
 }

@@ -1,7 +1,7 @@
 // Segment letters: which segments a character lights, and where they are.
 //
-// Digits and plain signs are seven-segment cells, letters and the other signs fourteen-segment cells, points and
-// colons narrow cells. A character's cell does not depend on its neighbours.
+// Digits and plain signs are seven-segment cells, letters and the other signs fourteen-segment cells, points
+// and colons narrow cells. A character's cell does not depend on its neighbours.
 #pragma once
 #include <QPolygonF>
 

@@ -9,5 +9,6 @@ struct TVRXLightColors {
   TColor Active;
   TColor Inactive;
 };
-// The pair of colours that a scheme lights up and goes dark with. Ordinals outside the enumeration give lcNone's.
+// The pair of colours that a scheme lights up and goes dark with. Ordinals outside the enumeration give
+// lcNone's.
 TVRXLightColors VRXGetLightColors(TVRXLightColor color);

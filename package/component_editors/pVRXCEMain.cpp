@@ -3,7 +3,9 @@
 #include "library/controls/LEDLabel.h"
 #include "package/property_editors/pVRXCPGetMain.h"
 
-QString TVRXLEDLabelComponentEditor::GetVerb(int index) const { return index == 0 ? QStringLiteral("LED") : QString(); }
+QString TVRXLEDLabelComponentEditor::GetVerb(int index) const {
+  return index == 0 ? QStringLiteral("LED") : QString();
+}
 
 void TVRXLEDLabelComponentEditor::ExecuteVerb(int index) {
   if (index != 0) return;

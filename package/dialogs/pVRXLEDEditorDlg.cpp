@@ -7,7 +7,8 @@
 #include "library_design/pVRXCommon.h"
 
 TVRXLEDEditorDlg::TVRXLEDEditorDlg(QWidget* owner)
-    : EditorDialog(QStringLiteral("LED Editor"), QSize(533, 318), owner), test(std::make_unique<TVRXLEDLabel>(nullptr)) {
+    : EditorDialog(QStringLiteral("LED Editor"), QSize(533, 318), owner),
+      test(std::make_unique<TVRXLEDLabel>(nullptr)) {
   Build();
   FormCreate();
 }
@@ -32,16 +33,19 @@ void TVRXLEDEditorDlg::Build() {
     button->setFixedSize(23, 23);
     button->setAccessibleName(tr("Choose a colour"));
   }
-  pred = named(new QComboBox(this), "pred", "Defines the color for both \r\nactive and inactive LED-letters.");
+  pred =
+      named(new QComboBox(this), "pred", "Defines the color for both \r\nactive and inactive LED-letters.");
   pred->setMaxVisibleItems(4);
   auto* note = new QLabel(
-      QStringLiteral("Predefined Color-Settings for Active-/InActiveColor\r\ndon't appear in the Combobox."), this);
+      QStringLiteral("Predefined Color-Settings for Active-/InActiveColor\r\ndon't appear in the Combobox."),
+      this);
   note->setObjectName(QStringLiteral("note"));
   note->setForegroundRole(QPalette::PlaceholderText);
   note->setWordWrap(true);
-  chk = named(new QCheckBox(QStringLiteral(" &DisabledDigits"), this), "chk",
-              "If DisabledDigits is set to true and\r\nEnabled to false, the LED will be \r\ndisplayed with the "
-              "InactiveColor.");
+  chk = named(
+      new QCheckBox(QStringLiteral(" &DisabledDigits"), this), "chk",
+      "If DisabledDigits is set to true and\r\nEnabled to false, the LED will be \r\ndisplayed with the "
+      "InactiveColor.");
 
   AddRow(QStringLiteral("&HorzSize:"), edhs);
   AddRow(QStringLiteral("&VertSize:"), edvs);
@@ -83,7 +87,8 @@ bool TVRXLEDEditorDlg::NeedTheme(const QWidget& control) const { return &control
 void TVRXLEDEditorDlg::FormCreate() {
   {
     const QSignalBlocker quiet(pred);
-    for (const QByteArray& name : TypeInfoOf<TVRXLightColor>::Get().Elements) pred->addItem(QString::fromLatin1(name));
+    for (const QByteArray& name : TypeInfoOf<TVRXLightColor>::Get().Elements)
+      pred->addItem(QString::fromLatin1(name));
     pred->setCurrentIndex(-1);
   }
   QStringList colors;

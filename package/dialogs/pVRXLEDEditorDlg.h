@@ -1,5 +1,5 @@
-// Edits the look of segment letters on a live preview. The dialog never touches the edited component: whoever shows
-// it copies the value into the preview's LED and takes it from there when ShowModal returns 1.
+// Edits the look of segment letters on a live preview. The dialog never touches the edited component: whoever
+// shows it copies the value into the preview's LED and takes it from there when ShowModal returns 1.
 #pragma once
 #include "library/controls/LEDLabel.h"
 #include "library_design/ColorCombo.h"

@@ -4,7 +4,9 @@
 
 using enum TPropertyAttribute;
 
-TPropertyAttributes TVRXLEDProperty::GetAttributes() const { return {paSubProperties, paDialog, paMultiSelect}; }
+TPropertyAttributes TVRXLEDProperty::GetAttributes() const {
+  return {paSubProperties, paDialog, paMultiSelect};
+}
 
 // The dialog's preview is the copy that is edited.
 void TVRXLEDProperty::Edit() {

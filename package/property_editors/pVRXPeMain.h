@@ -1,5 +1,5 @@
-// Property editors of the library's value objects. Each edits a copy in a modal dialog and writes it back only when
-// the user confirms.
+// Property editors of the library's value objects. Each edits a copy in a modal dialog and writes it back
+// only when the user confirms.
 #pragma once
 #include "designintf/BasicEditors.h"
 

@@ -6,8 +6,8 @@
 #include "package/registration/VRX_RegMain.h"
 
 namespace {
-// In the order of the description record. Units that have neither start-up work nor a Register procedure are here
-// by name, because the table is what the IDE is told the package contains.
+// In the order of the description record. Units that have neither start-up work nor a Register procedure are
+// here by name, because the table is what the IDE is told the package contains.
 const std::vector<TUnitEntry>& Units() {
   static const std::vector<TUnitEntry> units{
       {"dclvrxmain220"},

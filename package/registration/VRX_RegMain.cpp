@@ -15,7 +15,8 @@ const std::vector<TPageRow>& PageRows() {
   return rows;
 }
 
-void RegisterPages(const std::vector<TPageRow>& rows, const std::function<const TClass*(const QByteArray&)>& find,
+void RegisterPages(const std::vector<TPageRow>& rows,
+                   const std::function<const TClass*(const QByteArray&)>& find,
                    const std::function<void(const QByteArray&)>& editors) {
   for (const TPageRow& row : rows) {
     // Asked at each call: the option belongs to the moment of registration.
@@ -37,7 +38,8 @@ void VRX_RegMain::Register() {
   RegisterPages(PageRows(), FindLibraryClass, [](const QByteArray& page) {
     if (page == "VRX Ext") {
       RegisterPropertyEditor(TVRXLED::StaticTypeInfo(), nullptr, {}, VRX_PROPERTY_EDITOR(TVRXLEDProperty));
-      RegisterComponentEditor(TVRXLEDCustomLabel::StaticClass(), VRX_COMPONENT_EDITOR(TVRXLEDLabelComponentEditor));
+      RegisterComponentEditor(TVRXLEDCustomLabel::StaticClass(),
+                              VRX_COMPONENT_EDITOR(TVRXLEDLabelComponentEditor));
     }
   });
 }

@@ -19,7 +19,8 @@ struct TPageRow {
   QByteArrayList Classes;
 };
 const std::vector<TPageRow>& PageRows();
-// Makes the calls in order. Classes that `find` does not know are left out, and so is a row without any; after each
-// row `editors` is called with the row's name.
-void RegisterPages(const std::vector<TPageRow>& rows, const std::function<const TClass*(const QByteArray&)>& find,
+// Makes the calls in order. Classes that `find` does not know are left out, and so is a row without any;
+// after each row `editors` is called with the row's name.
+void RegisterPages(const std::vector<TPageRow>& rows,
+                   const std::function<const TClass*(const QByteArray&)>& find,
                    const std::function<void(const QByteArray&)>& editors);

@@ -189,7 +189,8 @@ class DesignerTest : public testing::Test {
   QString file_;
   FakePrompts prompts_;
   QStringList expectedWarnings_;
-  PackageManager packages_{{QStringLiteral(VRX_BINARY_DIR "/tests/packages"), QStringLiteral(VRX_BINARY_DIR "/lib")}};
+  PackageManager packages_{
+      {QStringLiteral(VRX_BINARY_DIR "/tests/packages"), QStringLiteral(VRX_BINARY_DIR "/lib")}};
   std::unique_ptr<MainWindow> window_;
 };
 

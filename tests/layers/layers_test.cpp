@@ -31,7 +31,8 @@ class Layer : public testing::TestWithParam<const char*> {};
 TEST_P(Layer, IncludesOnlyWhatLiesBelow) {
   const QString folder = QString::fromLatin1(GetParam());
   const QString root = QStringLiteral(VRX_SOURCE_DIR);
-  const QRegularExpression include(QStringLiteral("^\\s*#include \"([a-z_]+)/"), QRegularExpression::MultilineOption);
+  const QRegularExpression include(QStringLiteral("^\\s*#include \"([a-z_]+)/"),
+                                   QRegularExpression::MultilineOption);
   int files = 0;
   QDirIterator it(root + u'/' + folder, {QStringLiteral("*.h"), QStringLiteral("*.cpp")}, QDir::Files,
                   QDirIterator::Subdirectories);
@@ -43,12 +44,13 @@ TEST_P(Layer, IncludesOnlyWhatLiesBelow) {
     while (matches.hasNext()) {
       const QString target = matches.next().captured(1);
       if (target == folder || !(Allowed().contains(target) || target == QStringLiteral("tests"))) continue;
-      EXPECT_TRUE(Allowed()[folder].contains(target)) << qPrintable(file.fileName()) << " includes " << qPrintable(target);
+      EXPECT_TRUE(Allowed()[folder].contains(target))
+          << qPrintable(file.fileName()) << " includes " << qPrintable(target);
     }
   }
   EXPECT_GT(files, 1);
 }
 
 INSTANTIATE_TEST_SUITE_P(Every, Layer,
-                         testing::Values("rtl", "forms", "vcl", "designintf", "dclstd", "library", "library_design",
-                                         "package", "ide", "designer", "cli"));
+                         testing::Values("rtl", "forms", "vcl", "designintf", "dclstd", "library",
+                                         "library_design", "package", "ide", "designer", "cli"));

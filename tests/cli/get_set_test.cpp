@@ -1,0 +1,158 @@
+#include "CliTest.h"
+
+namespace {
+using GetCli = Cli;
+class SetCli : public Cli {
+ protected:
+  // The lines of the form that differ after the assignments; nothing else may.
+  QStringList Changed(const QStringList& assignments) {
+    const QString file = Write("set.dfm", SmallForm);
+    const Result r = Vrx(QStringList{L("set"), file} + assignments);
+    EXPECT_EQ(r.code, 0) << r.err.toStdString();
+    EXPECT_EQ(r.out + r.err, QString());
+    QStringList before = QString::fromUtf8(SmallForm).split(u'\n'), changed;
+    for (const QString& line : QString::fromUtf8(Read(file)).split(u'\n'))
+      if (!before.removeOne(line)) changed << line.trimmed();
+    return changed;
+  }
+  Result Refused(const QStringList& assignments) {
+    const QString file = Write("set.dfm", SmallForm);
+    const Result r = Vrx(QStringList{L("set"), file} + assignments);
+    EXPECT_EQ(r.code, 1) << assignments.join(u' ').toStdString();
+    EXPECT_EQ(r.out, QString());
+    EXPECT_EQ(Read(file), SmallForm);
+    return r;
+  }
+};
+}  // namespace
+
+TEST_F(GetCli, PrintsValuesAsFormText) {
+  const QString file = Write("a.dfm", SmallForm);
+  const std::pair<const char*, const char*> rows[] = {{"Go.Caption", "'Go'"},
+                                                      {"go.left", "8"},
+                                                      {"Form1.Color", "clBtnFace"},
+                                                      {"Form1.Font.Style", "[]"},
+                                                      {"Go.OnClick", "GoClick"},
+                                                      {"Note.FocusControl", "Go"},
+                                                      {"Go.Visible", "True"},
+                                                      {"Go.Anchors", "[akLeft, akTop]"},
+                                                      {"Form1.Font.Charset", "DEFAULT_CHARSET"},
+                                                      {"Note.Alignment", "taLeftJustify"},
+                                                      {"Go.OnEnter", "nil"},
+                                                      {"Go.ModalResult", "0"}};
+  for (const auto& [path, value] : rows) {
+    const Result r = Vrx({L("get"), file, L(path)});
+    EXPECT_EQ(r.code, 0) << path << r.err.toStdString();
+    EXPECT_EQ(r.out, L(value) + u'\n') << path;
+    EXPECT_EQ(r.err, QString());
+  }
+}
+
+TEST_F(GetCli, PrintsAWholeComponentOrAPart) {
+  const QString file = Write("a.dfm", SmallForm);
+  EXPECT_EQ(Vrx({L("get"), file, L("Note")}).out,
+            L("Left = 8\nTop = 60\nWidth = 30\nHeight = 15\nCaption = 'Note'\nFocusControl = Go\n"));
+  const Result font = Vrx({L("get"), file, L("Form1.Font")});
+  EXPECT_TRUE(font.Lines().contains(L("Font.Name = 'Tahoma'")));
+  EXPECT_TRUE(font.Lines().contains(L("Font.Height = -12")));
+  for (const QString& line : font.Lines()) EXPECT_TRUE(line.startsWith(L("Font.")));
+}
+
+TEST_F(GetCli, SaysWhatIsNotThere) {
+  const QString file = Write("a.dfm", SmallForm);
+  for (const char* what : {"Nobody", "Nobody.Left", "Go.Wings", "Go.Left.More", "Go.Font.Wings"}) {
+    const Result r = Vrx({L("get"), file, L(what)});
+    EXPECT_EQ(r.code, 1) << what;
+    EXPECT_EQ(r.out, QString());
+    EXPECT_TRUE(r.err.startsWith(L("vrx get: "))) << r.err.toStdString();
+  }
+  EXPECT_EQ(Vrx({L("get"), Path("missing.dfm"), L("Go")}).code, 1);
+  EXPECT_EQ(Vrx({L("get"), file}).code, 2);
+  EXPECT_EQ(Vrx({L("get"), file, L("Go"), L("Note")}).code, 2);
+}
+
+TEST_F(SetCli, WritesEveryKindOfValue) {
+  EXPECT_EQ(Changed({L("Go.Left=99")}), QStringList{L("Left = 99")});
+  EXPECT_EQ(Changed({L("Go.Caption='It''s on'")}), QStringList{L("Caption = 'It'#39's on'")});
+  EXPECT_EQ(Changed({L("Form1.Color=clRed")}), QStringList{L("Color = clRed")});
+  EXPECT_EQ(Changed({L("Form1.Color=255")}), QStringList{L("Color = clRed")});
+  EXPECT_EQ(Changed({L("Go.Enabled=False")}), QStringList{L("Enabled = False")});
+  EXPECT_EQ(Changed({L("Form1.BorderIcons=[biSystemMenu, biHelp]")}),
+            QStringList{L("BorderIcons = [biSystemMenu, biHelp]")});
+  EXPECT_EQ(Changed({L("Form1.Position=poScreenCenter")}), QStringList{L("Position = poScreenCenter")});
+  EXPECT_EQ(Changed({L("Go.OnEnter=GoEnter")}), QStringList{L("OnEnter = GoEnter")});
+  const QStringList font = Changed({L("Go.Font.Name='Arial'")});
+  EXPECT_TRUE(font.contains(L("Font.Name = 'Arial'"))) << font.join(u'|').toStdString();
+  EXPECT_TRUE(font.contains(L("ParentFont = False"))) << font.join(u'|').toStdString();
+  EXPECT_EQ(Changed({L(" go . left = 12 ")}), QStringList{L("Left = 12")});
+  EXPECT_EQ(Changed({L("Go.Caption='a=b.c'")}), QStringList{L("Caption = 'a=b.c'")});
+}
+
+TEST_F(SetCli, TheSameValueChangesNoByte) {
+  EXPECT_EQ(Changed({L("Go.Left=8"), L("Form1.Color=clBtnFace")}), QStringList());
+}
+
+TEST_F(SetCli, ADefaultLeavesTheFile) {
+  const QString file = Write("a.dfm", SmallForm);
+  EXPECT_EQ(Vrx({L("set"), file, L("Note.FocusControl=nil")}).code, 0);
+  EXPECT_EQ(Read(file), QByteArray(SmallForm).replace("    FocusControl = Go\n", ""));
+}
+
+TEST_F(SetCli, SeveralAssignmentsAreMadeTogetherOrNotAtAll) {
+  EXPECT_EQ(Changed({L("Go.Left=10"), L("Note.Top=70"), L("Go.Width=80")}),
+            (QStringList{L("Left = 10"), L("Width = 80"), L("Top = 70")}));
+  Refused({L("Go.Left=10"), L("Go.Enabled=perhaps")});
+  Refused({L("Go.Left=10"), L("Nobody.Left=1")});
+  Refused({L("Go.Left=10"), L("Go.Wings=1")});
+}
+
+TEST_F(SetCli, ARefusedValueSaysWhy) {
+  const std::pair<const char*, const char*> rows[] = {{"Go.Left=many", "Left"},
+                                                      {"Go.Left='8'", "Left"},
+                                                      {"Go.Left=99999999999", "99999999999"},
+                                                      {"Go.Enabled=2", "Enabled"},
+                                                      {"Form1.Position=poNowhere", "TPosition"},
+                                                      {"Form1.Font.Style=[fsLoud]", "fsLoud"},
+                                                      {"Go.Caption=Go on", "'...'"},
+                                                      {"Note.FocusControl=Note", "FocusControl"},
+                                                      {"Note.FocusControl=Gone", "Gone"},
+                                                      {"Form1.Font=1", "Font"},
+                                                      {"Go.Wings=1", "Wings"},
+                                                      {"Nobody.Left=1", "Nobody"},
+                                                      {"Go.Caption=12", "string"}};
+  for (const auto& [assignment, word] : rows) {
+    const Result r = Refused({L(assignment)});
+    EXPECT_TRUE(r.err.startsWith(L("vrx set: "))) << r.err.toStdString();
+    EXPECT_TRUE(r.err.contains(L(word))) << assignment << ": " << r.err.toStdString();
+  }
+}
+
+TEST_F(SetCli, AnotherFileTakesTheResult) {
+  const QString file = Write("a.dfm", SmallForm), out = Path("out.dfm");
+  EXPECT_EQ(Vrx({L("set"), file, L("-o"), out, L("Go.Left=9")}).code, 0);
+  EXPECT_EQ(Read(file), SmallForm);
+  EXPECT_EQ(Read(out),
+            QByteArray(SmallForm).replace("    Left = 8\n    Top = 16", "    Left = 9\n    Top = 16"));
+  EXPECT_EQ(Vrx({L("set"), file, L("-o"), out, L("Go.Left=x y")}).code, 1);
+  EXPECT_TRUE(Read(out).contains("Left = 9"));
+}
+
+TEST_F(SetCli, ABinaryFormStaysBinary) {
+  const QString text = Write("a.dfm", SmallForm), binary = Path("b.dfm");
+  ASSERT_EQ(Vrx({L("convert"), text, binary, L("--to"), L("binary")}).code, 0);
+  EXPECT_EQ(Vrx({L("set"), binary, L("Go.Left=9")}).code, 0);
+  EXPECT_TRUE(Read(binary).startsWith("TPF0"));
+  EXPECT_EQ(Vrx({L("get"), binary, L("Go.Left")}).out, L("9\n"));
+}
+
+TEST_F(SetCli, WrongUseIsTwo) {
+  const QString file = Write("a.dfm", SmallForm);
+  for (const QStringList& arguments : {QStringList{file},
+                                       {file, L("Go.Left")},
+                                       {file, L("Left=1")},
+                                       {file, L("=1")},
+                                       {file, L("Go.Left=1"), L("-o")}}) {
+    EXPECT_EQ(Vrx(QStringList{L("set")} + arguments).code, 2) << arguments.join(u' ').toStdString();
+    EXPECT_EQ(Read(file), SmallForm);
+  }
+}

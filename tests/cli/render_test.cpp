@@ -1,0 +1,100 @@
+#include <QImage>
+
+#include "CliTest.h"
+
+namespace {
+using RenderCli = Cli;
+using RealCli = Cli;
+}  // namespace
+
+TEST_F(RenderCli, ThePictureIsTheFormTimesTheScale) {
+  const QString form = Write("a.dfm",
+                             "object Form1: TForm1\n  BorderStyle = bsNone\n  ClientHeight = 100\n  "
+                             "ClientWidth = 200\n  Color = clRed\nend\n");
+  const QString png = Path("a.png");
+  const Result r = Vrx({L("render"), form, L("-o"), png});
+  EXPECT_EQ(r.code, 0) << r.err.toStdString();
+  EXPECT_EQ(r.out + r.err, QString());
+  EXPECT_TRUE(Read(png).startsWith("\x89PNG"));
+  EXPECT_EQ(QImage(png).size(), QSize(200, 100));
+  EXPECT_EQ(QImage(png).pixelColor(100, 50), QColor(Qt::red));
+  EXPECT_EQ(Vrx({L("render"), form, L("-o"), png, L("--scale"), L("2.5")}).code, 0);
+  EXPECT_EQ(QImage(png).size(), QSize(500, 250));
+  EXPECT_EQ(Vrx({L("render"), form, L("-o"), png, L("--scale=0.1")}).code, 0);
+  EXPECT_EQ(QImage(png).size(), QSize(20, 10));
+}
+
+TEST_F(RenderCli, TheThemesDiffer) {
+  const QString light = Path("light.png"), dark = Path("dark.png"), usual = Path("usual.png");
+  EXPECT_EQ(Vrx({L("render"), Example(), L("-o"), light, L("--theme"), L("light")}).code, 0);
+  EXPECT_EQ(Vrx({L("render"), Example(), L("-o"), dark, L("--theme"), L("dark")}).code, 0);
+  EXPECT_EQ(Vrx({L("render"), Example(), L("-o"), usual}).code, 0);
+  EXPECT_EQ(QImage(light).size(), QImage(dark).size());
+  EXPECT_NE(QImage(light), QImage(dark));
+  EXPECT_EQ(QImage(light), QImage(usual));
+}
+
+TEST_F(RenderCli, BadArgumentsMakeNoPicture) {
+  const QString png = Path("a.png");
+  for (const QStringList& arguments : {QStringList{Example()},
+                                       {L("-o"), png},
+                                       {Example(), L("-o"), png, L("--scale"), L("0")},
+                                       {Example(), L("-o"), png, L("--scale"), L("big")},
+                                       {Example(), L("-o"), png, L("--scale"), L("-1")},
+                                       {Example(), L("-o"), png, L("--scale"), L("nan")},
+                                       {Example(), L("-o"), png, L("--scale"), L("inf")},
+                                       {Example(), L("-o"), png, L("--theme"), L("pink")},
+                                       {Example(), Example(), L("-o"), png},
+                                       {Example(), L("-o")}}) {
+    const Result r = Vrx(QStringList{L("render")} + arguments);
+    EXPECT_EQ(r.code, 2) << arguments.join(u' ').toStdString();
+    EXPECT_FALSE(QFile::exists(png));
+  }
+  EXPECT_EQ(Vrx({L("render"), Path("missing.dfm"), L("-o"), png}).code, 1);
+  EXPECT_EQ(Vrx({L("render"), Example(), L("-o"), Path("no/folder/a.png")}).code, 1);
+  const QString huge =
+      Write("huge.dfm", "object Form1: TForm1\n  ClientHeight = 30000\n  ClientWidth = 30000\nend\n");
+  const Result r = Vrx({L("render"), huge, L("-o"), png});
+  EXPECT_EQ(r.code, 1);
+  EXPECT_TRUE(r.err.contains(L("--scale")));
+  EXPECT_FALSE(QFile::exists(png));
+}
+
+TEST_F(RealCli, ConvertsFromStandardInputToStandardOutput) {
+  const ProcessResult binary = RealVrx({L("convert"), L("-"), L("-"), L("--to"), L("binary")}, SmallForm);
+  EXPECT_EQ(binary.code, 0);
+  EXPECT_TRUE(binary.out.startsWith("TPF0"));
+  EXPECT_EQ(binary.err, "");
+  const ProcessResult text = RealVrx({L("convert"), L("-"), L("-")}, binary.out);
+  EXPECT_EQ(text.code, 0);
+  EXPECT_EQ(text.out, SmallForm);
+}
+
+TEST_F(RealCli, ResultsAndMessagesGoToTheirStreams) {
+  const QString bad = Write("bad.dfm", "object Form1: TForm1\n  Left = ]\nend\n");
+  const ProcessResult check = RealVrx({L("check"), bad});
+  EXPECT_EQ(check.code, 1);
+  EXPECT_TRUE(check.out.startsWith(bad.toUtf8() + ":2:10: error: ")) << check.out.constData();
+  EXPECT_EQ(check.err, "");
+  const ProcessResult convert = RealVrx({L("convert"), bad, L("-")});
+  EXPECT_EQ(convert.code, 1);
+  EXPECT_EQ(convert.out, "");
+  EXPECT_TRUE(convert.err.startsWith("vrx convert: "));
+  const ProcessResult unknown = RealVrx({L("fly")});
+  EXPECT_EQ(unknown.code, 2);
+  EXPECT_EQ(unknown.out, "");
+  EXPECT_TRUE(unknown.err.contains("fly"));
+  EXPECT_EQ(RealVrx({}).code, 2);
+}
+
+TEST_F(RealCli, LoadsThePackage) {
+  const ProcessResult strict = RealVrx({L("check"), L("--strict"), Example()});
+  EXPECT_EQ(strict.code, 0) << strict.out.constData();
+  const ProcessResult rows = RealVrx({L("registrations")});
+  EXPECT_EQ(rows.code, 0);
+  EXPECT_TRUE(rows.out.contains("TVRXLEDLabel"));
+  EXPECT_EQ(rows.err, "");
+  EXPECT_EQ(RealVrx({L("registrations"), L("--labeled"), L("--json")}).code, 0);
+  const ProcessResult value = RealVrx({L("get"), Example(), L("SpeedLED.LED.Thickness")});
+  EXPECT_EQ(value.out, "6\n");
+}
