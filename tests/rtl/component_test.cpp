@@ -139,8 +139,9 @@ TEST(FreeNotification, TellsWhoAskedWhicheverGoesFirst) {
   auto* b = new TWatcher(nullptr);
   a->FreeNotification(b);
   a->FreeNotification(b);
+  const std::vector<TComponent*> told{a};
   delete a;
-  EXPECT_EQ(b->removed, std::vector<TComponent*>{a});
+  EXPECT_EQ(b->removed, told);
   EXPECT_TRUE(b->FreeNotifies().empty());
   delete b;
 
