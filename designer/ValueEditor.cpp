@@ -34,6 +34,8 @@ ValueEditor::ValueEditor(QWidget* parent) : QWidget(parent) {
   problem_->setWordWrap(true);
   problem_->setMargin(5);
   problem_->setAutoFillBackground(true);
+  problem_->setBackgroundRole(QPalette::Window);  // not the list's
+  problem_->setForegroundRole(QPalette::WindowText);
   problem_->setFrameShape(QFrame::Box);
   problem_->hide();
 

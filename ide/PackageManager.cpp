@@ -28,6 +28,17 @@ TPackageRecord RecordOf(const QJsonObject& meta) {
   return TPackageRecord::FromJson(meta.value(QStringLiteral("MetaData")).toObject());
 }
 
+// A package is foreign code and may throw anything.
+QString CurrentExceptionMessage() {
+  try {
+    throw;
+  } catch (const std::exception& e) {
+    return ExceptionMessage(e);
+  } catch (...) {
+    return PackageManager::tr("An error of an unknown kind occurred.");
+  }
+}
+
 QFileInfoList Libraries(const QString& folder) {
   return QDir(folder).entryInfoList({QStringLiteral("*.so")}, QDir::Files, QDir::Name);
 }
@@ -114,20 +125,21 @@ void PackageManager::Load(const QString& nameOrFile) {
     package->Initialize();
     initialised = true;
     RunRegisterProcedures(*package);
-  } catch (const std::exception& e) {
+  } catch (...) {
     UnregisterPackage(package);
     if (initialised) package->Finalize();
     loader->unload();
     throw Exception(tr("Package %1 failed to register: %2 Update or remove the package.")
-                        .arg(record.Name, ExceptionMessage(e)));
+                        .arg(record.Name, CurrentExceptionMessage()));
   }
   loaded_.push_back({record, std::move(loader), package});
   emit ClassesChanged();
 }
 
 void PackageManager::Unload(const QString& name) {
-  const auto it =
-      std::find_if(loaded_.begin(), loaded_.end(), [&](const Loaded& l) { return l.record.Name == name; });
+  const auto it = std::find_if(loaded_.begin(), loaded_.end(), [&](const Loaded& l) {
+    return l.record.Name.compare(name, Qt::CaseInsensitive) == 0;
+  });
   if (it == loaded_.end()) return;
   UnregisterPackage(it->package);
   emit ClassesChanged();
