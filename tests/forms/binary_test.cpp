@@ -1,4 +1,5 @@
 // The binary form: every value code, objects, resources.
+#include <cfloat>
 #include <cmath>
 #include <cstring>
 
@@ -140,8 +141,8 @@ TEST(BinaryValue, TextIsEncodedInTheSmallestForm) {
   EXPECT_EQ(Encoded("'" + QByteArray(256, 'x') + "'"), Hex("0C00010000") + QByteArray(256, 'x'));
 }
 
+#if LDBL_MANT_DIG == 64  // only such a processor has the format to agree with
 TEST(BinaryValue, ExtendedFloatsAgreeWithTheProcessorsOwnFormat) {
-  if (sizeof(long double) < 10 || std::numeric_limits<long double>::digits != 64) GTEST_SKIP();
   std::uint64_t state = 99;
   const auto next = [&state] { return state = state * 6364136223846793005u + 1442695040888963407u; };
   for (int i = 0; i < 3000; ++i) {
@@ -158,6 +159,7 @@ TEST(BinaryValue, ExtendedFloatsAgreeWithTheProcessorsOwnFormat) {
     EXPECT_EQ(forms::EncodeExtended(number), QByteArray(reinterpret_cast<const char*>(raw), 10));
   }
 }
+#endif
 
 TEST(BinaryValue, ExtendedFloatsKeepTheirExtremes) {
   for (const char* hex :
