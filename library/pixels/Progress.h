@@ -1,0 +1,25 @@
+// What the long pixel loops tell while they run, and where others get their turn meanwhile.
+#pragma once
+#include <cstdint>
+
+class IVRXProgress {
+ public:
+  virtual ~IVRXProgress() = default;
+  // The percentage reached, reported `times` times in a row.
+  virtual void Report(int percent, std::int64_t times) = 0;
+  // Stands for `times` calls in a row, one after each visited pixel, that let pending messages be processed;
+  // nothing else happens between them. May return early once the abort flag is set.
+  virtual void ProcessMessages(std::int64_t times) = 0;
+};
+
+// numerator / denominator to the nearest whole number, halves to the even one.
+constexpr std::int64_t RoundHalfEven(std::int64_t numerator, std::int64_t denominator) {
+  if (denominator < 0) {
+    numerator = -numerator;
+    denominator = -denominator;
+  }
+  std::int64_t floor = numerator / denominator;
+  if (numerator % denominator < 0) --floor;
+  const std::int64_t twice = 2 * (numerator - floor * denominator);
+  return floor + (twice > denominator || (twice == denominator && floor % 2 != 0) ? 1 : 0);
+}
