@@ -1,0 +1,40 @@
+// Rows of pixels as rows of bits, 64 pixels a word.
+#pragma once
+#include <cstddef>
+#include <cstdint>
+#include <vector>
+
+#include "vcl/Colors.h"
+
+constexpr std::size_t WordsFor(int pixels) { return (static_cast<std::size_t>(pixels) + 63) / 64; }
+
+// Sets bit x % 64 of word x / 64 where pixel x is `pixel`, and clears the others; bits behind the last pixel
+// are 0.
+void MatchPixel(const std::uint32_t* row, int width, std::uint32_t pixel, std::uint64_t* mask);
+
+// A set of colours that rows of pixels are matched against. Colours with a high byte equal no pixel.
+class PixelSet {
+ public:
+  explicit PixelSet(const std::vector<TColor>& colors);
+  // The same for every pixel of the set.
+  void Match(const std::uint32_t* row, int width, std::uint64_t* mask) const;
+
+  // The ways behind Match, for sets too large to compare one by one: portable, and with wide registers where
+  // the processor has them.
+  void MatchPortable(const std::uint32_t* row, int width, std::uint64_t* mask) const;
+  static bool HasWide();
+  void MatchWide(const std::uint32_t* row, int width, std::uint64_t* mask) const;
+
+ private:
+  bool Insert(std::uint32_t pixel);
+  bool Contains(std::uint32_t pixel) const {
+    return table_[pixel * factor1_ >> Shift] == pixel || table_[Slots + (pixel * factor2_ >> Shift)] == pixel;
+  }
+
+  // Cuckoo hashing: a pixel is at one of two places, so looking it up is two comparisons and never a search.
+  static constexpr unsigned Shift = 21;
+  static constexpr std::size_t Slots = std::size_t{1} << (32 - Shift);
+  std::vector<std::uint32_t> pixels_;  // without repetitions
+  std::vector<std::uint32_t> table_;   // two tables of Slots; 0, which is no pixel, where free
+  std::uint32_t factor1_ = 0x9E3779B1u, factor2_ = 0x85EBCA77u;
+};
