@@ -12,12 +12,14 @@ class QVBoxLayout;
 
 constexpr int mrOk = 1;
 constexpr int mrCancel = 2;
+constexpr int DefaultPreviewWidth = 198;
 
 class EditorDialog : public QDialog {
   Q_OBJECT
  public:
   // The client area is at least `clientSize`, and more where font or language need it.
-  EditorDialog(const QString& caption, QSize clientSize, QWidget* parent = nullptr);
+  EditorDialog(const QString& caption, QSize clientSize, QWidget* parent = nullptr,
+               int previewWidth = DefaultPreviewWidth);
 
   // Shows the dialog and waits. 1 when it was confirmed; closing it in any other way is 2. An exception
   // thrown by one of the dialog's handlers closes it and comes out here.
@@ -48,8 +50,11 @@ class EditorDialog : public QDialog {
   void AddOk(QPushButton* button);
   void AddCancel(QPushButton* button);
   void SetTabSequence(const std::vector<QWidget*>& widgets);
-  // To be called when all controls are there.
-  void FinishLayout();
+  // Something between the preview and the buttons.
+  void AddBelowPreview(QWidget* widget);
+  // To be called when all controls are there. A fixed dialog has just the size it needs; in the others the
+  // room for the preview can be changed.
+  void FinishLayout(bool fixed = true);
 
   void showEvent(QShowEvent* event) override;
   void done(int result) override;
@@ -58,6 +63,7 @@ class EditorDialog : public QDialog {
   QSize clientSize_;
   QGridLayout* grid_;
   QVBoxLayout* previewBox_;
+  QWidget* right_;
   QVBoxLayout* buttons_;
   std::exception_ptr error_;
 };
