@@ -1,10 +1,10 @@
 #include "vcl/Bitmap.h"
 
-#include <QPainter>
 #include <cstring>
 
 #include "rtl/Class.h"
 #include "rtl/Exceptions.h"
+#include "vcl/LargeMemory.h"
 
 const TClass& TBitmap::StaticClass() {
   static const TClass cls(DescribeClass<TBitmap>("TBitmap", TPersistent::StaticClass()));
@@ -32,11 +32,17 @@ TBitmap TBitmap::Uninitialized(int width, int height) {
   width = std::max(width, 0);
   height = std::max(height, 0);
   if (width > 0 && height > 0) {
-    result.image_ = QImage(width, height, QImage::Format_RGB32);
-    if (result.image_.isNull())
+    const std::size_t bytes = static_cast<std::size_t>(width) * 4 * static_cast<std::size_t>(height);
+    void* memory = AllocateLarge(bytes);
+    if (memory)
+      result.image_ =
+          QImage(static_cast<uchar*>(memory), width, height, QImage::Format_RGB32, FreeLarge, memory);
+    if (result.image_.isNull()) {
+      FreeLarge(memory);
       throw Exception(QStringLiteral("There is not enough memory for a picture of %1 x %2 pixels.")
                           .arg(width)
                           .arg(height));
+    }
   }
   result.width_ = width;
   result.height_ = height;
@@ -85,8 +91,10 @@ void TBitmap::Fill(TColor color) {
 }
 
 void TBitmap::Draw(int x, int y, const TBitmap& picture) {
-  const int left = std::max(x, 0), right = static_cast<int>(std::min<qint64>(qint64{x} + picture.width_, width_));
-  const int top = std::max(y, 0), bottom = static_cast<int>(std::min<qint64>(qint64{y} + picture.height_, height_));
+  const int left = std::max(x, 0),
+            right = static_cast<int>(std::min<qint64>(qint64{x} + picture.width_, width_));
+  const int top = std::max(y, 0),
+            bottom = static_cast<int>(std::min<qint64>(qint64{y} + picture.height_, height_));
   if (left >= right) return;
   const QImage source = picture.image_;  // keeps the pixels when a bitmap is drawn on itself
   for (int row = top; row < bottom; ++row)

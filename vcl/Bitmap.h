@@ -47,7 +47,9 @@ class TBitmap : public TPersistent {
   // The other picture with its top left corner at (x, y); what lies outside is cut off.
   void Draw(int x, int y, const TBitmap& picture);
 
-  const std::uint32_t* Row(int y) const { return reinterpret_cast<const std::uint32_t*>(image_.constScanLine(y)); }
+  const std::uint32_t* Row(int y) const {
+    return reinterpret_cast<const std::uint32_t*>(image_.constScanLine(y));
+  }
   // Makes the pixels this bitmap's own.
   std::uint32_t* WritableRow(int y) { return reinterpret_cast<std::uint32_t*>(image_.scanLine(y)); }
   // QImage::Format_RGB32; null when a side is 0.

@@ -13,11 +13,11 @@ TRegion::TRegion(const TRect& rect) {
 
 bool TRegion::Contains(std::int32_t x, std::int32_t y) const {
   // The first rectangle that ends below y; when its band holds y, the rest of the band is searched.
-  const auto band = std::partition_point(rects_.begin(), rects_.end(), [y](const TRect& r) { return r.Bottom <= y; });
+  const auto band =
+      std::partition_point(rects_.begin(), rects_.end(), [y](const TRect& r) { return r.Bottom <= y; });
   if (band == rects_.end() || band->Top > y) return false;
-  const auto hit = std::partition_point(band, rects_.end(), [top = band->Top, x](const TRect& r) {
-    return r.Top == top && r.Right <= x;
-  });
+  const auto hit = std::partition_point(
+      band, rects_.end(), [top = band->Top, x](const TRect& r) { return r.Top == top && r.Right <= x; });
   return hit != rects_.end() && hit->Top == band->Top && hit->Left <= x;
 }
 
@@ -27,7 +27,7 @@ using Spans = std::vector<std::pair<std::int32_t, std::int32_t>>;
 // The bands of a region one after another.
 class BandReader {
  public:
-  explicit BandReader(const std::vector<TRect>& rects) : at_(rects.data()), end_(at_ + rects.size()) { Find(); }
+  explicit BandReader(std::span<const TRect> rects) : at_(rects.data()), end_(at_ + rects.size()) { Find(); }
   bool Done() const { return at_ == end_; }
   std::int32_t Top() const { return std::max(at_->Top, from_); }
   std::int32_t Bottom() const { return at_->Bottom; }
@@ -127,10 +127,10 @@ bool IsBanded(const std::vector<TRect>& rects) {
     }
     // A band is complete: it must not continue the one above with the same spans.
     if (previousEnd - previous == i - band && previousEnd != 0 && rects[previous].Bottom == rects[band].Top &&
-        std::equal(rects.begin() + static_cast<std::ptrdiff_t>(band), rects.begin() + static_cast<std::ptrdiff_t>(i),
-                   rects.begin() + static_cast<std::ptrdiff_t>(previous), [](const TRect& a, const TRect& b) {
-                     return a.Left == b.Left && a.Right == b.Right;
-                   }))
+        std::equal(rects.begin() + static_cast<std::ptrdiff_t>(band),
+                   rects.begin() + static_cast<std::ptrdiff_t>(i),
+                   rects.begin() + static_cast<std::ptrdiff_t>(previous),
+                   [](const TRect& a, const TRect& b) { return a.Left == b.Left && a.Right == b.Right; }))
       return false;
     if (i < rects.size() && rects[i].Top < rects[band].Bottom) return false;
     previous = band;
@@ -161,8 +161,7 @@ QByteArray TRegion::ToData() const {
 
 TRegion TRegion::FromData(QByteArrayView data) {
   const auto size = static_cast<std::size_t>(data.size());
-  if (size < HeaderSize)
-    Refuse(QStringLiteral("%1 bytes are too few for the header of 32").arg(data.size()));
+  if (size < HeaderSize) Refuse(QStringLiteral("%1 bytes are too few for the header of 32").arg(data.size()));
   const char* from = data.data();
   if (const std::int32_t header = Get(from); header != HeaderSize)
     Refuse(QStringLiteral("the header gives its own size as %1 instead of 32").arg(header));
@@ -187,7 +186,12 @@ TRegion TRegion::FromData(QByteArrayView data) {
     r.Right = Get(from);
     r.Bottom = Get(from);
     const auto text = [&] {
-      return QStringLiteral("rectangle %1 (%2, %3, %4, %5)").arg(i).arg(r.Left).arg(r.Top).arg(r.Right).arg(r.Bottom);
+      return QStringLiteral("rectangle %1 (%2, %3, %4, %5)")
+          .arg(i)
+          .arg(r.Left)
+          .arg(r.Top)
+          .arg(r.Right)
+          .arg(r.Bottom);
     };
     if (r.Empty()) Refuse(text() + QStringLiteral(" is empty or turned round"));
     if (std::min({r.Left, r.Top}) < -MaxCoordinate || std::max({r.Right, r.Bottom}) > MaxCoordinate)
@@ -200,7 +204,8 @@ TRegion TRegion::FromData(QByteArrayView data) {
   for (std::size_t i = 0; i < rects.size();) {
     spans.clear();
     const std::size_t band = i;
-    for (; i < rects.size() && rects[i].Top == rects[band].Top; ++i) spans.emplace_back(rects[i].Left, rects[i].Right);
+    for (; i < rects.size() && rects[i].Top == rects[band].Top; ++i)
+      spans.emplace_back(rects[i].Left, rects[i].Right);
     builder.AddBand(rects[band].Top, rects[band].Bottom, spans);
   }
   return builder.Take();
@@ -212,7 +217,8 @@ void TBandBuilder::CloseBand(std::int32_t bottom) {
 }
 
 void TBandBuilder::AddRow(std::int32_t y, const std::uint64_t* mask, std::size_t words) {
-  std::vector<TRect>& rects = region_.rects_;
+  auto& rects = region_.rects_;
+  ++rowsDone_;
   const bool open = bandStart_ < rects.size();
   if (open) {
     if (bandEnd_ == y && lastMask_.size() == words && std::memcmp(lastMask_.data(), mask, words * 8) == 0) {
@@ -229,7 +235,12 @@ void TBandBuilder::AddRow(std::int32_t y, const std::uint64_t* mask, std::size_t
   }
   if (runs == 0) return;
   lastMask_.assign(mask, mask + words);
-  if (rects.capacity() < rects.size() + runs) rects.reserve(std::max(rects.capacity() * 2, rects.size() + runs));
+  if (const std::size_t needed = rects.size() + runs; rects.capacity() < needed) {
+    // As many as there will be when the rest is like the rows so far.
+    const auto rest = static_cast<std::size_t>(std::max(rows_ - rowsDone_, 0));
+    const std::size_t likely = needed + needed * rest / static_cast<std::size_t>(rowsDone_);
+    rects.reserve(std::max(rects.capacity() * 2, likely + likely / 16));
+  }
   rects.resize(rects.size() + runs);
   TRect* to = rects.data() + bandStart_;
   // Every change of a bit is the start or the end of a run, in turns.
@@ -262,7 +273,7 @@ void TBandBuilder::AddRow(std::int32_t y, const std::uint64_t* mask, std::size_t
 
 void TBandBuilder::AddBand(std::int32_t top, std::int32_t bottom,
                            const std::vector<std::pair<std::int32_t, std::int32_t>>& spans) {
-  std::vector<TRect>& rects = region_.rects_;
+  auto& rects = region_.rects_;
   lastMask_.clear();
   if (bandStart_ < rects.size()) {
     if (bandEnd_ == top && rects.size() - bandStart_ == spans.size() &&
@@ -279,7 +290,7 @@ void TBandBuilder::AddBand(std::int32_t top, std::int32_t bottom,
 
 TRegion TBandBuilder::Take() {
   CloseBand(bandEnd_);
-  std::vector<TRect>& rects = region_.rects_;
+  auto& rects = region_.rects_;
   if (!rects.empty()) {
     TRect& b = region_.bounds_;
     b = {INT32_MAX, rects.front().Top, INT32_MIN, rects.back().Bottom};

@@ -6,9 +6,11 @@
 #pragma once
 #include <QByteArray>
 #include <QRect>
+#include <span>
 #include <vector>
 
 #include "rtl/Exceptions.h"
+#include "vcl/LargeMemory.h"
 
 struct TRect {
   std::int32_t Left = 0, Top = 0, Right = 0, Bottom = 0;
@@ -28,7 +30,7 @@ class TRegion {
   explicit TRegion(const TRect& rect);
 
   bool Empty() const { return rects_.empty(); }
-  const std::vector<TRect>& Rects() const { return rects_; }
+  std::span<const TRect> Rects() const { return rects_; }
   // The smallest rectangle around everything; (0, 0, 0, 0) when empty.
   TRect Bounds() const { return bounds_; }
   bool Contains(std::int32_t x, std::int32_t y) const;
@@ -44,22 +46,26 @@ class TRegion {
 
  private:
   friend class TBandBuilder;
-  std::vector<TRect> rects_;
+  std::vector<TRect, LargeAllocator<TRect>> rects_;
   TRect bounds_;
 };
 
 // Builds a region from rows of pixels, top to bottom, in time that follows the number of rectangles.
 class TBandBuilder {
  public:
+  // `rows`: how many rows of pixels are to come, as far as that is known.
+  explicit TBandBuilder(std::int32_t rows = 0) : rows_(rows) {}
   // Bit x % 64 of word x / 64 is the pixel in column x. Rows that are left out are empty.
   void AddRow(std::int32_t y, const std::uint64_t* mask, std::size_t words);
   // A band of any height; spans are (left, right) pairs in order, with room between them.
-  void AddBand(std::int32_t top, std::int32_t bottom, const std::vector<std::pair<std::int32_t, std::int32_t>>& spans);
+  void AddBand(std::int32_t top, std::int32_t bottom,
+               const std::vector<std::pair<std::int32_t, std::int32_t>>& spans);
   TRegion Take();
 
  private:
   void CloseBand(std::int32_t bottom);
   TRegion region_;
+  std::int32_t rows_, rowsDone_ = 0;
   std::vector<std::uint64_t> lastMask_;
   std::size_t bandStart_ = 0;  // first rectangle of the open band
   std::int32_t bandEnd_ = 0;   // bottom of the open band so far

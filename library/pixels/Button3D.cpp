@@ -102,10 +102,22 @@ class Drawing {
         width_(Enlarged(content.Width(), bevelWidth)),
         height_(Enlarged(content.Height(), bevelWidth)),
         inks_(inks),
-        up(TBitmap::Uninitialized(width_, height_)),
-        down(TBitmap::Uninitialized(width_, height_)),
-        disabled(TBitmap::Uninitialized(width_, height_)),
         masks(width_, height_, hasKey) {}
+
+  // Gets room for the results: that of the earlier ones when they may be given up and have the size.
+  void MakeRoom(TBitmap& oldUp, TBitmap& oldDown, TBitmap& oldDisabled, bool giveUp) {
+    const auto fits = [this](const TBitmap& b) {
+      return b.Width() == width_ && b.Height() == height_ && b.Image().isDetached();
+    };
+    if (giveUp && fits(oldUp) && fits(oldDown) && fits(oldDisabled) && &oldUp != &oldDown &&
+        &oldUp != &oldDisabled && &oldDown != &oldDisabled) {
+      up.Swap(oldUp);
+      down.Swap(oldDown);
+      disabled.Swap(oldDisabled);
+      return;
+    }
+    for (TBitmap* own : {&up, &down, &disabled}) *own = TBitmap::Uninitialized(width_, height_);
+  }
 
   int Width() const { return width_; }
   int Height() const { return height_; }
@@ -175,6 +187,7 @@ void VRXDrawButton3D(const TBitmap& source, TBitmap& up, TBitmap& down, TBitmap&
   const auto background = ExactPixelOf(transparent), key = ExactPixelOf(semiKey);
   const bool hasKey = semiTransparent && key;
   Drawing drawing(content, bevelWidth, inks, hasKey);
+  drawing.MakeRoom(up, down, disabled, progress == nullptr);
   // A transparent colour that equals no pixel leaves no background.
   if (background) drawing.Mark(drawing.masks.Background, content, *background, true);
   if (hasKey) drawing.Mark(drawing.masks.Key, source, *key, false);

@@ -14,10 +14,10 @@ extern bool VRX3DEffectAbort;
 bool VRXMakeBmpSemiTransparent(TBitmap& bitmap, TColor colorOdd, TColor keyColor, TColor colorEven);
 
 // Draws the three pictures, each `bevelWidth` pixels larger than the source on every side; the content of
-// `down` is moved by one pixel right and down. With `semiTransparent`, pixels of `semiKey` become a checker of
-// the transparent colour and `semiSecond` first. A bevel width of 0 leaves only the ring of the bevel colour;
-// -1 crops the picture by one pixel on each side; below that nothing happens. The results change only when
-// the run is complete. `progress` may be null.
+// `down` is moved by one pixel right and down. With `semiTransparent`, pixels of `semiKey` become a checker
+// of the transparent colour and `semiSecond` first. A bevel width of 0 leaves only the ring of the bevel
+// colour; -1 crops the picture by one pixel on each side; below that nothing happens. The results change only
+// when the run is complete. `progress` may be null.
 void VRXDrawButton3D(const TBitmap& source, TBitmap& up, TBitmap& down, TBitmap& disabled, TColor transparent,
                      TColor light, TColor shadow, TColor disabledColor, TColor semiSecond, TColor semiKey,
                      TColor bevel, bool semiTransparent, int bevelWidth, IVRXProgress* progress);

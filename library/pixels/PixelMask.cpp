@@ -141,7 +141,8 @@ __attribute__((target("avx2"))) void PixelSet::MatchWide(const std::uint32_t* ro
       const __m256i same = _mm256_xor_si256(p, last);
       if (!_mm256_testz_si256(same, same)) {
         const __m256i at1 = _mm256_srli_epi32(_mm256_mullo_epi32(p, factor1), Shift);
-        const __m256i at2 = _mm256_add_epi32(_mm256_srli_epi32(_mm256_mullo_epi32(p, factor2), Shift), second);
+        const __m256i at2 =
+            _mm256_add_epi32(_mm256_srli_epi32(_mm256_mullo_epi32(p, factor2), Shift), second);
         const __m256i hit = _mm256_or_si256(_mm256_cmpeq_epi32(_mm256_i32gather_epi32(table, at1, 4), p),
                                             _mm256_cmpeq_epi32(_mm256_i32gather_epi32(table, at2, 4), p));
         found = static_cast<unsigned>(_mm256_movemask_ps(_mm256_castsi256_ps(hit)));

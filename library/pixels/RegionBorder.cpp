@@ -16,7 +16,7 @@ constexpr int Margin = 2;
 
 class RegionRows {
  public:
-  RegionRows(const std::vector<TRect>& rects, int width)
+  RegionRows(std::span<const TRect> rects, int width)
       : at_(rects.begin()), end_(rects.end()), limit_(width + 2 * Margin) {}
   // Rows must be asked for from top to bottom.
   void Fill(int y, std::uint64_t* bits, std::size_t words) {
@@ -42,7 +42,7 @@ class RegionRows {
     for (std::size_t w = first + 1; w < last; ++w) bits[w] = ~std::uint64_t{0};
     bits[last] |= tail;
   }
-  std::vector<TRect>::const_iterator at_, end_;
+  std::span<const TRect>::iterator at_, end_;
   std::int64_t limit_;
 };
 

@@ -8,7 +8,7 @@ std::optional<TRegion> CreateRgnFromBitmap2(const TBitmap& picture, const std::v
   const std::size_t words = WordsFor(width);
   const PixelSet set(transparent);
   std::vector<std::uint64_t> opaque(words);
-  TBandBuilder builder;
+  TBandBuilder builder(picture.Height());
   for (int y = 0; y < picture.Height(); ++y) {
     if (width > 0) {
       set.Match(picture.Row(y), width, opaque.data());

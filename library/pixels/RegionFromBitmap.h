@@ -23,8 +23,8 @@ constexpr std::size_t MaxTransparentColors = 501;
 
 // The pixels of none of the colours, rows cut one pixel short: the last column never belongs to a region,
 // and stored regions depend on that. No region at all when nothing is left. Reports after every row.
-std::optional<TRegion> CreateRgnFromBitmap2(const TBitmap& picture, const std::vector<TColor>& transparent, int scale,
-                                            IVRXProgress* progress);
+std::optional<TRegion> CreateRgnFromBitmap2(const TBitmap& picture, const std::vector<TColor>& transparent,
+                                            int scale, IVRXProgress* progress);
 // Paints a border along the region's edge. 2 is for windows, 3 for the state pictures of buttons; both count
 // the points of the bounds, columns first, in their reports. `region` may be null.
 void PaintRGNBorder2(TBitmap& picture, const TRegion* region, TRegionBorder style, TRegionPhase phase,
@@ -41,7 +41,7 @@ struct TRegionBuild {
 };
 // The whole sequence: region, border picture and, for a button, its two states, the second one moved by one
 // pixel right and down.
-TRegionBuild BuildWindowRegion(const TBitmap& picture, const std::vector<TColor>& transparent, TRegionBorder border,
-                               IVRXProgress* progress);
-TRegionBuild BuildButtonRegion(const TBitmap& picture, const std::vector<TColor>& transparent, TRegionButton look,
-                               IVRXProgress* progress);
+TRegionBuild BuildWindowRegion(const TBitmap& picture, const std::vector<TColor>& transparent,
+                               TRegionBorder border, IVRXProgress* progress);
+TRegionBuild BuildButtonRegion(const TBitmap& picture, const std::vector<TColor>& transparent,
+                               TRegionButton look, IVRXProgress* progress);
