@@ -8,7 +8,8 @@ ButtonPictures ButtonPictures::Before() {
   return pictures;
 }
 
-void CallButton3D(const TBitmap& source, ButtonPictures& results, const ButtonRun& run, IVRXProgress* progress) {
+void CallButton3D(const TBitmap& source, ButtonPictures& results, const ButtonRun& run,
+                  IVRXProgress* progress) {
   const ButtonColors& c = run.Colors;
   VRXDrawButton3D(source, results.Up, results.Down, results.Disabled, c.T, c.L, c.S, c.DC, c.P, c.K, c.BC,
                   run.Semi, run.Width, progress);
@@ -48,14 +49,14 @@ testing::AssertionResult SameAsOracle(const TBitmap& source, const ButtonRun& ru
     if (auto same = Same(expected.Disabled, actual.Disabled); !same) return same << "in Disabled";
   }
   if (slow.Percents() != fast.Percents())
-    return testing::AssertionFailure() << "percents " << testing::PrintToString(fast.Percents()) << " instead of "
-                                       << testing::PrintToString(slow.Percents());
+    return testing::AssertionFailure() << "percents " << testing::PrintToString(fast.Percents())
+                                       << " instead of " << testing::PrintToString(slow.Percents());
   if (slow.Pumps() != fast.Pumps())
     return testing::AssertionFailure() << fast.Pumps() << " pumps instead of " << slow.Pumps();
   if (slow.PumpsAtReports() != fast.PumpsAtReports())
-    return testing::AssertionFailure() << "reports come after the pumps "
-                                       << testing::PrintToString(fast.PumpsAtReports()) << " instead of "
-                                       << testing::PrintToString(slow.PumpsAtReports());
+    return testing::AssertionFailure()
+           << "reports come after the pumps " << testing::PrintToString(fast.PumpsAtReports())
+           << " instead of " << testing::PrintToString(slow.PumpsAtReports());
   if (flagAfter[0] != flagAfter[1]) return testing::AssertionFailure() << "the abort flag was changed";
   return testing::AssertionSuccess();
 }

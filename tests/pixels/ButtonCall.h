@@ -9,11 +9,12 @@ struct ButtonPictures {
   static ButtonPictures Before();
 };
 
-void CallButton3D(const TBitmap& source, ButtonPictures& results, const ButtonRun& run, IVRXProgress* progress);
+void CallButton3D(const TBitmap& source, ButtonPictures& results, const ButtonRun& run,
+                  IVRXProgress* progress);
 // Whether the three pictures are still those of Before().
 testing::AssertionResult Untouched(const ButtonPictures& results);
 
-// The library and the slow reference do the same; each gets an abort flag of its own and, with `withProgress`,
-// a progress that sets it at the `abortAt`-th processing of messages.
+// The library and the slow reference do the same; each gets an abort flag of its own and, with
+// `withProgress`, a progress that sets it at the `abortAt`-th processing of messages.
 testing::AssertionResult SameAsOracle(const TBitmap& source, const ButtonRun& run, bool withProgress,
                                       std::int64_t abortAt, bool abortBefore = false);

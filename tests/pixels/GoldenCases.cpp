@@ -73,8 +73,8 @@ PercentRuns RunsOf(const QJsonValue& list) {
   PercentRuns runs;
   for (const QJsonValue& value : list.toArray()) {
     const QJsonArray pair = value.toArray();
-    const PercentRun run = value.isArray() ? PercentRun{pair[0].toInt(-1), pair[1].toInt(-1)}
-                                           : PercentRun{value.toInt(-1), 1};
+    const PercentRun run =
+        value.isArray() ? PercentRun{pair[0].toInt(-1), pair[1].toInt(-1)} : PercentRun{value.toInt(-1), 1};
     runs = Joined(std::move(runs), {run});
   }
   return runs;

@@ -66,8 +66,8 @@ class OraclePainter {
 };
 }  // namespace
 
-void OraclePaintBorder(int painter, OraclePicture& picture, const SlowRegion* region, int style, TRegionPhase phase,
-                       IVRXProgress* progress) {
+void OraclePaintBorder(int painter, OraclePicture& picture, const SlowRegion* region, int style,
+                       TRegionPhase phase, IVRXProgress* progress) {
   TRect box = region ? region->Bounds() : TRect();
   if (box.Right == 0) box.Right = 1;
   if (box.Bottom == 0) box.Bottom = 1;

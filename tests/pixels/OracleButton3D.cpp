@@ -143,7 +143,8 @@ OracleButtonResult OracleDrawing::Run(IVRXProgress* progress) {
         if (!progress) continue;
         progress->ProcessMessages(1);
         if (VRX3DEffectAbort) return {};
-        const int percent = OracleRound(100LL * ((pass_ - 1LL) * e_.Height() + y), 1LL * e_.Height() * passes);
+        const int percent =
+            OracleRound(100LL * ((pass_ - 1LL) * e_.Height() + y), 1LL * e_.Height() * passes);
         if (percent != told) progress->Report(percent, 1);
         told = percent;
       }

@@ -11,7 +11,8 @@ OraclePicture::OraclePicture(int width, int height, TColor fill)
     for (int x = 0; x < width_; ++x) Set(x, y, fill);
 }
 
-OraclePicture::OraclePicture(const TBitmap& bitmap) : OraclePicture(bitmap.Width(), bitmap.Height(), clBlack) {
+OraclePicture::OraclePicture(const TBitmap& bitmap)
+    : OraclePicture(bitmap.Width(), bitmap.Height(), clBlack) {
   for (int y = 0; y < height_; ++y)
     for (int x = 0; x < width_; ++x) Set(x, y, bitmap.Pixel(x, y));
 }

@@ -17,8 +17,8 @@ class OraclePicture {
   int Width() const { return width_; }
   int Height() const { return height_; }
   bool Inside(int x, int y) const { return x >= 0 && y >= 0 && x < width_ && y < height_; }
-  // Whether the pixel is of exactly this colour. Nothing outside is of any colour, and no pixel is of a colour
-  // with a high byte.
+  // Whether the pixel is of exactly this colour. Nothing outside is of any colour, and no pixel is of a
+  // colour with a high byte.
   bool Is(int x, int y, TColor color) const;
   // The pixel must be inside.
   TColor At(int x, int y) const;

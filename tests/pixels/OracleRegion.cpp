@@ -34,7 +34,8 @@ TRect SlowRegion::Bounds() const {
       if (!In(x, y)) continue;
       if (!any) box = {x, y, x + 1, y + 1};
       any = true;
-      box = {std::min(box.Left, x), std::min(box.Top, y), std::max(box.Right, x + 1), std::max(box.Bottom, y + 1)};
+      box = {std::min(box.Left, x), std::min(box.Top, y), std::max(box.Right, x + 1),
+             std::max(box.Bottom, y + 1)};
     }
   return box;
 }
@@ -63,17 +64,17 @@ std::vector<TRect> SlowRegion::Rects() const {
 }
 
 testing::AssertionResult Same(const SlowRegion& expected, const TRegion& actual) {
-  if (expected.Rects() != actual.Rects())
-    return testing::AssertionFailure() << "expected " << testing::PrintToString(expected.Rects()) << "\nactual "
-                                       << testing::PrintToString(actual.Rects());
+  if (expected.Rects() != RectList(actual))
+    return testing::AssertionFailure() << "expected " << testing::PrintToString(expected.Rects())
+                                       << "\nactual " << testing::PrintToString(RectList(actual));
   if (expected.Bounds() != actual.Bounds())
     return testing::AssertionFailure() << "bounds " << actual.Bounds() << " instead of " << expected.Bounds();
   if (actual.Empty() != expected.Rects().empty()) return testing::AssertionFailure() << "emptiness";
   for (int y = expected.Field().Top - 2; y < expected.Field().Bottom + 2; ++y)
     for (int x = expected.Field().Left - 2; x < expected.Field().Right + 2; ++x)
       if (expected.In(x, y) != actual.Contains(x, y))
-        return testing::AssertionFailure() << "point (" << x << ", " << y << ") of "
-                                           << testing::PrintToString(actual.Rects());
+        return testing::AssertionFailure()
+               << "point (" << x << ", " << y << ") of " << testing::PrintToString(RectList(actual));
   return testing::AssertionSuccess();
 }
 
@@ -110,8 +111,8 @@ std::optional<SlowRegion> OracleCreateRegion(const OraclePicture& picture, const
   return region;
 }
 
-OracleBuild OracleBuildRegion(const OraclePicture& picture, const std::vector<TColor>& colors, bool button, int style,
-                              IVRXProgress* progress) {
+OracleBuild OracleBuildRegion(const OraclePicture& picture, const std::vector<TColor>& colors, bool button,
+                              int style, IVRXProgress* progress) {
   const int scale = button ? 33 : style < 1 ? 100 : 50;
   int offset = 0;
   OracleBuild build;

@@ -25,6 +25,11 @@ class SlowRegion {
   std::vector<bool> points_;
 };
 
+// The rectangles in a form that can be compared and printed.
+inline std::vector<TRect> RectList(const TRegion& region) {
+  return {region.Rects().begin(), region.Rects().end()};
+}
+
 // The same set as banded rectangles, the same bounds, and the same answer for every point of the field and
 // around it.
 testing::AssertionResult Same(const SlowRegion& expected, const TRegion& actual);
@@ -32,15 +37,15 @@ testing::AssertionResult Same(const SlowRegion& expected, const TRegion& actual)
 std::optional<SlowRegion> OracleCreateRegion(const OraclePicture& picture, const std::vector<TColor>& colors,
                                              int scale, IVRXProgress* progress);
 // A null region has no points and empty bounds. `painter` is 2 or 3.
-void OraclePaintBorder(int painter, OraclePicture& picture, const SlowRegion* region, int style, TRegionPhase phase,
-                       IVRXProgress* progress);
+void OraclePaintBorder(int painter, OraclePicture& picture, const SlowRegion* region, int style,
+                       TRegionPhase phase, IVRXProgress* progress);
 
 struct OracleBuild {
   std::optional<SlowRegion> Region;
   OraclePicture Border, First, Second;
 };
 // `style` is an index of the list of border styles, or of the looks of a button.
-OracleBuild OracleBuildRegion(const OraclePicture& picture, const std::vector<TColor>& colors, bool button, int style,
-                              IVRXProgress* progress);
+OracleBuild OracleBuildRegion(const OraclePicture& picture, const std::vector<TColor>& colors, bool button,
+                              int style, IVRXProgress* progress);
 
 std::ostream& operator<<(std::ostream& out, const TRect& rect);

@@ -93,7 +93,8 @@ class RandomPainter {
 };
 }  // namespace
 
-TBitmap RandomPicture(Random& random, int width, int height, TColor background, const std::vector<TColor>& inks) {
+TBitmap RandomPicture(Random& random, int width, int height, TColor background,
+                      const std::vector<TColor>& inks) {
   TBitmap bitmap(width, height);
   if (bitmap.Empty()) return bitmap;
   bitmap.Fill(background);
@@ -101,14 +102,26 @@ TBitmap RandomPicture(Random& random, int width, int height, TColor background, 
   switch (random.Below(10)) {
     case 0:
     case 1:
-    case 2: paint.Noise(); break;
+    case 2:
+      paint.Noise();
+      break;
     case 3:
-    case 4: paint.Blobs(); break;
+    case 4:
+      paint.Blobs();
+      break;
     case 5:
-    case 6: paint.Strokes(); break;
-    case 7: paint.Stripes(); break;
-    case 8: paint.Full(); break;
-    default: paint.FewDots(); break;
+    case 6:
+      paint.Strokes();
+      break;
+    case 7:
+      paint.Stripes();
+      break;
+    case 8:
+      paint.Full();
+      break;
+    default:
+      paint.FewDots();
+      break;
   }
   return bitmap;
 }

@@ -27,7 +27,8 @@ TColor RandomPlainColor(Random& random);
 TColor RandomSpecialColor(Random& random);
 
 // A picture of the background with marks of the inks; all are plain colours.
-TBitmap RandomPicture(Random& random, int width, int height, TColor background, const std::vector<TColor>& inks);
+TBitmap RandomPicture(Random& random, int width, int height, TColor background,
+                      const std::vector<TColor>& inks);
 
 // Rectangles that lie, at least in part, within the field or across its edges; some are single points.
 std::vector<TRect> RandomRects(Random& random, int count, const TRect& field);

@@ -4,14 +4,20 @@
 
 namespace {
 ButtonRun RunOf(const GoldenCase& c) {
-  return {.Colors = {.T = c.Color("T"), .L = c.Color("L"), .S = c.Color("S"), .DC = c.Color("DC"),
-                     .P = c.Color("P"), .K = c.Color("K"), .BC = c.Color("BC")},
+  return {.Colors = {.T = c.Color("T"),
+                     .L = c.Color("L"),
+                     .S = c.Color("S"),
+                     .DC = c.Color("DC"),
+                     .P = c.Color("P"),
+                     .K = c.Color("K"),
+                     .BC = c.Color("BC")},
           .Semi = c.Bool("semiTransparent"),
           .Width = c.Int("BW")};
 }
 
 // Runs the case with a progress and an abort at `abortAt`; -1 sets the flag before.
-void CheckRun(const GoldenCase& golden, const ButtonRun& run, bool withProgress, const PercentRuns& percents) {
+void CheckRun(const GoldenCase& golden, const ButtonRun& run, bool withProgress,
+              const PercentRuns& percents) {
   const TBitmap source = golden.Picture("src");
   const int abortAt = golden.Int("abortAt");
   const AbortFlag flag(abortAt < 0);
@@ -51,8 +57,9 @@ TEST_P(GoldenExecute, TheLowerLeftPixelIsTheBackground) {
   EXPECT_EQ(background, c.Color("T"));
   const std::vector<TColor> colors = c.Colors("colours");
   ASSERT_EQ(colors.size(), 4u);
-  const ButtonRun run{.Colors = {.T = background, .L = colors[2], .S = colors[3], .DC = colors[1], .BC = colors[0]},
-                      .Width = c.Int("BW")};
+  const ButtonRun run{
+      .Colors = {.T = background, .L = colors[2], .S = colors[3], .DC = colors[1], .BC = colors[0]},
+      .Width = c.Int("BW")};
   // The 0 that ends the list is sent by whoever runs the drawing.
   QJsonArray percents = c["percents"].toArray();
   ASSERT_EQ(percents.last().toInt(-1), 0);
@@ -60,7 +67,8 @@ TEST_P(GoldenExecute, TheLowerLeftPixelIsTheBackground) {
   CheckRun(c, run, true, RunsOf(percents));
 }
 
-INSTANTIATE_TEST_SUITE_P(Known, GoldenExecute, testing::ValuesIn(GoldenCases("draw3d", "execute")), GoldenName);
+INSTANTIATE_TEST_SUITE_P(Known, GoldenExecute, testing::ValuesIn(GoldenCases("draw3d", "execute")),
+                         GoldenName);
 
 class GoldenSemi : public testing::TestWithParam<GoldenCase> {};
 

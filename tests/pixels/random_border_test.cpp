@@ -9,11 +9,16 @@ const TRect Field{-40, -40, 90, 70};
 // The field that holds a case: near the picture, around it, or wholly to one side.
 TRect RandomField(Random& random, int width, int height) {
   switch (random.Below(6)) {
-    case 0: return {-20, -20, width + 20, height + 20};
-    case 1: return {-30, -30, 0, 0};  // ends at or before the first pixel
-    case 2: return {-25, 0, 1, std::max(height, 1)};
-    case 3: return {width, height, width + 12, height + 12};
-    default: return {-3, -3, width + 3, height + 3};
+    case 0:
+      return {-20, -20, width + 20, height + 20};
+    case 1:
+      return {-30, -30, 0, 0};  // ends at or before the first pixel
+    case 2:
+      return {-25, 0, 1, std::max(height, 1)};
+    case 3:
+      return {width, height, width + 12, height + 12};
+    default:
+      return {-3, -3, width + 3, height + 3};
   }
 }
 
@@ -59,10 +64,11 @@ class RandomBorder : public testing::TestWithParam<int> {};
 TEST_P(RandomBorder, IsPaintedAsByTheSlowReference) {
   Random random(static_cast<unsigned>(6000 + GetParam()));
   for (int i = 0; i < 2500; ++i) {
-    const int width = random.Percent(10) ? random.Between(60, 68) : random.Below(25), height = random.Below(25);
+    const int width = random.Percent(10) ? random.Between(60, 68) : random.Below(25),
+              height = random.Below(25);
     const TBitmap source = RandomPicture(random, width, height, clAqua, {clRed, clBlack, clWhite, clGray});
-    const std::vector<TRect> rects =
-        RandomRects(random, random.Percent(20) ? 40 : random.Between(0, 8), RandomField(random, width, height));
+    const std::vector<TRect> rects = RandomRects(random, random.Percent(20) ? 40 : random.Between(0, 8),
+                                                 RandomField(random, width, height));
     ASSERT_NO_FATAL_FAILURE(Compare(random, source, rects)) << "case " << i << " of shard " << GetParam();
   }
 }

@@ -55,10 +55,17 @@ RandomCase MakeCase(Random& random, bool wide) {
   const auto side = [&](int n) { return std::max(n + 2 * run.Width, 0); };
   const int pumps = side(width) * side(height) * std::max(run.Width + 2, 0);
   switch (random.Below(8)) {
-    case 0: made.AbortAt = random.Between(1, 3); break;
-    case 1: made.AbortAt = random.Between(1, pumps + 1); break;
-    case 2: made.AbortAt = pumps - random.Between(-1, 2); break;
-    default: break;
+    case 0:
+      made.AbortAt = random.Between(1, 3);
+      break;
+    case 1:
+      made.AbortAt = random.Between(1, pumps + 1);
+      break;
+    case 2:
+      made.AbortAt = pumps - random.Between(-1, 2);
+      break;
+    default:
+      break;
   }
   return made;
 }
@@ -68,8 +75,13 @@ std::string Describe(const RandomCase& made) {
   std::string text = "width " + std::to_string(made.Run.Width) + (made.Run.Semi ? " semi" : "") +
                      (made.Progress ? " progress" : "") + " abort at " + std::to_string(made.AbortAt) +
                      (made.AbortBefore ? " and before" : "");
-  for (const auto& [name, color] : {std::pair{" T ", c.T}, {" L ", c.L}, {" S ", c.S}, {" DC ", c.DC},
-                                    {" P ", c.P}, {" K ", c.K}, {" BC ", c.BC}})
+  for (const auto& [name, color] : {std::pair{" T ", c.T},
+                                    {" L ", c.L},
+                                    {" S ", c.S},
+                                    {" DC ", c.DC},
+                                    {" P ", c.P},
+                                    {" K ", c.K},
+                                    {" BC ", c.BC}})
     text += name + ColorToString(color).toStdString();
   return text + "\nsource " + OraclePicture(made.Source).Text();
 }
@@ -102,6 +114,17 @@ TEST(RandomButton3D, TheWidestRingsAreDrawnAsByTheSlowReference) {
     RandomCase made = MakeCase(random, i % 3 == 0);
     made.Run.Width = random.Between(8, 40);
     ASSERT_TRUE(SameAsOracle(made.Source, made.Run, true, 0)) << "case " << i << ": " << Describe(made);
+  }
+}
+
+TEST(RandomButton3D, LargePicturesAreDrawnAsByTheSlowReference) {
+  Random random(78);
+  for (int i = 0; i < 4; ++i) {
+    RandomCase made = MakeCase(random, false);
+    made.Run.Width = i;
+    made.Source =
+        RandomPicture(random, 450 + 37 * i, 330 - 29 * i, made.Run.Colors.T, {clRed, made.Run.Colors.K});
+    ASSERT_TRUE(SameAsOracle(made.Source, made.Run, i % 2 == 0, 0)) << "case " << i;
   }
 }
 
