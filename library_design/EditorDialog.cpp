@@ -3,12 +3,7 @@
 #include <QtWidgets>
 
 EditorDialog::EditorDialog(const QString& caption, QSize clientSize, QWidget* parent, int previewWidth)
-    : QDialog(parent, Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowSystemMenuHint |
-                          Qt::WindowCloseButtonHint),
-      clientSize_(clientSize) {
-  setWindowTitle(caption);
-  setModal(true);
-
+    : ModalDialog(caption, parent), clientSize_(clientSize) {
   auto* settings = new QFrame(this);
   settings->setObjectName(QStringLiteral("settings"));
   settings->setAutoFillBackground(true);
@@ -92,31 +87,4 @@ void EditorDialog::FinishLayout(bool fixed) {
   setMinimumSize(size);
   setSizeGripEnabled(true);
   resize(size);
-}
-
-int EditorDialog::ShowModal() {
-  const int result = exec();
-  if (error_) std::rethrow_exception(std::exchange(error_, nullptr));
-  return result == QDialog::Accepted ? mrOk : mrCancel;
-}
-
-void EditorDialog::FormActivate() { activated = true; }
-
-void EditorDialog::showEvent(QShowEvent* event) {
-  QDialog::showEvent(event);
-  if (event->spontaneous()) return;
-  if (const QScreen* s = screen()) move(s->availableGeometry().center() - rect().center());
-  FormActivate();
-}
-
-void EditorDialog::done(int result) {
-  if (isVisible()) {
-    try {
-      FormClose();
-    } catch (...) {
-      error_ = std::current_exception();
-      result = QDialog::Rejected;
-    }
-  }
-  QDialog::done(result);
 }

@@ -8,21 +8,29 @@ PictureView::PictureView(QWidget* parent) : QWidget(parent) { setMouseTracking(t
 
 void PictureView::SetPicture(const TBitmap& picture) {
   picture_.Assign(&picture);
+  shown_ = picture.Image();
   updateGeometry();
   update();
 }
 
-QSize PictureView::sizeHint() const { return {picture_.Width(), picture_.Height()}; }
+void PictureView::SetImage(const QImage& image) {
+  picture_ = TBitmap();
+  shown_ = image;
+  updateGeometry();
+  update();
+}
+
+QSize PictureView::sizeHint() const { return shown_.size(); }
 
 QPoint PictureView::Origin() const {
-  return {std::max(0, (width() - picture_.Width()) / 2), std::max(0, (height() - picture_.Height()) / 2)};
+  return {std::max(0, (width() - shown_.width()) / 2), std::max(0, (height() - shown_.height()) / 2)};
 }
 
 void PictureView::paintEvent(QPaintEvent* event) {
-  if (picture_.Empty()) return;
+  if (shown_.isNull()) return;
   QPainter painter(this);
   const QRect part = event->rect().intersected(QRect(Origin(), sizeHint()));
-  painter.drawImage(part.topLeft(), picture_.Image(), part.translated(-Origin()));
+  painter.drawImage(part.topLeft(), shown_, part.translated(-Origin()));
 }
 
 void PictureView::mousePressEvent(QMouseEvent* event) {
@@ -30,7 +38,7 @@ void PictureView::mousePressEvent(QMouseEvent* event) {
 }
 void PictureView::mouseMoveEvent(QMouseEvent* event) { emit MouseMove(PixelAt(event->pos())); }
 
-QWidget* ScrollBoxOf(PictureView* view, QWidget* parent) {
+QScrollArea* ScrollBoxOf(PictureView* view, QWidget* parent) {
   auto* box = new QScrollArea(parent);
   box->setFrameShape(QFrame::NoFrame);
   box->setWidgetResizable(true);

@@ -2,6 +2,8 @@
 #pragma once
 #include <QWidget>
 
+class QScrollArea;
+
 #include "vcl/Bitmap.h"
 
 class PictureView : public QWidget {
@@ -11,6 +13,8 @@ class PictureView : public QWidget {
   // Keeps a copy, which shares the pixels.
   void SetPicture(const TBitmap& picture);
   const TBitmap& Picture() const { return picture_; }
+  // Something that is only to be looked at and may be transparent; null is nothing.
+  void SetImage(const QImage& image);
   // The pixel at a place of the widget; it may lie outside of the picture.
   QPoint PixelAt(QPoint place) const { return place - Origin(); }
   QSize sizeHint() const override;
@@ -29,7 +33,8 @@ class PictureView : public QWidget {
  private:
   QPoint Origin() const;
   TBitmap picture_;
+  QImage shown_;
 };
 
 // A picture view in a box that scrolls when the picture is larger.
-QWidget* ScrollBoxOf(PictureView* view, QWidget* parent);
+QScrollArea* ScrollBoxOf(PictureView* view, QWidget* parent);
