@@ -45,4 +45,6 @@ int RenderCommand(const QStringList& arguments, Console& console);
 int GetCommand(const QStringList& arguments, Console& console);
 int SetCommand(const QStringList& arguments, Console& console);
 int PackageCommand(const QStringList& arguments, Console& console);
+int Effect3DCommand(const QStringList& arguments, Console& console);
+int RegionCommand(const QStringList& arguments, Console& console);
 int RegistrationsCommand(const QStringList& arguments, Console& console);

@@ -20,7 +20,7 @@ const QMap<QString, QSet<QString>>& Allowed() {
       {"package", {"library_design", "library", "dclstd", "designintf", "vcl", "rtl"}},
       {"ide", {"forms", "designintf", "vcl", "rtl"}},
       {"designer", {"ide", "forms", "dclstd", "designintf", "vcl", "rtl"}},
-      {"cli", {"ide", "forms", "dclstd", "designintf", "vcl", "rtl"}},
+      {"cli", {"ide", "library", "forms", "dclstd", "designintf", "vcl", "rtl"}},
   };
   return table;
 }
