@@ -49,7 +49,10 @@ void EditorDialog::AddRow(const QString& text, QWidget* control, QWidget* button
   grid_->setColumnStretch(1, 1);
 }
 
-void EditorDialog::AddWide(QWidget* widget) { grid_->addWidget(widget, grid_->rowCount(), 1, 1, 2); }
+void EditorDialog::AddWide(QWidget* widget) {
+  // Over the column of buttons, too, where there is one.
+  grid_->addWidget(widget, grid_->rowCount(), 1, 1, grid_->columnCount() > 2 ? 2 : 1);
+}
 
 void EditorDialog::SetPreview(QWidget* preview) { previewBox_->addWidget(preview); }
 

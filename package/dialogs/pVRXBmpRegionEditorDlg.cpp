@@ -86,6 +86,7 @@ QWidget* TVRXfrmRegionFromBMPdlg::BuildImagePage() {
   cl->installEventFilter(this);
 
   auto* top = new QHBoxLayout;
+  top->setSpacing(8);
   top->addWidget(LoadButton);
   top->addWidget(DimLabel, 1);
   auto* zoomTitle = new QHBoxLayout;
