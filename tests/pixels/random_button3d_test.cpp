@@ -117,6 +117,37 @@ TEST(RandomButton3D, TheWidestRingsAreDrawnAsByTheSlowReference) {
   }
 }
 
+// Large pictures in which few pixels change from ring to ring: little noise, some letters, a frame far away.
+class RandomSparseButton3D : public testing::TestWithParam<int> {};
+
+TEST_P(RandomSparseButton3D, IsDrawnAsByTheSlowReference) {
+  Random random(static_cast<unsigned>(2500 + GetParam()));
+  for (int i = 0; i < 25; ++i) {
+    RandomCase made = MakeCase(random, true);
+    ButtonRun& run = made.Run;
+    run.Width = random.Between(2, 9);
+    const int width = random.Between(150, 400), height = random.Between(64, 160);
+    made.Source = TBitmap(width, height);
+    made.Source.Fill(run.Colors.T);
+    const std::vector<TColor> inks = RandomInks(random, run.Colors, run.Semi);
+    for (int n = random.Between(1, 12); n > 0; --n) {
+      // Often at the border of two words of 64 columns.
+      const int x =
+          random.Percent(50) ? random.Below(width) : 64 * random.Below(6) - run.Width + random.Between(-3, 3);
+      const TBitmap part =
+          RandomPicture(random, random.Between(1, 12), random.Between(1, 12), run.Colors.T, inks);
+      made.Source.Draw(x, random.Between(-6, height), part);
+    }
+    made.AbortAt = 0;
+    made.AbortBefore = false;
+    made.Progress = i % 5 == 0;
+    ASSERT_TRUE(SameAsOracle(made.Source, run, made.Progress, 0))
+        << "case " << i << " of shard " << GetParam();
+  }
+}
+
+INSTANTIATE_TEST_SUITE_P(Shard, RandomSparseButton3D, testing::Range(0, 8));
+
 TEST(RandomButton3D, LargePicturesAreDrawnAsByTheSlowReference) {
   Random random(78);
   for (int i = 0; i < 4; ++i) {
