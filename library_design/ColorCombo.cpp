@@ -5,6 +5,7 @@
 #include "dclstd/ColorDialog.h"
 #include "designintf/CustomColors.h"
 #include "library_design/ColorDialogs.h"
+#include "library_design/pVRXCommon.h"
 
 TVRXColorComboBox::TVRXColorComboBox(TVRXColorStyles styles, QWidget* parent)
     : QComboBox(parent), styles_(styles) {
@@ -60,8 +61,10 @@ void TVRXColorComboBox::Choose(TColor color) {
 
 bool TVRXColorComboBox::Execute() {
   TColor color = selected_;
+  const QStringList before = customColors_;
   const bool chosen = ChooseColor(this, color, customColors_);
   Fill();
+  if (customColors_ != before) emit CustomColorsChanged();
   if (chosen) Choose(color);
   return chosen;
 }
@@ -75,4 +78,16 @@ bool TVRXColorComboBox::ExecuteEnh(QStringList& customColors) {
   else
     SetSelected(selected_);
   return chosen;
+}
+
+void ShareCustomColors(const std::vector<TVRXColorComboBox*>& combos) {
+  QStringList colors;
+  VRXLoadCustomColors(colors);
+  for (TVRXColorComboBox* combo : combos) {
+    combo->SetCustomColors(colors);
+    QObject::connect(combo, &TVRXColorComboBox::CustomColorsChanged, combo, [combos, combo] {
+      for (TVRXColorComboBox* other : combos)
+        if (other != combo) other->SetCustomColors(combo->CustomColors());
+    });
+  }
 }

@@ -34,6 +34,8 @@ class TVRXColorComboBox : public QComboBox {
 
  signals:
   void Change();
+  // Colours were added or removed in a dialog.
+  void CustomColorsChanged();
 
  private:
   void Fill();
@@ -42,3 +44,6 @@ class TVRXColorComboBox : public QComboBox {
   TColor selected_ = clBlack;
   QStringList customColors_;
 };
+
+// Loads the IDE's custom colours into all of the combos; from then on what is changed in one is in all.
+void ShareCustomColors(const std::vector<TVRXColorComboBox*>& combos);

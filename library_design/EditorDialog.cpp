@@ -2,13 +2,8 @@
 
 #include <QtWidgets>
 
-EditorDialog::EditorDialog(const QString& caption, QSize clientSize, QWidget* parent)
-    : QDialog(parent, Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowSystemMenuHint |
-                          Qt::WindowCloseButtonHint),
-      clientSize_(clientSize) {
-  setWindowTitle(caption);
-  setModal(true);
-
+EditorDialog::EditorDialog(const QString& caption, QSize clientSize, QWidget* parent, int previewWidth)
+    : ModalDialog(caption, parent), clientSize_(clientSize) {
   auto* settings = new QFrame(this);
   settings->setObjectName(QStringLiteral("settings"));
   settings->setAutoFillBackground(true);
@@ -21,12 +16,12 @@ EditorDialog::EditorDialog(const QString& caption, QSize clientSize, QWidget* pa
   settingsBox->addLayout(grid_);
   settingsBox->addStretch(1);
 
-  auto* right = new QWidget(this);
-  right->setFixedWidth(198);
-  auto* rightBox = new QVBoxLayout(right);
+  right_ = new QWidget(this);
+  right_->setMinimumWidth(previewWidth);
+  auto* rightBox = new QVBoxLayout(right_);
   rightBox->setContentsMargins(12, 16, 12, 12);
   rightBox->setSpacing(8);
-  auto* quiet = new QFrame(right);
+  auto* quiet = new QFrame(right_);
   quiet->setObjectName(QStringLiteral("previewPanel"));
   quiet->setFrameShape(QFrame::StyledPanel);
   previewBox_ = new QVBoxLayout(quiet);
@@ -40,7 +35,7 @@ EditorDialog::EditorDialog(const QString& caption, QSize clientSize, QWidget* pa
   all->setContentsMargins(0, 0, 0, 0);
   all->setSpacing(0);
   all->addWidget(settings, 1);
-  all->addWidget(right);
+  all->addWidget(right_);
 }
 
 void EditorDialog::AddRow(const QString& text, QWidget* control, QWidget* button) {
@@ -77,31 +72,19 @@ void EditorDialog::SetTabSequence(const std::vector<QWidget*>& widgets) {
   for (std::size_t i = 1; i < widgets.size(); ++i) setTabOrder(widgets[i - 1], widgets[i]);
 }
 
-void EditorDialog::FinishLayout() { setFixedSize(clientSize_.expandedTo(minimumSizeHint())); }
+void EditorDialog::AddBelowPreview(QWidget* widget) { buttons_->addWidget(widget); }
 
-int EditorDialog::ShowModal() {
-  const int result = exec();
-  if (error_) std::rethrow_exception(std::exchange(error_, nullptr));
-  return result == QDialog::Accepted ? mrOk : mrCancel;
-}
-
-void EditorDialog::FormActivate() { activated = true; }
-
-void EditorDialog::showEvent(QShowEvent* event) {
-  QDialog::showEvent(event);
-  if (event->spontaneous()) return;
-  if (const QScreen* s = screen()) move(s->availableGeometry().center() - rect().center());
-  FormActivate();
-}
-
-void EditorDialog::done(int result) {
-  if (isVisible()) {
-    try {
-      FormClose();
-    } catch (...) {
-      error_ = std::current_exception();
-      result = QDialog::Rejected;
-    }
+void EditorDialog::FinishLayout(bool fixed) {
+  const QSize size = clientSize_.expandedTo(minimumSizeHint());
+  auto* all = static_cast<QHBoxLayout*>(layout());
+  all->setStretch(0, fixed ? 1 : 0);
+  all->setStretch(1, fixed ? 0 : 1);
+  if (fixed) {
+    right_->setFixedWidth(right_->minimumWidth());
+    setFixedSize(size);
+    return;
   }
-  QDialog::done(result);
+  setMinimumSize(size);
+  setSizeGripEnabled(true);
+  resize(size);
 }

@@ -1,43 +1,25 @@
 // The base of the library's editor dialogs: a fixed window with settings on the left and a preview and the
 // buttons on the right. The code that shows a dialog owns it.
 #pragma once
-#include <QDialog>
-#include <exception>
 #include <vector>
+
+#include "library_design/ModalDialog.h"
 
 class QGridLayout;
 class QLabel;
 class QPushButton;
 class QVBoxLayout;
 
-constexpr int mrOk = 1;
-constexpr int mrCancel = 2;
+constexpr int DefaultPreviewWidth = 198;
 
-class EditorDialog : public QDialog {
+class EditorDialog : public ModalDialog {
   Q_OBJECT
  public:
   // The client area is at least `clientSize`, and more where font or language need it.
-  EditorDialog(const QString& caption, QSize clientSize, QWidget* parent = nullptr);
-
-  // Shows the dialog and waits. 1 when it was confirmed; closing it in any other way is 2. An exception
-  // thrown by one of the dialog's handlers closes it and comes out here.
-  int ShowModal();
-
-  bool activated = false;  // from the first activation on
-  virtual void FormActivate();
-  virtual void FormClose() {}
+  EditorDialog(const QString& caption, QSize clientSize, QWidget* parent = nullptr,
+               int previewWidth = DefaultPreviewWidth);
 
  protected:
-  // Runs a handler; what it throws is kept for ShowModal.
-  template <class F>
-  void Guarded(F&& handler) {
-    try {
-      handler();
-    } catch (...) {
-      error_ = std::current_exception();
-      reject();
-    }
-  }
   // A row of the settings: label, control and, behind it, an optional button.
   void AddRow(const QString& label, QWidget* control, QWidget* button = nullptr);
   void AddWide(QWidget* widget);
@@ -48,16 +30,16 @@ class EditorDialog : public QDialog {
   void AddOk(QPushButton* button);
   void AddCancel(QPushButton* button);
   void SetTabSequence(const std::vector<QWidget*>& widgets);
-  // To be called when all controls are there.
-  void FinishLayout();
-
-  void showEvent(QShowEvent* event) override;
-  void done(int result) override;
+  // Something between the preview and the buttons.
+  void AddBelowPreview(QWidget* widget);
+  // To be called when all controls are there. A fixed dialog has just the size it needs; in the others the
+  // room for the preview can be changed.
+  void FinishLayout(bool fixed = true);
 
  private:
   QSize clientSize_;
   QGridLayout* grid_;
   QVBoxLayout* previewBox_;
+  QWidget* right_;
   QVBoxLayout* buttons_;
-  std::exception_ptr error_;
 };

@@ -12,18 +12,32 @@ void ControlView::SetControl(TControl* control) {
   if (control_) control_->SetHost(nullptr);
   control_ = control;
   if (control_) control_->SetHost(this);
+  Fill();
   updateGeometry();
   update();
 }
 
 void ControlView::ControlChanged(TControl&) { update(); }
 
-QSize ControlView::sizeHint() const { return control_ ? control_->BoundsRect().size() : QSize(80, 40); }
+QSize ControlView::sizeHint() const {
+  return control_ && !fill_ ? control_->BoundsRect().size() : QSize(80, 40);
+}
 
 void ControlView::SetShrinkToFit(bool shrink) {
   shrink_ = shrink;
   update();
 }
+
+void ControlView::SetFillView(bool fill) {
+  fill_ = fill;
+  Fill();
+}
+
+void ControlView::Fill() {
+  if (fill_ && control_) control_->SetBounds(0, 0, width(), height());
+}
+
+void ControlView::resizeEvent(QResizeEvent*) { Fill(); }
 
 double ControlView::Scale() const {
   if (!shrink_ || !control_ || control_->Width() == 0 || control_->Height() == 0) return 1;

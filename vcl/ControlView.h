@@ -14,6 +14,8 @@ class ControlView : public QWidget, public IControlHost {
   TControl* Control() const { return control_; }
   // A control larger than the view is drawn smaller instead of being cut; off at first.
   void SetShrinkToFit(bool shrink);
+  // The control always has the size of the view; off at first.
+  void SetFillView(bool fill);
   double Scale() const;
 
   void ControlChanged(TControl& control) override;
@@ -25,9 +27,11 @@ class ControlView : public QWidget, public IControlHost {
  protected:
   void paintEvent(QPaintEvent* event) override;
   void mouseReleaseEvent(QMouseEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
 
  private:
   QPointF Origin() const;
+  void Fill();
   TControl* control_ = nullptr;
-  bool shrink_ = false;
+  bool shrink_ = false, fill_ = false;
 };

@@ -1,5 +1,6 @@
 #include "package/component_editors/pVRXCEMain.h"
 
+#include "library/controls/Button3D.h"
 #include "library/controls/LEDLabel.h"
 #include "package/property_editors/pVRXCPGetMain.h"
 
@@ -15,4 +16,15 @@ void TVRXLEDLabelComponentEditor::ExecuteVerb(int index) {
 
 bool TVRXLEDLabelComponentEditor::EditProperty(const TPropertyEditor& property) const {
   return property.GetName() == QStringLiteral("LED");
+}
+
+int TVRXExtGraphicButtonComponentEditor::GetVerbCount() const {
+  return As<TVRXCustom3DButton>(GetComponent()) ? 1 : 0;
+}
+QString TVRXExtGraphicButtonComponentEditor::GetVerb(int index) const {
+  return index == 0 && GetVerbCount() > 0 ? QStringLiteral("Button-Editor") : QString();
+}
+void TVRXExtGraphicButtonComponentEditor::ExecuteVerb(int index) {
+  auto* button = As<TVRXCustom3DButton>(GetComponent());
+  if (index == 0 && button && VRXCPGetButtonFace3D(*button)) GetDesigner()->Modified();
 }

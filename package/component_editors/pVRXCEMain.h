@@ -13,3 +13,12 @@ class TVRXLEDLabelComponentEditor : public TDefaultEditor {
  protected:
   bool EditProperty(const TPropertyEditor& property) const override;
 };
+
+// Graphic buttons: 3D buttons have the editor of their pictures.
+class TVRXExtGraphicButtonComponentEditor : public TDefaultEditor {
+ public:
+  using TDefaultEditor::TDefaultEditor;
+  void ExecuteVerb(int index) override;
+  QString GetVerb(int index) const override;
+  int GetVerbCount() const override;
+};

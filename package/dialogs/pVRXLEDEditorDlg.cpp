@@ -4,6 +4,7 @@
 
 #include "designintf/IdeTheme.h"
 #include "library/values/LightColor.h"
+#include "library_design/Named.h"
 #include "library_design/pVRXCommon.h"
 
 TVRXLEDEditorDlg::TVRXLEDEditorDlg(QWidget* owner)
@@ -16,25 +17,20 @@ TVRXLEDEditorDlg::TVRXLEDEditorDlg(QWidget* owner)
 TVRXLEDEditorDlg::~TVRXLEDEditorDlg() { testView->SetControl(nullptr); }
 
 void TVRXLEDEditorDlg::Build() {
-  const auto named = [](auto* widget, const char* name, const char* hint) {
-    widget->setObjectName(QString::fromLatin1(name));
-    widget->setToolTip(QString::fromLatin1(hint));
-    return widget;
-  };
-  edhs = named(new TVRXSpinEdit(255, 3, this), "edhs", "Defines the horizontal size of the LED-letters.");
-  edvs = named(new TVRXSpinEdit(255, 3, this), "edvs", "Defines the vertical size of the LED-letters.");
-  edt = named(new TVRXSpinEdit(99, 2, this), "edt", "Defines the thickness of the LED-letters.");
-  cmbb = named(new TVRXColorComboBox, "cmbb", "Defines the color for active LED-letters.");
-  cmbL = named(new TVRXColorComboBox, "cmbL", "Defines the color for inactive LED-letters.");
-  bt1 = named(new QToolButton(this), "bt1", "");
-  bt2 = named(new QToolButton(this), "bt2", "");
+  edhs = Named(new TVRXSpinEdit(255, 3, this), "edhs", "Defines the horizontal size of the LED-letters.");
+  edvs = Named(new TVRXSpinEdit(255, 3, this), "edvs", "Defines the vertical size of the LED-letters.");
+  edt = Named(new TVRXSpinEdit(99, 2, this), "edt", "Defines the thickness of the LED-letters.");
+  cmbb = Named(new TVRXColorComboBox, "cmbb", "Defines the color for active LED-letters.");
+  cmbL = Named(new TVRXColorComboBox, "cmbL", "Defines the color for inactive LED-letters.");
+  bt1 = Named(new QToolButton(this), "bt1", "");
+  bt2 = Named(new QToolButton(this), "bt2", "");
   for (QToolButton* button : {bt1, bt2}) {
     button->setText(QStringLiteral("\u2026"));
     button->setFixedSize(23, 23);
     button->setAccessibleName(tr("Choose a colour"));
   }
   pred =
-      named(new QComboBox(this), "pred", "Defines the color for both \r\nactive and inactive LED-letters.");
+      Named(new QComboBox(this), "pred", "Defines the color for both \r\nactive and inactive LED-letters.");
   pred->setMaxVisibleItems(4);
   auto* note = new QLabel(
       QStringLiteral("Predefined Color-Settings for Active-/InActiveColor\r\ndon't appear in the Combobox."),
@@ -42,7 +38,7 @@ void TVRXLEDEditorDlg::Build() {
   note->setObjectName(QStringLiteral("note"));
   note->setForegroundRole(QPalette::PlaceholderText);
   note->setWordWrap(true);
-  chk = named(
+  chk = Named(
       new QCheckBox(QStringLiteral(" &DisabledDigits"), this), "chk",
       "If DisabledDigits is set to true and\r\nEnabled to false, the LED will be \r\ndisplayed with the "
       "InactiveColor.");
@@ -59,13 +55,13 @@ void TVRXLEDEditorDlg::Build() {
   test->SetCaption(QStringLiteral("Preview"));
   test->LED()->SetSize(1, 9);
   test->LED()->SetSize(3, 7);
-  testView = named(new ControlView(test.get(), this), "test", "Shows the current settings.");
+  testView = Named(new ControlView(test.get(), this), "test", "Shows the current settings.");
   testView->SetShrinkToFit(true);
   SetPreview(testView);
 
-  ok = named(AddButton(QStringLiteral("OK")), "ok", "");
-  Button1 = named(AddButton(QStringLiteral("Cancel")), "Button1", "");
-  reset = named(AddButton(QStringLiteral("Reset")), "reset", "");
+  ok = Named(AddButton(QStringLiteral("OK")), "ok", "");
+  Button1 = Named(AddButton(QStringLiteral("Cancel")), "Button1", "");
+  reset = Named(AddButton(QStringLiteral("Reset")), "reset", "");
   AddOk(ok);
   AddCancel(Button1);
 

@@ -1,6 +1,15 @@
 // Launchers: each opens the dialog of one value type and writes the result into its argument only when the
 // user confirms. True when that happened.
 #pragma once
+#include "library/controls/Button3D.h"
+#include "library/values/Caption.h"
 #include "library/values/LED.h"
+#include "library/values/RegionMask.h"
 
+// The button gets its three pictures, and their size. False also when no picture was chosen.
+bool VRXCPGetButtonFace3D(TVRXCustom3DButton& button);
+// `showMultiLine`: whether the dialog offers the "MultiLine" check box.
+bool VRXCPGetVRXCaption(TVRXCaption& caption, bool showMultiLine);
 bool VRXCPGetLED(TVRXLED& led);
+// `window`: for the shape of a window; else for that of a button with two states.
+bool VRXCPGetRegionMask(TVRXRegionMask& mask, bool window);

@@ -1,6 +1,7 @@
 #include "package/property_editors/pVRXPeMain.h"
 
 #include "package/dialogs/pVRXLEDEditorDlg.h"
+#include "package/property_editors/pVRXCPGetMain.h"
 
 using enum TPropertyAttribute;
 
@@ -18,4 +19,28 @@ void TVRXLEDProperty::Edit() {
   }
   dialog.SetLabels();
   if (dialog.ShowModal() == mrOk) SetOrdValue(dialog.test->LED());
+}
+
+TPropertyAttributes TVRXCaptionProperty::GetAttributes() const {
+  return {paSubProperties, paDialog, paMultiSelect};
+}
+void TVRXCaptionProperty::Edit() {
+  TVRXCaption copy;
+  copy.Assign(GetObjectValue());
+  if (VRXCPGetVRXCaption(copy, true)) SetOrdValue(&copy);
+}
+
+TPropertyAttributes TVRXRegionMaskProperty::GetAttributes() const { return {paDialog}; }
+// The region component shows two states, as a button does; its descendants are shaped windows.
+void TVRXRegionMaskProperty::Edit() {
+  TVRXRegionMask copy;
+  copy.Assign(GetObjectValue());
+  const bool window = GetComponent(0)->ClassType().ClassName() != "TVRXRegion";
+  if (VRXCPGetRegionMask(copy, window)) SetOrdValue(&copy);
+}
+
+TPropertyAttributes TVRXButtonFaceProperty::GetAttributes() const { return {paDialog}; }
+void TVRXButtonFaceProperty::Edit() {
+  auto* button = As<TVRXCustom3DButton>(GetComponent(0));
+  if (button && VRXCPGetButtonFace3D(*button)) Modified();
 }

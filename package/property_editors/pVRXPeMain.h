@@ -9,3 +9,25 @@ class TVRXLEDProperty : public TClassProperty {
   TPropertyAttributes GetAttributes() const override;
   void Edit() override;
 };
+
+class TVRXCaptionProperty : public TClassProperty {
+ public:
+  using TClassProperty::TClassProperty;
+  TPropertyAttributes GetAttributes() const override;
+  void Edit() override;
+};
+
+class TVRXRegionMaskProperty : public TClassProperty {
+ public:
+  using TClassProperty::TClassProperty;
+  TPropertyAttributes GetAttributes() const override;
+  void Edit() override;
+};
+
+// The face of a button; opens the editor that belongs to the kind of button.
+class TVRXButtonFaceProperty : public TClassProperty {
+ public:
+  using TClassProperty::TClassProperty;
+  TPropertyAttributes GetAttributes() const override;
+  void Edit() override;
+};

@@ -4,6 +4,7 @@
 #include <QObject>
 
 #include "package/registration/VRX_RegMain.h"
+#include "package/registration/VRX_RegMainEditors.h"
 
 namespace {
 // In the order of the description record. Units that have neither start-up work nor a Register procedure are
@@ -41,7 +42,7 @@ const std::vector<TUnitEntry>& Units() {
       {"pVRXButtonBarEditorDlg"},
       {"pVRXPeMain"},
       {"pVRXCEMain"},
-      {"VRX_RegMainEditors"},
+      {"VRX_RegMainEditors", nullptr, nullptr, &VRX_RegMainEditors::Register},
       {"VRX_RegMain", nullptr, nullptr, &VRX_RegMain::Register},
   };
   return units;

@@ -2,6 +2,7 @@
 
 #include "designintf/DesignIntf.h"
 #include "library/LibraryClasses.h"
+#include "library/controls/Button3D.h"
 #include "library/controls/LEDLabel.h"
 #include "library_design/pVRXCommon.h"
 #include "package/component_editors/pVRXCEMain.h"
@@ -11,6 +12,7 @@ const std::vector<TPageRow>& PageRows() {
   using enum TPageCall;
   static const std::vector<TPageRow> rows{
       {Components, "VRX Ext", false, {"TVRXLEDLabel"}},
+      {Components, "VRX MM", false, {"TVRX3DEffectButton", "TVRXShapeControl", "TVRXWndButtonShape"}},
   };
   return rows;
 }
@@ -41,5 +43,8 @@ void VRX_RegMain::Register() {
       RegisterComponentEditor(TVRXLEDCustomLabel::StaticClass(),
                               VRX_COMPONENT_EDITOR(TVRXLEDLabelComponentEditor));
     }
+    if (page == "VRX MM")
+      RegisterComponentEditor(TVRXCustom3DButton::StaticClass(),
+                              VRX_COMPONENT_EDITOR(TVRXExtGraphicButtonComponentEditor));
   });
 }

@@ -1,0 +1,63 @@
+#include "library/controls/Button3D.h"
+
+const TClass& TVRXCustom3DButton::StaticClass() {
+  static const TClass cls(
+      DescribeClass<TVRXCustom3DButton>("TVRXCustom3DButton", TGraphicControl::StaticClass())
+          .Declared("ButtonFace", &TVRXCustom3DButton::ButtonFace, &TVRXCustom3DButton::SetButtonFace)
+          .Doc(QStringLiteral("The pictures of the button: up, down and disabled."))
+          .Declared("Down", &TVRXCustom3DButton::Down, &TVRXCustom3DButton::SetDown, false)
+          .Doc(QStringLiteral("Shows the button pressed.")));
+  return cls;
+}
+
+const TClass& TVRX3DEffectButton::StaticClass() {
+  static const TClass cls(
+      DescribeClass<TVRX3DEffectButton>("TVRX3DEffectButton", TVRXCustom3DButton::StaticClass())
+          .PublishAll("Align", "Anchors")
+          .Publish("AutoSize", false)
+          .PublishAll("ButtonFace", "Caption", "Down", "Enabled", "Font", "ParentFont", "ParentShowHint",
+                      "ShowHint", "Visible", "OnClick", "OnDblClick", "OnMouseDown", "OnMouseEnter",
+                      "OnMouseLeave", "OnMouseMove", "OnMouseUp")
+          .ClassDoc(QStringLiteral("A button made of pictures with a 3D effect.")));
+  return cls;
+}
+
+TVRXCustom3DButton::TVRXCustom3DButton(TComponent* owner)
+    : TGraphicControl(owner), face_(std::make_unique<TVRXButtonFace>(this)) {
+  captionFollowsName_ = true;
+  SetBounds(0, 0, 90, 32);
+}
+TVRXCustom3DButton::~TVRXCustom3DButton() = default;
+
+void TVRXCustom3DButton::SetDown(bool v) {
+  if (down_ == v) return;
+  down_ = v;
+  Changed();
+}
+
+void TVRXCustom3DButton::PartChanged(TPersistent& part) {
+  if (&part == face_.get()) AdjustSize();
+  TGraphicControl::PartChanged(part);
+}
+
+QSize TVRXCustom3DButton::AutoSizeHint() const {
+  return face_->Empty() ? QSize(Width(), Height()) : face_->Picture(TVRXButtonState::Up).size();
+}
+
+void TVRXCustom3DButton::Paint(TCanvas& canvas) {
+  const TVRXButtonState state = !Enabled() ? TVRXButtonState::Disabled
+                                : down_    ? TVRXButtonState::Down
+                                           : TVRXButtonState::Up;
+  const QImage& picture = face_->Picture(state);
+  if (picture.isNull()) return PaintPlain(canvas);
+  canvas.Painter().drawImage((Width() - picture.width()) / 2, (Height() - picture.height()) / 2, picture);
+}
+
+// Until it has pictures it looks like any button.
+void TVRXCustom3DButton::PaintPlain(TCanvas& canvas) {
+  canvas.FillRect(ClientRect(), clBtnFace);
+  const QRect outline = canvas.Frame3D(ClientRect(), cl3DDkShadow, cl3DDkShadow, 1);
+  const QRect inside = down_ ? canvas.Frame3D(outline, clBtnShadow, clBtnHighlight, 2)
+                             : canvas.Frame3D(outline, clBtnHighlight, clBtnShadow, 2);
+  canvas.TextRect(inside.translated(down_, down_), Qt::AlignCenter, Caption(), *Font(), Enabled());
+}

@@ -1,0 +1,93 @@
+#include "library/controls/RegionControl.h"
+
+#include "library/values/TextDraw.h"
+
+const TClass& TVRXRegion::StaticClass() {
+  static const TClass cls(DescribeClass<TVRXRegion>("TVRXRegion", TGraphicControl::StaticClass())
+                              .PublishAll("Align", "Anchors")
+                              .Publish("AutoSize", true)
+                              .Published("Down", &TVRXRegion::Down, &TVRXRegion::SetDown, false)
+                              .Doc(QStringLiteral("Shows the button pressed."))
+                              .Publish("Enabled")
+                              .Published("RegionMask", &TVRXRegion::RegionMask, &TVRXRegion::SetRegionMask)
+                              .Doc(QStringLiteral("The shape, and the pictures that are shown in it."))
+                              .PublishAll("ParentShowHint", "ShowHint", "Visible", "OnClick", "OnDblClick",
+                                          "OnMouseDown", "OnMouseEnter", "OnMouseLeave", "OnMouseMove",
+                                          "OnMouseUp")
+                              .ClassDoc(QStringLiteral("A picture cut out in the shape of a region.")));
+  return cls;
+}
+
+TVRXRegion::TVRXRegion(TComponent* owner)
+    : TGraphicControl(owner), mask_(std::make_unique<TVRXRegionMask>(this)) {
+  autoSize_ = true;
+  SetBounds(0, 0, 72, 72);
+}
+TVRXRegion::~TVRXRegion() = default;
+
+void TVRXRegion::SetDown(bool v) {
+  if (down_ == v) return;
+  down_ = v;
+  Changed();
+}
+
+void TVRXRegion::PartChanged(TPersistent& part) {
+  if (&part == mask_.get()) AdjustSize();
+  TGraphicControl::PartChanged(part);
+}
+
+QSize TVRXRegion::AutoSizeHint() const {
+  const QImage& picture = mask_->Shown(0);
+  return picture.isNull() ? QSize(Width(), Height()) : picture.size();
+}
+
+void TVRXRegion::Paint(TCanvas& canvas) {
+  const QImage& picture = mask_->Shown(down_ ? 1 : 0);
+  QPainter& p = canvas.Painter();
+  if (!picture.isNull()) {
+    p.drawImage(0, 0, picture);
+    return;
+  }
+  // Nothing to show yet: an outline says where the shape will be.
+  p.save();
+  p.setRenderHint(QPainter::Antialiasing);
+  p.setPen(QPen(ToQColor(clBtnShadow), 1, Qt::DashLine));
+  p.setBrush(Qt::NoBrush);
+  p.drawEllipse(QRectF(ClientRect()).adjusted(0.5, 0.5, -0.5, -0.5));
+  p.restore();
+}
+
+const TClass& TVRXWndButtonShape::StaticClass() {
+  static const TClass cls(
+      DescribeClass<TVRXWndButtonShape>("TVRXWndButtonShape", TVRXRegion::StaticClass())
+          .PublishAll("Caption", "Color", "Font")
+          .Published("FontFX", &TVRXWndButtonShape::FontFX, &TVRXWndButtonShape::SetFontFX)
+          .Doc(QStringLiteral("Direction, spacing and 3D effect of the letters."))
+          .PublishAll("ParentColor", "ParentFont")
+          .Published("Transparent", &TVRXWndButtonShape::Transparent, &TVRXWndButtonShape::SetTransparent,
+                     true)
+          .Doc(QStringLiteral("Lets what is behind the button show around the shape."))
+          .ClassDoc(QStringLiteral("A button in the shape of a region.")));
+  return cls;
+}
+
+TVRXWndButtonShape::TVRXWndButtonShape(TComponent* owner)
+    : TVRXRegion(owner), fontFx_(std::make_unique<TVRXFxCaption>(this)) {
+  captionFollowsName_ = true;
+}
+TVRXWndButtonShape::~TVRXWndButtonShape() = default;
+
+void TVRXWndButtonShape::SetTransparent(bool v) {
+  if (transparent_ == v) return;
+  transparent_ = v;
+  Changed();
+}
+
+void TVRXWndButtonShape::Paint(TCanvas& canvas) {
+  if (!transparent_) canvas.FillRect(ClientRect(), Color());
+  TVRXRegion::Paint(canvas);
+  TVRXTextOptions options;
+  if (!Enabled()) options.Include(TVRXTextOption::Disabled);
+  VRXDrawTextExt(canvas, Caption(), *fontFx_, *Font(), ClientRect().translated(Down(), Down()), options,
+                 tfCenter | tfVCenter | tfSingleLine, {}, Color());
+}

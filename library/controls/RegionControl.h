@@ -1,0 +1,48 @@
+// Controls that have the shape of a region.
+#pragma once
+#include "library/values/Caption.h"
+#include "library/values/RegionMask.h"
+#include "vcl/Control.h"
+
+// Shows the pictures of its mask inside the mask's region.
+class TVRXRegion : public TGraphicControl {
+  VRX_CLASS(TVRXRegion)
+ public:
+  explicit TVRXRegion(TComponent* owner);
+  ~TVRXRegion() override;
+
+  TVRXRegionMask* RegionMask() const { return mask_.get(); }
+  void SetRegionMask(const TVRXRegionMask* v) { mask_->Assign(v); }
+  // Shown pressed.
+  bool Down() const { return down_; }
+  void SetDown(bool v);
+
+  void Paint(TCanvas& canvas) override;
+
+ protected:
+  QSize AutoSizeHint() const override;
+  void PartChanged(TPersistent& part) override;
+
+ private:
+  std::unique_ptr<TVRXRegionMask> mask_;
+  bool down_ = false;
+};
+
+// A button in the shape of a region, with a text on it.
+class TVRXWndButtonShape : public TVRXRegion {
+  VRX_CLASS(TVRXWndButtonShape)
+ public:
+  explicit TVRXWndButtonShape(TComponent* owner);
+  ~TVRXWndButtonShape() override;
+
+  TVRXFxCaption* FontFX() const { return fontFx_.get(); }
+  void SetFontFX(const TVRXFxCaption* v) { fontFx_->Assign(v); }
+  bool Transparent() const { return transparent_; }
+  void SetTransparent(bool v);
+
+  void Paint(TCanvas& canvas) override;
+
+ private:
+  std::unique_ptr<TVRXFxCaption> fontFx_;
+  bool transparent_ = true;
+};

@@ -1,0 +1,62 @@
+#include "library/controls/ShapeControl.h"
+
+const TClass& TVRXBaseShape::StaticClass() {
+  static const TClass cls(
+      DescribeClass<TVRXBaseShape>("TVRXBaseShape", TGraphicControl::StaticClass())
+          .Declared("BevelColor", &TVRXBaseShape::BevelColor, &TVRXBaseShape::SetBevelColor, clBlack)
+          .Doc(QStringLiteral("Colour of the outline; clNone is none."))
+          .Declared("Brush", &TVRXBaseShape::Brush, &TVRXBaseShape::SetBrush)
+          .Doc(QStringLiteral("How the area is filled."))
+          .Declared("Caption", &TVRXBaseShape::Caption, &TVRXBaseShape::SetCaption)
+          .Doc(QStringLiteral("The text, with its place, font and effects."))
+          .Declared("Transparent", &TVRXBaseShape::Transparent, &TVRXBaseShape::SetTransparent, false)
+          .Doc(QStringLiteral("Lets what is behind the shape show through.")));
+  return cls;
+}
+
+const TClass& TVRXShapeControl::StaticClass() {
+  static const TClass cls(DescribeClass<TVRXShapeControl>("TVRXShapeControl", TVRXBaseShape::StaticClass())
+                              .PublishAll("Align", "Anchors", "BevelColor", "Brush", "Caption", "Enabled",
+                                          "ParentShowHint", "ShowHint", "Transparent", "Visible", "OnClick",
+                                          "OnDblClick", "OnMouseDown", "OnMouseEnter", "OnMouseLeave",
+                                          "OnMouseMove", "OnMouseUp")
+                              .ClassDoc(QStringLiteral("A filled area with an outline and a text.")));
+  return cls;
+}
+
+TVRXBaseShape::TVRXBaseShape(TComponent* owner)
+    : TGraphicControl(owner),
+      brush_(std::make_unique<TBrush>(this)),
+      caption_(std::make_unique<TVRXCaption>(this)) {
+  SetBounds(0, 0, 105, 65);
+}
+TVRXBaseShape::~TVRXBaseShape() = default;
+
+void TVRXBaseShape::SetBevelColor(TColor v) {
+  if (bevelColor_ == v) return;
+  bevelColor_ = v;
+  Changed();
+}
+
+void TVRXBaseShape::SetTransparent(bool v) {
+  if (transparent_ == v) return;
+  transparent_ = v;
+  Changed();
+}
+
+void TVRXBaseShape::Paint(TCanvas& canvas) {
+  const QRect area = ClientRect();
+  QPainter& p = canvas.Painter();
+  if (!transparent_) p.fillRect(area, ToQBrush(*brush_));
+  int edge = 0;
+  if (bevelColor_ != clNone && area.width() > 1 && area.height() > 1) {
+    canvas.Frame3D(area, bevelColor_, bevelColor_, 1);
+    edge = 1;
+  }
+  constexpr int Padding = 2;
+  const QRect room = area.adjusted(edge + Padding, edge + Padding, -edge - Padding, -edge - Padding);
+  p.save();
+  p.setClipRect(area, Qt::IntersectClip);
+  caption_->Draw(canvas, room, Enabled(), brush_->Color());
+  p.restore();
+}

@@ -1,0 +1,43 @@
+// The pictures of a three-dimensional button.
+#pragma once
+#include <array>
+
+#include "library/values/StoredPicture.h"
+#include "rtl/Persistent.h"
+#include "vcl/Bitmap.h"
+
+enum class TVRXButtonState : std::uint8_t { Up, Down, Disabled };
+
+// A picture, black where it is transparent, and its mask: white there, black elsewhere.
+struct TVRXMaskedPicture {
+  TBitmap Picture, Mask;
+};
+// Splits a picture into one with its transparent colour out of it and the mask of that.
+TVRXMaskedPicture VRXBmpCreateMasksExt(const TBitmap& source, TColor transparent);
+
+class TVRXButtonFace : public TOwnedPersistent {
+  VRX_CLASS(TVRXButtonFace)
+ public:
+  explicit TVRXButtonFace(TPersistent* owner = nullptr) : TOwnedPersistent(owner) {}
+
+  // Transparent where the mask is white; null when there is none.
+  const QImage& Picture(TVRXButtonState state) const {
+    return pictures_[static_cast<std::size_t>(state)].Image();
+  }
+  void SetPictures(const TVRXMaskedPicture& up, const TVRXMaskedPicture& down,
+                   const TVRXMaskedPicture& disabled);
+  bool Empty() const { return Picture(TVRXButtonState::Up).isNull(); }
+  void Assign(const TPersistent* source) override;
+
+ private:
+  template <int I>
+  QByteArray Bytes() const {
+    return pictures_[I].Bytes();
+  }
+  template <int I>
+  void SetBytes(const QByteArray& v) {
+    pictures_[I].SetBytes(v);
+    Changed();
+  }
+  std::array<StoredPicture, 3> pictures_;
+};

@@ -1,0 +1,58 @@
+// The shape of a window or a button: a region, and the pictures that are shown in it.
+#pragma once
+#include "library/values/StoredPicture.h"
+#include "rtl/Persistent.h"
+#include "vcl/Bitmap.h"
+#include "vcl/Region.h"
+
+// How many colours the pictures are stored with; the names are those of pixel formats.
+enum class TVRXColorDepth : std::uint8_t { spfDefault, spfMono, spf4bit, spf8bit, spf16bit };
+VRX_ENUM(TVRXColorDepth, {"spfDefault", "spfMono", "spf4bit", "spf8bit", "spf16bit"})
+
+class TVRXRegionMask : public TOwnedPersistent {
+  VRX_CLASS(TVRXRegionMask)
+ public:
+  explicit TVRXRegionMask(TPersistent* owner = nullptr) : TOwnedPersistent(owner) {}
+
+  // Whatever was built; no bytes when there is no region.
+  const QByteArray& RegionData() const { return regionData_; }
+  // Throws EInvalidRegion for bytes that are not region data, and changes nothing then.
+  void SetRegionData(const QByteArray& data);
+  const TRegion& Region() const { return region_; }
+  bool HasRegion() const { return !regionData_.isEmpty(); }
+
+  // Null without a picture. State 0 and 1 are a button's, up and down.
+  const QImage& BorderPicture() const { return border_.Image(); }
+  const QImage& StatePicture(int state) const { return states_[state].Image(); }
+  void SetBorderPicture(const TBitmap& picture);
+  void SetStatePicture(int state, const TBitmap& picture);
+
+  bool Compress() const { return compress_; }
+  void SetCompress(bool v);
+  TVRXColorDepth ColorDepth() const { return colorDepth_; }
+  void SetColorDepth(TVRXColorDepth v);
+
+  // What a control shows: the picture of the state or, without one, the border picture, transparent outside
+  // of the region. Null when there is no region or no picture. Made once and kept until something changes.
+  const QImage& Shown(int state) const;
+
+  void Assign(const TPersistent* source) override;
+
+ private:
+  QByteArray BorderBytes() const { return border_.Bytes(); }
+  void SetBorderBytes(const QByteArray& v);
+  QByteArray FirstBytes() const { return states_[0].Bytes(); }
+  void SetFirstBytes(const QByteArray& v);
+  QByteArray SecondBytes() const { return states_[1].Bytes(); }
+  void SetSecondBytes(const QByteArray& v);
+  void DoChanged() override;
+  void StorageChanged();
+
+  QByteArray regionData_;
+  TRegion region_;
+  StoredPicture border_, states_[2];
+  mutable QImage shown_[2];
+  mutable bool shownValid_[2] = {false, false};
+  bool compress_ = false;
+  TVRXColorDepth colorDepth_ = TVRXColorDepth::spfDefault;
+};

@@ -1,0 +1,145 @@
+#include "library/values/TextDraw.h"
+
+#include <QtMath>
+
+namespace {
+using enum TVRX3DTextStyle;
+
+// One of the copies of a text that make its effect.
+struct Layer {
+  int offset;  // right and down
+  QColor color;
+};
+
+bool Sunken(TVRX3DTextStyle s) { return s == tdSunken || s == tdSunkenShadow || s == tdPColorSunken; }
+bool Lit(TVRX3DTextStyle s) { return s != tdNone && s != tdShadow; }
+bool Thick(TVRX3DTextStyle s) { return s == tdSunkenShadow || s == tdRaisedShadow; }
+
+// From the back to the front, the letters themselves last.
+std::vector<Layer> LayersOf(const TVRXFxCaption& fx, QColor letters, QColor behind) {
+  std::vector<Layer> layers;
+  const int side = Sunken(fx.Style()) ? -1 : 1;  // where the shadow falls
+  const QColor light = ToQColor(fx.LightColor()), shadow = ToQColor(fx.ShadowColor());
+  const auto add = [&](int direction, int depth, QColor color) {
+    if (depth == 0) return;
+    // A thick side is filled up to its depth, the others are a single copy.
+    if (Thick(fx.Style()))
+      for (int i = depth; i > 1; --i) layers.push_back({direction * i, color});
+    layers.push_back({direction * (Thick(fx.Style()) ? 1 : depth), color});
+  };
+  if (Lit(fx.Style())) add(-side, fx.LightDepth(), light);
+  if (fx.Style() != tdNone) add(side, fx.ShadowDepth(), shadow);
+  layers.push_back({0, fx.Style() == tdPColorSunken || fx.Style() == tdPColorRaised ? behind : letters});
+  return layers;
+}
+
+// How far the effect reaches beyond the letters, to the top left and to the bottom right.
+struct Reach {
+  int before = 0, after = 0;
+};
+Reach ReachOf(const TVRXFxCaption& fx) {
+  Reach reach;
+  for (const Layer& layer : LayersOf(fx, {}, {})) {
+    reach.before = std::max(reach.before, -layer.offset);
+    reach.after = std::max(reach.after, layer.offset);
+  }
+  return reach;
+}
+
+double AngleOf(const TVRXFxCaption& fx, const TFont& font) {
+  return fx.Angle() % 360 + font.Orientation() / 10.0;
+}
+
+QFont FontOf(const TVRXFxCaption& fx, const TFont& font) {
+  QFont q = ToQFont(font);
+  if (fx.Tracing() != 0) q.setLetterSpacing(QFont::AbsoluteSpacing, fx.Tracing());
+  return q;
+}
+
+int QtFlags(unsigned flags) {
+  return (flags & tfSingleLine ? Qt::TextSingleLine : 0) |
+         (flags & tfWordBreak && !(flags & tfSingleLine) ? Qt::TextWordWrap : 0) |
+         (flags & tfExpandTabs ? Qt::TextExpandTabs : 0) | (flags & tfNoPrefix ? 0 : Qt::TextShowMnemonic) |
+         (flags & tfCenter  ? Qt::AlignHCenter
+          : flags & tfRight ? Qt::AlignRight
+                            : Qt::AlignLeft);
+}
+
+// The size of a text that is turned by an angle.
+QSizeF Turned(QSizeF size, double degrees) {
+  const double c = std::abs(std::cos(qDegreesToRadians(degrees))),
+               s = std::abs(std::sin(qDegreesToRadians(degrees)));
+  return {size.width() * c + size.height() * s, size.width() * s + size.height() * c};
+}
+
+QSize TextSize(const QString& text, const TVRXFxCaption& fx, const TFont& font, int qtFlags, int width) {
+  const QFontMetrics metrics(FontOf(fx, font));
+  return metrics
+      .boundingRect(QRect(0, 0, width > 0 ? width : 32000, 32000), qtFlags & ~Qt::AlignHorizontal_Mask, text)
+      .size();
+}
+}  // namespace
+
+QRect VRXDrawTextCalcExt(const QString& text, const TVRXFxCaption& fx, const TFont& font, bool multiLine,
+                         int maxWidth) {
+  if (text.isEmpty()) return {};
+  const double angle = AngleOf(fx, font);
+  const Reach reach = ReachOf(fx);
+  const unsigned flags =
+      tfExpandTabs | (multiLine && angle == 0 ? unsigned{tfWordBreak} : unsigned{tfSingleLine});
+  const int room = maxWidth > 0 ? std::max(1, maxWidth - reach.before - reach.after) : 0;
+  const QSizeF size = Turned(TextSize(text, fx, font, QtFlags(flags), room), angle);
+  const int more = reach.before + reach.after;
+  return {0, 0, static_cast<int>(std::ceil(size.width() - 1e-6)) + more,
+          static_cast<int>(std::ceil(size.height() - 1e-6)) + more};
+}
+
+void VRXDrawTextExt(TCanvas& canvas, const QString& text, const TVRXFxCaption& fx, const TFont& font,
+                    const QRect& rect, TVRXTextOptions options, unsigned flags, const QRect& calculated,
+                    TColor behind) {
+  if (text.isEmpty()) return;
+  const double angle = AngleOf(fx, font);
+  if (angle != 0) flags |= tfSingleLine;
+  const Reach reach = ReachOf(fx);
+  const QRect room = rect.adjusted(reach.before, reach.before, -reach.after, -reach.after);
+  const int qtFlags = QtFlags(flags);
+  const int more = reach.before + reach.after;
+  // The text as it lies before it is turned, and the outline it has then.
+  const bool measured = options.Contains(TVRXTextOption::Measured) && angle == 0 && calculated.isValid();
+  const QSize size =
+      measured ? calculated.size() - QSize(more, more)
+               : TextSize(text, fx, font, qtFlags, flags & tfSingleLine ? 0 : std::max(1, room.width()));
+  const QSizeF outline = Turned(size, angle);
+  const auto place = [](double from, double space, double taken, bool centre, bool end) {
+    return from + (centre ? (space - taken) / 2 : end ? space - taken : 0);
+  };
+  const QPointF at(place(room.left(), room.width(), outline.width(), flags & tfCenter, flags & tfRight),
+                   place(room.top(), room.height(), outline.height(), flags & tfVCenter, flags & tfBottom));
+  const QColor letters = options.Contains(TVRXTextOption::Disabled)      ? ToQColor(clGrayText)
+                         : options.Contains(TVRXTextOption::ParentColor) ? ToQColor(behind)
+                                                                         : ToQColor(font.Color());
+  QString shown = text;
+  if (options.Contains(TVRXTextOption::Ellipsis) && flags & tfSingleLine && angle == 0)
+    shown = QFontMetrics(FontOf(fx, font)).elidedText(text, Qt::ElideRight, room.width(), qtFlags);
+  QPainter& p = canvas.Painter();
+  p.save();
+  p.setFont(FontOf(fx, font));
+  for (const Layer& layer : LayersOf(fx, letters, ToQColor(behind))) {
+    if (layer.color.alpha() == 0) continue;
+    p.setPen(layer.color);
+    const double offset = layer.offset;
+    if (angle == 0) {
+      const QRect box(QPoint(static_cast<int>(std::floor(at.x())), static_cast<int>(std::floor(at.y()))),
+                      size);
+      p.drawText(box.translated(layer.offset, layer.offset), qtFlags, shown);
+      continue;
+    }
+    p.save();
+    p.setRenderHint(QPainter::Antialiasing);
+    p.translate(at.x() + outline.width() / 2 + offset, at.y() + outline.height() / 2 + offset);
+    p.rotate(-angle);
+    p.drawText(QRectF(QPointF(-size.width() / 2.0, -size.height() / 2.0), size), qtFlags, shown);
+    p.restore();
+  }
+  p.restore();
+}

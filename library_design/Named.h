@@ -1,0 +1,15 @@
+// Small things that every dialog says of its controls.
+#pragma once
+#include <QIcon>
+#include <QString>
+
+// A control with the name it is known by and its hint.
+template <class W>
+W* Named(W* widget, const char* name, const char* hint) {
+  widget->setObjectName(QString::fromLatin1(name));
+  widget->setToolTip(QString::fromLatin1(hint));
+  return widget;
+}
+
+// A letter with a shadow, for buttons that open font effects.
+QIcon FontFxIcon();

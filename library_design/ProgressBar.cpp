@@ -1,0 +1,44 @@
+#include "library_design/ProgressBar.h"
+
+#include <QCoreApplication>
+#include <QPainter>
+
+TVRXProgressBar::TVRXProgressBar(int segments, QWidget* parent) : QWidget(parent), segments_(segments) {
+  setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+}
+
+void TVRXProgressBar::SetPercent(int percent) {
+  if (percent == percent_) return;
+  percent_ = percent;
+  update();
+}
+
+void TVRXProgressBar::paintEvent(QPaintEvent*) {
+  QPainter p(this);
+  p.setRenderHint(QPainter::Antialiasing);
+  const QRectF frame = QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5);
+  p.setPen(palette().color(QPalette::Mid));
+  p.setBrush(palette().color(QPalette::Base));
+  p.drawRoundedRect(frame, 2, 2);
+  const QRectF room = frame.adjusted(2, 2, -2, -2);
+  const double part = std::clamp(percent_, 0, 100) / 100.0;
+  p.setPen(Qt::NoPen);
+  p.setBrush(palette().color(QPalette::Highlight));
+  if (segments_ == 0) {
+    p.drawRect(QRectF(room.topLeft(), QSizeF(room.width() * part, room.height())));
+    return;
+  }
+  const double step = room.width() / segments_;
+  const int shown = percent_ > 0 ? static_cast<int>(std::ceil(part * segments_ - 1e-9)) : 0;
+  for (int i = 0; i < shown; ++i)
+    p.drawRect(QRectF(room.left() + i * step + 0.5, room.top(), std::max(1.0, step - 1.5), room.height()));
+}
+
+void RunProgress::Report(int percent, std::int64_t) { bar_.SetPercent(percent); }
+
+void RunProgress::ProcessMessages(std::int64_t) {
+  constexpr qint64 Interval = 15;  // milliseconds
+  if (sinceEvents_.elapsed() < Interval) return;
+  QCoreApplication::processEvents();
+  sinceEvents_.restart();
+}

@@ -1,0 +1,324 @@
+#include "package/dialogs/pVRXBmpRegionEditorDlg.h"
+
+#include <QtWidgets>
+
+#include "designintf/IdeTheme.h"
+#include "library_design/Named.h"
+#include "library_design/PictureDialog.h"
+#include "library_design/pVRXCommon.h"
+#include "vcl/Prompts.h"
+
+namespace {
+QColor Readable(const QColor& ground) { return qGray(ground.rgb()) < 128 ? Qt::white : Qt::black; }
+
+// An entry is drawn in the colour it names.
+class ColorItems : public QStyledItemDelegate {
+ public:
+  using QStyledItemDelegate::QStyledItemDelegate;
+  static constexpr int Height = 10;
+  QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex&) const override {
+    return {option.rect.width(), Height};
+  }
+  void paint(QPainter* p, const QStyleOptionViewItem& option, const QModelIndex& index) const override {
+    const QString text = index.data().toString();
+    const QColor color = ToQColor(StringToColor(text));
+    p->save();
+    p->fillRect(option.rect, color);
+    QFont font = option.font;
+    font.setPixelSize(9);
+    p->setFont(font);
+    p->setPen(Readable(color));
+    p->drawText(option.rect, Qt::AlignCenter, text);
+    if (option.state & QStyle::State_Selected) {
+      p->setPen(QPen(option.palette.color(QPalette::Highlight), 2));
+      p->drawRect(option.rect.adjusted(1, 1, -1, -1));
+    }
+    p->restore();
+  }
+};
+}  // namespace
+
+TVRXfrmRegionFromBMPdlg::TVRXfrmRegionFromBMPdlg(QWidget* owner)
+    : ModalDialog(QStringLiteral("Region From Bitmap Editor"), owner) {
+  pages = new QTabWidget(this);
+  pages->addTab(BuildImagePage(), QStringLiteral("Image/Colors"));
+  pages->addTab(BuildBorderPage(), QStringLiteral("Border/Build"));
+  OKButton = Named(new QPushButton(QStringLiteral("Ok"), this), "OKButton", "");
+  CancelButton = Named(new QPushButton(QStringLiteral("Cancel"), this), "CancelButton", "");
+  for (QPushButton* button : {OKButton, CancelButton, LoadButton, BuildButton}) button->setAutoDefault(false);
+  auto* buttons = new QHBoxLayout;
+  buttons->setSpacing(8);
+  buttons->addStretch(1);
+  buttons->addWidget(OKButton);
+  buttons->addWidget(CancelButton);
+  auto* all = new QVBoxLayout(this);
+  all->setContentsMargins(12, 12, 12, 12);
+  all->setSpacing(12);
+  all->addWidget(pages, 1);
+  all->addLayout(buttons);
+  connect(OKButton, &QPushButton::clicked, this, &QDialog::accept);
+  connect(CancelButton, &QPushButton::clicked, this, &QDialog::reject);
+  FormCreate();
+  setSizeGripEnabled(true);
+  resize(QSize(600, 440).expandedTo(minimumSizeHint()));
+}
+TVRXfrmRegionFromBMPdlg::~TVRXfrmRegionFromBMPdlg() = default;
+
+QWidget* TVRXfrmRegionFromBMPdlg::BuildImagePage() {
+  auto* page = new QWidget(this);
+  LoadButton = Named(new QPushButton(QStringLiteral("&Load"), page), "LoadButton", "Load an image");
+  DimLabel = Named(new QLabel(QStringLiteral("Bitmap size:"), page), "DimLabel", "");
+  Image1 = Named(new PictureView(page), "Image1", "Left mouse btn -> select color\nRight mouse btn -> zoom");
+  VRXScrollBox1 = ScrollBoxOf(Image1, page);
+  VRXScrollBox1->setObjectName(QStringLiteral("VRXScrollBox1"));
+  VRXScrollBox1->setFrameShape(QFrame::StyledPanel);
+  zoom = Named(new ZoomBox(page), "zoom", "Left mouse btn -> select color");
+  ViewLabel = Named(new QLabel(page), "ViewLabel", "");
+  cc = Named(new QLabel(page), "cc", "");
+  cc->setAutoFillBackground(true);
+  cc->setAlignment(Qt::AlignCenter);
+  cc->setMinimumHeight(22);
+  cc->setFrameShape(QFrame::StyledPanel);
+  cl = Named(new QListWidget(page), "cl",
+             "Colors which will be excluded from the visible region\nRemove by pressing delete");
+  cl->setItemDelegate(new ColorItems(cl));
+  cl->setUniformItemSizes(true);
+  cl->installEventFilter(this);
+
+  auto* top = new QHBoxLayout;
+  top->addWidget(LoadButton);
+  top->addWidget(DimLabel, 1);
+  auto* zoomTitle = new QHBoxLayout;
+  zoomTitle->addWidget(new QLabel(QStringLiteral("Zoom"), page), 1);
+  zoomTitle->addWidget(ViewLabel);
+  auto* side = new QVBoxLayout;
+  side->setSpacing(6);
+  side->addLayout(zoomTitle);
+  side->addWidget(zoom);
+  side->addWidget(cc);
+  auto* listLabel = new QLabel(QStringLiteral("Colors to be transparent"), page);
+  listLabel->setBuddy(cl);
+  side->addWidget(listLabel);
+  side->addWidget(cl, 1);
+  auto* grid = new QGridLayout(page);
+  grid->setContentsMargins(12, 12, 12, 12);
+  grid->setHorizontalSpacing(12);
+  grid->setVerticalSpacing(8);
+  grid->addLayout(top, 0, 0);
+  grid->addWidget(VRXScrollBox1, 1, 0);
+  grid->addLayout(side, 0, 1, 2, 1);
+  grid->setColumnStretch(0, 1);
+  grid->setRowStretch(1, 1);
+  cl->setFixedWidth(zoom->sizeHint().width());
+  connect(LoadButton, &QPushButton::clicked, this, [this] { Guarded([&] { LoadButtonClick(); }); });
+  connect(Image1, &PictureView::MouseDown, this,
+          [this](Qt::MouseButton b, QPoint p) { Guarded([&] { Image1MouseDown(b, p); }); });
+  connect(Image1, &PictureView::MouseMove, this, [this](QPoint p) { Image1MouseMove(p); });
+  connect(zoom, &ZoomBox::MouseDown, this,
+          [this](Qt::MouseButton b, QPoint p) { Guarded([&] { zoomMouseDown(b, p); }); });
+  connect(zoom, &ZoomBox::MouseMove, this, [this](QPoint p) { zoomMouseMove(p); });
+  return page;
+}
+
+QWidget* TVRXfrmRegionFromBMPdlg::BuildBorderPage() {
+  auto* page = new QWidget(this);
+  cb = Named(new QComboBox(page), "cb", "Select a border style");
+  cb->addItems({QStringLiteral("None"), QStringLiteral("Single"), QStringLiteral("Raised"),
+                QStringLiteral("Lowered"), QStringLiteral("Single-Raised"),
+                QStringLiteral("Single-Lowered")});
+  cb2 = Named(new QComboBox(page), "cb2", "Select a border style");
+  cb2->addItems({QStringLiteral("Win31"), QStringLiteral("Win40"), QStringLiteral("Simple")});
+  cb2->hide();
+  ccb = Named(new QCheckBox(QStringLiteral("Compress image"), page), "ccb", "");
+  colb = Named(new QComboBox(page), "colb", "");
+  for (const QByteArray& name : TypeInfoOf<TVRXColorDepth>::Get().Elements)
+    colb->addItem(QString::fromLatin1(name));
+  BuildButton =
+      Named(new QPushButton(QStringLiteral("&Build"), page), "BuildButton", "Build region and border bitmap");
+  Progress = Named(new TVRXProgressBar(0, page), "Progress", "Shows build progress");
+  // Its room stays when it is not there, so that nothing jumps.
+  QSizePolicy keep = Progress->sizePolicy();
+  keep.setRetainSizeWhenHidden(true);
+  Progress->setSizePolicy(keep);
+  Progress->hide();
+  Result = Named(new PictureView(page), "Result", "");
+  QScrollArea* resultBox = ScrollBoxOf(Result, page);
+  resultBox->setFrameShape(QFrame::StyledPanel);
+
+  auto* grid = new QGridLayout;
+  grid->setHorizontalSpacing(8);
+  grid->setVerticalSpacing(8);
+  styleLabel_ = new QLabel(QStringLiteral("BorderStyle:"), page);
+  styleLabel_->setBuddy(cb);
+  auto* depthLabel = new QLabel(QStringLiteral("Colordepth:"), page);
+  depthLabel->setBuddy(colb);
+  for (QLabel* label : {styleLabel_, depthLabel}) label->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+  grid->addWidget(styleLabel_, 0, 0);
+  grid->addWidget(cb, 0, 1);
+  grid->addWidget(cb2, 0, 1);
+  grid->addWidget(depthLabel, 1, 0);
+  grid->addWidget(colb, 1, 1);
+  grid->addWidget(ccb, 2, 1);
+  grid->addWidget(BuildButton, 3, 1);
+  grid->addWidget(Progress, 4, 1);
+  grid->setRowStretch(5, 1);
+  auto* row = new QHBoxLayout(page);
+  row->setContentsMargins(12, 12, 12, 12);
+  row->setSpacing(12);
+  row->addLayout(grid);
+  row->addWidget(resultBox, 1);
+  connect(cb, &QComboBox::activated, this, [this] { cbChange(); });
+  connect(cb2, &QComboBox::activated, this, [this] { cbChange(); });
+  connect(ccb, &QCheckBox::toggled, this, [this] { Guarded([&] { ccbChange(); }); });
+  connect(colb, &QComboBox::currentIndexChanged, this, [this] { Guarded([&] { colbChange(); }); });
+  connect(BuildButton, &QPushButton::clicked, this, [this] { Guarded([&] { BuildButtonClick(); }); });
+  return page;
+}
+
+void TVRXfrmRegionFromBMPdlg::FormCreate() {
+  mask = std::make_unique<TVRXRegionMask>();
+  buttonFace = false;
+  BuildButton->setEnabled(false);
+  OKButton->setEnabled(false);
+  VRXSetThemeMode(*this, 1);
+  ApplyIDETheme(*this, [this](const QWidget& control) {
+    return &control != Image1 && &control != Result && &control != zoom && &control != cc;
+  });
+}
+
+void TVRXfrmRegionFromBMPdlg::SetButtonFace() {
+  buttonFace = true;
+  cb->hide();
+  cb2->show();
+  styleLabel_->setBuddy(cb2);
+}
+
+void TVRXfrmRegionFromBMPdlg::SetLabels() {
+  ccb->setChecked(mask->Compress());
+  colb->setCurrentIndex(static_cast<int>(mask->ColorDepth()));
+  ShowResult();
+}
+
+void TVRXfrmRegionFromBMPdlg::LoadButtonClick() {
+  TBitmap picture;
+  if (!VRXCPGetPicture(this, picture)) return;
+  Image1->SetPicture(picture);
+  DimLabel->setText(QStringLiteral("Bitmap size: %1x%2").arg(picture.Width()).arg(picture.Height()));
+  BuildButton->setEnabled(true);
+}
+
+void TVRXfrmRegionFromBMPdlg::Pick(TColor color) {
+  const QString text = ColorToString(color);
+  if (cl->findItems(text, Qt::MatchExactly | Qt::MatchCaseSensitive).isEmpty()) {
+    if (cl->count() >= static_cast<int>(MaxTransparentColors)) {
+      Prompts().Inform(this, windowTitle(),
+                       tr("The list is full: %1 colours can be transparent.").arg(cl->count()));
+      return;
+    }
+    cl->addItem(text);
+  }
+  BuildButton->setEnabled(true);
+}
+
+void TVRXfrmRegionFromBMPdlg::Image1MouseDown(Qt::MouseButton button, QPoint pixel) {
+  const TBitmap& picture = Image1->Picture();
+  if (!QRect(0, 0, picture.Width(), picture.Height()).contains(pixel)) return;
+  if (button == Qt::LeftButton) Pick(picture.Pixel(pixel.x(), pixel.y()));
+  if (button != Qt::RightButton) return;
+  const auto origin = [](int at, int side) {
+    return at + ZoomBox::Cells > side ? side - ZoomBox::Cells : at;
+  };
+  const QPoint from(origin(pixel.x(), picture.Width()), origin(pixel.y(), picture.Height()));
+  ViewLabel->setText(QStringLiteral("(%1x%2)").arg(from.x()).arg(from.y()));
+  zoom->ShowPart(picture, from);
+}
+
+void TVRXfrmRegionFromBMPdlg::Image1MouseMove(QPoint pixel) {
+  const TColor color = Image1->Picture().Pixel(pixel.x(), pixel.y());
+  ShowColor(color == clInvalid ? std::nullopt : std::optional(color));
+}
+
+void TVRXfrmRegionFromBMPdlg::zoomMouseDown(Qt::MouseButton button, QPoint place) {
+  if (button != Qt::LeftButton) return;
+  // Where the picture has no pixels there is no colour to be picked.
+  if (const auto color = zoom->ColorAt(place); color && *color != clInvalid) Pick(*color);
+}
+
+void TVRXfrmRegionFromBMPdlg::zoomMouseMove(QPoint place) { ShowColor(zoom->ColorAt(place)); }
+
+void TVRXfrmRegionFromBMPdlg::ShowColor(std::optional<TColor> color) {
+  QPalette palette = cc->palette();
+  palette.setColor(QPalette::Window,
+                   color ? ToQColor(*color) : QApplication::palette().color(QPalette::Window));
+  palette.setColor(QPalette::WindowText, Readable(palette.color(QPalette::Window)));
+  cc->setPalette(palette);
+  cc->setText(color ? ColorToString(*color) : QString());
+}
+
+void TVRXfrmRegionFromBMPdlg::RemoveSelected() {
+  if (building_) return;
+  delete cl->takeItem(cl->currentRow());
+}
+
+bool TVRXfrmRegionFromBMPdlg::eventFilter(QObject* watched, QEvent* event) {
+  if (watched == cl && event->type() == QEvent::KeyPress) {
+    const int key = static_cast<QKeyEvent*>(event)->key();
+    if ((key == Qt::Key_Delete || key == Qt::Key_Backspace) && cl->currentRow() >= 0) {
+      RemoveSelected();
+      return true;
+    }
+  }
+  return ModalDialog::eventFilter(watched, event);
+}
+
+void TVRXfrmRegionFromBMPdlg::cbChange() { BuildButton->setEnabled(true); }
+void TVRXfrmRegionFromBMPdlg::ccbChange() { mask->SetCompress(ccb->isChecked()); }
+void TVRXfrmRegionFromBMPdlg::colbChange() {
+  mask->SetColorDepth(static_cast<TVRXColorDepth>(colb->currentIndex()));
+  ShowResult();
+}
+
+void TVRXfrmRegionFromBMPdlg::BuildButtonClick() {
+  if (building_) return;
+  if (cl->count() == 0) {
+    Prompts().Inform(this, windowTitle(),
+                     QStringLiteral("Please choose at least one color to be transparent!"));
+    return;
+  }
+  std::vector<TColor> transparent;
+  for (int i = 0; i < cl->count(); ++i) transparent.push_back(StringToColor(cl->item(i)->text()));
+  bool built = false;
+  const auto finish = qScopeGuard([&, confirmable = OKButton->isEnabled()] {
+    building_ = false;
+    Progress->hide();
+    pages->setEnabled(true);
+    OKButton->setEnabled(built || confirmable);
+    BuildButton->setEnabled(!built);
+  });
+  building_ = true;
+  // Nothing may change under the run, and half a mask is not to be confirmed.
+  pages->setEnabled(false);
+  OKButton->setEnabled(false);
+  Progress->SetPercent(0);
+  Progress->show();
+  RunProgress progress(*Progress);
+  const TBitmap& picture = Image1->Picture();
+  const TRegionBuild build =
+      buttonFace ? BuildButtonRegion(picture, transparent, static_cast<TRegionButton>(cb2->currentIndex()),
+                                     &progress)
+                 : BuildWindowRegion(picture, transparent, static_cast<TRegionBorder>(cb->currentIndex()),
+                                     &progress);
+  mask->BeginUpdate();
+  mask->SetRegionData(build.RegionData());
+  mask->SetBorderPicture(build.Border);
+  if (buttonFace) {
+    mask->SetStatePicture(0, build.First);
+    mask->SetStatePicture(1, build.Second);
+  }
+  mask->EndUpdate();
+  ShowResult();
+  built = true;
+}
+
+// What a control with this mask will look like.
+void TVRXfrmRegionFromBMPdlg::ShowResult() { Result->SetImage(mask->Shown(0)); }
