@@ -5,6 +5,9 @@
 #include "RandomPictures.h"
 #include "rtl/Exceptions.h"
 
+// Asked for too much, the sanitizer's allocator fails like any other instead of ending the program.
+extern "C" const char* __asan_default_options() { return "allocator_may_return_null=1"; }
+
 namespace {
 TBitmap Numbered(int width, int height) {
   TBitmap bitmap(width, height);

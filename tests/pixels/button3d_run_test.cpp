@@ -105,6 +105,42 @@ TEST(Button3DRun, TheSourceMayBeOneOfTheResults) {
       }
 }
 
+// The same with results of the size that they get: room that could be used again.
+TEST(Button3DRun, TheSourceMayBeOneOfTheResultsOfItsOwnSize) {
+  // Keys above and to the left of content, which the rules ask for in the source.
+  const OraclePicture keys = Drawn({"#K#K", ".#K#", "K.#K"});
+  for (const bool semi : {false, true})
+    for (int which = 0; which < 3; ++which) {
+      const OracleButtonResult expected = OracleButton3D(keys, DrawnRun(0, semi), nullptr);
+      ButtonPictures results{TBitmap(4, 3), TBitmap(4, 3), TBitmap(4, 3)};
+      TBitmap* const all[] = {&results.Up, &results.Down, &results.Disabled};
+      *all[which] = keys.ToBitmap();
+      CallButton3D(*all[which], results, DrawnRun(0, semi), nullptr);
+      EXPECT_TRUE(Same(expected.Up, results.Up)) << which;
+      EXPECT_TRUE(Same(expected.Down, results.Down)) << which;
+      EXPECT_TRUE(Same(expected.Disabled, results.Disabled)) << which;
+    }
+}
+
+// They are set one after the other, the disabled one last.
+TEST(Button3DRun, OneBitmapForAllResultsEndsAsTheDisabledOne) {
+  for (const int side : {2, 4}) {
+    TBitmap bitmap(side, side);
+    const ButtonColors c = DrawnRun(1).Colors;
+    VRXDrawButton3D(Drawn({"##", "##"}).ToBitmap(), bitmap, bitmap, bitmap, c.T, c.L, c.S, c.DC, c.P, c.K,
+                    c.BC, false, 1, nullptr);
+    EXPECT_TRUE(Same(Drawn({"LLLS", "L#DS", "LD#S", "SSSS"}), bitmap)) << side;
+  }
+}
+
+TEST(Button3DRun, AWidthForWhichThereIsNoMemoryIsAnErrorAndChangesNothing) {
+  for (const int width : {1 << 30, INT32_MAX - 2, INT32_MAX}) {
+    ButtonPictures results = ButtonPictures::Before();
+    EXPECT_ANY_THROW(CallButton3D(Small(), results, DrawnRun(width), nullptr)) << width;
+    EXPECT_TRUE(Untouched(results)) << width;
+  }
+}
+
 // The results hold pictures of earlier runs, of the same size or another, and others have copies of them.
 TEST(Button3DRun, WhatTheResultsHeldBeforeDoesNotMatter) {
   Random random(99);

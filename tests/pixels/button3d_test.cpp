@@ -150,3 +150,16 @@ TEST(Button3D, ColorsWithAHighByteAreNeverFoundInAPicture) {
   EXPECT_TRUE(Same(expected, drawn.Up));
   EXPECT_TRUE(SameAsOracle(Glyph(), run, true, 0));
 }
+
+// The corner is closed only by the ring of the pass before, two rows below the pixels that it writes; nothing
+// else changes anywhere near.
+TEST(Button3D, ACornerWhoseEdgesAreKeysGrowsWhenARingClosesItFromBelow) {
+  OraclePicture source(8, 120, ColorOf('.'));
+  source.Draw(2, 60, Drawn({".KK", "K##", "..#"}));
+  ButtonRun run = DrawnRun(3, true);
+  run.Colors.P = run.Colors.S = run.Colors.T;
+  const OraclePicture expected = OracleButton3D(source, run, nullptr).Up;
+  // Column 3 of the source is column 6 of the result, row 60 is row 63.
+  EXPECT_TRUE(expected.Is(6, 63, run.Colors.L));
+  EXPECT_TRUE(SameAsOracle(source.ToBitmap(), run, false, 0));
+}

@@ -117,6 +117,75 @@ TEST(RandomButton3D, TheWidestRingsAreDrawnAsByTheSlowReference) {
   }
 }
 
+// Large pictures in which few pixels change from ring to ring: little noise, some letters, far from one
+// another. Rings that cannot be seen, and keys, make rules hold where nothing changed just before.
+class RandomSparseButton3D : public testing::TestWithParam<int> {};
+
+TEST_P(RandomSparseButton3D, IsDrawnAsByTheSlowReference) {
+  Random random(static_cast<unsigned>(2500 + GetParam()));
+  for (int i = 0; i < 40; ++i) {
+    RandomCase made;
+    ButtonRun& run = made.Run;
+    run.Colors = {clFuchsia, clRed, clBlue, clAqua, clYellow, clLime, clBlack};
+    switch (random.Below(6)) {
+      case 0:
+        run.Colors.L = run.Colors.T;
+        break;
+      case 1:
+        run.Colors.S = run.Colors.T;
+        break;
+      case 2:
+        run.Colors.BC = run.Colors.T;
+        break;
+      default:
+        break;
+    }
+    run.Semi = random.Percent(50);
+    run.Width = random.Between(2, 9);
+    const int width = random.Between(70, 330), height = random.Between(100, 220);
+    made.Source = TBitmap(width, height);
+    made.Source.Fill(run.Colors.T);
+    for (int n = random.Between(1, 3); n > 0; --n) {
+      // Often at the border of two words of 64 columns.
+      const int x =
+          random.Percent(50) ? random.Below(width) : 64 * random.Below(6) - run.Width + random.Between(-3, 3);
+      const TBitmap part = RandomPicture(random, random.Between(1, 10), random.Between(1, 10), run.Colors.T,
+                                         {clGreen, clTeal, run.Semi ? run.Colors.K : clNavy});
+      made.Source.Draw(x, random.Between(-4, height), part);
+    }
+    made.Progress = i % 8 == 0;
+    ASSERT_TRUE(SameAsOracle(made.Source, run, made.Progress, 0)) << "case " << i << ": " << Describe(made);
+  }
+}
+
+// A patch of a few pixels on a tall picture: one pixel that changes may be all that changes far around.
+TEST_P(RandomSparseButton3D, SmallPatchesAreDrawnAsByTheSlowReference) {
+  Random random(static_cast<unsigned>(2600 + GetParam()));
+  for (int i = 0; i < 600; ++i) {
+    RandomCase made;
+    ButtonRun& run = made.Run;
+    run.Colors = {clFuchsia, clRed, clBlue, clAqua, clYellow, clLime, clBlack};
+    if (random.Percent(60)) run.Colors.S = run.Colors.T;
+    if (random.Percent(25)) run.Colors.L = run.Colors.T;
+    if (random.Percent(50)) run.Colors.P = run.Colors.T;
+    run.Semi = random.Percent(75);
+    run.Width = random.Between(2, 5);
+    made.Source = TBitmap(16, 180);
+    made.Source.Fill(run.Colors.T);
+    const int width = random.Between(1, 6), height = random.Between(1, 6), left = random.Below(12);
+    const int keys = random.Between(0, 70), content = random.Between(5, 70);
+    for (int y = 60; y < 60 + height; ++y)
+      for (int x = left; x < left + width; ++x)
+        if (random.Percent(keys))
+          made.Source.SetPixel(x, y, run.Colors.K);
+        else if (random.Percent(content))
+          made.Source.SetPixel(x, y, clGreen);
+    ASSERT_TRUE(SameAsOracle(made.Source, run, false, 0)) << "case " << i << ": " << Describe(made);
+  }
+}
+
+INSTANTIATE_TEST_SUITE_P(Shard, RandomSparseButton3D, testing::Range(0, 8));
+
 TEST(RandomButton3D, LargePicturesAreDrawnAsByTheSlowReference) {
   Random random(78);
   for (int i = 0; i < 4; ++i) {

@@ -99,6 +99,21 @@ TEST(RegionBorder, TheAbortFlagOfTheButtonsIsNotTheirs) {
   }
 }
 
+TEST(RegionBorder, ARegionWithoutEndIsPaintedWhereItIsSeen) {
+  for (const Painter painter : Painters) {
+    const TRegion down(TRect{1, 1, 4, INT32_MAX}), up(TRect{1, INT32_MIN, 4, 3});
+    EXPECT_TRUE(Same(Drawn({".....", ".BBB.", ".B.B.", ".B.B.", ".B.B."}),
+                     Paint(painter, 5, &down, TRegionBorder::Single)));
+    EXPECT_TRUE(Same(Drawn({".B.B.", ".B.B.", ".BBB.", ".....", "....."}),
+                     Paint(painter, 5, &up, TRegionBorder::Single)));
+    const TRegion right(TRect{1, 1, INT32_MAX, 4}), left(TRect{INT32_MIN, 1, 3, 4});
+    EXPECT_TRUE(Same(Drawn({".....", ".BBBB", ".B...", ".BBBB", "....."}),
+                     Paint(painter, 5, &right, TRegionBorder::Single)));
+    EXPECT_TRUE(Same(Drawn({".....", "BBB..", "..B..", "BBB..", "....."}),
+                     Paint(painter, 5, &left, TRegionBorder::Single)));
+  }
+}
+
 TEST(RegionBorder, OnlyThePaintedPictureChanges) {
   const TRegion region(TRect{0, 0, 3, 3});
   for (const Painter painter : Painters) {
