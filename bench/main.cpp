@@ -6,15 +6,15 @@
 
 #include "bench/Generate.h"
 #include "bench/Measure.h"
+#include "bench/PixelTasks.h"
 #include "bench/Tasks.h"
 
 namespace {
 const std::map<QString, void (*)(const QString&, const QString&)>& TaskTable() {
   static const std::map<QString, void (*)(const QString&, const QString&)> table{
-      {QStringLiteral("load-form"), MeasureFormLoad},
-      {QStringLiteral("load-ui"), MeasureUiLoad},
-      {QStringLiteral("save-form"), MeasureFormSave},
-      {QStringLiteral("edit-form"), MeasureEdit},
+      {QStringLiteral("load-form"), MeasureFormLoad}, {QStringLiteral("load-ui"), MeasureUiLoad},
+      {QStringLiteral("save-form"), MeasureFormSave}, {QStringLiteral("edit-form"), MeasureEdit},
+      {QStringLiteral("pixels"), MeasurePixels},
   };
   return table;
 }
@@ -38,13 +38,38 @@ class Files {
 
 class Bench {
  public:
-  explicit Bench(bool verbose) : verbose_(verbose) {}
+  Bench(bool verbose, bool pixelsOnly) : verbose_(verbose), pixelsOnly_(pixelsOnly) {}
 
   void Run() {
     out_ << "| What | Target | Measured |\n| --- | --- | --- |\n";
-    AgainstUiLoader();
-    Growth();
-    Edits();
+    if (!pixelsOnly_) {
+      AgainstUiLoader();
+      Growth();
+      Edits();
+    }
+    Pixels();
+  }
+  void Pixels() {
+    for (const char* size : {"1920x1080", "4096x4096"})
+      for (const auto& [kind, copies] :
+           {std::pair("noise", 12), std::pair("blobs", 3), std::pair("text", 5)}) {
+        const QString name = QString::fromLatin1(kind), area = QString::fromLatin1(size);
+        const Results r = RunApart({QStringLiteral("pixels"), name, area}, 3);
+        const auto row = [&](const QString& what, const QString& target, const char* key) {
+          if (r.contains(QString::fromLatin1(key)))
+            Row(what + QStringLiteral(" (%1, %2)").arg(name, area), target, r[QString::fromLatin1(key)]);
+        };
+        row(QStringLiteral("Region of a picture: time / copying its pixels"),
+            QStringLiteral("at most %1").arg(copies), "region");
+        row(QStringLiteral("Region: time of pixman / ours"), QStringLiteral("at least 3"), "pixman");
+        row(QStringLiteral("Region: 500 transparent colours / one"), QStringLiteral("at most 3"), "many");
+        row(QStringLiteral("Region border: membership tests of every point / ours"),
+            QStringLiteral("at least 50"), "border");
+        row(QStringLiteral("3D button: time / copying its four pictures"), QStringLiteral("at most 4"),
+            "button");
+        row(QStringLiteral("3D button: with progress / without"), QStringLiteral("at most 3"), "progress");
+        row(QStringLiteral("3D button: bevel of 20 / of 2"), QStringLiteral("follows the rings"), "wide");
+      }
   }
 
  private:
@@ -103,7 +128,7 @@ class Bench {
     }
   }
 
-  bool verbose_;
+  bool verbose_, pixelsOnly_;
   Files files_;
   QTextStream out_{stdout};
   QTextStream err_{stderr};
@@ -125,6 +150,7 @@ int main(int argc, char** argv) {
     return 0;
   }
   QCoreApplication app(argc, argv);
-  Bench(app.arguments().contains(QStringLiteral("--verbose"))).Run();
+  const QStringList options = app.arguments();
+  Bench(options.contains(QStringLiteral("--verbose")), options.contains(QStringLiteral("--pixels"))).Run();
   return 0;
 }

@@ -3,7 +3,7 @@
 set -eu
 needed="g++ cmake ninja-build ccache qt6-base-dev qt6-base-dev-tools qt6-svg-dev libqt6svg6 qt6-qpa-plugins
  qt6-tools-dev qt6-tools-dev-tools libgtest-dev breeze-icon-theme fonts-dejavu-core
- libgl1-mesa-dev libxkbcommon-dev"
+ libgl1-mesa-dev libxkbcommon-dev libpixman-1-dev pkg-config"
 case "${PRESET:-}" in asan) needed="$needed clang libclang-rt-14-dev" ;; esac
 
 missing=""

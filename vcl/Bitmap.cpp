@@ -53,7 +53,13 @@ TBitmap TBitmap::FromImage(const QImage& image) {
   TBitmap result = Uninitialized(image.width(), image.height());
   if (result.Empty()) return result;
   if (!image.hasAlphaChannel()) {
-    result.image_ = image.convertToFormat(QImage::Format_RGB32);
+    // In an image of this format the highest byte means nothing and may be anything.
+    const QImage source = image.convertToFormat(QImage::Format_RGB32);
+    for (int y = 0; y < result.height_; ++y) {
+      const auto* from = reinterpret_cast<const std::uint32_t*>(source.constScanLine(y));
+      std::uint32_t* to = result.WritableRow(y);
+      for (int x = 0; x < result.width_; ++x) to[x] = from[x] | Opaque;
+    }
     return result;
   }
   const QImage source = image.convertToFormat(QImage::Format_ARGB32);

@@ -219,7 +219,11 @@ void TBandBuilder::CloseBand(std::int32_t bottom) {
 void TBandBuilder::AddRow(std::int32_t y, const std::uint64_t* mask, std::size_t words) {
   auto& rects = region_.rects_;
   ++rowsDone_;
+  if (words == 0) return;
   const bool open = bandStart_ < rects.size();
+  // A band that came in another form, or in rows of another length, is compared by its rectangles.
+  const bool compare = open && bandEnd_ == y && lastMask_.size() != words;
+  const std::size_t above = bandStart_;
   if (open) {
     if (bandEnd_ == y && lastMask_.size() == words && std::memcmp(lastMask_.data(), mask, words * 8) == 0) {
       bandEnd_ = y + 1;
@@ -269,6 +273,15 @@ void TBandBuilder::AddRow(std::int32_t y, const std::uint64_t* mask, std::size_t
   }
   if (inside) to->Right = static_cast<std::int32_t>(words * 64);
   bandEnd_ = y + 1;
+  if (compare && bandStart_ - above == runs) {
+    const auto first = rects.begin() + static_cast<std::ptrdiff_t>(above);
+    const auto last = rects.begin() + static_cast<std::ptrdiff_t>(bandStart_);
+    if (std::equal(first, last, last,
+                   [](const TRect& a, const TRect& b) { return a.Left == b.Left && a.Right == b.Right; })) {
+      rects.resize(bandStart_);
+      bandStart_ = above;
+    }
+  }
 }
 
 void TBandBuilder::AddBand(std::int32_t top, std::int32_t bottom,

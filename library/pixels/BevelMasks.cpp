@@ -27,7 +27,9 @@ namespace {
 // A row of bits moved so that every pixel sees its neighbour on the left or on the right.
 Word FromLeft(Word before, Word here, int by = 1) { return here << by | before >> (64 - by); }
 Word FromRight(Word here, Word after) { return here >> 1 | after << 63; }
-Word LeftOf(const Word* row, std::size_t w) { return FromLeft(row[w - 1], row[w]); }
+Word LeftOf(const Word* row, std::size_t w) {
+  return FromLeft(row[static_cast<std::ptrdiff_t>(w) - 1], row[w]);
+}
 Word RightOf(const Word* row, std::size_t w) { return FromRight(row[w], row[w + 1]); }
 }  // namespace
 

@@ -176,9 +176,10 @@ class Drawing {
 void VRXDrawButton3D(const TBitmap& source, TBitmap& up, TBitmap& down, TBitmap& disabled, TColor transparent,
                      TColor light, TColor shadow, TColor disabledColor, TColor semiSecond, TColor semiKey,
                      TColor bevel, bool semiTransparent, int bevelWidth, IVRXProgress* progress) {
-  const int passes = bevelWidth + 2;
-  if (passes <= 0) return;
-  TBitmap content;
+  if (bevelWidth < -1) return;
+  // The source may be one of the results.
+  TBitmap original, content;
+  original.Assign(&source);
   content.Assign(&source);
   if (semiTransparent) VRXMakeBmpSemiTransparent(content, transparent, semiKey, semiSecond);
 
@@ -190,10 +191,11 @@ void VRXDrawButton3D(const TBitmap& source, TBitmap& up, TBitmap& down, TBitmap&
   drawing.MakeRoom(up, down, disabled, progress == nullptr);
   // A transparent colour that equals no pixel leaves no background.
   if (background) drawing.Mark(drawing.masks.Background, content, *background, true);
-  if (hasKey) drawing.Mark(drawing.masks.Key, source, *key, false);
+  if (hasKey) drawing.Mark(drawing.masks.Key, original, *key, false);
 
   const BevelMasks::Invisible invisible{inks.Light == background, inks.Shadow == background,
                                         inks.Bevel == background};
+  const int passes = bevelWidth + 2;
   ScanProgress scan(progress, drawing.Width(), drawing.Height(), passes);
   for (int pass = 1; pass <= passes; ++pass) {
     using enum BevelMasks::PassKind;

@@ -54,9 +54,10 @@ PixelSet::PixelSet(const std::vector<TColor>& colors) {
     if (const auto pixel = ExactPixelOf(color)) pixels_.push_back(*pixel);
   std::sort(pixels_.begin(), pixels_.end());
   pixels_.erase(std::unique(pixels_.begin(), pixels_.end()), pixels_.end());
+  while (Slots() < 2 * pixels_.size()) --shift_;
   // A cycle of displacements is rare at this load; other factors then.
   for (bool placed = false; !placed;) {
-    table_.assign(2 * Slots, 0);
+    table_.assign(2 * Slots(), 0);
     placed = std::all_of(pixels_.begin(), pixels_.end(), [this](std::uint32_t p) { return Insert(p); });
     if (!placed) {
       factor1_ = factor1_ * 0x2C1B3C6Du | 1u;
@@ -67,15 +68,13 @@ PixelSet::PixelSet(const std::vector<TColor>& colors) {
 
 bool PixelSet::Insert(std::uint32_t pixel) {
   for (int moves = 0; moves < 500; ++moves) {
-    for (const std::size_t at :
-         {std::size_t{pixel * factor1_ >> Shift}, Slots + (pixel * factor2_ >> Shift)}) {
+    for (const std::size_t at : {First(pixel), Second(pixel)}) {
       if (table_[at] == 0) {
         table_[at] = pixel;
         return true;
       }
     }
-    std::swap(pixel, table_[moves % 2 == 0 ? std::size_t{pixel * factor1_ >> Shift}
-                                           : Slots + (pixel * factor2_ >> Shift)]);
+    std::swap(pixel, table_[moves % 2 == 0 ? First(pixel) : Second(pixel)]);
   }
   return false;
 }
@@ -129,7 +128,8 @@ __attribute__((target("avx2"))) void PixelSet::MatchWide(const std::uint32_t* ro
                                                          std::uint64_t* mask) const {
   const __m256i factor1 = _mm256_set1_epi32(static_cast<int>(factor1_));
   const __m256i factor2 = _mm256_set1_epi32(static_cast<int>(factor2_));
-  const __m256i second = _mm256_set1_epi32(static_cast<int>(Slots));
+  const __m256i second = _mm256_set1_epi32(static_cast<int>(Slots()));
+  const __m128i shift = _mm_cvtsi32_si128(static_cast<int>(shift_));
   const auto* table = reinterpret_cast<const int*>(table_.data());
   __m256i last = _mm256_setzero_si256();  // the eight pixels looked up last
   unsigned found = 0;                     // and which of them are in the set
@@ -140,9 +140,8 @@ __attribute__((target("avx2"))) void PixelSet::MatchWide(const std::uint32_t* ro
       const __m256i p = _mm256_loadu_si256(reinterpret_cast<const __m256i*>(row + x + i));
       const __m256i same = _mm256_xor_si256(p, last);
       if (!_mm256_testz_si256(same, same)) {
-        const __m256i at1 = _mm256_srli_epi32(_mm256_mullo_epi32(p, factor1), Shift);
-        const __m256i at2 =
-            _mm256_add_epi32(_mm256_srli_epi32(_mm256_mullo_epi32(p, factor2), Shift), second);
+        const __m256i at1 = _mm256_srl_epi32(_mm256_mullo_epi32(p, factor1), shift);
+        const __m256i at2 = _mm256_add_epi32(_mm256_srl_epi32(_mm256_mullo_epi32(p, factor2), shift), second);
         const __m256i hit = _mm256_or_si256(_mm256_cmpeq_epi32(_mm256_i32gather_epi32(table, at1, 4), p),
                                             _mm256_cmpeq_epi32(_mm256_i32gather_epi32(table, at2, 4), p));
         found = static_cast<unsigned>(_mm256_movemask_ps(_mm256_castsi256_ps(hit)));

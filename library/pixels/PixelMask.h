@@ -28,13 +28,15 @@ class PixelSet {
  private:
   bool Insert(std::uint32_t pixel);
   bool Contains(std::uint32_t pixel) const {
-    return table_[pixel * factor1_ >> Shift] == pixel || table_[Slots + (pixel * factor2_ >> Shift)] == pixel;
+    return table_[First(pixel)] == pixel || table_[Second(pixel)] == pixel;
   }
 
   // Cuckoo hashing: a pixel is at one of two places, so looking it up is two comparisons and never a search.
-  static constexpr unsigned Shift = 21;
-  static constexpr std::size_t Slots = std::size_t{1} << (32 - Shift);
+  std::size_t First(std::uint32_t pixel) const { return pixel * factor1_ >> shift_; }
+  std::size_t Second(std::uint32_t pixel) const { return Slots() + (pixel * factor2_ >> shift_); }
+  std::size_t Slots() const { return std::size_t{1} << (32 - shift_); }
+  unsigned shift_ = 21;
   std::vector<std::uint32_t> pixels_;  // without repetitions
-  std::vector<std::uint32_t> table_;   // two tables of Slots; 0, which is no pixel, where free
+  std::vector<std::uint32_t> table_;   // two tables of Slots(); 0, which is no pixel, where free
   std::uint32_t factor1_ = 0x9E3779B1u, factor2_ = 0x85EBCA77u;
 };

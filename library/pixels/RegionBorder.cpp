@@ -55,10 +55,15 @@ struct Strokes {
   std::uint64_t Light = 0, Dark = 0, Black = 0;
 };
 
+// The word to the left; a row has one before its first.
+std::uint64_t Before(const std::uint64_t* row, std::size_t w) {
+  return row[static_cast<std::ptrdiff_t>(w) - 1];
+}
+
 // rows[0..4]: the rows from two above to two below, `w` the word. In the order of the writes, the last first.
 Strokes StrokesOf(const std::uint64_t* const rows[5], std::size_t w, TRegionBorder style) {
   const auto left = [w](const std::uint64_t* r) {
-    return r[w] << 1 | r[w - 1] >> 63;
+    return r[w] << 1 | Before(r, w) >> 63;
   };  // the pixel to the left
   const auto right = [w](const std::uint64_t* r, int by) { return r[w] >> by | r[w + 1] << (64 - by); };
   const std::uint64_t *above2 = rows[0], *above = rows[1], *here = rows[2], *below = rows[3],
@@ -80,7 +85,7 @@ Strokes StrokesOf(const std::uint64_t* const rows[5], std::size_t w, TRegionBord
   }
   const std::uint64_t leavesRight2 = next & ~next2, leavesBelow2 = below[w] & ~below2[w];
   const std::uint64_t entersAbove = above[w] & ~above2[w];
-  const std::uint64_t before = left(here), before2 = here[w] << 2 | here[w - 1] >> 62;
+  const std::uint64_t before = left(here), before2 = here[w] << 2 | Before(here, w) >> 62;
   const std::uint64_t entersLeft = before & ~before2;
   std::uint64_t open = ~std::uint64_t{0};
   const auto take = [&open](std::uint64_t& to, std::uint64_t bits) {
@@ -105,8 +110,9 @@ void PaintEdge(TBitmap& picture, const TRegion& region, TRegionBorder style) {
   const std::uint32_t white = PixelOf(clWhite), grey = PixelOf(clGray);
   const Inks inks{sunken ? grey : white, sunken ? white : grey, PixelOf(clBlack)};
   const int width = picture.Width();
-  const int top = std::max(0, region.Bounds().Top - Margin);
-  const int bottom = std::min(picture.Height(), region.Bounds().Bottom + Margin);
+  const auto top = static_cast<int>(std::max<std::int64_t>(0, std::int64_t{region.Bounds().Top} - Margin));
+  const auto bottom = static_cast<int>(
+      std::min<std::int64_t>(picture.Height(), std::int64_t{region.Bounds().Bottom} + Margin));
   if (width == 0 || top >= bottom) return;
   // A word of zeros on either side of a row.
   const std::size_t words = WordsFor(width + 2 * Margin), stride = words + 2;

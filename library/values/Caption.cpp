@@ -36,6 +36,17 @@ bool TVRXCaption::FontStored() const {
   return false;
 }
 
+bool TVRXCaption::ContentEmpty() const {
+  for (const TPropInfo* prop : ClassType().Properties())
+    if (IsStoredProp(*this, *prop)) return false;
+  return true;
+}
+
+void TVRXCaption::ClearContent() {
+  const TFont plain;
+  font_->Assign(&plain);
+}
+
 unsigned VRXAlignmentFlags(TVRXAlignment alignment) {
   static constexpr unsigned flags[] = {0,
                                        tfCenter,

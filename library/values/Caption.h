@@ -1,6 +1,7 @@
 // A text with its place, font and effects, as shapes, buttons and panels show it.
 #pragma once
 #include "library/values/FontFx.h"
+#include "rtl/Component.h"
 #include "vcl/Canvas.h"
 
 enum class TVRXAlignment : std::uint8_t {
@@ -19,7 +20,7 @@ VRX_ENUM(TVRXAlignment, {"agTopLeft", "agTopCenter", "agTopRight", "agCenterLeft
 // The text-format flags of an alignment.
 unsigned VRXAlignmentFlags(TVRXAlignment alignment);
 
-class TVRXCaption : public TOwnedPersistent {
+class TVRXCaption : public TOwnedPersistent, public IStreamedContent {
   VRX_CLASS(TVRXCaption)
  public:
   explicit TVRXCaption(TPersistent* owner = nullptr);
@@ -36,6 +37,10 @@ class TVRXCaption : public TOwnedPersistent {
   // Whether words wrap at the end of the room.
   bool MultiLine() const { return multiLine_; }
   void SetMultiLine(bool v) { Change(multiLine_, v); }
+
+  // A font has no defaults of its own; the caption's is the plain one.
+  bool ContentEmpty() const override;
+  void ClearContent() override;
 
   // The flags the text is drawn with.
   unsigned TextFlags() const;

@@ -9,6 +9,8 @@
 #include "rtl/PropAccess.h"
 #include "rtl/PropText.h"
 #include "rtl/Strings.h"
+#include "vcl/PictureFile.h"
+#include "vcl/Region.h"
 
 std::vector<std::string> ConcreteClasses() {
   static const bool registered = [] {
@@ -100,6 +102,22 @@ bool SetAnotherOrdinal(TPersistent& instance, const TPropInfo& prop, unsigned tu
   return true;
 }
 
+// Bytes of the kind that the property takes: a picture or region data.
+bool SetAnotherBinary(TPersistent& instance, const TPropInfo& prop, unsigned turn) {
+  const int side = static_cast<int>(turn % 1000) + 2;
+  QImage picture(side, 3, QImage::Format_RGB32);
+  picture.fill(Qt::red);
+  for (const QByteArray& bytes : {PictureToBytes(picture, "PNG"), TRegion(TRect{0, 0, side, 5}).ToData()}) {
+    try {
+      SetBinaryProp(instance, prop, bytes);
+      return true;
+    } catch (const EInvalidPicture&) {
+    } catch (const EInvalidRegion&) {
+    }
+  }
+  return false;
+}
+
 bool SetAnotherReference(Stage& stage, TPersistent& instance, const TPropInfo& prop) {
   for (const std::string& name : ConcreteClasses()) {
     const TClass& cls = GetClass(name);
@@ -135,8 +153,7 @@ bool SetAnother(Stage& stage, const QByteArray& path, unsigned turn) {
       SetMethodProp(instance, prop, QStringLiteral("Handler") + number);
       return true;
     case TTypeKind::tkUnknown:
-      SetBinaryProp(instance, prop, QByteArray("\x00\x01\xFF", 3) + number.toLatin1());
-      return true;
+      return SetAnotherBinary(instance, prop, turn);
     case TTypeKind::tkClass:
       if (IsComponentRef(prop)) return SetAnotherReference(stage, instance, prop);
       static_cast<TCollection*>(GetObjectProp(instance, prop))->Add();

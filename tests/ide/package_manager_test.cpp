@@ -111,11 +111,13 @@ TEST_F(PackageTest, LoadingTheMainPackagePutsTheLedLabelOnThePalette) {
   manager_.Load(PackageManager::DefaultPackage());
   EXPECT_NE(FindClass("TVRXLEDLabel"), nullptr);
   ASSERT_GT(Registrations().size(), rows_);
-  const TRegistration& first = Registrations()[rows_];
-  EXPECT_EQ(first.Kind, TRegistrationKind::Components);
-  EXPECT_EQ(first.PageOrCategory, QStringLiteral("VRX Ext"));
-  ASSERT_EQ(first.Classes.size(), 1u);
-  EXPECT_EQ(first.Classes[0]->ClassName(), "TVRXLEDLabel");
+  const auto& rows = Registrations();
+  const auto first = std::find_if(rows.begin() + static_cast<std::ptrdiff_t>(rows_), rows.end(),
+                                  [](const auto& row) { return row.Kind == TRegistrationKind::Components; });
+  ASSERT_NE(first, rows.end());
+  EXPECT_EQ(first->PageOrCategory, QStringLiteral("VRX Ext"));
+  ASSERT_EQ(first->Classes.size(), 1u);
+  EXPECT_EQ(first->Classes[0]->ClassName(), "TVRXLEDLabel");
   manager_.Unload(PackageManager::DefaultPackage());
   EXPECT_TRUE(NothingLeft());
   EXPECT_EQ(FindClass("TVRXLEDLabel"), before);
