@@ -1,0 +1,197 @@
+// The caption dialog on its live preview, and its launcher.
+#include "library_design/FontDialogs.h"
+#include "package/dialogs/pVRXCaptionEditorDlg.h"
+#include "package/property_editors/pVRXCPGetMain.h"
+#include "tests/package/PixelDialogTest.h"
+
+using namespace pixeltest;
+
+class CaptionDialog : public testing::Test {
+ protected:
+  void SetUp() override {
+    SaveIDECustomColors({});
+    caption.SetCaption(QStringLiteral("Old"));
+  }
+  bool Launch(std::function<void(TVRXCaptionEditorDlg&)> act, bool showMultiLine = true) {
+    modal::NextOf<TVRXCaptionEditorDlg>([act = std::move(act)](auto& dlg) {
+      act(dlg);
+      if (dlg.isVisible()) dlg.reject();
+    });
+    return VRXCPGetVRXCaption(caption, showMultiLine);
+  }
+  TVRXCaption caption;
+};
+
+TEST_F(CaptionDialog, ShowsTheCaptionItWasGiven) {
+  caption.SetAlignment(TVRXAlignment::agBottomLeft);
+  caption.SetMultiLine(true);
+  Launch([](auto& dlg) {
+    EXPECT_EQ(dlg.cap->text(), QStringLiteral("Old"));
+    EXPECT_EQ(dlg.cmb->currentText(), QStringLiteral("agBottomLeft"));
+    EXPECT_TRUE(dlg.chk->isChecked());
+    EXPECT_EQ(dlg.test->Caption()->Caption(), QStringLiteral("Old"));
+  });
+}
+
+TEST_F(CaptionDialog, EveryKeyChangesThePreviewAndCancelLeavesTheCaption) {
+  EXPECT_FALSE(Launch([](auto& dlg) {
+    QTest::keyClick(dlg.cap, Qt::Key_End);
+    QTest::keyClick(dlg.cap, 'e');
+    EXPECT_EQ(dlg.test->Caption()->Caption(), QStringLiteral("Olde"));
+    QTest::keyClick(dlg.cap, 'r');
+    EXPECT_EQ(dlg.test->Caption()->Caption(), QStringLiteral("Older"));
+    Click(dlg.Button1);
+  }));
+  EXPECT_EQ(caption.Caption(), QStringLiteral("Old"));
+}
+
+TEST_F(CaptionDialog, OkWritesTextPlaceAndWrappingIntoTheCaption) {
+  EXPECT_TRUE(Launch([](auto& dlg) {
+    QTest::keyClick(dlg.cap, Qt::Key_End);
+    QTest::keyClicks(dlg.cap, QStringLiteral(" one"));
+    Choose(dlg.cmb, QStringLiteral("agTopRight"));
+    dlg.chk->click();
+    Click(dlg.ok);
+  }));
+  EXPECT_EQ(caption.Caption(), QStringLiteral("Old one"));
+  EXPECT_EQ(caption.Alignment(), TVRXAlignment::agTopRight);
+  EXPECT_TRUE(caption.MultiLine());
+}
+
+TEST_F(CaptionDialog, TypingInTheMiddleKeepsTheCursorThere) {
+  Launch([](auto& dlg) {
+    QTest::keyClick(dlg.cap, Qt::Key_Home);
+    QTest::keyClicks(dlg.cap, QStringLiteral("So "));
+    EXPECT_EQ(dlg.test->Caption()->Caption(), QStringLiteral("So Old"));
+    EXPECT_EQ(dlg.cap->cursorPosition(), 3);
+  });
+}
+
+TEST_F(CaptionDialog, ATextOfSeveralLinesStaysWhenOnlyThePlaceIsChanged) {
+  caption.SetCaption(QStringLiteral("one\ntwo"));
+  EXPECT_TRUE(Launch([](auto& dlg) {
+    Choose(dlg.cmb, QStringLiteral("agTopLeft"));
+    Click(dlg.ok);
+  }));
+  EXPECT_EQ(caption.Caption(), QStringLiteral("one\ntwo"));
+  EXPECT_EQ(caption.Alignment(), TVRXAlignment::agTopLeft);
+}
+
+TEST_F(CaptionDialog, TheCheckBoxIsHiddenWithoutTheFlagAndMultiLineStays) {
+  for (const bool multiLine : {true, false}) {
+    caption.SetMultiLine(multiLine);
+    EXPECT_TRUE(Launch(
+        [](auto& dlg) {
+          EXPECT_TRUE(dlg.chk->isHidden());
+          QTest::keyClick(dlg.cap, 'x');
+          Click(dlg.ok);
+        },
+        false));
+    EXPECT_EQ(caption.MultiLine(), multiLine);
+  }
+}
+
+TEST_F(CaptionDialog, TheCheckBoxIsVisibleWithTheFlag) {
+  Launch([](auto& dlg) { EXPECT_TRUE(dlg.chk->isVisible()); });
+}
+
+TEST_F(CaptionDialog, PlacesAreListedFromTopLeftToBottomRight) {
+  const TVRXCaptionEditorDlg dlg(nullptr);
+  QStringList listed;
+  for (int i = 0; i < dlg.cmb->count(); ++i) listed << dlg.cmb->itemText(i);
+  EXPECT_EQ(listed.join(u' ').toStdString(),
+            "agTopLeft agTopCenter agTopRight agCenterLeft agCenter agCenterRight agBottomLeft "
+            "agBottomCenter agBottomRight");
+}
+
+TEST_F(CaptionDialog, EveryPlaceInTheListIsThePlaceOfThePreview) {
+  Launch([](auto& dlg) {
+    for (int i = 8; i >= 0; --i) {
+      Choose(dlg.cmb, dlg.cmb->itemText(i));
+      EXPECT_EQ(static_cast<int>(dlg.test->Caption()->Alignment()), i);
+    }
+  });
+}
+
+TEST_F(CaptionDialog, TheFontDialogChangesThePreviewOnOkOnly) {
+  EXPECT_TRUE(Launch([](auto& dlg) {
+    const auto bold = [&] { return dlg.test->Caption()->Font()->Style().Contains(TFontStyle::fsBold); };
+    modal::NextOf<TVRXFontEditorDlg>([](auto& fonts) {
+      fonts.styles[0]->click();
+      fonts.reject();
+    });
+    Click(dlg.btnf);
+    EXPECT_FALSE(bold());
+    modal::NextOf<TVRXFontEditorDlg>([](auto& fonts) {
+      fonts.styles[0]->click();
+      fonts.accept();
+    });
+    Click(dlg.btnf);
+    EXPECT_TRUE(bold());
+    Click(dlg.ok);
+  }));
+  EXPECT_TRUE(caption.Font()->Style().Contains(TFontStyle::fsBold));
+}
+
+TEST_F(CaptionDialog, TheEffectsDialogChangesThePreviewOnOkOnly) {
+  EXPECT_TRUE(Launch([](auto& dlg) {
+    modal::NextOf<TVRXFontFxEditorDlg>([](auto& effects) {
+      effects.edangle->setValue(30);
+      effects.reject();
+    });
+    Click(dlg.btnffx);
+    EXPECT_EQ(dlg.test->Caption()->FontFX()->Angle(), 0);
+    modal::NextOf<TVRXFontFxEditorDlg>([](auto& effects) {
+      effects.edangle->setValue(45);
+      effects.accept();
+    });
+    Click(dlg.btnffx);
+    EXPECT_EQ(dlg.test->Caption()->FontFX()->Angle(), 45);
+    Click(dlg.ok);
+  }));
+  EXPECT_EQ(caption.FontFX()->Angle(), 45);
+}
+
+TEST_F(CaptionDialog, ResetGivesANewCaptionAndKeepsTheDialogOpen) {
+  caption.SetAlignment(TVRXAlignment::agTopLeft);
+  caption.SetMultiLine(true);
+  caption.FontFX()->SetAngle(90);
+  EXPECT_FALSE(Launch([](auto& dlg) {
+    Click(dlg.reset);
+    EXPECT_TRUE(dlg.isVisible());
+    const TVRXCaption& shown = *dlg.test->Caption();
+    EXPECT_EQ(shown.Caption(), QString());
+    EXPECT_EQ(shown.Alignment(), TVRXCaption().Alignment());
+    EXPECT_FALSE(shown.MultiLine());
+    EXPECT_EQ(shown.FontFX()->Angle(), 0);
+    EXPECT_EQ(dlg.cap->text(), QString());
+    EXPECT_EQ(dlg.cmb->currentIndex(), static_cast<int>(TVRXCaption().Alignment()));
+    EXPECT_FALSE(dlg.chk->isChecked());
+  }));
+  EXPECT_EQ(caption.Caption(), QStringLiteral("Old"));
+  EXPECT_EQ(caption.FontFX()->Angle(), 90);
+}
+
+TEST_F(CaptionDialog, EveryControlHasItsNameTextAndHint) {
+  const TVRXCaptionEditorDlg dlg(nullptr);
+  EXPECT_EQ(dlg.windowTitle(), QStringLiteral("Caption Editor"));
+  const std::tuple<const char*, const char*, const char*> expected[] = {
+      {"cmb", "", "Aligns your text in the object it is embedded in."},
+      {"cap", "", ""},
+      {"chk", "MultiLine", "Specifies whether WordWrap is used."},
+      {"btnf", "Font >>", ""},
+      {"btnffx", "", "Changes rotation, 3D-effect etc."},
+      {"test", "", ""},
+      {"reset", "Reset", ""},
+      {"ok", "OK", ""},
+      {"Button1", "Cancel", ""}};
+  for (const auto& [name, text, hint] : expected) {
+    const auto* control = dlg.findChild<QWidget*>(QLatin1StringView(name));
+    ASSERT_NE(control, nullptr) << name;
+    EXPECT_EQ(control->toolTip().toStdString(), hint) << name;
+    if (const auto* button = qobject_cast<const QAbstractButton*>(control)) {
+      EXPECT_EQ(button->text().toStdString(), text);
+    }
+  }
+  EXPECT_TRUE(dlg.ok->isDefault());
+}

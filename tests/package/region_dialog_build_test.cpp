@@ -1,0 +1,125 @@
+// Building a mask in the region dialog.
+#include "tests/package/RegionDialogTest.h"
+
+using namespace pixeltest;
+
+namespace {
+const std::vector<TColor> Silver{clSilver};
+}
+
+class RegionBuild : public RegionDialog {
+ protected:
+  void SetUp() override {
+    RegionDialog::SetUp();
+    Load(BarOnSilver());
+  }
+  void Pick() { PressAt(Qt::LeftButton, 0, 0); }
+  void Build() {
+    dlg.pages->setCurrentIndex(1);
+    Click(dlg.BuildButton);
+  }
+};
+
+TEST_F(RegionBuild, WithoutColoursItAsksForOneAndBuildsNothing) {
+  Build();
+  EXPECT_EQ(prompts.informed,
+            QStringList{QStringLiteral("Please choose at least one color to be transparent!")});
+  EXPECT_FALSE(dlg.OKButton->isEnabled());
+  EXPECT_TRUE(dlg.BuildButton->isEnabled());
+  EXPECT_FALSE(dlg.mask->HasRegion());
+  EXPECT_TRUE(dlg.mask->BorderPicture().isNull());
+}
+
+TEST_F(RegionBuild, ItCanBeConfirmedAfterwardsAndNotBuiltAgain) {
+  Pick();
+  Build();
+  EXPECT_TRUE(dlg.OKButton->isEnabled());
+  EXPECT_FALSE(dlg.BuildButton->isEnabled());
+  EXPECT_TRUE(dlg.Progress->isHidden());
+  EXPECT_TRUE(prompts.informed.isEmpty());
+}
+
+TEST_F(RegionBuild, EveryBorderStyleGivesTheMaskOfTheRoutine) {
+  Pick();
+  const char* const styles[] = {"None", "Single", "Raised", "Lowered", "Single-Raised", "Single-Lowered"};
+  dlg.pages->setCurrentIndex(1);
+  for (int i = 5; i >= 0; --i) {
+    Choose(dlg.cb, QString::fromLatin1(styles[i]));
+    EXPECT_TRUE(dlg.BuildButton->isEnabled()) << styles[i];
+    Build();
+    const TRegionBuild expected =
+        BuildWindowRegion(BarOnSilver(), Silver, static_cast<TRegionBorder>(i), nullptr);
+    ASSERT_FALSE(expected.RegionData().isEmpty());
+    EXPECT_EQ(dlg.mask->RegionData(), expected.RegionData()) << styles[i];
+    EXPECT_EQ(dlg.mask->BorderPicture(), expected.Border.Image()) << styles[i];
+    EXPECT_TRUE(dlg.mask->StatePicture(0).isNull());
+  }
+}
+
+TEST_F(RegionBuild, AllListedColoursAreTransparent) {
+  Pick();
+  PressAt(Qt::LeftButton, 8, 2);
+  Build();
+  EXPECT_EQ(dlg.mask->RegionData(),
+            BuildWindowRegion(BarOnSilver(), {clSilver, clBlue}, TRegionBorder::None, nullptr).RegionData());
+  EXPECT_NE(dlg.mask->RegionData(),
+            BuildWindowRegion(BarOnSilver(), Silver, TRegionBorder::None, nullptr).RegionData());
+}
+
+TEST_F(RegionBuild, EveryButtonStyleStoresTwoStates) {
+  dlg.SetButtonFace();
+  Pick();
+  dlg.pages->setCurrentIndex(1);
+  const char* const styles[] = {"Win31", "Win40", "Simple"};
+  for (int i = 2; i >= 0; --i) {
+    Choose(dlg.cb2, QString::fromLatin1(styles[i]));
+    EXPECT_TRUE(dlg.BuildButton->isEnabled()) << styles[i];
+    Build();
+    const TRegionBuild expected =
+        BuildButtonRegion(BarOnSilver(), Silver, static_cast<TRegionButton>(i), nullptr);
+    ASSERT_FALSE(expected.First == expected.Second);
+    EXPECT_EQ(dlg.mask->RegionData(), expected.RegionData()) << styles[i];
+    EXPECT_EQ(dlg.mask->StatePicture(0), expected.First.Image()) << styles[i];
+    EXPECT_EQ(dlg.mask->StatePicture(1), expected.Second.Image()) << styles[i];
+  }
+}
+
+TEST_F(RegionBuild, CompressionAndDepthAreWrittenToTheMask) {
+  dlg.pages->setCurrentIndex(1);
+  dlg.ccb->click();
+  EXPECT_TRUE(dlg.mask->Compress());
+  dlg.ccb->click();
+  EXPECT_FALSE(dlg.mask->Compress());
+  const char* const depths[] = {"spfDefault", "spfMono", "spf4bit", "spf8bit", "spf16bit"};
+  for (int i = 4; i >= 0; --i) {
+    Choose(dlg.colb, QString::fromLatin1(depths[i]));
+    EXPECT_EQ(static_cast<int>(dlg.mask->ColorDepth()), i);
+    EXPECT_EQ(dlg.colb->currentIndex(), i);
+  }
+}
+
+TEST_F(RegionBuild, EveryControlHasItsNameAndHint) {
+  const std::pair<const char*, const char*> expected[] = {
+      {"LoadButton", "Load an image"},
+      {"Image1", "Left mouse btn -> select color\nRight mouse btn -> zoom"},
+      {"zoom", "Left mouse btn -> select color"},
+      {"cl", "Colors which will be excluded from the visible region\nRemove by pressing delete"},
+      {"cb", "Select a border style"},
+      {"cb2", "Select a border style"},
+      {"BuildButton", "Build region and border bitmap"},
+      {"Progress", "Shows build progress"}};
+  for (const auto& [name, hint] : expected) {
+    const auto* control = dlg.findChild<QWidget*>(QLatin1StringView(name));
+    ASSERT_NE(control, nullptr) << name;
+    EXPECT_EQ(control->toolTip().remove(u'\r').toStdString(), hint) << name;
+  }
+  for (const char* name : {"DimLabel", "ViewLabel", "cc", "ccb", "colb", "OKButton", "VRXScrollBox1"})
+    EXPECT_NE(dlg.findChild<QWidget*>(QLatin1StringView(name)), nullptr) << name;
+  EXPECT_EQ(dlg.pages->tabText(0), QStringLiteral("Image/Colors"));
+  EXPECT_EQ(dlg.pages->tabText(1), QStringLiteral("Border/Build"));
+  EXPECT_EQ(dlg.OKButton->text(), QStringLiteral("Ok"));
+  EXPECT_EQ(dlg.ccb->text(), QStringLiteral("Compress image"));
+  EXPECT_EQ(dlg.cl->sizeHintForRow(0), -1);
+  Pick();
+  EXPECT_EQ(dlg.cl->visualItemRect(dlg.cl->item(0)).height(), 10);
+}
