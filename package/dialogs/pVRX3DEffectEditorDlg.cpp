@@ -166,9 +166,8 @@ void TVRX3DEffectEditorDlg::btngetpicClick(const QPushButton* sender) {
     // Cancelled or empty, the caption is what it was.
     TVRXCaption edited;
     edited.Assign(caption.get());
-    if (!VRXCPGetVRXCaption(edited, true)) return;
+    if (!VRXCPGetVRXCaption(edited, true) || edited.Caption().isEmpty()) return;
     caption->Assign(&edited);
-    if (edited.Caption().isEmpty()) return;
     VRXDrawCaptionFace(*caption, *bitmaps[Original]);
   } else if (!VRXCPGetPicture(this, *bitmaps[Original])) {
     return;
