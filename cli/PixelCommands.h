@@ -1,7 +1,6 @@
 // What the commands that work on pictures share.
 #pragma once
 #include <functional>
-#include <mutex>
 
 #include "cli/Commands.h"
 #include "vcl/Bitmap.h"
@@ -15,6 +14,7 @@ void WritePng(const QString& file, const TBitmap& picture);
 // the whole.
 int RunOnAllCores(const QStringList& sources, Console& console, const QString& command,
                   const std::function<void(const QString& source)>& job);
-// A file in the folder named after the source: "NAME-suffix". Two sources of one name are a UsageError.
+// Two sources that would be written to files of one name are a UsageError.
 void CheckDistinct(const QStringList& sources);
+// A file in the folder, named after the source: "NAME-suffix".
 QString OutputFile(const QString& folder, const QString& source, const QString& suffix);

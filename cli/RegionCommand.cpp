@@ -2,6 +2,7 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <mutex>
 
 #include "cli/PixelCommands.h"
 #include "forms/FormFile.h"

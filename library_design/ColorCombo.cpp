@@ -1,6 +1,7 @@
 #include "library_design/ColorCombo.h"
 
 #include <QSignalBlocker>
+#include <QToolButton>
 
 #include "dclstd/ColorDialog.h"
 #include "designintf/CustomColors.h"
@@ -90,4 +91,13 @@ void ShareCustomColors(const std::vector<TVRXColorComboBox*>& combos) {
         if (other != combo) other->SetCustomColors(combo->CustomColors());
     });
   }
+}
+
+QToolButton* NewColorButton(const char* name, QWidget* parent) {
+  auto* button = new QToolButton(parent);
+  button->setObjectName(QString::fromLatin1(name));
+  button->setText(QStringLiteral("\u2026"));
+  button->setFixedSize(23, 23);
+  button->setAccessibleName(QObject::tr("Choose a colour"));
+  return button;
 }

@@ -7,6 +7,8 @@
 enum class TVRXColorStyle : std::uint8_t { csDefaultColors, csSystemColors, csCustomColors, csAnyColor };
 using TVRXColorStyles = TSet<TVRXColorStyle>;
 
+class QToolButton;
+
 class TVRXColorComboBox : public QComboBox {
   Q_OBJECT
  public:
@@ -47,3 +49,6 @@ class TVRXColorComboBox : public QComboBox {
 
 // Loads the IDE's custom colours into all of the combos; from then on what is changed in one is in all.
 void ShareCustomColors(const std::vector<TVRXColorComboBox*>& combos);
+
+// The small button behind a combo that opens its colour dialog.
+QToolButton* NewColorButton(const char* name, QWidget* parent);

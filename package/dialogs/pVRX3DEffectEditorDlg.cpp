@@ -63,10 +63,7 @@ void TVRX3DEffectEditorDlg::BuildSettings() {
                             const char* buttonName, const char* label, const char* hint) {
     using enum TVRXColorStyle;
     combo = Named(new TVRXColorComboBox({csDefaultColors, csSystemColors, csAnyColor}, this), name, hint);
-    button = Named(new QToolButton(this), buttonName, "");
-    button->setText(QStringLiteral("\u2026"));
-    button->setFixedSize(23, 23);
-    button->setAccessibleName(tr("Choose a colour"));
+    button = NewColorButton(buttonName, this);
     AddRow(QString::fromLatin1(label), combo, button);
     connect(combo, &TVRXColorComboBox::Change, this, [this, combo] { Guarded([&] { cmbBChange(combo); }); });
     connect(button, &QToolButton::clicked, this, [this, button] { Guarded([&] { dlgBClick(button); }); });

@@ -22,13 +22,8 @@ void TVRXLEDEditorDlg::Build() {
   edt = Named(new TVRXSpinEdit(99, 2, this), "edt", "Defines the thickness of the LED-letters.");
   cmbb = Named(new TVRXColorComboBox, "cmbb", "Defines the color for active LED-letters.");
   cmbL = Named(new TVRXColorComboBox, "cmbL", "Defines the color for inactive LED-letters.");
-  bt1 = Named(new QToolButton(this), "bt1", "");
-  bt2 = Named(new QToolButton(this), "bt2", "");
-  for (QToolButton* button : {bt1, bt2}) {
-    button->setText(QStringLiteral("\u2026"));
-    button->setFixedSize(23, 23);
-    button->setAccessibleName(tr("Choose a colour"));
-  }
+  bt1 = NewColorButton("bt1", this);
+  bt2 = NewColorButton("bt2", this);
   pred =
       Named(new QComboBox(this), "pred", "Defines the color for both \r\nactive and inactive LED-letters.");
   pred->setMaxVisibleItems(4);
