@@ -3,6 +3,7 @@
 #include "cli/Commands.h"
 #include "forms/FormFile.h"
 #include "forms/TextWriter.h"
+#include "ide/BoundsCheck.h"
 #include "ide/FormSession.h"
 #include "rtl/Exceptions.h"
 #include "vcl/FormFrame.h"
@@ -109,6 +110,8 @@ int SetCommand(const QStringList& list, Console& console) {
                                  QString::fromUtf8(a.path)));
       try {
         ApplyNow(session->Form(), target, a.value, session->Document());
+        if (target.prop && a.value.IsInteger())
+          RequireBoundsTaken(*target.instance, *target.prop, a.value.integer);
       } catch (const Exception& e) {
         throw Exception(QStringLiteral("%1: %2").arg(a.text, e.Message()));
       }

@@ -3,6 +3,7 @@
 #include <QtWidgets>
 
 #include "designintf/ComponentIcons.h"
+#include "ide/BoundsCheck.h"
 #include "rtl/Exceptions.h"
 #include "vcl/FormFrame.h"
 #include "vcl/Theme.h"
@@ -18,7 +19,10 @@ FormSurface::FormSurface(QWidget* parent) : QWidget(parent) {
 }
 
 void FormSurface::SetSession(FormSession* session) {
-  if (session_) disconnect(session_, nullptr, this, nullptr);
+  if (session_) {
+    CancelDrag();
+    disconnect(session_, nullptr, this, nullptr);
+  }
   session_ = session;
   action_ = Action::None;
   if (session_) {
@@ -29,7 +33,6 @@ void FormSurface::SetSession(FormSession* session) {
     connect(session_, &FormSession::StructureChanged, this, [this] {
       action_ = Action::None;
       starts_.clear();
-      others_.clear();
     });
   }
   UpdateSize();
@@ -47,8 +50,8 @@ void FormSurface::SetTool(const TClass* cls) {
 
 QSize FormSurface::sizeHint() const {
   if (!session_) return {400, 300};
-  const TForm& form = session_->Form();
-  return QSize(qCeil((form.Width() + 2 * Desk) * zoom_), qCeil((form.Height() + 2 * Desk) * zoom_));
+  const QSize form = session_->Form().OuterSize();
+  return QSize(qCeil((form.width() + 2 * Desk) * zoom_), qCeil((form.height() + 2 * Desk) * zoom_));
 }
 
 void FormSurface::UpdateSize() {
@@ -85,7 +88,7 @@ void FormSurface::SetRect(TComponent& c, const QRect& r) {
 QRect FormSurface::FormRectOf(const TComponent& c) const {
   const TForm& form = session_->Form();
   const QMargins m = form.FrameMargins();
-  if (&c == &form) return QRect(-m.left(), -m.top(), form.Width(), form.Height());
+  if (&c == &form) return QRect({-m.left(), -m.top()}, form.OuterSize());
   QRect r = RectOf(c);
   if (const auto* control = As<TControl>(&c))
     for (const TControl* p = control->Parent(); p && p != &form; p = p->Parent())
@@ -146,7 +149,7 @@ void FormSurface::mousePressEvent(QMouseEvent* event) {
   if (handle_ >= 0) {
     TComponent* c = session_->SelectedComponents().front();
     starts_ = {{c, RectOf(*c)}};
-    RememberOthers();
+    session_->BeginLive();
     action_ = Action::Resize;
     return;
   }
@@ -184,7 +187,7 @@ void FormSurface::mouseMoveEvent(QMouseEvent* event) {
       for (TComponent* c : session_->SelectedComponents())
         if (c != session_->GetRoot()) starts_.push_back({c, RectOf(*c)});
       if (starts_.empty()) return;
-      RememberOthers();
+      session_->BeginLive();
       action_ = Action::Move;
       [[fallthrough]];
     case Action::Move:
@@ -204,23 +207,16 @@ void FormSurface::UpdateCursor(QPoint p) {
   setCursor(handle < 0 ? Qt::ArrowCursor : shapes[handle % 4]);
 }
 
-// Sizes have effects on what is inside and beside; taking them back needs every place, from the outside in.
-void FormSurface::RememberOthers() {
-  others_.clear();
-  for (TComponent* c : session_->AllComponents())
-    if (c != session_->GetRoot() && As<TControl>(c)) others_.push_back({c, RectOf(*c)});
-}
-
-void FormSurface::RestorePlaces() {
-  for (const Start& s : starts_) SetRect(*s.component, s.rect);
-  for (const Start& s : others_) SetRect(*s.component, s.rect);
-}
-
 // Live: the components follow the pointer; the command is made when the button is let go.
 void FormSurface::Drag(QPoint p, bool fine) {
+  // A command that came in between has ended the drag.
+  if (!session_->IsLive()) {
+    action_ = Action::None;
+    return;
+  }
   const int grid = fine ? 1 : Grid;
   const QPoint delta((p - pressed_) / zoom_);
-  RestorePlaces();
+  session_->RestartLive();
   if (action_ == Action::Move) {
     const QPoint first = starts_.front().rect.topLeft();
     const QPoint step = QPoint(Snap(first.x() + delta.x(), grid), Snap(first.y() + delta.y(), grid)) - first;
@@ -241,24 +237,20 @@ void FormSurface::Drag(QPoint p, bool fine) {
 }
 
 void FormSurface::FinishDrag() {
-  std::vector<TComponent*> touched;
-  std::vector<QRect> final;
-  for (const Start& s : starts_) {
-    touched.push_back(s.component);
-    final.push_back(RectOf(*s.component));
-  }
-  RestorePlaces();
-  const QString text = action_ == Action::Move ? tr("Move") : tr("Resize");
+  const bool resize = action_ == Action::Resize;
   action_ = Action::None;
-  Guarded([&] {
-    session_->Run(text, touched, [&] {
-      for (std::size_t i = 0; i < touched.size(); ++i) SetRect(*touched[i], final[i]);
-    });
+  const QPoint delta = current_ - pressed_;
+  const auto stayed = std::find_if(starts_.begin(), starts_.end(), [&](const Start& s) {
+    const auto* control = As<TControl>(s.component);
+    return control && control->Align() != TAlign::alNone && control->BoundsRect() == s.rect;
   });
+  const bool inVain = stayed != starts_.end() && delta.manhattanLength() >= Grid;
+  Guarded([&] { session_->EndLive(resize ? tr("Resize") : tr("Move"), true); });
+  if (inVain) emit Message(WhatDecidesBounds(*As<TControl>(stayed->component)));
 }
 
 void FormSurface::CancelDrag() {
-  if (action_ == Action::Move || action_ == Action::Resize) RestorePlaces();
+  if (session_) session_->EndLive({}, false);
   action_ = Action::None;
   update();
 }

@@ -58,8 +58,6 @@ class FormSurface : public QWidget {
   int HandleAt(QPoint widgetPoint) const;
   std::vector<QRect> Handles() const;
   void Drag(QPoint widgetPoint, bool fine);
-  void RememberOthers();
-  void RestorePlaces();
   void FinishDrag();
   void CancelDrag();
   void PlaceTool(const QRect& formRect);
@@ -82,6 +80,5 @@ class FormSurface : public QWidget {
   QPoint pressed_;
   QPoint current_;
   std::vector<Start> starts_;      // what is dragged
-  std::vector<Start> others_;      // every control, parents first
   TWinControl* target_ = nullptr;  // where a tool or band works
 };

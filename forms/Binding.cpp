@@ -82,25 +82,19 @@ void ApplyCollection(const PropertyTarget& t, const Value& v, const Document& do
     Refuse(t, v,
            collection ? QStringLiteral("a collection <...> is expected")
                       : QStringLiteral("its parts are set one by one"));
-  collection->BeginUpdate();
-  try {
-    collection->Clear();
-    for (const CollectionItem& item : v.collection) {
-      TCollectionItem* target = collection->Add();
-      for (const NamedValue& p : item.properties) {
-        const PropertyTarget inner = FindTarget(*target, p.path);
-        if (!inner.Found())
-          throw EPropertyError(
-              QStringLiteral("%1 has no property %2.")
-                  .arg(QString::fromLatin1(target->ClassType().ClassName()), QString::fromUtf8(p.path)));
-        ApplyValue(inner, p.value, doc, pending);
-      }
+  const TUpdateLock lock(*collection);
+  collection->Clear();
+  for (const CollectionItem& item : v.collection) {
+    TCollectionItem* target = collection->Add();
+    for (const NamedValue& p : item.properties) {
+      const PropertyTarget inner = FindTarget(*target, p.path);
+      if (!inner.Found())
+        throw EPropertyError(
+            QStringLiteral("%1 has no property %2.")
+                .arg(QString::fromLatin1(target->ClassType().ClassName()), QString::fromUtf8(p.path)));
+      ApplyValue(inner, p.value, doc, pending);
     }
-  } catch (...) {
-    collection->EndUpdate();
-    throw;
   }
-  collection->EndUpdate();
 }
 }  // namespace
 

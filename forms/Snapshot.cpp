@@ -13,6 +13,8 @@ std::vector<ValueChange> Difference(const Snapshot& before, const Snapshot& afte
   for (const StoredValue& v : after) {
     const StoredValue* was = old.take(v.path);
     if (was && was->value == v.value && (was->stored == v.stored || !v.stored)) continue;
+    // What is stored neither before nor after follows from something else.
+    if (was && !was->stored && !v.stored) continue;
     ValueChange change;
     change.path = v.path;
     if (was) change.before = was->value;

@@ -12,12 +12,14 @@ struct ComponentChange {
   bool headerChangedBefore = false;
 };
 
-// An object that came or went, with everything inside it.
+// An object that came, went or moved, with everything inside it.
 struct StructureChange {
-  enum class Kind { Insert, Remove } kind = Kind::Insert;
+  enum class Kind { Insert, Remove, Move } kind = Kind::Insert;
   forms::Object* object = nullptr;
   forms::Object* parent = nullptr;
   int index = 0;
+  forms::Object* newParent = nullptr;  // of a move
+  int newIndex = 0;
   std::unique_ptr<forms::Object> held;  // while it is not in the document
 };
 

@@ -22,8 +22,9 @@ TComponent* MakeStandIn(const forms::Object& object, TComponent* owner) {
   return component;
 }
 
-TComponent* MakeRoot(const forms::Object& object, TComponent* owner) {
+TComponent* MakeRoot(const forms::Object& object, bool sizeIsClient, TComponent* owner) {
   auto* form = new TForm(owner);
+  form->SetSizeIsClient(sizeIsClient);
   form->SetStreamClassName(QByteArray(object.className.constData(), object.className.size()));
   return form;
 }
@@ -70,7 +71,9 @@ std::unique_ptr<FormSession> FormSession::NewForm(const QString& name) {
 forms::FormReader FormSession::MakeReader(forms::Document& document, forms::ObjectMap& map) {
   forms::FormReader reader(document, map);
   reader.SetDesigning(true);
-  reader.SetRootMaker(MakeRoot);
+  reader.SetRootMaker([lcl = document.Style().lcl](const forms::Object& object, TComponent* owner) {
+    return MakeRoot(object, lcl, owner);
+  });
   reader.SetUnknownMaker(MakeStandIn);
   return reader;
 }
@@ -86,6 +89,12 @@ void FormSession::Build() {
 }
 
 void FormSession::Rebuild() {
+  SettleStray();
+  if (pending_) {
+    // The components are in use by whatever goes on.
+    rebuildWanted_ = true;
+    return;
+  }
   const std::vector<forms::Object*> selected = SelectedObjects();
   root_->SetHost(nullptr);
   selection_.clear();
@@ -111,6 +120,7 @@ std::vector<TComponent*> FormSession::AllComponents() const {
 void FormSession::Save() { SaveAs(fileName_); }
 
 void FormSession::SaveAs(const QString& fileName) {
+  SettleStray();
   forms::WriteFile(fileName, Bytes());
   fileName_ = fileName;
   clean_ = position_;

@@ -40,7 +40,19 @@ class FormSession : public QObject, public IDesigner, public IControlHost {
   // Runs `action`, which changes `touched` (and whatever follows from that), as one command. Nothing changed:
   // no command. Nested calls join the outer command. Whatever the action throws comes out, after everything
   // it did has been taken back.
+  // Components tell the session what is about to change in them, so an action may change any component;
+  // `touched` are those that are looked at even if they say nothing.
   void Run(const QString& text, const std::vector<TComponent*>& touched, const std::function<void()>& action);
+  // Whether a command is under way: an editor's dialog is open, something is dragged. Undo, redo and making
+  // the components anew wait until then.
+  bool IsBusy() const;
+
+  // A command that goes on while somebody drags: every step starts from the bounds before the first one.
+  void BeginLive();
+  void RestartLive();
+  // Keeps what the last step did as one command, or takes it back.
+  void EndLive(const QString& text, bool keep);
+  bool IsLive() const;
   bool CanUndo() const { return position_ > 0; }
   bool CanRedo() const { return position_ < static_cast<int>(commands_.size()); }
   QString UndoText() const;
@@ -54,7 +66,8 @@ class FormSession : public QObject, public IDesigner, public IControlHost {
   void DeleteComponents(const std::vector<TComponent*>& components);
   void Rename(TComponent& component, const QString& name);
 
-  // Makes all components anew from the document, after classes came or went.
+  // Makes all components anew from the document, after classes came or went; while a command is under way,
+  // when that has ended.
   void Rebuild();
 
   // --- Selection
@@ -82,6 +95,9 @@ class FormSession : public QObject, public IDesigner, public IControlHost {
   // --- IControlHost
   void ControlChanged(TControl& control) override;
   void BoundsChanging(TControl& control) override;
+  void ComponentChanging(TComponent& component) override;
+  void ComponentListed(TComponent& component, TOperation operation) override;
+  void ControlPlaced(TControl& control) override;
   // Undo and redo know every place themselves.
   bool LayoutFrozen() const override { return applying_; }
 
@@ -98,10 +114,19 @@ class FormSession : public QObject, public IDesigner, public IControlHost {
   explicit FormSession(forms::Document document);
   void Build();
   void Capture(TComponent& component);
+  void Begin(int kind);
+  void NoteStray();
+  void SettleStray();
   void Commit(const QString& text);
   void Rollback();
+  void Ended();
   std::unique_ptr<Command> TakeDifferences();
-  void Reconcile();
+  void TakeBounds();
+  void TakePlaces();
+  void TakeArrivals();
+  void Enter(TComponent& component, forms::Object& parent);
+  void Adopt(TComponent& component);
+  void CaptureAll();
   void Push(std::unique_ptr<Command> command);
   void Apply(Command& command, bool redo);
   void ApplyStructure(StructureChange& change, bool redo);
@@ -111,12 +136,14 @@ class FormSession : public QObject, public IDesigner, public IControlHost {
   void RemoveObject(forms::Object& object);
   void RemoveWithChildren(TComponent& component);
   void InsertObject(StructureChange& change);
+  void MoveObject(StructureChange& change, bool redo);
   void TakeObject(StructureChange& change);
   void Announce(bool structure);
   static forms::FormReader MakeReader(forms::Document& document, forms::ObjectMap& map);
   std::vector<TComponent*> ComponentsOf(const std::vector<forms::Object*>& objects) const;
   std::vector<forms::Object*> SelectedObjects() const;
   int NewChildIndex(const forms::Object& parent, const TComponent& component) const;
+  int PlaceAmong(const forms::Object& parent, int index) const;
 
   forms::Document document_;
   forms::ObjectMap map_;
@@ -128,5 +155,7 @@ class FormSession : public QObject, public IDesigner, public IControlHost {
   int position_ = 0;
   int clean_ = 0;
   std::unique_ptr<Pending> pending_;
-  bool applying_ = false;
+  bool applying_ = false;     // an undo, a redo or a rollback is under way
+  bool structuring_ = false;  // the session itself makes or frees components
+  bool rebuildWanted_ = false;
 };

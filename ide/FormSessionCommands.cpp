@@ -1,37 +1,23 @@
 // Running, undoing and redoing commands.
+#include <QScopedValueRollback>
+
 #include "designintf/DesignWindow.h"
 #include "ide/PendingCommand.h"
+#include "rtl/Exceptions.h"
 #include "rtl/PropAccess.h"
 
 namespace {
 QSet<QByteArray> BoundsPaths() { return {"Left", "Top", "Width", "Height", "ClientWidth", "ClientHeight"}; }
 }  // namespace
 
-void FormSession::Capture(TComponent& component) {
-  if (pending_->index.contains(&component)) return;
-  forms::Object* object = map_.ObjectOf(component);
-  if (!object || pending_->created.contains(object)) return;
-  pending_->index.insert(&component, static_cast<int>(pending_->captured.size()));
-  pending_->captured.push_back(
-      {&component, object, component.Name(), forms::TakeSnapshot(component, document_)});
-  // Whoever refers to it writes its name.
-  for (TComponent* holder : component.FreeNotifies())
-    if (holder->Owner() == root_.get() || holder == root_.get()) Capture(*holder);
-}
-
-void FormSession::BoundsChanging(TControl& control) {
-  if (!pending_ || applying_ || pending_->moved.contains(&control)) return;
-  pending_->moved.insert(&control);
-  pending_->bounds.emplace_back(&control, control.BoundsRect());
-}
+bool FormSession::IsBusy() const { return pending_ && pending_->kind != Pending::Kind::Stray; }
 
 void FormSession::Run(const QString& text, const std::vector<TComponent*>& touched,
                       const std::function<void()>& action) {
+  SettleStray();
+  EndLive({}, false);
   const bool outer = !pending_;
-  if (outer) {
-    pending_ = std::make_unique<Pending>();
-    pending_->selectionBefore = SelectedObjects();
-  }
+  if (outer) Begin(static_cast<int>(Pending::Kind::Action));
   for (TComponent* c : touched) Capture(*c);
   if (!outer) return action();
   try {
@@ -43,84 +29,45 @@ void FormSession::Run(const QString& text, const std::vector<TComponent*>& touch
   Commit(text);
 }
 
-// What the pending command changed, with the document patched accordingly.
-std::unique_ptr<Command> FormSession::TakeDifferences() {
-  auto command = std::make_unique<Command>();
-  command->structure = std::move(pending_->structure);
-  command->selectionBefore = pending_->selectionBefore;
-  const auto alive = [this](TComponent* c) { return map_.ObjectOf(*c) != nullptr; };
-  // A new component may stand at the address of a deleted one; the object tells them apart.
-  const auto stillThere = [this](const Pending::Captured& c) {
-    return map_.ObjectOf(*c.component) == c.object;
-  };
+bool FormSession::IsLive() const { return pending_ && pending_->kind == Pending::Kind::Live; }
 
-  for (auto& [control, before] : pending_->bounds) {
-    if (pending_->index.contains(control) || !alive(control) ||
-        pending_->created.contains(map_.ObjectOf(*control)))
-      continue;
-    // Only its place can have changed: the old values are the present ones with the old bounds.
-    const QRect now = control->BoundsRect();
-    forms::Snapshot values;
-    for (forms::StoredValue& v : forms::TakeSnapshot(*control, document_)) {
-      if (!BoundsPaths().contains(v.path)) {
-        values.push_back(std::move(v));
-        continue;
-      }
-      if (v.path == "Left") v.value = forms::Value::Integer(before.left());
-      if (v.path == "Top") v.value = forms::Value::Integer(before.top());
-      if (v.path == "Width") v.value = forms::Value::Integer(before.width());
-      if (v.path == "Height") v.value = forms::Value::Integer(before.height());
-      values.push_back(std::move(v));
-    }
-    if (now != before)
-      pending_->captured.push_back({control, map_.ObjectOf(*control), control->Name(), std::move(values)});
-  }
+void FormSession::BeginLive() {
+  SettleStray();
+  if (!pending_) Begin(static_cast<int>(Pending::Kind::Live));
+}
 
-  for (auto& c : pending_->captured) {
-    if (!stillThere(c)) continue;
-    ComponentChange change;
-    change.object = c.object;
-    const forms::Snapshot after = forms::TakeSnapshot(*c.component, document_);
-    change.values = forms::Difference(c.values, after);
-    change.nameBefore = c.name;
-    change.nameAfter = c.component->Name();
-    change.classBefore = change.classAfter = c.object->className;
-    change.headerChangedBefore = c.object->headerChanged;
-    if (change.nameBefore != change.nameAfter) {
-      SetObjectName(*c.object, change.nameAfter);
-      // A form's class follows its name: TMain for Main.
-      if (c.component == root_.get() && change.classBefore == "T" + change.nameBefore.toUtf8()) {
-        change.classAfter = "T" + change.nameAfter.toUtf8();
-        c.object->className = change.classAfter;
-        root_->SetStreamClassName(change.classAfter);
-      }
-    }
-    forms::PatchObject(*c.object, document_, after, change.values);
-    if (!change.values.empty() || change.nameBefore != change.nameAfter)
-      command->components.push_back(std::move(change));
-  }
+void FormSession::RestartLive() {
+  if (!IsLive()) return;
+  const QScopedValueRollback guard(applying_, true);
+  for (const auto& [control, before] : pending_->bounds)
+    control->SetBounds(before.left(), before.top(), before.width(), before.height());
+}
 
-  for (const StructureChange& s : command->structure)
-    if (s.kind == StructureChange::Kind::Insert && !s.held)
-      if (TComponent* c = map_.ComponentOf(*s.object); c && pending_->created.contains(s.object)) {
-        s.object->properties.clear();
-        s.object->name = c->Name().toUtf8();
-        for (forms::StoredValue& v : forms::PropertyValues(*c, document_, false))
-          s.object->properties.push_back(document_.MakeProperty(v.path, std::move(v.value)));
-      }
-  command->selectionAfter = SelectedObjects();
-  return command;
+void FormSession::EndLive(const QString& text, bool keep) {
+  if (!IsLive()) return;
+  if (keep)
+    Commit(text);
+  else
+    Rollback();
 }
 
 void FormSession::Commit(const QString& text) {
+  // Somebody says that something changed, and nobody told of it before.
+  if (pending_->modified && !pending_->announced) CaptureAll();
   auto command = TakeDifferences();
   pending_.reset();
   if (command->Empty()) {
     emit FormChanged();  // live previews may have been shown on the way
-    return;
+  } else {
+    command->text = text;
+    Push(std::move(command));
   }
-  command->text = text;
-  Push(std::move(command));
+  Ended();
+}
+
+// What had to wait for the command.
+void FormSession::Ended() {
+  if (std::exchange(rebuildWanted_, false)) Rebuild();
 }
 
 void FormSession::Push(std::unique_ptr<Command> command) {
@@ -141,6 +88,7 @@ void FormSession::Rollback() {
   selection_ = ComponentsOf(command->selectionBefore);
   Announce(!command->structure.empty());
   Select(selection_);
+  Ended();
 }
 
 void FormSession::Announce(bool structure) {
@@ -157,6 +105,7 @@ QString FormSession::RedoText() const {
 }
 
 void FormSession::Undo() {
+  SettleStray();
   if (!CanUndo() || pending_) return;
   Command& command = *commands_[static_cast<std::size_t>(--position_)];
   Apply(command, false);
@@ -167,6 +116,7 @@ void FormSession::Undo() {
 }
 
 void FormSession::Redo() {
+  SettleStray();
   if (!CanRedo() || pending_) return;
   Command& command = *commands_[static_cast<std::size_t>(position_++)];
   Apply(command, true);
@@ -182,7 +132,7 @@ void FormSession::SetObjectName(forms::Object& object, const QString& name) {
 }
 
 void FormSession::Apply(Command& command, bool redo) {
-  applying_ = true;
+  const QScopedValueRollback guard(applying_, true);
   if (redo)
     for (StructureChange& s : command.structure) ApplyStructure(s, true);
   else
@@ -201,7 +151,6 @@ void FormSession::Apply(Command& command, bool redo) {
   for (ComponentChange& c : command.components) ApplyValues(c, redo);
   for (StructureChange& s : command.structure)
     if (!s.held) Settle(*s.object);
-  applying_ = false;
 }
 
 // What came back before everything else was in place: components it refers to may have come later, and its
@@ -225,7 +174,12 @@ void FormSession::ApplyValues(ComponentChange& change, bool redo) {
   TComponent* component = map_.ComponentOf(*change.object);
   const auto set = [&](const forms::ValueChange& v) {
     const forms::PropertyTarget target = forms::FindTarget(*component, v.path);
-    if (target.Found()) forms::ApplyNow(*root_, target, redo ? v.after : v.before, document_);
+    if (!target.Found()) return;
+    try {
+      forms::ApplyNow(*root_, target, redo ? v.after : v.before, document_);
+    } catch (const Exception&) {
+      // The document has the value all the same; one setter that refuses does not keep the others back.
+    }
   };
   for (const forms::ValueChange& v : change.values) set(v);
   // Whatever sized itself on the way gets its place back.
@@ -238,7 +192,9 @@ void FormSession::ApplyValues(ComponentChange& change, bool redo) {
 }
 
 void FormSession::ApplyStructure(StructureChange& s, bool redo) {
-  if ((s.kind == StructureChange::Kind::Insert) == redo)
+  if (s.kind == StructureChange::Kind::Move)
+    MoveObject(s, redo);
+  else if ((s.kind == StructureChange::Kind::Insert) == redo)
     InsertObject(s);
   else
     TakeObject(s);
@@ -251,17 +207,33 @@ void FormSession::InsertObject(StructureChange& s) {
   TComponent* parent = map_.ComponentOf(*s.parent);
   if (TComponent* c = reader.ReadChild(object, *root_, *parent)) {
     // Back to its place among the siblings.
-    if (auto* control = As<TControl>(c); control && control->Parent()) {
-      int place = 0;
-      for (int i = 0; i < s.index; ++i)
-        if (As<TControl>(map_.ComponentOf(*s.parent->children[static_cast<std::size_t>(i)]))) ++place;
-      control->Parent()->SetControlIndex(control, place);
-    }
+    if (auto* control = As<TControl>(c); control && control->Parent())
+      control->Parent()->SetControlIndex(control, PlaceAmong(*s.parent, s.index));
     NotifyDesign([&](IDesignNotification& n) { n.ItemInserted(this, c); });
   }
 }
 
+// How many controls stand before the child.
+int FormSession::PlaceAmong(const forms::Object& parent, int index) const {
+  int place = 0;
+  for (int i = 0; i < index; ++i)
+    if (As<TControl>(map_.ComponentOf(*parent.children[static_cast<std::size_t>(i)]))) ++place;
+  return place;
+}
+
+void FormSession::MoveObject(StructureChange& s, bool redo) {
+  forms::Object* to = redo ? s.newParent : s.parent;
+  std::unique_ptr<forms::Object> node = s.object->parent->Take(s.object->IndexInParent());
+  const int index = redo ? s.newIndex : s.index;
+  to->Insert(index, std::move(node));
+  auto* control = As<TControl>(map_.ComponentOf(*s.object));
+  if (!control) return;
+  control->SetParentComponent(map_.ComponentOf(*to));
+  if (control->Parent()) control->Parent()->SetControlIndex(control, PlaceAmong(*to, index));
+}
+
 void FormSession::TakeObject(StructureChange& s) {
+  const QScopedValueRollback guard(structuring_, true);
   RemoveObject(*s.object);
   if (selection_.empty()) selection_ = {root_.get()};
   s.index = s.object->IndexInParent();

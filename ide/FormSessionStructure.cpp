@@ -1,4 +1,6 @@
 // Components that come and go, and changes that nobody announced.
+#include <QScopedValueRollback>
+
 #include "designintf/DesignWindow.h"
 #include "ide/PendingCommand.h"
 #include "rtl/Exceptions.h"
@@ -22,32 +24,48 @@ int FormSession::NewChildIndex(const forms::Object& parent, const TComponent& co
   return index;
 }
 
+// A new component's object in the document; its values are taken down when the command ends.
+void FormSession::Enter(TComponent& component, forms::Object& parent) {
+  auto object = std::make_unique<forms::Object>();
+  object->className = component.StreamClassName();
+  StructureChange s;
+  s.object = object.get();
+  s.parent = &parent;
+  s.index = NewChildIndex(parent, component);
+  parent.Insert(s.index, std::move(object));
+  pending_->created.insert(s.object);
+  map_.Add(component, *s.object);
+  pending_->structure.push_back(std::move(s));
+  if (component.Name().isEmpty())
+    component.SetName(UniqueName(QString::fromLatin1(component.ClassType().ClassName())));
+}
+
+// A component that an editor made on its own, with everything inside it.
+void FormSession::Adopt(TComponent& component) {
+  component.SetDesigning(true);
+  TComponent* parent = component.GetParentComponent();
+  if (parent && parent != root_.get() && !map_.ObjectOf(*parent)) Adopt(*parent);
+  forms::Object* at = parent ? map_.ObjectOf(*parent) : nullptr;
+  if (map_.ObjectOf(component)) return;
+  Enter(component, at ? *at : document_.Root());
+  NotifyDesign([&](IDesignNotification& n) { n.ItemInserted(this, &component); });
+}
+
 TComponent* FormSession::CreateComponent(const TClass& cls, TComponent* parent, const QRect& bounds) {
   TComponent* result = nullptr;
   if (!parent) parent = root_.get();
   Run(tr("Add %1").arg(QString::fromLatin1(cls.ClassName())), {}, [&] {
-    TComponent* component = cls.NewComponent(root_.get());
+    TComponent* component = nullptr;
+    {
+      const QScopedValueRollback guard(structuring_, true);
+      component = cls.NewComponent(root_.get());
+    }
     component->SetDesigning(true);
     auto* control = As<TControl>(component);
-    TComponent* container = root_.get();
-    if (control) {
-      auto* holder = As<TWinControl>(parent);
-      container = holder ? static_cast<TComponent*>(holder) : root_.get();
-      while (container != root_.get() && !map_.ObjectOf(*container))
-        container = container->GetParentComponent();
-    }
-    forms::Object* parentObject = map_.ObjectOf(*container);
-    auto object = std::make_unique<forms::Object>();
-    object->className = component->StreamClassName();
-    StructureChange s;
-    s.object = object.get();
-    s.parent = parentObject;
-    s.index = NewChildIndex(*parentObject, *component);
-    parentObject->Insert(s.index, std::move(object));
-    pending_->created.insert(s.object);
-    map_.Add(*component, *s.object);
-    pending_->structure.push_back(std::move(s));
-    component->SetName(UniqueName(QString::fromLatin1(cls.ClassName())));
+    TComponent* container = control ? parent : root_.get();
+    while (container != root_.get() && !(As<TWinControl>(container) && map_.ObjectOf(*container)))
+      container = container->GetParentComponent();
+    Enter(*component, *map_.ObjectOf(*container));
     if (control) {
       control->SetParent(As<TWinControl>(container));
       control->SetCaption(control->Caption().isEmpty() ? control->Name() : control->Caption());
@@ -114,27 +132,11 @@ void FormSession::Rename(TComponent& component, const QString& name) {
   Run(tr("Rename %1").arg(component.Name()), {&component}, [&] { component.SetName(name); });
 }
 
-// A change that nobody announced beforehand, made by a design window: found by comparing every component with
-// what the document makes of it.
-void FormSession::Reconcile() {
-  forms::Document copy = forms::Document::Parse(document_.Write(), document_.Style());
-  forms::ObjectMap copyMap;
-  forms::FormReader reader = MakeReader(copy, copyMap);
-  const auto before = reader.ReadRoot();
-  pending_ = std::make_unique<Pending>();
-  pending_->selectionBefore = SelectedObjects();
-  std::function<void(const forms::Object&, forms::Object&)> walk = [&](const forms::Object& was,
-                                                                       forms::Object& is) {
-    TComponent* old = copyMap.ComponentOf(was);
-    TComponent* now = map_.ComponentOf(is);
-    if (old && now) pending_->captured.push_back({now, &is, old->Name(), forms::TakeSnapshot(*old, copy)});
-    for (std::size_t i = 0; i < is.children.size(); ++i) walk(*was.children[i], *is.children[i]);
-  };
-  walk(copy.Root(), document_.Root());
-  Commit(tr("Change"));
-}
-
+// Inside a command the running command takes it along. Outside, a design window changed something: the
+// components told of it, or every one is looked at.
 void FormSession::Modified() {
-  if (pending_ || applying_) return;  // the running command takes it along
-  Reconcile();
+  if (applying_) return;
+  if (!pending_) Begin(static_cast<int>(Pending::Kind::Stray));
+  pending_->modified = true;
+  SettleStray();
 }

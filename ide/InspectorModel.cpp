@@ -1,6 +1,7 @@
 #include "ide/InspectorModel.h"
 
 #include "designintf/DesignIntf.h"
+#include "ide/BoundsCheck.h"
 #include "rtl/Exceptions.h"
 
 using enum TPropertyAttribute;
@@ -162,7 +163,13 @@ QString InspectorModel::Guarded(const QString& text, const std::function<void()>
 QString InspectorModel::SetValueText(const QModelIndex& index, const QString& text) {
   TPropertyEditor* editor = EditorAt(index);
   if (!editor) return {};
-  return Guarded(tr("Change %1").arg(editor->GetName()), [&] { editor->SetValue(text); });
+  return Guarded(tr("Change %1").arg(editor->GetName()), [&] {
+    editor->SetValue(text);
+    bool number = false;
+    const std::int64_t wanted = text.toLongLong(&number);
+    for (int i = 0; number && i < editor->PropCount(); ++i)
+      RequireBoundsTaken(*editor->GetComponent(i), editor->GetPropInfo(), wanted);
+  });
 }
 
 QString InspectorModel::RunDialog(const QModelIndex& index) {

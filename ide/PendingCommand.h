@@ -9,12 +9,21 @@ struct FormSession::Pending {
     QString name;
     forms::Snapshot values;
   };
+  enum class Kind {
+    Action,  // a Run; it ends when the action returns
+    Live,    // goes on while somebody drags
+    Stray,   // changes that nobody runs a command for
+  } kind = Kind::Action;
   std::vector<Captured> captured;
-  QHash<const TComponent*, int> index;
+  QSet<const TComponent*> index;
   std::vector<std::pair<TControl*, QRect>> bounds;  // of controls that were moved on the way
-  QSet<const TControl*> moved;
+  QHash<const TControl*, std::size_t> moved;        // where they stand in `bounds`
+  std::vector<TComponent*> arrived;                 // made by the action itself
+  std::vector<TComponent*> orphaned;                // stood inside something that the action freed
+  std::vector<TControl*> placed;                    // came to another parent or place in the order
   std::vector<StructureChange> structure;
   QSet<const forms::Object*> created;
   std::vector<forms::Object*> selectionBefore;
-  int depth = 0;
+  bool announced = false;  // a component told of a change
+  bool modified = false;   // an editor said that it changed something
 };

@@ -32,6 +32,7 @@ TCollection::TCollection(const TClass& itemClass, TPersistent* owner)
 TCollection::~TCollection() = default;
 
 TCollectionItem* TCollection::Add() {
+  Changing();
   auto* item = static_cast<TCollectionItem*>(itemClass_.NewItem(this));
   Changed();
   return item;
@@ -41,12 +42,14 @@ void TCollection::Delete(int index) {
   if (index < 0 || index >= Count())
     throw EComponentError(
         QStringLiteral("The collection has no item %1 (it has %2).").arg(index).arg(Count()));
+  Changing();
   items_.erase(items_.begin() + index);
   Changed();
 }
 
 void TCollection::Clear() {
   if (items_.empty()) return;
+  Changing();
   items_.clear();
   Changed();
 }
@@ -57,6 +60,7 @@ void TCollection::Move(int from, int to) {
                               .arg(from)
                               .arg(to)
                               .arg(Count()));
+  if (from != to) Changing();
   const auto b = items_.begin();
   if (from < to)
     std::rotate(b + from, b + from + 1, b + to + 1);
@@ -73,13 +77,7 @@ void TCollection::Assign(const TPersistent* source) {
     throw EConvertError(QStringLiteral("Cannot assign a collection of %1 to one of %2.")
                             .arg(QString::fromLatin1(other->itemClass_.ClassName()),
                                  QString::fromLatin1(itemClass_.ClassName())));
-  BeginUpdate();
-  try {
-    Clear();
-    for (int i = 0; i < other->Count(); ++i) Add()->Assign(other->Item(i));
-  } catch (...) {
-    EndUpdate();
-    throw;
-  }
-  EndUpdate();
+  const TUpdateLock lock(*this);
+  Clear();
+  for (int i = 0; i < other->Count(); ++i) Add()->Assign(other->Item(i));
 }

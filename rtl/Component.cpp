@@ -82,6 +82,19 @@ void TComponent::InsertComponent(TComponent* component) {
   component->owner_ = this;
   component->designing_ = component->designing_ || designing_;
   EnterName(*component);
+  ComponentListed(*component, TOperation::opInsert);
+}
+
+void TComponent::DoChanging() {
+  if (!loading_ && !destroying_) ComponentChanging(*this);
+}
+
+void TComponent::ComponentChanging(TComponent& component) {
+  if (owner_) owner_->ComponentChanging(component);
+}
+
+void TComponent::ComponentListed(TComponent& component, TOperation operation) {
+  if (owner_) owner_->ComponentListed(component, operation);
 }
 
 void TComponent::EnterName(TComponent& component) {
@@ -97,6 +110,7 @@ void TComponent::LeaveName(TComponent& component) {
 void TComponent::RemoveComponent(TComponent* component) {
   const auto it = std::find(components_.rbegin(), components_.rend(), component);
   if (it == components_.rend()) return;
+  ComponentListed(*component, TOperation::opRemove);
   components_.erase(std::next(it).base());
   component->owner_ = nullptr;
   LeaveName(*component);
@@ -116,6 +130,9 @@ void TComponent::SetName(const QString& name) {
   const bool ownersName = owner_ && name.compare(owner_->name_, Qt::CaseInsensitive) == 0;
   if (!name.isEmpty() && (taken(*this) || ownersName || (owner_ && taken(*owner_))))
     throw EComponentError(QStringLiteral("A component named \"%1\" already exists.").arg(name));
+  // Whoever refers to it writes its name.
+  Changing();
+  for (TComponent* holder : freeNotifies_) holder->Changing();
   if (owner_) owner_->LeaveName(*this);
   const QString oldName = std::exchange(name_, name);
   if (owner_) owner_->EnterName(*this);
@@ -161,14 +178,16 @@ QString TComponent::MethodName(const TPropInfo& event) const {
 }
 
 void TComponent::SetMethodName(const TPropInfo& event, const QString& handler) {
+  if (MethodName(event) == handler) return;
+  Changing();
   const TPropAccess* key = event.Access.get();
   std::erase_if(methods_, [&](const auto& m) { return m.first == key; });
   if (!handler.isEmpty()) methods_.emplace_back(key, handler);
 }
 
 void TComponent::SetDesignLeft(int left) {
-  designInfo_ = DesignWordOf({static_cast<std::int16_t>(left), DesignPointOf(designInfo_).Top});
+  SetDesignInfo(DesignWordOf({static_cast<std::int16_t>(left), DesignPointOf(designInfo_).Top}));
 }
 void TComponent::SetDesignTop(int top) {
-  designInfo_ = DesignWordOf({DesignPointOf(designInfo_).Left, static_cast<std::int16_t>(top)});
+  SetDesignInfo(DesignWordOf({DesignPointOf(designInfo_).Left, static_cast<std::int16_t>(top)}));
 }

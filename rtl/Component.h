@@ -65,9 +65,9 @@ class TComponent : public TPersistent {
   void SetName(const QString& name);
 
   std::int64_t Tag() const { return tag_; }
-  void SetTag(std::int64_t tag) { tag_ = tag; }
+  void SetTag(std::int64_t tag) { Change(tag_, tag); }
   std::int32_t DesignInfo() const { return designInfo_; }
-  void SetDesignInfo(std::int32_t word) { designInfo_ = word; }
+  void SetDesignInfo(std::int32_t word) { Change(designInfo_, word); }
 
   // The class name the form file gives this component. Differs from the class for forms (their own
   // descendant) and for stand-ins of classes that are not loaded.
@@ -103,7 +103,12 @@ class TComponent : public TPersistent {
 
  protected:
   bool AssignsProperty(const TPropInfo& prop) const override { return prop.Name != "Name"; }
+  void DoChanging() override;
   void DoChanged() override {}
+  // A component is about to change, or came or went, somewhere below this one; handed upwards until somebody
+  // watches. `component` may be half made or half freed when it comes or goes.
+  virtual void ComponentChanging(TComponent& component);
+  virtual void ComponentListed(TComponent& component, TOperation operation);
   // Called for derived classes after a new name is in place.
   virtual void NameChanged(const QString& oldName);
 
@@ -136,6 +141,7 @@ bool IsValidIdent(QStringView name);
 template <class T>
 void SetReference(TComponent& holder, T*& member, T* value) {
   if (member == value) return;
+  holder.Changing();
   T* const before = std::exchange(member, value);
   if (before && !holder.RefersTo(*before) && !before->RefersTo(holder))
     before->RemoveFreeNotification(&holder);

@@ -27,17 +27,11 @@ void TPersistent::Assign(const TPersistent* source) {
         QStringLiteral("Cannot assign %1 to %2.")
             .arg(source ? QString::fromLatin1(source->ClassType().ClassName()) : QStringLiteral("nil"),
                  QString::fromLatin1(own.ClassName())));
-  BeginUpdate();
-  try {
-    const TClass& common = own.InheritsFrom(source->ClassType()) ? source->ClassType() : own;
-    for (const TPropInfo* prop : common.Properties())
-      if (const TPropInfo* target = own.FindProp(prop->Name); target && AssignsProperty(*target))
-        CopyProp(*source, *prop, *this, *target);
-  } catch (...) {
-    EndUpdate();
-    throw;
-  }
-  EndUpdate();
+  const TUpdateLock lock(*this);
+  const TClass& common = own.InheritsFrom(source->ClassType()) ? source->ClassType() : own;
+  for (const TPropInfo* prop : common.Properties())
+    if (const TPropInfo* target = own.FindProp(prop->Name); target && AssignsProperty(*target))
+      CopyProp(*source, *prop, *this, *target);
 }
 
 void TPersistent::Changed() {
@@ -57,5 +51,11 @@ void TPersistent::EndUpdate() {
 void TPersistent::DoChanged() {
   if (TPersistent* owner = GetOwner()) owner->PartChanged(*this);
 }
+
+void TPersistent::DoChanging() {
+  if (TPersistent* owner = GetOwner()) owner->PartChanging(*this);
+}
+
+void TPersistent::PartChanging(TPersistent&) { Changing(); }
 
 void TPersistent::PartChanged(TPersistent&) { Changed(); }

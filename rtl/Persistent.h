@@ -26,13 +26,29 @@ class TPersistent {
   // The object this one is a part of: the component of a value object, the collection of an item.
   virtual TPersistent* GetOwner() const { return nullptr; }
 
+  // Tells the owner that a value here is about to change, while the old one can still be read. Every setter
+  // calls it first, as a rule through Change; whoever edits through properties need not.
+  void Changing() { DoChanging(); }
   // Tells the owner that a value here has changed. Setters call it after the value is in place; between
   // BeginUpdate and EndUpdate the calls are collected into one.
   void Changed();
-  void BeginUpdate() { ++updateLock_; }
+  void BeginUpdate() {
+    if (updateLock_++ == 0) Changing();
+  }
   void EndUpdate();
 
  protected:
+  // Stores a value and reports it, before and after. A value that is there already is no change.
+  template <class T, class U>
+  void Change(T& member, U&& value) {
+    if (member == value) return;
+    Changing();
+    member = std::forward<U>(value);
+    Changed();
+  }
+  virtual void DoChanging();
+  // A part of this object is about to change.
+  virtual void PartChanging(TPersistent& part);
   // Whether Assign copies the property; names of components are their own.
   virtual bool AssignsProperty(const TPropInfo&) const { return true; }
   // What a change means to this object itself; the default hands it to the owner.
@@ -51,15 +67,6 @@ class TOwnedPersistent : public TPersistent {
   explicit TOwnedPersistent(TPersistent* owner = nullptr) : owner_(owner) {}
   TPersistent* GetOwner() const override { return owner_; }
 
- protected:
-  // Stores and reports only real changes.
-  template <class T, class U>
-  void Change(T& member, U&& value) {
-    if (member == value) return;
-    member = std::forward<U>(value);
-    Changed();
-  }
-
  private:
   TPersistent* owner_;
 };
@@ -74,6 +81,18 @@ class TOwnedPersistent : public TPersistent {
   const TClass& ClassType() const override { return StaticClass(); }                                         \
                                                                                                              \
  private:
+
+// Collects changes of an object into one report, however the block is left.
+class TUpdateLock {
+ public:
+  explicit TUpdateLock(TPersistent& object) : object_(object) { object_.BeginUpdate(); }
+  ~TUpdateLock() noexcept(false) { object_.EndUpdate(); }
+  TUpdateLock(const TUpdateLock&) = delete;
+  TUpdateLock& operator=(const TUpdateLock&) = delete;
+
+ private:
+  TPersistent& object_;
+};
 
 // dynamic_cast by another name, kept for reading like the sentence it is.
 template <class T>

@@ -61,6 +61,7 @@ void SetOrdProp(TPersistent& instance, const TPropInfo& prop, std::int64_t value
                              .arg(value)
                              .arg(type.MinValue)
                              .arg(type.MaxValue));
+  instance.Changing();
   OrdAccess(instance, prop).Set(instance, value);
 }
 
@@ -76,6 +77,7 @@ void SetFloatProp(TPersistent& instance, const TPropInfo& prop, long double valu
                              .arg(Path(instance, prop))
                              .arg(static_cast<double>(value))
                              .arg(static_cast<double>(limit)));
+  instance.Changing();
   access.Set(instance, value);
 }
 
@@ -84,6 +86,7 @@ QString GetStrProp(const TPersistent& instance, const TPropInfo& prop) {
 }
 void SetStrProp(TPersistent& instance, const TPropInfo& prop, const QString& value) {
   CheckWritable(instance, prop);
+  instance.Changing();
   StrAccess(instance, prop).Set(instance, value);
 }
 
@@ -98,9 +101,11 @@ void SetObjectProp(TPersistent& instance, const TPropInfo& prop, TPersistent* va
                                   QString::fromLatin1(value->ClassType().ClassName())));
   if (IsComponentRef(prop)) {
     CheckWritable(instance, prop);
+    instance.Changing();
     access.Set(instance, value);
   } else if (!prop.ReadOnly) {
     if (!value) throw EPropertyError(QStringLiteral("%1 cannot be nil.").arg(Path(instance, prop)));
+    instance.Changing();
     access.Set(instance, value);
   } else if (TPersistent* own = access.Get(instance)) {
     own->Assign(value);
@@ -123,7 +128,9 @@ QByteArray GetBinaryProp(const TPersistent& instance, const TPropInfo& prop) {
 }
 void SetBinaryProp(TPersistent& instance, const TPropInfo& prop, const QByteArray& value) {
   CheckWritable(instance, prop);
-  AccessAs<TBinaryAccess>(instance, prop, "a binary").Set(instance, value);
+  const auto& access = AccessAs<TBinaryAccess>(instance, prop, "a binary");
+  instance.Changing();
+  access.Set(instance, value);
 }
 
 bool IsBinary(const TPropInfo& prop) { return prop.PropType->Kind == TTypeKind::tkUnknown; }
@@ -177,10 +184,9 @@ void ResetProp(TPersistent& instance, const TPropInfo& prop) {
     case TTypeKind::tkClass:
       if (IsComponentRef(prop)) return SetObjectProp(instance, prop, nullptr);
       if (TPersistent* object = GetObjectProp(instance, prop)) {
-        object->BeginUpdate();
+        const TUpdateLock lock(*object);
         if (auto* custom = dynamic_cast<IStreamedContent*>(object)) custom->ClearContent();
         for (const TPropInfo* p : object->ClassType().Properties()) ResetProp(*object, *p);
-        object->EndUpdate();
       }
       return;
     default:

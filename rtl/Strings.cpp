@@ -6,6 +6,7 @@ const TClass& TStrings::StaticClass() {
 }
 
 int TStrings::Add(const QString& line) {
+  Changing();
   lines_.append(line);
   Changed();
   return Count() - 1;

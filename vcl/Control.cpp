@@ -4,6 +4,7 @@
 
 #include "rtl/ClassRegistry.h"
 #include "rtl/Exceptions.h"
+#include "vcl/Layout.h"
 
 namespace {
 struct CursorRow {
@@ -102,9 +103,18 @@ const TClass& TGraphicControl::StaticClass() {
   return cls;
 }
 
+namespace {
+// What controls that size themselves asked for before the change that is going on.
+QHash<const TControl*, QSize>& HintsBefore() {
+  static QHash<const TControl*, QSize> hints;
+  return hints;
+}
+}  // namespace
+
 TControl::TControl(TComponent* owner) : TComponent(owner), font_(std::make_unique<TFont>(this)) {}
 
 TControl::~TControl() {
+  HintsBefore().remove(this);
   host_ = nullptr;
   if (parent_) parent_->RemoveControl(this);
 }
@@ -129,6 +139,7 @@ void TControl::SetBounds(int left, int top, int width, int height) {
   width = std::max(width, 0);
   height = std::max(height, 0);
   if (QRect(left, top, width, height) == BoundsRect()) return;
+  const LayoutChange among(align_ != TAlign::alNone ? parent_ : nullptr);
   if (IControlHost* host = FindHost()) {
     host->ControlChanged(*this);
     host->BoundsChanging(*this);
@@ -137,36 +148,69 @@ void TControl::SetBounds(int left, int top, int width, int height) {
   top_ = top;
   width_ = width;
   height_ = height;
+  // What wrapped text asks for depends on the bounds.
+  if (const auto hint = HintsBefore().find(this); hint != HintsBefore().end()) *hint = AutoSizeHint();
   Invalidate();
-  if (parent_ && align_ != TAlign::alNone) parent_->Realign();
 }
 
 void TControl::SetAlign(TAlign v) {
   if (align_ == v) return;
-  align_ = v;
-  if (parent_) parent_->Realign();
-  Changed();
+  const LayoutChange among(parent_);
+  Change(align_, v);
 }
 
 void TControl::SetAutoSize(bool v) {
   if (autoSize_ == v) return;
-  autoSize_ = v;
-  AdjustSize();
-  Changed();
-}
-
-void TControl::AdjustSize() {
-  if (!autoSize_ || IsLoading() || IsLayoutFrozen()) return;
+  Change(autoSize_, v);
+  if (!v || IsLoading() || IsLayoutFrozen()) return;
   const QSize size = AutoSizeHint();
   SetBounds(left_, top_, size.width(), size.height());
 }
 
-void TControl::SetCaption(const QString& v) {
-  if (caption_ == v) return;
-  caption_ = v;
-  AdjustSize();
-  Changed();
+void TControl::DoChanging() {
+  if (autoSize_ && !IsLoading() && !IsDestroying()) {
+    if (IsLayoutFrozen())
+      HintsBefore().remove(this);
+    else if (!HintsBefore().contains(this))
+      HintsBefore().insert(this, AutoSizeHint());
+  }
+  // What follows from the parent is no edit of this control.
+  if (!takingParentLook_) TComponent::DoChanging();
 }
+
+void TControl::DoChanged() {
+  if (const auto hint = IsLoading() ? HintsBefore().cend() : HintsBefore().constFind(this);
+      hint != HintsBefore().cend()) {
+    const QSize before = *hint;
+    HintsBefore().erase(hint);
+    if (autoSize_ && !IsLayoutFrozen()) {
+      const QSize after = AutoSizeHint();
+      const auto size = [](bool given, int stands, int was, int now) {
+        return given ? MovedByDifference(stands, was, now, true) : now;
+      };
+      const int width = size(widthGiven_, width_, before.width(), after.width());
+      const int height = size(heightGiven_, height_, before.height(), after.height());
+      SetBounds(GrowsToTheLeft() ? left_ + width_ - width : left_, top_, width, height);
+    }
+  }
+  Invalidate();
+}
+
+void TControl::ComponentChanging(TComponent& component) {
+  if (host_)
+    host_->ComponentChanging(component);
+  else
+    TComponent::ComponentChanging(component);
+}
+
+void TControl::ComponentListed(TComponent& component, TOperation operation) {
+  if (host_)
+    host_->ComponentListed(component, operation);
+  else
+    TComponent::ComponentListed(component, operation);
+}
+
+void TControl::SetCaption(const QString& v) { Change(caption_, v); }
 
 void TControl::NameChanged(const QString& oldName) {
   TComponent::NameChanged(oldName);
@@ -174,34 +218,35 @@ void TControl::NameChanged(const QString& oldName) {
 }
 
 void TControl::SetColor(TColor v) {
-  if (!takingParentLook_) parentColor_ = false;
+  if (!takingParentLook_ && parentColor_) {
+    Changing();
+    parentColor_ = false;
+  }
   if (color_ == v) return;
-  color_ = v;
-  Changed();
+  Change(color_, v);
+  LookChanged();
 }
 
 void TControl::SetParentColor(bool v) {
-  if (parentColor_ == v) return;
-  parentColor_ = v;
+  Change(parentColor_, v);
   ParentLookChanged();
 }
 
 void TControl::SetParentFont(bool v) {
-  if (parentFont_ == v) return;
-  parentFont_ = v;
+  Change(parentFont_, v);
   ParentLookChanged();
 }
 
 void TControl::SetShowHint(bool v) {
   if (showHint_ == v) return;
-  showHint_ = v;
+  Changing();
   if (!takingParentLook_) parentShowHint_ = false;
-  Changed();
+  Change(showHint_, v);
+  LookChanged();
 }
 
 void TControl::SetParentShowHint(bool v) {
-  if (parentShowHint_ == v) return;
-  parentShowHint_ = v;
+  Change(parentShowHint_, v);
   ParentLookChanged();
 }
 
@@ -215,24 +260,17 @@ void TControl::ParentLookChanged() {
 }
 
 void TControl::PartChanged(TPersistent& part) {
-  if (&part == font_.get()) {
-    if (!takingParentLook_) parentFont_ = false;
-    AdjustSize();
-  }
+  if (&part == font_.get() && !takingParentLook_) parentFont_ = false;
   Changed();
+  if (&part == font_.get()) LookChanged();
 }
 
-void TControl::SetEnabled(bool v) {
-  if (enabled_ == v) return;
-  enabled_ = v;
-  Changed();
-}
+void TControl::SetEnabled(bool v) { Change(enabled_, v); }
 
 void TControl::SetVisible(bool v) {
   if (visible_ == v) return;
-  visible_ = v;
-  if (parent_ && align_ != TAlign::alNone) parent_->Realign();
-  Changed();
+  const LayoutChange among(align_ != TAlign::alNone ? parent_ : nullptr);
+  Change(visible_, v);
 }
 
 IControlHost* TControl::FindHost() const {

@@ -36,6 +36,12 @@ class IControlHost {
   virtual void ControlChanged(TControl& control) = 0;
   // The control is about to leave these bounds.
   virtual void BoundsChanging(TControl&) {}
+  // A value of the component is about to change.
+  virtual void ComponentChanging(TComponent&) {}
+  // A component comes or goes. It may be half made or half freed.
+  virtual void ComponentListed(TComponent&, TOperation) {}
+  // The control has come to another parent or another place in the order.
+  virtual void ControlPlaced(TControl&) {}
   // While true, controls keep exactly the bounds they are given: nothing is aligned, anchored or sized by its
   // content.
   virtual bool LayoutFrozen() const { return false; }
@@ -63,14 +69,20 @@ class TControl : public TComponent {
   int Height() const { return height_; }
   void SetLeft(int v) { SetBounds(v, top_, width_, height_); }
   void SetTop(int v) { SetBounds(left_, v, width_, height_); }
-  void SetWidth(int v) { SetBounds(left_, top_, v, height_); }
-  void SetHeight(int v) { SetBounds(left_, top_, width_, v); }
+  void SetWidth(int v) {
+    widthGiven_ = true;
+    SetBounds(left_, top_, v, height_);
+  }
+  void SetHeight(int v) {
+    heightGiven_ = true;
+    SetBounds(left_, top_, width_, v);
+  }
   virtual QRect ClientRect() const { return {0, 0, width_, height_}; }
 
   TAlign Align() const { return align_; }
   void SetAlign(TAlign v);
   TAnchors Anchors() const { return anchors_; }
-  void SetAnchors(TAnchors v) { anchors_ = v; }
+  void SetAnchors(TAnchors v) { Change(anchors_, v); }
   bool AutoSize() const { return autoSize_; }
   void SetAutoSize(bool v);
   const QString& Caption() const { return caption_; }
@@ -88,17 +100,20 @@ class TControl : public TComponent {
   bool Visible() const { return visible_; }
   void SetVisible(bool v);
   const QString& Hint() const { return hint_; }
-  void SetHint(const QString& v) { hint_ = v; }
+  void SetHint(const QString& v) { Change(hint_, v); }
   bool ShowHint() const { return showHint_; }
   void SetShowHint(bool v);
   bool ParentShowHint() const { return parentShowHint_; }
   void SetParentShowHint(bool v);
   TCursor Cursor() const { return cursor_; }
-  void SetCursor(TCursor v) { cursor_ = v; }
+  void SetCursor(TCursor v) { Change(cursor_, v); }
 
   // Whether a designer may place other controls inside.
   virtual bool AcceptsControls() const { return false; }
   virtual void Paint(TCanvas& canvas) = 0;
+  // What Paint covers, relative to the control: more than its bounds where a text needs more room here than
+  // where the form was made.
+  virtual QRect PaintExtent() const { return {0, 0, width_, height_}; }
   // Asks the host to paint this control again.
   void Invalidate();
   // The host that shows this control or the form around it; null when nobody does.
@@ -113,12 +128,19 @@ class TControl : public TComponent {
   void Loaded() override;
 
  protected:
-  void DoChanged() override { Invalidate(); }
+  void DoChanging() override;
+  // Fits the size of a control that sizes itself, by the difference that the change made.
+  void DoChanged() override;
   void PartChanged(TPersistent& part) override;
+  void ComponentChanging(TComponent& component) override;
+  void ComponentListed(TComponent& component, TOperation operation) override;
   void NameChanged(const QString& oldName) override;
   // The size the content asks for; the current one when the control does not size itself.
   virtual QSize AutoSizeHint() const { return {width_, height_}; }
-  void AdjustSize();
+  // The edge that stays when the content grows.
+  virtual bool GrowsToTheLeft() const { return false; }
+  // Colour, font or hints have changed: what takes them from this control follows.
+  virtual void LookChanged() {}
   // The caption follows the name until somebody changes it.
   bool captionFollowsName_ = false;
   bool autoSize_ = false;
@@ -144,6 +166,7 @@ class TControl : public TComponent {
   bool enabled_ = true, visible_ = true, showHint_ = false;
   bool parentFont_ = true, parentShowHint_ = true;
   bool takingParentLook_ = false;
+  bool widthGiven_ = false, heightGiven_ = false;  // by a form file or a person, not by the content
 };
 
 class TGraphicControl : public TControl {
@@ -168,26 +191,24 @@ class TWinControl : public TControl {
   std::vector<TComponent*> GetChildren() const override;
 
   int TabOrder() const { return tabOrder_; }
-  void SetTabOrder(int v) { tabOrder_ = v; }
+  void SetTabOrder(int v) { Change(tabOrder_, v); }
   bool TabStop() const { return tabStop_; }
-  void SetTabStop(bool v) { tabStop_ = v; }
+  void SetTabStop(bool v) { Change(tabStop_, v); }
 
   void SetBounds(int left, int top, int width, int height) override;
-  // Places the aligned children along the edges.
-  void Realign();
-  void Loaded() override;
   // The topmost child that is shown at a point of the client area, or null.
   TControl* ControlAt(QPoint point) const;
 
  protected:
-  void DoChanged() override;
+  void LookChanged() override;
   bool tabStop_ = false;
 
  private:
   friend class TControl;
+  friend class LayoutChange;
   std::vector<TControl*> controls_;
   int tabOrder_ = -1;
-  bool realigning_ = false;
+  bool layoutChanging_ = false;
 };
 
 // Paints a control and everything inside it; the painter's origin is the control's top left corner.

@@ -11,34 +11,15 @@ class TPanel : public TWinControl {
   explicit TPanel(TComponent* owner);
 
   TAlignment Alignment() const { return alignment_; }
-  void SetAlignment(TAlignment v) {
-    alignment_ = v;
-    Changed();
-  }
+  void SetAlignment(TAlignment v) { Change(alignment_, v); }
   TBevelCut BevelInner() const { return bevelInner_; }
-  void SetBevelInner(TBevelCut v) {
-    bevelInner_ = v;
-    Realign();
-    Changed();
-  }
+  void SetBevelInner(TBevelCut v) { Change(bevelInner_, v); }
   TBevelCut BevelOuter() const { return bevelOuter_; }
-  void SetBevelOuter(TBevelCut v) {
-    bevelOuter_ = v;
-    Realign();
-    Changed();
-  }
+  void SetBevelOuter(TBevelCut v) { Change(bevelOuter_, v); }
   int BevelWidth() const { return bevelWidth_; }
-  void SetBevelWidth(int v) {
-    bevelWidth_ = v;
-    Realign();
-    Changed();
-  }
+  void SetBevelWidth(int v) { Change(bevelWidth_, v); }
   int BorderWidth() const { return borderWidth_; }
-  void SetBorderWidth(int v) {
-    borderWidth_ = v;
-    Realign();
-    Changed();
-  }
+  void SetBorderWidth(int v) { Change(borderWidth_, v); }
 
   bool AcceptsControls() const override { return true; }
   void Paint(TCanvas& canvas) override;
@@ -54,9 +35,9 @@ class TTimer : public TComponent {
  public:
   using TComponent::TComponent;
   bool Enabled() const { return enabled_; }
-  void SetEnabled(bool v) { enabled_ = v; }
+  void SetEnabled(bool v) { Change(enabled_, v); }
   unsigned Interval() const { return interval_; }  // milliseconds
-  void SetInterval(unsigned v) { interval_ = v; }
+  void SetInterval(unsigned v) { Change(interval_, v); }
 
  private:
   unsigned interval_ = 1000;

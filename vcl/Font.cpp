@@ -83,7 +83,7 @@ void TFont::Assign(const TPersistent* source) {
   const auto* f = As<TFont>(source);
   if (!f) return TPersistent::Assign(source);
   if (f == this) return;
-  BeginUpdate();
+  const TUpdateLock lock(*this);
   SetName(f->name_);
   SetHeight(f->height_);
   SetOrientation(f->orientation_);
@@ -92,7 +92,6 @@ void TFont::Assign(const TPersistent* source) {
   SetCharset(f->charset_);
   SetPitch(f->pitch_);
   SetQuality(f->quality_);
-  EndUpdate();
 }
 
 QFont ToQFont(const TFont& font) {

@@ -1,13 +1,15 @@
 #include "vcl/Form.h"
 
+#include "vcl/Layout.h"
+
 const TClass& TForm::StaticClass() {
   static const TClass cls(
       DescribeClass<TForm>("TForm", TWinControl::StaticClass())
           .Published("Width", &TForm::FrameWidth, &TForm::SetFrameWidth)
-          .StoredIf(&TForm::FrameSizeStored)
+          .StoredIf(&TForm::WidthStored)
           .Doc(QStringLiteral("Width with the frame."))
           .Published("Height", &TForm::FrameHeight, &TForm::SetFrameHeight)
-          .StoredIf(&TForm::FrameSizeStored)
+          .StoredIf(&TForm::HeightStored)
           .Doc(QStringLiteral("Height with the frame."))
           .Published(
               "BorderIcons", &TForm::BorderIcons, &TForm::SetBorderIcons,
@@ -16,10 +18,10 @@ const TClass& TForm::StaticClass() {
           .Published("BorderStyle", &TForm::BorderStyle, &TForm::SetBorderStyle, TFormBorderStyle::bsSizeable)
           .Publish("Caption")
           .Published("ClientHeight", &TForm::ClientHeight, &TForm::SetClientHeight)
-          .StoredIf(&TForm::ClientSizeStored)
+          .StoredIf(&TForm::ClientHeightStored)
           .Doc(QStringLiteral("Height inside the frame."))
           .Published("ClientWidth", &TForm::ClientWidth, &TForm::SetClientWidth)
-          .StoredIf(&TForm::ClientSizeStored)
+          .StoredIf(&TForm::ClientWidthStored)
           .Doc(QStringLiteral("Width inside the frame."))
           .PublishAll("Color", "Enabled", "Font")
           .Published("FormStyle", &TForm::FormStyle, &TForm::SetFormStyle, TFormStyle::fsNormal)
@@ -52,8 +54,8 @@ TForm::TForm(TComponent* owner) : TWinControl(owner) {
   captionFollowsName_ = true;
   parentColor_ = false;
   SetVisible(false);
-  SetBounds(0, 0, 320 + FrameMargins().left() + FrameMargins().right(),
-            240 + FrameMargins().top() + FrameMargins().bottom());
+  frameExtra_ = OwnFrame();
+  SetBounds(0, 0, 320 + frameExtra_.width(), 240 + frameExtra_.height());
 }
 
 QByteArray TForm::StreamClassName() const {
@@ -67,53 +69,109 @@ QMargins TForm::FrameMargins() const {
   return {8, small ? 25 : 31, 8, 8};
 }
 
-int TForm::ClientWidth() const {
-  return std::max(0, Width() - FrameMargins().left() - FrameMargins().right());
-}
-int TForm::ClientHeight() const {
-  return std::max(0, Height() - FrameMargins().top() - FrameMargins().bottom());
+QSize TForm::OwnFrame() const {
+  const QMargins m = FrameMargins();
+  return {m.left() + m.right(), m.top() + m.bottom()};
 }
 
+QSize TForm::OuterSize() const { return QSize(ClientWidth(), ClientHeight()) + OwnFrame(); }
+
+int TForm::ClientWidth() const { return std::max(0, Width() - frameExtra_.width()); }
+int TForm::ClientHeight() const { return std::max(0, Height() - frameExtra_.height()); }
+
 void TForm::SetClientWidth(int v) {
-  if (IsLoading()) loadClientWidth_ = v;
-  SetBounds(Left(), Top(), v + FrameMargins().left() + FrameMargins().right(), Height());
+  if (IsLoading())
+    across_.client = std::max(v, 0);
+  else
+    SetBounds(Left(), Top(), v + frameExtra_.width(), Height());
 }
 void TForm::SetClientHeight(int v) {
-  if (IsLoading()) loadClientHeight_ = v;
-  SetBounds(Left(), Top(), Width(), v + FrameMargins().top() + FrameMargins().bottom());
-}
-void TForm::SetBounds(int left, int top, int width, int height) {
-  const QMargins m = IsLoading() ? QMargins() : FrameMargins();
-  TWinControl::SetBounds(left, top, std::max(width, m.left() + m.right()),
-                         std::max(height, m.top() + m.bottom()));
+  if (IsLoading())
+    down_.client = std::max(v, 0);
+  else
+    SetBounds(Left(), Top(), Width(), v + frameExtra_.height());
 }
 void TForm::SetFrameWidth(int v) {
-  if (IsLoading()) frameSizeStored_ = true;
-  SetBounds(Left(), Top(), v, Height());
+  if (IsLoading())
+    across_.frame = std::max(v, 0);
+  else
+    SetBounds(Left(), Top(), v, Height());
 }
 void TForm::SetFrameHeight(int v) {
-  if (IsLoading()) frameSizeStored_ = true;
-  SetBounds(Left(), Top(), Width(), v);
+  if (IsLoading())
+    down_.frame = std::max(v, 0);
+  else
+    SetBounds(Left(), Top(), Width(), v);
+}
+
+void TForm::SetBounds(int left, int top, int width, int height) {
+  TWinControl::SetBounds(left, top, std::max(width, frameExtra_.width()),
+                         std::max(height, frameExtra_.height()));
+}
+
+void TForm::SetSizeIsClient(bool v) {
+  sizeIsClient_ = v;
+  const QSize client(ClientWidth(), ClientHeight());
+  frameExtra_ = v ? QSize(0, 0) : OwnFrame();
+  SetBounds(Left(), Top(), client.width() + frameExtra_.width(), client.height() + frameExtra_.height());
 }
 
 void TForm::SetBorderStyle(TFormBorderStyle v) {
-  const QSize client(ClientWidth(), ClientHeight());
+  if (borderStyle_ == v) return;
+  const QSize client(ClientWidth(), ClientHeight()), before = OwnFrame();
+  Changing();
+  const LayoutChange inside(this);
   borderStyle_ = v;
-  const QMargins m = FrameMargins();
-  SetBounds(Left(), Top(), client.width() + m.left() + m.right(), client.height() + m.top() + m.bottom());
+  if (!IsLoading() && !sizeIsClient_) {
+    frameExtra_ = {MovedByDifference(frameExtra_.width(), before.width(), OwnFrame().width(), true),
+                   MovedByDifference(frameExtra_.height(), before.height(), OwnFrame().height(), true)};
+    SetBounds(Left(), Top(), client.width() + frameExtra_.width(), client.height() + frameExtra_.height());
+  }
   Changed();
 }
 
 void TForm::BeginLoading() {
   TWinControl::BeginLoading();
-  loadClientWidth_ = loadClientHeight_ = -1;
-  frameSizeStored_ = false;
+  across_ = down_ = {};
+}
+
+// The frame that the form was made with, where the file tells only the size with it: what is aligned shows
+// the client area; else the measures that were usual when files told no client size.
+QSize TForm::ShownFrame() const {
+  if (OwnFrame().isNull()) return OwnFrame();
+  constexpr QSize usual(8, 27), most(32, 80);
+  int right = -1, bottom = -1;
+  for (const TControl* c : Controls()) {
+    const TAlign a = c->Align();
+    if (a == TAlign::alNone || a == TAlign::alCustom) continue;
+    if (a != TAlign::alLeft) right = std::max(right, c->Left() + c->Width());
+    if (a != TAlign::alTop) bottom = std::max(bottom, c->Top() + c->Height());
+  }
+  const auto shown = [](int size, int extent, int limit, int otherwise) {
+    return extent > 0 && extent <= size && size - extent <= limit ? size - extent : otherwise;
+  };
+  return {shown(across_.frame, right, most.width(), usual.width()),
+          shown(down_.frame, bottom, most.height(), usual.height())};
+}
+
+void TForm::TakeLoadedSize() {
+  const QSize client(ClientWidth(), ClientHeight());
+  const QSize own = sizeIsClient_ ? QSize(0, 0) : OwnFrame();
+  const QSize shown = sizeIsClient_ ? QSize(0, 0) : ShownFrame();
+  const auto extra = [](const LoadedSize& s, int ownFrame, int shownFrame) {
+    if (s.frame < 0) return ownFrame;
+    return s.client < 0 ? shownFrame : s.frame - s.client;
+  };
+  frameExtra_ = {extra(across_, own.width(), shown.width()), extra(down_, own.height(), shown.height())};
+  const auto size = [](const LoadedSize& s, int present, int frame) {
+    return s.frame >= 0 ? s.frame : (s.client >= 0 ? s.client : present) + frame;
+  };
+  SetBounds(Left(), Top(), size(across_, client.width(), frameExtra_.width()),
+            size(down_, client.height(), frameExtra_.height()));
 }
 
 void TForm::Loaded() {
-  // The client size wins over the size with the frame, whatever order the file has them in.
-  if (loadClientWidth_ >= 0) SetClientWidth(loadClientWidth_);
-  if (loadClientHeight_ >= 0) SetClientHeight(loadClientHeight_);
+  TakeLoadedSize();
   TWinControl::Loaded();
 }
 

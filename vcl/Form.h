@@ -43,8 +43,15 @@ class TForm : public TWinControl {
   QByteArray StreamClassName() const override;
   void SetStreamClassName(QByteArray name) { streamClass_ = std::move(name); }
 
-  // The frame: title bar and borders, in pixels.
+  // The frame as it is drawn: title bar and borders, in pixels.
   QMargins FrameMargins() const;
+  // The client area with the frame around it.
+  QSize OuterSize() const;
+  // By how much Width and Height exceed the client area. Other makers' frames have other measures: where the
+  // form file tells both sizes, or shows the client area by what is aligned in it, that holds.
+  QSize FrameExtra() const { return frameExtra_; }
+  // In some form files Width and Height are the client area's. To be said before the form is loaded.
+  void SetSizeIsClient(bool v);
   QRect ClientRect() const override { return {0, 0, ClientWidth(), ClientHeight()}; }
   int ClientWidth() const;
   int ClientHeight() const;
@@ -52,23 +59,20 @@ class TForm : public TWinControl {
   void SetClientHeight(int v);
 
   TBorderIcons BorderIcons() const { return borderIcons_; }
-  void SetBorderIcons(TBorderIcons v) {
-    borderIcons_ = v;
-    Changed();
-  }
+  void SetBorderIcons(TBorderIcons v) { Change(borderIcons_, v); }
   TFormBorderStyle BorderStyle() const { return borderStyle_; }
   // Keeps the client area.
   void SetBorderStyle(TFormBorderStyle v);
   TFormStyle FormStyle() const { return formStyle_; }
-  void SetFormStyle(TFormStyle v) { formStyle_ = v; }
+  void SetFormStyle(TFormStyle v) { Change(formStyle_, v); }
   bool KeyPreview() const { return keyPreview_; }
-  void SetKeyPreview(bool v) { keyPreview_ = v; }
+  void SetKeyPreview(bool v) { Change(keyPreview_, v); }
   TPosition Position() const { return position_; }
-  void SetPosition(TPosition v) { position_ = v; }
+  void SetPosition(TPosition v) { Change(position_, v); }
   TWindowState WindowState() const { return windowState_; }
-  void SetWindowState(TWindowState v) { windowState_ = v; }
+  void SetWindowState(TWindowState v) { Change(windowState_, v); }
   int PixelsPerInch() const { return pixelsPerInch_; }
-  void SetPixelsPerInch(int v) { pixelsPerInch_ = v; }
+  void SetPixelsPerInch(int v) { Change(pixelsPerInch_, v); }
 
   // No smaller than its frame.
   void SetBounds(int left, int top, int width, int height) override;
@@ -79,14 +83,24 @@ class TForm : public TWinControl {
   void Loaded() override;
 
  private:
-  bool ClientSizeStored() const {
-    return !frameSizeStored_ || loadClientWidth_ >= 0 || loadClientHeight_ >= 0;
-  }
-  bool FrameSizeStored() const { return frameSizeStored_; }
+  // Along one axis: what the form file gives, -1 for nothing.
+  struct LoadedSize {
+    int frame = -1, client = -1;
+  };
+  bool FrameStored(const LoadedSize& s) const { return s.frame >= 0 || (sizeIsClient_ && s.client < 0); }
+  bool ClientStored(const LoadedSize& s) const { return s.client >= 0 || !FrameStored(s); }
+  bool WidthStored() const { return FrameStored(across_); }
+  bool HeightStored() const { return FrameStored(down_); }
+  bool ClientWidthStored() const { return ClientStored(across_); }
+  bool ClientHeightStored() const { return ClientStored(down_); }
   int FrameWidth() const { return Width(); }
   int FrameHeight() const { return Height(); }
   void SetFrameWidth(int v);
   void SetFrameHeight(int v);
+  // The measures of the drawn frame.
+  QSize OwnFrame() const;
+  QSize ShownFrame() const;
+  void TakeLoadedSize();
 
   QByteArray streamClass_;
   TBorderIcons borderIcons_{TBorderIcon::biSystemMenu, TBorderIcon::biMinimize, TBorderIcon::biMaximize};
@@ -95,7 +109,8 @@ class TForm : public TWinControl {
   TPosition position_ = TPosition::poDesigned;
   TWindowState windowState_ = TWindowState::wsNormal;
   bool keyPreview_ = false;
-  bool frameSizeStored_ = false;  // the file gives the size with the frame
+  bool sizeIsClient_ = false;
+  QSize frameExtra_;
+  LoadedSize across_, down_;
   int pixelsPerInch_ = 96;
-  int loadClientWidth_ = -1, loadClientHeight_ = -1;
 };

@@ -8,7 +8,7 @@
 namespace {
 void PaintTitleBar(const TForm& form, QPainter& p, bool active) {
   const QMargins m = form.FrameMargins();
-  const QRect outer(0, 0, form.Width(), form.Height());
+  const QRect outer(QPoint(0, 0), form.OuterSize());
   const QPalette palette = QApplication::palette();
   const QColor edge = palette.color(QPalette::Mid);
   QColor bar = palette.color(QPalette::Window);
@@ -62,7 +62,7 @@ void PaintFormWindow(TForm& form, QPainter& painter, bool active) {
   painter.save();
   if (form.BorderStyle() != TFormBorderStyle::bsNone) {
     painter.fillRect(
-        QRect(0, form.FrameMargins().top(), form.Width(), form.Height() - form.FrameMargins().top()),
+        QRect(QPoint(0, 0), form.OuterSize()).adjusted(0, form.FrameMargins().top(), 0, 0),
         QApplication::palette().color(QPalette::Window));
     PaintTitleBar(form, painter, active);
   }
@@ -76,7 +76,8 @@ void PaintFormWindow(TForm& form, QPainter& painter, bool active) {
 }
 
 QImage RenderForm(TForm& form, double scale) {
-  const QSize size(std::max(1, qRound(form.Width() * scale)), std::max(1, qRound(form.Height() * scale)));
+  const QSize outer = form.OuterSize();
+  const QSize size(std::max(1, qRound(outer.width() * scale)), std::max(1, qRound(outer.height() * scale)));
   QImage image(size, QImage::Format_ARGB32_Premultiplied);
   if (image.isNull()) return image;
   image.fill(Qt::transparent);

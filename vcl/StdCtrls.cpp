@@ -45,12 +45,24 @@ int TLabel::TextFlags() const {
 QSize TLabel::AutoSizeHint() const {
   const QSize text = TextExtent(Caption().isEmpty() ? QStringLiteral(" ") : Caption(), *Font(),
                                 wordWrap_ ? int{Qt::TextWordWrap} : 0, wordWrap_ ? Width() : 0);
-  return {Caption().isEmpty() ? 0 : wordWrap_ ? Width() : text.width(), text.height()};
+  return {wordWrap_ ? Width() : Caption().isEmpty() ? 0 : text.width(), text.height()};
+}
+
+QRect TLabel::PaintExtent() const {
+  const QRect own = TGraphicControl::PaintExtent();
+  if (!AutoSize() || Align() != TAlign::alNone) return own;
+  const QSize text = AutoSizeHint().expandedTo(own.size());
+  const int more = text.width() - own.width();
+  const int left = alignment_ == TAlignment::taRightJustify ? -more
+                   : alignment_ == TAlignment::taCenter     ? -more / 2
+                                                            : 0;
+  return {left, 0, text.width(), text.height()};
 }
 
 void TLabel::Paint(TCanvas& canvas) {
-  if (!transparent_) canvas.FillRect(ClientRect(), Color());
-  canvas.TextRect(ClientRect(), TextFlags(), Caption(), *Font(), Enabled());
+  const QRect area = PaintExtent();
+  if (!transparent_) canvas.FillRect(area, Color());
+  canvas.TextRect(area, TextFlags(), Caption(), *Font(), Enabled());
 }
 
 namespace {

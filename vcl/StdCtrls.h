@@ -11,39 +11,26 @@ class TLabel : public TGraphicControl {
   explicit TLabel(TComponent* owner);
 
   TAlignment Alignment() const { return alignment_; }
-  void SetAlignment(TAlignment v) {
-    alignment_ = v;
-    Changed();
-  }
+  void SetAlignment(TAlignment v) { Change(alignment_, v); }
   TWinControl* FocusControl() const { return focusControl_; }
   void SetFocusControl(TWinControl* v) { SetReference(*this, focusControl_, v); }
   TTextLayout Layout() const { return layout_; }
-  void SetLayout(TTextLayout v) {
-    layout_ = v;
-    Changed();
-  }
+  void SetLayout(TTextLayout v) { Change(layout_, v); }
   bool ShowAccelChar() const { return showAccelChar_; }
-  void SetShowAccelChar(bool v) {
-    showAccelChar_ = v;
-    AdjustSize();
-    Changed();
-  }
+  void SetShowAccelChar(bool v) { Change(showAccelChar_, v); }
   bool Transparent() const { return transparent_; }
-  void SetTransparent(bool v) {
-    transparent_ = v;
-    Changed();
-  }
+  void SetTransparent(bool v) { Change(transparent_, v); }
   bool WordWrap() const { return wordWrap_; }
-  void SetWordWrap(bool v) {
-    wordWrap_ = v;
-    AdjustSize();
-    Changed();
-  }
+  void SetWordWrap(bool v) { Change(wordWrap_, v); }
 
   void Paint(TCanvas& canvas) override;
+  // A label that sizes itself shows all of its text, also where the text is wider than it was where the form
+  // was made.
+  QRect PaintExtent() const override;
 
  protected:
   QSize AutoSizeHint() const override;
+  bool GrowsToTheLeft() const override { return alignment_ == TAlignment::taRightJustify; }
 
  private:
   int TextFlags() const;
@@ -59,14 +46,11 @@ class TButton : public TWinControl {
   explicit TButton(TComponent* owner);
 
   bool Cancel() const { return cancel_; }
-  void SetCancel(bool v) { cancel_ = v; }
+  void SetCancel(bool v) { Change(cancel_, v); }
   bool Default() const { return default_; }
-  void SetDefault(bool v) {
-    default_ = v;
-    Changed();
-  }
+  void SetDefault(bool v) { Change(default_, v); }
   int ModalResult() const { return modalResult_; }
-  void SetModalResult(int v) { modalResult_ = v; }
+  void SetModalResult(int v) { Change(modalResult_, v); }
 
   void Paint(TCanvas& canvas) override;
 

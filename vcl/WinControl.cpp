@@ -1,4 +1,5 @@
 #include "vcl/Control.h"
+#include "vcl/Layout.h"
 
 const TClass& TWinControl::StaticClass() {
   static const TTypeInfo tabOrder = OrdinalType("TTabOrder", -1, INT16_MAX);
@@ -22,20 +23,23 @@ TWinControl::~TWinControl() {
 }
 
 void TWinControl::InsertControl(TControl* control) {
-  controls_.push_back(control);
-  control->parent_ = this;
+  {
+    const LayoutChange among(control->Align() != TAlign::alNone ? this : nullptr);
+    controls_.push_back(control);
+    control->parent_ = this;
+  }
   control->ParentLookChanged();
-  Realign();
   control->Invalidate();
+  if (IControlHost* host = FindHost()) host->ControlPlaced(*control);
 }
 
 void TWinControl::RemoveControl(TControl* control) {
   const auto it = std::find(controls_.rbegin(), controls_.rend(), control);
   if (it == controls_.rend()) return;
+  const LayoutChange among(control->Align() != TAlign::alNone ? this : nullptr);
   control->Invalidate();
   controls_.erase(std::next(it).base());
   control->parent_ = nullptr;
-  if (control->Align() != TAlign::alNone) Realign();
 }
 
 int TWinControl::ControlIndex(const TControl* control) const {
@@ -46,10 +50,11 @@ int TWinControl::ControlIndex(const TControl* control) const {
 void TWinControl::SetControlIndex(TControl* control, int index) {
   const int from = ControlIndex(control);
   if (from < 0 || index < 0 || index >= static_cast<int>(controls_.size()) || from == index) return;
+  const LayoutChange among(control->Align() != TAlign::alNone ? this : nullptr);
   controls_.erase(controls_.begin() + from);
   controls_.insert(controls_.begin() + index, control);
-  Realign();
   Invalidate();
+  if (IControlHost* host = FindHost()) host->ControlPlaced(*control);
 }
 
 std::vector<TComponent*> TWinControl::GetChildren() const {
@@ -59,96 +64,13 @@ std::vector<TComponent*> TWinControl::GetChildren() const {
   return result;
 }
 
-void TWinControl::DoChanged() {
+void TWinControl::LookChanged() {
   for (TControl* c : controls_) c->ParentLookChanged();
-  TControl::DoChanged();
 }
 
 void TWinControl::SetBounds(int left, int top, int width, int height) {
-  const QSize before = ClientRect().size();
+  const LayoutChange inside(QSize(width, height) == BoundsRect().size() ? nullptr : this);
   TControl::SetBounds(left, top, width, height);
-  const QSize after = ClientRect().size();
-  if (before == after || IsLoading() || IsLayoutFrozen()) return;
-  const int dx = after.width() - before.width();
-  const int dy = after.height() - before.height();
-  for (TControl* c : controls_) {
-    if (c->Align() != TAlign::alNone) continue;
-    QRect r = c->BoundsRect();
-    const TAnchors a = c->Anchors();
-    if (a.Contains(TAnchorKind::akRight)) {
-      if (!a.Contains(TAnchorKind::akLeft))
-        r.translate(dx, 0);
-      else
-        r.setWidth(r.width() + dx);
-    }
-    if (a.Contains(TAnchorKind::akBottom)) {
-      if (!a.Contains(TAnchorKind::akTop))
-        r.translate(0, dy);
-      else
-        r.setHeight(r.height() + dy);
-    }
-    c->SetBounds(r.left(), r.top(), r.width(), r.height());
-  }
-  Realign();
-}
-
-void TWinControl::Realign() {
-  if (realigning_ || IsLoading() || IsDestroying() || IsLayoutFrozen()) return;
-  realigning_ = true;
-  QRect left = ClientRect();
-  for (const TAlign pass :
-       {TAlign::alTop, TAlign::alBottom, TAlign::alLeft, TAlign::alRight, TAlign::alClient}) {
-    std::vector<TControl*> row;
-    for (TControl* c : controls_)
-      if (c->Align() == pass && (c->Visible() || IsDesigning())) row.push_back(c);
-    // Who is nearer to the edge stays nearer.
-    std::stable_sort(row.begin(), row.end(), [pass](const TControl* a, const TControl* b) {
-      switch (pass) {
-        case TAlign::alTop:
-          return a->Top() < b->Top();
-        case TAlign::alBottom:
-          return a->Top() + a->Height() > b->Top() + b->Height();
-        case TAlign::alLeft:
-          return a->Left() < b->Left();
-        case TAlign::alRight:
-          return a->Left() + a->Width() > b->Left() + b->Width();
-        default:
-          return false;
-      }
-    });
-    for (TControl* c : row) {
-      QRect r = left;
-      switch (pass) {
-        case TAlign::alTop:
-          r.setHeight(c->Height());
-          left.setTop(r.top() + r.height());
-          break;
-        case TAlign::alBottom:
-          r.setTop(left.top() + left.height() - c->Height());
-          r.setHeight(c->Height());
-          left.setHeight(left.height() - c->Height());
-          break;
-        case TAlign::alLeft:
-          r.setWidth(c->Width());
-          left.setLeft(r.left() + r.width());
-          break;
-        case TAlign::alRight:
-          r.setLeft(left.left() + left.width() - c->Width());
-          r.setWidth(c->Width());
-          left.setWidth(left.width() - c->Width());
-          break;
-        default:
-          break;
-      }
-      c->SetBounds(r.left(), r.top(), std::max(r.width(), 0), std::max(r.height(), 0));
-    }
-  }
-  realigning_ = false;
-}
-
-void TWinControl::Loaded() {
-  TControl::Loaded();
-  Realign();
 }
 
 TControl* TWinControl::ControlAt(QPoint point) const {
@@ -170,7 +92,7 @@ void PaintChildren(TWinControl& container, QPainter& painter, bool windowed) {
     if (!c->Visible() && !c->IsDesigning()) continue;
     painter.save();
     painter.translate(c->Left(), c->Top());
-    painter.setClipRect(QRect(0, 0, c->Width(), c->Height()), Qt::IntersectClip);
+    painter.setClipRect(c->PaintExtent(), Qt::IntersectClip);
     if (!painter.clipBoundingRect().isEmpty()) PaintControl(*c, painter);
     painter.restore();
   }

@@ -30,14 +30,7 @@ TVRXCustom3DButton::TVRXCustom3DButton(TComponent* owner)
 TVRXCustom3DButton::~TVRXCustom3DButton() = default;
 
 void TVRXCustom3DButton::SetDown(bool v) {
-  if (down_ == v) return;
-  down_ = v;
-  Changed();
-}
-
-void TVRXCustom3DButton::PartChanged(TPersistent& part) {
-  if (&part == face_.get()) AdjustSize();
-  TGraphicControl::PartChanged(part);
+  Change(down_, v);
 }
 
 QSize TVRXCustom3DButton::AutoSizeHint() const {

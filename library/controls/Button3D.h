@@ -24,7 +24,6 @@ class TVRXCustom3DButton : public TGraphicControl {
 
  protected:
   QSize AutoSizeHint() const override;
-  void PartChanged(TPersistent& part) override;
 
  private:
   void PaintPlain(TCanvas& canvas);

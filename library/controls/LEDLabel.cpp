@@ -38,20 +38,11 @@ TVRXLEDCustomLabel::TVRXLEDCustomLabel(TComponent* owner)
 TVRXLEDCustomLabel::~TVRXLEDCustomLabel() = default;
 
 void TVRXLEDCustomLabel::SetTransparent(bool v) {
-  if (transparent_ == v) return;
-  transparent_ = v;
-  Changed();
+  Change(transparent_, v);
 }
 
 void TVRXLEDCustomLabel::SetAlignment(TAlignment v) {
-  if (alignment_ == v) return;
-  alignment_ = v;
-  Changed();
-}
-
-void TVRXLEDCustomLabel::PartChanged(TPersistent& part) {
-  if (&part == led_.get()) AdjustSize();
-  TGraphicControl::PartChanged(part);
+  Change(alignment_, v);
 }
 
 namespace {

@@ -20,7 +20,6 @@ class TVRXLEDCustomLabel : public TGraphicControl {
 
  protected:
   QSize AutoSizeHint() const override;
-  void PartChanged(TPersistent& part) override;
 
  private:
   std::unique_ptr<TVRXLED> led_;

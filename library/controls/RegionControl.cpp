@@ -26,14 +26,7 @@ TVRXRegion::TVRXRegion(TComponent* owner)
 TVRXRegion::~TVRXRegion() = default;
 
 void TVRXRegion::SetDown(bool v) {
-  if (down_ == v) return;
-  down_ = v;
-  Changed();
-}
-
-void TVRXRegion::PartChanged(TPersistent& part) {
-  if (&part == mask_.get()) AdjustSize();
-  TGraphicControl::PartChanged(part);
+  Change(down_, v);
 }
 
 QSize TVRXRegion::AutoSizeHint() const {
@@ -78,9 +71,7 @@ TVRXWndButtonShape::TVRXWndButtonShape(TComponent* owner)
 TVRXWndButtonShape::~TVRXWndButtonShape() = default;
 
 void TVRXWndButtonShape::SetTransparent(bool v) {
-  if (transparent_ == v) return;
-  transparent_ = v;
-  Changed();
+  Change(transparent_, v);
 }
 
 void TVRXWndButtonShape::Paint(TCanvas& canvas) {

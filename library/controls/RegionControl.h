@@ -21,7 +21,6 @@ class TVRXRegion : public TGraphicControl {
 
  protected:
   QSize AutoSizeHint() const override;
-  void PartChanged(TPersistent& part) override;
 
  private:
   std::unique_ptr<TVRXRegionMask> mask_;

@@ -33,15 +33,11 @@ TVRXBaseShape::TVRXBaseShape(TComponent* owner)
 TVRXBaseShape::~TVRXBaseShape() = default;
 
 void TVRXBaseShape::SetBevelColor(TColor v) {
-  if (bevelColor_ == v) return;
-  bevelColor_ = v;
-  Changed();
+  Change(bevelColor_, v);
 }
 
 void TVRXBaseShape::SetTransparent(bool v) {
-  if (transparent_ == v) return;
-  transparent_ = v;
-  Changed();
+  Change(transparent_, v);
 }
 
 void TVRXBaseShape::Paint(TCanvas& canvas) {

@@ -46,6 +46,7 @@ QImage Composed(const TVRXMaskedPicture& masked) {
 
 void TVRXButtonFace::SetPictures(const TVRXMaskedPicture& up, const TVRXMaskedPicture& down,
                                  const TVRXMaskedPicture& disabled) {
+  Changing();
   const TVRXMaskedPicture* const all[] = {&up, &down, &disabled};
   for (std::size_t i = 0; i < 3; ++i) pictures_[i].SetImage(Composed(*all[i]));
   Changed();
@@ -55,6 +56,7 @@ void TVRXButtonFace::Assign(const TPersistent* source) {
   const auto* face = As<TVRXButtonFace>(source);
   if (!face) return TOwnedPersistent::Assign(source);
   if (face == this) return;
+  Changing();
   pictures_ = face->pictures_;
   Changed();
 }

@@ -36,6 +36,7 @@ class TVRXButtonFace : public TOwnedPersistent {
   }
   template <int I>
   void SetBytes(const QByteArray& v) {
+    Changing();
     pictures_[I].SetBytes(v);
     Changed();
   }

@@ -24,40 +24,48 @@ void TVRXRegionMask::DoChanged() {
 
 void TVRXRegionMask::SetRegionData(const QByteArray& data) {
   if (data == regionData_) return;
+  Changing();
   region_ = data.isEmpty() ? TRegion() : TRegion::FromData(data);
   regionData_ = data;
   Changed();
 }
 
 void TVRXRegionMask::SetBorderPicture(const TBitmap& picture) {
+  Changing();
   border_.SetImage(picture.Image());
   Changed();
 }
 void TVRXRegionMask::SetStatePicture(int state, const TBitmap& picture) {
+  Changing();
   states_[state].SetImage(picture.Image());
   Changed();
 }
 
 void TVRXRegionMask::SetBorderBytes(const QByteArray& v) {
+  Changing();
   border_.SetBytes(v);
   Changed();
 }
 void TVRXRegionMask::SetFirstBytes(const QByteArray& v) {
+  Changing();
   states_[0].SetBytes(v);
   Changed();
 }
 void TVRXRegionMask::SetSecondBytes(const QByteArray& v) {
+  Changing();
   states_[1].SetBytes(v);
   Changed();
 }
 
 void TVRXRegionMask::SetCompress(bool v) {
   if (compress_ == v) return;
+  Changing();
   compress_ = v;
   StorageChanged();
 }
 void TVRXRegionMask::SetColorDepth(TVRXColorDepth v) {
   if (colorDepth_ == v) return;
+  Changing();
   colorDepth_ = v;
   StorageChanged();
 }
@@ -89,6 +97,7 @@ void TVRXRegionMask::Assign(const TPersistent* source) {
   const auto* mask = As<TVRXRegionMask>(source);
   if (!mask) return TOwnedPersistent::Assign(source);
   if (mask == this) return;
+  Changing();
   regionData_ = mask->regionData_;
   region_ = mask->region_;
   border_ = mask->border_;

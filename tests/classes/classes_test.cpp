@@ -118,6 +118,64 @@ TEST_P(EveryClass, EveryValueChangesAndGoesBack) {
   }
 }
 
+namespace {
+// Remembers the value of a path from the moment before the first change.
+class Listener : public IControlHost {
+ public:
+  Listener(TComponent& subject, QByteArray path) : subject_(subject), path_(std::move(path)) {}
+  void ControlChanged(TControl&) override {}
+  void BoundsChanging(TControl& control) override { ComponentChanging(control); }
+  void ComponentChanging(TComponent& component) override {
+    if (&component == &subject_ && !heard) heard = ValueText(subject_, path_);
+  }
+  std::optional<QByteArray> heard;
+
+ private:
+  TComponent& subject_;
+  QByteArray path_;
+};
+
+// Past the routines that tell of a change themselves, as an editor's own code does.
+void CallSetter(const forms::PropertyTarget& to, const forms::PropertyTarget& from) {
+  const TPropAccess& access = *to.prop->Access;
+  if (const auto* ordinal = dynamic_cast<const TOrdAccess*>(&access))
+    ordinal->Set(*to.instance, GetOrdProp(*from.instance, *from.prop));
+  else if (const auto* number = dynamic_cast<const TFloatAccess*>(&access))
+    number->Set(*to.instance, GetFloatProp(*from.instance, *from.prop));
+  else if (const auto* text = dynamic_cast<const TStrAccess*>(&access))
+    text->Set(*to.instance, GetStrProp(*from.instance, *from.prop));
+  else if (const auto* bytes = dynamic_cast<const TBinaryAccess*>(&access))
+    bytes->Set(*to.instance, GetBinaryProp(*from.instance, *from.prop));
+  else if (const auto* object = dynamic_cast<const TObjectAccess*>(&access))
+    object->Set(*to.instance, nullptr);
+}
+}  // namespace
+
+TEST_P(EveryClass, EverySetterTellsBeforeItChanges) {
+  Stage paths(Class());
+  for (const QByteArray& path : ValuePaths(*paths.subject)) {
+    SCOPED_TRACE(path.toStdString());
+    if (IsReadOnly(*paths.subject, path)) continue;
+    Stage source(Class()), target(Class());
+    ASSERT_TRUE(SetAnother(source, path, 0));
+    const forms::PropertyTarget from = forms::FindTarget(*source.subject, path);
+    const forms::PropertyTarget to = forms::FindTarget(*target.subject, path);
+    if (!to.prop || to.prop->Kind() == TTypeKind::tkMethod) continue;
+    if (to.prop->Kind() == TTypeKind::tkClass) {
+      if (!IsComponentRef(*to.prop)) continue;
+      SetAnother(target, path, 0);  // so that there is a reference to drop
+    }
+    const QByteArray before = ValueText(*target.subject, path);
+    Listener listener(*target.subject, path);
+    target.form->SetHost(&listener);
+    CallSetter(to, from);
+    target.form->SetHost(nullptr);
+    ASSERT_TRUE(listener.heard.has_value());
+    EXPECT_EQ(*listener.heard, before);
+    EXPECT_NE(ValueText(*target.subject, path), before);
+  }
+}
+
 TEST_P(EveryClass, ResettingAPartResetsAllOfIt) {
   for (const TPropInfo* prop : Class().Properties()) {
     if (prop->Kind() != TTypeKind::tkClass || IsComponentRef(*prop)) continue;

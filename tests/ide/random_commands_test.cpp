@@ -21,7 +21,7 @@ class Monkey {
     auto* control = As<TControl>(&c);
     auto* label = As<TLabel>(&c);
     auto* led = As<TVRXLEDLabel>(&c);
-    switch (Below(16)) {
+    switch (Below(18)) {
       case 0:
       case 1:
         return Run(c, [&] { Move(c); });
@@ -63,6 +63,16 @@ class Monkey {
         return Delete();
       case 14:
         return Unannounced(c);
+      case 15:
+        return MakeAndFree(c);
+      case 16:
+        return Run(c, [&] {
+          if (!control || !control->Parent()) return;
+          if (Below(2))
+            control->BringToFront();
+          else
+            control->SendToBack();
+        });
       default:
         return Fail(c);
     }
@@ -101,7 +111,9 @@ class Monkey {
 
   template <class F>
   void Run(TComponent& c, F&& action) {
-    session_->Run(QStringLiteral("step"), {&c}, action);
+    // Whether the command says what it is going to change makes no difference.
+    session_->Run(QStringLiteral("step"), Below(2) ? std::vector<TComponent*>{&c} : std::vector<TComponent*>(),
+                  action);
   }
   void Move(TComponent& c) {
     if (auto* control = As<TControl>(&c))
@@ -116,7 +128,7 @@ class Monkey {
       if (c != session_->GetRoot() && Below(3) == 0) chosen.push_back(c);
     session_->Select(chosen);
     chosen = session_->SelectedComponents();
-    session_->Run(QStringLiteral("several"), chosen, [&] {
+    session_->Run(QStringLiteral("several"), {}, [&] {
       for (TComponent* c : chosen) change(*c);
     });
   }
@@ -148,6 +160,20 @@ class Monkey {
     for (TComponent* c : session_->AllComponents())
       if (c != session_->GetRoot() && Below(8) == 0) doomed.push_back(c);
     session_->DeleteComponents(doomed);
+  }
+  // By plain code, without the designer's routines.
+  void MakeAndFree(TComponent& c) {
+    session_->Run(QStringLiteral("plain"), {}, [&] {
+      if (&c != session_->GetRoot() && Below(2)) {
+        delete &c;
+      } else {
+        auto* panel = new TPanel(session_->GetRoot());
+        panel->SetParent(&session_->Form());
+        auto* label = new TLabel(session_->GetRoot());
+        label->SetParent(panel);
+        label->SetCaption(Text());
+      }
+    });
   }
   void Unannounced(TComponent& c) {
     c.SetTag(static_cast<int>(Below(100)));

@@ -1,0 +1,35 @@
+#include "ide/BoundsCheck.h"
+
+#include <QCoreApplication>
+
+#include "rtl/Exceptions.h"
+#include "rtl/PropAccess.h"
+
+namespace {
+QString Translated(const char* text) { return QCoreApplication::translate("BoundsCheck", text); }
+}  // namespace
+
+QString WhatDecidesBounds(const TControl& control) {
+  static const QHash<TAlign, const char*> parts{{TAlign::alTop, "place and width"},
+                                                {TAlign::alBottom, "place and width"},
+                                                {TAlign::alLeft, "place and height"},
+                                                {TAlign::alRight, "place and height"},
+                                                {TAlign::alClient, "place and size"}};
+  return Translated("%1 is aligned (Align = %2): %3 decides its %4.")
+      .arg(control.Name(),
+           QString::fromLatin1(TypeInfoOf<TAlign>::Get().Elements[static_cast<int>(control.Align())]),
+           control.Parent() ? control.Parent()->Name() : QString(),
+           Translated(parts.value(control.Align(), "place and size")));
+}
+
+void RequireBoundsTaken(const TPersistent& instance, const TPropInfo& prop, std::int64_t wanted) {
+  const auto* control = As<TControl>(&instance);
+  static const QByteArrayList bounds{"Left", "Top", "Width", "Height"};
+  if (!control || !bounds.contains(prop.Name) || control->Align() == TAlign::alNone) return;
+  const std::int64_t is = GetOrdProp(instance, prop);
+  if (is == wanted) return;
+  throw EPropertyError(Translated("%1 stays %2. %3 Change Align first.")
+                           .arg(QString::fromLatin1(prop.Name))
+                           .arg(is)
+                           .arg(WhatDecidesBounds(*control)));
+}
