@@ -61,7 +61,7 @@ QByteArray TForm::StreamClassName() const {
 }
 
 QMargins TForm::FrameMargins() const {
-  if (borderStyle_ == TFormBorderStyle::bsNone) return {};
+  if (kind_ != TFormKind::Form || borderStyle_ == TFormBorderStyle::bsNone) return {};
   const bool small =
       borderStyle_ == TFormBorderStyle::bsToolWindow || borderStyle_ == TFormBorderStyle::bsSizeToolWin;
   return {8, small ? 25 : 31, 8, 8};
@@ -96,9 +96,15 @@ void TForm::SetFrameHeight(int v) {
   SetBounds(Left(), Top(), Width(), v);
 }
 
+void TForm::SetKind(TFormKind v) {
+  KeepClientSize([&] { kind_ = v; });
+}
 void TForm::SetBorderStyle(TFormBorderStyle v) {
+  KeepClientSize([&] { borderStyle_ = v; });
+}
+void TForm::KeepClientSize(const std::function<void()>& change) {
   const QSize client(ClientWidth(), ClientHeight());
-  borderStyle_ = v;
+  change();
   const QMargins m = FrameMargins();
   SetBounds(Left(), Top(), client.width() + m.left() + m.right(), client.height() + m.top() + m.bottom());
   Changed();
@@ -117,4 +123,6 @@ void TForm::Loaded() {
   TWinControl::Loaded();
 }
 
-void TForm::Paint(TCanvas& canvas) { canvas.FillRect(ClientRect(), Color()); }
+void TForm::Paint(TCanvas& canvas) {
+  canvas.FillRect(ClientRect(), kind_ == TFormKind::DataModule ? clWindow : Color());
+}

@@ -1,8 +1,12 @@
 // Forms: the root of what is designed. A form's children live in its client area; the frame around it is
 // drawn with fixed measures, so that sizes in form files mean the same everywhere.
 #pragma once
+#include <functional>
+
 #include "vcl/Control.h"
 
+// What a root stands for. Only a form has a window frame; a data module holds no controls.
+enum class TFormKind : std::uint8_t { Form, Frame, DataModule };
 enum class TBorderIcon : std::uint8_t { biSystemMenu, biMinimize, biMaximize, biHelp };
 using TBorderIcons = TSet<TBorderIcon>;
 enum class TFormBorderStyle : std::uint8_t {
@@ -43,6 +47,10 @@ class TForm : public TWinControl {
   QByteArray StreamClassName() const override;
   void SetStreamClassName(QByteArray name) { streamClass_ = std::move(name); }
 
+  TFormKind Kind() const { return kind_; }
+  // Keeps the client area.
+  void SetKind(TFormKind v);
+
   // The frame: title bar and borders, in pixels.
   QMargins FrameMargins() const;
   QRect ClientRect() const override { return {0, 0, ClientWidth(), ClientHeight()}; }
@@ -72,7 +80,7 @@ class TForm : public TWinControl {
 
   // No smaller than its frame.
   void SetBounds(int left, int top, int width, int height) override;
-  bool AcceptsControls() const override { return true; }
+  bool AcceptsControls() const override { return kind_ != TFormKind::DataModule; }
   // The client area only; whoever shows the form draws the frame.
   void Paint(TCanvas& canvas) override;
   void BeginLoading() override;
@@ -80,15 +88,17 @@ class TForm : public TWinControl {
 
  private:
   bool ClientSizeStored() const {
-    return !frameSizeStored_ || loadClientWidth_ >= 0 || loadClientHeight_ >= 0;
+    return !FrameSizeStored() || loadClientWidth_ >= 0 || loadClientHeight_ >= 0;
   }
-  bool FrameSizeStored() const { return frameSizeStored_; }
+  bool FrameSizeStored() const { return frameSizeStored_ || kind_ != TFormKind::Form; }
+  void KeepClientSize(const std::function<void()>& change);
   int FrameWidth() const { return Width(); }
   int FrameHeight() const { return Height(); }
   void SetFrameWidth(int v);
   void SetFrameHeight(int v);
 
   QByteArray streamClass_;
+  TFormKind kind_ = TFormKind::Form;
   TBorderIcons borderIcons_{TBorderIcon::biSystemMenu, TBorderIcon::biMinimize, TBorderIcon::biMaximize};
   TFormBorderStyle borderStyle_ = TFormBorderStyle::bsSizeable;
   TFormStyle formStyle_ = TFormStyle::fsNormal;
