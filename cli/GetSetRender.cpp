@@ -4,10 +4,9 @@
 #include "forms/FormFile.h"
 #include "forms/TextWriter.h"
 #include "ide/BoundsCheck.h"
-#include "ide/FormSession.h"
+#include "ide/Tiles.h"
 #include "rtl/Exceptions.h"
-#include "vcl/FormFrame.h"
-#include "vcl/Theme.h"
+#include "vcl/FormColors.h"
 
 using namespace forms;
 
@@ -134,12 +133,12 @@ int RenderCommand(const QStringList& list, Console& console) {
   const QString theme = args.options.value(QStringLiteral("--theme"), QStringLiteral("light"));
   if (theme != QStringLiteral("light") && theme != QStringLiteral("dark"))
     throw UsageError{QStringLiteral("--theme takes light or dark, not \"%1\"").arg(theme)};
-  ApplyTheme(theme == QStringLiteral("dark") ? TTheme::Dark : TTheme::Light);
+  const FormColorScope colors(theme == QStringLiteral("dark") ? TFormColors::Dark : TFormColors::Light);
   LoadClasses(console);
   const auto session = OpenForm(args.values[0]);
-  TForm& form = session->Form();
   constexpr double MaxPixels = 200e6;
-  if (form.Width() * scale * form.Height() * scale > MaxPixels)
+  const QSize size = DeskSize(*session).expandedTo(session->Form().BoundsRect().size());
+  if (size.width() * scale * size.height() * scale > MaxPixels)
     throw Exception(
         QStringLiteral("%1: the picture would have more than 200 million pixels; use a smaller --scale")
             .arg(args.values[0]));
@@ -147,7 +146,7 @@ int RenderCommand(const QStringList& list, Console& console) {
   QByteArray png;
   QBuffer buffer(&png);
   buffer.open(QIODevice::WriteOnly);
-  if (!RenderForm(form, scale).save(&buffer, "PNG"))
+  if (!RenderRoot(*session, scale).save(&buffer, "PNG"))
     throw Exception(QStringLiteral("The picture could not be made"));
   WriteFile(file, png);
   return ExitOk;

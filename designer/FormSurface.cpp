@@ -2,8 +2,8 @@
 
 #include <QtWidgets>
 
-#include "designintf/ComponentIcons.h"
 #include "ide/BoundsCheck.h"
+#include "ide/Unknown.h"
 #include "rtl/Exceptions.h"
 #include "vcl/FormFrame.h"
 #include "vcl/Theme.h"
@@ -28,11 +28,15 @@ void FormSurface::SetSession(FormSession* session) {
   if (session_) {
     connect(session_, &FormSession::RepaintNeeded, this, qOverload<>(&QWidget::update));
     connect(session_, &FormSession::FormChanged, this, &FormSurface::UpdateSize);
-    connect(session_, &FormSession::SelectionChanged, this, qOverload<>(&QWidget::update));
+    connect(session_, &FormSession::SelectionChanged, this, [this] {
+      for (const TComponent* c : session_->SelectedComponents()) RevealPages(*c);
+      update();
+    });
     // What was being dragged may be gone.
     connect(session_, &FormSession::StructureChanged, this, [this] {
       action_ = Action::None;
       starts_.clear();
+      ArrangePages(session_->Form());
     });
   }
   UpdateSize();
@@ -51,7 +55,8 @@ void FormSurface::SetTool(const TClass* cls) {
 QSize FormSurface::sizeHint() const {
   if (!session_) return {400, 300};
   const QSize form = session_->Form().OuterSize();
-  return QSize(qCeil((form.width() + 2 * Desk) * zoom_), qCeil((form.height() + 2 * Desk) * zoom_));
+  const QSize size = form.expandedTo(DeskSize(*session_)) + QSize(2 * Desk, 2 * Desk);
+  return {qCeil(size.width() * zoom_), qCeil(size.height() * zoom_)};
 }
 
 void FormSurface::UpdateSize() {
@@ -71,8 +76,7 @@ QPoint FormSurface::ToForm(QPoint p) const {
 
 QRect FormSurface::RectOf(const TComponent& c) const {
   if (const auto* control = As<TControl>(&c)) return control->BoundsRect();
-  const TDesignPoint at = DesignPointOf(c.DesignInfo());
-  return {at.Left, at.Top, IconSize, IconSize};
+  return TileRect(c);
 }
 
 void FormSurface::SetRect(TComponent& c, const QRect& r) {
@@ -84,13 +88,21 @@ void FormSurface::SetRect(TComponent& c, const QRect& r) {
   }
 }
 
+// What can be moved: not the form, and no part of another component.
+bool FormSurface::HasPlace(const TComponent& c) const {
+  if (&c == session_->GetRoot()) return false;
+  if (const auto* stand = dynamic_cast<const TUnknownControl*>(&c)) return stand->StandIn().hasPlace;
+  return !HasIcon(c) || HasTile(*session_, c);
+}
+
 // In client coordinates of the form; the form itself with its frame.
 QRect FormSurface::FormRectOf(const TComponent& c) const {
   const TForm& form = session_->Form();
   const QMargins m = form.FrameMargins();
   if (&c == &form) return QRect({-m.left(), -m.top()}, form.OuterSize());
-  QRect r = RectOf(c);
-  if (const auto* control = As<TControl>(&c))
+  const TComponent& shown = ShownFor(*session_, c);
+  QRect r = RectOf(shown);
+  if (const auto* control = As<TControl>(&shown))
     for (const TControl* p = control->Parent(); p && p != &form; p = p->Parent())
       r.translate(p->Left(), p->Top());
   return r;
@@ -119,7 +131,7 @@ TComponent* FormSurface::ComponentAt(QPoint widgetPoint) const {
   const QPoint p = ToForm(widgetPoint);
   const auto& all = session_->Form().Components();
   for (auto it = all.rbegin(); it != all.rend(); ++it)
-    if (HasIcon(**it) && RectOf(**it).contains(p)) return *it;
+    if (HasTile(*session_, **it) && RectOf(**it).contains(p)) return *it;
   const TForm& form = session_->Form();
   if (!form.ClientRect().contains(p)) return FormRectOf(form).contains(p) ? session_->GetRoot() : nullptr;
   return DeepestAt(p);
@@ -171,6 +183,8 @@ void FormSurface::mousePressEvent(QMouseEvent* event) {
     return session_->Select(selected);
   }
   if (!session_->IsSelected(*hit)) session_->Select({hit});
+  if (auto* book = dynamic_cast<TUnknownControl*>(hit))
+    if (const auto* page = book->PageAt(p - FormRectOf(*book).topLeft())) book->ShowPage(*page);
   action_ = Action::Press;
 }
 
@@ -185,7 +199,7 @@ void FormSurface::mouseMoveEvent(QMouseEvent* event) {
       if ((current_ - pressed_).manhattanLength() < QApplication::startDragDistance()) return;
       starts_.clear();
       for (TComponent* c : session_->SelectedComponents())
-        if (c != session_->GetRoot()) starts_.push_back({c, RectOf(*c)});
+        if (HasPlace(*c)) starts_.push_back({c, RectOf(*c)});
       if (starts_.empty()) return;
       session_->BeginLive();
       action_ = Action::Move;
@@ -286,7 +300,8 @@ void FormSurface::SelectBand(const QRect& band, bool add) {
     if (FormRectOf(*c).intersects(band) && std::find(found.begin(), found.end(), c) == found.end())
       found.push_back(c);
   for (TComponent* c : session_->Form().Components())
-    if (HasIcon(*c) && RectOf(*c).intersects(band) && std::find(found.begin(), found.end(), c) == found.end())
+    if (HasTile(*session_, *c) && RectOf(*c).intersects(band) &&
+        std::find(found.begin(), found.end(), c) == found.end())
       found.push_back(c);
   session_->Select(found);
 }
@@ -321,8 +336,19 @@ void FormSurface::contextMenuEvent(QContextMenuEvent* event) {
 
 // --- Keyboard
 
-// Tab walks the components here instead of leaving the surface.
+// Tab walks the components here instead of leaving the surface. The hint says what stands under the pointer.
 bool FormSurface::event(QEvent* event) {
+  if (event->type() == QEvent::ToolTip && session_) {
+    const auto* help = static_cast<QHelpEvent*>(event);
+    const TComponent* c = ComponentAt(help->pos());
+    if (c && c != session_->GetRoot())
+      QToolTip::showText(help->globalPos(),
+                         QStringLiteral("%1: %2").arg(c->Name(), QString::fromUtf8(c->StreamClassName())),
+                         this, WidgetRect(*c));
+    else
+      QToolTip::hideText();
+    return true;
+  }
   if (event->type() == QEvent::KeyPress && session_) {
     const auto* key = static_cast<QKeyEvent*>(event);
     if (key->key() == Qt::Key_Tab || key->key() == Qt::Key_Backtab) {
@@ -343,7 +369,7 @@ void FormSurface::WalkSelection(int step) {
 
 void FormSurface::Nudge(int dx, int dy, bool resize) {
   auto touched = session_->SelectedComponents();
-  std::erase(touched, session_->GetRoot());
+  std::erase_if(touched, [&](const TComponent* c) { return !HasPlace(*c); });
   if (touched.empty()) return;
   session_->Run(resize ? tr("Resize") : tr("Move"), touched, [&] {
     for (TComponent* c : touched) {

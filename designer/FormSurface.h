@@ -4,7 +4,8 @@
 #include <QWidget>
 #include <optional>
 
-#include "ide/FormSession.h"
+#include "designintf/ComponentTile.h"
+#include "ide/Tiles.h"
 
 class FormSurface : public QWidget {
   Q_OBJECT
@@ -15,7 +16,7 @@ class FormSurface : public QWidget {
   void SetZoom(double factor);
   double Zoom() const { return zoom_; }
   static constexpr int Grid = 8;
-  static constexpr int IconSize = 28;
+  static constexpr int IconSize = ComponentTileSize;
   static constexpr int Desk = 24;  // room around the form
 
   // The class that the next click places; null for the arrow.
@@ -54,6 +55,7 @@ class FormSurface : public QWidget {
   QPoint ToForm(QPoint widgetPoint) const;  // client coordinates of the form
   QPoint ClientOrigin() const;              // of the form's client area, in unzoomed surface coordinates
   static bool HasIcon(const TComponent& component) { return !As<TControl>(&component); }
+  bool HasPlace(const TComponent& component) const;
   QRect FormRectOf(const TComponent& component) const;
   int HandleAt(QPoint widgetPoint) const;
   std::vector<QRect> Handles() const;

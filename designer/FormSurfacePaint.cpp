@@ -2,7 +2,8 @@
 #include <QtWidgets>
 
 #include "designer/FormSurface.h"
-#include "designintf/ComponentIcons.h"
+#include "designintf/ComponentTile.h"
+#include "vcl/FormColors.h"
 #include "vcl/FormFrame.h"
 #include "vcl/Theme.h"
 
@@ -19,6 +20,7 @@ void FormSurface::paintEvent(QPaintEvent*) {
   p.translate(ClientOrigin());
   p.setClipRect(session_->Form().ClientRect());
   PaintGrid(p);
+  p.setClipping(false);  // an icon beyond the edge is still to be found
   PaintIcons(p);
   p.restore();
   p.resetTransform();
@@ -33,7 +35,7 @@ void FormSurface::PaintGrid(QPainter& p) const {
   for (const TControl* c : form.Controls()) empty -= c->BoundsRect();
   p.save();
   p.setClipRegion(empty, Qt::IntersectClip);
-  QColor ink = palette().color(QPalette::WindowText);
+  QColor ink = FormPalette().color(QPalette::WindowText);
   ink.setAlpha(48);
   p.setPen(QPen(ink, 1 / zoom_));
   QList<QPoint> dots;
@@ -44,28 +46,8 @@ void FormSurface::PaintGrid(QPainter& p) const {
 }
 
 void FormSurface::PaintIcons(QPainter& p) const {
-  QFont font = QApplication::font();
-  font.setPixelSize(11);
-  p.setFont(font);
-  for (const TComponent* c : session_->Form().Components()) {
-    if (!HasIcon(*c)) continue;
-    const QRect r = RectOf(*c);
-    p.setRenderHint(QPainter::Antialiasing);
-    p.setPen(palette().color(QPalette::Mid));
-    p.setBrush(palette().color(QPalette::Base));
-    p.drawRoundedRect(QRectF(r).adjusted(0.5, 0.5, -0.5, -0.5), 4, 4);
-    p.drawPixmap(r.topLeft() + QPoint(2, 2),
-                 ComponentPixmap(c->ClassType(), IconSize - 4, devicePixelRatioF() * zoom_));
-    const int width = p.fontMetrics().horizontalAdvance(c->Name()) + 6;
-    const QRect label(r.center().x() - width / 2, r.bottom() + 2, width, 14);
-    p.setPen(Qt::NoPen);
-    QColor back = palette().color(QPalette::Base);
-    back.setAlpha(200);
-    p.setBrush(back);
-    p.drawRoundedRect(label, 3, 3);
-    p.setPen(palette().color(QPalette::WindowText));
-    p.drawText(label, Qt::AlignCenter, c->Name());
-  }
+  for (const TComponent* c : session_->Form().Components())
+    if (HasTile(*session_, *c)) PaintComponentTile(p, *c, RectOf(*c).topLeft(), devicePixelRatioF() * zoom_);
 }
 
 std::vector<QRect> FormSurface::Handles() const {

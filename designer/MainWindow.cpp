@@ -2,6 +2,7 @@
 
 #include <QtWidgets>
 
+#include "designer/FormColorsMenu.h"
 #include "designer/FormSurface.h"
 #include "designer/InspectorPane.h"
 #include "designer/PalettePane.h"
@@ -22,6 +23,7 @@ void ReportException(QWidget* parent, const std::exception& error) {
 
 MainWindow::MainWindow(PackageManager& packages) : packages_(packages) {
   setWindowIcon(QIcon::fromTheme(QStringLiteral("document-edit")));
+  RestoreFormColors();
   BuildPanes();
   BuildActions();
   connect(&packages_, &PackageManager::ClassesChanged, this, [this] {
@@ -189,6 +191,7 @@ void MainWindow::BuildActions() {
       view, tr("&Light theme"), {}, {}, [] { ApplyTheme(TTheme::Light); }, "light");
   AddAction(
       view, tr("&Dark theme"), {}, {}, [] { ApplyTheme(TTheme::Dark); }, "dark");
+  AddFormColorsMenu(*view);
 
   QMenu* help = menuBar()->addMenu(tr("&Help"));
   AddAction(

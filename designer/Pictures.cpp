@@ -8,6 +8,7 @@
 #include "designer/MainWindow.h"
 #include "designer/ValueEditor.h"
 #include "rtl/Exceptions.h"
+#include "vcl/FormColors.h"
 #include "vcl/Theme.h"
 
 namespace {
@@ -41,6 +42,7 @@ TComponent* ShowPiece(FormSession& session) {
 
 QStringList TakePictures(PackageManager& packages, const QString& form, const QString& folder) {
   Album album(folder);
+  const FormColorScope colors(TFormColors::Light);  // whatever this person prefers
   for (const bool dark : {false, true}) {
     ApplyTheme(dark ? TTheme::Dark : TTheme::Light);
     UseThemeIcons();

@@ -22,12 +22,12 @@ void DrawPlain(QPainter& p, const TIconInk& ink) {
   p.drawEllipse(QRectF(9, 9, 6, 6));
 }
 
-void Draw(const TClass& cls, QPainter& painter, const QRectF& rect) {
+void Draw(const TClass& cls, QPainter& painter, const QRectF& rect, const QPalette& palette) {
   TIconInk ink;
-  const bool dark = IsDarkTheme();
+  const bool dark = IsDark(palette);
   ink.Line = dark ? QColor(0xC8, 0xCD, 0xD6) : QColor(0x4A, 0x52, 0x5E);
   ink.Fill = dark ? QColor(0x4A, 0x51, 0x5C) : QColor(0xFF, 0xFF, 0xFF);
-  ink.Accent = QApplication::palette().color(QPalette::Highlight);
+  ink.Accent = palette.color(QPalette::Highlight);
   painter.save();
   painter.setRenderHint(QPainter::Antialiasing);
   painter.translate(rect.topLeft());
@@ -47,13 +47,13 @@ class Engine : public QIconEngine {
  public:
   explicit Engine(const TClass& cls) : cls_(cls) {}
   void paint(QPainter* painter, const QRect& rect, QIcon::Mode, QIcon::State) override {
-    Draw(cls_, *painter, rect);
+    Draw(cls_, *painter, rect, QApplication::palette());
   }
   QPixmap pixmap(const QSize& size, QIcon::Mode, QIcon::State) override {
     QPixmap pixmap(size);
     pixmap.fill(Qt::transparent);
     QPainter p(&pixmap);
-    Draw(cls_, p, QRectF(QPointF(0, 0), size));
+    Draw(cls_, p, QRectF(QPointF(0, 0), size), QApplication::palette());
     return pixmap;
   }
   QIconEngine* clone() const override { return new Engine(cls_); }
@@ -67,11 +67,11 @@ void RegisterComponentIcon(const TClass& cls, TIconPainter painter) { Painters()
 
 QIcon ComponentIcon(const TClass& cls) { return QIcon(new Engine(cls)); }
 
-QPixmap ComponentPixmap(const TClass& cls, int pixels, qreal ratio) {
+QPixmap ComponentPixmap(const TClass& cls, int pixels, qreal ratio, const QPalette& palette) {
   QPixmap pixmap(QSize(pixels, pixels) * ratio);
   pixmap.setDevicePixelRatio(ratio);
   pixmap.fill(Qt::transparent);
   QPainter p(&pixmap);
-  Draw(cls, p, QRectF(0, 0, pixels, pixels));
+  Draw(cls, p, QRectF(0, 0, pixels, pixels), palette);
   return pixmap;
 }

@@ -5,25 +5,14 @@
 #include "designintf/DesignWindow.h"
 #include "forms/FormFile.h"
 #include "ide/PendingCommand.h"
-#include "ide/Unknown.h"
+#include "ide/StandIns.h"
 #include "rtl/ClassRegistry.h"
 #include "rtl/Exceptions.h"
 
 namespace {
-TComponent* MakeStandIn(const forms::Object& object, TComponent* owner) {
-  const QByteArray cls(object.className.constData(), object.className.size());
-  if (object.Find("Width") || object.Find("Height") || !object.children.empty()) {
-    auto* control = new TUnknownControl(owner);
-    control->SetStreamClassName(cls);
-    return control;
-  }
-  auto* component = new TUnknownComponent(owner);
-  component->SetStreamClassName(cls);
-  return component;
-}
-
 TComponent* MakeRoot(const forms::Object& object, bool sizeIsClient, TComponent* owner) {
   auto* form = new TForm(owner);
+  form->SetKind(KindOfRoot(object));
   form->SetSizeIsClient(sizeIsClient);
   form->SetStreamClassName(QByteArray(object.className.constData(), object.className.size()));
   return form;
@@ -74,7 +63,9 @@ forms::FormReader FormSession::MakeReader(forms::Document& document, forms::Obje
   reader.SetRootMaker([lcl = document.Style().lcl](const forms::Object& object, TComponent* owner) {
     return MakeRoot(object, lcl, owner);
   });
-  reader.SetUnknownMaker(MakeStandIn);
+  reader.SetUnknownMaker([&document](const forms::Object& object, TComponent* owner) {
+    return MakeStandIn(document, object, owner);
+  });
   return reader;
 }
 

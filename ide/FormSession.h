@@ -25,6 +25,7 @@ class FormSession : public QObject, public IDesigner, public IControlHost {
   const forms::Document& Document() const { return document_; }
   const std::vector<forms::Finding>& Findings() const { return findings_; }
   forms::Object* ObjectOf(const TComponent& component) const { return map_.ObjectOf(component); }
+  TComponent* ComponentOf(const forms::Object& object) const { return map_.ComponentOf(object); }
   // All components in the order of the file, the root first.
   std::vector<TComponent*> AllComponents() const;
 

@@ -54,6 +54,9 @@ void FormSession::Adopt(TComponent& component) {
 TComponent* FormSession::CreateComponent(const TClass& cls, TComponent* parent, const QRect& bounds) {
   TComponent* result = nullptr;
   if (!parent) parent = root_.get();
+  if (cls.InheritsFrom(TControl::StaticClass()) && !root_->AcceptsControls())
+    throw EComponentError(
+        tr("%1 is a data module: only components that are no controls can stand on it.").arg(root_->Name()));
   Run(tr("Add %1").arg(QString::fromLatin1(cls.ClassName())), {}, [&] {
     TComponent* component = nullptr;
     {

@@ -1,8 +1,23 @@
 #include "ide/Unknown.h"
 
+namespace {
+constexpr int PageBorder = 4;
+constexpr int OutOfSight = -30000;
+}  // namespace
+
 const TClass& TUnknownControl::StaticClass() {
   static const TClass cls(DescribeClass<TUnknownControl>("TUnknownControl", TWinControl::StaticClass())
-                              .PublishAll("Align", "Anchors", "Caption", "Enabled", "TabOrder", "Visible")
+                              .Published("Left", &TUnknownControl::Left, &TUnknownControl::SetLeft)
+                              .StoredIf(&TUnknownControl::PlaceStored)
+                              .Published("Top", &TUnknownControl::Top, &TUnknownControl::SetTop)
+                              .StoredIf(&TUnknownControl::PlaceStored)
+                              .Published("Width", &TUnknownControl::Width, &TUnknownControl::SetWidth)
+                              .StoredIf(&TUnknownControl::PlaceStored)
+                              .Published("Height", &TUnknownControl::Height, &TUnknownControl::SetHeight)
+                              .StoredIf(&TUnknownControl::PlaceStored)
+                              .Published("Align", &TUnknownControl::Align, &TUnknownControl::SetAlign)
+                              .StoredIf(&TUnknownControl::AlignStored)
+                              .PublishAll("Anchors", "Caption", "Enabled", "TabOrder", "Visible")
                               .ClassDoc(QStringLiteral("A control whose package is not loaded.")));
   return cls;
 }
@@ -12,32 +27,76 @@ const TClass& TUnknownComponent::StaticClass() {
   return cls;
 }
 
-TUnknownControl::TUnknownControl(TComponent* owner) : TWinControl(owner) { SetBounds(0, 0, 121, 25); }
+TUnknownControl::TUnknownControl(TComponent* owner) : TWinControl(owner) {}
 
-void TUnknownControl::Paint(TCanvas& canvas) {
-  QPainter& p = canvas.Painter();
-  const QRect r = ClientRect().adjusted(0, 0, -1, -1);
-  QColor ink = ToQColor(clWindowText);
-  ink.setAlpha(20);
-  p.fillRect(r, ink);
-  ink.setAlpha(130);
-  p.setPen(QPen(ink, 1, Qt::DashLine));
-  p.setBrush(Qt::NoBrush);
-  p.drawRect(r);
-  ink.setAlpha(190);
-  p.setPen(ink);
-  QFont font = ToQFont(*Font());
-  font.setPixelSize(std::min(font.pixelSize(), 12));
-  p.setFont(font);
-  const QString title = Name().isEmpty()
-                            ? QString::fromUtf8(streamClass_)
-                            : QStringLiteral("%1: %2").arg(Name(), QString::fromUtf8(streamClass_));
-  const QRect inside = r.adjusted(4, 2, -4, -2);
-  p.drawText(inside, Controls().empty() ? Qt::AlignLeft | Qt::AlignVCenter : Qt::AlignLeft | Qt::AlignTop,
-             p.fontMetrics().elidedText(title, Qt::ElideRight, inside.width()));
+std::vector<TUnknownControl*> TUnknownControl::Pages() const {
+  std::vector<TUnknownControl*> pages;
+  for (TControl* c : Controls())
+    if (auto* page = dynamic_cast<TUnknownControl*>(c);
+        page && page->standIn_.look == TStandInLook::Page && !page->standIn_.hasPlace)
+      pages.push_back(page);
+  return pages;
+}
+
+TUnknownControl* TUnknownControl::FrontPage() const {
+  const auto pages = Pages();
+  if (pages.empty()) return nullptr;
+  for (TUnknownControl* page : pages)
+    if (page == front_) return page;
+  for (TUnknownControl* page : pages)
+    if (page->Name().compare(standIn_.activePage, Qt::CaseInsensitive) == 0) return page;
+  const auto index = static_cast<std::size_t>(std::max(0, standIn_.activeIndex));
+  return pages[index < pages.size() ? index : 0];
+}
+
+void TUnknownControl::ShowPage(const TUnknownControl& page) {
+  if (FrontPage() == &page) return;
+  front_ = &page;
+  PlacePages();
+  Invalidate();
+}
+
+// A page that is not in front keeps its size, so that nothing on it moves.
+void TUnknownControl::PlacePages() {
+  const TUnknownControl* front = FrontPage();
+  const QRect area = PageArea();
+  for (TUnknownControl* page : Pages())
+    page->SetBounds(page == front ? area.left() : OutOfSight, area.top(), area.width(), area.height());
+}
+
+void TUnknownControl::SetBounds(int left, int top, int width, int height) {
+  TWinControl::SetBounds(left, top, width, height);
+  if (!IsLoading()) PlacePages();
+}
+
+void TUnknownControl::Loaded() {
+  TWinControl::Loaded();
+  PlacePages();
+  if (auto* book = dynamic_cast<TUnknownControl*>(Parent()); book && !standIn_.hasPlace) book->PlacePages();
+}
+
+QRect TUnknownControl::PageArea() const {
+  const int tabs = standIn_.look == TStandInLook::Tabs ? TabHeight : 0;
+  const int border = standIn_.look == TStandInLook::Tabs ? PageBorder : 0;
+  return {border, tabs + border, std::max(0, Width() - 2 * border),
+          std::max(0, Height() - tabs - 2 * border)};
 }
 
 bool IsUnknown(const TComponent& component) {
   return component.InheritsFrom(TUnknownControl::StaticClass()) ||
          component.InheritsFrom(TUnknownComponent::StaticClass());
+}
+
+void ArrangePages(TWinControl& root) {
+  for (TControl* c : root.Controls()) {
+    if (auto* book = dynamic_cast<TUnknownControl*>(c)) book->PlacePages();
+    if (auto* container = dynamic_cast<TWinControl*>(c)) ArrangePages(*container);
+  }
+}
+
+void RevealPages(const TComponent& component) {
+  for (const auto* c = As<TControl>(&component); c; c = c->Parent())
+    if (auto* book = dynamic_cast<TUnknownControl*>(c->Parent()))
+      for (const TUnknownControl* page : book->Pages())
+        if (page == c) book->ShowPage(*page);
 }

@@ -1,7 +1,22 @@
-// Stand-ins for classes that no loaded package has. They keep their place on the surface; everything else
-// about them stays in the document.
+// Stand-ins for classes that no loaded package has. They keep their place on the surface and look like the
+// common control that their class is named after; everything else about them stays in the document.
 #pragma once
-#include "vcl/Control.h"
+#include "ide/StandIns.h"
+
+// What the file says about the looks of a stand-in.
+struct TStandIn {
+  TStandInLook look = TStandInLook::Plain;
+  QString text;
+  QStringList items;
+  int index = -1;
+  int columns = 1;
+  bool checked = false;
+  std::optional<TColor> color;
+  QString activePage;
+  int activeIndex = 0;
+  TAlign usualAlign = TAlign::alNone;  // of a class that is aligned where the file says nothing
+  bool hasPlace = true;  // false: a page, which has its place from the control around it
+};
 
 class TUnknownControl : public TWinControl {
   VRX_CLASS(TUnknownControl)
@@ -9,11 +24,38 @@ class TUnknownControl : public TWinControl {
   explicit TUnknownControl(TComponent* owner);
   QByteArray StreamClassName() const override { return streamClass_; }
   void SetStreamClassName(QByteArray name) { streamClass_ = std::move(name); }
-  // A frame with the name and the class.
+  const TStandIn& StandIn() const { return standIn_; }
+  void SetStandIn(TStandIn standIn) { standIn_ = std::move(standIn); }
+
+  // The children that are pages, in order, and the one in front; null when there is none.
+  std::vector<TUnknownControl*> Pages() const;
+  TUnknownControl* FrontPage() const;
+  void ShowPage(const TUnknownControl& page);
+  // The page whose tab is there, or null.
+  TUnknownControl* PageAt(QPoint point) const;
+  void PlacePages();
+
+  // Its caption or text, else its name and class where there is room.
   void Paint(TCanvas& canvas) override;
+  // Pages follow at once: nobody else knows their place.
+  void SetBounds(int left, int top, int width, int height) override;
+  void Loaded() override;
 
  private:
+  bool PlaceStored() const { return standIn_.hasPlace; }
+  bool AlignStored() const { return Align() != standIn_.usualAlign; }
+  static constexpr int TabHeight = 24;
+  QRect PageArea() const;
+  std::vector<QRect> TabRects() const;
+  void PaintTabs(TCanvas& canvas) const;
+  void PaintChoices(TCanvas& canvas, const QRect& area, bool exclusive) const;
+  void PaintText(TCanvas& canvas, const QRect& area, int flags, const QString& text) const;
+  void PaintQuiet(TCanvas& canvas) const;
+  bool PaintSurface(TCanvas& canvas) const;
+
   QByteArray streamClass_;
+  TStandIn standIn_;
+  const TUnknownControl* front_ = nullptr;  // compared only
 };
 
 class TUnknownComponent : public TComponent {
@@ -28,3 +70,7 @@ class TUnknownComponent : public TComponent {
 };
 
 bool IsUnknown(const TComponent& component);
+// Pages anew into their places, after some came or went.
+void ArrangePages(TWinControl& root);
+// Brings every page that the component stands on to the front.
+void RevealPages(const TComponent& component);

@@ -3,8 +3,9 @@
 #include <QFontMetrics>
 #include <QPolygonF>
 
+// clDefault is what a control of the kind usually has.
 void TCanvas::FillRect(const QRect& rect, TColor color) {
-  if (color != clNone) painter_.fillRect(rect, ToQColor(color));
+  if (color != clNone) painter_.fillRect(rect, ToQColor(color == clDefault ? clBtnFace : color));
 }
 
 void TCanvas::Polygon(const QPolygonF& points, TColor color) {
@@ -29,7 +30,8 @@ QRect TCanvas::Frame3D(QRect r, TColor topLeft, TColor bottomRight, int width) {
 
 void TCanvas::TextRect(const QRect& rect, int flags, const QString& text, const TFont& font, bool enabled) {
   painter_.setFont(ToQFont(font));
-  painter_.setPen(ToQColor(enabled ? font.Color() : clGrayText));
+  const TColor color = font.Color() == clDefault ? clWindowText : font.Color();
+  painter_.setPen(ToQColor(enabled ? color : clGrayText));
   painter_.drawText(rect, flags | Qt::TextShowMnemonic, text);
 }
 

@@ -1,10 +1,8 @@
 #include "vcl/Colors.h"
 
-#include <QGuiApplication>
-#include <QPalette>
-
 #include "rtl/ClassRegistry.h"
 #include "rtl/Exceptions.h"
+#include "vcl/FormColors.h"
 
 const std::vector<TColorEntry>& NamedColors() {
   static const std::vector<TColorEntry> entries{
@@ -130,7 +128,7 @@ TColor FromQColor(const QColor& c) {
 TColor ColorToRGB(TColor color) {
   const auto bits = static_cast<std::uint32_t>(color);
   if ((bits & 0xFF000000u) == 0xFF000000u) {
-    const QPalette p = QGuiApplication::palette();
+    const QPalette p = FormPalette();
     const auto role = [&](QPalette::ColorRole r, QPalette::ColorGroup g = QPalette::Active) {
       return FromQColor(p.color(g, r));
     };

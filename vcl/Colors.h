@@ -1,4 +1,4 @@
-// Colours: 0x00BBGGRR, or a system colour (high byte 0xFF) that follows the theme.
+// Colours: 0x00BBGGRR, or a system colour (high byte 0xFF) that follows the forms' colour scheme.
 #pragma once
 #include <QColor>
 
@@ -38,7 +38,7 @@ QString ColorToString(TColor color);
 // Names, $00BBGGRR, decimal or #rrggbb; EConvertError on anything else.
 TColor StringToColor(const QString& text);
 
-// The plain colour: system colours as the application's palette has them now; clNone and clDefault black.
+// The plain colour: system colours as the forms' scheme has them now; clNone and clDefault black.
 TColor ColorToRGB(TColor color);
 QColor ToQColor(TColor color);  // clNone: fully transparent
 TColor FromQColor(const QColor& color);

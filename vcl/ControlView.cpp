@@ -4,6 +4,8 @@
 #include <QPainter>
 #include <cmath>
 
+#include "vcl/FormColors.h"
+
 ControlView::ControlView(TControl* control, QWidget* parent) : QWidget(parent) { SetControl(control); }
 
 ControlView::~ControlView() { SetControl(nullptr); }
@@ -53,8 +55,9 @@ QPointF ControlView::Origin() const {
 }
 
 void ControlView::paintEvent(QPaintEvent*) {
-  if (!control_) return;
   QPainter painter(this);
+  painter.fillRect(rect(), FormPalette().color(QPalette::Window));
+  if (!control_) return;
   painter.translate(Origin());
   painter.scale(Scale(), Scale());
   painter.setClipRect(QRect(QPoint(0, 0), control_->BoundsRect().size()));

@@ -1,4 +1,4 @@
-// The widget that shows a control, in dialogs and previews.
+// The widget that shows a control, in dialogs and previews: on a form's face, in the forms' colour scheme.
 #pragma once
 #include <QWidget>
 

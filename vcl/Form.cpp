@@ -63,7 +63,7 @@ QByteArray TForm::StreamClassName() const {
 }
 
 QMargins TForm::FrameMargins() const {
-  if (borderStyle_ == TFormBorderStyle::bsNone) return {};
+  if (kind_ != TFormKind::Form || borderStyle_ == TFormBorderStyle::bsNone) return {};
   const bool small =
       borderStyle_ == TFormBorderStyle::bsToolWindow || borderStyle_ == TFormBorderStyle::bsSizeToolWin;
   return {8, small ? 25 : 31, 8, 8};
@@ -116,12 +116,18 @@ void TForm::SetSizeIsClient(bool v) {
   SetBounds(Left(), Top(), client.width() + frameExtra_.width(), client.height() + frameExtra_.height());
 }
 
+void TForm::SetKind(TFormKind v) {
+  KeepClientSize([&] { kind_ = v; });
+}
 void TForm::SetBorderStyle(TFormBorderStyle v) {
   if (borderStyle_ == v) return;
+  KeepClientSize([&] { borderStyle_ = v; });
+}
+void TForm::KeepClientSize(const std::function<void()>& change) {
   const QSize client(ClientWidth(), ClientHeight()), before = OwnFrame();
   Changing();
   const LayoutChange inside(this);
-  borderStyle_ = v;
+  change();
   if (!IsLoading() && !sizeIsClient_) {
     frameExtra_ = {MovedByDifference(frameExtra_.width(), before.width(), OwnFrame().width(), true),
                    MovedByDifference(frameExtra_.height(), before.height(), OwnFrame().height(), true)};
@@ -175,4 +181,6 @@ void TForm::Loaded() {
   TWinControl::Loaded();
 }
 
-void TForm::Paint(TCanvas& canvas) { canvas.FillRect(ClientRect(), Color()); }
+void TForm::Paint(TCanvas& canvas) {
+  canvas.FillRect(ClientRect(), kind_ == TFormKind::DataModule ? clWindow : Color());
+}

@@ -1,8 +1,12 @@
 // Forms: the root of what is designed. A form's children live in its client area; the frame around it is
 // drawn with fixed measures, so that sizes in form files mean the same everywhere.
 #pragma once
+#include <functional>
+
 #include "vcl/Control.h"
 
+// What a root stands for. Only a form has a window frame; a data module holds no controls.
+enum class TFormKind : std::uint8_t { Form, Frame, DataModule };
 enum class TBorderIcon : std::uint8_t { biSystemMenu, biMinimize, biMaximize, biHelp };
 using TBorderIcons = TSet<TBorderIcon>;
 enum class TFormBorderStyle : std::uint8_t {
@@ -43,6 +47,10 @@ class TForm : public TWinControl {
   QByteArray StreamClassName() const override;
   void SetStreamClassName(QByteArray name) { streamClass_ = std::move(name); }
 
+  TFormKind Kind() const { return kind_; }
+  // Keeps the client area.
+  void SetKind(TFormKind v);
+
   // The frame as it is drawn: title bar and borders, in pixels.
   QMargins FrameMargins() const;
   // The client area with the frame around it.
@@ -76,7 +84,7 @@ class TForm : public TWinControl {
 
   // No smaller than its frame.
   void SetBounds(int left, int top, int width, int height) override;
-  bool AcceptsControls() const override { return true; }
+  bool AcceptsControls() const override { return kind_ != TFormKind::DataModule; }
   // The client area only; whoever shows the form draws the frame.
   void Paint(TCanvas& canvas) override;
   void BeginLoading() override;
@@ -87,12 +95,15 @@ class TForm : public TWinControl {
   struct LoadedSize {
     int frame = -1, client = -1;
   };
-  bool FrameStored(const LoadedSize& s) const { return s.frame >= 0 || (sizeIsClient_ && s.client < 0); }
+  bool FrameStored(const LoadedSize& s) const {
+    return s.frame >= 0 || ((sizeIsClient_ || kind_ != TFormKind::Form) && s.client < 0);
+  }
   bool ClientStored(const LoadedSize& s) const { return s.client >= 0 || !FrameStored(s); }
   bool WidthStored() const { return FrameStored(across_); }
   bool HeightStored() const { return FrameStored(down_); }
   bool ClientWidthStored() const { return ClientStored(across_); }
   bool ClientHeightStored() const { return ClientStored(down_); }
+  void KeepClientSize(const std::function<void()>& change);
   int FrameWidth() const { return Width(); }
   int FrameHeight() const { return Height(); }
   void SetFrameWidth(int v);
@@ -103,6 +114,7 @@ class TForm : public TWinControl {
   void TakeLoadedSize();
 
   QByteArray streamClass_;
+  TFormKind kind_ = TFormKind::Form;
   TBorderIcons borderIcons_{TBorderIcon::biSystemMenu, TBorderIcon::biMinimize, TBorderIcon::biMaximize};
   TFormBorderStyle borderStyle_ = TFormBorderStyle::bsSizeable;
   TFormStyle formStyle_ = TFormStyle::fsNormal;

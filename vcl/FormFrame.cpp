@@ -3,16 +3,17 @@
 #include <QApplication>
 #include <QPainterPath>
 
+#include "vcl/FormColors.h"
 #include "vcl/Theme.h"
 
 namespace {
 void PaintTitleBar(const TForm& form, QPainter& p, bool active) {
   const QMargins m = form.FrameMargins();
   const QRect outer(QPoint(0, 0), form.OuterSize());
-  const QPalette palette = QApplication::palette();
+  const QPalette palette = FormPalette();
   const QColor edge = palette.color(QPalette::Mid);
   QColor bar = palette.color(QPalette::Window);
-  bar = IsDarkTheme() ? bar.lighter(active ? 135 : 115) : bar.darker(active ? 112 : 104);
+  bar = IsDark(palette) ? bar.lighter(active ? 135 : 115) : bar.darker(active ? 112 : 104);
   QPainterPath shape;
   shape.addRoundedRect(QRectF(outer).adjusted(0.5, 0.5, -0.5, 6), 6, 6);
   p.setRenderHint(QPainter::Antialiasing);
@@ -60,10 +61,10 @@ void PaintTitleBar(const TForm& form, QPainter& p, bool active) {
 
 void PaintFormWindow(TForm& form, QPainter& painter, bool active) {
   painter.save();
-  if (form.BorderStyle() != TFormBorderStyle::bsNone) {
+  if (!form.FrameMargins().isNull()) {
     painter.fillRect(
         QRect(QPoint(0, 0), form.OuterSize()).adjusted(0, form.FrameMargins().top(), 0, 0),
-        QApplication::palette().color(QPalette::Window));
+        FormPalette().color(QPalette::Window));
     PaintTitleBar(form, painter, active);
   }
   painter.restore();

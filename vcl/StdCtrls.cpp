@@ -4,6 +4,7 @@
 #include <QStyleOptionButton>
 
 #include "rtl/ClassRegistry.h"
+#include "vcl/FormColors.h"
 
 const TClass& TLabel::StaticClass() {
   static const TClass cls(
@@ -116,7 +117,7 @@ TButton::TButton(TComponent* owner) : TWinControl(owner) {
 void TButton::Paint(TCanvas& canvas) {
   QStyleOptionButton option;
   option.rect = ClientRect();
-  option.palette = QApplication::palette();
+  option.palette = FormPalette();
   option.palette.setColor(QPalette::ButtonText, ToQColor(Enabled() ? Font()->Color() : clGrayText));
   option.fontMetrics = QFontMetrics(ToQFont(*Font()));
   option.text = Caption();

@@ -97,11 +97,16 @@ class OutlinedFusion : public QProxyStyle {
 void ApplyTheme(TTheme theme) {
   if (!QApplication::style() || QApplication::style()->objectName() != QStringLiteral("orlenvo"))
     QApplication::setStyle(new OutlinedFusion);
-  if (theme != TTheme::System)
-    QApplication::setPalette(Palette(theme == TTheme::Dark ? DarkShades : LightShades));
+  if (theme != TTheme::System) QApplication::setPalette(ThemePalette(theme));
 }
 
-bool IsDarkTheme() {
-  const QPalette p = QGuiApplication::palette();
+QPalette ThemePalette(TTheme theme) {
+  static const QPalette light = Palette(LightShades), dark = Palette(DarkShades);
+  return theme == TTheme::System ? QGuiApplication::palette() : theme == TTheme::Dark ? dark : light;
+}
+
+bool IsDarkTheme() { return IsDark(QGuiApplication::palette()); }
+
+bool IsDark(const QPalette& p) {
   return p.color(QPalette::WindowText).lightness() > p.color(QPalette::Window).lightness();
 }

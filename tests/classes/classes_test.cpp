@@ -12,6 +12,7 @@
 #include "rtl/Exceptions.h"
 #include "rtl/PropAccess.h"
 #include "rtl/PropText.h"
+#include "vcl/FormColors.h"
 #include "vcl/Theme.h"
 
 namespace {
@@ -276,8 +277,8 @@ TEST_P(EveryClass, AssignRefusesAStranger) {
 }
 
 TEST_P(EveryClass, TellsItsHostAndPaintsAfterEveryChange) {
-  for (const auto theme : {TTheme::Light, TTheme::Dark}) {
-    ApplyTheme(theme);
+  for (const auto colors : {TFormColors::Light, TFormColors::Dark}) {
+    const FormColorScope scope(colors);
     Stage stage(Class());
     auto* control = dynamic_cast<TControl*>(stage.subject);
     PaintingHost host;
@@ -299,7 +300,20 @@ TEST_P(EveryClass, TellsItsHostAndPaintsAfterEveryChange) {
     }
     stage.form->SetHost(nullptr);
   }
+}
+
+TEST_P(EveryClass, LooksTheSameInEachThemeOfTheDesigner) {
+  QImage pictures[2];
+  for (const auto theme : {TTheme::Light, TTheme::Dark}) {
+    ApplyTheme(theme);
+    Stage stage(Class());
+    if (auto* control = dynamic_cast<TControl*>(stage.subject)) {
+      control->SetBounds(0, 0, 120, 40);
+      pictures[theme == TTheme::Dark] = Picture(*control);
+    }
+  }
   ApplyTheme(TTheme::Light);
+  EXPECT_EQ(pictures[0], pictures[1]);
 }
 
 TEST_P(EveryClass, FreeingWhatItRefersToClearsTheReference) {

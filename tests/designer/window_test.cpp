@@ -1,6 +1,7 @@
 // Files, undo, questions, errors and looks of the main window.
 #include "rtl/Exceptions.h"
 #include "tests/designer/DesignerTest.h"
+#include "vcl/FormColors.h"
 #include "vcl/Theme.h"
 
 using namespace designer;
@@ -255,11 +256,43 @@ TEST_F(Window, BothThemesReachTheWholeWindowAndLeaveTheFormAlone) {
   QCoreApplication::processEvents();
   EXPECT_FALSE(IsDarkTheme());
   const double lightInspector = lightness(Inspector()), lightTree = lightness(window_->Structure());
+  // Without the handles, which are the designer's.
+  const auto form = [&] {
+    return Surface().grab(Surface().WidgetRect(Get("Main")).adjusted(0, 0, -5, -5)).toImage();
+  };
+  const QImage lightForm = form();
   Action("dark").trigger();
   QCoreApplication::processEvents();
   EXPECT_TRUE(IsDarkTheme());
   EXPECT_LT(lightness(Inspector()), lightInspector / 2);
   EXPECT_LT(lightness(window_->Structure()), lightTree / 2);
+  EXPECT_EQ(form(), lightForm);
+  ExpectUntouched();
+  Action("light").trigger();
+}
+
+TEST_F(Window, FormColoursAreOfTheFormAloneAndRemembered) {
+  const auto face = [&] {
+    QCoreApplication::processEvents();
+    return Surface().grab().toImage().pixelColor(FormPoint(471, 311));
+  };
+  const QColor light = ThemePalette(TTheme::Light).color(QPalette::Window),
+               dark = ThemePalette(TTheme::Dark).color(QPalette::Window);
+  EXPECT_EQ(face(), light);
+  EXPECT_TRUE(Action("formLight").isChecked());
+  Action("formDark").trigger();
+  EXPECT_EQ(face(), dark);
+  EXPECT_FALSE(IsDarkTheme());
+  SetFormColors(TFormColors::Light);
+  MainWindow later(packages_);
+  EXPECT_EQ(FormColors(), TFormColors::Dark);
+  EXPECT_TRUE(later.findChild<QAction*>(QStringLiteral("formDark"))->isChecked());
+  Action("formDesigner").trigger();
+  EXPECT_EQ(face(), light);
+  Action("dark").trigger();
+  EXPECT_EQ(face(), dark);
+  Action("formLight").trigger();
+  EXPECT_EQ(face(), light);
   ExpectUntouched();
   Action("light").trigger();
 }

@@ -1,9 +1,7 @@
-#include <QApplication>
-#include <QPalette>
-
 #include "Drawn.h"
 #include "RandomPictures.h"
 #include "rtl/Exceptions.h"
+#include "vcl/FormColors.h"
 
 // Asked for too much, the sanitizer's allocator fails like any other instead of ending the program.
 extern "C" const char* __asan_default_options() { return "allocator_may_return_null=1"; }
@@ -91,19 +89,15 @@ TEST(Bitmap, AColorWithAHighByteIsResolvedWhenWritten) {
   }
 }
 
-TEST(Bitmap, AWrittenSystemColorStaysWhenThePaletteChanges) {
-  const QPalette before = QApplication::palette();
+TEST(Bitmap, AWrittenSystemColorStaysWhenTheSchemeChanges) {
   TBitmap bitmap(2, 1);
-  QPalette palette = before;
-  palette.setColor(QPalette::Base, QColor(1, 2, 3));
-  QApplication::setPalette(palette);
   bitmap.SetPixel(0, 0, clWindow);
-  palette.setColor(QPalette::Base, QColor(4, 5, 6));
-  QApplication::setPalette(palette);
+  const TColor light = ColorToRGB(clWindow);
+  const FormColorScope colors(TFormColors::Dark);
   bitmap.SetPixel(1, 0, clWindow);
-  QApplication::setPalette(before);
-  EXPECT_EQ(bitmap.Pixel(0, 0), RGBColor(1, 2, 3));
-  EXPECT_EQ(bitmap.Pixel(1, 0), RGBColor(4, 5, 6));
+  EXPECT_EQ(bitmap.Pixel(0, 0), light);
+  EXPECT_EQ(bitmap.Pixel(1, 0), ColorToRGB(clWindow));
+  EXPECT_NE(bitmap.Pixel(0, 0), bitmap.Pixel(1, 0));
 }
 
 TEST(Bitmap, NewAreaIsWhiteAndWhatIsCommonStays) {

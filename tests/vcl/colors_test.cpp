@@ -1,3 +1,4 @@
+#include <QtTest>
 #include <random>
 #include <set>
 
@@ -7,6 +8,9 @@
 #include "rtl/PropText.h"
 #include "vcl/ColorSwatch.h"
 #include "vcl/Colors.h"
+#include "vcl/ControlView.h"
+#include "vcl/FormColors.h"
+#include "vcl/StdCtrls.h"
 
 TEST(Colors, EveryNameLeadsToItsValueAndBack) {
   std::set<std::string> names;
@@ -91,10 +95,10 @@ TEST(Colors, NoneIsTransparentAndDefaultBlack) {
   EXPECT_EQ(ToQColor(clBlack).alpha(), 255);
 }
 
-TEST(Colors, SystemColorsFollowTheTheme) {
-  const auto shades = [](TTheme theme) {
-    const ThemeScope scope(theme);
-    const QPalette p = QApplication::palette();
+TEST(Colors, SystemColorsFollowTheSchemeOfTheForms) {
+  const auto shades = [](TFormColors colors) {
+    const FormColorScope scope(colors);
+    const QPalette p = ThemePalette(colors == TFormColors::Dark ? TTheme::Dark : TTheme::Light);
     EXPECT_EQ(ToQColor(clBtnFace), p.color(QPalette::Window));
     EXPECT_EQ(ToQColor(clWindow), p.color(QPalette::Base));
     EXPECT_EQ(ToQColor(clWindowText), p.color(QPalette::WindowText));
@@ -107,8 +111,8 @@ TEST(Colors, SystemColorsFollowTheTheme) {
     for (const TColorEntry& e : NamedColors()) all.push_back(ColorToRGB(e.Value));
     return all;
   };
-  const auto light = shades(TTheme::Light);
-  const auto dark = shades(TTheme::Dark);
+  const auto light = shades(TFormColors::Light);
+  const auto dark = shades(TFormColors::Dark);
   for (std::size_t i = 0; i < light.size(); ++i)
     if (!NamedColors()[i].System) {
       EXPECT_EQ(light[i], dark[i]) << NamedColors()[i].Name;
@@ -117,6 +121,53 @@ TEST(Colors, SystemColorsFollowTheTheme) {
   for (const char* name : {"clBtnFace", "clWindow", "clWindowText", "clGrayText", "clBtnShadow", "clInfoBk"})
     for (std::size_t i = 0; i < light.size(); ++i)
       EXPECT_TRUE(qstrcmp(NamedColors()[i].Name, name) != 0 || light[i] != dark[i]) << name;
+}
+
+TEST(FormColors, AreLightWhateverTheApplicationHas) {
+  EXPECT_EQ(FormColors(), TFormColors::Light);
+  const ThemeScope theme(TTheme::Dark);
+  EXPECT_EQ(FormPalette(), ThemePalette(TTheme::Light));
+  EXPECT_EQ(ToQColor(clBtnFace), ThemePalette(TTheme::Light).color(QPalette::Window));
+  const FormColorScope scope(TFormColors::Designer);
+  EXPECT_EQ(FormPalette(), QApplication::palette());
+  EXPECT_EQ(ToQColor(clBtnFace), ThemePalette(TTheme::Dark).color(QPalette::Window));
+}
+
+TEST(FormColors, TheInnermostScopeCountsAndEnds) {
+  {
+    const FormColorScope outer(TFormColors::Dark);
+    {
+      const FormColorScope inner(TFormColors::Designer);
+      EXPECT_EQ(FormColors(), TFormColors::Designer);
+    }
+    EXPECT_EQ(FormColors(), TFormColors::Dark);
+  }
+  EXPECT_EQ(FormColors(), TFormColors::Light);
+}
+
+TEST(FormColors, PickingAnotherSchemePaintsEveryViewAgain) {
+  TLabel label(nullptr);
+  label.SetBounds(0, 0, 20, 20);
+  ControlView view(&label);
+  view.resize(40, 40);
+  view.show();
+  ASSERT_TRUE(QTest::qWaitForWindowExposed(&view));
+  QCoreApplication::processEvents();
+  struct Painted : QObject {
+    bool eventFilter(QObject*, QEvent* e) override {
+      count += e->type() == QEvent::Paint;
+      return false;
+    }
+    int count = 0;
+  } painted;
+  view.installEventFilter(&painted);
+  SetFormColors(TFormColors::Light);  // as it is
+  QCoreApplication::processEvents();
+  EXPECT_EQ(painted.count, 0);
+  SetFormColors(TFormColors::Dark);
+  QCoreApplication::processEvents();
+  EXPECT_GT(painted.count, 0);
+  SetFormColors(TFormColors::Light);
 }
 
 TEST(Theme, KnowsWhetherItIsDark) {

@@ -1,6 +1,7 @@
 #include "VclTest.h"
 #include "rtl/PropAccess.h"
 #include "vcl/ExtCtrls.h"
+#include "vcl/FormColors.h"
 #include "vcl/FormFrame.h"
 #include "vcl/StdCtrls.h"
 
@@ -152,7 +153,34 @@ TEST(RenderForm, TitleAndButtonsShow) {
   EXPECT_NE(RenderForm(form, 1), closeOnly);
 }
 
-TEST(RenderForm, FollowsTheTheme) {
+TEST(FormKind, OnlyAFormHasAWindowFrame) {
+  TForm form(nullptr);
+  form.SetClientWidth(200);
+  form.SetClientHeight(100);
+  for (const auto kind : {TFormKind::Frame, TFormKind::DataModule}) {
+    form.SetKind(kind);
+    EXPECT_EQ(form.ClientRect(), QRect(0, 0, 200, 100));
+    EXPECT_EQ(form.BoundsRect().size(), QSize(200, 100));
+    EXPECT_EQ(RenderForm(form, 1).size(), QSize(200, 100));
+  }
+  EXPECT_FALSE(form.AcceptsControls());
+  form.SetKind(TFormKind::Form);
+  EXPECT_TRUE(form.AcceptsControls());
+  EXPECT_EQ(form.ClientRect(), QRect(0, 0, 200, 100));
+  EXPECT_GT(form.Height(), 100);
+}
+
+TEST(FormKind, AFrameIsAllItsOwnFaceAndADataModuleADesk) {
+  TForm form(nullptr);
+  form.SetKind(TFormKind::Frame);
+  form.SetColor(clRed);
+  const QImage frame = RenderForm(form, 1);
+  EXPECT_EQ(CountPixels(frame, Qt::red), frame.width() * frame.height());
+  form.SetKind(TFormKind::DataModule);
+  EXPECT_EQ(RenderForm(form, 1).pixelColor(50, 50), ToQColor(clWindow));
+}
+
+TEST(RenderForm, FollowsTheFormsSchemeAndNotTheTheme) {
   TForm form(nullptr);
   QImage light, dark;
   {
@@ -161,6 +189,10 @@ TEST(RenderForm, FollowsTheTheme) {
   }
   {
     const ThemeScope scope(TTheme::Dark);
+    EXPECT_EQ(RenderForm(form, 1), light);
+  }
+  {
+    const FormColorScope colors(TFormColors::Dark);
     dark = RenderForm(form, 1);
   }
   EXPECT_GT(light.pixelColor(100, 100).lightness(), 200);

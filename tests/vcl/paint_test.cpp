@@ -1,14 +1,15 @@
 #include "VclTest.h"
 #include "vcl/ControlView.h"
 #include "vcl/ExtCtrls.h"
+#include "vcl/FormColors.h"
 #include "vcl/StdCtrls.h"
 
 namespace {
 const QColor Background(1, 254, 3);
 
 template <class T>
-QImage Picture(TTheme theme, bool enabled) {
-  const ThemeScope scope(theme);
+QImage Picture(TFormColors colors, bool enabled) {
+  const FormColorScope scope(colors);
   T control(nullptr);
   control.SetCaption(QStringLiteral("Sample text"));
   control.SetEnabled(enabled);
@@ -21,16 +22,27 @@ using PaintedClasses = testing::Types<TLabel, TButton, TPanel>;
 TYPED_TEST_SUITE(PaintedClass, PaintedClasses);
 }  // namespace
 
-TYPED_TEST(PaintedClass, LooksDifferentDisabledAndInEachTheme) {
-  const QImage light = Picture<TypeParam>(TTheme::Light, true),
-               lightOff = Picture<TypeParam>(TTheme::Light, false);
-  const QImage dark = Picture<TypeParam>(TTheme::Dark, true),
-               darkOff = Picture<TypeParam>(TTheme::Dark, false);
+TYPED_TEST(PaintedClass, LooksDifferentDisabledAndInEachScheme) {
+  const QImage light = Picture<TypeParam>(TFormColors::Light, true),
+               lightOff = Picture<TypeParam>(TFormColors::Light, false);
+  const QImage dark = Picture<TypeParam>(TFormColors::Dark, true),
+               darkOff = Picture<TypeParam>(TFormColors::Dark, false);
   ASSERT_GT(light.width(), 20);
   EXPECT_NE(light, lightOff);
   EXPECT_NE(dark, darkOff);
   EXPECT_NE(light, dark);
   EXPECT_NE(lightOff, darkOff);
+}
+
+TYPED_TEST(PaintedClass, LooksTheSameInEachThemeOfTheDesigner) {
+  for (const bool enabled : {true, false}) {
+    QImage pictures[2];
+    for (const auto theme : {TTheme::Light, TTheme::Dark}) {
+      const ThemeScope scope(theme);
+      pictures[theme == TTheme::Dark] = Picture<TypeParam>(TFormColors::Light, enabled);
+    }
+    EXPECT_EQ(pictures[0], pictures[1]) << enabled;
+  }
 }
 
 TYPED_TEST(PaintedClass, ShowsItsCaptionAndFontColor) {
@@ -47,6 +59,16 @@ TYPED_TEST(PaintedClass, ShowsItsCaptionAndFontColor) {
   control.SetBounds(0, 0, 120, 30);
   EXPECT_GT(CountPixels(Draw(control), Qt::red), 0);
   EXPECT_EQ(CountPixels(text, Qt::red), 0);
+}
+
+TEST(PaintPanel, TheDefaultColorIsTheFace) {
+  const FormColorScope colors(TFormColors::Dark);
+  TPanel panel(nullptr);
+  panel.SetCaption(QStringLiteral("HHHH"));
+  const QImage usual = Draw(panel);
+  panel.SetColor(clDefault);
+  panel.Font()->SetColor(clDefault);
+  EXPECT_EQ(Draw(panel), usual);
 }
 
 TEST(PaintLabel, TransparentLeavesTheBackground) {
@@ -194,6 +216,26 @@ TEST(ControlView, RepaintsWhenSomethingInsideChanges) {
   EXPECT_TRUE(QTest::qWaitFor([&] { return counter.paints > before; }, 2000));
   panel.SetColor(clRed);
   EXPECT_EQ(view.grab().toImage().pixelColor(100, 45), QColor(Qt::red));
+}
+
+// What is behind a transparent control is part of what it looks like.
+TEST(ControlView, ShowsTheFormsFaceWhateverTheThemeOfTheDesigner) {
+  TLabel label(nullptr);
+  label.SetCaption(QStringLiteral("Sample"));
+  label.SetBounds(0, 0, 60, 20);
+  ControlView view(&label);
+  view.resize(100, 60);
+  QImage pictures[2];
+  for (const auto theme : {TTheme::Light, TTheme::Dark}) {
+    const ThemeScope scope(theme);
+    pictures[theme == TTheme::Dark] = view.grab().toImage();
+  }
+  EXPECT_EQ(pictures[0], pictures[1]);
+  EXPECT_EQ(pictures[1].pixelColor(1, 1), ToQColor(clBtnFace));
+  const FormColorScope colors(TFormColors::Dark);
+  const QImage dark = view.grab().toImage();
+  EXPECT_EQ(dark.pixelColor(1, 1), ToQColor(clBtnFace));
+  EXPECT_NE(dark, pictures[0]);
 }
 
 TEST(ControlView, LetsGoOfItsControl) {

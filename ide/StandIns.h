@@ -1,0 +1,44 @@
+// What a form file tells of classes that no loaded package has: whether they are controls, which of the
+// common controls they resemble, and what the root of the file is.
+#pragma once
+#include "forms/Document.h"
+#include "vcl/Form.h"
+
+// What a stand-in looks like. Component: it is not a control.
+enum class TStandInLook : std::uint8_t {
+  Component,
+  Plain,
+  Panel,
+  Group,
+  Label,
+  Field,
+  Memo,
+  Combo,
+  Spin,
+  Button,
+  Check,
+  Radio,
+  RadioGroup,
+  CheckGroup,
+  List,
+  Grid,
+  Image,
+  Tabs,
+  Page,
+  ToolBar,
+  StatusBar,
+  Slider,
+  Progress,
+  Splitter
+};
+
+// By the end of the class name ("TJvDBComboBox" is a combo), else by what the file gives the object.
+TStandInLook LookOf(const forms::Object& object);
+// The size of such a control where the file has none.
+QSize UsualSize(TStandInLook look);
+// Controls of registered classes included.
+bool IsVisual(const forms::Object& object);
+TFormKind KindOfRoot(const forms::Object& root);
+
+// The component that takes the place of an object of an unknown class.
+TComponent* MakeStandIn(const forms::Document& document, const forms::Object& object, TComponent* owner);

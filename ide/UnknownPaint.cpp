@@ -1,0 +1,238 @@
+// What stand-ins look like: like the common controls, flat and in quiet lines, so that a foreign form can be
+// recognised and nobody takes them for the real ones.
+#include <QPainterPath>
+
+#include "ide/Unknown.h"
+#include "vcl/FormColors.h"
+
+namespace {
+using enum TStandInLook;
+
+constexpr int Mark = 13;  // side of a check box
+
+QColor Line() { return FormPalette().color(QPalette::Mid); }
+
+void Box(QPainter& p, const QRectF& r, const QColor& fill, double radius = 2) {
+  p.setRenderHint(QPainter::Antialiasing);
+  p.setPen(QPen(Line(), 1));
+  p.setBrush(fill);
+  p.drawRoundedRect(r.adjusted(0.5, 0.5, -0.5, -0.5), radius, radius);
+}
+
+// A small angle, pointing down (1) or up (-1).
+void Arrow(QPainter& p, QPointF at, int direction) {
+  p.setPen(QPen(FormPalette().color(QPalette::Dark), 1.3));
+  p.setBrush(Qt::NoBrush);
+  const QPointF points[] = {at + QPointF(-3.5, -1.75 * direction), at + QPointF(0, 1.75 * direction),
+                            at + QPointF(3.5, -1.75 * direction)};
+  p.drawPolyline(points, 3);
+}
+
+void CheckMark(QPainter& p, const QRectF& r, bool round, bool set) {
+  const QPalette palette = FormPalette();
+  Box(p, r, palette.color(QPalette::Base), round ? r.width() / 2 : 2);
+  if (!set) return;
+  p.setPen(Qt::NoPen);
+  p.setBrush(palette.color(QPalette::WindowText));
+  if (round) return p.drawEllipse(r.center(), 3, 3);
+  p.setPen(QPen(palette.color(QPalette::WindowText), 1.6));
+  const QPointF tick[] = {
+      {r.left() + 3, r.top() + 6.5}, {r.left() + 5.5, r.top() + 9}, {r.right() - 2.5, r.top() + 4}};
+  p.drawPolyline(tick, 3);
+}
+}  // namespace
+
+void TUnknownControl::PaintText(TCanvas& canvas, const QRect& area, int flags, const QString& text) const {
+  if (area.width() > 0 && area.height() > 0) canvas.TextRect(area, flags, text, *Font(), Enabled());
+}
+
+// Name and class, when there is nothing else to tell the control by and they fit.
+void TUnknownControl::PaintQuiet(TCanvas& canvas) const {
+  if (!Controls().empty()) return;
+  QPainter& p = canvas.Painter();
+  QFont font = ToQFont(*Font());
+  font.setPixelSize(std::min(font.pixelSize(), 12));
+  p.setFont(font);
+  p.setPen(FormPalette().color(QPalette::PlaceholderText));
+  const QRect room = ClientRect().adjusted(5, 2, -5, -2);
+  const QString cls = QString::fromUtf8(streamClass_);
+  for (const QString& text : {Name().isEmpty() ? cls : QStringLiteral("%1: %2").arg(Name(), cls), cls})
+    if (p.fontMetrics().horizontalAdvance(text) <= room.width() &&
+        p.fontMetrics().height() <= room.height() + 4) {
+      p.drawText(room, Qt::AlignCenter, text);
+      return;
+    }
+}
+
+std::vector<QRect> TUnknownControl::TabRects() const {
+  std::vector<QRect> rects;
+  const QFontMetrics metrics(ToQFont(*Font()));
+  int x = 2;
+  const auto add = [&](const QString& text) {
+    const int width = metrics.horizontalAdvance(text) + 20;
+    rects.emplace_back(x, 0, width, TabHeight);
+    x += width;
+  };
+  const auto pages = Pages();
+  for (const TUnknownControl* page : pages) add(page->Caption().isEmpty() ? page->Name() : page->Caption());
+  if (pages.empty())
+    for (const QString& text : standIn_.items) add(text);
+  return rects;
+}
+
+TUnknownControl* TUnknownControl::PageAt(QPoint point) const {
+  if (standIn_.look != Tabs) return nullptr;
+  const auto pages = Pages();
+  const auto rects = TabRects();
+  for (std::size_t i = 0; i < pages.size(); ++i)
+    if (rects[i].contains(point)) return pages[i];
+  return nullptr;
+}
+
+void TUnknownControl::PaintTabs(TCanvas& canvas) const {
+  const QPalette palette = FormPalette();
+  QPainter& p = canvas.Painter();
+  Box(p, QRectF(ClientRect()).adjusted(0, TabHeight - 1, 0, 0), palette.color(QPalette::Window), 0);
+  const auto pages = Pages();
+  const auto rects = TabRects();
+  for (std::size_t i = 0; i < rects.size(); ++i) {
+    const bool front =
+        pages.empty() ? static_cast<int>(i) == std::max(0, standIn_.index) : pages[i] == FrontPage();
+    const QRect r = rects[i].adjusted(0, front ? 0 : 2, 0, 0);
+    Box(p, QRectF(r).adjusted(0, 0, 0, front ? 4 : 0),
+        palette.color(front ? QPalette::Window : QPalette::Button), 3);
+    if (front) p.fillRect(r.adjusted(1, TabHeight - 1, -1, 6), palette.color(QPalette::Window));
+    const QString text = pages.empty()                   ? standIn_.items[static_cast<qsizetype>(i)]
+                         : pages[i]->Caption().isEmpty() ? pages[i]->Name()
+                                                         : pages[i]->Caption();
+    PaintText(canvas, r, Qt::AlignCenter, text);
+  }
+}
+
+// The items of a group of radio buttons or check boxes, column by column.
+void TUnknownControl::PaintChoices(TCanvas& canvas, const QRect& area, bool exclusive) const {
+  const int count = static_cast<int>(standIn_.items.size());
+  if (count == 0) return;
+  const int columns = std::min(standIn_.columns, count), rows = (count + columns - 1) / columns;
+  for (int i = 0; i < count; ++i) {
+    const QRect cell(area.left() + i / rows * area.width() / columns,
+                     area.top() + i % rows * area.height() / rows, area.width() / columns,
+                     area.height() / rows);
+    CheckMark(canvas.Painter(), QRectF(cell.left(), cell.center().y() - Mark / 2, Mark, Mark), exclusive,
+              exclusive && i == standIn_.index);
+    PaintText(canvas, cell.adjusted(Mark + 5, 0, 0, 0), Qt::AlignVCenter | Qt::AlignLeft, standIn_.items[i]);
+  }
+}
+
+// What it is made of; true when that shows all there is to show.
+bool TUnknownControl::PaintSurface(TCanvas& canvas) const {
+  const QPalette palette = FormPalette();
+  QPainter& p = canvas.Painter();
+  const QRect r = ClientRect();
+  const QString text = Caption().isEmpty() ? standIn_.text : Caption();
+  const QColor base = standIn_.color ? ToQColor(*standIn_.color) : palette.color(QPalette::Base);
+  const bool tall = r.height() > 2 * QFontMetrics(ToQFont(*Font())).height() + 4;
+  constexpr int Middle = Qt::AlignLeft | Qt::AlignVCenter;
+  switch (standIn_.look) {
+    case Label:
+      if (standIn_.color) p.fillRect(r, base);
+      PaintText(canvas, r, Qt::AlignLeft | Qt::AlignTop | (tall ? Qt::TextWordWrap : 0), text);
+      return !text.isEmpty();
+    case Check:
+    case Radio:
+      CheckMark(p, QRectF(1, (r.height() - Mark) / 2, Mark, Mark), standIn_.look == Radio, standIn_.checked);
+      PaintText(canvas, r.adjusted(Mark + 5, 0, 0, 0), Middle, text);
+      return true;
+    case Button:
+      Box(p, r, palette.color(QPalette::Button), 3);
+      PaintText(canvas, r, Qt::AlignCenter, text);
+      return !text.isEmpty();
+    case Field:
+    case Combo:
+    case Spin: {
+      Box(p, r, base);
+      const int knob = standIn_.look == Field ? 0 : 18;
+      if (knob > 0 && r.width() > 2 * knob) {
+        const QPointF at(r.right() - knob / 2.0, r.top() + r.height() / 2.0);
+        if (standIn_.look == Combo) Arrow(p, at, 1);
+        if (standIn_.look == Spin) Arrow(p, at - QPointF(0, 4), -1), Arrow(p, at + QPointF(0, 4), 1);
+      }
+      PaintText(canvas, r.adjusted(5, 1, -knob - 3, -1), tall ? Qt::AlignLeft | Qt::AlignTop : Middle, text);
+      return !text.isEmpty();
+    }
+    case Memo:
+    case List:
+    case Grid: {
+      Box(p, r, base);
+      if (standIn_.look == Grid) {
+        p.fillRect(QRect(1, 1, r.width() - 2, std::min(20, r.height() - 2)), palette.color(QPalette::Button));
+        p.setPen(Line());
+        for (int y = 20; y < std::min(r.height(), 61); y += 20) p.drawLine(0, y, r.right(), y);
+        for (int x = 64; x < r.width(); x += 64) p.drawLine(x, 0, x, std::min(r.height(), 61));
+      }
+      const QString lines = standIn_.look == List ? standIn_.items.join(u'\n') : text;
+      PaintText(canvas, r.adjusted(5, 3, -4, -3), Qt::AlignLeft | Qt::AlignTop, lines);
+      return !lines.isEmpty();
+    }
+    case Group:
+    case RadioGroup:
+    case CheckGroup: {
+      const int title = QFontMetrics(ToQFont(*Font())).height();
+      Box(p, QRectF(r).adjusted(0, title / 2.0, 0, 0), standIn_.color ? base : QColor(Qt::transparent));
+      if (!text.isEmpty()) {
+        const int width =
+            std::min(r.width() - 12, QFontMetrics(ToQFont(*Font())).horizontalAdvance(text) + 6);
+        const QRect label(7, 0, width, title);
+        p.fillRect(label, ToQColor(Color()));
+        PaintText(canvas, label.adjusted(3, 0, 0, 0), Middle, text);
+      }
+      if (standIn_.look != Group)
+        PaintChoices(canvas, r.adjusted(10, title + 2, -6, -4), standIn_.look == RadioGroup);
+      return true;
+    }
+    case Tabs:
+      PaintTabs(canvas);
+      return !standIn_.items.isEmpty();
+    case Page:
+      p.fillRect(r, standIn_.color ? base : palette.color(QPalette::Window));
+      return true;
+    case ToolBar:
+    case StatusBar:
+      p.fillRect(r, palette.color(QPalette::Window));
+      p.setPen(Line());
+      if (standIn_.look == ToolBar) p.drawLine(r.bottomLeft(), r.bottomRight());
+      if (standIn_.look == StatusBar) p.drawLine(r.topLeft(), r.topRight());
+      PaintText(canvas, r.adjusted(5, 1, -4, 0), Middle, text);
+      return !text.isEmpty();
+    case Slider: {
+      const bool upright = r.height() > r.width();
+      const QRectF groove = upright ? QRectF(r.center().x() - 1, 4, 4, r.height() - 8)
+                                    : QRectF(4, r.center().y() - 1, r.width() - 8, 4);
+      Box(p, groove, palette.color(QPalette::Button));
+      Box(p, upright ? QRectF(r.center().x() - 6, 8, 14, 10) : QRectF(8, r.center().y() - 6, 10, 14),
+          palette.color(QPalette::Button), 3);
+      return true;
+    }
+    case Progress:
+      Box(p, r, base);
+      p.fillRect(QRectF(r).adjusted(2, 2, -2 - r.width() * 0.6, -2), palette.color(QPalette::Midlight));
+      return true;
+    case Splitter:
+      p.fillRect(r, palette.color(QPalette::Midlight));
+      return true;
+    case Panel:
+    case Plain:
+    case Image:
+    case Component:
+      break;
+  }
+  QColor fill = palette.color(QPalette::WindowText);
+  fill.setAlpha(standIn_.look == Panel ? 0 : 10);
+  Box(p, r, standIn_.color ? base : fill, 1);
+  if (Controls().empty()) PaintText(canvas, r, Qt::AlignCenter, text);
+  return !text.isEmpty();
+}
+
+void TUnknownControl::Paint(TCanvas& canvas) {
+  if (!PaintSurface(canvas)) PaintQuiet(canvas);
+}

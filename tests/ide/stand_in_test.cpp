@@ -1,0 +1,229 @@
+// Forms of classes nobody has: what they are taken for, and where they stand.
+#include "ide/Tiles.h"
+#include "ide/Unknown.h"
+#include "tests/ide/SessionTest.h"
+#include "vcl/FormColors.h"
+#include "vcl/FormFrame.h"
+
+namespace {
+using namespace ide;
+
+std::unique_ptr<FormSession> Open(const QByteArray& text) {
+  RegisterAll();
+  return FormSession::FromBytes(text);
+}
+TComponent& Get(const FormSession& session, const char* name) {
+  return *session.GetComponent(QLatin1StringView(name));
+}
+TUnknownControl& Control(const FormSession& session, const char* name) {
+  return dynamic_cast<TUnknownControl&>(Get(session, name));
+}
+TFormKind KindOf(const QByteArray& text) { return Open(text)->Form().Kind(); }
+
+QByteArray OnForm(const QByteArray& children) {
+  return "object Form1: TForm1\n  Caption = 'Form1'\n  ClientHeight = 300\n  ClientWidth = 400\n" + children +
+         "end\n";
+}
+const QByteArray Book = OnForm(R"(  object Book: TPageControl
+    Left = 8
+    Top = 8
+    Width = 300
+    Height = 200
+    ActivePage = Second
+    object First: TTabSheet
+      Caption = 'One'
+      object Inner: TButton
+        Left = 8
+        Top = 8
+        Width = 200
+        Height = 25
+        Anchors = [akLeft, akTop, akRight]
+        Caption = 'Inner'
+        TabOrder = 0
+      end
+    end
+    object Second: TTabSheet
+      Caption = 'Two'
+    end
+  end
+)");
+}  // namespace
+
+TEST(RootKind, AFormHasWhatOnlyFormsHave) {
+  EXPECT_EQ(KindOf(OnForm("")), TFormKind::Form);
+  EXPECT_EQ(KindOf("object Form1: TForm1\nend\n"), TFormKind::Form);
+  EXPECT_EQ(KindOf("object Form1: TForm1\n  object T: TTimer\n  end\nend\n"), TFormKind::Form);
+  EXPECT_EQ(KindOf("object Box: TBoxFrame\n  BorderStyle = bsDialog\n  TabOrder = 0\nend\n"),
+            TFormKind::Form);
+  EXPECT_EQ(KindOf("inherited Box: TBox\n  TextHeight = 13\n  object B: TButton\n  end\nend\n"),
+            TFormKind::Form);
+}
+
+TEST(RootKind, AFrameHasWhatFormsLeaveOut) {
+  EXPECT_EQ(
+      KindOf("object Box: TBox\n  Left = 0\n  Top = 0\n  Width = 90\n  Height = 50\n  TabOrder = 0\nend\n"),
+      TFormKind::Frame);
+  EXPECT_EQ(KindOf("object Box: TBox\n  Height = 90\n  ClientHeight = 90\n  DesignTop = 3\nend\n"),
+            TFormKind::Frame);
+  EXPECT_EQ(KindOf("object Box: TBoxFrame\n  Width = 90\n  object B: TButton\n  end\nend\n"),
+            TFormKind::Frame);
+  EXPECT_EQ(KindOf("inherited Box: TBox\n  inherited B: TButton\n  end\nend\n"), TFormKind::Frame);
+}
+
+TEST(RootKind, ADataModuleHoldsOnlyWhatIsNotVisible) {
+  const QByteArray head = "object Data: TData\n  OldCreateOrder = False\n  Height = 150\n  Width = 215\n";
+  EXPECT_EQ(KindOf(head + "end\n"), TFormKind::DataModule);
+  EXPECT_EQ(KindOf(head + "  object Q: TSomeQuery\n    Left = 8\n    Top = 8\n  end\nend\n"),
+            TFormKind::DataModule);
+  EXPECT_EQ(KindOf(head + "  object B: TButton\n  end\nend\n"), TFormKind::Form);
+}
+
+TEST(RootKind, AFrameLosesNothingToAWindowFrame) {
+  const QByteArray text =
+      "object Box: TBox\n  Left = 0\n  Top = 0\n  Width = 100\n  Height = 60\n  TabOrder = 0\nend\n";
+  const auto session = Open(text);
+  EXPECT_EQ(session->Form().ClientRect(), QRect(0, 0, 100, 60));
+  EXPECT_EQ(RenderRoot(*session, 1).size(), QSize(100, 60));
+  session->Run(QStringLiteral("Resize"), {&session->Form()}, [&] { session->Form().SetWidth(101); });
+  EXPECT_EQ(ChangedLines(text, session->Bytes()).join('|'), "-Width = 100|+Width = 101");
+}
+
+TEST(RootKind, ADataModuleShowsTilesAndTakesNoControls) {
+  const auto session = Open(
+      "object Data: TData\n  OldCreateOrder = False\n  Height = 80\n  Width = 90\n"
+      "  object Q: TSomeQuery\n    Left = 20\n    Top = 10\n    object QName: TStringField\n    end\n  end\n"
+      "  object Far: TSomeSource\n    Left = 200\n    Top = 10\n  end\nend\n");
+  const QByteArray before = session->Bytes();
+  EXPECT_TRUE(HasTile(*session, Get(*session, "Q")));
+  EXPECT_FALSE(HasTile(*session, Get(*session, "QName")));
+  EXPECT_EQ(&ShownFor(*session, Get(*session, "QName")), &Get(*session, "Q"));
+  const QImage picture = RenderRoot(*session, 1);
+  EXPECT_GE(picture.width(), 228);
+  const QColor desk = ToQColor(clWindow);
+  const auto painted = [&](const QRect& r) {
+    int count = 0;
+    for (int y = r.top(); y <= r.bottom(); ++y)
+      for (int x = r.left(); x <= r.right(); ++x) count += picture.pixelColor(x, y) != desk;
+    return count;
+  };
+  EXPECT_GT(painted(TileRect(Get(*session, "Q"))), 50);
+  EXPECT_GT(painted(TileRect(Get(*session, "Far"))), 50);
+  EXPECT_EQ(painted({0, 0, 10, 5}), 0);
+  EXPECT_THROW(session->CreateComponent(TButton::StaticClass(), nullptr, {}), EComponentError);
+  EXPECT_EQ(session->Bytes(), before);
+  EXPECT_FALSE(session->CanUndo());
+  EXPECT_NE(session->CreateComponent(TTimer::StaticClass(), nullptr, {}), nullptr);
+}
+
+TEST(StandIn, EvidenceTellsControlsFromComponents) {
+  const std::pair<const char*, bool> rows[] = {
+      {"object X: TNobody\n    Left = 8\n    Top = 8\n", false},
+      {"object X: TNobody\n    Left = 8\n    Top = 8\n    TabOrder = 3\n", true},
+      {"object X: TNobody\n    Align = alTop\n", true},
+      {"object X: TNobody\n    Width = 10\n    Height = 10\n", true},
+      {"object X: TNobody\n    Left = 8\n    Width = 10\n", false},
+      {"object X: TNobody\n    Caption = 'Text'\n", false},
+      {"inline X: TNobody\n    Left = 8\n    Top = 8\n", true},
+      {"object X: TSomeCheckBox\n    Left = 8\n    Top = 8\n", true},
+      {"object X: TSomeImageList\n    Width = 24\n    Height = 24\n    Left = 8\n", false},
+      {"object X: TPopupMenu\n    Left = 8\n    object Y: TMenuItem\n      Caption = 'Y'\n    end\n", false},
+      {"object X: TNobody\n    object Y: TButton\n    end\n", true},
+      {"object X: TNobody\n    object Y: TTimer\n    end\n", false},
+  };
+  for (const auto& [text, control] : rows) {
+    const auto session = Open(OnForm("  " + QByteArray(text) + "  end\n"));
+    EXPECT_EQ(As<TControl>(&Get(*session, "X")) != nullptr, control) << text;
+  }
+}
+
+TEST(StandIn, AControlWithoutAStoredSizeHasTheUsualOne) {
+  const auto session =
+      Open(OnForm("  object A: TSomeButton\n    Left = 8\n    Top = 8\n  end\n"
+                  "  object B: TSomeMemo\n    Left = 8\n    Top = 40\n    ExplicitWidth = 77\n    "
+                  "ExplicitHeight = 66\n  end\n"));
+  EXPECT_EQ(Control(*session, "A").BoundsRect(), QRect(8, 8, 75, 25));
+  EXPECT_EQ(Control(*session, "B").BoundsRect(), QRect(8, 40, 77, 66));
+}
+
+TEST(StandIn, ShowsItsCaptionAndNotItsName) {
+  const auto picture = [](const char* name, const char* extra) {
+    const auto session = Open(OnForm("  object " + QByteArray(name) +
+                                     ": TNobody\n    Left = 8\n    Top = 8\n"
+                                     "    Width = 200\n    Height = 40\n" +
+                                     extra + "  end\n"));
+    return RenderForm(session->Form(), 1);
+  };
+  EXPECT_NE(picture("Aaa", ""), picture("Bbbbbb", ""));
+  EXPECT_EQ(picture("Aaa", "    Caption = 'Text'\n"), picture("Bbbbbb", "    Caption = 'Text'\n"));
+  EXPECT_EQ(picture("Aaa", "    Text = 'Text'\n"), picture("Bbbbbb", "    Text = 'Text'\n"));
+  EXPECT_NE(picture("Aaa", "    Caption = 'Text'\n"), picture("Aaa", "    Caption = 'Other'\n"));
+  const char* child = "    object C: TLabel\n      Left = 2\n      Top = 2\n      Caption = 'C'\n    end\n";
+  EXPECT_EQ(picture("Aaa", child), picture("Bbbbbb", child));
+  EXPECT_EQ(picture("Aaa", "    Caption = 'Text'\n    Font.Height = -20\n"),
+            picture("Bbb", "    Caption = 'Text'\n    Font.Height = -20\n"));
+  EXPECT_NE(picture("Aaa", "    Caption = 'Text'\n    Font.Height = -20\n"),
+            picture("Aaa", "    Caption = 'Text'\n"));
+}
+
+TEST(StandIn, EveryLookIsPaintedInBothSchemesAndAnySize) {
+  for (const char* cls :
+       {"TXPanel",    "TXGroupBox",    "TXLabel",    "TXEdit",        "TXMemo",       "TXComboBox",
+        "TXSpinEdit", "TXButton",      "TXCheckBox", "TXRadioButton", "TXRadioGroup", "TXCheckGroup",
+        "TXListBox",  "TXGrid",        "TXImage",    "TXPageControl", "TXToolBar",    "TXStatusBar",
+        "TXTrackBar", "TXProgressBar", "TXSplitter", "TNobody"})
+    for (const char* size : {"0", "1", "9", "120"}) {
+      const QByteArray text =
+          OnForm("  object X: " + QByteArray(cls) + "\n    Left = 8\n    Top = 8\n    Width = " + size +
+                 "\n    Height = " + size +
+                 "\n    TabOrder = 0\n    Items.Strings = (\n      'One'\n      'Two')\n  end\n");
+      const auto session = Open(text);
+      const QImage light = RenderForm(session->Form(), 1);
+      const FormColorScope colors(TFormColors::Dark);
+      EXPECT_NE(RenderForm(session->Form(), 1), light);
+      EXPECT_EQ(session->Bytes(), text);
+    }
+}
+
+TEST(StandIn, APageFillsThePageAreaAndTheFirstOrActiveIsInFront) {
+  const auto session = Open(Book);
+  const QRect book = Control(*session, "Book").BoundsRect();
+  TUnknownControl &first = Control(*session, "First"), &second = Control(*session, "Second");
+  EXPECT_EQ(Control(*session, "Book").FrontPage(), &second);
+  EXPECT_GT(second.Width(), book.width() - 20);
+  EXPECT_GT(second.Height(), book.height() - 40);
+  EXPECT_LE(second.Left() + second.Width(), book.width());
+  EXPECT_LT(first.Left() + first.Width(), 0);
+  EXPECT_EQ(first.Width(), second.Width());
+  EXPECT_EQ(dynamic_cast<TControl&>(Get(*session, "Inner")).BoundsRect(), QRect(8, 8, 200, 25));
+  RevealPages(Get(*session, "Inner"));
+  EXPECT_EQ(Control(*session, "Book").FrontPage(), &first);
+  EXPECT_GE(first.Left(), 0);
+  EXPECT_LT(second.Left() + second.Width(), 0);
+  EXPECT_EQ(session->Bytes(), Book);
+}
+
+TEST(StandIn, PagesFollowTheirBookWithoutALineInTheFile) {
+  const auto session = Open(Book);
+  TUnknownControl& first = Control(*session, "First");
+  const int width = first.Width();
+  session->Run(QStringLiteral("Resize"), {&Get(*session, "Book")},
+               [&] { Control(*session, "Book").SetWidth(310); });
+  EXPECT_EQ(first.Width(), width + 10);
+  EXPECT_EQ(ChangedLines(Book, session->Bytes()).join('|'),
+            "-Width = 300|+Width = 310|-Width = 200|+Width = 210");
+  session->Undo();
+  EXPECT_EQ(first.Width(), width);
+  EXPECT_EQ(session->Bytes(), Book);
+  EXPECT_EQ(dynamic_cast<TControl&>(Get(*session, "Inner")).Width(), 200);
+}
+
+TEST(StandIn, ADeletedFrontPageMakesRoomAndComesBack) {
+  const auto session = Open(Book);
+  session->DeleteComponents({&Get(*session, "Second")});
+  ArrangePages(session->Form());
+  EXPECT_EQ(Control(*session, "Book").FrontPage(), &Control(*session, "First"));
+  EXPECT_GE(Control(*session, "First").Left(), 0);
+  session->Undo();
+  EXPECT_EQ(session->Bytes(), Book);
+  EXPECT_EQ(Control(*session, "Second").Width(), Control(*session, "First").Width());
+}
