@@ -1,4 +1,5 @@
 // Mouse and keyboard on the form.
+#include "ide/Unknown.h"
 #include "tests/designer/DesignerTest.h"
 
 using namespace designer;
@@ -241,4 +242,93 @@ TEST_F(DesignerTest, ADragAtTwiceTheSizeMovesHalfAsFar) {
   Surface().SetZoom(2);
   Drag(At("Button1"), At("Button1") + QPoint(32, 64));
   EXPECT_EQ(Bounds("Button1"), QRect(256, 48, 80, 24));
+}
+
+// --- Foreign forms
+
+TEST_F(DesignerTest, AClickOnTheTabOfAForeignBookShowsItsPage) {
+  const QString name = folder_.filePath(QStringLiteral("book.dfm"));
+  const QByteArray text = R"(object Main: TMain
+  Caption = 'Main'
+  ClientHeight = 300
+  ClientWidth = 400
+  object Book: TPageControl
+    Left = 8
+    Top = 8
+    Width = 300
+    Height = 200
+    object First: TTabSheet
+      Caption = 'One'
+      object InFirst: TButton
+        Left = 8
+        Top = 8
+        Width = 80
+        Height = 24
+        TabOrder = 0
+      end
+    end
+    object Second: TTabSheet
+      Caption = 'Two'
+      object InSecond: TButton
+        Left = 8
+        Top = 8
+        Width = 80
+        Height = 24
+        TabOrder = 0
+      end
+    end
+  end
+  object Menu1: TMainMenu
+    Left = 350
+    Top = 200
+    object Item1: TMenuItem
+      Caption = 'Item'
+    end
+  end
+end
+)";
+  Write(name, text);
+  ASSERT_TRUE(window_->OpenForm(name));
+  const QPoint inside = At("InFirst");
+  Click(inside);
+  EXPECT_EQ(Selected(), "InFirst");
+  const auto& book = dynamic_cast<TUnknownControl&>(Get("Book"));
+  QPoint tab;
+  for (int x = 0; x < 300 && tab.isNull(); ++x)
+    if (book.PageAt({x, 10}) == &Get("Second")) tab = {x + 2, 10};
+  ASSERT_FALSE(tab.isNull());
+  Click(Surface().WidgetRect(Get("Book")).topLeft() + tab);
+  EXPECT_EQ(Selected(), "Book");
+  Click(inside);
+  EXPECT_EQ(Selected(), "InSecond");
+  // Whoever selects something on a page sees it.
+  Select("InFirst");
+  Click(At("InFirst"));
+  EXPECT_EQ(Selected(), "InFirst");
+  // The items of a menu are shown by the menu's tile and cannot be moved.
+  Select("Item1");
+  EXPECT_EQ(Surface().WidgetRect(Get("Item1")), Surface().WidgetRect(Get("Menu1")));
+  Key(Qt::Key_Right);
+  Select("First");
+  Key(Qt::Key_Right);
+  EXPECT_FALSE(Session().CanUndo());
+  EXPECT_EQ(Session().Bytes().toStdString(), text.toStdString());
+}
+
+TEST_F(DesignerTest, TilesBeyondTheEdgeOfADataModuleCanBeReached) {
+  const QString name = folder_.filePath(QStringLiteral("data.dfm"));
+  Write(name,
+        "object Data: TData\n  OldCreateOrder = False\n  Height = 80\n  Width = 90\n"
+        "  object Far: TSomeSource\n    Left = 300\n    Top = 200\n  end\nend\n");
+  ASSERT_TRUE(window_->OpenForm(name));
+  EXPECT_TRUE(QRect(QPoint(), Surface().sizeHint()).contains(Surface().WidgetRect(Get("Far"))));
+  Click(At("Far"));
+  EXPECT_EQ(Selected(), "Far");
+  // A desk holds no controls; nothing is left of the attempt.
+  Surface().SetTool(&TButton::StaticClass());
+  expectedWarnings_ << QStringLiteral(
+      "Data is a data module: only components that are no controls can stand on it.");
+  Click(Surface().WidgetRect(Get("Data")).center());
+  EXPECT_FALSE(Session().CanUndo());
+  EXPECT_EQ(Session().AllComponents().size(), 2u);
 }
