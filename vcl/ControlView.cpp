@@ -43,6 +43,9 @@ void ControlView::Fill() {
 
 void ControlView::resizeEvent(QResizeEvent*) { Fill(); }
 
+// While nothing is shown, nobody hears of a new size.
+void ControlView::showEvent(QShowEvent*) { updateGeometry(); }
+
 // From the left and the top when there is no room, so that the start of a text is never cut.
 QPoint ControlView::Origin() const {
   const QSize size = control_->BoundsRect().size();

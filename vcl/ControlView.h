@@ -29,6 +29,7 @@ class ControlView : public QWidget, public IControlHost {
   void paintEvent(QPaintEvent* event) override;
   void mouseReleaseEvent(QMouseEvent* event) override;
   void resizeEvent(QResizeEvent* event) override;
+  void showEvent(QShowEvent* event) override;
 
  private:
   QPoint Origin() const;
