@@ -1,19 +1,18 @@
 #include "dclstd/StandardEditors.h"
 
-#include <QDialogButtonBox>
+#include <QApplication>
 #include <QFontDatabase>
-#include <QFontDialog>
-#include <QLabel>
-#include <QPlainTextEdit>
-#include <QVBoxLayout>
 
 #include "dclstd/ColorDialog.h"
+#include "dclstd/FontDialog.h"
+#include "dclstd/LinesDialog.h"
 #include "designintf/CustomColors.h"
-#include "designintf/IdeTheme.h"
 #include "rtl/ClassRegistry.h"
+#include "rtl/Registry.h"
 #include "rtl/Strings.h"
 #include "vcl/ColorSwatch.h"
 #include "vcl/Control.h"
+#include "vcl/Prompts.h"
 
 using enum TPropertyAttribute;
 
@@ -36,9 +35,15 @@ QIcon TColorProperty::GetValueIcon(const QString& value) const {
 void TColorProperty::Edit() {
   TColor color = TColor(static_cast<std::uint32_t>(GetOrdValue()));
   QStringList custom = LoadIDECustomColors();
-  const bool chosen = ChooseColor(nullptr, color, custom);
-  SaveIDECustomColors(custom);
-  if (chosen) SetOrdValue(static_cast<std::int64_t>(color));
+  const std::int64_t before = GetOrdValue();
+  const bool chosen = ChooseColor(QApplication::activeWindow(), color, custom);
+  try {
+    SaveIDECustomColors(custom);
+  } catch (const ERegistryException& error) {
+    Prompts().Warn(QApplication::activeWindow(), QObject::tr("Color"), error.Message());
+  }
+  if (chosen && color != TColor(static_cast<std::uint32_t>(before)))
+    SetOrdValue(static_cast<std::int64_t>(color));
 }
 
 TPropertyAttributes TNamedIntegerProperty::GetAttributes() const {
@@ -46,6 +51,12 @@ TPropertyAttributes TNamedIntegerProperty::GetAttributes() const {
 }
 
 namespace {
+bool SameValues(const TPersistent& a, const TPersistent& b) {
+  return std::ranges::all_of(TFont::StaticClass().Properties(), [&](const TPropInfo* prop) {
+    return prop->Kind() == TTypeKind::tkString ? GetStrProp(a, *prop) == GetStrProp(b, *prop)
+                                               : GetOrdProp(a, *prop) == GetOrdProp(b, *prop);
+  });
+}
 // Every value of a small range that has a name.
 void NamesOf(const TTypeInfo& type, std::int64_t from, std::int64_t to, const TGetStrProc& proc) {
   const TIntegerConsts* consts = FindIntegerConsts(type);
@@ -87,23 +98,8 @@ TPropertyAttributes TFontProperty::GetAttributes() const {
 void TFontProperty::Edit() {
   TFont copy;
   copy.Assign(GetObjectValue());
-  QFont start = ToQFont(copy);
-  start.setPointSize(std::max(1, copy.Size()));
-  QFontDialog dialog(start);
-  dialog.setOption(QFontDialog::DontUseNativeDialog);
-  dialog.setWindowTitle(QObject::tr("Font"));
-  ApplyIDETheme(dialog);
-  if (dialog.exec() != QDialog::Accepted) return;
-  const QFont chosen = dialog.selectedFont();
-  copy.SetName(chosen.family());
-  if (chosen.pointSize() > 0) copy.SetSize(chosen.pointSize());
-  TFontStyles style;
-  if (chosen.bold()) style.Include(TFontStyle::fsBold);
-  if (chosen.italic()) style.Include(TFontStyle::fsItalic);
-  if (chosen.underline()) style.Include(TFontStyle::fsUnderline);
-  if (chosen.strikeOut()) style.Include(TFontStyle::fsStrikeOut);
-  copy.SetStyle(style);
-  SetOrdValue(&copy);
+  // Confirmed as it was, the first one's font is not given to the others either.
+  if (EditFont(copy) && !SameValues(copy, *GetObjectValue())) SetOrdValue(&copy);
 }
 
 TPropertyAttributes TStringListProperty::GetAttributes() const {
@@ -112,28 +108,5 @@ TPropertyAttributes TStringListProperty::GetAttributes() const {
 void TStringListProperty::Edit() {
   TStrings copy;
   copy.Assign(GetObjectValue());
-  QDialog dialog;
-  dialog.setWindowTitle(QObject::tr("String List Editor"));
-  auto* text = new QPlainTextEdit(copy.Text());
-  auto* count = new QLabel;
-  const auto showCount = [=] {
-    count->setText(
-        QObject::tr("%n line(s)", nullptr, text->toPlainText().isEmpty() ? 0 : text->blockCount()));
-  };
-  QObject::connect(text, &QPlainTextEdit::textChanged, &dialog, showCount);
-  showCount();
-  auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
-  QObject::connect(buttons, &QDialogButtonBox::accepted, &dialog, &QDialog::accept);
-  QObject::connect(buttons, &QDialogButtonBox::rejected, &dialog, &QDialog::reject);
-  auto* box = new QVBoxLayout(&dialog);
-  box->addWidget(count);
-  box->addWidget(text);
-  box->addWidget(buttons);
-  dialog.resize(480, 360);
-  ApplyIDETheme(dialog);
-  if (dialog.exec() != QDialog::Accepted) return;
-  // Exactly the lines on the screen, an empty last one included.
-  const QString all = text->toPlainText();
-  copy.SetLines(all.isEmpty() ? QStringList() : all.split(u'\n'));
-  SetOrdValue(&copy);
+  if (EditLines(copy)) SetOrdValue(&copy);
 }

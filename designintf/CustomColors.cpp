@@ -24,6 +24,13 @@ void SaveIDECustomColors(const QStringList& colors) {
     const qsizetype equals = entry.indexOf(u'=');
     if (equals > 0) file.WriteString(Section(), entry.left(equals), entry.mid(equals + 1));
   }
+  static bool told = false;
+  try {
+    file.UpdateFile();
+    told = false;
+  } catch (const ERegistryException&) {
+    if (!std::exchange(told, true)) throw;
+  }
 }
 
 std::vector<TColor> CustomColorValues(const QStringList& colors) {

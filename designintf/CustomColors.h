@@ -6,6 +6,7 @@
 #include "vcl/Colors.h"
 
 QStringList LoadIDECustomColors();
+// Throws ERegistryException when they cannot be written; not again until that has become possible.
 void SaveIDECustomColors(const QStringList& colors);
 
 // The list and plain colours: entry i of the list is slot i of a colour dialog.

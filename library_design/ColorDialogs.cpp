@@ -8,7 +8,7 @@
 
 bool ChooseColorEnh(QWidget* parent, TColor& color, QStringList& customColors) {
   ColorEnhDialog dialog(color, customColors, parent);
-  const bool chosen = dialog.exec() == QDialog::Accepted;
+  const bool chosen = dialog.ShowModal() == mrOk;
   customColors = dialog.CustomColors();
   if (chosen) color = dialog.Color();
   return chosen;
@@ -40,8 +40,10 @@ class Sample : public QWidget {
 }  // namespace
 
 ColorEnhDialog::ColorEnhDialog(TColor color, const QStringList& customColors, QWidget* parent)
-    : QDialog(parent), original_(color), color_(color), custom_(CustomColorValues(customColors)) {
-  setWindowTitle(tr("Extended color selection"));
+    : ModalDialog(tr("Extended color selection"), parent),
+      original_(color),
+      color_(color),
+      custom_(CustomColorValues(customColors)) {
   Build();
   FillCustom();
   SetColor(color, nullptr);
@@ -97,8 +99,11 @@ void ColorEnhDialog::Build() {
   connect(add, &QPushButton::clicked, this, &ColorEnhDialog::AddCustom);
   connect(remove, &QPushButton::clicked, this, &ColorEnhDialog::RemoveCustom);
   for (QListWidget* list : {named_, customList_})
-    connect(list, &QListWidget::currentItemChanged, this, [this, list](QListWidgetItem* item) {
-      if (item && !updating_) SetColor(TColor(item->data(Qt::UserRole).toUInt()), list);
+    // Selected, not only current, which the first one becomes when the focus passes by.
+    connect(list, &QListWidget::itemSelectionChanged, this, [this, list] {
+      const auto selected = list->selectedItems();
+      if (!selected.isEmpty() && !updating_)
+        SetColor(TColor(selected.first()->data(Qt::UserRole).toUInt()), list);
     });
   connect(named_, &QListWidget::itemDoubleClicked, this, &QDialog::accept);
 

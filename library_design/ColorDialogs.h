@@ -2,8 +2,7 @@
 // new side by side. The list of custom colours ("ColorA=00BBGGRR" ...) keeps what was added even when no
 // colour is chosen.
 #pragma once
-#include <QDialog>
-
+#include "dclstd/ModalDialog.h"
 #include "vcl/Colors.h"
 
 class QLineEdit;
@@ -12,7 +11,7 @@ class QSpinBox;
 
 bool ChooseColorEnh(QWidget* parent, TColor& color, QStringList& customColors);
 
-class ColorEnhDialog : public QDialog {
+class ColorEnhDialog : public ModalDialog {
   Q_OBJECT
  public:
   ColorEnhDialog(TColor color, const QStringList& customColors, QWidget* parent);

@@ -2,7 +2,6 @@
 
 #include <QMouseEvent>
 #include <QPainter>
-#include <QScrollArea>
 
 PictureView::PictureView(QWidget* parent) : QWidget(parent) { setMouseTracking(true); }
 
@@ -37,14 +36,3 @@ void PictureView::mousePressEvent(QMouseEvent* event) {
   emit MouseDown(event->button(), PixelAt(event->pos()));
 }
 void PictureView::mouseMoveEvent(QMouseEvent* event) { emit MouseMove(PixelAt(event->pos())); }
-
-QScrollArea* ScrollBoxOf(PictureView* view, QWidget* parent) {
-  auto* box = new QScrollArea(parent);
-  box->setFrameShape(QFrame::NoFrame);
-  box->setWidgetResizable(true);
-  box->setWidget(view);
-  // Scrolled contents have a ground of their own otherwise.
-  view->setAutoFillBackground(false);
-  box->viewport()->setAutoFillBackground(false);
-  return box;
-}

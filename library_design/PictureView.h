@@ -2,8 +2,6 @@
 #pragma once
 #include <QWidget>
 
-class QScrollArea;
-
 #include "vcl/Bitmap.h"
 
 class PictureView : public QWidget {
@@ -35,6 +33,3 @@ class PictureView : public QWidget {
   TBitmap picture_;
   QImage shown_;
 };
-
-// A picture view in a box that scrolls when the picture is larger.
-QScrollArea* ScrollBoxOf(PictureView* view, QWidget* parent);

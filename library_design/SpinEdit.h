@@ -1,13 +1,5 @@
-// A number with up and down buttons.
+// The library's spin edit is the framework's.
 #pragma once
-#include <QSpinBox>
+#include "dclstd/SpinEdit.h"
 
-class TVRXSpinEdit : public QSpinBox {
-  Q_OBJECT
- public:
-  // At most `maxLength` characters; the whole text is selected when the focus comes.
-  TVRXSpinEdit(int maximum, int maxLength, QWidget* parent = nullptr);
-
- protected:
-  void focusInEvent(QFocusEvent* event) override;
-};
+using TVRXSpinEdit = SpinEdit;

@@ -111,6 +111,11 @@ void TRegistry::DeleteKey(const QString& key) {
 QStringList TRegistry::ValueNames() const { return settings_->childKeys(); }
 QStringList TRegistry::KeyNames() const { return settings_->childGroups(); }
 
+bool TRegistry::Flush() {
+  settings_->sync();
+  return settings_->status() == QSettings::NoError;
+}
+
 namespace {
 QString SectionKey(const QString& key, const QString& section) { return key + u'\\' + section; }
 }  // namespace
@@ -132,6 +137,7 @@ void TRegIniFile::WriteString(const QString& section, const QString& name, const
   TRegistry registry;
   registry.OpenKey(SectionKey(key_, section), true);
   registry.WriteString(name, value);
+  if (!registry.Flush()) failed_ = true;
 }
 void TRegIniFile::WriteInteger(const QString& section, const QString& name, int value) {
   WriteString(section, name, QString::number(value));
@@ -139,8 +145,19 @@ void TRegIniFile::WriteInteger(const QString& section, const QString& name, int 
 void TRegIniFile::WriteBool(const QString& section, const QString& name, bool value) {
   WriteInteger(section, name, value ? 1 : 0);
 }
-void TRegIniFile::EraseSection(const QString& section) { TRegistry().DeleteKey(SectionKey(key_, section)); }
+void TRegIniFile::EraseSection(const QString& section) {
+  TRegistry registry;
+  registry.DeleteKey(SectionKey(key_, section));
+  if (!registry.Flush()) failed_ = true;
+}
 QStringList TRegIniFile::ReadSection(const QString& section) const {
   TRegistry registry;
   return registry.OpenKey(SectionKey(key_, section), false) ? registry.ValueNames() : QStringList();
+}
+void TRegIniFile::UpdateFile() {
+  if (std::exchange(failed_, false))
+    throw ERegistryException(
+        QStringLiteral("The settings cannot be written to %1. Please check that the file "
+                       "and its folder may be written.")
+            .arg(TRegistry::StorageFile()));
 }

@@ -5,7 +5,15 @@
 #include <QVariant>
 #include <memory>
 
+#include "rtl/Exceptions.h"
+
 class QSettings;
+
+// Settings could not be written.
+class ERegistryException : public Exception {
+ public:
+  using Exception::Exception;
+};
 
 class TRegistry {
  public:
@@ -27,6 +35,8 @@ class TRegistry {
   void DeleteKey(const QString& key);
   QStringList ValueNames() const;
   QStringList KeyNames() const;
+  // Writes out what was set; false when that fails.
+  bool Flush();
 
   // Where all settings are kept. Empty restores the user's own place; tests use a file of their own.
   static void SetStorageFile(const QString& file);
@@ -53,7 +63,10 @@ class TRegIniFile {
   void WriteBool(const QString& section, const QString& name, bool value);
   void EraseSection(const QString& section);
   QStringList ReadSection(const QString& section) const;
+  // Ends a series of writes. Throws ERegistryException, naming the file, when one of them failed.
+  void UpdateFile();
 
  private:
   QString key_;
+  bool failed_ = false;
 };

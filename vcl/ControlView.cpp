@@ -2,7 +2,8 @@
 
 #include <QMouseEvent>
 #include <QPainter>
-#include <cmath>
+#include <QStyle>
+#include <utility>
 
 #include "vcl/FormColors.h"
 
@@ -19,14 +20,17 @@ void ControlView::SetControl(TControl* control) {
   update();
 }
 
-void ControlView::ControlChanged(TControl&) { update(); }
+void ControlView::ControlChanged(TControl&) {
+  if (const QSize now = sizeHint(); now != std::exchange(shown_, now)) updateGeometry();
+  update();
+}
 
 QSize ControlView::sizeHint() const {
   return control_ && !fill_ ? control_->BoundsRect().size() : QSize(80, 40);
 }
 
-void ControlView::SetShrinkToFit(bool shrink) {
-  shrink_ = shrink;
+void ControlView::SetPlace(Qt::Alignment place) {
+  place_ = place;
   update();
 }
 
@@ -41,17 +45,13 @@ void ControlView::Fill() {
 
 void ControlView::resizeEvent(QResizeEvent*) { Fill(); }
 
-double ControlView::Scale() const {
-  if (!shrink_ || !control_ || control_->Width() == 0 || control_->Height() == 0) return 1;
-  return std::min({1.0, static_cast<double>(width()) / control_->Width(),
-                   static_cast<double>(height()) / control_->Height()});
-}
+// While nothing is shown, nobody hears of a new size.
+void ControlView::showEvent(QShowEvent*) { updateGeometry(); }
 
-// Centred while there is room, else from the left so that the start of a text is never cut.
-QPointF ControlView::Origin() const {
-  const QSizeF size = QSizeF(control_->BoundsRect().size()) * Scale();
-  return {std::max(0.0, std::floor((width() - size.width()) / 2)),
-          std::max(0.0, std::floor((height() - size.height()) / 2))};
+// From the left and the top when there is no room, so that the start of a text is never cut.
+QPoint ControlView::Origin() const {
+  const QSize size = control_->BoundsRect().size();
+  return QStyle::alignedRect(layoutDirection(), place_, size, rect().united({QPoint(0, 0), size})).topLeft();
 }
 
 void ControlView::paintEvent(QPaintEvent*) {
@@ -59,13 +59,10 @@ void ControlView::paintEvent(QPaintEvent*) {
   painter.fillRect(rect(), FormPalette().color(QPalette::Window));
   if (!control_) return;
   painter.translate(Origin());
-  painter.scale(Scale(), Scale());
   painter.setClipRect(QRect(QPoint(0, 0), control_->BoundsRect().size()));
   PaintControl(*control_, painter);
 }
 
 void ControlView::mouseReleaseEvent(QMouseEvent* event) {
-  if (control_ &&
-      QRectF(Origin(), QSizeF(control_->BoundsRect().size()) * Scale()).contains(event->position()))
-    emit Clicked();
+  if (control_ && QRect(Origin(), control_->BoundsRect().size()).contains(event->pos())) emit Clicked();
 }

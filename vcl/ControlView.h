@@ -12,14 +12,15 @@ class ControlView : public QWidget, public IControlHost {
   ~ControlView() override;
   void SetControl(TControl* control);
   TControl* Control() const { return control_; }
-  // A control larger than the view is drawn smaller instead of being cut; off at first.
-  void SetShrinkToFit(bool shrink);
+  // Where the control stands while the view is larger; in the middle at first.
+  void SetPlace(Qt::Alignment place);
   // The control always has the size of the view; off at first.
   void SetFillView(bool fill);
-  double Scale() const;
 
   void ControlChanged(TControl& control) override;
   QSize sizeHint() const override;
+  // Never less than the whole control, so that it is scrolled to instead of being cut.
+  QSize minimumSizeHint() const override { return sizeHint(); }
 
  signals:
   void Clicked();
@@ -28,10 +29,13 @@ class ControlView : public QWidget, public IControlHost {
   void paintEvent(QPaintEvent* event) override;
   void mouseReleaseEvent(QMouseEvent* event) override;
   void resizeEvent(QResizeEvent* event) override;
+  void showEvent(QShowEvent* event) override;
 
  private:
-  QPointF Origin() const;
+  QPoint Origin() const;
   void Fill();
   TControl* control_ = nullptr;
-  bool shrink_ = false, fill_ = false;
+  QSize shown_;
+  Qt::Alignment place_ = Qt::AlignCenter;
+  bool fill_ = false;
 };

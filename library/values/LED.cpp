@@ -27,12 +27,11 @@ void TVRXLED::SetColor(int index, TColor color) {
 }
 
 void TVRXLED::SetSize(int index, std::uint8_t value) {
-  value = std::max<std::uint8_t>(value, 1);
   switch (index) {
     case 1:
       return Change(horzSize_, value);
     case 2:
-      return Change(thickness_, std::min<std::uint8_t>(value, MaxThickness));
+      return Change(thickness_, std::clamp<std::uint8_t>(value, 1, MaxThickness));
     case 3:
       return Change(vertSize_, value);
     default:

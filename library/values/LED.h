@@ -9,7 +9,7 @@ class TVRXLED : public TOwnedPersistent {
   explicit TVRXLED(TPersistent* owner = nullptr) : TOwnedPersistent(owner) {}
 
   // Indexed setters, as editors use them. Colours: 0 active, 1 inactive. Sizes: 1 horizontal, 2 thickness,
-  // 3 vertical. Values that make no letter are put right: a size is at least 1, a thickness 1 to 32.
+  // 3 vertical. Size 0 is drawn as the smallest letters. A thickness is put right to 1 to 32.
   void SetColor(int index, TColor color);
   void SetSize(int index, std::uint8_t value);
 

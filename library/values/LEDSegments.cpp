@@ -108,17 +108,21 @@ constexpr Row Rows[] = {
     {u';', PT, 1 | 2 | 4},
 };
 
+// Size 0 is drawn as the smallest letters there are.
+int Horz(const TVRXLED& led) { return std::max<int>(1, led.HorzSize()); }
+int Vert(const TVRXLED& led) { return std::max<int>(1, led.VertSize()); }
+
 struct Box {
   qreal t, gap, left, mid, right, top, middle, bottom;
   explicit Box(const TVRXLED& led)
       : t(led.Thickness()),
         gap(std::max<qreal>(0.35, t * 0.12)),
         left(t / 2),
-        mid(t + led.HorzSize() / 2.0),
-        right(t * 1.5 + led.HorzSize()),
+        mid(t + Horz(led) / 2.0),
+        right(t * 1.5 + Horz(led)),
         top(t / 2),
-        middle(t * 1.5 + led.VertSize()),
-        bottom(t * 2.5 + led.VertSize() * 2) {}
+        middle(t * 1.5 + Vert(led)),
+        bottom(t * 2.5 + Vert(led) * 2) {}
 
   QPolygonF Horizontal(qreal x0, qreal x1, qreal y) const {
     x0 += gap;
@@ -168,7 +172,7 @@ TLEDGlyph LEDGlyphOf(QChar c) {
 
 QSize LEDCellSize(TLEDCell cell, const TVRXLED& led) {
   const int t = led.Thickness();
-  return {cell == TLEDCell::Point ? t : led.HorzSize() + 2 * t, 2 * led.VertSize() + 3 * t};
+  return {cell == TLEDCell::Point ? t : Horz(led) + 2 * t, 2 * Vert(led) + 3 * t};
 }
 
 std::vector<QPolygonF> LEDSegmentShapes(TLEDCell cell, const TVRXLED& led) {
@@ -177,11 +181,11 @@ std::vector<QPolygonF> LEDSegmentShapes(TLEDCell cell, const TVRXLED& led) {
     const auto square = [&](qreal y) {
       return QPolygonF({{0, y - b.t / 2}, {b.t, y - b.t / 2}, {b.t, y + b.t / 2}, {0, y + b.t / 2}});
     };
-    const bool alone = led.VertSize() < 2 * led.Thickness();
-    const qreal upper = alone ? b.top + led.VertSize() / 2.0 : b.middle - led.VertSize() / 2.0;
+    const bool alone = Vert(led) < 2 * led.Thickness();
+    const qreal upper = alone ? b.top + Vert(led) / 2.0 : b.middle - Vert(led) / 2.0;
     return {square(b.bottom), square(upper),
             QPolygonF({{0, b.bottom + b.t / 2}, {b.t, b.bottom + b.t / 2}, {0, b.bottom + b.t}}),
-            square(alone ? b.bottom - led.VertSize() / 2.0 : b.middle + led.VertSize() / 2.0)};
+            square(alone ? b.bottom - Vert(led) / 2.0 : b.middle + Vert(led) / 2.0)};
   }
   std::vector<QPolygonF> shapes{
       b.Horizontal(b.left, b.right, b.top),    b.Vertical(b.right, b.top, b.middle),

@@ -127,13 +127,17 @@ void TVRX3DEffectEditorDlg::FormCreate() {
 
 void TVRX3DEffectEditorDlg::FormActivate() {
   EditorDialog::FormActivate();
-  TVRXColorComboBox* const combos[] = {cmbB, cmbD, cmbL, cmbS};
-  for (std::size_t i = 0; i < 4; ++i) combos[i]->SetSelected(colors[i]);
   constexpr std::uint8_t MaxBevel = 5;
   bevelWidth = std::min(bevelWidth, MaxBevel);
   spind->setMaximum(MaxBevel);
-  spind->setValue(bevelWidth);
+  SetLabels();
   if (bitmaps[Original] && !bitmaps[Original]->Empty()) ShowState(Original);
+}
+
+void TVRX3DEffectEditorDlg::LoadControls() {
+  TVRXColorComboBox* const combos[] = {cmbB, cmbD, cmbL, cmbS};
+  for (std::size_t i = 0; i < 4; ++i) combos[i]->SetSelected(colors[i]);
+  spind->Show(bevelWidth);
 }
 
 void TVRX3DEffectEditorDlg::FormClose() { VRXSaveCustomColors(cmbB->CustomColors()); }

@@ -3,10 +3,10 @@
 // Whoever shows the dialog hands it colours, bevel width and bitmaps before and reads them after ShowModal
 // returned 1. The bitmaps stay the caller's and must outlive the dialog.
 #pragma once
+#include "dclstd/EditorDialog.h"
 #include "library/pixels/Button3D.h"
 #include "library/values/Caption.h"
 #include "library_design/ColorCombo.h"
-#include "library_design/EditorDialog.h"
 #include "library_design/PictureView.h"
 #include "library_design/ProgressBar.h"
 #include "library_design/SpinEdit.h"
@@ -54,6 +54,7 @@ class TVRX3DEffectEditorDlg : public EditorDialog {
 
  protected:
   void done(int result) override;
+  void LoadControls() override;
 
  private:
   void Build();

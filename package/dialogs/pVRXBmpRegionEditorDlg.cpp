@@ -2,6 +2,7 @@
 
 #include <QtWidgets>
 
+#include "dclstd/EditorDialog.h"
 #include "designintf/IdeTheme.h"
 #include "library_design/Named.h"
 #include "library_design/PictureDialog.h"
@@ -46,6 +47,7 @@ TVRXfrmRegionFromBMPdlg::TVRXfrmRegionFromBMPdlg(QWidget* owner)
   OKButton = Named(new QPushButton(QStringLiteral("Ok"), this), "OKButton", "");
   CancelButton = Named(new QPushButton(QStringLiteral("Cancel"), this), "CancelButton", "");
   for (QPushButton* button : {OKButton, CancelButton, LoadButton, BuildButton}) button->setAutoDefault(false);
+  OKButton->setDefault(true);
   auto* buttons = new QHBoxLayout;
   buttons->setSpacing(8);
   buttons->addStretch(1);
@@ -194,7 +196,7 @@ void TVRXfrmRegionFromBMPdlg::SetButtonFace() {
   styleLabel_->setBuddy(cb2);
 }
 
-void TVRXfrmRegionFromBMPdlg::SetLabels() {
+void TVRXfrmRegionFromBMPdlg::LoadControls() {
   ccb->setChecked(mask->Compress());
   colb->setCurrentIndex(static_cast<int>(mask->ColorDepth()));
   ShowResult();

@@ -3,9 +3,9 @@
 #pragma once
 #include <array>
 
+#include "dclstd/ModalDialog.h"
 #include "library/pixels/RegionFromBitmap.h"
 #include "library/values/RegionMask.h"
-#include "library_design/ModalDialog.h"
 #include "library_design/PictureView.h"
 #include "library_design/ProgressBar.h"
 
@@ -55,8 +55,6 @@ class TVRXfrmRegionFromBMPdlg : public ModalDialog {
   bool buttonFace = false;
   // For a button's mask: its looks are offered instead of border styles.
   void SetButtonFace();
-  // Shows what the mask holds.
-  void SetLabels();
 
   void FormCreate();
   void LoadButtonClick();
@@ -89,6 +87,7 @@ class TVRXfrmRegionFromBMPdlg : public ModalDialog {
 
  protected:
   bool eventFilter(QObject* watched, QEvent* event) override;
+  void LoadControls() override;
 
  private:
   QWidget* BuildImagePage();

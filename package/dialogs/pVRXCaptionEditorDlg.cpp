@@ -3,6 +3,7 @@
 #include <QtWidgets>
 
 #include "designintf/IdeTheme.h"
+#include "library_design/FlatCheckBox.h"
 #include "library_design/FontDialogs.h"
 #include "library_design/Named.h"
 #include "library_design/pVRXCommon.h"
@@ -20,8 +21,10 @@ TVRXCaptionEditorDlg::~TVRXCaptionEditorDlg() { testView->SetControl(nullptr); }
 
 void TVRXCaptionEditorDlg::Build() {
   cap = Named(new QLineEdit(this), "cap", "");
+  cap->setMaxLength(INT_MAX);
   cmb = Named(new QComboBox(this), "cmb", "Aligns your text in the object it is embedded in.");
-  chk = Named(new QCheckBox(QStringLiteral("MultiLine"), this), "chk", "Specifies whether WordWrap is used.");
+  chk = Named(new FlatCheckBox(QStringLiteral("MultiLine"), this), "chk",
+              "Specifies whether WordWrap is used.");
   btnf = Named(new QPushButton(QStringLiteral("Font >>"), this), "btnf", "");
   btnffx = Named(new QPushButton(this), "btnffx", "Changes rotation, 3D-effect etc.");
   btnffx->setIcon(FontFxIcon());
@@ -66,14 +69,10 @@ void TVRXCaptionEditorDlg::FormCreate() {
   ApplyIDETheme(*this, [this](const QWidget& control) { return &control != testView; });
 }
 
-void TVRXCaptionEditorDlg::SetLabels() {
+void TVRXCaptionEditorDlg::LoadControls() {
   const TVRXCaption& caption = *test->Caption();
-  {
-    // The edit shows one line; only what is typed there may replace a text of several.
-    const QSignalBlocker quiet(cap);
-    // Setting the text that is there already would move the cursor.
-    if (cap->text() != caption.Caption()) cap->setText(caption.Caption());
-  }
+  // Setting the text that is there already would move the cursor.
+  if (cap->text() != caption.Caption()) cap->setText(caption.Caption());
   chk->setChecked(caption.MultiLine());
   cmb->setCurrentIndex(static_cast<int>(caption.Alignment()));
 }

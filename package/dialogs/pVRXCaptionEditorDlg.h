@@ -1,7 +1,7 @@
 // Edits a caption on a live preview: text, place, font and effects.
 #pragma once
+#include "dclstd/EditorDialog.h"
 #include "library/controls/ShapeControl.h"
-#include "library_design/EditorDialog.h"
 #include "vcl/ControlView.h"
 
 class QCheckBox;
@@ -14,8 +14,6 @@ class TVRXCaptionEditorDlg : public EditorDialog {
   explicit TVRXCaptionEditorDlg(QWidget* owner);
   ~TVRXCaptionEditorDlg() override;
 
-  // Loads the controls from the preview's caption.
-  virtual void SetLabels();
   void FormCreate();
   void cmbChange();
   void capChange();
@@ -33,6 +31,9 @@ class TVRXCaptionEditorDlg : public EditorDialog {
   QPushButton* reset;
   std::unique_ptr<TVRXShapeControl> test;  // the preview; its caption is what is edited
   ControlView* testView;
+
+ protected:
+  void LoadControls() override;
 
  private:
   void Build();

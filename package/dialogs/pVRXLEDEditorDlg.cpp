@@ -24,8 +24,8 @@ void TVRXLEDEditorDlg::Build() {
   cmbL = Named(new TVRXColorComboBox, "cmbL", "Defines the color for inactive LED-letters.");
   bt1 = NewColorButton("bt1", this);
   bt2 = NewColorButton("bt2", this);
-  pred =
-      Named(new QComboBox(this), "pred", "Defines the color for both \r\nactive and inactive LED-letters.");
+  pred = Named(new OneShotComboBox(this), "pred",
+               "Defines the color for both \r\nactive and inactive LED-letters.");
   pred->setMaxVisibleItems(4);
   auto* note = new QLabel(
       QStringLiteral("Predefined Color-Settings for Active-/InActiveColor\r\ndon't appear in the Combobox."),
@@ -51,8 +51,7 @@ void TVRXLEDEditorDlg::Build() {
   test->LED()->SetSize(1, 9);
   test->LED()->SetSize(3, 7);
   testView = Named(new ControlView(test.get(), this), "test", "Shows the current settings.");
-  testView->SetShrinkToFit(true);
-  SetPreview(testView);
+  SetPreview(testView, Qt::AlignTop | Qt::AlignRight);
 
   ok = Named(AddButton(QStringLiteral("OK")), "ok", "");
   Button1 = Named(AddButton(QStringLiteral("Cancel")), "Button1", "");
@@ -82,19 +81,17 @@ void TVRXLEDEditorDlg::FormCreate() {
       pred->addItem(QString::fromLatin1(name));
     pred->setCurrentIndex(-1);
   }
-  QStringList colors;
-  VRXLoadCustomColors(colors);
-  cmbb->SetCustomColors(colors);
+  ShareCustomColors({cmbb, cmbL});
   activated = false;
   VRXSetThemeMode(*this, 1);
   ApplyIDETheme(*this, [this](const QWidget& control) { return NeedTheme(control); });
 }
 
-void TVRXLEDEditorDlg::SetLabels() {
+void TVRXLEDEditorDlg::LoadControls() {
   const TVRXLED& led = *test->LED();
-  edhs->setValue(led.HorzSize());
-  edvs->setValue(led.VertSize());
-  edt->setValue(led.Thickness());
+  edhs->Show(led.HorzSize());
+  edvs->Show(led.VertSize());
+  edt->Show(led.Thickness());
   cmbb->SetSelected(led.ActiveColor());
   cmbL->SetSelected(led.InActiveColor());
   chk->setChecked(led.DisabledDigits());
@@ -129,8 +126,9 @@ void TVRXLEDEditorDlg::btn(const QToolButton* sender) {
     cmbb->Execute();
     return;
   }
-  cmbL->ExecuteEnh(cmbb->CustomColorList());
-  cmbb->SetCustomColors(cmbb->CustomColors());  // its drop-down list shows what was added, too
+  QStringList colors = cmbb->CustomColors();
+  cmbL->ExecuteEnh(colors);
+  cmbb->SetCustomColors(colors);
 }
 
 void TVRXLEDEditorDlg::resetClick() {

@@ -1,9 +1,10 @@
 // Edits the look of segment letters on a live preview. The dialog never touches the edited component: whoever
 // shows it copies the value into the preview's LED and takes it from there when ShowModal returns 1.
 #pragma once
+#include "dclstd/EditorDialog.h"
+#include "dclstd/OneShotComboBox.h"
 #include "library/controls/LEDLabel.h"
 #include "library_design/ColorCombo.h"
-#include "library_design/EditorDialog.h"
 #include "library_design/SpinEdit.h"
 #include "vcl/ControlView.h"
 
@@ -16,8 +17,6 @@ class TVRXLEDEditorDlg : public EditorDialog {
   explicit TVRXLEDEditorDlg(QWidget* owner);
   ~TVRXLEDEditorDlg() override;
 
-  // Loads every control from the preview's LED.
-  virtual void SetLabels();
   // Everything takes the IDE's theme but the preview.
   bool NeedTheme(const QWidget& control) const;
 
@@ -37,13 +36,16 @@ class TVRXLEDEditorDlg : public EditorDialog {
   TVRXColorComboBox* cmbL;
   QToolButton* bt1;
   QToolButton* bt2;
-  QComboBox* pred;
+  OneShotComboBox* pred;
   QCheckBox* chk;
   QPushButton* ok;
   QPushButton* Button1;
   QPushButton* reset;
   std::unique_ptr<TVRXLEDLabel> test;  // the preview
   ControlView* testView;
+
+ protected:
+  void LoadControls() override;
 
  private:
   void Build();

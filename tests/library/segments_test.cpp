@@ -133,6 +133,14 @@ TEST(Shapes, StraightSegmentsAreThereAtEverySize) {
     }
 }
 
+TEST(Shapes, SizeNothingIsTheSmallestLetters) {
+  for (const int t : {1, 2, 32})
+    for (const auto cell : {TLEDCell::Seven, TLEDCell::Fourteen, TLEDCell::Point}) {
+      EXPECT_EQ(LEDSegmentShapes(cell, *Led(0, 0, t)), LEDSegmentShapes(cell, *Led(1, 1, t)));
+      EXPECT_EQ(LEDCellSize(cell, *Led(0, 0, t)), LEDCellSize(cell, *Led(1, 1, t)));
+    }
+}
+
 TEST(Shapes, SegmentsOfALetterDoNotOverlap) {
   for (const int t : {1, 2, 4}) {
     const auto led = Led(30, 30, t);

@@ -1,4 +1,6 @@
 // The caption dialog on its live preview, and its launcher.
+#include "dclstd/FontDialog.h"
+#include "library_design/FlatCheckBox.h"
 #include "library_design/FontDialogs.h"
 #include "package/dialogs/pVRXCaptionEditorDlg.h"
 #include "package/property_editors/pVRXCPGetMain.h"
@@ -91,6 +93,43 @@ TEST_F(CaptionDialog, TheCheckBoxIsHiddenWithoutTheFlagAndMultiLineStays) {
   }
 }
 
+TEST_F(CaptionDialog, TheCheckBoxIsFlat) {
+  Launch([](auto& dlg) {
+    ASSERT_NE(qobject_cast<FlatCheckBox*>(dlg.chk), nullptr);
+    dlg.cap->setFocus();
+    dlg.chk->setChecked(false);
+    const QImage off = dlg.chk->grab().toImage();
+    QStyleOptionButton option;
+    option.initFrom(dlg.chk);
+    const QRect box = dlg.chk->style()
+                          ->subElementRect(QStyle::SE_CheckBoxIndicator, &option, dlg.chk)
+                          .adjusted(1, 1, -1, -1);
+    ASSERT_GT(box.width(), 5);
+    for (int y = box.top(); y <= box.bottom(); ++y)
+      for (int x = box.left(); x <= box.right(); ++x)
+        ASSERT_EQ(off.pixelColor(x, y), dlg.palette().color(QPalette::Base)) << "one plain ground";
+    dlg.chk->setChecked(true);
+    EXPECT_NE(dlg.chk->grab().toImage(), off);
+  });
+}
+
+TEST_F(CaptionDialog, TheFontButtonOpensTheOneDialogOnTheStoredFont) {
+  caption.Font()->SetName(QStringLiteral("No Such Family"));
+  caption.Font()->SetHeight(-18);
+  EXPECT_TRUE(Launch([](auto& dlg) {
+    modal::NextOf<FontDialog>([](auto& fonts) {
+      EXPECT_EQ(fonts.cmbname->currentText(), QStringLiteral("No Such Family"));
+      QTest::keyClick(fonts.ok, Qt::Key_Return);
+    });
+    dlg.btnf->setFocus();
+    QTest::keyClick(dlg.btnf, Qt::Key_Return);
+    EXPECT_TRUE(dlg.isVisible()) << "Return was the button's";
+    Click(dlg.ok);
+  }));
+  EXPECT_EQ(caption.Font()->Name(), QStringLiteral("No Such Family"));
+  EXPECT_EQ(caption.Font()->Height(), -18);
+}
+
 TEST_F(CaptionDialog, TheCheckBoxIsVisibleWithTheFlag) {
   Launch([](auto& dlg) { EXPECT_TRUE(dlg.chk->isVisible()); });
 }
@@ -116,13 +155,13 @@ TEST_F(CaptionDialog, EveryPlaceInTheListIsThePlaceOfThePreview) {
 TEST_F(CaptionDialog, TheFontDialogChangesThePreviewOnOkOnly) {
   EXPECT_TRUE(Launch([](auto& dlg) {
     const auto bold = [&] { return dlg.test->Caption()->Font()->Style().Contains(TFontStyle::fsBold); };
-    modal::NextOf<TVRXFontEditorDlg>([](auto& fonts) {
+    modal::NextOf<FontDialog>([](auto& fonts) {
       fonts.styles[0]->click();
       fonts.reject();
     });
     Click(dlg.btnf);
     EXPECT_FALSE(bold());
-    modal::NextOf<TVRXFontEditorDlg>([](auto& fonts) {
+    modal::NextOf<FontDialog>([](auto& fonts) {
       fonts.styles[0]->click();
       fonts.accept();
     });

@@ -2,6 +2,7 @@
 #include "library_design/ColorDialogs.h"
 #include "rtl/Exceptions.h"
 #include "tests/package/LedTest.h"
+#include "tests/support/Prompted.h"
 
 using namespace ledtest;
 
@@ -134,15 +135,88 @@ TEST_F(LedDialog, BothButtonsWorkOnOneListOfCustomColours) {
   EXPECT_EQ(LoadIDECustomColors(), CustomColorEntries({RGBColor(1, 1, 1), RGBColor(2, 2, 2)}));
 }
 
-TEST_F(LedDialog, AnExceptionOfAHandlerClosesTheDialogAndComesOut) {
+TEST_F(LedDialog, AnExceptionOfAHandlerIsToldAndTheDialogStaysWithAllThatWasSet) {
+  ScriptedPrompts prompts;
   TVRXLEDEditorDlg dlg(nullptr);
   dlg.SetLabels();
   ThrowingHost host;
   modal::NextOf<TVRXLEDEditorDlg>([&](TVRXLEDEditorDlg& shown) {
     shown.test->SetHost(&host);
     shown.edhs->setValue(50);
+    EXPECT_EQ(prompts.warned, QStringList{QStringLiteral("The view is broken.")});
+    EXPECT_TRUE(shown.isVisible());
+    EXPECT_EQ(shown.edhs->value(), 50);
+    shown.test->SetHost(nullptr);
+    QTest::mouseClick(shown.ok, Qt::LeftButton);
   });
-  EXPECT_THROW(dlg.ShowModal(), Exception);
-  EXPECT_FALSE(dlg.isVisible());
-  dlg.test->SetHost(nullptr);
+  EXPECT_EQ(dlg.ShowModal(), 1);
+  EXPECT_EQ(dlg.test->LED()->HorzSize(), 50);
+}
+
+TEST_F(LedDialog, ReturnOnCancelCancelsAndOnResetResets) {
+  EXPECT_EQ(ResultOf([](auto& dlg) {
+              Apply(Other, *dlg.test->LED());
+              dlg.reset->setFocus();
+              QTest::keyClick(dlg.reset, Qt::Key_Return);
+              EXPECT_TRUE(dlg.isVisible());
+              EXPECT_EQ(LookOf(*dlg.test->LED()), LookOf(TVRXLED()));
+              dlg.Button1->setFocus();
+              QTest::keyClick(dlg.Button1, Qt::Key_Return);
+            }),
+            2);
+}
+
+TEST_F(LedDialog, ReturnOnAColourButtonOpensItsDialog) {
+  ResultOf([](auto& dlg) {
+    modal::NextOf<QColorDialog>([](QColorDialog& colors) { colors.reject(); });
+    QTest::keyClick(dlg.bt1, Qt::Key_Return);
+    modal::NextOf<ColorEnhDialog>([](ColorEnhDialog& colors) { colors.reject(); });
+    QTest::keyClick(dlg.bt2, Qt::Key_Return);
+    EXPECT_TRUE(dlg.isVisible());
+    dlg.reject();
+  });
+}
+
+TEST_F(LedDialog, AColourAddedThroughTheFirstButtonLeavesTheSavedOnes) {
+  SaveIDECustomColors(CustomColorEntries({clNavy, clTeal}));
+  ResultOf([](auto& dlg) {
+    modal::Next([](QDialog& colors) {
+      AddInColorDialog(colors, RGBColor(1, 1, 1));
+      colors.reject();
+    });
+    QTest::mouseClick(dlg.bt1, Qt::LeftButton);
+    dlg.reject();
+  });
+  EXPECT_EQ(LoadIDECustomColors(), CustomColorEntries({clNavy, clTeal, RGBColor(1, 1, 1)}));
+}
+
+TEST_F(LedDialog, TheSecondListAddsToTheOneListOfCustomColours) {
+  ResultOf([](auto& dlg) {
+    EXPECT_EQ(dlg.cmbL->Styles(), dlg.cmbb->Styles());
+    modal::NextOf<QColorDialog>([](QColorDialog& colors) {
+      AddInColorDialog(colors, RGBColor(7, 7, 7));
+      colors.reject();
+    });
+    ChooseRow(*dlg.cmbL, dlg.cmbL->findText(QStringLiteral("Custom...")));
+    modal::Next([](QDialog& colors) {
+      AddInEnhDialog(colors, RGBColor(8, 8, 8));
+      colors.reject();
+    });
+    QTest::mouseClick(dlg.bt2, Qt::LeftButton);
+    for (const TVRXColorComboBox* combo : {dlg.cmbb, dlg.cmbL}) {
+      EXPECT_GE(combo->findText(QStringLiteral("$00070707")), 0);
+      EXPECT_GE(combo->findText(QStringLiteral("$00080808")), 0);
+    }
+    dlg.reject();
+  });
+  EXPECT_EQ(LoadIDECustomColors(), CustomColorEntries({RGBColor(7, 7, 7), RGBColor(8, 8, 8)}));
+}
+
+TEST_F(LedDialog, PredefinedColoursDoNotPileUpInTheLists) {
+  ResultOf([](auto& dlg) {
+    const int before = dlg.cmbb->count();
+    for (int i = 0; i < 7; ++i) ChooseRow(*dlg.pred, i);
+    EXPECT_LE(dlg.cmbb->count(), before + 1);
+    dlg.reject();
+  });
 }

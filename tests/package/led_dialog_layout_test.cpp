@@ -77,6 +77,15 @@ TEST_F(LedDialog, OkIsTheDefaultButtonAndTheOthersAreNot) {
   }
 }
 
+TEST_F(LedDialog, TheColourButtonsHaveAMarkAndNoText) {
+  const TVRXLEDEditorDlg dlg(nullptr);
+  for (const QToolButton* button : {dlg.bt1, dlg.bt2}) {
+    EXPECT_EQ(button->text(), QString());
+    EXPECT_FALSE(button->icon().isNull());
+    EXPECT_FALSE(button->accessibleName().isEmpty());
+  }
+}
+
 TEST_F(LedDialog, PredefinedColoursAreListedInOrderAndNoneIsSelected) {
   const TVRXLEDEditorDlg dlg(nullptr);
   QStringList items;
@@ -124,7 +133,7 @@ TEST_F(LedDialog, TheClientAreaHasItsFixedSize) {
   EXPECT_EQ(dlg.minimumSize(), dlg.maximumSize());
   EXPECT_EQ(dlg.bt1->size(), QSize(23, 23));
   EXPECT_EQ(dlg.bt2->size(), QSize(23, 23));
-  EXPECT_EQ(dlg.testView->parentWidget()->parentWidget()->width(), 198);
+  EXPECT_EQ(dlg.findChild<QWidget*>(QStringLiteral("previewPanel"))->parentWidget()->width(), 198);
 }
 
 TEST_F(LedDialog, TheBorderHasOnlyTheSystemMenu) {

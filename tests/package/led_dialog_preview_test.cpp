@@ -1,4 +1,5 @@
 // The LED dialog at work: every control changes the preview at once, and shows what the preview accepted.
+#include "designintf/IdeTheme.h"
 #include "library/values/LightColor.h"
 #include "tests/package/LedTest.h"
 
@@ -8,11 +9,13 @@ namespace {
 class CountingDlg : public TVRXLEDEditorDlg {
  public:
   using TVRXLEDEditorDlg::TVRXLEDEditorDlg;
-  void SetLabels() override {
-    ++loads;
-    TVRXLEDEditorDlg::SetLabels();
-  }
   int loads = 0;
+
+ protected:
+  void LoadControls() override {
+    ++loads;
+    TVRXLEDEditorDlg::LoadControls();
+  }
 };
 
 Look Shown(const TVRXLEDEditorDlg& dlg) {
@@ -74,13 +77,28 @@ TEST_F(LedDialog, AThicknessTheLedRefusesIsShownAsTheOneItKept) {
   EXPECT_EQ(dlg.edt->value(), TVRXLED::MaxThickness);
 }
 
-TEST_F(LedDialog, ASizeOfNothingIsShownAsTheSmallestOne) {
+TEST_F(LedDialog, EightCanBeTypedWithALeadingNothing) {
   TVRXLEDEditorDlg dlg(nullptr);
   dlg.SetLabels();
   ShowActive(dlg);
-  dlg.edhs->setValue(0);
-  EXPECT_EQ(dlg.test->LED()->HorzSize(), 1);
-  EXPECT_EQ(dlg.edhs->value(), 1);
+  for (TVRXSpinEdit* edit : {dlg.edhs, dlg.edvs, dlg.edt}) {
+    Type(*edit, QStringLiteral("08"));
+    EXPECT_EQ(edit->value(), 8);
+    EXPECT_EQ(edit->text(), QStringLiteral("8"));
+  }
+  const Look now = LookOf(*dlg.test->LED());
+  EXPECT_EQ(now.horz, 8);
+  EXPECT_EQ(now.vert, 8);
+  EXPECT_EQ(now.thickness, 8);
+}
+
+TEST_F(LedDialog, ASizeOfNothingIsKept) {
+  TVRXLEDEditorDlg dlg(nullptr);
+  dlg.SetLabels();
+  ShowActive(dlg);
+  Type(*dlg.edhs, QStringLiteral("0"));
+  EXPECT_EQ(dlg.test->LED()->HorzSize(), 0);
+  EXPECT_EQ(dlg.edhs->value(), 0);
 }
 
 TEST_F(LedDialog, ASizeOf255IsKept) {
@@ -215,12 +233,69 @@ TEST_F(LedDialog, ThePreviewIsPaintedInTheChosenColours) {
   EXPECT_TRUE(shows(clFuchsia));
 }
 
-TEST_F(LedDialog, ThePreviewGrowsWithItsLetters) {
+namespace {
+// What is to be seen of a colour in a widget.
+QRect Shown(QWidget& widget, TColor color) {
+  const QImage picture = widget.grab().toImage();
+  QRect box;
+  for (int y = 0; y < picture.height(); ++y)
+    for (int x = 0; x < picture.width(); ++x)
+      if (picture.pixelColor(x, y) == ToQColor(color)) box |= QRect(x, y, 1, 1);
+  return box;
+}
+}  // namespace
+
+TEST_F(LedDialog, ThePreviewStandsAtTheTopRightAndGrowsToTheLeft) {
+  TVRXLEDEditorDlg dlg(nullptr);
+  dlg.test->SetColor(clFuchsia);
+  dlg.test->SetCaption(QStringLiteral("12"));
+  dlg.SetLabels();
+  ShowActive(dlg);
+  const QRect before = Shown(*dlg.testView, clFuchsia);
+  EXPECT_EQ(before.top(), 0);
+  EXPECT_EQ(before.right(), dlg.testView->width() - 1);
+  EXPECT_EQ(before.size(), dlg.test->BoundsRect().size());
+  Type(*dlg.edhs, QStringLiteral("30"));
+  const QRect after = Shown(*dlg.testView, clFuchsia);
+  EXPECT_EQ(after.topRight(), before.topRight());
+  EXPECT_LT(after.left(), before.left());
+}
+
+TEST_F(LedDialog, ThePreviewHasItsRealSizeAndIsScrolledWhenItDoesNotFit) {
   TVRXLEDEditorDlg dlg(nullptr);
   dlg.SetLabels();
   ShowActive(dlg);
-  const int before = dlg.test->Height();
-  Type(*dlg.edvs, QStringLiteral("60"));
-  EXPECT_GT(dlg.test->Height(), before);
+  auto* box = qobject_cast<QScrollArea*>(dlg.testView->parentWidget()->parentWidget());
+  ASSERT_NE(box, nullptr);
+  EXPECT_FALSE(box->horizontalScrollBar()->isVisible());
+  for (const char* size : {"60", "255"}) {
+    Type(*dlg.edhs, QString::fromLatin1(size));
+    Type(*dlg.edvs, QString::fromLatin1(size));
+    QCoreApplication::processEvents();
+    EXPECT_GE(dlg.testView->width(), dlg.test->Width()) << size;
+    EXPECT_TRUE(box->horizontalScrollBar()->isVisible()) << size;
+    EXPECT_EQ(Shown(*dlg.testView, clBlack).size(), dlg.test->BoundsRect().size()) << size;
+  }
   EXPECT_EQ(dlg.size(), QSize(533, 318));
+}
+
+TEST_F(LedDialog, ThePreviewStaysOutOfTheThemeWithoutTheBoxItIsScrolledIn) {
+  TVRXLEDEditorDlg dlg(nullptr);
+  EXPECT_FALSE(IsIDEThemed(*dlg.testView));
+  EXPECT_TRUE(IsIDEThemed(*dlg.testView->parentWidget()));
+}
+
+TEST_F(LedDialog, TheClosedListOfPredefinedColoursAppliesNothing) {
+  TVRXLEDEditorDlg dlg(nullptr);
+  dlg.SetLabels();
+  ShowActive(dlg);
+  const Look before = LookOf(*dlg.test->LED());
+  dlg.pred->setFocus();
+  for (const auto key : {Qt::Key_Down, Qt::Key_Up, Qt::Key_End, Qt::Key_L}) QTest::keyClick(dlg.pred, key);
+  EXPECT_EQ(LookOf(*dlg.test->LED()), before);
+  QTest::keyClick(dlg.pred, Qt::Key_Down, Qt::AltModifier);
+  for (int i = 0; i < 2; ++i) QTest::keyClick(dlg.pred->view(), Qt::Key_Down);
+  EXPECT_EQ(LookOf(*dlg.test->LED()), before);
+  QTest::keyClick(dlg.pred->view(), Qt::Key_Return);
+  EXPECT_EQ(dlg.test->LED()->ActiveColor(), VRXGetLightColors(TVRXLightColor::lcRed).Active);
 }

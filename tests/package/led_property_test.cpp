@@ -6,6 +6,7 @@
 #include "rtl/ClassRegistry.h"
 #include "rtl/Exceptions.h"
 #include "tests/package/LedTest.h"
+#include "tests/support/Prompted.h"
 
 using namespace ledtest;
 
@@ -203,13 +204,20 @@ TEST_F(LedProperty, OkWithoutAChangeRecordsNothing) {
   EXPECT_EQ(session_->Bytes(), original_);
 }
 
-TEST_F(LedProperty, ADialogThatThrowsLeavesTheValueAndTellsWhy) {
+TEST_F(LedProperty, AHandlerThatThrowsLeavesTheValueUntilOk) {
+  ScriptedPrompts prompts;
   ThrowingHost host;
-  const QString message = Run({&Label("A")}, [&](auto& dlg) {
-    dlg.test->SetHost(&host);
-    dlg.edhs->setValue(50);
-  });
-  EXPECT_EQ(message, QStringLiteral("The view is broken."));
+  EXPECT_EQ(Run({&Label("A")},
+                [&](auto& dlg) {
+                  dlg.test->SetHost(&host);
+                  dlg.edhs->setValue(50);
+                  EXPECT_EQ(prompts.warned, QStringList{QStringLiteral("The view is broken.")});
+                  EXPECT_TRUE(dlg.isVisible());
+                  EXPECT_EQ(Label("A").LED()->HorzSize(), 12);
+                  dlg.test->SetHost(nullptr);
+                  dlg.reject();
+                }),
+            QString());
   EXPECT_EQ(Label("A").LED()->HorzSize(), 12);
   EXPECT_FALSE(session_->CanUndo());
   EXPECT_EQ(session_->Bytes(), original_);

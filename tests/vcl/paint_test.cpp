@@ -255,25 +255,26 @@ TEST(ControlView, LetsGoOfItsControl) {
   EXPECT_FALSE(empty.grab().isNull());
 }
 
-TEST(ControlView, ShrinksToFitOnlyWhenAskedAndNeverGrows) {
+TEST(ControlView, ShowsTheControlInItsSizeAtItsPlace) {
   TPanel panel(nullptr);
   panel.SetBounds(0, 0, 400, 100);
   panel.SetBevelOuter(TBevelCut::bvNone);
   panel.SetColor(clRed);
   ControlView view(&panel);
-  view.resize(100, 100);
   EXPECT_EQ(view.sizeHint(), QSize(400, 100));
-  EXPECT_DOUBLE_EQ(view.Scale(), 1);
-  EXPECT_EQ(view.grab().toImage().pixelColor(50, 5), QColor(Qt::red));
-  view.SetShrinkToFit(true);
-  EXPECT_DOUBLE_EQ(view.Scale(), 0.25);
-  const QImage small = view.grab().toImage();
-  EXPECT_NE(small.pixelColor(50, 5), QColor(Qt::red));
-  EXPECT_EQ(small.pixelColor(50, 50), QColor(Qt::red));
-  EXPECT_EQ(CountPixels(small, Qt::red), 100 * 25);
-  view.resize(800, 800);
-  EXPECT_DOUBLE_EQ(view.Scale(), 1);
-  EXPECT_EQ(CountPixels(view.grab().toImage(), Qt::red), 400 * 100);
+  EXPECT_EQ(view.minimumSizeHint(), QSize(400, 100));
+  const std::tuple<Qt::Alignment, QPoint> places[] = {{Qt::AlignCenter, {200, 350}},
+                                                      {Qt::AlignTop | Qt::AlignRight, {400, 0}},
+                                                      {Qt::AlignBottom | Qt::AlignLeft, {0, 700}}};
+  for (const auto& [place, corner] : places) {
+    view.SetPlace(place);
+    view.resize(800, 800);
+    const QImage picture = view.grab().toImage();
+    EXPECT_EQ(CountPixels(picture, Qt::red), 400 * 100);
+    EXPECT_EQ(picture.pixelColor(corner), QColor(Qt::red));
+    view.resize(100, 100);
+    EXPECT_EQ(CountPixels(view.grab().toImage(), Qt::red), 100 * 100) << "cut at the right and the bottom";
+  }
 }
 
 TEST(ControlView, TellsOfAClickOnTheControl) {

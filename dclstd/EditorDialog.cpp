@@ -1,6 +1,8 @@
-#include "library_design/EditorDialog.h"
+#include "dclstd/EditorDialog.h"
 
 #include <QtWidgets>
+
+#include "vcl/ControlView.h"
 
 EditorDialog::EditorDialog(const QString& caption, QSize clientSize, QWidget* parent, int previewWidth)
     : ModalDialog(caption, parent), clientSize_(clientSize) {
@@ -56,6 +58,11 @@ void EditorDialog::AddWide(QWidget* widget) {
 
 void EditorDialog::SetPreview(QWidget* preview) { previewBox_->addWidget(preview); }
 
+void EditorDialog::SetPreview(ControlView* preview, Qt::Alignment place) {
+  preview->SetPlace(place);
+  SetPreview(ScrollBoxOf(preview, this));
+}
+
 QPushButton* EditorDialog::AddButton(const QString& text) {
   auto* button = new QPushButton(text, this);
   button->setAutoDefault(false);
@@ -90,4 +97,15 @@ void EditorDialog::FinishLayout(bool fixed) {
   setMinimumSize(size);
   setSizeGripEnabled(true);
   resize(size);
+}
+
+QScrollArea* ScrollBoxOf(QWidget* widget, QWidget* parent) {
+  auto* box = new QScrollArea(parent);
+  box->setFrameShape(QFrame::NoFrame);
+  box->setWidgetResizable(true);
+  box->setWidget(widget);
+  // Scrolled contents have a ground of their own otherwise.
+  widget->setAutoFillBackground(false);
+  box->viewport()->setAutoFillBackground(false);
+  return box;
 }

@@ -1,14 +1,16 @@
-// The base of the library's editor dialogs: a fixed window with settings on the left and a preview and the
+// The base of editor dialogs: a fixed window with settings on the left and a preview and the
 // buttons on the right. The code that shows a dialog owns it.
 #pragma once
 #include <vector>
 
-#include "library_design/ModalDialog.h"
+#include "dclstd/ModalDialog.h"
 
 class QGridLayout;
 class QLabel;
 class QPushButton;
+class QScrollArea;
 class QVBoxLayout;
+class ControlView;
 
 constexpr int DefaultPreviewWidth = 198;
 
@@ -25,6 +27,8 @@ class EditorDialog : public ModalDialog {
   void AddWide(QWidget* widget);
   // The quiet surface the preview stands on.
   void SetPreview(QWidget* preview);
+  // A control in its real size, at its place on the surface; what does not fit is scrolled to.
+  void SetPreview(ControlView* preview, Qt::Alignment place);
   QPushButton* AddButton(const QString& text);
   // OK and Cancel close the dialog with their results.
   void AddOk(QPushButton* button);
@@ -43,3 +47,6 @@ class EditorDialog : public ModalDialog {
   QWidget* right_;
   QVBoxLayout* buttons_;
 };
+
+// A box that scrolls when the widget in it is larger; the ground is what is around it.
+QScrollArea* ScrollBoxOf(QWidget* widget, QWidget* parent);

@@ -1,8 +1,12 @@
-#include "library_design/ModalDialog.h"
+#include "dclstd/ModalDialog.h"
 
+#include <QScopedValueRollback>
 #include <QScreen>
 #include <QShowEvent>
-#include <utility>
+
+#include "dclstd/DialogInput.h"
+#include "rtl/Exceptions.h"
+#include "vcl/Prompts.h"
 
 ModalDialog::ModalDialog(const QString& caption, QWidget* parent)
     : QDialog(parent, Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowSystemMenuHint |
@@ -11,29 +15,29 @@ ModalDialog::ModalDialog(const QString& caption, QWidget* parent)
   setModal(true);
 }
 
-int ModalDialog::ShowModal() {
-  const int result = exec();
-  if (error_) std::rethrow_exception(std::exchange(error_, nullptr));
-  return result == QDialog::Accepted ? mrOk : mrCancel;
+int ModalDialog::ShowModal() { return exec() == QDialog::Accepted ? mrOk : mrCancel; }
+
+void ModalDialog::SetLabels() {
+  const QScopedValueRollback loading(loading_, true);
+  LoadControls();
 }
 
 void ModalDialog::FormActivate() { activated = true; }
+
+void ModalDialog::Tell(const std::exception& error) {
+  Prompts().Warn(this, windowTitle(), ExceptionMessage(error));
+}
 
 void ModalDialog::showEvent(QShowEvent* event) {
   QDialog::showEvent(event);
   if (event->spontaneous()) return;
   if (const QScreen* s = screen()) move(s->availableGeometry().center() - rect().center());
+  UseDialogInput(*this);
   FormActivate();
 }
 
+// What cannot be kept for the next time is told, but is no reason to lose what was confirmed.
 void ModalDialog::done(int result) {
-  if (isVisible()) {
-    try {
-      FormClose();
-    } catch (...) {
-      error_ = std::current_exception();
-      result = QDialog::Rejected;
-    }
-  }
+  if (isVisible()) Guarded([this] { FormClose(); });
   QDialog::done(result);
 }

@@ -1,0 +1,36 @@
+// A number with up and down buttons.
+#pragma once
+#include <QSpinBox>
+#include <optional>
+
+class SpinEdit : public QSpinBox {
+  Q_OBJECT
+ public:
+  // From 0 to the maximum, in at most `maxLength` characters; the whole text is selected when the focus
+  // comes.
+  SpinEdit(int maximum, int maxLength, QWidget* parent = nullptr);
+
+  // Shows a value that comes from elsewhere. One outside of the range is shown as it is, and stays until
+  // somebody changes it. A text that is being typed is left alone until that is done.
+  void Show(int value);
+  // What is shown.
+  int Shown() const { return outside_.value_or(value()); }
+
+  void stepBy(int steps) override;
+
+ protected:
+  QString textFromValue(int value) const override;
+  void keyPressEvent(QKeyEvent* event) override;
+  void focusInEvent(QFocusEvent* event) override;
+  void focusOutEvent(QFocusEvent* event) override;
+
+ private:
+  void Edited();
+  void EndTyping();
+  void FitLength();
+  int maxLength_;
+  bool typing_ = false;
+  std::optional<int> outside_;   // shown instead of the value
+  std::optional<int> replaced_;  // what the text that is being typed may take the place of
+  std::optional<int> pending_;   // to be shown when the typing is done
+};
