@@ -30,7 +30,7 @@ InspectorPane::InspectorPane(QWidget* parent) : QWidget(parent) {
   view_->setModel(&model_);
   delete view_->selectionModel();
   view_->setSelectionModel(new RowSelection(
-      &model_, [this] { return Commit(); }, view_));
+      &model_, [this] { return !hiding_ && Commit(); }, view_));
   view_->setItemDelegate(new RowDelegate(view_));
   view_->setHeaderHidden(true);
   view_->setRootIsDecorated(true);

@@ -62,6 +62,8 @@ PalettePane::PalettePane(QWidget* parent) : QWidget(parent) {
   scroll_->setWidget(buttons);
   scroll_->setWidgetResizable(true);
   scroll_->setFrameShape(QFrame::NoFrame);
+  buttons->setAutoFillBackground(false);
+  scroll_->viewport()->setAutoFillBackground(false);
   scroll_->setFocusPolicy(Qt::NoFocus);
   scroll_->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   scroll_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
