@@ -47,9 +47,14 @@ void FormSurface::SetZoom(double factor) {
   UpdateSize();
 }
 
-void FormSurface::SetTool(const TClass* cls) {
+void FormSurface::SetTool(const TClass* cls, bool keep) {
+  const bool same = tool_ == cls && keepTool_ == keep;
   tool_ = cls;
+  keepTool_ = keep;
+  if (!cls && action_ == Action::Place) action_ = Action::None;
   setCursor(cls ? Qt::CrossCursor : Qt::ArrowCursor);
+  update();
+  if (!same) emit ToolChanged();
 }
 
 QSize FormSurface::sizeHint() const {
@@ -285,7 +290,7 @@ void FormSurface::mouseReleaseEvent(QMouseEvent* event) {
       break;
     case Action::Place:
       action_ = Action::None;
-      PlaceTool(rect);
+      PlaceTool(rect, keepTool_ || event->modifiers() & Qt::ShiftModifier);
       break;
     default:
       action_ = Action::None;
@@ -306,10 +311,12 @@ void FormSurface::SelectBand(const QRect& band, bool add) {
   session_->Select(found);
 }
 
-void FormSurface::PlaceTool(const QRect& drawn) {
+void FormSurface::PlaceTool(const QRect& drawn, bool keep) {
   const TClass& cls = *tool_;
-  SetTool(nullptr);
-  emit ToolUsed();
+  if (!keep) {
+    SetTool(nullptr);
+    emit ToolUsed();
+  }
   TControl* at = DeepestAt(drawn.topLeft());
   while (at && !at->AcceptsControls()) at = at->Parent();
   auto* container = at ? As<TWinControl>(at) : &session_->Form();

@@ -19,9 +19,11 @@ class FormSurface : public QWidget {
   static constexpr int IconSize = ComponentTileSize;
   static constexpr int Desk = 24;  // room around the form
 
-  // The class that the next click places; null for the arrow.
-  void SetTool(const TClass* cls);
+  // The class that the next click places; null for the arrow. One that is kept, and one that is placed with
+  // Shift, is there for the click after that, too.
+  void SetTool(const TClass* cls, bool keep = false);
   const TClass* Tool() const { return tool_; }
+  bool KeepsTool() const { return keepTool_; }
 
   // Places in widget coordinates, for views and tests.
   QRect WidgetRect(const TComponent& component) const;
@@ -30,6 +32,7 @@ class FormSurface : public QWidget {
 
  signals:
   void ToolUsed();
+  void ToolChanged();
   void Message(const QString& text);
   void ContextMenuWanted(const QPoint& globalPos);
   void InspectorWanted();
@@ -62,7 +65,7 @@ class FormSurface : public QWidget {
   void Drag(QPoint widgetPoint, bool fine);
   void FinishDrag();
   void CancelDrag();
-  void PlaceTool(const QRect& formRect);
+  void PlaceTool(const QRect& formRect, bool keep);
   void SelectBand(const QRect& formRect, bool add);
   void Nudge(int dx, int dy, bool resize);
   void SetRect(TComponent& component, const QRect& rect);
@@ -77,6 +80,7 @@ class FormSurface : public QWidget {
   FormSession* session_ = nullptr;
   double zoom_ = 1;
   const TClass* tool_ = nullptr;
+  bool keepTool_ = false;
   Action action_ = Action::None;
   int handle_ = -1;
   QPoint pressed_;

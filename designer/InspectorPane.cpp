@@ -2,74 +2,24 @@
 
 #include <QtWidgets>
 
+#include "designer/ComponentBox.h"
+#include "designer/RowDelegate.h"
+#include "designer/RowSelection.h"
+#include "designer/SearchField.h"
 #include "designer/ValueEditor.h"
-#include "designintf/ComponentIcons.h"
 
 using enum TPropertyAttribute;
 
-namespace {
-// Names in plain, values that differ from the default in bold, booleans with a box.
-class RowDelegate : public QStyledItemDelegate {
- public:
-  using QStyledItemDelegate::QStyledItemDelegate;
-
-  static QRect BoxRect(const QRect& cell) { return {cell.left() + 4, cell.center().y() - 6, 13, 13}; }
-
-  void paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const override {
-    QStyleOptionViewItem o = option;
-    initStyleOption(&o, index);
-    const bool category = index.data(InspectorModel::IsCategoryRole).toBool();
-    if (category) {
-      o.font.setBold(true);
-      o.backgroundBrush = o.palette.brush(QPalette::AlternateBase);
-    } else if (index.column() == 1 && index.data(InspectorModel::NotDefaultRole).toBool()) {
-      o.font.setBold(true);
-    }
-    if (index.column() == 1 && index.data(InspectorModel::IsBooleanRole).toBool() && !o.text.isEmpty()) {
-      const QString text = std::exchange(o.text, QString());
-      o.widget->style()->drawControl(QStyle::CE_ItemViewItem, &o, painter, o.widget);
-      QStyleOptionButton box;
-      box.rect = BoxRect(o.rect);
-      box.palette = o.palette;
-      box.state =
-          QStyle::State_Enabled | (text == QStringLiteral("True") ? QStyle::State_On : QStyle::State_Off);
-      o.widget->style()->drawPrimitive(QStyle::PE_IndicatorCheckBox, &box, painter, o.widget);
-      painter->save();
-      painter->setFont(o.font);
-      painter->setPen(
-          o.palette.color(o.state & QStyle::State_Selected ? QPalette::HighlightedText : QPalette::Text));
-      painter->drawText(o.rect.adjusted(22, 0, 0, 0), Qt::AlignVCenter, text);
-      painter->restore();
-    } else {
-      o.widget->style()->drawControl(QStyle::CE_ItemViewItem, &o, painter, o.widget);
-    }
-    painter->save();
-    painter->setPen(o.palette.color(QPalette::Midlight)
-                        .lighter(o.palette.color(QPalette::Base).lightness() > 128 ? 118 : 80));
-    painter->drawLine(o.rect.bottomLeft(), o.rect.bottomRight());
-    if (index.column() == 0 && !category) painter->drawLine(o.rect.topRight(), o.rect.bottomRight());
-    painter->restore();
-  }
-  QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override {
-    return {QStyledItemDelegate::sizeHint(option, index).width(),
-            std::max(22, option.fontMetrics.height() + 6)};
-  }
-};
-}  // namespace
-
 InspectorPane::InspectorPane(QWidget* parent) : QWidget(parent) {
-  components_ = new QComboBox;
+  components_ = new ComponentBox;
   components_->setObjectName(QStringLiteral("componentBox"));
-  components_->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
-  components_->setAccessibleName(tr("Component"));
   tabs_ = new QTabBar;
   tabs_->addTab(tr("Properties"));
   tabs_->addTab(tr("Events"));
   tabs_->setExpanding(false);
   tabs_->setDrawBase(false);
-  filter_ = new QLineEdit;
-  filter_->setPlaceholderText(tr("Filter..."));
-  filter_->setClearButtonEnabled(true);
+  tabs_->setAccessibleName(tr("Pages of the inspector"));
+  filter_ = new SearchField(tr("Filter..."), tr("Filter of the inspector"));
   auto* grouped = new QToolButton;
   grouped->setText(tr("Categories"));
   grouped->setCheckable(true);
@@ -78,6 +28,9 @@ InspectorPane::InspectorPane(QWidget* parent) : QWidget(parent) {
   view_ = new QTreeView;
   view_->setObjectName(QStringLiteral("inspector"));
   view_->setModel(&model_);
+  delete view_->selectionModel();
+  view_->setSelectionModel(new RowSelection(
+      &model_, [this] { return !hiding_ && Commit(); }, view_));
   view_->setItemDelegate(new RowDelegate(view_));
   view_->setHeaderHidden(true);
   view_->setRootIsDecorated(true);
@@ -99,7 +52,17 @@ InspectorPane::InspectorPane(QWidget* parent) : QWidget(parent) {
   description_->setForegroundRole(QPalette::WindowText);
   editor_ = new ValueEditor(view_->viewport());
   editor_->hide();
+  BuildLayout(grouped);
 
+  for (QObject* o : std::initializer_list<QObject*>{view_, view_->viewport(), filter_})
+    o->installEventFilter(this);
+  connect(tabs_, &QTabBar::currentChanged, this, &InspectorPane::ShowPage);
+  connect(filter_, &QLineEdit::textChanged, &model_, &InspectorModel::SetFilter);
+  connect(grouped, &QToolButton::toggled, this, [this, grouped](bool on) { Group(*grouped, on); });
+  ConnectRows();
+}
+
+void InspectorPane::BuildLayout(QToolButton* grouped) {
   auto* top = new QHBoxLayout;
   top->addWidget(tabs_);
   top->addStretch(1);
@@ -112,25 +75,25 @@ InspectorPane::InspectorPane(QWidget* parent) : QWidget(parent) {
   box->addWidget(filter_);
   box->addWidget(view_, 1);
   box->addWidget(description_);
+  QWidget* order[] = {components_, tabs_, grouped, filter_, view_};
+  for (std::size_t i = 1; i < std::size(order); ++i) setTabOrder(order[i - 1], order[i]);
+}
 
-  view_->installEventFilter(this);
-  view_->viewport()->installEventFilter(this);
-  connect(tabs_, &QTabBar::currentChanged, this, [this](int tab) { model_.ShowEvents(tab == 1); });
-  connect(filter_, &QLineEdit::textChanged, &model_, &InspectorModel::SetFilter);
-  connect(grouped, &QToolButton::toggled, &model_, &InspectorModel::GroupByCategory);
-  connect(&model_, &QAbstractItemModel::modelAboutToBeReset, this, &InspectorPane::RememberExpanded);
-  connect(&model_, &QAbstractItemModel::modelReset, this, &InspectorPane::RestoreExpanded);
-  connect(&model_, &QAbstractItemModel::dataChanged, this, &InspectorPane::RefreshEditor);
+void InspectorPane::ConnectRows() {
+  connect(&model_, &QAbstractItemModel::modelAboutToBeReset, this, &InspectorPane::RememberRows);
+  connect(&model_, &QAbstractItemModel::modelReset, this, &InspectorPane::RestoreRows);
+  connect(&model_, &QAbstractItemModel::dataChanged, this, &InspectorPane::ValuesChanged);
   connect(view_->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
           &InspectorPane::CurrentChanged);
   connect(view_, &QTreeView::expanded, this, [this](const QModelIndex& i) {
-    expanded_.insert(i.data(InspectorModel::PathRole).toString());
+    if (filling_) return;
+    const QString path = i.data(InspectorModel::PathRole).toString();
+    closedCategories_.remove(path);
+    // What the filter opens is closed again with it.
+    if (filter_->text().isEmpty()) expanded_.insert(path);
     PlaceEditor();
   });
-  connect(view_, &QTreeView::collapsed, this, [this](const QModelIndex& i) {
-    expanded_.remove(i.data(InspectorModel::PathRole).toString());
-    PlaceEditor();
-  });
+  connect(view_, &QTreeView::collapsed, this, &InspectorPane::Closed);
   connect(view_, &QTreeView::customContextMenuRequested, this, &InspectorPane::ShowMenu);
   connect(view_->verticalScrollBar(), &QScrollBar::valueChanged, this, &InspectorPane::PlaceEditor);
   connect(view_->header(), &QHeaderView::sectionResized, this, &InspectorPane::PlaceEditor);
@@ -138,77 +101,120 @@ InspectorPane::InspectorPane(QWidget* parent) : QWidget(parent) {
     if (Apply(text)) editor_->Field()->selectAll();
   });
   connect(editor_, &ValueEditor::DialogWanted, this, &InspectorPane::OpenDialog);
-  connect(editor_, &ValueEditor::Moved, this, [this](int rows) {
-    if (editor_->IsChanged() && !Apply(editor_->Field()->text())) return;
-    const QModelIndex at = view_->currentIndex();
-    const QModelIndex next = rows < 0 ? view_->indexAbove(at) : view_->indexBelow(at);
-    if (next.isValid()) view_->setCurrentIndex(next);
-    FocusValue();
-  });
-  connect(components_, &QComboBox::activated, this, [this](int i) {
-    if (session_)
-      if (TComponent* c = session_->GetComponent(components_->itemData(i).toString())) session_->Select({c});
-  });
+  connect(editor_, &ValueEditor::Moved, this, &InspectorPane::Walk);
+  connect(editor_, &ValueEditor::Opened, this, &InspectorPane::OpenRow);
+  connect(editor_, &ValueEditor::Left, this, [this] { view_->setFocus(); });
+  connect(editor_, &ValueEditor::FocusLost, this, &InspectorPane::Commit);
+  connect(editor_->Field(), &QLineEdit::textChanged, this, &InspectorPane::Typing);
 }
 
 void InspectorPane::SetSession(FormSession* session) {
-  if (session_) disconnect(session_, nullptr, this, nullptr);
-  session_ = session;
   model_.SetSession(session);
-  if (session_) {
-    connect(session_, &FormSession::SelectionChanged, this, &InspectorPane::FillComponents);
-    connect(session_, &FormSession::StructureChanged, this, &InspectorPane::FillComponents);
-    connect(session_, &FormSession::FormChanged, this, &InspectorPane::FillComponents);
-  }
-  FillComponents();
+  components_->SetSession(session);
 }
 
-void InspectorPane::FillComponents() {
-  components_->clear();
-  if (!session_) return;
-  const auto selected = session_->SelectedComponents();
-  if (selected.size() > 1)
-    components_->addItem(tr("%n components", nullptr, static_cast<int>(selected.size())), QString());
-  for (const TComponent* c : session_->AllComponents()) {
-    if (c->Name().isEmpty()) continue;
-    components_->addItem(ComponentIcon(c->ClassType()),
-                         QStringLiteral("%1: %2").arg(c->Name(), QString::fromUtf8(c->StreamClassName())),
-                         c->Name());
-    if (selected.size() == 1 && c == selected[0]) components_->setCurrentIndex(components_->count() - 1);
+// --- Pages
+
+void InspectorPane::ShowPage(int page) {
+  if (!Commit()) {
+    const QSignalBlocker quiet(tabs_);
+    tabs_->setCurrentIndex(page_);
+    return FocusValue();
   }
+  view_->setAccessibleName(tabs_->tabText(page));
+  model_.ShowEvents(page == 1);
 }
 
-void InspectorPane::RememberExpanded() {
-  currentPath_ = view_->currentIndex().data(InspectorModel::PathRole).toString();
-  editor_->hide();
+void InspectorPane::Group(QToolButton& grouped, bool on) {
+  if (!Commit()) {
+    const QSignalBlocker quiet(&grouped);
+    grouped.setChecked(!on);
+    return FocusValue();
+  }
+  const QString path = places_[static_cast<std::size_t>(page_)].path;
+  model_.GroupByCategory(on);
+  if (!on) {
+    ShowProperty(path.section(u'.', 1));
+    return;
+  }
+  for (int row = 0; row < model_.rowCount(); ++row)
+    if (ShowProperty(model_.index(row, 0).data().toString() + u'.' + path)) return;
+}
+
+// --- Rows that are made anew
+
+void InspectorPane::RememberRows() {
   filling_ = true;
+  const QModelIndex row = CurrentRow();
+  places_[static_cast<std::size_t>(page_)].scroll = view_->verticalScrollBar()->value();
+  inSight_ = !row.isValid() || view_->viewport()->rect().intersects(view_->visualRect(row));
+  if (row.isValid() && !applying_ && !editor_->isHidden() && editor_->IsChanged())
+    unfinished_ = {model_.Components(), row.data(InspectorModel::PathRole).toString(),
+                   editor_->Field()->text(), editor_->Problem()};
 }
 
-void InspectorPane::RestoreExpanded() {
+void InspectorPane::OpenHits(const QModelIndex& parent) {
+  for (int row = 0; row < model_.rowCount(parent); ++row) {
+    const QModelIndex i = model_.index(row, 0, parent);
+    if (!i.data(InspectorModel::IsAboveRole).toBool()) continue;
+    view_->setExpanded(i, true);
+    OpenHits(i);
+  }
+}
+
+void InspectorPane::RestoreRows() {
   for (const QString& path : std::as_const(expanded_))
     if (const QModelIndex i = model_.IndexOfPath(path); i.isValid()) view_->setExpanded(i, true);
   // Categories are open unless somebody closed them.
   for (int row = 0; row < model_.rowCount(); ++row)
     if (const QModelIndex i = model_.index(row, 0); i.data(InspectorModel::IsCategoryRole).toBool())
-      view_->setExpanded(i, true);
+      view_->setExpanded(i, !closedCategories_.contains(i.data().toString()));
+  if (!filter_->text().isEmpty()) OpenHits({});
+  page_ = tabs_->currentIndex();
+  const Place& place = places_[static_cast<std::size_t>(page_)];
+  if (const QModelIndex row = model_.IndexOfPath(place.path); row.isValid()) view_->setCurrentIndex(row);
+  view_->doItemsLayout();
+  view_->verticalScrollBar()->setValue(place.scroll);
+  if (inSight_ && CurrentRow().isValid()) view_->scrollTo(CurrentRow());
   filling_ = false;
-  if (!currentPath_.isEmpty()) ShowProperty(currentPath_);
-  PlaceEditor();
+  ShowValue();
+  RestoreUnfinished();
 }
 
+// The typing goes on in its row. When the row is gone, the person hears that the value stayed.
+void InspectorPane::RestoreUnfinished() {
+  const auto was = std::exchange(unfinished_, std::nullopt);
+  if (!was) return;
+  if (was->components == model_.Components() &&
+      was->path == CurrentRow().data(InspectorModel::PathRole).toString()) {
+    editor_->SetTyped(was->text);
+    return editor_->SetProblem(was->problem);
+  }
+  if (model_.Components().empty()) return;
+  emit Message(was->problem.isEmpty() ? tr("%1 was not changed.").arg(was->path)
+                                      : tr("%1 was not changed: %2").arg(was->path, was->problem));
+}
+
+// --- The current row
+
+QModelIndex InspectorPane::CurrentRow() const { return view_->currentIndex().siblingAtColumn(0); }
+
 bool InspectorPane::ShowProperty(const QString& path) {
-  const QModelIndex index = model_.IndexOfPath(path);
+  const QPersistentModelIndex index = model_.IndexOfPath(path);
   if (!index.isValid()) return false;
-  for (QModelIndex p = index.parent(); p.isValid(); p = p.parent()) view_->setExpanded(p, true);
   view_->setCurrentIndex(index);
-  view_->scrollTo(index);
+  if (CurrentRow() != index) return false;
+  for (QModelIndex p = CurrentRow().parent(); p.isValid(); p = p.parent()) view_->setExpanded(p, true);
+  view_->scrollTo(CurrentRow());
+  PlaceEditor();
   return true;
 }
 
 void InspectorPane::FocusValue() {
-  if (!view_->currentIndex().isValid() && model_.rowCount() > 0) view_->setCurrentIndex(model_.index(0, 0));
+  if (!CurrentRow().isValid() && model_.rowCount() > 0) view_->setCurrentIndex(model_.index(0, 0));
+  if (CurrentRow().isValid()) view_->scrollTo(CurrentRow());
   PlaceEditor();
-  if (editor_->isVisible()) {
+  if (!editor_->isHidden()) {
     editor_->Field()->setFocus();
     editor_->Field()->selectAll();
   } else {
@@ -216,84 +222,91 @@ void InspectorPane::FocusValue() {
   }
 }
 
-void InspectorPane::CurrentChanged(const QModelIndex& now, const QModelIndex& before) {
-  if (filling_ || returning_) return;
-  // Leaving a row applies what was typed; a refused value keeps the row.
-  if (before.isValid() && editor_->isVisible() && editor_->IsChanged()) {
-    // A refusal makes the rows anew, so the path is asked for before.
-    const QString path = before.data(InspectorModel::PathRole).toString();
-    const QString reason = model_.SetValueText(before, editor_->Field()->text());
-    if (!reason.isEmpty()) {
-      QMetaObject::invokeMethod(
-          this,
-          [this, path, reason] {
-            returning_ = true;
-            ShowProperty(path);
-            returning_ = false;
-            PlaceEditor();
-            editor_->SetProblem(reason);
-            editor_->Field()->setFocus();
-          },
-          Qt::QueuedConnection);
-      return;
-    }
-  }
-  const QModelIndex row = now.siblingAtColumn(0);
-  description_->setText(row.data(InspectorModel::DescriptionRole).toString());
-  editor_->hide();
-  RefreshEditor();
+void InspectorPane::CurrentChanged() {
+  if (filling_) return;
+  places_[static_cast<std::size_t>(page_)].path = CurrentRow().data(InspectorModel::PathRole).toString();
+  ShowValue();
 }
 
-void InspectorPane::RefreshEditor() {
-  if (filling_ || returning_) return;
-  const QModelIndex row = view_->currentIndex().siblingAtColumn(0);
+void InspectorPane::ValuesChanged(const QModelIndex& first, const QModelIndex& last) {
+  const QModelIndex row = CurrentRow();
+  if (filling_ || applying_ || row.parent() != first.parent()) return;
+  if (row.row() >= first.row() && row.row() <= last.row()) ShowValue(editor_->IsChanged());
+}
+
+void InspectorPane::ShowValue(bool keepTyping) {
+  const QModelIndex row = CurrentRow();
+  description_->setText(row.data(InspectorModel::DescriptionRole).toString());
   const TPropertyEditor* property = model_.EditorAt(row);
-  if (!property) return editor_->hide();
+  if (!property) return HideEditor();
   const TPropertyAttributes a = property->GetAttributes();
+  const bool isObject = property->GetPropType().Kind == TTypeKind::tkClass;
+  const bool fixed =
+      a.Contains(paReadOnly) || a.Contains(paDisplayReadOnly) || isObject || property->GetPropInfo().ReadOnly;
   ValueEditor::Setup setup;
+  setup.name = row.data(InspectorModel::PathRole).toString();
   setup.text = model_.ValueText(row);
+  setup.mixed = property->PropCount() > 1 && !property->AllEqual();
   setup.values = model_.ValueList(row);
-  setup.readOnly =
-      a.Contains(paReadOnly) || a.Contains(paDisplayReadOnly) ||
-              (property->GetPropInfo().ReadOnly && property->GetPropType().Kind != TTypeKind::tkClass) ||
-              property->GetPropType().Kind == TTypeKind::tkClass
-          ? !a.Contains(paValueList)
-          : false;
+  setup.readOnly = fixed && !a.Contains(paValueList);
   setup.dialog = a.Contains(paDialog);
-  setup.iconOf = [property](const QString& v) { return property->GetValueIcon(v); };
-  editor_->Field()->setMaxLength(property->GetEditLimit());
-  editor_->Show(setup);
+  // A longer value that is there already is not cut off.
+  setup.limit = std::max(property->GetEditLimit(), static_cast<int>(setup.text.size()));
+  setup.iconOf = [this](const QString& v) {
+    const TPropertyEditor* current = model_.EditorAt(CurrentRow());
+    return current ? current->GetValueIcon(v) : QIcon();
+  };
+  editor_->Show(setup, keepTyping);
   PlaceEditor();
+}
+
+// The focus stays in the inspector when there is no value to edit any more. The list would take its first row
+// with it.
+void InspectorPane::HideEditor() {
+  const QScopedValueRollback<bool> quiet(filling_, true), stay(hiding_, true);
+  if (editor_->isAncestorOf(QApplication::focusWidget())) view_->setFocus();
+  editor_->hide();
 }
 
 // Over the value cell of the current row.
 void InspectorPane::PlaceEditor() {
-  const QModelIndex row = view_->currentIndex().siblingAtColumn(1);
-  if (!model_.EditorAt(row.siblingAtColumn(0))) return editor_->hide();
-  const QRect cell = view_->visualRect(row);
-  if (cell.isEmpty()) return editor_->hide();
-  QRect place = cell.adjusted(0, 0, 0, -1);
-  // The box or the swatch in front of a value stays in sight.
-  if (row.data(InspectorModel::IsBooleanRole).toBool()) place.setLeft(place.left() + 20);
+  if (filling_) return;
+  const QModelIndex cell = view_->currentIndex().siblingAtColumn(1);
+  const QRect rect = view_->visualRect(cell);
+  if (!model_.EditorAt(CurrentRow()) || rect.isEmpty()) return HideEditor();
+  QRect place = rect.adjusted(0, 0, 0, -1);
+  // The box in front of a value stays in sight.
+  if (cell.data(InspectorModel::IsBooleanRole).toBool()) place.setLeft(place.left() + 20);
   editor_->setGeometry(place);
-  if (!editor_->isVisible()) editor_->show();
+  editor_->show();
+}
+
+// --- Values
+
+bool InspectorPane::Commit() {
+  if (filling_ || applying_ || editor_->isHidden() || !editor_->IsChanged()) return true;
+  return Apply(editor_->Field()->text());
 }
 
 bool InspectorPane::Apply(const QString& text) {
-  const QModelIndex row = view_->currentIndex().siblingAtColumn(0);
-  const QString reason = model_.SetValueText(row, text);
+  QString reason;
+  {
+    const QScopedValueRollback<bool> applying(applying_, true);
+    reason = model_.SetValueText(CurrentRow(), text);
+  }
   if (reason.isEmpty()) {
-    RefreshEditor();
+    ShowValue();
     return true;
   }
-  editor_->Field()->setText(text);
+  editor_->SetTyped(text);
   editor_->SetProblem(reason);
   return false;
 }
 
 void InspectorPane::OpenDialog() {
-  const QString reason = model_.RunDialog(view_->currentIndex().siblingAtColumn(0));
-  RefreshEditor();
+  if (!Commit()) return FocusValue();
+  const QString reason = model_.RunDialog(CurrentRow());
+  ShowValue();
   if (!reason.isEmpty()) editor_->SetProblem(reason);
 }
 
@@ -301,17 +314,78 @@ void InspectorPane::ShowMenu(const QPoint& pos) {
   const QModelIndex row = view_->indexAt(pos).siblingAtColumn(0);
   if (!model_.EditorAt(row)) return;
   view_->setCurrentIndex(row);
+  if (CurrentRow() != row) return FocusValue();
   QMenu menu(this);
   menu.addAction(tr("&Reset to default"), this,
                  [&] {
-                   if (const QString reason = model_.Reset(row); !reason.isEmpty())
-                     editor_->SetProblem(reason);
+                   const QString reason = model_.Reset(CurrentRow());
+                   ShowValue();
+                   if (!reason.isEmpty()) editor_->SetProblem(reason);
                  })
       ->setEnabled(row.data(InspectorModel::NotDefaultRole).toBool());
-  menu.addAction(tr("&Copy value"), this, [&] { QApplication::clipboard()->setText(model_.ValueText(row)); });
-  menu.addAction(tr("Copy &name"), this,
-                 [&] { QApplication::clipboard()->setText(row.data(InspectorModel::PathRole).toString()); });
+  menu.addAction(tr("&Copy value"), this,
+                 [&] { QApplication::clipboard()->setText(model_.ValueText(CurrentRow())); });
+  menu.addAction(tr("Copy &name"), this, [&] {
+    QApplication::clipboard()->setText(CurrentRow().data(InspectorModel::PathRole).toString());
+  });
   menu.exec(view_->viewport()->mapToGlobal(pos));
+}
+
+// --- Keyboard and mouse
+
+// To the next row that has a value, or the one before; at the end the value is applied and stays.
+void InspectorPane::Walk(int rows) {
+  QModelIndex at = CurrentRow();
+  do {
+    at = (rows < 0 ? view_->indexAbove(at) : view_->indexBelow(at)).siblingAtColumn(0);
+  } while (at.isValid() && !model_.EditorAt(at));
+  if (at.isValid())
+    view_->setCurrentIndex(at);
+  else
+    Commit();
+  FocusValue();
+}
+
+void InspectorPane::OpenRow(bool open) {
+  const QModelIndex row = CurrentRow();
+  if (!open && !view_->isExpanded(row) && model_.EditorAt(row.parent())) {
+    view_->setCurrentIndex(row.parent());
+    return FocusValue();
+  }
+  view_->setExpanded(row, open && model_.hasChildren(row));
+}
+
+// The current row does not vanish in a closed one.
+void InspectorPane::Closed(const QModelIndex& row) {
+  if (filling_) return;
+  const QString path = row.data(InspectorModel::PathRole).toString();
+  if (row.data(InspectorModel::IsCategoryRole).toBool()) closedCategories_.insert(path);
+  if (filter_->text().isEmpty()) expanded_.remove(path);
+  for (QModelIndex p = CurrentRow().parent(); p.isValid(); p = p.parent())
+    if (p == row) {
+      const bool typing = editor_->Field()->hasFocus();
+      view_->setCurrentIndex(row);
+      if (CurrentRow() != row) view_->setExpanded(row, true);
+      if (typing) FocusValue();
+      return;
+    }
+  PlaceEditor();
+}
+
+void InspectorPane::GoToFirstHit() {
+  std::function<QModelIndex(const QModelIndex&)> first = [&](const QModelIndex& parent) -> QModelIndex {
+    for (int row = 0; row < model_.rowCount(parent); ++row) {
+      const QModelIndex i = model_.index(row, 0, parent);
+      if (filter_->text().isEmpty() || i.data(InspectorModel::FitsRole).toBool()) return i;
+      if (!i.data(InspectorModel::IsAboveRole).toBool()) continue;
+      if (const QModelIndex below = first(i); below.isValid()) return below;
+    }
+    return {};
+  };
+  if (const QModelIndex hit = first({}); hit.isValid()) {
+    view_->setCurrentIndex(hit);
+    FocusValue();
+  }
 }
 
 // Typing in the name column goes to the property that starts so.
@@ -320,45 +394,64 @@ void InspectorPane::JumpTo(const QString& typed) {
     const QModelIndex i = model_.index(row, 0);
     if (i.data().toString().startsWith(typed, Qt::CaseInsensitive)) {
       view_->setCurrentIndex(i);
-      view_->scrollTo(i);
+      view_->scrollTo(CurrentRow());
       return;
     }
   }
 }
 
-bool InspectorPane::eventFilter(QObject* watched, QEvent* event) {
-  if (watched == view_->viewport() && event->type() == QEvent::Resize) PlaceEditor();
-  if (watched == view_->viewport() && event->type() == QEvent::MouseButtonRelease) {
-    const auto* mouse = static_cast<QMouseEvent*>(event);
-    const QModelIndex cell = view_->indexAt(mouse->pos());
-    if (cell.column() == 1 && mouse->button() == Qt::LeftButton) {
-      if (cell.data(InspectorModel::IsBooleanRole).toBool() &&
-          RowDelegate::BoxRect(view_->visualRect(cell)).adjusted(-3, -3, 3, 3).contains(mouse->pos())) {
-        view_->setCurrentIndex(cell.siblingAtColumn(0));
-        Apply(model_.ValueText(cell.siblingAtColumn(0)) == QStringLiteral("True") ? QStringLiteral("False")
-                                                                                  : QStringLiteral("True"));
-      }
-      FocusValue();
-    }
-  }
-  if (watched == view_->viewport() && event->type() == QEvent::MouseButtonDblClick) {
-    const QModelIndex row = view_->indexAt(static_cast<QMouseEvent*>(event)->pos()).siblingAtColumn(0);
-    if (model_.hasChildren(row)) view_->setExpanded(row, !view_->isExpanded(row));
+bool InspectorPane::FilterKey(int key) {
+  if (key == Qt::Key_Escape && !filter_->text().isEmpty())
+    filter_->clear();
+  else if (key == Qt::Key_Escape)
+    view_->setFocus();
+  else if (key == Qt::Key_Down || key == Qt::Key_Return || key == Qt::Key_Enter)
+    GoToFirstHit();
+  else
+    return false;
+  return true;
+}
+
+bool InspectorPane::ListKey(int key, const QString& text) {
+  if (key == Qt::Key_Return || key == Qt::Key_Enter || key == Qt::Key_F2) {
+    FocusValue();
     return true;
   }
-  if (watched == view_ && event->type() == QEvent::KeyPress) {
+  if (text.isEmpty() || !text[0].isLetter()) return false;
+  static QElapsedTimer last;
+  if (!last.isValid() || last.elapsed() > 1000) typed_.clear();
+  last.start();
+  JumpTo(typed_ += text);
+  return true;
+}
+
+// One click on a value edits it, one on its box toggles it.
+void InspectorPane::CellClicked(const QPoint& pos) {
+  const QModelIndex cell = view_->indexAt(pos);
+  if (cell.column() != 1) return;
+  // A row whose value is refused was not left.
+  if (cell.siblingAtColumn(0) == CurrentRow() && cell.data(InspectorModel::IsBooleanRole).toBool() &&
+      RowDelegate::BoxRect(view_->visualRect(cell)).adjusted(-3, -3, 3, 3).contains(pos))
+    Apply(model_.ValueText(CurrentRow()) == QStringLiteral("True") ? QStringLiteral("False")
+                                                                   : QStringLiteral("True"));
+  FocusValue();
+}
+
+bool InspectorPane::eventFilter(QObject* watched, QEvent* event) {
+  if (event->type() == QEvent::KeyPress) {
     const auto* key = static_cast<QKeyEvent*>(event);
-    if (key->key() == Qt::Key_Return || key->key() == Qt::Key_F2 || key->key() == Qt::Key_Tab) {
-      FocusValue();
-      return true;
-    }
-    if (const QString text = key->text(); !text.isEmpty() && text[0].isLetter()) {
-      static QElapsedTimer last;
-      if (!last.isValid() || last.elapsed() > 1000) typed_.clear();
-      last.start();
-      JumpTo(typed_ += text);
-      return true;
-    }
+    if (watched == filter_ && FilterKey(key->key())) return true;
+    if (watched == view_ && ListKey(key->key(), key->text())) return true;
+  }
+  if (watched != view_->viewport()) return QWidget::eventFilter(watched, event);
+  const auto* mouse = static_cast<QMouseEvent*>(event);
+  if (event->type() == QEvent::Resize) PlaceEditor();
+  if (event->type() == QEvent::MouseButtonRelease && mouse->button() == Qt::LeftButton)
+    CellClicked(mouse->pos());
+  if (event->type() == QEvent::MouseButtonDblClick) {
+    const QModelIndex row = view_->indexAt(mouse->pos()).siblingAtColumn(0);
+    if (model_.hasChildren(row)) view_->setExpanded(row, !view_->isExpanded(row));
+    return true;
   }
   return QWidget::eventFilter(watched, event);
 }

@@ -7,8 +7,10 @@
 #include "designer/InspectorPane.h"
 #include "designer/PalettePane.h"
 #include "designer/StructurePane.h"
+#include "designer/ValueEditor.h"
 #include "designintf/ComponentEditor.h"
 #include "designintf/DesignIntf.h"
+#include "ide/Placing.h"
 #include "rtl/Exceptions.h"
 #include "vcl/Prompts.h"
 #include "vcl/Theme.h"
@@ -35,6 +37,9 @@ MainWindow::MainWindow(PackageManager& packages) : packages_(packages) {
       UpdateProblems();
     }
   });
+  // What opens the rest of a bar that is too narrow.
+  for (QToolButton* button : findChildren<QToolButton*>())
+    if (button->objectName().endsWith(QStringLiteral("_ext_button"))) button->setAccessibleName(tr("More"));
   resize(1280, 820);
   UpdateActions();
 }
@@ -61,6 +66,7 @@ void MainWindow::BuildPanes() {
   scroll->setWidget(surface_);
   scroll->setWidgetResizable(true);
   scroll->setFrameShape(QFrame::NoFrame);
+  scroll->setFocusPolicy(Qt::NoFocus);  // the surface has it
   setCentralWidget(scroll);
 
   const auto dock = [this](const QString& title, QWidget* widget, Qt::DockWidgetArea area) {
@@ -76,6 +82,7 @@ void MainWindow::BuildPanes() {
   problems_ = new QListWidget;
   problems_->setFrameShape(QFrame::NoFrame);
   problems_->setWordWrap(true);
+  problems_->setAccessibleName(tr("Problems"));
   auto* structureDock = dock(tr("Structure"), structure_, Qt::LeftDockWidgetArea);
   auto* inspectorDock = dock(tr("Inspector"), inspector_, Qt::LeftDockWidgetArea);
   problemsDock_ = dock(tr("Problems"), problems_, Qt::BottomDockWidgetArea);
@@ -92,17 +99,49 @@ void MainWindow::BuildPanes() {
   statusBar()->addPermanentWidget(modifiedLabel_);
 
   connect(palette_, &PalettePane::ToolChosen, surface_, &FormSurface::SetTool);
-  connect(palette_, &PalettePane::AddWanted, this, [this](const TClass& cls) {
-    if (!session_) return;
-    const TForm& form = session_->Form();
-    const QPoint centre(form.ClientWidth() / 2 / 8 * 8, form.ClientHeight() / 2 / 8 * 8);
-    session_->CreateComponent(cls, nullptr, QRect(centre, QSize()));
-  });
+  connect(palette_, &PalettePane::AddWanted, this, &MainWindow::PlaceOne);
+  connect(palette_, &PalettePane::Left, surface_, qOverload<>(&QWidget::setFocus));
   connect(surface_, &FormSurface::ToolUsed, palette_, &PalettePane::SelectArrow);
+  connect(surface_, &FormSurface::ToolChanged, this, &MainWindow::ShowTool);
+  // Wherever the focus is, Escape puts the tool down first.
+  putDown_ = new QShortcut(Qt::Key_Escape, this);
+  putDown_->setEnabled(false);
+  connect(putDown_, &QShortcut::activated, palette_, &PalettePane::PutDown);
+  connect(inspector_, &InspectorPane::Message, this,
+          [this](const QString& text) { statusBar()->showMessage(text, 8000); });
+  connect(inspector_, &InspectorPane::Typing, this, &MainWindow::UpdateActions);
   connect(surface_, &FormSurface::ContextMenuWanted, this, &MainWindow::ShowContextMenu);
   connect(surface_, &FormSurface::Message, this,
           [this](const QString& text) { Prompts().Warn(this, QCoreApplication::applicationName(), text); });
   connect(surface_, &FormSurface::InspectorWanted, inspector_, &InspectorPane::FocusValue);
+}
+
+// What is typed in the inspector belongs to the form; a refused value is corrected or given up first.
+bool MainWindow::CommitTyping() {
+  if (inspector_->Commit()) return true;
+  inspector_->FocusValue();
+  return false;
+}
+
+void MainWindow::PlaceOne(const TClass& cls) {
+  if (!session_ || !CommitTyping()) return;
+  try {
+    PlaceInMiddle(*session_, cls, FormSurface::Grid);
+  } catch (const std::exception& e) {
+    ReportException(this, e);
+  }
+  surface_->setFocus();
+}
+
+void MainWindow::ShowTool() {
+  const TClass* tool = surface_->Tool();
+  putDown_->setEnabled(tool);
+  if (!tool) return statusBar()->clearMessage();
+  const QString name = QString::fromLatin1(tool->ClassName());
+  statusBar()->showMessage(
+      surface_->KeepsTool()
+          ? tr("%1: click or draw as many as you need, Escape puts it down").arg(name)
+          : tr("%1: click or draw on the form, with Shift for several; Escape puts it down").arg(name));
 }
 
 QAction* MainWindow::AddAction(QWidget* menu, const QString& text, const QString& icon,
@@ -162,6 +201,7 @@ void MainWindow::BuildActions() {
   redo_ = AddAction(
       edit, tr("&Redo"), QStringLiteral("edit-redo"), QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Z),
       [this] { session_->Redo(); }, "redo");
+  redo_->setShortcuts({QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Z), QKeySequence(Qt::CTRL | Qt::Key_Y)});
   edit->addSeparator();
   delete_ = AddAction(
       edit, tr("&Delete"), QStringLiteral("edit-delete"), {}, [this] { session_->DeleteSelection(); },
@@ -177,6 +217,23 @@ void MainWindow::BuildActions() {
 
   QMenu* view = menuBar()->addMenu(tr("&View"));
   for (QDockWidget* d : findChildren<QDockWidget*>()) view->addAction(d->toggleViewAction());
+  view->addSeparator();
+  AddAction(
+      view, tr("&Form or inspector"), {}, Qt::Key_F11,
+      [this] {
+        if (!inspector_->isAncestorOf(QApplication::focusWidget()))
+          inspector_->FocusValue();
+        else if (CommitTyping())
+          surface_->setFocus();
+      },
+      "formOrInspector");
+  AddAction(
+      view, tr("&Palette"), {}, Qt::CTRL | Qt::Key_F,
+      [this] {
+        palette_->Search().setFocus();
+        palette_->Search().selectAll();
+      },
+      "findComponent");
   view->addSeparator();
   auto* zoomIn = AddAction(
       view, tr("Zoom &in"), QStringLiteral("zoom-in"), QKeySequence::ZoomIn,
@@ -277,11 +334,13 @@ bool MainWindow::SaveTo(const QString& fileName) {
 
 bool MainWindow::Save() {
   if (!session_) return true;
+  if (!CommitTyping()) return false;
   return session_->FileName().isEmpty() ? SaveAs() : SaveTo(session_->FileName());
 }
 
 bool MainWindow::SaveAs() {
   if (!session_) return true;
+  if (!CommitTyping()) return false;
   const QString start = session_->FileName().isEmpty()
                             ? session_->Form().Name().toLower() + QStringLiteral(".dfm")
                             : session_->FileName();
@@ -290,6 +349,7 @@ bool MainWindow::SaveAs() {
 }
 
 bool MainWindow::MayClose() {
+  if (!CommitTyping()) return false;
   if (!session_ || !session_->IsModified()) return true;
   const QString what =
       session_->FileName().isEmpty() ? session_->Form().Name() : QFileInfo(session_->FileName()).fileName();
@@ -315,7 +375,8 @@ void MainWindow::UpdateActions() {
                                                         : QFileInfo(session_->FileName()).fileName();
   setWindowTitle(open ? tr("%1[*] - Orlenvo-Kit designer").arg(file) : tr("Orlenvo-Kit designer"));
   setWindowModified(open && session_->IsModified());
-  save_->setEnabled(open && (session_->IsModified() || session_->FileName().isEmpty()));
+  save_->setEnabled(
+      open && (session_->IsModified() || session_->FileName().isEmpty() || inspector_->Editor().IsChanged()));
   undo_->setEnabled(open && session_->CanUndo());
   undo_->setText(open && session_->CanUndo() ? tr("&Undo %1").arg(session_->UndoText()) : tr("&Undo"));
   redo_->setEnabled(open && session_->CanRedo());

@@ -10,6 +10,7 @@ class InspectorPane;
 class PalettePane;
 class QLabel;
 class QListWidget;
+class QShortcut;
 class StructurePane;
 
 class MainWindow : public QMainWindow {
@@ -36,6 +37,9 @@ class MainWindow : public QMainWindow {
   void closeEvent(QCloseEvent* event) override;
 
  private:
+  bool CommitTyping();
+  void PlaceOne(const TClass& cls);
+  void ShowTool();
   void BuildActions();
   void BuildPanes();
   void SetSession(std::unique_ptr<FormSession> session);
@@ -60,6 +64,7 @@ class MainWindow : public QMainWindow {
   QLabel* boundsLabel_ = nullptr;
   QLabel* zoomLabel_ = nullptr;
   QLabel* modifiedLabel_ = nullptr;
+  QShortcut* putDown_ = nullptr;
   QAction* save_ = nullptr;
   QAction* undo_ = nullptr;
   QAction* redo_ = nullptr;

@@ -2,6 +2,7 @@
 
 #include <QtWidgets>
 
+#include "designer/SearchField.h"
 #include "designintf/ComponentIcons.h"
 #include "rtl/Exceptions.h"
 #include "vcl/Prompts.h"
@@ -17,9 +18,7 @@ QString TitleOf(const TComponent& c) {
 }  // namespace
 
 StructurePane::StructurePane(QWidget* parent) : QWidget(parent) {
-  filter_ = new QLineEdit;
-  filter_->setPlaceholderText(tr("Filter..."));
-  filter_->setClearButtonEnabled(true);
+  filter_ = new SearchField(tr("Filter..."), tr("Filter of the structure"));
   tree_ = new QTreeWidget;
   tree_->setObjectName(QStringLiteral("structure"));
   tree_->setHeaderHidden(true);
@@ -71,12 +70,21 @@ void StructurePane::AddItem(TComponent& component, QTreeWidgetItem* parent) {
   for (TComponent* child : component.GetChildren()) AddItem(*child, item);
 }
 
+// What was closed stays closed, and the tree where it was scrolled to.
 void StructurePane::Fill() {
   updating_ = true;
+  const int scroll = tree_->verticalScrollBar()->value();
+  QSet<QString> closed;
+  for (const QTreeWidgetItem* item : std::as_const(items_))
+    if (item->childCount() > 0 && !item->isExpanded()) closed.insert(item->text(0));
   tree_->clear();
   items_.clear();
   if (session_) AddItem(session_->Form(), nullptr);
   tree_->expandAll();
+  for (QTreeWidgetItem* item : std::as_const(items_))
+    if (closed.contains(item->text(0))) item->setExpanded(false);
+  tree_->doItemsLayout();
+  tree_->verticalScrollBar()->setValue(scroll);
   updating_ = false;
   ApplyFilter();
   ShowSelection();
@@ -104,7 +112,10 @@ void StructurePane::ApplyFilter() {
   const QString text = filter_->text();
   std::function<bool(QTreeWidgetItem*)> walk = [&](QTreeWidgetItem* item) {
     bool any = item->text(0).contains(text, Qt::CaseInsensitive);
-    for (int i = 0; i < item->childCount(); ++i) any = walk(item->child(i)) || any;
+    bool below = false;
+    for (int i = 0; i < item->childCount(); ++i) below = walk(item->child(i)) || below;
+    if (below && !text.isEmpty()) item->setExpanded(true);
+    any = any || below;
     item->setHidden(!any);
     return any;
   };

@@ -2,11 +2,19 @@
 
 #include <QtWidgets>
 
+namespace {
+bool IsRedo(const QKeyEvent& key) {
+  return key.matches(QKeySequence::Redo) || key.keyCombination() == (Qt::CTRL | Qt::Key_Y);
+}
+}  // namespace
+
 ValueEditor::ValueEditor(QWidget* parent) : QWidget(parent) {
   setAutoFillBackground(true);
   field_ = new QLineEdit(this);
   field_->setFrame(false);
   field_->setObjectName(QStringLiteral("valueField"));
+  field_->setAccessibleName(tr("Value"));
+  field_->setFocusPolicy(Qt::ClickFocus);  // the list is the stop of the Tab key
   field_->installEventFilter(this);
   drop_ = new QToolButton(this);
   drop_->setArrowType(Qt::DownArrow);
@@ -44,19 +52,42 @@ ValueEditor::ValueEditor(QWidget* parent) : QWidget(parent) {
   connect(field_, &QLineEdit::textEdited, this, [this] { SetProblem({}); });
 }
 
-void ValueEditor::Show(const Setup& setup) {
+void ValueEditor::Show(const Setup& setup, bool keepTyping) {
+  const bool sameRow = setup.name == setup_.name && !isHidden();
   setup_ = setup;
-  SetProblem({});
+  field_->setAccessibleName(setup.name);
   field_->setReadOnly(setup.readOnly);
-  field_->setText(setup.text);
-  field_->setCursorPosition(0);
+  // Even the same limit makes the field forget that somebody typed.
+  if (field_->maxLength() != setup.limit) {
+    const bool typed = field_->isModified();
+    field_->setMaxLength(setup.limit);
+    field_->setModified(typed);
+  }
+  if (!keepTyping) {
+    SetProblem({});
+    // The cursor stays when there is nothing new to show.
+    if (!sameRow || field_->text() != setup.text || field_->isModified()) {
+      field_->setText(setup.text);
+      field_->setCursorPosition(0);
+      if (field_->hasFocus()) field_->selectAll();
+    }
+  }
   drop_->setVisible(!setup.values.isEmpty());
   ellipsis_->setVisible(setup.dialog);
   show();
   raise();
 }
 
-bool ValueEditor::IsChanged() const { return !field_->isReadOnly() && field_->text() != setup_.text; }
+// Of differing values none is shown: emptying all of them shows in nothing but the typing.
+bool ValueEditor::IsChanged() const {
+  return !field_->isReadOnly() && field_->isModified() && (setup_.mixed || field_->text() != setup_.text);
+}
+
+void ValueEditor::SetTyped(const QString& text) {
+  if (field_->text() == text) return;
+  field_->setText(text);
+  field_->setModified(true);
+}
 
 void ValueEditor::Restore() {
   field_->setText(setup_.text);
@@ -64,10 +95,11 @@ void ValueEditor::Restore() {
   SetProblem({});
 }
 
-QString ValueEditor::Problem() const { return problem_->isVisible() ? problem_->text() : QString(); }
+QString ValueEditor::Problem() const { return !problem_->isHidden() ? problem_->text() : QString(); }
 
 void ValueEditor::SetProblem(const QString& reason) {
   problem_->setVisible(!reason.isEmpty());
+  field_->setAccessibleDescription(reason);
   if (reason.isEmpty()) return;
   QPalette p = palette();
   const bool dark = p.color(QPalette::Window).lightness() < 128;
@@ -84,9 +116,9 @@ void ValueEditor::SetProblem(const QString& reason) {
   problem_->raise();
 }
 
-void ValueEditor::resizeEvent(QResizeEvent*) {
-  if (problem_->isVisible()) SetProblem(problem_->text());
-}
+// The reason stays under the field.
+void ValueEditor::moveEvent(QMoveEvent*) { SetProblem(Problem()); }
+void ValueEditor::resizeEvent(QResizeEvent*) { SetProblem(Problem()); }
 
 void ValueEditor::hideEvent(QHideEvent*) { problem_->hide(); }
 
@@ -124,42 +156,92 @@ void ValueEditor::OpenList() {
 }
 
 bool ValueEditor::eventFilter(QObject* watched, QEvent* event) {
-  if (watched != field_ ||
-      (event->type() != QEvent::KeyPress && event->type() != QEvent::MouseButtonDblClick))
-    return QWidget::eventFilter(watched, event);
-  if (event->type() == QEvent::MouseButtonDblClick) {
-    // A double-click opens the dialog, or moves to the next value.
-    if (setup_.dialog) {
-      emit DialogWanted();
-      return true;
+  if (watched != field_) return QWidget::eventFilter(watched, event);
+  switch (event->type()) {
+    case QEvent::ShortcutOverride:
+      return Override(static_cast<QKeyEvent&>(*event));
+    case QEvent::KeyPress:
+      return KeyPressed(static_cast<QKeyEvent&>(*event));
+    case QEvent::MouseButtonDblClick:
+      return DoubleClicked();
+    case QEvent::FocusOut: {
+      const Qt::FocusReason why = static_cast<QFocusEvent*>(event)->reason();
+      if (why != Qt::PopupFocusReason && why != Qt::ActiveWindowFocusReason && why != Qt::MenuBarFocusReason)
+        emit FocusLost();
+      return false;
     }
-    if (!setup_.values.isEmpty()) {
-      const qsizetype at = setup_.values.indexOf(field_->text());
-      emit Entered(setup_.values[(at + 1) % setup_.values.size()]);
-      return true;
-    }
-    return false;
+    default:
+      return false;
   }
-  const auto* key = static_cast<QKeyEvent*>(event);
-  switch (key->key()) {
+}
+
+// A double-click opens the dialog, or moves to the next value.
+bool ValueEditor::DoubleClicked() {
+  if (setup_.dialog) {
+    emit DialogWanted();
+    return true;
+  }
+  if (setup_.values.isEmpty()) return false;
+  const qsizetype at = setup_.values.indexOf(field_->text());
+  emit Entered(setup_.values[(at + 1) % setup_.values.size()]);
+  return true;
+}
+
+// A field takes undo and redo for itself always. Here they belong to the typing while there is any, else to
+// the form.
+bool ValueEditor::Override(QKeyEvent& key) {
+  const bool undo = key.matches(QKeySequence::Undo) && !IsChanged();
+  const bool redo = IsRedo(key) && !field_->isRedoAvailable();
+  if (undo || redo) key.ignore();
+  return undo || redo;
+}
+
+bool ValueEditor::KeyPressed(QKeyEvent& key) {
+  if (key.matches(QKeySequence::Undo)) {
+    // A text that came back with its row has no typing to undo.
+    if (IsChanged() && field_->isUndoAvailable()) return false;
+    if (IsChanged()) Restore();
+    return true;
+  }
+  if (IsRedo(key)) {
+    field_->redo();
+    return true;
+  }
+  switch (key.key()) {
     case Qt::Key_Return:
     case Qt::Key_Enter:
-      if (key->modifiers() & Qt::ControlModifier && setup_.dialog)
+      if (key.modifiers() & Qt::ControlModifier && setup_.dialog)
         emit DialogWanted();
-      else
+      else if (IsChanged())
         emit Entered(field_->text());
+      else
+        field_->selectAll();
       return true;
     case Qt::Key_Escape:
-      Restore();
+      if (IsChanged() || !Problem().isEmpty())
+        Restore();
+      else
+        emit Left();
+      return true;
+    case Qt::Key_Tab:
+    case Qt::Key_Backtab:
+      if (key.modifiers() & Qt::ControlModifier) return false;
+      emit Moved(key.key() == Qt::Key_Tab ? 1 : -1);
       return true;
     case Qt::Key_Up:
       emit Moved(-1);
       return true;
     case Qt::Key_Down:
-      if (key->modifiers() & Qt::AltModifier && !setup_.values.isEmpty())
+      if (key.modifiers() & Qt::AltModifier && !setup_.values.isEmpty())
         OpenList();
       else
         emit Moved(1);
+      return true;
+    case Qt::Key_Left:
+    case Qt::Key_Right:
+      // Where nothing can be typed, as in any tree.
+      if (!field_->isReadOnly() || key.modifiers() & ~Qt::KeypadModifier) return false;
+      emit Opened(key.key() == Qt::Key_Right);
       return true;
     default:
       return false;

@@ -3,7 +3,7 @@
 #pragma once
 #include <QWidget>
 
-class QFrame;
+class QKeyEvent;
 class QLabel;
 class QLineEdit;
 class QToolButton;
@@ -13,34 +13,48 @@ class ValueEditor : public QWidget {
  public:
   explicit ValueEditor(QWidget* parent);
   struct Setup {
+    QString name;  // the row's path
     QString text;
     QStringList values;
+    bool mixed = false;  // the components differ; the text is empty
     bool readOnly = false;
     bool dialog = false;
+    int limit = 255;  // of what can be typed
     std::function<QIcon(const QString&)> iconOf;
   };
-  void Show(const Setup& setup);
+  // Shows a row's value. With `keepTyping` what was typed and the reason under it stay.
+  void Show(const Setup& setup, bool keepTyping = false);
   QLineEdit* Field() const { return field_; }
   QToolButton* DropButton() const { return drop_; }
   QToolButton* EllipsisButton() const { return ellipsis_; }
+  // Whether something was typed that is not applied yet.
   bool IsChanged() const;
+  // A text as if it had been typed.
+  void SetTyped(const QString& text);
   // Shows why the value was refused; empty hides it.
   void SetProblem(const QString& reason);
   QString Problem() const;
   void Restore();
 
  signals:
-  void Entered(const QString& text);  // Enter, or a value chosen from the list
-  void Moved(int rows);               // up or down, after applying
+  void Entered(const QString& text);  // Enter on a changed text, or a value chosen from the list
+  void Moved(int rows);               // to a row above or below, after applying
+  void Opened(bool open);             // the row's own rows
+  void Left();                        // Escape when there is nothing to restore
+  void FocusLost();
   void DialogWanted();
 
  protected:
   bool eventFilter(QObject* watched, QEvent* event) override;
+  void moveEvent(QMoveEvent* event) override;
   void resizeEvent(QResizeEvent* event) override;
   void hideEvent(QHideEvent* event) override;
 
  private:
   void OpenList();
+  bool Override(QKeyEvent& key);
+  bool KeyPressed(QKeyEvent& key);
+  bool DoubleClicked();
   Setup setup_;
   QLineEdit* field_;
   QToolButton* drop_;

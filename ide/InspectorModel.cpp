@@ -8,25 +8,38 @@ using enum TPropertyAttribute;
 
 struct InspectorModel::Node {
   Node* parent = nullptr;
-  int row = 0;
+  int row = 0;  // among those that are shown
   std::unique_ptr<TPropertyEditor> editor;
   QString category;
   bool loaded = false;
-  std::vector<std::unique_ptr<Node>> children;
+  bool above = false;                 // the filter finds something below
+  std::vector<TPersistent*> objects;  // whose properties the rows below are
+  std::vector<std::unique_ptr<Node>> all;
+  std::vector<Node*> shown;  // those that the filter leaves
 
   Node& Add(std::unique_ptr<TPropertyEditor> e) {
     auto node = std::make_unique<Node>();
     node->parent = this;
-    node->row = static_cast<int>(children.size());
     node->editor = std::move(e);
-    children.push_back(std::move(node));
-    return *children.back();
+    all.push_back(std::move(node));
+    return *all.back();
   }
-  QString Path() const {
-    const QString own = editor ? editor->GetName() : category;
-    return parent && parent->parent ? parent->Path() + u'.' + own : own;
+  void ShowAll() {
+    shown.clear();
+    for (const auto& node : all) Show(*node);
   }
+  void Show(Node& node) {
+    node.row = static_cast<int>(shown.size());
+    shown.push_back(&node);
+  }
+  QString Name() const { return editor ? editor->GetName() : category; }
+  QString Path() const { return parent && parent->parent ? parent->Path() + u'.' + Name() : Name(); }
 };
+
+namespace {
+// Deep enough for every value object; an editor that opens into ever new ones ends there.
+constexpr int DeepestSearch = 6;
+}  // namespace
 
 InspectorModel::InspectorModel(QObject* parent)
     : QAbstractItemModel(parent), root_(std::make_unique<Node>()) {}
@@ -36,7 +49,10 @@ void InspectorModel::SetSession(FormSession* session) {
   if (session_) disconnect(session_, nullptr, this, nullptr);
   session_ = session;
   if (session_) {
-    connect(session_, &FormSession::SelectionChanged, this, &InspectorModel::Rebuild);
+    // A selection that is told again changes no row.
+    connect(session_, &FormSession::SelectionChanged, this, [this] {
+      if (shown_ != session_->SelectedComponents()) Rebuild();
+    });
     connect(session_, &FormSession::StructureChanged, this, &InspectorModel::Rebuild);
     connect(session_, &FormSession::FormChanged, this, &InspectorModel::Refresh);
   }
@@ -52,19 +68,34 @@ void InspectorModel::GroupByCategory(bool group) {
   Rebuild();
 }
 void InspectorModel::SetFilter(const QString& text) {
+  if (filter_ == text) return;
+  beginResetModel();
   filter_ = text;
-  Rebuild();
+  Filter(*root_, false);
+  endResetModel();
+}
+
+// Events belong to components; an object that is one of its own has them below it.
+bool InspectorModel::Belongs(const TPropertyEditor& editor) const {
+  if (editor.GetPropInfo().IsEvent()) return events_;
+  if (!events_) return true;
+  if (editor.GetPropType().Kind != TTypeKind::tkClass || !editor.GetAttributes().Contains(paSubProperties))
+    return false;
+  const auto* component = As<TComponent>(editor.GetObjectValue());
+  if (!component) return false;
+  const auto& properties = component->ClassType().Properties();
+  return std::any_of(properties.begin(), properties.end(), [](const TPropInfo* p) { return p->IsEvent(); });
 }
 
 void InspectorModel::Rebuild() {
   beginResetModel();
+  if (running_ > 0) retired_.push_back(std::move(root_));
   root_ = std::make_unique<Node>();
   root_->loaded = true;
   shown_ = session_ ? session_->SelectedComponents() : std::vector<TComponent*>();
   std::vector<std::unique_ptr<TPropertyEditor>> editors;
   GetComponentProperties({shown_.begin(), shown_.end()}, session_, [&](std::unique_ptr<TPropertyEditor> e) {
-    if (e->GetPropInfo().IsEvent() == events_ && e->GetName().contains(filter_, Qt::CaseInsensitive))
-      editors.push_back(std::move(e));
+    if (Belongs(*e)) editors.push_back(std::move(e));
   });
   std::stable_sort(editors.begin(), editors.end(), [](const auto& a, const auto& b) {
     return a->GetName().compare(b->GetName(), Qt::CaseInsensitive) < 0;
@@ -89,14 +120,73 @@ void InspectorModel::Rebuild() {
         group->Add(CreatePropertyEditor(session_, std::move(props)));
       }
   }
+  Filter(*root_, false);
   endResetModel();
 }
 
+// --- The filter
+
+bool InspectorModel::Fits(const Node& node) const {
+  if (filter_.isEmpty() || !node.editor) return false;
+  return (filter_.contains(u'.') ? node.Path() : node.Name()).contains(filter_, Qt::CaseInsensitive);
+}
+
+// Objects that stand above themselves, and the form's other components, are opened by hand only: searching
+// them would never end, or find the properties of somebody else.
+bool InspectorModel::MaySearch(const Node& node) const {
+  int depth = 0;
+  const std::vector<TPersistent*> objects = ObjectsOf(node);
+  const auto isOne = [&](TPersistent* p) {
+    return std::find(objects.begin(), objects.end(), p) != objects.end();
+  };
+  for (const Node* above = node.parent; above; above = above->parent)
+    if (++depth > DeepestSearch || std::any_of(above->objects.begin(), above->objects.end(), isOne))
+      return false;
+  return std::none_of(objects.begin(), objects.end(), [&](TPersistent* p) {
+    const auto* component = As<TComponent>(p);
+    return component && session_->ObjectOf(*component);
+  });
+}
+
+// Chooses the rows below `node` that are shown; true when one of them is found. Below a row that is found by
+// itself `everything` stays.
+bool InspectorModel::Filter(Node& node, bool everything) const {
+  if (filter_.isEmpty()) {
+    node.ShowAll();
+    for (const auto& child : node.all) {
+      child->above = false;
+      if (child->loaded) Filter(*child, true);
+    }
+    return false;
+  }
+  bool any = false;
+  node.shown.clear();
+  for (const auto& child : node.all) {
+    const bool fits = Fits(*child);
+    if (!child->loaded && MaySearch(*child)) Load(*child);
+    child->above = Filter(*child, everything || fits);
+    if (everything || fits || child->above) node.Show(*child);
+    any = any || fits || child->above;
+  }
+  return any;
+}
+
+// --- Rows
+
+// Rows below an object are the object's own; another one in its place has others.
+bool InspectorModel::IsStale(const Node& node) const {
+  if (!node.loaded) return false;
+  if (node.editor &&
+      (node.editor->GetAttributes().Contains(paVolatileSubProperties) || ObjectsOf(node) != node.objects))
+    return true;
+  return std::any_of(node.all.begin(), node.all.end(), [this](const auto& n) { return IsStale(*n); });
+}
+
 void InspectorModel::Refresh() {
-  if (!session_ || shown_ != session_->SelectedComponents()) return Rebuild();
+  if (!session_ || shown_ != session_->SelectedComponents() || IsStale(*root_)) return Rebuild();
   std::function<void(const QModelIndex&)> touch = [&](const QModelIndex& parent) {
     const Node* node = parent.isValid() ? NodeAt(parent) : root_.get();
-    const int rows = node->loaded ? static_cast<int>(node->children.size()) : 0;
+    const int rows = node->loaded ? static_cast<int>(node->shown.size()) : 0;
     if (rows == 0) return;
     emit dataChanged(index(0, 0, parent), index(rows - 1, 1, parent));
     for (int i = 0; i < rows; ++i) touch(index(i, 0, parent));
@@ -108,12 +198,24 @@ InspectorModel::Node* InspectorModel::NodeAt(const QModelIndex& index) const {
   return index.isValid() ? static_cast<Node*>(index.internalPointer()) : root_.get();
 }
 
-// Sub-properties are asked for when a row is opened.
+std::vector<TPersistent*> InspectorModel::ObjectsOf(const Node& node) {
+  std::vector<TPersistent*> objects;
+  if (node.editor && node.editor->GetPropType().Kind == TTypeKind::tkClass)
+    for (int i = 0; i < node.editor->PropCount(); ++i)
+      if (TPersistent* object = node.editor->GetObjectValueAt(i)) objects.push_back(object);
+  return objects;
+}
+
+// Sub-properties are asked for when a row is opened, or searched.
 void InspectorModel::Load(Node& node) const {
   if (node.loaded) return;
   node.loaded = true;
-  if (node.editor && node.editor->GetAttributes().Contains(paSubProperties))
-    node.editor->GetProperties([&](std::unique_ptr<TPropertyEditor> e) { node.Add(std::move(e)); });
+  if (!node.editor || !node.editor->GetAttributes().Contains(paSubProperties)) return;
+  node.objects = ObjectsOf(node);
+  node.editor->GetProperties([&](std::unique_ptr<TPropertyEditor> e) {
+    if (Belongs(*e)) node.Add(std::move(e));
+  });
+  node.ShowAll();
 }
 
 TPropertyEditor* InspectorModel::EditorAt(const QModelIndex& index) const {
@@ -126,9 +228,7 @@ QModelIndex InspectorModel::IndexOfPath(const QString& path) const {
     QModelIndex next;
     for (int row = 0; row < rowCount(at) && !next.isValid(); ++row) {
       const QModelIndex candidate = index(row, 0, at);
-      const Node* node = NodeAt(candidate);
-      if ((node->editor ? node->editor->GetName() : node->category).compare(name, Qt::CaseInsensitive) == 0)
-        next = candidate;
+      if (NodeAt(candidate)->Name().compare(name, Qt::CaseInsensitive) == 0) next = candidate;
     }
     if (!next.isValid()) return {};
     at = next;
@@ -152,6 +252,11 @@ QStringList InspectorModel::ValueList(const QModelIndex& index) const {
 }
 
 QString InspectorModel::Guarded(const QString& text, const std::function<void()>& action) {
+  // What the editor does may make the rows anew, and with them the editor itself.
+  ++running_;
+  const auto done = qScopeGuard([this] {
+    if (--running_ == 0) retired_.clear();
+  });
   try {
     session_->Run(text, shown_, action);
   } catch (const std::exception& e) {
@@ -187,8 +292,8 @@ QString InspectorModel::Reset(const QModelIndex& index) {
 QModelIndex InspectorModel::index(int row, int column, const QModelIndex& parent) const {
   Node* node = NodeAt(parent);
   Load(*node);
-  if (row < 0 || row >= static_cast<int>(node->children.size()) || column < 0 || column > 1) return {};
-  return createIndex(row, column, node->children[static_cast<std::size_t>(row)].get());
+  if (row < 0 || row >= static_cast<int>(node->shown.size()) || column < 0 || column > 1) return {};
+  return createIndex(row, column, node->shown[static_cast<std::size_t>(row)]);
 }
 
 QModelIndex InspectorModel::parent(const QModelIndex& child) const {
@@ -201,13 +306,13 @@ int InspectorModel::rowCount(const QModelIndex& parent) const {
   if (parent.isValid() && parent.column() != 0) return 0;
   Node* node = NodeAt(parent);
   Load(*node);
-  return static_cast<int>(node->children.size());
+  return static_cast<int>(node->shown.size());
 }
 
 bool InspectorModel::hasChildren(const QModelIndex& parent) const {
   if (parent.isValid() && parent.column() != 0) return false;
   const Node* node = NodeAt(parent);
-  if (node->loaded) return !node->children.empty();
+  if (node->loaded) return !node->shown.empty();
   return node->editor && node->editor->GetAttributes().Contains(paSubProperties);
 }
 
@@ -216,6 +321,8 @@ QVariant InspectorModel::data(const QModelIndex& index, int role) const {
   const TPropertyEditor* editor = node->editor.get();
   if (role == IsCategoryRole) return editor == nullptr;
   if (role == PathRole) return node->Path();
+  if (role == FitsRole) return Fits(*node);
+  if (role == IsAboveRole) return node->above;
   if (!editor) return role == Qt::DisplayRole && index.column() == 0 ? QVariant(node->category) : QVariant();
   switch (role) {
     case Qt::DisplayRole:

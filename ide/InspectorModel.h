@@ -9,7 +9,15 @@
 class InspectorModel : public QAbstractItemModel {
   Q_OBJECT
  public:
-  enum Roles { NotDefaultRole = Qt::UserRole, PathRole, IsBooleanRole, IsCategoryRole, DescriptionRole };
+  enum Roles {
+    NotDefaultRole = Qt::UserRole,
+    PathRole,
+    IsBooleanRole,
+    IsCategoryRole,
+    DescriptionRole,
+    FitsRole,    // the filter finds the row itself
+    IsAboveRole  // the filter finds a row below
+  };
 
   explicit InspectorModel(QObject* parent = nullptr);
   ~InspectorModel() override;
@@ -18,7 +26,11 @@ class InspectorModel : public QAbstractItemModel {
   void ShowEvents(bool events);
   bool ShowsEvents() const { return events_; }
   void GroupByCategory(bool group);
+  // Leaves the rows whose names hold the text, sub-properties too, and the rows above them; a text with a
+  // dot is looked for in paths ("LED.Act"). A row that is found keeps all it opens into.
   void SetFilter(const QString& text);
+  // Whose rows these are.
+  const std::vector<TComponent*>& Components() const { return shown_; }
 
   // The editor of a row; null for a category.
   TPropertyEditor* EditorAt(const QModelIndex& index) const;
@@ -43,7 +55,13 @@ class InspectorModel : public QAbstractItemModel {
  private:
   struct Node;
   Node* NodeAt(const QModelIndex& index) const;
+  bool Belongs(const TPropertyEditor& editor) const;
+  static std::vector<TPersistent*> ObjectsOf(const Node& node);
   void Load(Node& node) const;
+  bool MaySearch(const Node& node) const;
+  bool Filter(Node& node, bool everything) const;
+  bool Fits(const Node& node) const;
+  bool IsStale(const Node& node) const;
   void Rebuild();
   void Refresh();
   QString Guarded(const QString& text, const std::function<void()>& action);
@@ -54,4 +72,6 @@ class InspectorModel : public QAbstractItemModel {
   bool events_ = false;
   bool byCategory_ = false;
   QString filter_;
+  int running_ = 0;                             // editors at work
+  std::vector<std::unique_ptr<Node>> retired_;  // rows that went while one of them was at work
 };

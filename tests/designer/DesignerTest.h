@@ -102,6 +102,14 @@ class FakePrompts : public IPrompts {
   int saveNames = 0;
 };
 
+// The palette's button of a class, on whatever page it is.
+inline QToolButton& ButtonOf(MainWindow& window, const char* cls) {
+  PalettePane& palette = window.Palette();
+  auto* tabs = palette.findChild<QTabBar*>();
+  for (int i = 0; i < tabs->count() && !palette.ButtonOf(cls); ++i) tabs->setCurrentIndex(i);
+  return *palette.ButtonOf(cls);
+}
+
 class DesignerTest : public testing::Test {
  protected:
   DesignerTest() {

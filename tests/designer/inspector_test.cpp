@@ -1,27 +1,7 @@
 // Editing values in the inspector.
-#include "tests/designer/DesignerTest.h"
+#include "tests/designer/InspectingTest.h"
 
 using namespace designer;
-
-namespace {
-class Inspecting : public DesignerTest {
- protected:
-  void Show(const char* component, const char* property) {
-    Select(component);
-    ASSERT_TRUE(Inspector().ShowProperty(QLatin1StringView(property)));
-    Inspector().FocusValue();
-    ASSERT_TRUE(Editor().isVisible());
-  }
-  QLineEdit& Field() { return *Editor().Field(); }
-  void Type(const char* text) {
-    Field().selectAll();
-    QTest::keyClicks(&Field(), QString::fromLatin1(text));
-  }
-  std::string Row() {
-    return Inspector().View().currentIndex().data(InspectorModel::PathRole).toString().toStdString();
-  }
-};
-}  // namespace
 
 TEST_F(Inspecting, EnterAppliesAValueAndStays) {
   Show("Button1", "Caption");
@@ -84,9 +64,40 @@ TEST_F(Inspecting, LeavingARowWithARefusedValueComesBackToIt) {
   Show("Button1", "Left");
   Type("wide");
   Inspector().View().setCurrentIndex(Inspector().Model().IndexOfPath(QStringLiteral("Top")));
-  QTRY_COMPARE_WITH_TIMEOUT(Row(), std::string("Left"), 2000);
-  EXPECT_TRUE(Editor().Problem().contains(QStringLiteral("wide")));
+  ExpectRefused("Left", "wide");
   ExpectUntouched();
+}
+
+TEST_F(Inspecting, ALongTextIsShownWholeAndLeftAlone) {
+  const QString text(400, u'x');
+  Session().Run(QStringLiteral("long"), {&Get("Button1")},
+                [&] { dynamic_cast<TControl&>(Get("Button1")).SetCaption(text); });
+  const QByteArray bytes = Session().Bytes();
+  Show("Button1", "Caption");
+  EXPECT_EQ(Field().text(), text);
+  Press(Qt::Key_Down);
+  EXPECT_EQ(Session().Bytes(), bytes);
+}
+
+TEST_F(Inspecting, EnterOnDifferingValuesWithoutTypingChangesNothing) {
+  Session().Select({&Get("Button1"), &Get("Button2")});
+  ASSERT_TRUE(Inspector().ShowProperty(QStringLiteral("Caption")));
+  Inspector().FocusValue();
+  Press(Qt::Key_Return);
+  Press(Qt::Key_Down);
+  ExpectUntouched();
+}
+
+TEST_F(Inspecting, EmptyingDifferingValuesReachesAll) {
+  Session().Select({&Get("Button1"), &Get("Button2")});
+  ASSERT_TRUE(Inspector().ShowProperty(QStringLiteral("Caption")));
+  Inspector().FocusValue();
+  Type("x");
+  Press(Qt::Key_Backspace);
+  Press(Qt::Key_Return);
+  EXPECT_EQ(Caption("Button1"), QString());
+  EXPECT_EQ(Caption("Button2"), QString());
+  ExpectOneCommand();
 }
 
 TEST_F(Inspecting, ANameThatIsTakenIsRefused) {
@@ -197,13 +208,45 @@ TEST_F(Inspecting, TheEventsPageOffersExistingHandlers) {
 
 TEST_F(Inspecting, TheFilterShowsMatchingRowsOnly) {
   Select("Button1");
-  QLineEdit* filter = nullptr;
-  for (QLineEdit* edit : Inspector().findChildren<QLineEdit*>())
-    if (edit->placeholderText().startsWith(QStringLiteral("Filter"))) filter = edit;
-  ASSERT_NE(filter, nullptr);
-  QTest::keyClicks(filter, QStringLiteral("cap"));
+  QTest::keyClicks(&Inspector().FilterField(), QStringLiteral("cap"));
   EXPECT_EQ(Inspector().Model().rowCount(), 1);
   EXPECT_EQ(Inspector().Model().index(0, 0).data().toString(), QStringLiteral("Caption"));
+}
+
+TEST_F(Inspecting, TheFilterOpensTheObjectOfAHitAndClosesItWithTheText) {
+  Select("Led");
+  QLineEdit& filter = Inspector().FilterField();
+  QTest::keyClicks(&filter, QStringLiteral("ActiveColor"));
+  ASSERT_TRUE(RowOf("LED").isValid());
+  EXPECT_TRUE(View().isExpanded(RowOf("LED")));
+  EXPECT_FALSE(View().visualRect(RowOf("LED.ActiveColor")).isEmpty());
+  filter.clear();
+  ASSERT_TRUE(RowOf("Caption").isValid());
+  EXPECT_FALSE(View().isExpanded(RowOf("LED")));
+}
+
+TEST_F(Inspecting, EnterInTheFilterEditsTheFirstHit) {
+  Select("Led");
+  Inspector().FilterField().setFocus();
+  QTest::keyClicks(&Inspector().FilterField(), QStringLiteral("VertS"));
+  Press(Qt::Key_Return);
+  EXPECT_EQ(Row(), "LED.VertSize");
+  EXPECT_TRUE(Field().hasFocus());
+  Type("15");
+  Press(Qt::Key_Return);
+  EXPECT_TRUE(Session().Bytes().contains("LED.VertSize = 15"));
+  EXPECT_EQ(Row(), "LED.VertSize");
+  ExpectOneCommand();
+}
+
+TEST_F(Inspecting, TheRowComesBackWhenTheFilterGoes) {
+  Show("Led", "Caption");
+  QTest::keyClicks(&Inspector().FilterField(), QStringLiteral("HorzSize"));
+  EXPECT_EQ(Row(), "");
+  EXPECT_FALSE(Editor().isVisible());
+  Inspector().FilterField().clear();
+  EXPECT_EQ(Row(), "Caption");
+  EXPECT_TRUE(Editor().isVisible());
 }
 
 TEST_F(Inspecting, TypingInTheNameColumnGoesToAProperty) {

@@ -4,12 +4,6 @@
 using namespace designer;
 
 namespace {
-QToolButton& ButtonOf(MainWindow& window, const char* cls) {
-  PalettePane& palette = window.Palette();
-  auto* tabs = palette.findChild<QTabBar*>();
-  for (int i = 0; i < tabs->count() && !palette.ButtonOf(cls); ++i) tabs->setCurrentIndex(i);
-  return *palette.ButtonOf(cls);
-}
 QTreeWidgetItem* ItemOf(QTreeWidget& tree, const QString& text) {
   const auto items = tree.findItems(text, Qt::MatchStartsWith | Qt::MatchRecursive);
   return items.isEmpty() ? nullptr : items.front();
@@ -53,21 +47,6 @@ TEST_F(DesignerTest, ATimerIsPlacedWhereTheClickWas) {
   EXPECT_EQ(DesignPointOf(Get("Timer2").DesignInfo()).Left, 160);
   EXPECT_EQ(DesignPointOf(Get("Timer2").DesignInfo()).Top, 240);
   ExpectOneCommand();
-}
-
-TEST_F(DesignerTest, ADoubleClickOnThePalettePlacesOnTheForm) {
-  QTest::mouseDClick(&ButtonOf(*window_, "TVRXLEDLabel"), Qt::LeftButton);
-  EXPECT_EQ(Get("VRXLEDLabel1").GetParentComponent(), &Session().Form());
-  ExpectOneCommand();
-}
-
-TEST_F(DesignerTest, EscapePutsTheToolAway) {
-  QToolButton& button = ButtonOf(*window_, "TButton");
-  QTest::mouseClick(&button, Qt::LeftButton);
-  Key(Qt::Key_Escape);
-  EXPECT_EQ(Surface().Tool(), nullptr);
-  EXPECT_FALSE(button.isChecked());
-  ExpectUntouched();
 }
 
 TEST_F(DesignerTest, ThePaletteHasAPageForEveryRegisteredOne) {
@@ -140,4 +119,15 @@ TEST_F(DesignerTest, TheStructureFilterHidesWhatDoesNotFit) {
   EXPECT_FALSE(ItemOf(tree, QStringLiteral("Panel1"))->isHidden());
   EXPECT_TRUE(ItemOf(tree, QStringLiteral("Button1"))->isHidden());
   EXPECT_TRUE(ItemOf(tree, QStringLiteral("Timer1"))->isHidden());
+}
+
+TEST_F(DesignerTest, TheStructureKeepsClosedWhatWasClosed) {
+  QTreeWidget& tree = window_->Structure().Tree();
+  ItemOf(tree, QStringLiteral("Panel1"))->setExpanded(false);
+  Session().DeleteComponents({&Get("Timer1")});
+  EXPECT_FALSE(ItemOf(tree, QStringLiteral("Panel1"))->isExpanded());
+  EXPECT_TRUE(tree.topLevelItem(0)->isExpanded());
+  // A hit inside is shown all the same.
+  QTest::keyClicks(window_->Structure().findChild<QLineEdit*>(), QStringLiteral("inner"));
+  EXPECT_TRUE(ItemOf(tree, QStringLiteral("Panel1"))->isExpanded());
 }

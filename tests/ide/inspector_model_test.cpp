@@ -166,6 +166,178 @@ TEST_F(InspectorTest, TheFilterLeavesMatchingNames) {
   EXPECT_TRUE(Rows().contains(QStringLiteral("Caption")));
 }
 
+TEST_F(InspectorTest, TheFilterFindsSubPropertiesAndKeepsTheRowsAbove) {
+  Show({"Led"});
+  model_.SetFilter(QStringLiteral("ActiveCol"));
+  EXPECT_EQ(Rows().join(u' '), QStringLiteral("LED"));
+  EXPECT_EQ(Rows(At("LED")).join(u' '), QStringLiteral("ActiveColor InActiveColor"));
+  EXPECT_TRUE(At("LED").data(InspectorModel::IsAboveRole).toBool());
+  EXPECT_FALSE(At("LED").data(InspectorModel::FitsRole).toBool());
+  EXPECT_TRUE(At("LED.ActiveColor").data(InspectorModel::FitsRole).toBool());
+  EXPECT_EQ(At("LED.InActiveColor").parent(), At("LED"));
+  EXPECT_EQ(Set("LED.ActiveColor", "clRed"), QString());
+  EXPECT_EQ(Text("LED.ActiveColor"), "clRed");
+  model_.SetFilter({});
+  EXPECT_EQ(Rows(At("LED")).size(), 6);
+  EXPECT_TRUE(Rows().contains(QStringLiteral("Caption")));
+  EXPECT_FALSE(At("LED").data(InspectorModel::IsAboveRole).toBool());
+}
+
+TEST_F(InspectorTest, ARowThatIsFoundKeepsWhatItOpensInto) {
+  Show({"Led"});
+  model_.SetFilter(QStringLiteral("led"));
+  EXPECT_TRUE(Rows().contains(QStringLiteral("LED")));
+  EXPECT_EQ(Rows(At("LED")).size(), 6);
+}
+
+TEST_F(InspectorTest, AFilterWithADotLooksInPaths) {
+  Show({"Led"});
+  model_.SetFilter(QStringLiteral("led.h"));
+  EXPECT_EQ(Rows().join(u' '), QStringLiteral("LED"));
+  EXPECT_EQ(Rows(At("LED")).join(u' '), QStringLiteral("HorzSize"));
+}
+
+TEST_F(InspectorTest, TheFilterFollowsTheSelection) {
+  Show({"Button1"});
+  model_.SetFilter(QStringLiteral("horzsize"));
+  EXPECT_EQ(model_.rowCount(), 0);
+  session_->Select({session_->GetComponent(QStringLiteral("Led"))});
+  EXPECT_EQ(Rows(At("LED")).join(u' '), QStringLiteral("HorzSize"));
+}
+
+TEST_F(InspectorTest, TheFilterWorksInCategoriesToo) {
+  Show({"Led"});
+  model_.GroupByCategory(true);
+  model_.SetFilter(QStringLiteral("horzsize"));
+  EXPECT_EQ(Rows().join(u' '), QStringLiteral("Visual"));
+  EXPECT_EQ(Rows(At("Visual.LED")).join(u' '), QStringLiteral("HorzSize"));
+}
+
+namespace {
+// An editor whose rows open into rows of the same kind, without end.
+class EndlessProperty : public TPropertyEditor {
+ public:
+  using TPropertyEditor::TPropertyEditor;
+  TPropertyAttributes GetAttributes() const override {
+    return {TPropertyAttribute::paSubProperties, TPropertyAttribute::paMultiSelect};
+  }
+  void GetProperties(const TGetPropProc& proc) const override {
+    ++asked;
+    proc(std::make_unique<EndlessProperty>(Designer(), Props()));
+    proc(std::make_unique<EndlessProperty>(Designer(), Props()));
+  }
+  inline static int asked = 0;
+};
+
+// A reference that opens into what it refers to.
+class OpenReferenceProperty : public TComponentProperty {
+ public:
+  using TComponentProperty::TComponentProperty;
+  TPropertyAttributes GetAttributes() const override {
+    return {TPropertyAttribute::paMultiSelect, TPropertyAttribute::paValueList,
+            TPropertyAttribute::paSubProperties};
+  }
+  void GetProperties(const TGetPropProc& proc) const override {
+    if (TPersistent* object = GetObjectValue()) GetComponentProperties({object}, Designer(), proc);
+  }
+};
+}  // namespace
+
+TEST_F(InspectorTest, TheFilterEndsWhereRowsNeverDo) {
+  {
+    const RegistrationScope scope(this, "test");
+    RegisterPropertyEditor(TypeInfoOf<unsigned>::Get(), &TTimer::StaticClass(), "Interval",
+                           VRX_PROPERTY_EDITOR(EndlessProperty));
+  }
+  Show({"Timer1"});
+  EndlessProperty::asked = 0;
+  model_.SetFilter(QStringLiteral("nothing is called so"));
+  EXPECT_EQ(model_.rowCount(), 0);
+  EXPECT_GT(EndlessProperty::asked, 0);
+  EXPECT_LT(EndlessProperty::asked, 200);
+}
+
+TEST_F(InspectorTest, TheFilterDoesNotSearchTheFormsOtherComponents) {
+  {
+    const RegistrationScope scope(this, "test");
+    RegisterPropertyEditor(TWinControl::StaticTypeInfo(), &TLabel::StaticClass(), "FocusControl",
+                           VRX_PROPERTY_EDITOR(OpenReferenceProperty));
+  }
+  Show({"Label1"});
+  ASSERT_TRUE(model_.hasChildren(At("FocusControl")));
+  model_.SetFilter(QStringLiteral("taborder"));  // the button has one, the label has none
+  EXPECT_EQ(model_.rowCount(), 0);
+  model_.SetFilter({});
+  // By hand it opens, and its events are the other page's.
+  EXPECT_TRUE(Rows(At("FocusControl")).contains(QStringLiteral("TabOrder")));
+  EXPECT_FALSE(Rows(At("FocusControl")).contains(QStringLiteral("OnClick")));
+  model_.ShowEvents(true);
+  EXPECT_TRUE(Rows(At("FocusControl")).contains(QStringLiteral("OnClick")));
+  EXPECT_FALSE(Rows(At("FocusControl")).contains(QStringLiteral("TabOrder")));
+}
+
+TEST_F(InspectorTest, TheFilterFindsEvents) {
+  Show({"Timer1"});
+  model_.ShowEvents(true);
+  model_.SetFilter(QStringLiteral("TIM"));
+  EXPECT_EQ(Rows().join(u' '), QStringLiteral("OnTimer"));
+  model_.SetFilter(QStringLiteral("interval"));
+  EXPECT_EQ(model_.rowCount(), 0);
+}
+
+TEST_F(InspectorTest, RowsBelowAnotherObjectAreMadeAnew) {
+  {
+    const RegistrationScope scope(this, "test");
+    RegisterPropertyEditor(TWinControl::StaticTypeInfo(), &TLabel::StaticClass(), "FocusControl",
+                           VRX_PROPERTY_EDITOR(OpenReferenceProperty));
+  }
+  Show({"Label1"});
+  EXPECT_EQ(Text("FocusControl.Name"), "Button1");
+  EXPECT_EQ(Set("FocusControl", "Inner"), QString());
+  EXPECT_EQ(Text("FocusControl.Name"), "Inner");
+  EXPECT_EQ(Set("FocusControl", ""), QString());
+  EXPECT_TRUE(Rows(At("FocusControl")).isEmpty());
+}
+
+TEST_F(InspectorTest, ASelectionThatIsToldAgainMakesNoRowsAnew) {
+  Show({"Button1"});
+  int resets = 0;
+  QObject::connect(&model_, &QAbstractItemModel::modelReset, &model_, [&] { ++resets; });
+  session_->Select(session_->SelectedComponents());
+  EXPECT_EQ(Set("Left", "248"), QString());
+  EXPECT_FALSE(Set("Left", "wide").isEmpty());  // taken back
+  session_->Undo();
+  EXPECT_EQ(resets, 0);
+  EXPECT_EQ(Text("Left"), "240");
+}
+
+namespace {
+// Changes the components of the form while it works, and goes on.
+class MakingProperty : public TIntegerProperty {
+ public:
+  using TIntegerProperty::TIntegerProperty;
+  void SetValue(const QString& value) override {
+    Designer()->CreateComponent(TTimer::StaticClass(), nullptr, QRect(8, 8, 0, 0));
+    name = GetName();
+    TIntegerProperty::SetValue(value);
+  }
+  inline static QString name;
+};
+}  // namespace
+
+TEST_F(InspectorTest, AnEditorOutlivesTheRowsItMakesAnew) {
+  {
+    const RegistrationScope scope(this, "test");
+    RegisterPropertyEditor(TypeInfoOf<unsigned>::Get(), &TTimer::StaticClass(), "Interval",
+                           VRX_PROPERTY_EDITOR(MakingProperty));
+  }
+  Show({"Timer1"});
+  EXPECT_EQ(Set("Interval", "700"), QString());
+  EXPECT_EQ(MakingProperty::name, QStringLiteral("Interval"));
+  EXPECT_NE(session_->GetComponent(QStringLiteral("Timer2")), nullptr);
+  EXPECT_EQ(session_->Bytes().count("Interval = 700"), 1);
+}
+
 TEST_F(InspectorTest, APropertyStandsUnderEveryCategoryItBelongsTo) {
   {
     const RegistrationScope scope(this, "test");

@@ -1,0 +1,20 @@
+// The box that tells and chooses the selected component.
+#pragma once
+#include <QComboBox>
+
+#include "ide/FormSession.h"
+
+class ComponentBox : public QComboBox {
+  Q_OBJECT
+ public:
+  explicit ComponentBox(QWidget* parent = nullptr);
+  void SetSession(FormSession* session);
+
+ protected:
+  void wheelEvent(QWheelEvent* event) override;
+
+ private:
+  void Fill();
+  void Refresh();
+  FormSession* session_ = nullptr;
+};
