@@ -4,6 +4,7 @@
 
 #include "designer/ValueEditor.h"
 #include "designintf/ComponentIcons.h"
+#include "rtl/Clock.h"
 
 using enum TPropertyAttribute;
 
@@ -353,9 +354,10 @@ bool InspectorPane::eventFilter(QObject* watched, QEvent* event) {
       return true;
     }
     if (const QString text = key->text(); !text.isEmpty() && text[0].isLetter()) {
-      static QElapsedTimer last;
-      if (!last.isValid() || last.elapsed() > 1000) typed_.clear();
-      last.start();
+      // A pause starts a new name.
+      const std::int64_t now = ClockMilliseconds();
+      if (now - lastTyped_ > 1000) typed_.clear();
+      lastTyped_ = now;
       JumpTo(typed_ += text);
       return true;
     }

@@ -51,6 +51,7 @@ class InspectorPane : public QWidget {
   QSet<QString> expanded_;
   QString currentPath_;
   QString typed_;
+  std::int64_t lastTyped_ = 0;
   bool returning_ = false;
   bool filling_ = false;
 };

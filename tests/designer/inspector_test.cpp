@@ -1,4 +1,5 @@
 // Editing values in the inspector.
+#include "rtl/Clock.h"
 #include "tests/designer/DesignerTest.h"
 
 using namespace designer;
@@ -84,7 +85,7 @@ TEST_F(Inspecting, LeavingARowWithARefusedValueComesBackToIt) {
   Show("Button1", "Left");
   Type("wide");
   Inspector().View().setCurrentIndex(Inspector().Model().IndexOfPath(QStringLiteral("Top")));
-  QTRY_COMPARE_WITH_TIMEOUT(Row(), std::string("Left"), 2000);
+  QTRY_COMPARE_WITH_TIMEOUT(Row(), std::string("Left"), WaitLimit);
   EXPECT_TRUE(Editor().Problem().contains(QStringLiteral("wide")));
   ExpectUntouched();
 }
@@ -207,10 +208,17 @@ TEST_F(Inspecting, TheFilterShowsMatchingRowsOnly) {
 }
 
 TEST_F(Inspecting, TypingInTheNameColumnGoesToAProperty) {
+  std::int64_t now = 5000;
+  const TClockOverride clock([&] { return now; });
   Select("Button1");
   Inspector().View().setFocus();
-  QTest::keyClicks(&Inspector().View(), QStringLiteral("tab"));
+  QTest::keyClicks(&Inspector().View(), QStringLiteral("t"));
+  now += 1000;
+  QTest::keyClicks(&Inspector().View(), QStringLiteral("ab"));
   EXPECT_EQ(Row(), "TabOrder");
+  now += 1001;  // after a pause another name begins
+  QTest::keyClicks(&Inspector().View(), QStringLiteral("cap"));
+  EXPECT_EQ(Row(), "Caption");
 }
 
 TEST_F(Inspecting, ReturnOnTheFormGoesToTheInspector) {

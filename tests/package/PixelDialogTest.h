@@ -6,7 +6,9 @@
 #include <QtWidgets>
 
 #include "designintf/CustomColors.h"
+#include "library_design/ProgressBar.h"
 #include "tests/support/Modal.h"
+#include "tests/support/Waiting.h"
 #include "vcl/Bitmap.h"
 #include "vcl/Prompts.h"
 
@@ -25,6 +27,20 @@ class ScriptedPrompts : public IPrompts {
   QString SaveFileName(QWidget*, const QString&, const QString&, const QString&) override { return {}; }
   QStringList informed, warned;
   QString file;  // empty: the file dialog is cancelled
+};
+
+// Events are handled after every step of a run, however fast the machine is.
+class RunSteps {
+ public:
+  RunSteps() { RunProgress::SetInterval(0); }
+  ~RunSteps() { RunProgress::SetInterval(RunProgress::UsualInterval); }
+  // Posted between two clicks of a test, this waits until the run that the second one starts handles events.
+  void Next(std::function<void()> act) {
+    QMetaObject::invokeMethod(&context_, std::move(act), Qt::QueuedConnection);
+  }
+
+ private:
+  QObject context_;
 };
 
 class PictureDialogTest : public testing::Test {
