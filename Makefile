@@ -26,8 +26,9 @@ run: build
 test: build
 	ctest --test-dir build/$(PRESET) --output-on-failure -j $(JOBS)
 
+# Says what is missing when a preset or a machine has no benchmarks.
 bench: build
-	$(BIN)/form_bench
+	@cmake --build --preset $(PRESET) --target bench
 
 # The pictures of the README.
 screenshots: build
@@ -37,7 +38,8 @@ asan:
 	$(MAKE) PRESET=asan test
 
 format:
-	git ls-files '*.h' '*.cpp' | xargs clang-format -i
+	@tools/setup.sh format
+	find . -path ./build -prune -o \( -name '*.h' -o -name '*.cpp' \) -print0 | xargs -0 clang-format -i
 
 clean:
 	rm -rf build

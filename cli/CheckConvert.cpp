@@ -53,11 +53,12 @@ int ConvertCommand(const QStringList& list, Console&) {
     throw UsageError{QStringLiteral("--to takes text, binary or resource, not \"%1\"").arg(to)};
   const QString in = args.values[0];
   try {
-    const Document document = Document::Parse(ReadFile(in), DialectOfName(args.values[1]));
+    const QByteArray bytes = ReadFile(in);
+    const Document document = Document::Parse(bytes, DialectOfName(args.values[1]));
     const Format target = to.isEmpty()
                               ? (document.SourceFormat() == Format::Text ? Format::Resource : Format::Text)
                               : formats[to];
-    WriteFile(args.values[1], document.WriteAs(target));
+    WriteFile(args.values[1], document.WriteAs(target), SameFile(in, args.values[1]) ? &bytes : nullptr);
   } catch (const EFormError& e) {
     throw Exception(QStringLiteral("%1: %2").arg(in, e.Message()));
   }

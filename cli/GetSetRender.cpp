@@ -116,7 +116,12 @@ int SetCommand(const QStringList& list, Console& console) {
       }
     }
   });
-  WriteFile(args.options.value(QStringLiteral("-o"), args.values[0]), session->Bytes());
+  const QString file = args.options.value(QStringLiteral("-o"), args.values[0]);
+  if (SameFile(file, args.values[0])) {
+    session->Save();  // refuses when the file has changed since it was read
+  } else {
+    WriteFile(file, session->Bytes());
+  }
   return ExitOk;
 }
 

@@ -7,6 +7,7 @@
 #include "designer/RowSelection.h"
 #include "designer/SearchField.h"
 #include "designer/ValueEditor.h"
+#include "rtl/Clock.h"
 
 using enum TPropertyAttribute;
 
@@ -418,9 +419,10 @@ bool InspectorPane::ListKey(int key, const QString& text) {
     return true;
   }
   if (text.isEmpty() || !text[0].isLetter()) return false;
-  static QElapsedTimer last;
-  if (!last.isValid() || last.elapsed() > 1000) typed_.clear();
-  last.start();
+  // A pause starts a new name.
+  const std::int64_t now = ClockMilliseconds();
+  if (now - lastTyped_ > 1000) typed_.clear();
+  lastTyped_ = now;
   JumpTo(typed_ += text);
   return true;
 }

@@ -89,6 +89,7 @@ class InspectorPane : public QWidget {
   std::array<Place, 2> places_;
   std::optional<Unfinished> unfinished_;
   QString typed_;
+  std::int64_t lastTyped_ = 0;
   int page_ = 0;
   bool inSight_ = true;    // whether the current row could be seen
   bool filling_ = false;   // the rows are made anew

@@ -2,14 +2,18 @@
 
 #include <QtWidgets>
 
+#include "designer/DiskChanges.h"
 #include "designer/FormColorsMenu.h"
 #include "designer/FormSurface.h"
 #include "designer/InspectorPane.h"
+#include "designer/MessageBar.h"
 #include "designer/PalettePane.h"
 #include "designer/StructurePane.h"
 #include "designer/ValueEditor.h"
 #include "designintf/ComponentEditor.h"
 #include "designintf/DesignIntf.h"
+#include "forms/FormFile.h"
+#include "forms/SafeFile.h"
 #include "ide/Placing.h"
 #include "rtl/Exceptions.h"
 #include "vcl/Prompts.h"
@@ -67,7 +71,18 @@ void MainWindow::BuildPanes() {
   scroll->setWidgetResizable(true);
   scroll->setFrameShape(QFrame::NoFrame);
   scroll->setFocusPolicy(Qt::NoFocus);  // the surface has it
-  setCentralWidget(scroll);
+  auto* bar = new MessageBar;
+  auto* middle = new QWidget;
+  auto* column = new QVBoxLayout(middle);
+  column->setContentsMargins({});
+  column->setSpacing(0);
+  column->addWidget(bar);
+  column->addWidget(scroll, 1);
+  setCentralWidget(middle);
+  disk_ = new DiskChanges(*this, *bar);
+  connect(disk_, &DiskChanges::DiffersChanged, this, &MainWindow::UpdateActions);
+  connect(disk_, &DiskChanges::ReloadWanted, this, &MainWindow::Reload);
+  connect(disk_, &DiskChanges::SaveWanted, this, &MainWindow::Save);
 
   const auto dock = [this](const QString& title, QWidget* widget, Qt::DockWidgetArea area) {
     auto* d = new QDockWidget(title, this);
@@ -279,6 +294,7 @@ void MainWindow::SetSession(std::unique_ptr<FormSession> session) {
   structure_->SetSession(nullptr);
   surface_->SetSession(nullptr);
   session_ = std::move(session);
+  disk_->SetSession(session_.get());
   surface_->SetSession(session_.get());
   structure_->SetSession(session_.get());
   inspector_->SetSession(session_.get());
@@ -312,6 +328,7 @@ void MainWindow::UpdateProblems() {
 bool MainWindow::OpenForm(const QString& fileName) {
   try {
     SetSession(FormSession::Open(fileName));
+    forms::RemoveLeftovers(fileName);
     return true;
   } catch (const std::exception& e) {
     Prompts().Warn(this, tr("Open form"),
@@ -320,11 +337,24 @@ bool MainWindow::OpenForm(const QString& fileName) {
   }
 }
 
+bool MainWindow::Reload() {
+  QStringList names;
+  for (const TComponent* c : session_->SelectedComponents()) names << c->Name();
+  if (!OpenForm(session_->FileName())) return false;
+  std::vector<TComponent*> selected;
+  for (const QString& name : names)
+    if (TComponent* c = session_->GetComponent(name)) selected.push_back(c);
+  session_->Select(selected);
+  return true;
+}
+
 void MainWindow::NewForm() { SetSession(FormSession::NewForm(QStringLiteral("Form1"))); }
 
 bool MainWindow::SaveTo(const QString& fileName) {
   try {
+    if (forms::SameFile(fileName, session_->FileName())) return disk_->Save();
     session_->SaveAs(fileName);
+    disk_->SetSession(session_.get());
     return true;
   } catch (const std::exception& e) {
     Prompts().Warn(this, tr("Save form"), ExceptionMessage(e));
@@ -364,6 +394,12 @@ bool MainWindow::MayClose() {
   return false;
 }
 
+bool MainWindow::event(QEvent* event) {
+  const bool handled = QMainWindow::event(event);
+  if (event->type() == QEvent::WindowActivate) disk_->Check();
+  return handled;
+}
+
 void MainWindow::closeEvent(QCloseEvent* event) { event->setAccepted(MayClose()); }
 
 // --- State
@@ -375,8 +411,8 @@ void MainWindow::UpdateActions() {
                                                         : QFileInfo(session_->FileName()).fileName();
   setWindowTitle(open ? tr("%1[*] - Orlenvo-Kit designer").arg(file) : tr("Orlenvo-Kit designer"));
   setWindowModified(open && session_->IsModified());
-  save_->setEnabled(
-      open && (session_->IsModified() || session_->FileName().isEmpty() || inspector_->Editor().IsChanged()));
+  save_->setEnabled(open && (session_->IsModified() || session_->FileName().isEmpty() || disk_->Differs() ||
+                             inspector_->Editor().IsChanged()));
   undo_->setEnabled(open && session_->CanUndo());
   undo_->setText(open && session_->CanUndo() ? tr("&Undo %1").arg(session_->UndoText()) : tr("&Undo"));
   redo_->setEnabled(open && session_->CanRedo());

@@ -5,6 +5,7 @@
 #include "ide/FormSession.h"
 #include "ide/PackageManager.h"
 
+class DiskChanges;
 class FormSurface;
 class InspectorPane;
 class PalettePane;
@@ -21,7 +22,10 @@ class MainWindow : public QMainWindow {
 
   // False, with a message, when the file cannot be opened; the form that was open stays.
   bool OpenForm(const QString& fileName);
+  // The file once more, with the same selection; what was changed here is given up.
+  bool Reload();
   void NewForm();
+  // False when the form was not written. A file that another program changed is replaced only on demand.
   bool Save();
   bool SaveAs();
   // Asks when there are changes; false when the person wants to stay.
@@ -34,6 +38,7 @@ class MainWindow : public QMainWindow {
   StructurePane& Structure() { return *structure_; }
 
  protected:
+  bool event(QEvent* event) override;
   void closeEvent(QCloseEvent* event) override;
 
  private:
@@ -54,6 +59,7 @@ class MainWindow : public QMainWindow {
 
   PackageManager& packages_;
   std::unique_ptr<FormSession> session_;
+  DiskChanges* disk_ = nullptr;
   FormSurface* surface_ = nullptr;
   InspectorPane* inspector_ = nullptr;
   PalettePane* palette_ = nullptr;

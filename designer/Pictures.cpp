@@ -7,8 +7,10 @@
 #include "designer/InspectorPane.h"
 #include "designer/MainWindow.h"
 #include "designer/ValueEditor.h"
+#include "forms/FormFile.h"
 #include "rtl/Exceptions.h"
 #include "vcl/FormColors.h"
+#include "vcl/PictureFile.h"
 #include "vcl/Theme.h"
 
 namespace {
@@ -20,8 +22,7 @@ class Album {
   void Take(QWidget& widget, const QString& name) {
     QCoreApplication::processEvents();
     const QString file = folder_.filePath(name + QStringLiteral(".png"));
-    if (!widget.grab().save(file))
-      throw Exception(QStringLiteral("The picture %1 cannot be written").arg(file));
+    forms::WriteFile(file, PictureToBytes(widget.grab().toImage(), "PNG"));
     files << file;
   }
   QStringList files;

@@ -2,8 +2,9 @@
 
 #include <QFile>
 #include <QFileInfo>
-#include <QSaveFile>
 #include <cstdio>
+
+#include "forms/SafeFile.h"
 
 namespace forms {
 
@@ -39,21 +40,16 @@ Document LoadForm(const QString& fileName) {
   return Document::Parse(ReadFile(fileName), DialectOfName(fileName));
 }
 
-void WriteFile(const QString& fileName, const QByteArray& bytes) {
-  const auto fail = [&](const QString& why) {
-    throw Exception(QStringLiteral("Cannot save %1: %2. The file on disk is unchanged.").arg(fileName, why));
-  };
-  if (fileName == QStringLiteral("-")) {
-    QFile out;
-    if (!out.open(stdout, QIODevice::WriteOnly) || out.write(bytes) != bytes.size() || !out.flush())
-      throw Exception(QStringLiteral("Cannot write to standard output: %1").arg(out.errorString()));
-    return;
-  }
-  QSaveFile file(fileName);
-  // Never write in place: a half-written form would be worse than an error.
-  file.setDirectWriteFallback(false);
-  if (!file.open(QIODevice::WriteOnly)) fail(file.errorString());
-  if (file.write(bytes) != bytes.size() || !file.commit()) fail(file.errorString());
+bool SameFile(const QString& a, const QString& b) {
+  const QFileInfo first(a);
+  return a == b || (first.exists() && first == QFileInfo(b));
+}
+
+void WriteFile(const QString& fileName, const QByteArray& bytes, const QByteArray* expected) {
+  if (fileName != QStringLiteral("-")) return ReplaceFile(fileName, bytes, expected);
+  QFile out;
+  if (!out.open(stdout, QIODevice::WriteOnly) || out.write(bytes) != bytes.size() || !out.flush())
+    throw Exception(QStringLiteral("Cannot write to standard output: %1").arg(out.errorString()));
 }
 
 }  // namespace forms

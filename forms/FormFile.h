@@ -1,4 +1,4 @@
-// Form files on disk. Saving is atomic: whatever fails, the old file is still whole.
+// Form files on disk. Everything that is written for a person goes through here.
 #pragma once
 #include "forms/Document.h"
 
@@ -9,7 +9,10 @@ Dialect DialectOfName(const QString& fileName);
 // "-" is standard input. Errors: Exception (cannot be read) or EFormError.
 QByteArray ReadFile(const QString& fileName);
 Document LoadForm(const QString& fileName);
-// Replaces the file in one step; "-" is standard output. Throws Exception and leaves the old file.
-void WriteFile(const QString& fileName, const QByteArray& bytes);
+// Whether two names lead to one file; links are followed.
+bool SameFile(const QString& a, const QString& b);
+// Replaces the file in one step (forms/SafeFile.h); "-" is standard output. Throws Exception and leaves the
+// old file.
+void WriteFile(const QString& fileName, const QByteArray& bytes, const QByteArray* expected = nullptr);
 
 }  // namespace forms

@@ -1,5 +1,7 @@
 #include "ide/FormSession.h"
 
+#include <QFileInfo>
+
 #include "designintf/ComponentEditor.h"
 #include "designintf/DesignIntf.h"
 #include "designintf/DesignWindow.h"
@@ -30,8 +32,9 @@ FormSession::~FormSession() {
 
 std::unique_ptr<FormSession> FormSession::FromBytes(QByteArray bytes, const QString& fileName) {
   std::unique_ptr<FormSession> session(
-      new FormSession(forms::Document::Parse(std::move(bytes), forms::DialectOfName(fileName))));
+      new FormSession(forms::Document::Parse(bytes, forms::DialectOfName(fileName))));
   session->fileName_ = fileName;
+  session->onDisk_ = std::move(bytes);  // shared with the document
   session->Build();
   NotifyDesign([&](IDesignNotification& n) { n.DesignerOpened(session.get()); });
   return session;
@@ -108,11 +111,20 @@ std::vector<TComponent*> FormSession::AllComponents() const {
 
 // --- Files
 
-void FormSession::Save() { SaveAs(fileName_); }
+void FormSession::Save() { Write(fileName_, &onDisk_); }
+void FormSession::SaveAs(const QString& fileName) { Write(fileName, nullptr); }
 
-void FormSession::SaveAs(const QString& fileName) {
+DiskState FormSession::StateOnDisk() const {
+  if (fileName_ == QStringLiteral("-")) return DiskState::Same;
+  if (!QFileInfo::exists(fileName_)) return DiskState::Gone;
+  return forms::ReadFile(fileName_) == onDisk_ ? DiskState::Same : DiskState::Changed;
+}
+
+void FormSession::Write(const QString& fileName, const QByteArray* expected) {
   SettleStray();
-  forms::WriteFile(fileName, Bytes());
+  QByteArray bytes = Bytes();
+  forms::WriteFile(fileName, bytes, expected);
+  onDisk_ = std::move(bytes);
   fileName_ = fileName;
   clean_ = position_;
   emit ModifiedChanged();

@@ -11,6 +11,9 @@
 #include "ide/Command.h"
 #include "vcl/Form.h"
 
+// What became of a file since it was read or written here last. Its content decides.
+enum class DiskState { Same, Changed, Gone };
+
 class FormSession : public QObject, public IDesigner, public IControlHost {
   Q_OBJECT
  public:
@@ -32,9 +35,15 @@ class FormSession : public QObject, public IDesigner, public IControlHost {
   // --- Files
   const QString& FileName() const { return fileName_; }
   QByteArray Bytes() const { return document_.Write(); }
-  // Throws and stays modified when the file cannot be written; the old file is then untouched.
+  // Both throw and stay modified when the file cannot be written; the old file is then untouched. Save also
+  // refuses (EFileChanged) when another program changed or removed the file meanwhile; SaveAs replaces any
+  // file.
   void Save();
   void SaveAs(const QString& fileName);
+  // Throws when the file cannot be read.
+  DiskState StateOnDisk() const;
+  // The person has seen what another program wrote; the next Save may replace it.
+  void AcceptOnDisk(const QByteArray& seen) { onDisk_ = seen; }
   bool IsModified() const { return position_ != clean_; }
 
   // --- Commands
@@ -114,6 +123,7 @@ class FormSession : public QObject, public IDesigner, public IControlHost {
   struct Pending;
   explicit FormSession(forms::Document document);
   void Build();
+  void Write(const QString& fileName, const QByteArray* expected);
   void Capture(TComponent& component);
   void Begin(int kind);
   void NoteStray();
@@ -151,6 +161,7 @@ class FormSession : public QObject, public IDesigner, public IControlHost {
   std::unique_ptr<TForm> root_;
   std::vector<forms::Finding> findings_;
   QString fileName_;
+  QByteArray onDisk_;  // what the file held when it was read or written last
   std::vector<TComponent*> selection_;
   std::vector<std::unique_ptr<Command>> commands_;
   int position_ = 0;

@@ -3,6 +3,8 @@
 #include <QCoreApplication>
 #include <QPainter>
 
+#include "rtl/Clock.h"
+
 TVRXProgressBar::TVRXProgressBar(int segments, QWidget* parent) : QWidget(parent), segments_(segments) {
   setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
 }
@@ -34,11 +36,21 @@ void TVRXProgressBar::paintEvent(QPaintEvent*) {
     p.drawRect(QRectF(room.left() + i * step + 0.5, room.top(), std::max(1.0, step - 1.5), room.height()));
 }
 
+namespace {
+std::int64_t& Interval() {
+  static std::int64_t interval = RunProgress::UsualInterval;
+  return interval;
+}
+}  // namespace
+
+RunProgress::RunProgress(TVRXProgressBar& bar) : bar_(bar), lastEvents_(ClockMilliseconds()) {}
+
+void RunProgress::SetInterval(std::int64_t milliseconds) { Interval() = milliseconds; }
+
 void RunProgress::Report(int percent, std::int64_t) { bar_.SetPercent(percent); }
 
 void RunProgress::ProcessMessages(std::int64_t) {
-  constexpr qint64 Interval = 15;  // milliseconds
-  if (sinceEvents_.elapsed() < Interval) return;
+  if (ClockMilliseconds() - lastEvents_ < Interval()) return;
   QCoreApplication::processEvents();
-  sinceEvents_.restart();
+  lastEvents_ = ClockMilliseconds();
 }

@@ -1,6 +1,5 @@
 // Shows how far a run is.
 #pragma once
-#include <QElapsedTimer>
 #include <QWidget>
 
 #include "library/pixels/Progress.h"
@@ -27,11 +26,14 @@ class TVRXProgressBar : public QWidget {
 // notices and so rarely that it costs nothing.
 class RunProgress : public IVRXProgress {
  public:
-  explicit RunProgress(TVRXProgressBar& bar) : bar_(bar) { sinceEvents_.start(); }
+  static constexpr std::int64_t UsualInterval = 15;  // milliseconds
+  explicit RunProgress(TVRXProgressBar& bar);
+  // How long a run goes on until events are handled again; 0 handles them after every step. For all runs.
+  static void SetInterval(std::int64_t milliseconds);
   void Report(int percent, std::int64_t times) override;
   void ProcessMessages(std::int64_t times) override;
 
  private:
   TVRXProgressBar& bar_;
-  QElapsedTimer sinceEvents_;
+  std::int64_t lastEvents_;
 };

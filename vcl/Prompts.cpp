@@ -2,6 +2,7 @@
 
 #include <QFileDialog>
 #include <QMessageBox>
+#include <QPushButton>
 
 namespace {
 class WidgetPrompts : public IPrompts {
@@ -19,6 +20,21 @@ class WidgetPrompts : public IPrompts {
     return button == QMessageBox::Save      ? TAnswer::Yes
            : button == QMessageBox::Discard ? TAnswer::No
                                             : TAnswer::Cancel;
+  }
+  TFileAnswer AskFileChanged(QWidget* parent, const QString& title, const QString& text) override {
+    QMessageBox box(QMessageBox::Warning, title, text, QMessageBox::Cancel, parent);
+    box.setInformativeText(
+        QObject::tr("Reload takes the file on disk and gives up the changes made here. Overwrite does the "
+                    "reverse. Show both lets you compare them first."));
+    const std::pair<QAbstractButton*, TFileAnswer> choices[] = {
+        {box.addButton(QObject::tr("&Reload"), QMessageBox::ActionRole), TFileAnswer::Reload},
+        {box.addButton(QObject::tr("&Overwrite"), QMessageBox::ActionRole), TFileAnswer::Overwrite},
+        {box.addButton(QObject::tr("&Show both..."), QMessageBox::ActionRole), TFileAnswer::ShowBoth}};
+    box.setDefaultButton(qobject_cast<QPushButton*>(choices[2].first));
+    box.exec();
+    for (const auto& [button, answer] : choices)
+      if (box.clickedButton() == button) return answer;
+    return TFileAnswer::Cancel;
   }
   bool Confirm(QWidget* parent, const QString& title, const QString& text) override {
     return QMessageBox::question(parent, title, text) == QMessageBox::Yes;

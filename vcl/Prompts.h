@@ -5,6 +5,7 @@
 class QWidget;
 
 enum class TAnswer { Yes, No, Cancel };
+enum class TFileAnswer { Reload, Overwrite, ShowBoth, Cancel };
 
 class IPrompts {
  public:
@@ -13,6 +14,10 @@ class IPrompts {
   virtual void Warn(QWidget* parent, const QString& title, const QString& text) = 0;
   // Save, do not save, or stay. `text` names what would be lost.
   virtual TAnswer AskToSave(QWidget* parent, const QString& text) = 0;
+  // Another program changed the file that is to be saved; `text` names it. Who has no answer writes nothing.
+  virtual TFileAnswer AskFileChanged(QWidget*, const QString& /*title*/, const QString& /*text*/) {
+    return TFileAnswer::Cancel;
+  }
   virtual bool Confirm(QWidget* parent, const QString& title, const QString& text) = 0;
   // Empty when cancelled.
   virtual QString OpenFileName(QWidget* parent, const QString& title, const QString& folder,

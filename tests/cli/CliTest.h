@@ -34,7 +34,7 @@ inline ProcessResult RealVrx(const QStringList& arguments, const QByteArray& inp
   process.write(input);
   process.closeWriteChannel();
   ProcessResult r;
-  if (!process.waitForFinished(60000)) return r;
+  if (!process.waitForFinished(-1)) return r;
   if (process.exitStatus() == QProcess::NormalExit) r.code = process.exitCode();
   r.out = process.readAllStandardOutput();
   r.err = process.readAllStandardError();

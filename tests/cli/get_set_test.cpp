@@ -1,6 +1,23 @@
+#include <unistd.h>
+
 #include "CliTest.h"
+#include "forms/SafeFile.h"
 
 namespace {
+// While it lives, another program writes into the file between a command's reading and its writing.
+class ForeignChange {
+ public:
+  ForeignChange(const QString& file, const QByteArray& bytes) {
+    forms::Steps().sync = [=](int fd) {
+      QFile out(file);
+      EXPECT_TRUE(out.open(QIODevice::WriteOnly | QIODevice::Truncate));
+      out.write(bytes);
+      return ::fdatasync(fd);
+    };
+  }
+  ~ForeignChange() { forms::Steps() = forms::SystemSteps(); }
+};
+
 using GetCli = Cli;
 class SetCli : public Cli {
  protected:
@@ -135,6 +152,23 @@ TEST_F(SetCli, AnotherFileTakesTheResult) {
             QByteArray(SmallForm).replace("    Left = 8\n    Top = 16", "    Left = 9\n    Top = 16"));
   EXPECT_EQ(Vrx({L("set"), file, L("-o"), out, L("Go.Left=x y")}).code, 1);
   EXPECT_TRUE(Read(out).contains("Left = 9"));
+}
+
+TEST_F(SetCli, AFileThatChangesMeanwhileIsLeftAlone) {
+  const QString file = Write("a.dfm", SmallForm);
+  const QByteArray other = QByteArray(SmallForm).replace("'Small'", "'Other'");
+  const ForeignChange change(file, other);
+  for (const QStringList& to : {QStringList(), {L("-o"), file}, {L("-o"), Path("./a.dfm")}}) {
+    Write("a.dfm", SmallForm);
+    const Result r = Vrx(QStringList{L("set"), file, L("Go.Left=9")} + to);
+    EXPECT_EQ(r.code, 1);
+    EXPECT_TRUE(r.err.startsWith(L("vrx set: ")) && r.err.contains(file) &&
+                r.err.contains(L("another program")))
+        << r.err.toStdString();
+    EXPECT_EQ(Read(file), other);
+  }
+  const QString out = Path("out.dfm");
+  EXPECT_EQ(Vrx({L("set"), file, L("-o"), out, L("Go.Left=9")}).code, 0);
 }
 
 TEST_F(SetCli, ABinaryFormStaysBinary) {

@@ -17,6 +17,7 @@
 #include "package/dialogs/pVRXLEDEditorDlg.h"
 #include "package/registration/VRX_RegMain.h"
 #include "tests/support/Modal.h"
+#include "tests/support/Waiting.h"
 #include "vcl/ExtCtrls.h"
 #include "vcl/Prompts.h"
 #include "vcl/StdCtrls.h"
@@ -90,14 +91,25 @@ class FakePrompts : public IPrompts {
     questions << text;
     return answer;
   }
-  bool Confirm(QWidget*, const QString&, const QString&) override { return true; }
+  TFileAnswer AskFileChanged(QWidget*, const QString&, const QString& text) override {
+    questions << text;
+    if (whileAsking) whileAsking();
+    return fileAnswers.isEmpty() ? TFileAnswer::Cancel : fileAnswers.takeFirst();
+  }
+  bool Confirm(QWidget*, const QString&, const QString& text) override {
+    confirmations << text;
+    return confirm;
+  }
   QString OpenFileName(QWidget*, const QString&, const QString&, const QString&) override { return fileName; }
   QString SaveFileName(QWidget*, const QString&, const QString&, const QString&) override {
     ++saveNames;
     return fileName;
   }
-  QStringList informed, warnings, questions;
+  QStringList informed, warnings, questions, confirmations;
+  bool confirm = true;
   TAnswer answer = TAnswer::Cancel;
+  QList<TFileAnswer> fileAnswers;     // in turn; then Cancel
+  std::function<void()> whileAsking;  // what happens before the person answers
   QString fileName;
   int saveNames = 0;
 };
@@ -124,7 +136,7 @@ class DesignerTest : public testing::Test {
   }
   void SetUp() override {
     window_->show();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(window_.get()));
+    ASSERT_TRUE(QTest::qWaitForWindowActive(window_.get(), WaitLimit));
     ASSERT_TRUE(window_->OpenForm(file_));
     QCoreApplication::processEvents();
     Surface().setFocus();

@@ -1,4 +1,5 @@
 // Editing values in the inspector.
+#include "rtl/Clock.h"
 #include "tests/designer/InspectingTest.h"
 
 using namespace designer;
@@ -250,10 +251,17 @@ TEST_F(Inspecting, TheRowComesBackWhenTheFilterGoes) {
 }
 
 TEST_F(Inspecting, TypingInTheNameColumnGoesToAProperty) {
+  std::int64_t now = 5000;
+  const TClockOverride clock([&] { return now; });
   Select("Button1");
   Inspector().View().setFocus();
-  QTest::keyClicks(&Inspector().View(), QStringLiteral("tab"));
+  QTest::keyClicks(&Inspector().View(), QStringLiteral("t"));
+  now += 1000;
+  QTest::keyClicks(&Inspector().View(), QStringLiteral("ab"));
   EXPECT_EQ(Row(), "TabOrder");
+  now += 1001;  // after a pause another name begins
+  QTest::keyClicks(&Inspector().View(), QStringLiteral("cap"));
+  EXPECT_EQ(Row(), "Caption");
 }
 
 TEST_F(Inspecting, ReturnOnTheFormGoesToTheInspector) {

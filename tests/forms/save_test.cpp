@@ -4,9 +4,8 @@
 #include <unistd.h>
 
 #include <csignal>
-#include <random>
-#include <thread>
 
+#include "forms/SafeFile.h"
 #include "tests/forms/FormTest.h"
 
 using namespace formtest;
@@ -14,6 +13,7 @@ using namespace formtest;
 namespace {
 class Save : public testing::Test {
  protected:
+  ~Save() override { forms::Steps() = forms::SystemSteps(); }
   QString File(const char* name = "unit1.dfm") const { return folder_.filePath(QLatin1StringView(name)); }
   void Put(const QString& file, const QByteArray& bytes) const {
     QFile out(file);
@@ -115,28 +115,6 @@ TEST_F(Save, AFullDiskLeavesTheOldFile) {
     EXPECT_EQ(result, 0) << limit;
     EXPECT_EQ(ReadBytes(File()), "object Old: T\nend\n") << limit;
     EXPECT_EQ(QDir(folder_.path()).entryList(QDir::Files).size(), 1) << limit;
-  }
-}
-
-TEST_F(Save, AKilledProcessLeavesTheOldOrTheNewFileWhole) {
-  const QByteArray contents[] = {BigForm('a', 3000), BigForm('b', 6000)};
-  forms::WriteFile(File(), contents[0]);
-  std::mt19937 random(17);
-  for (int round = 0; round < 40; ++round) {
-    const QString file = File();
-    const pid_t child = fork();
-    if (child == 0) {
-      for (int i = 1;; i = 1 - i) forms::WriteFile(file, contents[i]);
-    }
-    std::this_thread::sleep_for(std::chrono::microseconds(random() % 20000));
-    kill(child, SIGKILL);
-    int status = 0;
-    waitpid(child, &status, 0);
-    ASSERT_TRUE(WIFSIGNALED(status));
-    const QByteArray now = ReadBytes(File());
-    ASSERT_TRUE(now == contents[0] || now == contents[1])
-        << "round " << round << ": " << now.size() << " bytes";
-    EXPECT_EQ(Document::Parse(now).Write(), now);
   }
 }
 

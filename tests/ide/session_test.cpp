@@ -1,4 +1,6 @@
 // An open form beyond single commands: errors, saving, unknown classes, selection, listeners.
+#include "forms/FormFile.h"
+#include "forms/SafeFile.h"
 #include "ide/Unknown.h"
 #include "tests/ide/SessionTest.h"
 
@@ -160,6 +162,32 @@ TEST_F(SessionTest, SavingWritesTheFormsBytes) {
   EXPECT_EQ(FileBytes(name), session_->Bytes());
   EXPECT_EQ(session_->FileName(), name);
   EXPECT_EQ(StateOf(*FormSession::Open(name)), StateOf(*session_));
+}
+
+TEST_F(SessionTest, SaveReplacesOnlyWhatWasReadOrWrittenHere) {
+  QTemporaryDir folder;
+  const QString name = folder.filePath(QStringLiteral("form.dfm"));
+  const auto put = [&](const QByteArray& bytes) {
+    QFile file(name);
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write(bytes);
+  };
+  session_->SaveAs(name);
+  EXPECT_EQ(session_->StateOnDisk(), DiskState::Same);
+  put("theirs");
+  EXPECT_EQ(session_->StateOnDisk(), DiskState::Changed);
+  EXPECT_THROW(session_->Save(), forms::EFileChanged);
+  EXPECT_EQ(forms::ReadFile(name), "theirs");
+  session_->AcceptOnDisk("theirs");
+  session_->Save();
+  EXPECT_EQ(forms::ReadFile(name), session_->Bytes());
+  ASSERT_TRUE(QFile::remove(name));
+  EXPECT_EQ(session_->StateOnDisk(), DiskState::Gone);
+  EXPECT_THROW(session_->Save(), forms::EFileChanged);
+  const auto opened = (session_->SaveAs(name), FormSession::Open(name));
+  EXPECT_EQ(opened->StateOnDisk(), DiskState::Same);
+  put("theirs");
+  EXPECT_THROW(opened->Save(), forms::EFileChanged);
 }
 
 TEST_F(SessionTest, ASaveThatFailsKeepsOldFileAndModifiedMark) {

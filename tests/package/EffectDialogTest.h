@@ -16,16 +16,13 @@ class EffectDialog : public pixeltest::PictureDialogTest {
     });
     return dlg.ShowModal();
   }
-  // Acts as soon as a run is on, from inside of it.
+  // Acts in the next run, from inside of it.
   void DuringRun(std::function<void()> act) {
-    auto* timer = new QTimer(&dlg);
-    QObject::connect(timer, &QTimer::timeout, timer, [this, timer, act = std::move(act)] {
-      if (dlg.EXECUTE->isEnabled()) return;
-      timer->stop();
+    steps_.Next([this, act = std::move(act)] {
+      EXPECT_FALSE(dlg.EXECUTE->isEnabled());
       acted = true;
       act();
     });
-    timer->start(1);
   }
   void LoadPicture(const TBitmap& picture) {
     Offer(picture);
@@ -42,9 +39,9 @@ class EffectDialog : public pixeltest::PictureDialogTest {
     EXPECT_TRUE(pictures[2] == pixeltest::Plain(4, 4, clLime));
     EXPECT_TRUE(pictures[3] == pixeltest::Plain(5, 5, clBlue));
   }
-  // So much to do that a run takes its time.
+  // So much to do that a run has many steps.
   static TBitmap Noise() {
-    TBitmap picture = TBitmap::Uninitialized(1500, 1500);
+    TBitmap picture = TBitmap::Uninitialized(90, 60);
     std::uint32_t seed = 1;
     for (int y = 0; y < picture.Height(); ++y) {
       std::uint32_t* row = picture.WritableRow(y);
@@ -61,4 +58,7 @@ class EffectDialog : public pixeltest::PictureDialogTest {
   TBitmap pictures[4];
   TVRX3DEffectEditorDlg dlg{nullptr};
   bool acted = false;
+
+ private:
+  pixeltest::RunSteps steps_;
 };

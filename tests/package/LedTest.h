@@ -8,6 +8,7 @@
 #include "designintf/CustomColors.h"
 #include "package/dialogs/pVRXLEDEditorDlg.h"
 #include "tests/support/Modal.h"
+#include "tests/support/Waiting.h"
 
 namespace ledtest {
 
@@ -33,7 +34,7 @@ inline void Apply(const Look& look, TVRXLED& led) {
 
 inline void ShowActive(QWidget& window) {
   window.show();
-  ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&window, WaitLimit));
 }
 
 // Puts a text into a spin edit as a person does.

@@ -6,13 +6,29 @@
 #include <QtWidgets>
 
 #include "designintf/CustomColors.h"
+#include "library_design/ProgressBar.h"
 #include "tests/support/Modal.h"
 #include "tests/support/Prompted.h"
+#include "tests/support/Waiting.h"
 #include "vcl/Bitmap.h"
 
 namespace pixeltest {
 
 using ::ScriptedPrompts;
+
+// Events are handled after every step of a run, however fast the machine is.
+class RunSteps {
+ public:
+  RunSteps() { RunProgress::SetInterval(0); }
+  ~RunSteps() { RunProgress::SetInterval(RunProgress::UsualInterval); }
+  // Posted between two clicks of a test, this waits until the run that the second one starts handles events.
+  void Next(std::function<void()> act) {
+    QMetaObject::invokeMethod(&context_, std::move(act), Qt::QueuedConnection);
+  }
+
+ private:
+  QObject context_;
+};
 
 class PictureDialogTest : public testing::Test {
  protected:

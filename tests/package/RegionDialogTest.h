@@ -9,7 +9,7 @@ class RegionDialog : public pixeltest::PictureDialogTest {
     PictureDialogTest::SetUp();
     dlg.SetLabels();
     dlg.show();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(&dlg));
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&dlg, WaitLimit));
   }
   void Load(const TBitmap& picture) {
     Offer(picture);

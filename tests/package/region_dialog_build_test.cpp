@@ -84,6 +84,25 @@ TEST_F(RegionBuild, EveryButtonStyleStoresTwoStates) {
   }
 }
 
+TEST_F(RegionBuild, NothingCanBeChangedOrConfirmedWhileItRuns) {
+  RunSteps steps;
+  Pick();
+  dlg.pages->setCurrentIndex(1);
+  bool acted = false;
+  steps.Next([&] {
+    acted = true;
+    EXPECT_FALSE(dlg.pages->isEnabled());
+    EXPECT_FALSE(dlg.OKButton->isEnabled());
+    EXPECT_TRUE(dlg.Progress->isVisible());
+    Click(dlg.BuildButton);
+  });
+  Click(dlg.BuildButton);
+  EXPECT_TRUE(acted);
+  EXPECT_TRUE(dlg.OKButton->isEnabled());
+  EXPECT_EQ(dlg.mask->RegionData(),
+            BuildWindowRegion(BarOnSilver(), Silver, TRegionBorder::None, nullptr).RegionData());
+}
+
 TEST_F(RegionBuild, CompressionAndDepthAreWrittenToTheMask) {
   dlg.pages->setCurrentIndex(1);
   dlg.ccb->click();

@@ -1,4 +1,5 @@
 #include "VclTest.h"
+#include "tests/support/Waiting.h"
 #include "vcl/ControlView.h"
 #include "vcl/ExtCtrls.h"
 #include "vcl/FormColors.h"
@@ -206,14 +207,14 @@ TEST(ControlView, RepaintsWhenSomethingInsideChanges) {
   view.installEventFilter(&counter);
   view.resize(200, 60);
   view.show();
-  ASSERT_TRUE(QTest::qWaitForWindowExposed(&view));
+  ASSERT_TRUE(QTest::qWaitForWindowExposed(&view, WaitLimit));
   QCoreApplication::processEvents();
   const int before = counter.paints;
   ASSERT_GT(before, 0);
   QCoreApplication::processEvents();
   EXPECT_EQ(counter.paints, before);
   label.SetCaption(QStringLiteral("changed"));
-  EXPECT_TRUE(QTest::qWaitFor([&] { return counter.paints > before; }, 2000));
+  EXPECT_TRUE(QTest::qWaitFor([&] { return counter.paints > before; }, WaitLimit));
   panel.SetColor(clRed);
   EXPECT_EQ(view.grab().toImage().pixelColor(100, 45), QColor(Qt::red));
 }

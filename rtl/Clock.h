@@ -1,0 +1,20 @@
+// Time as the program sees it. Tests put a clock of their own in its place, so that nothing they check hangs
+// on how fast or busy the machine is.
+#pragma once
+#include <cstdint>
+#include <functional>
+
+// Milliseconds since some start. Never goes back.
+std::int64_t ClockMilliseconds();
+
+// While it lives, `now` is the clock.
+class TClockOverride {
+ public:
+  explicit TClockOverride(std::function<std::int64_t()> now);
+  ~TClockOverride();
+  TClockOverride(const TClockOverride&) = delete;
+  TClockOverride& operator=(const TClockOverride&) = delete;
+
+ private:
+  std::function<std::int64_t()> before_;
+};
