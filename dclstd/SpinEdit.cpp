@@ -41,7 +41,7 @@ void SpinEdit::FitLength() {
 }
 
 QString SpinEdit::textFromValue(int value) const {
-  return QSpinBox::textFromValue(outside_ && value == this->value() ? *outside_ : value);
+  return outside_ && value == this->value() ? QString::number(*outside_) : QSpinBox::textFromValue(value);
 }
 
 // From a value outside of the range the first step leads to the limit.

@@ -14,19 +14,12 @@ namespace {
 class SmallDialog : public ModalDialog {
  public:
   SmallDialog() : ModalDialog(QStringLiteral("Small"), nullptr) {
-    auto* area = new QScrollArea(this);
-    auto* inside = new QWidget;
-    auto* box = new QVBoxLayout(inside);
+    auto* box = new QVBoxLayout(this);
     list->addItems({QStringLiteral("a"), QStringLiteral("b"), QStringLiteral("c")});
     oneShot->addItems({QStringLiteral("x"), QStringLiteral("y")});
     oneShot->setCurrentIndex(-1);
     for (QWidget* w : std::initializer_list<QWidget*>{spin, list, oneShot, text, action, tool, ok, cancel})
       box->addWidget(w);
-    inside->setMinimumHeight(900);
-    area->setWidget(inside);
-    auto* all = new QVBoxLayout(this);
-    all->addWidget(area);
-    scroll = area->verticalScrollBar();
     for (QPushButton* b : {action, ok, cancel}) b->setAutoDefault(false);
     ok->setDefault(true);
     connect(ok, &QPushButton::clicked, this, &QDialog::accept);
@@ -54,7 +47,6 @@ class SmallDialog : public ModalDialog {
   QToolButton* tool = new QToolButton;
   QPushButton* ok = new QPushButton(QStringLiteral("OK"));
   QPushButton* cancel = new QPushButton(QStringLiteral("Cancel"));
-  QScrollBar* scroll;
   int actions = 0;
   int written = -1;
   QList<int> shot;
@@ -105,19 +97,16 @@ TEST(Dialog, ReturnElsewhereIsTheDefaultButton) {
   }
 }
 
-TEST(Dialog, TheWheelOverAFieldWithoutTheFocusScrollsWhatIsAround) {
+TEST(Dialog, TheWheelOverAFieldWithoutTheFocusIsLeftToWhatIsAround) {
   SmallDialog dlg;
-  dlg.resize(300, 200);
   dlg.spin->setValue(5);
   dlg.list->setCurrentIndex(1);
   ShowActive(dlg);
   for (QWidget* field : std::initializer_list<QWidget*>{dlg.spin, dlg.list, dlg.oneShot}) {
     dlg.text->setFocus();
-    dlg.scroll->setValue(0);
-    ASSERT_GT(dlg.scroll->maximum(), 0);
-    Wheel(*field);
+    EXPECT_FALSE(Wheel(*field)) << field->metaObject()->className();
     EXPECT_EQ(QApplication::focusWidget(), dlg.text);
-    EXPECT_GT(dlg.scroll->value(), 0) << field->metaObject()->className();
+    EXPECT_NE(field->focusPolicy(), Qt::WheelFocus);
   }
   EXPECT_EQ(dlg.spin->value(), 5);
   EXPECT_EQ(dlg.list->currentIndex(), 1);
