@@ -316,6 +316,10 @@ TEST_F(Inspecting, AnEditKeepsRowScrollingAndOpenObjects) {
   EXPECT_EQ(bar.value(), at);
   EXPECT_EQ(Row(), "LED.VertSize");
   EXPECT_TRUE(View().isExpanded(RowOf("LED")));
+  auto* tabs = Inspector().findChild<QTabBar*>();
+  tabs->setCurrentIndex(1);
+  tabs->setCurrentIndex(0);
+  EXPECT_EQ(bar.value(), at);
 }
 
 TEST_F(Inspecting, EveryPageKeepsItsRow) {

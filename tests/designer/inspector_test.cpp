@@ -245,6 +245,7 @@ TEST_F(Inspecting, TheRowComesBackWhenTheFilterGoes) {
   QTest::keyClicks(&Inspector().FilterField(), QStringLiteral("HorzSize"));
   EXPECT_EQ(Row(), "");
   EXPECT_FALSE(Editor().isVisible());
+  EXPECT_TRUE(View().hasFocus());  // not somewhere else in the window
   Inspector().FilterField().clear();
   EXPECT_EQ(Row(), "Caption");
   EXPECT_TRUE(Editor().isVisible());
