@@ -9,6 +9,7 @@ MessageBar::MessageBar(QWidget* parent)
   text_->setWordWrap(true);
   text_->setTextInteractionFlags(Qt::TextSelectableByMouse);
   text_->setObjectName(QStringLiteral("messageText"));
+  text_->setAccessibleName(tr("Message"));
   auto* close = new QToolButton;
   close->setObjectName(QStringLiteral("messageClose"));
   close->setAutoRaise(true);

@@ -25,7 +25,12 @@ QString WhatDecidesBounds(const TControl& control) {
 void RequireBoundsTaken(const TPersistent& instance, const TPropInfo& prop, std::int64_t wanted) {
   const auto* control = As<TControl>(&instance);
   static const QByteArrayList bounds{"Left", "Top", "Width", "Height"};
-  if (!control || !bounds.contains(prop.Name) || control->Align() == TAlign::alNone) return;
+  if (!control || !control->Parent() || !bounds.contains(prop.Name)) return;
+  if (prop.Stored && !prop.Stored(instance))
+    throw EPropertyError(
+        Translated("%1 of %2 cannot be set: %2 fills %3.")
+            .arg(QString::fromLatin1(prop.Name), control->Name(), control->Parent()->Name()));
+  if (control->Align() == TAlign::alNone) return;
   const std::int64_t is = GetOrdProp(instance, prop);
   if (is == wanted) return;
   throw EPropertyError(Translated("%1 stays %2. %3 Change Align first.")

@@ -106,8 +106,10 @@ struct AlignRow {
   const char* ending;
   TAlign align;
 };
-constexpr AlignRow AlignRows[] = {{"ToolBar", TAlign::alTop},      {"CoolBar", TAlign::alTop},
-                                  {"MenuBar", TAlign::alTop},      {"StatusBar", TAlign::alBottom},
+constexpr AlignRow AlignRows[] = {{"ToolBar", TAlign::alTop},
+                                  {"CoolBar", TAlign::alTop},
+                                  {"MenuBar", TAlign::alTop},
+                                  {"StatusBar", TAlign::alBottom},
                                   {"Splitter", TAlign::alLeft}};
 
 struct SizeRow {
@@ -123,6 +125,7 @@ constexpr SizeRow SizeRows[] = {
     {Progress, {150, 17}}, {Splitter, {3, 3}},
 };
 
+constexpr const char* PlaceProperties[] = {"Left", "Top", "Width", "Height"};
 // Only controls have these, whatever their class.
 constexpr const char* ControlProperties[] = {"TabOrder",         "TabStop",          "Align",
                                              "Anchors",          "AlignWithMargins", "ParentFont",
@@ -283,7 +286,7 @@ TComponent* MakeStandIn(const forms::Document& document, const forms::Object& ob
   control->SetStreamClassName(cls);
   TStandIn what;
   what.look = look;
-  what.hasPlace = HasSize(object) || look != Page;
+  what.hasPlace = look != Page || HasAny(object, PlaceProperties);
   for (const AlignRow& row : AlignRows)
     if (EndsWith(cls, row.ending)) what.usualAlign = row.align;
   control->SetAlign(what.usualAlign);

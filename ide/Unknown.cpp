@@ -61,11 +61,15 @@ void TUnknownControl::PlacePages() {
   const TUnknownControl* front = FrontPage();
   const QRect area = PageArea();
   for (TUnknownControl* page : Pages())
-    page->SetBounds(page == front ? area.left() : OutOfSight, area.top(), area.width(), area.height());
+    page->TakePlace({page == front ? area.left() : OutOfSight, area.top(), area.width(), area.height()});
 }
 
 void TUnknownControl::SetBounds(int left, int top, int width, int height) {
-  TWinControl::SetBounds(left, top, width, height);
+  if (PlaceStored() || IsLoading()) TakePlace({left, top, width, height});
+}
+
+void TUnknownControl::TakePlace(const QRect& r) {
+  TWinControl::SetBounds(r.left(), r.top(), r.width(), r.height());
   if (!IsLoading()) PlacePages();
 }
 

@@ -15,7 +15,7 @@ struct TStandIn {
   QString activePage;
   int activeIndex = 0;
   TAlign usualAlign = TAlign::alNone;  // of a class that is aligned where the file says nothing
-  bool hasPlace = true;  // false: a page, which has its place from the control around it
+  bool hasPlace = true;                // false: a page, which has its place from the control around it
 };
 
 class TUnknownControl : public TWinControl {
@@ -37,13 +37,14 @@ class TUnknownControl : public TWinControl {
 
   // Its caption or text, else its name and class where there is room.
   void Paint(TCanvas& canvas) override;
-  // Pages follow at once: nobody else knows their place.
+  // Pages follow at once: nobody else knows their place, and they take no other.
   void SetBounds(int left, int top, int width, int height) override;
   void Loaded() override;
 
  private:
-  bool PlaceStored() const { return standIn_.hasPlace; }
+  bool PlaceStored() const { return standIn_.hasPlace || !dynamic_cast<const TUnknownControl*>(Parent()); }
   bool AlignStored() const { return Align() != standIn_.usualAlign; }
+  void TakePlace(const QRect& bounds);
   static constexpr int TabHeight = 24;
   QRect PageArea() const;
   std::vector<QRect> TabRects() const;

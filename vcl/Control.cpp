@@ -196,6 +196,12 @@ void TControl::DoChanged() {
   Invalidate();
 }
 
+void TControl::Assign(const TPersistent* source) {
+  const TUpdateLock lock(*this);
+  TComponent::Assign(source);
+  HintsBefore().remove(this);
+}
+
 void TControl::ComponentChanging(TComponent& component) {
   if (host_)
     host_->ComponentChanging(component);

@@ -125,6 +125,8 @@ class TControl : public TComponent {
   void BringToFront();
   void SendToBack();
 
+  // Takes the size with everything else, whatever the content would ask for here.
+  void Assign(const TPersistent* source) override;
   void Loaded() override;
 
  protected:

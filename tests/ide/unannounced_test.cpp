@@ -69,7 +69,8 @@ TEST_F(UnannouncedTest, HandlersAndReferencesAreFound) {
 TEST_F(UnannouncedTest, ARenamingReachesWhoeverRefersToIt) {
   session_->Run(QStringLiteral("verb"), {}, [&] { Get("Inner").SetName(QStringLiteral("Outer")); });
   EXPECT_EQ(Changes(),
-            "-object Inner: TButton|+object Outer: TButton|-FocusControl = Inner|+FocusControl = Outer");
+            "-object Inner: TButton|+object Outer: TButton|-Caption = 'Inner'|+Caption = 'Outer'|-FocusControl = "
+            "Inner|+FocusControl = Outer");
   ExpectUndoable();
 }
 
