@@ -44,22 +44,47 @@ double Median(QList<double> values) {
   return values[values.size() / 2];
 }
 
-Results RunApart(const QStringList& task, int runs) {
-  QMap<QString, QList<double>> all;
-  for (int i = 0; i < runs; ++i) {
-    QProcess process;
-    process.setProcessChannelMode(QProcess::ForwardedErrorChannel);
-    process.start(QCoreApplication::applicationFilePath(), task);
-    if (!process.waitForFinished(-1) || process.exitStatus() != QProcess::NormalExit ||
-        process.exitCode() != 0)
-      qFatal("The task \"%s\" failed", qPrintable(task.join(u' ')));
-    for (const QByteArray& line : process.readAllStandardOutput().split('\n'))
-      if (const qsizetype space = line.indexOf(' '); space > 0)
-        all[QString::fromLatin1(line.first(space))] << line.mid(space + 1).toDouble();
+double Pairs::OfMinima() const {
+  double a = 1e300, b = 1e300;
+  for (const auto& [first, second] : pairs_) {
+    a = std::min(a, first);
+    b = std::min(b, second);
   }
-  Results medians;
-  for (auto it = all.cbegin(); it != all.cend(); ++it) medians[it.key()] = Median(it.value());
-  return medians;
+  return a / b;
+}
+
+double Pairs::MedianRatio() const {
+  QList<double> ratios;
+  for (const auto& [first, second] : pairs_) ratios << first / second;
+  return Median(ratios);
+}
+
+Results Results::RunApart(const QStringList& task) {
+  QProcess process;
+  process.setProcessChannelMode(QProcess::ForwardedErrorChannel);
+  process.start(QCoreApplication::applicationFilePath(), task);
+  if (!process.waitForFinished(-1) || process.exitStatus() != QProcess::NormalExit || process.exitCode() != 0)
+    qFatal("The task \"%s\" failed", qPrintable(task.join(u' ')));
+  Results results;
+  for (const QByteArray& line : process.readAllStandardOutput().split('\n')) {
+    const QByteArrayList words = line.split(' ');
+    for (qsizetype i = 1; i < words.size(); ++i) results.numbers_[words[0]] << words[i].toDouble();
+  }
+  return results;
+}
+
+double Results::Value(const char* name) const { return numbers_.value(QByteArray(name)).value(0); }
+
+Pairs Results::ThePairs(const char* name) const {
+  const QList<double> numbers = numbers_.value(QByteArray(name));
+  Pairs pairs;
+  for (qsizetype i = 0; i + 1 < numbers.size(); i += 2) pairs.Add(numbers[i], numbers[i + 1]);
+  return pairs;
 }
 
 void Report(const char* name, double value) { printf("%s %.1f\n", name, value); }
+void Report(const char* name, const Pairs& pairs) {
+  printf("%s", name);
+  for (const auto& [a, b] : pairs.All()) printf(" %.1f %.1f", a, b);
+  printf("\n");
+}

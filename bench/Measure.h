@@ -1,5 +1,6 @@
 // What is needed to measure: time, memory, processes of their own.
 #pragma once
+#include <QList>
 #include <QMap>
 #include <QStringList>
 
@@ -27,8 +28,32 @@ class MemoryPeak {
 
 double Median(QList<double> values);
 
-// Runs this program again with a task and collects what it reports, `runs` times; medians by name.
-using Results = QMap<QString, double>;
-Results RunApart(const QStringList& task, int runs);
+// Two things measured in turns (A B A B ...), so that what else the machine does meets both alike.
+class Pairs {
+ public:
+  void Add(double a, double b) { pairs_.append({a, b}); }
+  void Add(const Pairs& others) { pairs_ += others.pairs_; }
+  const QList<std::pair<double, double>>& All() const { return pairs_; }
+  // The smallest A to the smallest B: what the least disturbed of both say.
+  double OfMinima() const;
+  // The median of the ratios of the pairs.
+  double MedianRatio() const;
+
+ private:
+  QList<std::pair<double, double>> pairs_;
+};
+
+// Runs this program again with a task and collects the numbers that it reports, by name.
+class Results {
+ public:
+  static Results RunApart(const QStringList& task);
+  bool Has(const char* name) const { return numbers_.contains(QByteArray(name)); }
+  double Value(const char* name) const;
+  Pairs ThePairs(const char* name) const;
+
+ private:
+  QMap<QByteArray, QList<double>> numbers_;
+};
 // Reports one result from inside a task.
 void Report(const char* name, double value);
+void Report(const char* name, const Pairs& pairs);

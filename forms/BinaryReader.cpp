@@ -109,16 +109,15 @@ std::unique_ptr<Object> BinaryReader::ReadObject(Document& doc, int depth) {
 
   std::vector<Property> properties;
   for (;;) {
-    const auto begin = static_cast<std::uint32_t>(Offset());
+    const char* begin = p_;
     const QByteArrayView path = ShortString("a property name");
     if (path.isEmpty()) {
       // The list's end stands between properties and children; it is written with the structure.
       break;
     }
-    const auto valueBegin = static_cast<std::uint32_t>(Offset());
+    const char* value = p_;
     ReadValue(nullptr);
-    const auto end = static_cast<std::uint32_t>(Offset());
-    properties.emplace_back(path, Span{begin, end}, valueBegin);
+    properties.emplace_back(path, QByteArrayView(begin, p_), value);
   }
   properties.shrink_to_fit();
   object->properties = std::move(properties);

@@ -40,6 +40,8 @@ namespace {
       QStringLiteral("%1 cannot be %2: %3.").arg(name, QString::fromUtf8(ValueToText(v)).left(60), expected));
 }
 
+}  // namespace
+
 std::int64_t OrdinalOf(const PropertyTarget& t, const Value& v) {
   const TTypeInfo& type = *t.prop->PropType;
   if (v.IsInteger()) return v.integer;
@@ -75,6 +77,7 @@ std::int64_t OrdinalOf(const PropertyTarget& t, const Value& v) {
   }
 }
 
+namespace {
 void ApplyCollection(const PropertyTarget& t, const Value& v, const Document& doc,
                      std::vector<PendingReference>& pending) {
   auto* collection = As<TCollection>(GetObjectProp(*t.instance, *t.prop));

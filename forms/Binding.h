@@ -24,6 +24,8 @@ struct PropertyTarget {
 };
 PropertyTarget FindTarget(TPersistent& root, QByteArrayView path);
 
+// The ordinal that a value stands for. Throws like ApplyValue.
+std::int64_t OrdinalOf(const PropertyTarget& target, const Value& value);
 // Gives the property the value. References are appended to `pending`. Throws Exception when the value does
 // not fit, saying what was expected; the property is then unchanged.
 void ApplyValue(const PropertyTarget& target, const Value& value, const Document& document,

@@ -5,10 +5,38 @@
 #include "forms/BinaryReader.h"
 #include "forms/BinaryWriter.h"
 #include "forms/Encoding.h"
+#include "forms/PlainValues.h"
 #include "forms/TextReader.h"
 #include "forms/TextWriter.h"
 
 namespace forms {
+
+Property::Property(QByteArrayView name, QByteArrayView node, const char* value) : name_(name.data()) {
+  const auto at = [](const char* p) { return reinterpret_cast<std::uintptr_t>(p); };
+  const std::uintptr_t lead = at(name.data()) - at(node.data());
+  const std::uintptr_t gap = at(value) - at(name.end());
+  const auto nameSize = static_cast<std::uint64_t>(name.size());
+  const auto valueSize = static_cast<std::uint64_t>(node.end() - value);
+  // A name outside of the node gives a lead or a gap that is far too large.
+  if (lead > 0xFFFFu || nameSize > 0xFFu || gap > 0xFFu || valueSize > 0x7FFFFFFFu)
+    Keep({name.size(), node, {value, node.end()}, nullptr});
+  else
+    rest_ = valueSize << 33 | std::uint64_t{gap} << 25 | nameSize << 17 | std::uint64_t{lead} << 1 | ShortBit;
+}
+
+Property::Property(QByteArrayView internedName, Value value, QByteArrayView lead)
+    : name_(internedName.data()) {
+  Keep({internedName.size(), lead, {}, std::make_unique<Value>(std::move(value))});
+}
+
+void Property::Keep(Parts parts) {
+  rest_ = reinterpret_cast<std::uintptr_t>(std::make_unique<Parts>(std::move(parts)).release());
+}
+
+void Property::Free() {
+  const std::unique_ptr<const Parts> parts(&Whole());
+  rest_ = ShortBit;
+}
 
 Property* Object::Find(QByteArrayView path) {
   for (Property& p : properties)
@@ -122,11 +150,17 @@ void Document::Read(const Property& property, Value& out) const {
   if (const Value* edited = property.Edited()) {
     out = *edited;
   } else if (format_ == Format::Text) {
-    TextReader(QByteArrayView(source_).first(property.SourceValue().end), property.SourceValue().begin)
-        .ReadValue(&out);
+    const QByteArrayView text = SourceText(property);
+    if (!text.isEmpty() && PlainValue(text.begin(), text.end(), &out)) return;
+    const QByteArrayView whole(source_.constData(), text.end());
+    TextReader(whole, OffsetOf(text)).ReadValue(&out);
   } else {
-    BinaryReader(source_, property.SourceValue().begin, lclStream_).ReadValue(&out);
+    BinaryReader(source_, OffsetOf(property.SourceValue()), lclStream_).ReadValue(&out);
   }
+}
+
+QByteArrayView Document::SourceText(const Property& property) const {
+  return format_ == Format::Text && property.FromSource() ? property.SourceValue() : QByteArrayView();
 }
 
 Value Document::Read(const Property& property) const {
@@ -137,8 +171,8 @@ Value Document::Read(const Property& property) const {
 
 Location Document::Where(const Property& property) const {
   if (!property.FromSource()) return {};
-  if (format_ != Format::Text) return {property.SourceValue().begin, 0, 0};
-  return LocationOf(source_, property.SourceValue().begin);
+  const std::size_t at = OffsetOf(property.SourceValue());
+  return format_ == Format::Text ? LocationOf(source_, at) : Location{at, 0, 0};
 }
 
 Location Document::Where(const Object& object) const {
@@ -179,16 +213,16 @@ QByteArrayView Document::Intern(QByteArrayView name) {
 }
 
 Property Document::MakeProperty(QByteArrayView name, Value value, const Property* replaced) {
-  Span lead;
+  QByteArrayView lead;
   if (replaced && format_ == Format::Text) {
     lead = replaced->Node();
     if (replaced->FromSource()) {
-      const QByteArrayView node = Slice(lead);
+      const QByteArrayView node = lead;
       // The name starts its line; what stands above are blank lines and directives.
       const qsizetype nameAt = replaced->Name().data() - node.data();
       const bool inNode = nameAt >= 0 && nameAt < node.size();
       const qsizetype newline = inNode ? node.first(nameAt).lastIndexOf('\n') : -1;
-      lead.end = lead.begin + static_cast<std::uint32_t>(newline + 1);
+      lead = node.first(newline + 1);
     }
   }
   return Property(Intern(name), std::move(value), lead);
@@ -202,12 +236,10 @@ void Document::WriteTextObject(TextWriter& out, const Object& object, int level)
     out.ObjectHeader(object, level);
   }
   for (const Property& p : object.properties) {
-    if (p.FromSource()) {
-      out.Copy(Slice(p.Node()));
-    } else {
-      out.Copy(Slice(p.Node()));
+    out.Copy(p.Node());
+    if (const Value* edited = p.Edited()) {
       out.FreshLine();
-      out.PropertyLine(p.Name(), *p.Edited(), level + 1);
+      out.PropertyLine(p.Name(), *edited, level + 1);
     }
   }
   for (const auto& child : object.children) WriteTextObject(out, *child, level + 1);
@@ -228,7 +260,7 @@ void Document::WriteBinaryObject(BinaryWriter& out, const Object& object, bool c
   Value v;
   for (const Property& p : object.properties) {
     if (copy && p.FromSource()) {
-      out.Raw(Slice(p.Node()));
+      out.Raw(p.Node());
       continue;
     }
     out.ShortString(p.Name());

@@ -6,6 +6,7 @@
 #pragma once
 #include <deque>
 #include <memory>
+#include <utility>
 #include <vector>
 
 #include "forms/FormError.h"
@@ -23,38 +24,64 @@ struct Span {
   bool Empty() const { return begin == end; }
 };
 
-// One "Name = value". Cheap, for a form has many: the value is decoded only when somebody asks.
+// One "Name = value". Cheap, for a form has many: the value is decoded only when somebody asks, and the usual
+// one is its name's address and a few lengths. Views lead into the source, which the document keeps.
 class Property {
  public:
   Property() = default;
-  // A property of the source. The name is in the source or interned by the document.
-  Property(QByteArrayView name, Span node, std::uint32_t valueBegin)
-      : name_(name.data()),
-        nameSize_(static_cast<std::uint32_t>(name.size())),
-        node_(node),
-        valueBegin_(valueBegin) {}
+  // A property of the source: its node, and the value that ends with the node. The name is in the node or
+  // interned by the document.
+  Property(QByteArrayView name, QByteArrayView node, const char* value);
   // A property that is not in the source. The name is interned by the document; `lead` are the blank lines of
   // the source that stand above it.
-  Property(QByteArrayView internedName, Value value, Span lead)
-      : name_(internedName.data()),
-        nameSize_(static_cast<std::uint32_t>(internedName.size())),
-        node_(lead),
-        edited_(std::make_unique<Value>(std::move(value))) {}
+  Property(QByteArrayView internedName, Value value, QByteArrayView lead);
+  Property(Property&& other) noexcept : name_(other.name_), rest_(std::exchange(other.rest_, ShortBit)) {}
+  Property& operator=(Property&& other) noexcept {
+    std::swap(name_, other.name_);
+    std::swap(rest_, other.rest_);
+    return *this;
+  }
+  ~Property() {
+    if (!IsShort()) Free();
+  }
 
-  QByteArrayView Name() const { return {name_, static_cast<qsizetype>(nameSize_)}; }
-  bool FromSource() const { return !edited_; }
+  QByteArrayView Name() const { return {name_, IsShort() ? NameSize() : Whole().nameSize}; }
+  bool FromSource() const { return IsShort() || !Whole().edited; }
   // The whole node in the source; of an edited property, the blank lines above it.
-  Span Node() const { return node_; }
+  QByteArrayView Node() const {
+    if (!IsShort()) return Whole().node;
+    const char* node = name_ - LeadSize();
+    return {node, LeadSize() + NameSize() + GapSize() + ValueSize()};
+  }
   // From the value to the end of the node: a text node may have blanks behind the value.
-  Span SourceValue() const { return {valueBegin_, node_.end}; }
-  const Value* Edited() const { return edited_.get(); }
+  QByteArrayView SourceValue() const {
+    if (!IsShort()) return Whole().value;
+    return {name_ + NameSize() + GapSize(), ValueSize()};
+  }
+  const Value* Edited() const { return IsShort() ? nullptr : Whole().edited.get(); }
 
  private:
+  // What does not fit: edited values, names that are not in their node, unusual lengths.
+  struct Parts {
+    qsizetype nameSize = 0;
+    QByteArrayView node, value;
+    std::unique_ptr<Value> edited;
+  };
+  static constexpr std::uint64_t ShortBit = 1;
+  bool IsShort() const { return rest_ & ShortBit; }
+  qsizetype LeadSize() const { return rest_ >> 1 & 0xFFFFu; }
+  qsizetype NameSize() const { return rest_ >> 17 & 0xFFu; }
+  qsizetype GapSize() const { return rest_ >> 25 & 0xFFu; }
+  qsizetype ValueSize() const { return static_cast<qsizetype>(rest_ >> 33); }
+  const Parts& Whole() const { return *reinterpret_cast<const Parts*>(static_cast<std::uintptr_t>(rest_)); }
+  void Keep(Parts parts);
+  void Free();
+
   const char* name_ = nullptr;
-  std::uint32_t nameSize_ = 0;
-  Span node_;
-  std::uint32_t valueBegin_ = 0;
-  std::unique_ptr<Value> edited_;
+  // From the lowest bit: ShortBit; the number of characters above and before the name (16 bits), in the name
+  // (8), between name and value (8), from the value to the end of the node (31). Without ShortBit, the
+  // address of the parts, which is even.
+  std::uint64_t rest_ = ShortBit;
 };
 
 enum class ObjectKind : std::uint8_t { Object, Inherited, Inline };
@@ -119,6 +146,8 @@ class Document {
   // The value, decoded.
   Value Read(const Property& property) const;
   void Read(const Property& property, Value& out) const;
+  // The value as it stands in a text, with what is left of its line; empty when it is not from a text.
+  QByteArrayView SourceText(const Property& property) const;
   // The place of the property's value, or of an object's header.
   Location Where(const Property& property) const;
   Location Where(const Object& object) const;
@@ -147,6 +176,9 @@ class Document {
   void WriteBinaryObject(class BinaryWriter& out, const Object& object, bool copy) const;
   void DescribeCodePage();
   QByteArrayView Slice(Span span) const;
+  std::size_t OffsetOf(QByteArrayView piece) const {
+    return static_cast<std::size_t>(piece.data() - source_.constData());
+  }
 
   friend class TextReader;
   friend class BinaryReader;

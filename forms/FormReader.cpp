@@ -1,6 +1,7 @@
 #include "forms/FormReader.h"
 
 #include "rtl/ClassRegistry.h"
+#include "rtl/PropAccess.h"
 
 namespace forms {
 
@@ -76,8 +77,15 @@ void FormReader::ReadInto(Object& object, TComponent& component, TComponent* own
 }
 
 void FormReader::ReadProperties(Object& object, TComponent& component, bool reportUnknown) {
+  ClassNotes& notes = notes_[&component.ClassType()];
+  notes.Begin();
   for (const Property& p : object.properties) {
-    const PropertyTarget target = FindTarget(component, p.Name());
+    KnownProperty* known = notes.Find(p.Name());
+    PropertyTarget target = known ? known->TargetIn(component) : PropertyTarget{};
+    if (!target.Found()) {
+      target = FindTarget(component, p.Name());
+      if (target.Found() && !known) known = notes.Add(p.Name(), component, target);
+    }
     if (!target.Found()) {
       if (!reportUnknown) continue;
       Report(Severity::Note, document_.Where(p),
@@ -86,10 +94,9 @@ void FormReader::ReadProperties(Object& object, TComponent& component, bool repo
              true);
       continue;
     }
-    document_.Read(p, value_);
     const std::size_t before = pending_.size();
     try {
-      ApplyValue(target, value_, document_, pending_);
+      Apply(known, target, p);
     } catch (const Exception& e) {
       Report(Severity::Error, document_.Where(p),
              QStringLiteral("%1: %2").arg(ObjectTitle(object), e.Message()));
@@ -98,6 +105,21 @@ void FormReader::ReadProperties(Object& object, TComponent& component, bool repo
       pending_[i].holder = &component;
       pending_[i].source = &p;
     }
+  }
+}
+
+void FormReader::Apply(KnownProperty* known, const PropertyTarget& target, const Property& property) {
+  // A part of another class than the one noted has its own properties.
+  if (known && !known->LeadsTo(target)) known = nullptr;
+  const QByteArrayView text = known ? document_.SourceText(property) : QByteArrayView();
+  if (known && known->Apply(*target.instance, text)) return;
+  document_.Read(property, value_);
+  if (known && known->IsOrdinal()) {
+    const std::int64_t ordinal = OrdinalOf(target, value_);
+    SetOrdProp(*target.instance, *target.prop, ordinal);
+    known->Learn(text, ordinal);
+  } else {
+    ApplyValue(target, value_, document_, pending_);
   }
 }
 

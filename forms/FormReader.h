@@ -1,7 +1,9 @@
 // Makes components from a document. Whatever is not understood is left in the document, reported as a
 // finding, and written back untouched when the form is saved.
 #pragma once
-#include "forms/Binding.h"
+#include <unordered_map>
+
+#include "forms/ClassNotes.h"
 
 namespace forms {
 
@@ -61,6 +63,7 @@ class FormReader {
   TComponent* Create(Object& object, TComponent* owner);
   void ReadInto(Object& object, TComponent& component, TComponent* owner);
   void ReadProperties(Object& object, TComponent& component, bool reportUnknown);
+  void Apply(KnownProperty* known, const PropertyTarget& target, const Property& property);
   void Finish(TComponent& root);
   void Report(Severity severity, Location where, QString text, bool unknownName = false);
 
@@ -74,6 +77,7 @@ class FormReader {
   std::vector<PendingReference> pending_;
   std::vector<TComponent*> loading_;
   QHash<QByteArray, const TClass*> classes_;
+  std::unordered_map<const TClass*, ClassNotes> notes_;
   Value value_;
 };
 

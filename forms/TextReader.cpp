@@ -3,6 +3,7 @@
 #include <cstring>
 
 #include "forms/Encoding.h"
+#include "forms/PlainValues.h"
 
 namespace forms {
 
@@ -12,6 +13,11 @@ std::optional<ObjectKind> KindOf(QByteArrayView word) {
   if (Is(word, "inherited")) return ObjectKind::Inherited;
   if (Is(word, "inline")) return ObjectKind::Inline;
   return {};
+}
+// What cannot be the name of a property.
+bool IsKeyword(QByteArrayView word) {
+  const int first = word[0] | 0x20;
+  return (first == 'e' || first == 'o' || first == 'i') && (Is(word, "end") || KindOf(word));
 }
 }  // namespace
 
@@ -117,6 +123,10 @@ void TextReader::Expect(char c, const char* what) {
 
 // A node takes the rest of its line with it when nothing else stands there.
 std::size_t TextReader::NodeEnd() {
+  if (p_ != end_ && *p_ == '\n') {
+    ++p_;
+    return Offset();
+  }
   const char* q = p_;
   while (q != end_ && (*q == ' ' || *q == '\t')) ++q;
   if (q != end_ && *q == '\r') ++q;
@@ -134,6 +144,20 @@ QByteArrayView TextReader::PropertyPath(QByteArrayView firstWord) {
     Word("A property name");
   }
   return {start, p_};
+}
+
+// A name without blanks and " = " behind it, as nearly every line has it; empty, and nothing is taken, where
+// the grammar must be asked.
+QByteArrayView TextReader::UsualName(QByteArrayView firstWord) {
+  const char* q = firstWord.end();
+  while (end_ - q > 1 && *q == '.' && IsIdentStart(q[1])) {
+    q += 2;
+    while (q != end_ && IsIdentChar(*q)) ++q;
+  }
+  if (q - p_ > MaxWord || end_ - q < 4 || q[0] != ' ' || q[1] != '=' || q[2] != ' ' || IsBlank(q[3]) ||
+      q[3] == '{')
+    return {};
+  return {std::exchange(p_, q + 3), q};
 }
 
 void TextReader::ReadDocument(Document& doc) {
@@ -228,22 +252,25 @@ void TextReader::ReadProperties(Document& doc, Object& object) {
   scratch_.clear();
   for (;;) {
     const char* nodeStart = p_;
-    const auto nodeBegin = static_cast<std::uint32_t>(Offset());
     SkipBlanks();
     const QByteArrayView word = PeekWord();
-    if (word.isEmpty() || Is(word, "end") || KindOf(word)) {
+    if (word.isEmpty() || IsKeyword(word)) {
       p_ = nodeStart;
       break;
     }
-    QByteArrayView name = PropertyPath(word);
-    const auto foreign = [](char c) { return IsBlank(c) || c == '{'; };
-    if (name.size() > word.size() && std::any_of(name.begin(), name.end(), foreign))
-      name = doc.Intern(WithoutBlanks(name));
-    Expect('=', "\"=\"");
-    SkipBlanks();
-    const auto valueBegin = static_cast<std::uint32_t>(Offset());
+    QByteArrayView name = UsualName(word);
+    if (name.isEmpty()) {
+      name = PropertyPath(word);
+      const auto foreign = [](char c) { return IsBlank(c) || c == '{'; };
+      if (name.size() > word.size() && std::any_of(name.begin(), name.end(), foreign))
+        name = doc.Intern(WithoutBlanks(name));
+      Expect('=', "\"=\"");
+      SkipBlanks();
+    }
+    const char* value = p_;
     ReadValue(nullptr);
-    scratch_.emplace_back(name, Span{nodeBegin, static_cast<std::uint32_t>(NodeEnd())}, valueBegin);
+    NodeEnd();
+    scratch_.emplace_back(name, QByteArrayView(nodeStart, p_), value);
   }
   object.properties.reserve(scratch_.size());
   for (Property& p : scratch_) object.properties.push_back(std::move(p));

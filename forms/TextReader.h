@@ -26,9 +26,7 @@ class TextReader {
   std::unique_ptr<Object> ReadObject(Document& document, std::size_t nodeBegin, int depth);
   void ReadProperties(Document& document, Object& object);
   void ReadNumber(Value* out);
-  bool ReadShortInteger(Value* out);
   void ReadString(Value* out);
-  bool ReadPlainString(Value* out);
   void ReadIdent(Value* out);
   void ReadSet(Value* out);
   void ReadList(Value* out, int depth);
@@ -48,6 +46,7 @@ class TextReader {
   QByteArrayView Word(const char* what) { return Take(PeekWord(), what); }
   QByteArrayView HeaderWord(const char* what);
   QByteArrayView PropertyPath(QByteArrayView firstWord);
+  QByteArrayView UsualName(QByteArrayView firstWord);
   void Expect(char c, const char* what);
   std::size_t Offset() const { return static_cast<std::size_t>(p_ - begin_); }
   QByteArray Here() const;

@@ -4,6 +4,7 @@
 #include <cstring>
 #include <limits>
 
+#include "forms/PlainValues.h"
 #include "forms/TextReader.h"
 
 namespace forms {
@@ -22,6 +23,10 @@ bool IsTiny(const char* digits, const char* end) {
 void TextReader::ReadValue(Value* out, int depth) {
   if (depth > MaxDepth) Fail(QStringLiteral("Values are nested more than %1 deep").arg(MaxDepth));
   if (p_ == end_) Fail(QStringLiteral("A value expected, but the file ends"));
+  if (const char* stop = PlainValue(p_, end_, out)) {
+    p_ = stop;
+    return;
+  }
   switch (*p_) {
     case '\'':
     case '#':
@@ -58,24 +63,7 @@ std::int64_t TextReader::ReadInteger() {
   return static_cast<std::int64_t>(negative ? 0 - magnitude : magnitude);
 }
 
-// Nearly all numbers are a few decimal digits; others are left to the general way.
-bool TextReader::ReadShortInteger(Value* out) {
-  const bool negative = *p_ == '-';
-  const char* digits = p_ + (negative ? 1 : 0);
-  const char* q = digits;
-  std::int64_t v = 0;
-  while (q != end_ && IsDigit(*q) && q - digits < 18) v = v * 10 + (*q++ - '0');
-  if (q == digits || (q != end_ && (IsIdentChar(*q) || *q == '.'))) return false;
-  p_ = q;
-  if (!out) return true;
-  if (negative) v = -v;
-  out->Reset(IntegerTypeFor(v));
-  out->integer = v;
-  return true;
-}
-
 void TextReader::ReadNumber(Value* out) {
-  if (ReadShortInteger(out)) return;
   const char* start = p_;
   const char* q = p_;
   if (*q == '-') ++q;
@@ -152,25 +140,7 @@ void TextReader::ReadNumber(Value* out) {
   }
 }
 
-// Nearly all strings are one run without apostrophes on one line; others are left to the general way.
-bool TextReader::ReadPlainString(Value* out) {
-  if (*p_ != '\'') return false;
-  const char* q = p_ + 1;
-  while (q != end_ && *q >= ' ' && *q != '\'' && static_cast<unsigned char>(*q) < 128) ++q;
-  if (q == end_ || *q != '\'') return false;
-  const char* next = q + 1;
-  while (next != end_ && IsBlank(*next)) ++next;
-  if (next != end_ && std::strchr("'#+{", *next)) return false;
-  if (out) {
-    out->Reset(q - p_ - 1 <= 255 ? ValueType::String : ValueType::LString);
-    out->bytes = QByteArray::fromRawData(p_ + 1, q - p_ - 1);
-  }
-  p_ = q + 1;
-  return true;
-}
-
 void TextReader::ReadString(Value* out) {
-  if (ReadPlainString(out)) return;
   bool wide = false;
   std::vector<std::pair<bool, QByteArray>> parts;  // (is a character code, text or code)
   for (;;) {

@@ -59,10 +59,10 @@ class TFont : public TOwnedPersistent {
 
  private:
   QString name_;  // null: the default family
+  TFontStyles style_;
   int height_ = -12;
   int orientation_ = 0;
   TColor color_ = clWindowText;
-  TFontStyles style_;
   TFontCharset charset_{1};
   TFontPitch pitch_ = TFontPitch::fpDefault;
   TFontQuality quality_ = TFontQuality::fqDefault;

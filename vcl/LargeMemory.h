@@ -24,11 +24,8 @@ struct LargeAllocator {
   }
   void deallocate(T* memory, std::size_t) { FreeLarge(memory); }
   template <class U, class... A>
-  void construct(U* at, A&&... arguments) {
-    if constexpr (sizeof...(A) == 0)
-      ::new (static_cast<void*>(at)) U;
-    else
-      ::new (static_cast<void*>(at)) U(std::forward<A>(arguments)...);
+  void construct([[maybe_unused]] U* at, A&&... arguments) {
+    if constexpr (sizeof...(A) != 0) ::new (static_cast<void*>(at)) U(std::forward<A>(arguments)...);
   }
   bool operator==(const LargeAllocator&) const { return true; }
 };

@@ -212,8 +212,11 @@ TRegion TRegion::FromData(QByteArrayView data) {
 }
 
 void TBandBuilder::CloseBand(std::int32_t bottom) {
-  for (std::size_t i = bandStart_; i < region_.rects_.size(); ++i) region_.rects_[i].Bottom = bottom;
-  bandStart_ = region_.rects_.size();
+  auto& rects = region_.rects_;
+  // A band of one row has its bottom already.
+  if (bandStart_ < rects.size() && rects[bandStart_].Bottom != bottom)
+    for (std::size_t i = bandStart_; i < rects.size(); ++i) rects[i].Bottom = bottom;
+  bandStart_ = rects.size();
 }
 
 void TBandBuilder::AddRow(std::int32_t y, const std::uint64_t* mask, std::size_t words) {
@@ -231,12 +234,18 @@ void TBandBuilder::AddRow(std::int32_t y, const std::uint64_t* mask, std::size_t
     }
     CloseBand(bandEnd_);
   }
-  std::size_t runs = 0;
+  // Every change of a bit is the start or the end of a run, in turns.
+  edges_.resize(words * 64 + 1);
+  std::int32_t* edge = edges_.data();
   std::uint64_t carry = 0;
   for (std::size_t w = 0; w < words; ++w) {
-    runs += static_cast<std::size_t>(std::popcount(mask[w] & ~(mask[w] << 1 | carry)));
+    const auto base = static_cast<std::int32_t>(w * 64);
+    for (std::uint64_t bits = mask[w] ^ (mask[w] << 1 | carry); bits; bits &= bits - 1)
+      *edge++ = base + std::countr_zero(bits);
     carry = mask[w] >> 63;
   }
+  if (carry) *edge++ = static_cast<std::int32_t>(words * 64);
+  const auto runs = static_cast<std::size_t>(edge - edges_.data()) / 2;
   if (runs == 0) return;
   lastMask_.assign(mask, mask + words);
   if (const std::size_t needed = rects.size() + runs; rects.capacity() < needed) {
@@ -247,31 +256,8 @@ void TBandBuilder::AddRow(std::int32_t y, const std::uint64_t* mask, std::size_t
   }
   rects.resize(rects.size() + runs);
   TRect* to = rects.data() + bandStart_;
-  // Every change of a bit is the start or the end of a run, in turns.
-  carry = 0;
-  bool inside = false;
-  for (std::size_t w = 0; w < words; ++w) {
-    std::uint64_t edges = mask[w] ^ (mask[w] << 1 | carry);
-    carry = mask[w] >> 63;
-    const auto base = static_cast<std::int32_t>(w * 64);
-    if (inside && edges) {
-      (to++)->Right = base + std::countr_zero(edges);
-      edges &= edges - 1;
-      inside = false;
-    }
-    while (edges) {
-      to->Left = base + std::countr_zero(edges);
-      to->Top = y;
-      edges &= edges - 1;
-      if (!edges) {
-        inside = true;
-        break;
-      }
-      (to++)->Right = base + std::countr_zero(edges);
-      edges &= edges - 1;
-    }
-  }
-  if (inside) to->Right = static_cast<std::int32_t>(words * 64);
+  for (std::size_t i = 0; i < runs; ++i) to[i] = {edges_[2 * i], y, edges_[2 * i + 1], y + 1};
+  Widen(edges_.front(), edge[-1]);
   bandEnd_ = y + 1;
   if (compare && bandStart_ - above == runs) {
     const auto first = rects.begin() + static_cast<std::ptrdiff_t>(above);
@@ -298,20 +284,16 @@ void TBandBuilder::AddBand(std::int32_t top, std::int32_t bottom,
     CloseBand(bandEnd_);
   }
   for (const auto& [left, right] : spans) rects.push_back({left, top, right, bottom});
+  if (!spans.empty()) Widen(spans.front().first, spans.back().second);
   bandEnd_ = bottom;
 }
 
 TRegion TBandBuilder::Take() {
   CloseBand(bandEnd_);
   auto& rects = region_.rects_;
-  if (!rects.empty()) {
-    TRect& b = region_.bounds_;
-    b = {INT32_MAX, rects.front().Top, INT32_MIN, rects.back().Bottom};
-    for (const TRect& r : rects) {
-      b.Left = std::min(b.Left, r.Left);
-      b.Right = std::max(b.Right, r.Right);
-    }
-  }
+  if (!rects.empty()) region_.bounds_ = {left_, rects.front().Top, right_, rects.back().Bottom};
+  left_ = INT32_MAX;
+  right_ = INT32_MIN;
   bandStart_ = 0;
   bandEnd_ = 0;
   return std::exchange(region_, TRegion());

@@ -64,8 +64,14 @@ class TBandBuilder {
 
  private:
   void CloseBand(std::int32_t bottom);
+  void Widen(std::int32_t left, std::int32_t right) {
+    left_ = std::min(left_, left);
+    right_ = std::max(right_, right);
+  }
   TRegion region_;
   std::int32_t rows_, rowsDone_ = 0;
+  std::int32_t left_ = INT32_MAX, right_ = INT32_MIN;  // of all bands so far
+  std::vector<std::int32_t> edges_;                    // where the runs of a row start and end
   std::vector<std::uint64_t> lastMask_;
   std::size_t bandStart_ = 0;  // first rectangle of the open band
   std::int32_t bandEnd_ = 0;   // bottom of the open band so far

@@ -1,6 +1,7 @@
 #include "library/pixels/PixelMask.h"
 
 #include <algorithm>
+#include <bit>
 #include <cstring>
 
 #include "vcl/Bitmap.h"
@@ -38,6 +39,16 @@ std::uint64_t EqualBits(const std::uint32_t* row, std::uint32_t pixel) {
 #endif
 }  // namespace
 
+namespace {
+std::uint64_t MatchBlock(const std::uint32_t* row, std::uint32_t pixel) {
+#if defined(__x86_64__)
+  return EqualBits(row, _mm_set1_epi32(static_cast<int>(pixel)));
+#else
+  return EqualBits(row, pixel);
+#endif
+}
+}  // namespace
+
 void MatchPixel(const std::uint32_t* row, int width, std::uint32_t pixel, std::uint64_t* mask) {
 #if defined(__x86_64__)
   const __m128i wanted = _mm_set1_epi32(static_cast<int>(pixel));
@@ -64,6 +75,7 @@ PixelSet::PixelSet(const std::vector<TColor>& colors) {
       factor2_ = factor2_ * 0x297A2D39u | 1u;
     }
   }
+  for (const std::uint32_t p : pixels_) filter_[p * factor1_ >> (32 - FilterBits)] = 0x80;
 }
 
 bool PixelSet::Insert(std::uint32_t pixel) {
@@ -97,65 +109,48 @@ void PixelSet::Match(const std::uint32_t* row, int width, std::uint64_t* mask) c
         for (std::size_t w = 0; w < WordsFor(count); ++w) mask[w] |= more[w];
       }
     }
-  } else if (HasWide()) {
-    MatchWide(row, width, mask);
   } else {
-    MatchPortable(row, width, mask);
+    MatchMany(row, width, mask);
   }
 }
 
-void PixelSet::MatchPortable(const std::uint32_t* row, int width, std::uint64_t* mask) const {
-  // Pictures repeat themselves: a pixel like the one before it needs no look-up.
-  std::uint32_t last = 0;
-  bool found = false;
-  const auto test = [&](std::uint32_t p) {
-    if (p != last) {
-      last = p;
-      found = Contains(p);
-    }
-    return found;
-  };
-  for (int x = 0; x < width; x += 64) *mask++ = TailBits(row + x, std::min(64, width - x), test);
-}
-
+namespace {
+// Bit i tells whether mark i has its highest bit.
+std::uint64_t MarkedBits(const std::uint8_t* marks) {
+  std::uint64_t bits = 0;
 #if defined(__x86_64__)
-bool PixelSet::HasWide() {
-  static const bool has = __builtin_cpu_supports("avx2");
-  return has;
+  for (int i = 0; i < 64; i += 16) {
+    const __m128i some = _mm_load_si128(reinterpret_cast<const __m128i*>(marks + i));
+    bits |= static_cast<std::uint64_t>(static_cast<std::uint32_t>(_mm_movemask_epi8(some))) << i;
+  }
+#else
+  for (int i = 0; i < 64; ++i) bits |= std::uint64_t{marks[i] >> 7u} << i;
+#endif
+  return bits;
 }
+}  // namespace
 
-__attribute__((target("avx2"))) void PixelSet::MatchWide(const std::uint32_t* row, int width,
-                                                         std::uint64_t* mask) const {
-  const __m256i factor1 = _mm256_set1_epi32(static_cast<int>(factor1_));
-  const __m256i factor2 = _mm256_set1_epi32(static_cast<int>(factor2_));
-  const __m256i second = _mm256_set1_epi32(static_cast<int>(Slots()));
-  const __m128i shift = _mm_cvtsi32_si128(static_cast<int>(shift_));
-  const auto* table = reinterpret_cast<const int*>(table_.data());
-  __m256i last = _mm256_setzero_si256();  // the eight pixels looked up last
-  unsigned found = 0;                     // and which of them are in the set
+// Pictures repeat themselves, so the pixel found last is compared with all the others first. Of the rest, a
+// small table tells nearly all that are not in the set.
+void PixelSet::MatchMany(const std::uint32_t* row, int width, std::uint64_t* mask) const {
+  const std::uint8_t* filter = filter_.data();
+  const std::uint32_t factor = factor1_;
+  std::uint32_t last = pixels_[0];
+  alignas(16) std::uint8_t marks[64];
   int x = 0;
   for (; x + 64 <= width; x += 64) {
-    std::uint64_t bits = 0;
-    for (int i = 0; i < 64; i += 8) {
-      const __m256i p = _mm256_loadu_si256(reinterpret_cast<const __m256i*>(row + x + i));
-      const __m256i same = _mm256_xor_si256(p, last);
-      if (!_mm256_testz_si256(same, same)) {
-        const __m256i at1 = _mm256_srl_epi32(_mm256_mullo_epi32(p, factor1), shift);
-        const __m256i at2 = _mm256_add_epi32(_mm256_srl_epi32(_mm256_mullo_epi32(p, factor2), shift), second);
-        const __m256i hit = _mm256_or_si256(_mm256_cmpeq_epi32(_mm256_i32gather_epi32(table, at1, 4), p),
-                                            _mm256_cmpeq_epi32(_mm256_i32gather_epi32(table, at2, 4), p));
-        found = static_cast<unsigned>(_mm256_movemask_ps(_mm256_castsi256_ps(hit)));
-        last = p;
+    const std::uint32_t* block = row + x;
+    std::uint64_t bits = MatchBlock(block, last);
+    if (bits != ~std::uint64_t{0}) {
+      for (int i = 0; i < 64; ++i) marks[i] = filter[block[i] * factor >> (32 - FilterBits)];
+      for (std::uint64_t maybe = MarkedBits(marks) & ~bits; maybe; maybe &= maybe - 1) {
+        const int at = std::countr_zero(maybe);
+        if (!Contains(block[at])) continue;
+        last = block[at];
+        bits |= std::uint64_t{1} << at;
       }
-      bits |= std::uint64_t{found} << i;
     }
     *mask++ = bits;
   }
-  if (x < width) MatchPortable(row + x, width - x, mask);
+  if (x < width) *mask = TailBits(row + x, width - x, [this](std::uint32_t p) { return Contains(p); });
 }
-#else
-bool PixelSet::HasWide() { return false; }
-void PixelSet::MatchWide(const std::uint32_t* row, int width, std::uint64_t* mask) const {
-  MatchPortable(row, width, mask);
-}
-#endif

@@ -117,14 +117,15 @@ TEST(FolderOfForms, AReplacedPropertyChangesOnlyItsOwnLines) {
     int budget = 400;  // of the properties of one form
     for (Object* object : AllObjects(doc)) {
       for (std::size_t i = 0; i < object->properties.size() && budget > 0; ++i, --budget) {
-        const forms::Span node = object->properties[i].Node();
+        const QByteArrayView node = object->properties[i].Node();
+        const qsizetype begin = node.data() - doc.Source().data();
         const QByteArray name = object->properties[i].Name().toByteArray();
         Property original =
             std::exchange(object->properties[i], doc.MakeProperty(name, Value::Integer(12345)));
         const QByteArray changed = doc.Write();
         object->properties[i] = std::move(original);
-        QByteArray before = form.bytes.first(node.begin);
-        const QByteArray after = form.bytes.sliced(node.end);
+        QByteArray before = form.bytes.first(begin);
+        const QByteArray after = form.bytes.sliced(begin + node.size());
         QByteArray line;
         if (text) {
           if (!before.endsWith('\n') && !before.endsWith('\r')) before += doc.Style().eol;
@@ -133,7 +134,7 @@ TEST(FolderOfForms, AReplacedPropertyChangesOnlyItsOwnLines) {
           line = static_cast<char>(name.size()) + name + Hex("033930");
           if (doc.SourceFormat() == Format::Resource) {
             const qsizetype head = before.indexOf("TPF0") - 4;
-            const auto rest = size - (node.end - node.begin) + line.size() - head - 4;
+            const auto rest = size - node.size() + line.size() - head - 4;
             for (int b = 0; b < 4; ++b) before[head + b] = static_cast<char>(rest >> (8 * b));
           }
         }
@@ -154,9 +155,8 @@ TEST(FolderOfForms, CanonicalValuesAreRegeneratedAsTheyStood) {
     if (doc.SourceFormat() != Format::Text) return;
     for (Object* object : AllObjects(doc)) {
       for (const Property& p : object->properties) {
-        const forms::Span value = p.SourceValue();
-        // The span may have the rest of the line behind the value.
-        QByteArray source = form.bytes.mid(value.begin, value.end - value.begin).replace('\r', "");
+        // The rest of the line may stand behind the value.
+        QByteArray source = p.SourceValue().toByteArray().replace('\r', "");
         while (source.endsWith('\n') || source.endsWith(' ') || source.endsWith('\t')) source.chop(1);
         QByteArray written =
             forms::ValueToText(doc.Read(p), doc.Style(), Level(*object) + 1).replace('\r', "");
