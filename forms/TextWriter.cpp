@@ -5,6 +5,7 @@
 
 #include "forms/Encoding.h"
 #include "forms/TextReader.h"
+#include "rtl/LargePages.h"
 
 namespace forms {
 
@@ -83,6 +84,11 @@ std::vector<char32_t> UnitsOf(const QByteArray& bytes) {
   return units;
 }
 }  // namespace
+
+void TextWriter::Reserve(qsizetype size) {
+  out_.reserve(size);
+  PreferLargePages(out_.data(), static_cast<std::size_t>(size));
+}
 
 void TextWriter::Copy(QByteArrayView piece) {
   if (piece.isEmpty()) return;

@@ -14,7 +14,7 @@ class TextWriter {
   // A value that starts on the current line; `level` is that of the property.
   void WriteValue(const Value& value, int level);
   void Raw(QByteArrayView text) { out_.append(text); }
-  void Reserve(qsizetype size) { out_.reserve(size); }
+  void Reserve(qsizetype size);
   // A piece of the source as it stands; on a new line where it would run into what now stands before it.
   void Copy(QByteArrayView piece);
   // Starts a new line unless the output is at the start of one.

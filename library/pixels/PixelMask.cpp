@@ -75,7 +75,9 @@ PixelSet::PixelSet(const std::vector<TColor>& colors) {
       factor2_ = factor2_ * 0x297A2D39u | 1u;
     }
   }
-  for (const std::uint32_t p : pixels_) filter_[p * factor1_ >> (32 - FilterBits)] = 0x80;
+  filter_.assign(std::size_t{1} << (32 - FilterShift - 5), 0);
+  for (const std::uint32_t p : pixels_)
+    filter_[FilterPlace(p) / 32] |= std::uint32_t{1} << FilterPlace(p) % 32;
 }
 
 bool PixelSet::Insert(std::uint32_t pixel) {
@@ -109,41 +111,24 @@ void PixelSet::Match(const std::uint32_t* row, int width, std::uint64_t* mask) c
         for (std::size_t w = 0; w < WordsFor(count); ++w) mask[w] |= more[w];
       }
     }
+  } else if (HasWide()) {
+    MatchWide(row, width, mask);
   } else {
-    MatchMany(row, width, mask);
+    MatchPortable(row, width, mask);
   }
 }
-
-namespace {
-// Bit i tells whether mark i has its highest bit.
-std::uint64_t MarkedBits(const std::uint8_t* marks) {
-  std::uint64_t bits = 0;
-#if defined(__x86_64__)
-  for (int i = 0; i < 64; i += 16) {
-    const __m128i some = _mm_load_si128(reinterpret_cast<const __m128i*>(marks + i));
-    bits |= static_cast<std::uint64_t>(static_cast<std::uint32_t>(_mm_movemask_epi8(some))) << i;
-  }
-#else
-  for (int i = 0; i < 64; ++i) bits |= std::uint64_t{marks[i] >> 7u} << i;
-#endif
-  return bits;
-}
-}  // namespace
 
 // Pictures repeat themselves, so the pixel found last is compared with all the others first. Of the rest, a
 // small table tells nearly all that are not in the set.
-void PixelSet::MatchMany(const std::uint32_t* row, int width, std::uint64_t* mask) const {
-  const std::uint8_t* filter = filter_.data();
-  const std::uint32_t factor = factor1_;
-  std::uint32_t last = pixels_[0];
-  alignas(16) std::uint8_t marks[64];
+template <class Filter>
+void PixelSet::MatchBlocks(const std::uint32_t* row, int width, std::uint64_t* mask, Filter&& filter) const {
+  std::uint32_t last = pixels_.empty() ? 0 : pixels_[0];
   int x = 0;
   for (; x + 64 <= width; x += 64) {
     const std::uint32_t* block = row + x;
     std::uint64_t bits = MatchBlock(block, last);
     if (bits != ~std::uint64_t{0}) {
-      for (int i = 0; i < 64; ++i) marks[i] = filter[block[i] * factor >> (32 - FilterBits)];
-      for (std::uint64_t maybe = MarkedBits(marks) & ~bits; maybe; maybe &= maybe - 1) {
+      for (std::uint64_t maybe = filter(block, ~bits); maybe; maybe &= maybe - 1) {
         const int at = std::countr_zero(maybe);
         if (!Contains(block[at])) continue;
         last = block[at];
@@ -154,3 +139,53 @@ void PixelSet::MatchMany(const std::uint32_t* row, int width, std::uint64_t* mas
   }
   if (x < width) *mask = TailBits(row + x, width - x, [this](std::uint32_t p) { return Contains(p); });
 }
+
+void PixelSet::MatchPortable(const std::uint32_t* row, int width, std::uint64_t* mask) const {
+  MatchBlocks(row, width, mask, [this](const std::uint32_t* block, std::uint64_t wanted) {
+    std::uint64_t bits = 0;
+    for (int i = 0; i < 64; ++i) {
+      const std::uint32_t at = FilterPlace(block[i]);
+      bits |= std::uint64_t{filter_[at / 32] >> at % 32 & 1u} << i;
+    }
+    return bits & wanted;
+  });
+}
+
+#if defined(__x86_64__)
+bool PixelSet::HasWide() {
+  static const bool has = __builtin_cpu_supports("avx2");
+  return has;
+}
+
+namespace {
+__attribute__((target("avx2"))) std::uint64_t FilterWide(const std::uint32_t* block, std::uint64_t wanted,
+                                                         const std::uint32_t* filter, std::uint32_t factor,
+                                                         int shift) {
+  const __m256i factors = _mm256_set1_epi32(static_cast<int>(factor)), low = _mm256_set1_epi32(31);
+  const __m128i shiftBy = _mm_cvtsi32_si128(shift);
+  std::uint64_t bits = 0;
+  for (int i = 0; i < 64; i += 8) {
+    if ((wanted >> i & 0xFFu) == 0) continue;
+    const __m256i p = _mm256_loadu_si256(reinterpret_cast<const __m256i*>(block + i));
+    const __m256i at = _mm256_srl_epi32(_mm256_mullo_epi32(p, factors), shiftBy);
+    const __m256i words =
+        _mm256_i32gather_epi32(reinterpret_cast<const int*>(filter), _mm256_srli_epi32(at, 5), 4);
+    // The wanted bit becomes the sign.
+    const __m256i signs = _mm256_sllv_epi32(words, _mm256_andnot_si256(at, low));
+    bits |= std::uint64_t{static_cast<unsigned>(_mm256_movemask_ps(_mm256_castsi256_ps(signs)))} << i;
+  }
+  return bits & wanted;
+}
+}  // namespace
+
+void PixelSet::MatchWide(const std::uint32_t* row, int width, std::uint64_t* mask) const {
+  MatchBlocks(row, width, mask, [this](const std::uint32_t* block, std::uint64_t wanted) {
+    return FilterWide(block, wanted, filter_.data(), factor1_, static_cast<int>(FilterShift));
+  });
+}
+#else
+bool PixelSet::HasWide() { return false; }
+void PixelSet::MatchWide(const std::uint32_t* row, int width, std::uint64_t* mask) const {
+  MatchPortable(row, width, mask);
+}
+#endif

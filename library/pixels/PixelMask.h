@@ -19,8 +19,15 @@ class PixelSet {
   // The same for every pixel of the set.
   void Match(const std::uint32_t* row, int width, std::uint64_t* mask) const;
 
+  // The ways behind Match, for sets too large to compare one by one: portable, and with wide registers where
+  // the processor has them.
+  void MatchPortable(const std::uint32_t* row, int width, std::uint64_t* mask) const;
+  static bool HasWide();
+  void MatchWide(const std::uint32_t* row, int width, std::uint64_t* mask) const;
+
  private:
-  void MatchMany(const std::uint32_t* row, int width, std::uint64_t* mask) const;
+  template <class Filter>
+  void MatchBlocks(const std::uint32_t* row, int width, std::uint64_t* mask, Filter&& filter) const;
   bool Insert(std::uint32_t pixel);
   bool Contains(std::uint32_t pixel) const {
     return table_[First(pixel)] == pixel || table_[Second(pixel)] == pixel;
@@ -33,8 +40,9 @@ class PixelSet {
   unsigned shift_ = 21;
   std::vector<std::uint32_t> pixels_;  // without repetitions
   std::vector<std::uint32_t> table_;   // two tables of Slots(); 0, which is no pixel, where free
-  // Marks by a hash of the pixel; few enough to stay in the nearest cache.
-  static constexpr unsigned FilterBits = 14;
-  std::vector<std::uint8_t> filter_ = std::vector<std::uint8_t>(std::size_t{1} << FilterBits);
+  // A bit for a hash of each pixel; few enough to stay in the nearest cache.
+  static constexpr unsigned FilterShift = 15;
+  std::uint32_t FilterPlace(std::uint32_t pixel) const { return pixel * factor1_ >> FilterShift; }
+  std::vector<std::uint32_t> filter_;
   std::uint32_t factor1_ = 0x9E3779B1u, factor2_ = 0x85EBCA77u;
 };

@@ -40,6 +40,9 @@ void Compare(const std::vector<std::uint32_t>& row, const std::vector<TColor>& c
   const Mask expected = MatchOneByOne(row, colors);
   using Row = const std::uint32_t*;
   ASSERT_EQ(Matched(row, [&](Row r, int w, std::uint64_t* m) { set.Match(r, w, m); }), expected);
+  ASSERT_EQ(Matched(row, [&](Row r, int w, std::uint64_t* m) { set.MatchPortable(r, w, m); }), expected);
+  if (!PixelSet::HasWide()) return;
+  ASSERT_EQ(Matched(row, [&](Row r, int w, std::uint64_t* m) { set.MatchWide(r, w, m); }), expected);
 }
 }  // namespace
 
