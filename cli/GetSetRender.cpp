@@ -4,6 +4,7 @@
 #include "forms/FormFile.h"
 #include "forms/TextWriter.h"
 #include "ide/BoundsCheck.h"
+#include "ide/StandIns.h"
 #include "ide/Tiles.h"
 #include "rtl/Exceptions.h"
 #include "vcl/FormColors.h"
@@ -19,8 +20,21 @@ std::unique_ptr<FormSession> OpenForm(const QString& file) {
   }
 }
 
-TComponent& ComponentNamed(FormSession& session, const QString& name) {
-  if (TComponent* c = session.GetComponent(name)) return *c;
+// "Button1.Font.Color": the component, and the rest of the path. What stands in a frame has the frame's name
+// in front ("Frame1.Button1.Caption").
+TComponent& ComponentOf(FormSession& session, const QString& text, QByteArray& path) {
+  const QStringList names = text.split(u'.');
+  const QString name = names[0].trimmed();
+  if (TComponent* c = session.GetComponent(name)) {
+    qsizetype used = 1;
+    for (; used < names.size(); ++used) {
+      TComponent* inner = c == session.GetRoot() ? nullptr : c->FindComponent(names[used].trimmed());
+      if (!inner) break;
+      c = inner;
+    }
+    path = names.mid(used).join(u'.').trimmed().toUtf8();
+    return *c;
+  }
   throw Exception(QStringLiteral("%1 has no component named \"%2\"").arg(session.FileName(), name));
 }
 }  // namespace
@@ -31,9 +45,8 @@ int GetCommand(const QStringList& list, Console& console) {
     throw UsageError{QStringLiteral("FORM and COMPONENT or COMPONENT.PROPERTY are needed")};
   LoadClasses(console);
   const auto session = OpenForm(args.values[0]);
-  const QString name = args.values[1].section(u'.', 0, 0);
-  const QByteArray path = args.values[1].section(u'.', 1).toUtf8();
-  TComponent& component = ComponentNamed(*session, name);
+  QByteArray path;
+  TComponent& component = ComponentOf(*session, args.values[1], path);
   const Document& document = session->Document();
   const Object& object = *session->ObjectOf(component);
   const auto below = [&](QByteArrayView property) {
@@ -90,8 +103,8 @@ int SetCommand(const QStringList& list, Console& console) {
     const qsizetype dot = text.indexOf(u'.');
     if (equals < 0 || dot < 0 || dot > equals)
       throw UsageError{QStringLiteral("\"%1\" is not COMPONENT.PROPERTY=VALUE").arg(text)};
-    TComponent& component = ComponentNamed(*session, text.left(dot).trimmed());
-    const QByteArray path = text.mid(dot + 1, equals - dot - 1).trimmed().toUtf8();
+    QByteArray path;
+    TComponent& component = ComponentOf(*session, text.left(equals), path);
     try {
       assignments.push_back({&component, text, path, TextToValue(text.mid(equals + 1).trimmed().toUtf8())});
     } catch (const EFormError& e) {
@@ -103,7 +116,8 @@ int SetCommand(const QStringList& list, Console& console) {
   session->Run(QStringLiteral("set"), touched, [&] {
     for (const Assignment& a : assignments) {
       const PropertyTarget target = FindTarget(*a.component, a.path);
-      if (!target.Found())
+      const bool root = a.component == session->GetRoot();
+      if (!target.Found() || (root && !RootHasProperty(session->Form().Kind(), a.path.split('.')[0])))
         throw Exception(QStringLiteral("%1: %2 has no property \"%3\"")
                             .arg(a.component->Name(), QString::fromUtf8(a.component->StreamClassName()),
                                  QString::fromUtf8(a.path)));

@@ -36,6 +36,10 @@ bool ChooseColor(QWidget* parent, TColor& color, QStringList& customColors) {
     else if (made.rgb() != EmptySlot)
       after.push_back(FromQColor(made));
   }
+  // The dialog puts an added colour over the one that is selected; as long as there is room, none is lost.
+  for (const TColor& was : custom)
+    if (after.size() < MaxCustomColors && std::find(after.begin(), after.end(), was) == after.end())
+      after.push_back(was);
   if (after != custom) customColors = CustomColorEntries(after);
   // Confirmed as it was, a system colour stays one.
   if (chosen && dialog.currentColor() != start) color = FromQColor(dialog.currentColor());

@@ -78,7 +78,12 @@ void FontDialog::Connect() {
     if (!text.trimmed().isEmpty()) Change([&] { font_.SetName(text); });
   };
   connect(cmbname->lineEdit(), &QLineEdit::textEdited, this, name);
-  connect(cmbname, &QComboBox::textActivated, this, name);
+  // Leaving the field, the combo takes a family that differs from the text only in case; that is no choice.
+  connect(cmbname, &QComboBox::textActivated, this, [this, name](const QString& text) {
+    if (text.compare(font_.Name(), Qt::CaseInsensitive) != 0) return name(text);
+    const QSignalBlocker quiet(cmbname);
+    cmbname->setEditText(font_.Name());
+  });
   connect(cmbname->lineEdit(), &QLineEdit::editingFinished, this, &FontDialog::SetLabels);  // no name is none
   connect(edsize, &QSpinBox::valueChanged, this, [this](int v) { Change([&] { font_.SetSize(v); }); });
   connect(edheight, &QSpinBox::valueChanged, this, [this](int v) { Change([&] { font_.SetHeight(v); }); });
@@ -119,6 +124,11 @@ void FontDialog::LoadControls() {
   edsize->Show(font_.Size());
   edheight->Show(font_.Height());
   cmbcolor->SetSelected(font_.Color());
+  // Light letters are shown on a dark ground.
+  const auto light = [](TColor c) { return qGray(ToQColor(c).rgb()); };
+  const bool faint = std::abs(light(font_.Color()) - light(clBtnFace)) < 64;
+  test->SetTransparent(!faint);
+  test->SetColor(light(clBtnFace) > 128 ? TColor(0x00404040) : TColor(0x00E0E0E0));
   ShowCharset();
   cmbpitch->setCurrentIndex(static_cast<int>(font_.Pitch()));
   for (int i = 0; i < 4; ++i) styles[i]->setChecked(font_.Style().Contains(static_cast<TFontStyle>(i)));

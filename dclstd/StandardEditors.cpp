@@ -19,6 +19,9 @@ using enum TPropertyAttribute;
 TPropertyAttributes TColorProperty::GetAttributes() const {
   return {paMultiSelect, paDialog, paValueList, paRevertable, paValueEditable};
 }
+QString TColorProperty::GetValue() const {
+  return ColorToString(TColor(static_cast<std::uint32_t>(GetOrdValue())));
+}
 void TColorProperty::SetValue(const QString& value) {
   SetOrdValue(static_cast<std::int64_t>(StringToColor(value)));
 }

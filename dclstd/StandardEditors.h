@@ -7,6 +7,8 @@ class TColorProperty : public TIntegerProperty {
  public:
   using TIntegerProperty::TIntegerProperty;
   TPropertyAttributes GetAttributes() const override;
+  // A name, or the value as "$00BBGGRR".
+  QString GetValue() const override;
   void SetValue(const QString& value) override;
   void GetValues(const TGetStrProc& proc) const override;
   QIcon GetValueIcon(const QString& value) const override;

@@ -29,6 +29,18 @@ void RestoreFormColors() {
     if (setting == QLatin1StringView(row.setting)) SetFormColors(row.colors);
 }
 
+void ChooseTheme(TTheme theme) {
+  ApplyTheme(theme);
+  Settings().WriteString(Section(), QStringLiteral("Theme"),
+                         theme == TTheme::Dark ? QStringLiteral("dark") : QStringLiteral("light"));
+}
+
+void RestoreTheme() {
+  const QString setting = Settings().ReadString(Section(), QStringLiteral("Theme"), {});
+  if (setting == QStringLiteral("dark")) ApplyTheme(TTheme::Dark);
+  if (setting == QStringLiteral("light")) ApplyTheme(TTheme::Light);
+}
+
 void AddFormColorsMenu(QMenu& view) {
   QMenu* menu = view.addMenu(QMenu::tr("Form &colours"));
   auto* group = new QActionGroup(menu);

@@ -3,6 +3,7 @@
 #include <QtWidgets>
 
 #include "ide/BoundsCheck.h"
+#include "ide/Tiles.h"
 #include "ide/Unknown.h"
 #include "rtl/Exceptions.h"
 #include "vcl/FormFrame.h"
@@ -160,7 +161,11 @@ void FormSurface::mousePressEvent(QMouseEvent* event) {
   handle_ = tool_ ? -1 : HandleAt(pressed_);
   const QPoint p = ToForm(pressed_);
   if (tool_) {
-    action_ = Action::Place;
+    // Nobody would see what stands beside the form.
+    if (FormRectOf(session_->Form()).united(QRect({}, DeskSize(*session_))).contains(p))
+      action_ = Action::Place;
+    else
+      emit Notice(tr("Click on the form to place a component, or press Escape."));
     return;
   }
   if (handle_ >= 0) {
@@ -265,7 +270,7 @@ void FormSurface::FinishDrag() {
   });
   const bool inVain = stayed != starts_.end() && delta.manhattanLength() >= Grid;
   Guarded([&] { session_->EndLive(resize ? tr("Resize") : tr("Move"), true); });
-  if (inVain) emit Message(WhatDecidesBounds(*As<TControl>(stayed->component)));
+  if (inVain) emit Notice(WhatDecidesBounds(*As<TControl>(stayed->component)));
 }
 
 void FormSurface::CancelDrag() {
@@ -378,16 +383,21 @@ void FormSurface::Nudge(int dx, int dy, bool resize) {
   auto touched = session_->SelectedComponents();
   std::erase_if(touched, [&](const TComponent* c) { return !HasPlace(*c); });
   if (touched.empty()) return;
+  const TControl* stayed = nullptr;
   session_->Run(resize ? tr("Resize") : tr("Move"), touched, [&] {
     for (TComponent* c : touched) {
-      QRect r = RectOf(*c);
+      const QRect was = RectOf(*c);
+      QRect r = was;
       if (!resize)
         r.translate(dx, dy);
       else if (!HasIcon(*c))
         r.setSize(QSize(std::max(1, r.width() + dx), std::max(1, r.height() + dy)));
       SetRect(*c, r);
+      const auto* control = As<TControl>(c);
+      if (control && control->Align() != TAlign::alNone && RectOf(*c) == was) stayed = control;
     }
   });
+  if (stayed) emit Notice(WhatDecidesBounds(*stayed));
 }
 
 void FormSurface::keyPressEvent(QKeyEvent* event) {

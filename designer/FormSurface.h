@@ -33,7 +33,8 @@ class FormSurface : public QWidget {
  signals:
   void ToolUsed();
   void ToolChanged();
-  void Message(const QString& text);
+  void Message(const QString& text);  // something could not be done
+  void Notice(const QString& text);   // something to know, told quietly
   void ContextMenuWanted(const QPoint& globalPos);
   void InspectorWanted();
 

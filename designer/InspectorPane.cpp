@@ -247,6 +247,7 @@ void InspectorPane::ShowValue(bool keepTyping) {
   ValueEditor::Setup setup;
   setup.name = row.data(InspectorModel::PathRole).toString();
   setup.text = model_.ValueText(row);
+  setup.bold = row.data(InspectorModel::NotDefaultRole).toBool();
   setup.mixed = property->PropCount() > 1 && !property->AllEqual();
   setup.values = model_.ValueList(row);
   setup.readOnly = fixed && !a.Contains(paValueList);

@@ -128,6 +128,8 @@ void MainWindow::BuildPanes() {
   connect(surface_, &FormSurface::ContextMenuWanted, this, &MainWindow::ShowContextMenu);
   connect(surface_, &FormSurface::Message, this,
           [this](const QString& text) { Prompts().Warn(this, QCoreApplication::applicationName(), text); });
+  connect(surface_, &FormSurface::Notice, this,
+          [this](const QString& text) { statusBar()->showMessage(text, 8000); });
   connect(surface_, &FormSurface::InspectorWanted, inspector_, &InspectorPane::FocusValue);
 }
 
@@ -260,9 +262,9 @@ void MainWindow::BuildActions() {
       view, tr("&100 %"), {}, QKeySequence(Qt::CTRL | Qt::Key_0), [this] { SetZoom(1); }, "zoom100");
   view->addSeparator();
   AddAction(
-      view, tr("&Light theme"), {}, {}, [] { ApplyTheme(TTheme::Light); }, "light");
+      view, tr("&Light theme"), {}, {}, [] { ChooseTheme(TTheme::Light); }, "light");
   AddAction(
-      view, tr("&Dark theme"), {}, {}, [] { ApplyTheme(TTheme::Dark); }, "dark");
+      view, tr("&Dark theme"), {}, {}, [] { ChooseTheme(TTheme::Dark); }, "dark");
   AddFormColorsMenu(*view);
 
   QMenu* help = menuBar()->addMenu(tr("&Help"));

@@ -61,7 +61,7 @@ void MessageBar::changeEvent(QEvent* event) {
 
 // A touch of the accent colour over the window's own, in both themes.
 void MessageBar::TakeColors() {
-  QPalette own;  // the application's; only what is set here stays our own
+  QPalette own = QApplication::palette();
   const QColor window = own.color(QPalette::Window), accent = own.color(QPalette::Highlight);
   const auto mix = [](int a, int b) { return (a * 4 + b) / 5; };
   own.setColor(QPalette::Window, QColor(mix(window.red(), accent.red()), mix(window.green(), accent.green()),

@@ -57,6 +57,9 @@ void ValueEditor::Show(const Setup& setup, bool keepTyping) {
   setup_ = setup;
   field_->setAccessibleName(setup.name);
   field_->setReadOnly(setup.readOnly);
+  QFont font = this->font();
+  font.setBold(setup.bold);
+  field_->setFont(font);
   // Even the same limit makes the field forget that somebody typed.
   if (field_->maxLength() != setup.limit) {
     const bool typed = field_->isModified();

@@ -18,6 +18,7 @@ class ValueEditor : public QWidget {
     QStringList values;
     bool mixed = false;  // the components differ; the text is empty
     bool readOnly = false;
+    bool bold = false;  // the value is not the default
     bool dialog = false;
     int limit = 255;  // of what can be typed
     std::function<QIcon(const QString&)> iconOf;

@@ -3,6 +3,7 @@
 
 #include "dclstd/StandardEditors.h"
 #include "designer/Application.h"
+#include "designer/FormColorsMenu.h"
 #include "designer/MainWindow.h"
 #include "designer/Pictures.h"
 #include "rtl/Exceptions.h"
@@ -31,6 +32,7 @@ int main(int argc, char** argv) {
   ApplyTheme(wanted == QStringLiteral("dark")    ? TTheme::Dark
              : wanted == QStringLiteral("light") ? TTheme::Light
                                                  : TTheme::System);
+  if (wanted.isEmpty()) RestoreTheme();
   UseThemeIcons();
   RegisterStandard();
   PackageManager packages(PackageManager::DefaultFolders());

@@ -59,9 +59,10 @@ std::optional<Property> Remove(Object& object, int index) {
 void PatchObject(Object& object, Document& document, const Snapshot& after,
                  std::vector<ValueChange>& changes) {
   for (ValueChange& change : changes) {
-    const bool written =
-        change.storedAfter || (object.kind == ObjectKind::Inherited && !(change.before == change.after));
     const int at = IndexOf(object, change.path);
+    const bool written =
+        (change.storedAfter || (object.kind == ObjectKind::Inherited && !(change.before == change.after))) &&
+        !(change.follows && at < 0);
     change.index = at;
     if (at >= 0) change.nodeBefore = Remove(object, at);
     if (!written) continue;

@@ -14,6 +14,9 @@ struct ValueChange {
   Value before;
   Value after;
   bool storedAfter = true;
+  // The layout's doing: written only where the file says something about it already. A file that leaves out a
+  // coordinate leaves it to an ancestor, whose layout nobody knows here.
+  bool follows = false;
   // The document's own node on either side of the edit; none when the property was not written.
   std::optional<Property> nodeBefore;
   std::optional<Property> nodeAfter;

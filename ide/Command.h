@@ -1,6 +1,8 @@
 // One undoable step of an open form, in terms of its document. Objects of the document are the identities
 // that outlive components: a deleted component comes back as a new one, made from the same object.
 #pragma once
+#include <algorithm>
+
 #include "forms/Snapshot.h"
 
 // Values and name of one component.
@@ -28,5 +30,13 @@ struct Command {
   std::vector<StructureChange> structure;
   std::vector<ComponentChange> components;
   std::vector<forms::Object*> selectionBefore, selectionAfter;
-  bool Empty() const { return structure.empty() && components.empty(); }
+  // Nothing that the file would show.
+  bool Empty() const {
+    return structure.empty() &&
+           std::all_of(components.begin(), components.end(), [](const ComponentChange& c) {
+             return c.nameBefore == c.nameAfter &&
+                    std::all_of(c.values.begin(), c.values.end(),
+                                [](const forms::ValueChange& v) { return !v.nodeBefore && !v.nodeAfter; });
+           });
+  }
 };

@@ -16,6 +16,7 @@ TComponent* MakeRoot(const forms::Object& object, bool sizeIsClient, TComponent*
   auto* form = new TForm(owner);
   form->SetKind(KindOfRoot(object));
   form->SetSizeIsClient(sizeIsClient);
+  form->SetSizeInherited(object.kind == forms::ObjectKind::Inherited);
   form->SetStreamClassName(QByteArray(object.className.constData(), object.className.size()));
   return form;
 }

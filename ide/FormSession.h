@@ -133,6 +133,7 @@ class FormSession : public QObject, public IDesigner, public IControlHost {
   void Ended();
   std::unique_ptr<Command> TakeDifferences();
   void TakeBounds();
+  void MarkFollowing(std::vector<forms::ValueChange>& values, const TControl& control) const;
   void TakePlaces();
   void TakeArrivals();
   void Enter(TComponent& component, forms::Object& parent);

@@ -66,6 +66,9 @@ void FormSession::BoundsChanging(TControl& control) {
   if (applying_ || !map_.ObjectOf(control)) return;
   NoteStray();
   pending_->announced = true;
+  if (const auto hand = pending_->byHand.find(&control); hand != pending_->byHand.end())
+    hand->Settle(control.BoundsRect());
+  if (!control.IsFollowing()) pending_->byHand[&control].from = control.BoundsRect();
   if (pending_->moved.contains(&control)) return;
   pending_->moved.insert(&control, pending_->bounds.size());
   pending_->bounds.emplace_back(&control, control.BoundsRect());
@@ -180,6 +183,14 @@ void FormSession::CaptureAll() {
   walk(copy.Root(), document_.Root());
 }
 
+void FormSession::MarkFollowing(std::vector<forms::ValueChange>& values, const TControl& control) const {
+  Pending::ByHand hand = pending_->byHand.value(&control);
+  hand.Settle(control.BoundsRect());
+  for (forms::ValueChange& v : values)
+    v.follows = (v.path == "Left" && !hand.left) || (v.path == "Top" && !hand.top) ||
+                (v.path == "Width" && !hand.width) || (v.path == "Height" && !hand.height);
+}
+
 // What the pending command changed, with the document patched accordingly.
 std::unique_ptr<Command> FormSession::TakeDifferences() {
   TakeArrivals();
@@ -195,6 +206,7 @@ std::unique_ptr<Command> FormSession::TakeDifferences() {
     change.object = c.object;
     const forms::Snapshot after = forms::TakeSnapshot(*c.component, document_);
     change.values = forms::Difference(c.values, after);
+    if (const auto* control = As<TControl>(c.component)) MarkFollowing(change.values, *control);
     change.nameBefore = c.name;
     change.nameAfter = c.component->Name();
     change.classBefore = change.classAfter = c.object->className;

@@ -2,6 +2,7 @@
 
 #include "designintf/DesignIntf.h"
 #include "ide/BoundsCheck.h"
+#include "ide/StandIns.h"
 #include "rtl/Exceptions.h"
 
 using enum TPropertyAttribute;
@@ -95,7 +96,9 @@ void InspectorModel::Rebuild() {
   shown_ = session_ ? session_->SelectedComponents() : std::vector<TComponent*>();
   std::vector<std::unique_ptr<TPropertyEditor>> editors;
   GetComponentProperties({shown_.begin(), shown_.end()}, session_, [&](std::unique_ptr<TPropertyEditor> e) {
-    if (Belongs(*e)) editors.push_back(std::move(e));
+    const bool root = session_ && shown_.front() == session_->GetRoot();
+    if (Belongs(*e) && !(root && !RootHasProperty(session_->Form().Kind(), e->GetPropInfo().Name)))
+      editors.push_back(std::move(e));
   });
   std::stable_sort(editors.begin(), editors.end(), [](const auto& a, const auto& b) {
     return a->GetName().compare(b->GetName(), Qt::CaseInsensitive) < 0;

@@ -199,6 +199,19 @@ bool IsVisual(const forms::Object& object) {
   return cls && !cls->IsAbstract() ? cls->InheritsFrom(TControl::StaticClass()) : LookOf(object) != Component;
 }
 
+bool RootHasProperty(TFormKind kind, QByteArrayView property) {
+  static constexpr const char* module[] = {"Name",  "Tag",    "Left",     "Top",
+                                           "Width", "Height", "OnCreate", "OnDestroy"};
+  static constexpr const char* formEvents[] = {"OnCreate", "OnDestroy", "OnPaint"};
+  const auto among = [&](std::span<const char* const> names) {
+    return std::any_of(names.begin(), names.end(), [&](const char* n) {
+      return property.compare(QByteArrayView(n), Qt::CaseInsensitive) == 0;
+    });
+  };
+  if (kind == TFormKind::DataModule) return among(module);
+  return kind == TFormKind::Form || !(among(FormProperties) || among(formEvents));
+}
+
 TFormKind KindOfRoot(const forms::Object& root) {
   if (HasAny(root, FormProperties)) return TFormKind::Form;
   if (HasAny(root, FrameProperties)) return TFormKind::Frame;
@@ -288,7 +301,7 @@ TComponent* MakeStandIn(const forms::Document& document, const forms::Object& ob
   what.look = look;
   what.hasPlace = look != Page || HasAny(object, PlaceProperties);
   for (const AlignRow& row : AlignRows)
-    if (EndsWith(cls, row.ending)) what.usualAlign = row.align;
+    if (EndsWith(cls, row.ending) && object.kind != forms::ObjectKind::Inherited) what.usualAlign = row.align;
   control->SetAlign(what.usualAlign);
   what.text = read.Text("Text");
   if (what.text.isEmpty()) what.text = read.Lines("Lines.Strings").join(u'\n');

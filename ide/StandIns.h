@@ -38,6 +38,8 @@ TStandInLook LookOf(const forms::Object& object);
 QSize UsualSize(TStandInLook look);
 // Controls of registered classes included.
 bool IsVisual(const forms::Object& object);
+// Whether a root of that kind has the property; frames and data modules lack most of what forms have.
+bool RootHasProperty(TFormKind kind, QByteArrayView property);
 TFormKind KindOfRoot(const forms::Object& root);
 
 // The component that takes the place of an object of an unknown class.

@@ -229,7 +229,7 @@ bool TUnknownControl::PaintSurface(TCanvas& canvas) const {
   QColor fill = palette.color(QPalette::WindowText);
   fill.setAlpha(standIn_.look == Panel ? 0 : 10);
   Box(p, r, standIn_.color ? base : fill, 1);
-  if (Controls().empty()) PaintText(canvas, r, Qt::AlignCenter, text);
+  PaintText(canvas, r, Qt::AlignCenter, Controls().empty() ? text : Caption());
   return !text.isEmpty();
 }
 

@@ -153,6 +153,12 @@ void TControl::SetBounds(int left, int top, int width, int height) {
   Invalidate();
 }
 
+void TControl::Follow(const QRect& bounds) {
+  following_ = true;
+  SetBounds(bounds.left(), bounds.top(), bounds.width(), bounds.height());
+  following_ = false;
+}
+
 void TControl::SetAlign(TAlign v) {
   if (align_ == v) return;
   const LayoutChange among(parent_);
@@ -190,7 +196,7 @@ void TControl::DoChanged() {
       };
       const int width = size(widthGiven_, width_, before.width(), after.width());
       const int height = size(heightGiven_, height_, before.height(), after.height());
-      SetBounds(GrowsToTheLeft() ? left_ + width_ - width : left_, top_, width, height);
+      Follow({GrowsToTheLeft() ? left_ + width_ - width : left_, top_, width, height});
     }
   }
   Invalidate();

@@ -78,6 +78,8 @@ class TControl : public TComponent {
     SetBounds(left_, top_, width_, v);
   }
   virtual QRect ClientRect() const { return {0, 0, width_, height_}; }
+  // While the bounds change because something else did: the layout around, the text inside.
+  bool IsFollowing() const { return following_; }
 
   TAlign Align() const { return align_; }
   void SetAlign(TAlign v);
@@ -150,6 +152,8 @@ class TControl : public TComponent {
 
  private:
   friend class TWinControl;
+  friend class LayoutChange;
+  void Follow(const QRect& bounds);
   bool ColorStored() const { return !parentColor_; }
   bool FontStored() const { return !parentFont_; }
   bool ShowHintStored() const { return !parentShowHint_; }
@@ -168,6 +172,7 @@ class TControl : public TComponent {
   bool enabled_ = true, visible_ = true, showHint_ = false;
   bool parentFont_ = true, parentShowHint_ = true;
   bool takingParentLook_ = false;
+  bool following_ = false;
   bool widthGiven_ = false, heightGiven_ = false;  // by a form file or a person, not by the content
 };
 

@@ -105,8 +105,16 @@ void TForm::SetFrameHeight(int v) {
 }
 
 void TForm::SetBounds(int left, int top, int width, int height) {
-  TWinControl::SetBounds(left, top, std::max(width, frameExtra_.width()),
-                         std::max(height, frameExtra_.height()));
+  width = std::max(width, frameExtra_.width());
+  height = std::max(height, frameExtra_.height());
+  if (sizeInherited_ && !IsLoading() && !IsLayoutFrozen()) {
+    const bool across = width != Width() && across_.Unknown(), down = height != Height() && down_.Unknown();
+    TControl::SetBounds(Left(), Top(), across ? width : Width(), down ? height : Height());
+    const bool client = kind_ == TFormKind::Form && !sizeIsClient_;
+    if (across) (client ? across_.client : across_.frame) = client ? ClientWidth() : Width();
+    if (down) (client ? down_.client : down_.frame) = client ? ClientHeight() : Height();
+  }
+  TWinControl::SetBounds(left, top, width, height);
 }
 
 void TForm::SetSizeIsClient(bool v) {

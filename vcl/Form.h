@@ -60,6 +60,10 @@ class TForm : public TWinControl {
   QSize FrameExtra() const { return frameExtra_; }
   // In some form files Width and Height are the client area's. To be said before the form is loaded.
   void SetSizeIsClient(bool v);
+  bool SizeIsClient() const { return sizeIsClient_; }
+  // A size that the form file does not give is the ancestor's, which nobody knows: the first one that is
+  // given moves nothing. To be said before the form is loaded.
+  void SetSizeInherited(bool v) { sizeInherited_ = v; }
   QRect ClientRect() const override { return {0, 0, ClientWidth(), ClientHeight()}; }
   int ClientWidth() const;
   int ClientHeight() const;
@@ -94,6 +98,7 @@ class TForm : public TWinControl {
   // Along one axis: what the form file gives, -1 for nothing.
   struct LoadedSize {
     int frame = -1, client = -1;
+    bool Unknown() const { return frame < 0 && client < 0; }
   };
   bool FrameStored(const LoadedSize& s) const {
     return s.frame >= 0 || ((sizeIsClient_ || kind_ != TFormKind::Form) && s.client < 0);
@@ -122,6 +127,7 @@ class TForm : public TWinControl {
   TWindowState windowState_ = TWindowState::wsNormal;
   bool keyPreview_ = false;
   bool sizeIsClient_ = false;
+  bool sizeInherited_ = false;
   QSize frameExtra_;
   LoadedSize across_, down_;
   int pixelsPerInch_ = 96;

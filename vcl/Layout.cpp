@@ -178,8 +178,7 @@ LayoutChange::~LayoutChange() {
       const Placement& now = after[i];
       const Placement* was =
           i < before_.size() && before_[i].control == now.control ? &before_[i] : Find(before_, now.control);
-      const QRect r = NewBounds(was, now, discrepancy);
-      now.control->SetBounds(r.left(), r.top(), r.width(), r.height());
+      now.control->Follow(NewBounds(was, now, discrepancy));
     }
   }
   container_->layoutChanging_ = false;

@@ -4,6 +4,7 @@
 #include <QStyleOptionButton>
 
 #include "rtl/ClassRegistry.h"
+#include "vcl/Form.h"
 #include "vcl/FormColors.h"
 
 const TClass& TLabel::StaticClass() {
@@ -47,6 +48,16 @@ QSize TLabel::AutoSizeHint() const {
   const QSize text = TextExtent(Caption().isEmpty() ? QStringLiteral(" ") : Caption(), *Font(),
                                 wordWrap_ ? int{Qt::TextWordWrap} : 0, wordWrap_ ? Width() : 0);
   return {wordWrap_ ? Width() : Caption().isEmpty() ? 0 : text.width(), text.height()};
+}
+
+// In forms whose width is the client's, anchors alone decide which edge stays.
+bool TLabel::GrowsToTheLeft() const {
+  const TControl* top = this;
+  while (top->Parent()) top = top->Parent();
+  const auto* form = As<TForm>(top);
+  if (form && form->SizeIsClient())
+    return Anchors().Contains(TAnchorKind::akRight) && !Anchors().Contains(TAnchorKind::akLeft);
+  return alignment_ == TAlignment::taRightJustify;
 }
 
 QRect TLabel::PaintExtent() const {

@@ -30,7 +30,7 @@ class TLabel : public TGraphicControl {
 
  protected:
   QSize AutoSizeHint() const override;
-  bool GrowsToTheLeft() const override { return alignment_ == TAlignment::taRightJustify; }
+  bool GrowsToTheLeft() const override;
 
  private:
   int TextFlags() const;

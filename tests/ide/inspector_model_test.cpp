@@ -410,3 +410,22 @@ TEST_F(InspectorTest, AnUnknownComponentShowsWhatIsKnown) {
   EXPECT_EQ(Changes(), "-Left = 240|+Left = 16");
   ExpectUndoable();
 }
+
+TEST(InspectorOfRoots, FramesAndDataModulesOfferOnlyWhatTheyHave) {
+  ide::RegisterAll();
+  const auto offers = [](const QByteArray& form, const char* property) {
+    const auto session = FormSession::FromBytes(form);
+    InspectorModel model;
+    model.SetSession(session.get());
+    return model.IndexOfPath(QString::fromLatin1(property)).isValid();
+  };
+  const QByteArray module = "object M: TM\n  OldCreateOrder = False\n  Height = 200\n  Width = 300\nend\n";
+  EXPECT_FALSE(offers(module, "Caption"));
+  EXPECT_FALSE(offers(module, "ClientWidth"));
+  EXPECT_TRUE(offers(module, "Width"));
+  const QByteArray frame =
+      "object F: TF\n  Width = 300\n  Height = 200\n  TabOrder = 0\n  object B: TButton\n  end\nend\n";
+  EXPECT_FALSE(offers(frame, "BorderStyle"));
+  EXPECT_TRUE(offers(frame, "Font"));
+  EXPECT_TRUE(offers("object F: TF\n  Caption = 'x'\nend\n", "BorderStyle"));
+}

@@ -104,6 +104,45 @@ TEST(Layout, WhatAnAlignmentTakesBackIsRefusedAndSaysSo) {
   EXPECT_TRUE(session->CanUndo());
 }
 
+TEST(Layout, WhatTheFileLeavesToAnAncestorIsNotInvented) {
+  RegisterAll();
+  const auto session = FormSession::FromBytes(
+      "inherited F: TF\n  Caption = 'F'\n  inherited Label1: TLabel\n    Caption = 'x'\n  end\n  inherited "
+      "Bar: TToolBar\n    "
+      "Height = 29\n  end\n  inherited Split: TSplitter\n    Left = 200\n    Width = 8\n  end\n  inherited "
+      "Memo: TPanel\n    Width = 90\n    Align = alRight\n  end\n  object New: TPanel\n    Left = 10\n    "
+      "Top "
+      "= 10\n    Width = 100\n    Height = 20\n    Anchors = [akLeft, akTop, akRight]\n  end\nend\n");
+  auto& label = *As<TLabel>(session->GetComponent(QStringLiteral("Label1")));
+  const QByteArray before = session->Bytes();
+  session->Run(QStringLiteral("x"), {}, [&] { label.SetCaption(QStringLiteral("longer")); });
+  EXPECT_EQ(ChangedLines(before, session->Bytes()).join('|'), "-Caption = 'x'|+Caption = 'longer'");
+  EXPECT_EQ(Edited(*session, "Bar", "Height", 30), "-Height = 29|+Height = 30");
+  EXPECT_EQ(Edited(*session, "Split", "Left", 201), "-Left = 200|+Left = 201");
+  EXPECT_EQ(Edited(*session, "Memo", "Width", 91), "-Width = 90|+Width = 91");
+  // The size it had is the ancestor's secret, so nothing can be said about growth.
+  EXPECT_EQ(Edited(*session, "F", "ClientWidth", 500), "+ClientWidth = 500");
+  EXPECT_EQ(Edited(*session, "F", "ClientWidth", 510),
+            "-ClientWidth = 500|-Width = 100|+ClientWidth = 510|+Width = 110");
+  // What is set by hand is written.
+  EXPECT_EQ(Edited(*session, "Label1", "Width", 77), "+Width = 77");
+}
+
+TEST(Layout, InTheOtherFormatAnchorsDecideWhichEdgeOfALabelStays) {
+  RegisterAll();
+  for (const bool right : {false, true}) {
+    const auto session = FormSession::FromBytes(
+        QByteArray("object F: TF\n  Width = 400\n  object L: TLabel\n    Left = 200\n    Width = 50\n    ") +
+            (right ? "Anchors = [akTop, akRight]\n    " : "") +
+            "Alignment = taRightJustify\n    Caption = 'Go'\n  end\nend\n",
+        QStringLiteral("f.lfm"));
+    auto& label = *As<TLabel>(session->GetComponent(QStringLiteral("L")));
+    session->Run(QStringLiteral("x"), {}, [&] { label.SetCaption(QStringLiteral("Go on")); });
+    EXPECT_GT(label.Width(), 50);
+    EXPECT_EQ(right ? label.Left() + label.Width() : label.Left() + 50, 250);
+  }
+}
+
 TEST(Layout, ThePlaceOfAPageThatFillsItsBookIsRefused) {
   RegisterAll();
   const auto session = FormSession::FromBytes(

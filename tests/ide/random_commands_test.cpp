@@ -112,8 +112,8 @@ class Monkey {
   template <class F>
   void Run(TComponent& c, F&& action) {
     // Whether the command says what it is going to change makes no difference.
-    session_->Run(QStringLiteral("step"), Below(2) ? std::vector<TComponent*>{&c} : std::vector<TComponent*>(),
-                  action);
+    session_->Run(QStringLiteral("step"),
+                  Below(2) ? std::vector<TComponent*>{&c} : std::vector<TComponent*>(), action);
   }
   void Move(TComponent& c) {
     if (auto* control = As<TControl>(&c))

@@ -68,9 +68,10 @@ TEST_F(UnannouncedTest, HandlersAndReferencesAreFound) {
 
 TEST_F(UnannouncedTest, ARenamingReachesWhoeverRefersToIt) {
   session_->Run(QStringLiteral("verb"), {}, [&] { Get("Inner").SetName(QStringLiteral("Outer")); });
-  EXPECT_EQ(Changes(),
-            "-object Inner: TButton|+object Outer: TButton|-Caption = 'Inner'|+Caption = 'Outer'|-FocusControl = "
-            "Inner|+FocusControl = Outer");
+  EXPECT_EQ(
+      Changes(),
+      "-object Inner: TButton|+object Outer: TButton|-Caption = 'Inner'|+Caption = 'Outer'|-FocusControl = "
+      "Inner|+FocusControl = Outer");
   ExpectUndoable();
 }
 
@@ -156,12 +157,16 @@ TEST_F(UnannouncedTest, ASetterThatTellsNobodyIsFoundWhenTheEditorSaysSo) {
 
 TEST_F(UnannouncedTest, MakingTheComponentsAnewWaitsForTheCommand) {
   TComponent* label = &Get<TLabel>("Label1");
+  int rebuilt = 0;
+  QObject::connect(session_.get(), &FormSession::StructureChanged, [&] { ++rebuilt; });
   session_->Run(QStringLiteral("dialog"), {}, [&] {
     session_->Rebuild();
     EXPECT_EQ(session_->GetComponent(QStringLiteral("Label1")), label);
     Get<TLabel>("Label1").SetHint(QStringLiteral("x"));
     session_->Undo();
+    EXPECT_EQ(rebuilt, 0);
   });
+  EXPECT_EQ(rebuilt, 1);
   EXPECT_EQ(Changes(), "+Hint = 'x'");
   ExpectUndoable();
 }
