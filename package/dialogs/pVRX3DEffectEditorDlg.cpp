@@ -61,7 +61,7 @@ void TVRX3DEffectEditorDlg::BuildSettings() {
   settings_ = {btngetpic, btngetcap, spind};
   const auto color = [this](TVRXColorComboBox*& combo, QToolButton*& button, const char* name,
                             const char* buttonName, const char* label, const char* hint) {
-    using enum TVRXColorStyle;
+    using enum TColorBoxStyle;
     combo = Named(new TVRXColorComboBox({csDefaultColors, csSystemColors, csAnyColor}, this), name, hint);
     button = NewColorButton(buttonName, this);
     AddRow(QString::fromLatin1(label), combo, button);

@@ -105,6 +105,38 @@ TEST_F(SetCli, WritesEveryKindOfValue) {
   EXPECT_EQ(Changed({L("Go.Caption='a=b.c'")}), QStringList{L("Caption = 'a=b.c'")});
 }
 
+TEST_F(SetCli, WhatStandsInAFrameIsNamedThroughTheFrame) {
+  const QByteArray form =
+      "object F: TF\n  inline Frame1: TFrame1\n    Left = 1\n    Top = 2\n    Width = 90\n    Height = 80\n  "
+      "  "
+      "inherited Button1: TButton\n      Caption = 'Old'\n    end\n  end\nend\n";
+  const QString file = Write("frame.dfm", form);
+  EXPECT_EQ(Vrx({L("get"), file, L("Frame1.Button1.Caption")}).out, QStringLiteral("'Old'\n"));
+  EXPECT_EQ(Vrx({L("set"), file, L("Frame1.Button1.Caption='New'")}).code, 0);
+  EXPECT_EQ(Read(file), QByteArray(form).replace("Old", "New"));
+}
+
+TEST_F(SetCli, AnAlignmentThatTakesTheEditBackIsNoSuccess) {
+  const QByteArray form =
+      "object F: TF\n  ClientHeight = 100\n  ClientWidth = 200\n  object P: TPanel\n    Left = 0\n    Top = "
+      "0\n    "
+      "Width = 200\n    Height = 30\n    Align = alTop\n  end\nend\n";
+  const QString file = Write("aligned.dfm", form);
+  const Result r = Vrx({L("set"), file, L("P.Width=300")});
+  EXPECT_EQ(r.code, 1);
+  EXPECT_TRUE(r.err.contains(QStringLiteral("Width stays 200. P is aligned (Align = alTop)")))
+      << r.err.toStdString();
+  EXPECT_EQ(Read(file), form);
+  EXPECT_EQ(Vrx({L("set"), file, L("P.Align=alNone"), L("P.Width=300")}).code, 0);
+}
+
+TEST_F(SetCli, ADataModuleHasNoCaption) {
+  const QByteArray form = "object M: TM\n  OldCreateOrder = False\n  Height = 200\n  Width = 300\nend\n";
+  const QString file = Write("module.dfm", form);
+  EXPECT_EQ(Vrx({L("set"), file, L("M.Caption='x'")}).code, 1);
+  EXPECT_EQ(Read(file), form);
+}
+
 TEST_F(SetCli, TheSameValueChangesNoByte) {
   EXPECT_EQ(Changed({L("Go.Left=8"), L("Form1.Color=clBtnFace")}), QStringList());
 }

@@ -161,6 +161,31 @@ TEST_F(DesignerTest, ArrowsMoveByTheGridAndWithControlByAPixel) {
   ExpectUntouched();
 }
 
+TEST_F(DesignerTest, KeysThatAnAlignmentTakesBackSayWhyQuietly) {
+  Select("Panel1");
+  auto& panel = *As<TControl>(&Get("Panel1"));
+  Session().Run(QStringLiteral("x"), {}, [&] { panel.SetAlign(TAlign::alTop); });
+  QStringList notices;
+  QObject::connect(&Surface(), &FormSurface::Notice, [&](const QString& text) { notices << text; });
+  Key(Qt::Key_Right);
+  Key(Qt::Key_Right, Qt::ShiftModifier);
+  ASSERT_EQ(notices.size(), 2);
+  EXPECT_TRUE(notices[0].contains(QStringLiteral("Align = alTop")));
+  Key(Qt::Key_Down, Qt::ShiftModifier);
+  EXPECT_EQ(notices.size(), 2) << "its height is its own";
+}
+
+TEST_F(DesignerTest, AToolPlacesNothingBesideTheForm) {
+  Surface().resize(2000, 1500);
+  Surface().SetTool(&TButton::StaticClass());
+  Click(Surface().WidgetRect(Session().Form()).bottomRight() + QPoint(15, 15));
+  ExpectUntouched();
+  EXPECT_EQ(Surface().Tool(), &TButton::StaticClass());
+  Click(At("Main"));
+  EXPECT_EQ(Surface().Tool(), nullptr);
+  EXPECT_TRUE(Session().CanUndo());
+}
+
 TEST_F(DesignerTest, ShiftArrowsResize) {
   Select("Button1");
   Key(Qt::Key_Right, Qt::ShiftModifier);

@@ -1,4 +1,5 @@
 // Files, undo, questions, errors and looks of the main window.
+#include "designer/FormColorsMenu.h"
 #include "rtl/Exceptions.h"
 #include "tests/designer/DesignerTest.h"
 #include "vcl/FormColors.h"
@@ -269,6 +270,17 @@ TEST_F(Window, BothThemesReachTheWholeWindowAndLeaveTheFormAlone) {
   EXPECT_EQ(form(), lightForm);
   ExpectUntouched();
   Action("light").trigger();
+}
+
+TEST_F(Window, TheThemeIsRemembered) {
+  Action("dark").trigger();
+  ApplyTheme(TTheme::Light);
+  RestoreTheme();
+  EXPECT_TRUE(IsDarkTheme());
+  Action("light").trigger();
+  ApplyTheme(TTheme::Dark);
+  RestoreTheme();
+  EXPECT_FALSE(IsDarkTheme());
 }
 
 TEST_F(Window, FormColoursAreOfTheFormAloneAndRemembered) {

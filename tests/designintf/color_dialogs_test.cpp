@@ -45,6 +45,20 @@ TEST(ColorDialog, AnAddedColourStandsBehindTheOthers) {
   EXPECT_EQ(CustomAfterAdding({clNavy, clWhite}, {}), (Colors{clNavy, clWhite}));
 }
 
+TEST(ColorDialog, AnAddedColourDoesNotReplaceTheOneThatIsSelected) {
+  QStringList entries = CustomColorEntries({TColor(0x00112233u), clNavy});
+  TColor color = TColor(0x00112233u);
+  modal::NextOf<QColorDialog>([&](QColorDialog& dialog) {
+    AddCustom(dialog, QColor(0x44, 0x55, 0x66));
+    dialog.reject();
+  });
+  EXPECT_FALSE(ChooseColor(nullptr, color, entries));
+  const Colors after = CustomColorValues(entries);
+  EXPECT_EQ(after.size(), 3u);
+  for (const TColor wanted : {TColor(0x00112233u), clNavy, RGBColor(0x44, 0x55, 0x66)})
+    EXPECT_NE(std::find(after.begin(), after.end(), wanted), after.end());
+}
+
 TEST(ColorDialog, OnlyAFullListGivesItsFirstPlaceAway) {
   Colors colors;
   for (unsigned i = 0; i < 16; ++i) colors.push_back(TColor(i * 0x030201));

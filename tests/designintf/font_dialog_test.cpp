@@ -47,7 +47,8 @@ class FontEditor : public testing::Test {
 }  // namespace
 
 TEST_F(FontEditor, ShowsTheNameThatIsStoredWhateverIsInstalled) {
-  for (const char* name : {"Tahoma", "No Such Family At All", "tahoma ", "X"}) {
+  for (const char* name :
+       {"Tahoma", "No Such Family At All", "tahoma ", "X", "dejavu sans", "DEJAVU SERIF"}) {
     font.SetName(QString::fromLatin1(name));
     EXPECT_EQ(Changed([&](FontDialog& dlg) {
                 EXPECT_EQ(dlg.cmbname->currentText(), font.Name());

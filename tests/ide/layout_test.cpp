@@ -123,7 +123,7 @@ TEST(Layout, WhatTheFileLeavesToAnAncestorIsNotInvented) {
   // The size it had is the ancestor's secret, so nothing can be said about growth.
   EXPECT_EQ(Edited(*session, "F", "ClientWidth", 500), "+ClientWidth = 500");
   EXPECT_EQ(Edited(*session, "F", "ClientWidth", 510),
-            "-ClientWidth = 500|-Width = 100|+ClientWidth = 510|+Width = 110");
+            "-ClientWidth = 500|+ClientWidth = 510|-Width = 100|+Width = 110");
   // What is set by hand is written.
   EXPECT_EQ(Edited(*session, "Label1", "Width", 77), "+Width = 77");
 }
