@@ -101,7 +101,7 @@ QToolButton* PalettePane::ScrollButton(Qt::ArrowType arrow, const QString& name,
   button->setFixedSize(18, arrow_->sizeHint().height());
   button->hide();
   QScrollBar* bar = scroll_->horizontalScrollBar();
-  connect(bar, &QScrollBar::rangeChanged, button, [this, button, bar](int, int) {
+  connect(bar, &QScrollBar::rangeChanged, button, [this, button](int, int) {
     const int room = scroll_->width() + (button->isHidden() ? 0 : 2 * button->width());
     button->setVisible(scroll_->widget()->minimumSizeHint().width() > room);
   });

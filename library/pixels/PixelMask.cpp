@@ -75,9 +75,8 @@ PixelSet::PixelSet(const std::vector<TColor>& colors) {
       factor2_ = factor2_ * 0x297A2D39u | 1u;
     }
   }
-  filter_.assign(std::size_t{1} << (32 - FilterShift - 5), 0);
-  for (const std::uint32_t p : pixels_)
-    filter_[FilterPlace(p) / 32] |= std::uint32_t{1} << FilterPlace(p) % 32;
+  filter_.assign(std::size_t{1} << (32 - FilterShift), 0);
+  for (const std::uint32_t p : pixels_) filter_[FilterPlace(p)] = 1;
 }
 
 bool PixelSet::Insert(std::uint32_t pixel) {
@@ -143,10 +142,7 @@ void PixelSet::MatchBlocks(const std::uint32_t* row, int width, std::uint64_t* m
 void PixelSet::MatchPortable(const std::uint32_t* row, int width, std::uint64_t* mask) const {
   MatchBlocks(row, width, mask, [this](const std::uint32_t* block, std::uint64_t wanted) {
     std::uint64_t bits = 0;
-    for (int i = 0; i < 64; ++i) {
-      const std::uint32_t at = FilterPlace(block[i]);
-      bits |= std::uint64_t{filter_[at / 32] >> at % 32 & 1u} << i;
-    }
+    for (int i = 0; i < 64; ++i) bits |= std::uint64_t{filter_[FilterPlace(block[i])]} << i;
     return bits & wanted;
   });
 }
@@ -159,20 +155,22 @@ bool PixelSet::HasWide() {
 
 namespace {
 __attribute__((target("avx2"))) std::uint64_t FilterWide(const std::uint32_t* block, std::uint64_t wanted,
-                                                         const std::uint32_t* filter, std::uint32_t factor,
+                                                         const std::uint8_t* filter, std::uint32_t factor,
                                                          int shift) {
-  const __m256i factors = _mm256_set1_epi32(static_cast<int>(factor)), low = _mm256_set1_epi32(31);
+  const __m256i factors = _mm256_set1_epi32(static_cast<int>(factor));
   const __m128i shiftBy = _mm_cvtsi32_si128(shift);
   std::uint64_t bits = 0;
   for (int i = 0; i < 64; i += 8) {
     if ((wanted >> i & 0xFFu) == 0) continue;
     const __m256i p = _mm256_loadu_si256(reinterpret_cast<const __m256i*>(block + i));
-    const __m256i at = _mm256_srl_epi32(_mm256_mullo_epi32(p, factors), shiftBy);
-    const __m256i words =
-        _mm256_i32gather_epi32(reinterpret_cast<const int*>(filter), _mm256_srli_epi32(at, 5), 4);
-    // The wanted bit becomes the sign.
-    const __m256i signs = _mm256_sllv_epi32(words, _mm256_andnot_si256(at, low));
-    bits |= std::uint64_t{static_cast<unsigned>(_mm256_movemask_ps(_mm256_castsi256_ps(signs)))} << i;
+    const __m256i hash = _mm256_srl_epi32(_mm256_mullo_epi32(p, factors), shiftBy);
+    const __m128i low = _mm256_castsi256_si128(hash), high = _mm256_extracti128_si256(hash, 1);
+    const auto half = [](long long v) { return static_cast<std::uint64_t>(v); };
+    const std::uint64_t pairs[] = {half(_mm_cvtsi128_si64(low)), half(_mm_extract_epi64(low, 1)),
+                                   half(_mm_cvtsi128_si64(high)), half(_mm_extract_epi64(high, 1))};
+    const auto hit = [&](int k) { return filter[pairs[k / 2] >> 32 * (k % 2) & 0xFFFFFFFFu]; };
+    if ((hit(0) | hit(1) | hit(2) | hit(3) | hit(4) | hit(5) | hit(6) | hit(7)) == 0) continue;
+    for (int k = 0; k < 8; ++k) bits |= std::uint64_t{hit(k)} << (i + k);
   }
   return bits & wanted;
 }
