@@ -5,7 +5,6 @@
 MessageBar::MessageBar(QWidget* parent)
     : QFrame(parent), icon_(new QLabel), text_(new QLabel), buttons_(new QHBoxLayout) {
   setObjectName(QStringLiteral("messageBar"));
-  setAutoFillBackground(true);
   text_->setWordWrap(true);
   text_->setTextInteractionFlags(Qt::TextSelectableByMouse);
   text_->setObjectName(QStringLiteral("messageText"));
@@ -27,7 +26,7 @@ MessageBar::MessageBar(QWidget* parent)
   row->addWidget(text_, 1);
   row->addLayout(buttons_);
   row->addWidget(close);
-  TakeColors();
+  TakeIcon();
   hide();
 }
 
@@ -56,17 +55,19 @@ QString MessageBar::Text() const { return isHidden() ? QString() : text_->text()
 
 void MessageBar::changeEvent(QEvent* event) {
   QFrame::changeEvent(event);
-  if (event->type() == QEvent::StyleChange || event->type() == QEvent::ApplicationPaletteChange) TakeColors();
+  if (event->type() == QEvent::StyleChange) TakeIcon();
 }
 
 // A touch of the accent colour over the window's own, in both themes.
-void MessageBar::TakeColors() {
-  QPalette own = QApplication::palette();
-  const QColor window = own.color(QPalette::Window), accent = own.color(QPalette::Highlight);
+void MessageBar::paintEvent(QPaintEvent* event) {
+  const QColor window = palette().color(QPalette::Window), accent = palette().color(QPalette::Highlight);
   const auto mix = [](int a, int b) { return (a * 4 + b) / 5; };
-  own.setColor(QPalette::Window, QColor(mix(window.red(), accent.red()), mix(window.green(), accent.green()),
-                                        mix(window.blue(), accent.blue())));
-  setPalette(own);
+  QPainter(this).fillRect(rect(), QColor(mix(window.red(), accent.red()), mix(window.green(), accent.green()),
+                                         mix(window.blue(), accent.blue())));
+  QFrame::paintEvent(event);
+}
+
+void MessageBar::TakeIcon() {
   const int size = style()->pixelMetric(QStyle::PM_SmallIconSize);
   icon_->setPixmap(style()->standardIcon(QStyle::SP_MessageBoxInformation).pixmap(size));
 }

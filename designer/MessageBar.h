@@ -25,9 +25,10 @@ class MessageBar : public QFrame {
 
  protected:
   void changeEvent(QEvent* event) override;
+  void paintEvent(QPaintEvent* event) override;
 
  private:
-  void TakeColors();
+  void TakeIcon();
 
   QLabel* icon_;
   QLabel* text_;

@@ -1,5 +1,6 @@
 // Files, undo, questions, errors and looks of the main window.
 #include "designer/FormColorsMenu.h"
+#include "designer/MessageBar.h"
 #include "rtl/Exceptions.h"
 #include "tests/designer/DesignerTest.h"
 #include "vcl/FormColors.h"
@@ -270,6 +271,20 @@ TEST_F(Window, BothThemesReachTheWholeWindowAndLeaveTheFormAlone) {
   EXPECT_EQ(form(), lightForm);
   ExpectUntouched();
   Action("light").trigger();
+}
+
+TEST_F(Window, AMessageCanBeReadAfterTheThemeChanges) {
+  MessageBar bar;
+  bar.Tell(QStringLiteral("Changed"), {});
+  for (const TTheme theme : {TTheme::Dark, TTheme::Light, TTheme::Dark}) {
+    ApplyTheme(theme);
+    QCoreApplication::processEvents();
+    const QPalette shown = bar.findChild<QLabel*>(QStringLiteral("messageText"))->palette();
+    const int back = qGray(bar.grab().toImage().pixel(2, bar.height() / 2));
+    EXPECT_GT(std::abs(back - qGray(shown.color(QPalette::WindowText).rgb())), 100);
+    EXPECT_EQ(back < 128, theme == TTheme::Dark);
+  }
+  ApplyTheme(TTheme::Light);
 }
 
 TEST_F(Window, TheThemeIsRemembered) {
