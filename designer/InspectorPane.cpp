@@ -447,12 +447,12 @@ bool InspectorPane::eventFilter(QObject* watched, QEvent* event) {
     if (watched == view_ && ListKey(key->key(), key->text())) return true;
   }
   if (watched != view_->viewport()) return QWidget::eventFilter(watched, event);
-  const auto* mouse = static_cast<QMouseEvent*>(event);
   if (event->type() == QEvent::Resize) PlaceEditor();
-  if (event->type() == QEvent::MouseButtonRelease && mouse->button() == Qt::LeftButton)
-    CellClicked(mouse->pos());
+  if (event->type() == QEvent::MouseButtonRelease)
+    if (const auto* mouse = static_cast<QMouseEvent*>(event); mouse->button() == Qt::LeftButton)
+      CellClicked(mouse->pos());
   if (event->type() == QEvent::MouseButtonDblClick) {
-    const QModelIndex row = view_->indexAt(mouse->pos()).siblingAtColumn(0);
+    const QModelIndex row = view_->indexAt(static_cast<QMouseEvent*>(event)->pos()).siblingAtColumn(0);
     if (model_.hasChildren(row)) view_->setExpanded(row, !view_->isExpanded(row));
     return true;
   }

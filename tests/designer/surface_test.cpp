@@ -166,7 +166,8 @@ TEST_F(DesignerTest, KeysThatAnAlignmentTakesBackSayWhyQuietly) {
   auto& panel = *As<TControl>(&Get("Panel1"));
   Session().Run(QStringLiteral("x"), {}, [&] { panel.SetAlign(TAlign::alTop); });
   QStringList notices;
-  QObject::connect(&Surface(), &FormSurface::Notice, [&](const QString& text) { notices << text; });
+  QObject listener;
+  QObject::connect(&Surface(), &FormSurface::Notice, &listener, [&](const QString& text) { notices << text; });
   Key(Qt::Key_Right);
   Key(Qt::Key_Right, Qt::ShiftModifier);
   ASSERT_EQ(notices.size(), 2);

@@ -302,7 +302,8 @@ TEST_F(InspectorTest, RowsBelowAnotherObjectAreMadeAnew) {
 TEST_F(InspectorTest, ASelectionThatIsToldAgainMakesNoRowsAnew) {
   Show({"Button1"});
   int resets = 0;
-  QObject::connect(&model_, &QAbstractItemModel::modelReset, &model_, [&] { ++resets; });
+  QObject listener;
+  QObject::connect(&model_, &QAbstractItemModel::modelReset, &listener, [&] { ++resets; });
   session_->Select(session_->SelectedComponents());
   EXPECT_EQ(Set("Left", "248"), QString());
   EXPECT_FALSE(Set("Left", "wide").isEmpty());  // taken back

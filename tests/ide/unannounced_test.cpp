@@ -158,7 +158,8 @@ TEST_F(UnannouncedTest, ASetterThatTellsNobodyIsFoundWhenTheEditorSaysSo) {
 TEST_F(UnannouncedTest, MakingTheComponentsAnewWaitsForTheCommand) {
   TComponent* label = &Get<TLabel>("Label1");
   int rebuilt = 0;
-  QObject::connect(session_.get(), &FormSession::StructureChanged, [&] { ++rebuilt; });
+  QObject listener;
+  QObject::connect(session_.get(), &FormSession::StructureChanged, &listener, [&] { ++rebuilt; });
   session_->Run(QStringLiteral("dialog"), {}, [&] {
     session_->Rebuild();
     EXPECT_EQ(session_->GetComponent(QStringLiteral("Label1")), label);
