@@ -329,6 +329,8 @@ void MainWindow::UpdateProblems() {
 
 bool MainWindow::OpenForm(const QString& fileName) {
   try {
+    // An editor's dialog works on components of the form that is open.
+    if (session_ && session_->IsBusy()) throw Exception(tr("Finish what is open first."));
     SetSession(FormSession::Open(fileName));
     forms::RemoveLeftovers(fileName);
     return true;
@@ -342,7 +344,8 @@ bool MainWindow::OpenForm(const QString& fileName) {
 bool MainWindow::Reload() {
   QStringList names;
   for (const TComponent* c : session_->SelectedComponents()) names << c->Name();
-  if (!OpenForm(session_->FileName())) return false;
+  const QString file = session_->FileName();  // the session that knows it goes
+  if (!OpenForm(file)) return false;
   std::vector<TComponent*> selected;
   for (const QString& name : names)
     if (TComponent* c = session_->GetComponent(name)) selected.push_back(c);
