@@ -36,10 +36,12 @@ TComponent* FormReader::Create(Object& object, TComponent* owner) {
 
 std::unique_ptr<TComponent> FormReader::ReadRoot() {
   Object& object = document_.Root();
-  map_.Reserve(CountObjects(object));
+  const qsizetype count = CountObjects(object);
+  map_.Reserve(count);
   std::unique_ptr<TComponent> root(makeRoot_ ? makeRoot_(object, nullptr) : Create(object, nullptr));
   if (!root) return nullptr;
   root->SetDesigning(designing_);
+  root->ReserveNames(count);
   ReadInto(object, *root, root.get());
   Finish(*root);
   return root;

@@ -97,6 +97,11 @@ void TComponent::ComponentListed(TComponent& component, TOperation operation) {
   if (owner_) owner_->ComponentListed(component, operation);
 }
 
+void TComponent::ReserveNames(qsizetype count) {
+  if (!names_) names_ = std::make_unique<QHash<TNameKey, TComponent*>>();
+  names_->reserve(count);
+}
+
 void TComponent::EnterName(TComponent& component) {
   if (component.name_.isEmpty()) return;
   if (!names_) names_ = std::make_unique<QHash<TNameKey, TComponent*>>();

@@ -85,8 +85,10 @@ class TComponent : public TPersistent {
   bool IsLoading() const { return loading_; }
   bool IsDestroying() const { return destroying_; }
   // Called by readers before the first property and after the last one of the whole form.
-  virtual void BeginLoading() { loading_ = true; }
-  virtual void Loaded() { loading_ = false; }
+  virtual void BeginLoading() { SetQuiet(loading_ = true); }
+  virtual void Loaded() { SetQuiet(loading_ = false); }
+  // For readers: so many components are about to be named.
+  void ReserveNames(qsizetype count);
 
   // From now on the two tell each other when one of them is freed.
   void FreeNotification(TComponent* component);

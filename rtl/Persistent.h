@@ -28,7 +28,9 @@ class TPersistent {
 
   // Tells the owner that a value here is about to change, while the old one can still be read. Every setter
   // calls it first, as a rule through Change; whoever edits through properties need not.
-  void Changing() { DoChanging(); }
+  void Changing() {
+    if (!quiet_) DoChanging();
+  }
   // Tells the owner that a value here has changed. Setters call it after the value is in place; between
   // BeginUpdate and EndUpdate the calls are collected into one.
   void Changed();
@@ -47,6 +49,8 @@ class TPersistent {
     Changed();
   }
   virtual void DoChanging();
+  // While an object is loaded nobody needs to hear what is about to change; loading is all changes.
+  void SetQuiet(bool quiet) { quiet_ = quiet; }
   // A part of this object is about to change.
   virtual void PartChanging(TPersistent& part);
   // Whether Assign copies the property; names of components are their own.
@@ -59,6 +63,7 @@ class TPersistent {
  private:
   short updateLock_ = 0;
   bool changePending_ = false;
+  bool quiet_ = false;
 };
 
 // A value object: part of an owner that hears of its changes.
