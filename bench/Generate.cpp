@@ -118,6 +118,7 @@ class FormWriter {
         Line("AutoSize", Flag(false));
         Line("Caption", Text("Some label with text", item));
         Font(item);
+        if (item.refers) Line("FocusControl", "Button1");
         Line("Layout", "tlCenter");
         Line("Transparent", Flag(odd));
         Line("WordWrap", Flag(true));
@@ -154,6 +155,21 @@ class FormWriter {
   int indent_ = 0;
 };
 }  // namespace
+
+std::vector<Item> MakeLabels(int count, bool referring) {
+  std::vector<Item> design{{Kind::Button, 1, 200, 200, 75, 25, 0}};
+  for (int i = 0; i < count; ++i)
+    design.push_back({Kind::Label,
+                      i + 2,
+                      i % Columns * Cell,
+                      i / Columns * 20,
+                      80,
+                      17,
+                      static_cast<unsigned>(i) * 2654435761u >> 7,
+                      {},
+                      referring});
+  return design;
+}
 
 std::vector<Item> MakeDesign(int count) { return Designer(count).Run(); }
 QByteArray FormText(const std::vector<Item>& design) { return FormWriter().Run(design); }

@@ -13,11 +13,15 @@ struct Item {
   int number = 0;  // makes the name
   int left = 0, top = 0, width = 0, height = 0;
   unsigned variant = 0;  // random bits that choose the values
-  std::vector<Item> children;
+  std::vector<Item> children{};
+  bool refers = false;  // to the first button
 };
 
 // `count` components in all; panels hold eight others.
 std::vector<Item> MakeDesign(int count);
+
+// A button and `count` labels, which refer to it or to nothing.
+std::vector<Item> MakeLabels(int count, bool referring);
 
 // The design in the text form.
 QByteArray FormText(const std::vector<Item>& design);

@@ -8,13 +8,14 @@
 #include "bench/Measure.h"
 #include "bench/PixelTasks.h"
 #include "bench/Tasks.h"
+#include "bench/WindowTasks.h"
 
 namespace {
 const std::map<QString, void (*)(const QString&, const QString&)>& TaskTable() {
   static const std::map<QString, void (*)(const QString&, const QString&)> table{
       {QStringLiteral("load-form"), MeasureFormLoad}, {QStringLiteral("load-ui"), MeasureUiLoad},
       {QStringLiteral("save-form"), MeasureFormSave}, {QStringLiteral("edit-form"), MeasureEdit},
-      {QStringLiteral("pixels"), MeasurePixels},
+      {QStringLiteral("pixels"), MeasurePixels},      {QStringLiteral("window"), MeasureWindow},
   };
   return table;
 }
@@ -23,13 +24,20 @@ const std::map<QString, void (*)(const QString&, const QString&)>& TaskTable() {
 class Files {
  public:
   QString Form(int count) { return File(count, QStringLiteral("dfm"), FormText); }
+  QString Labels(int count, bool referring) {
+    return File(count, referring ? QStringLiteral("referring.dfm") : QStringLiteral("labels.dfm"), FormText,
+                [&] { return MakeLabels(count, referring); });
+  }
   QString Ui(int count) { return File(count, QStringLiteral("ui"), UiText); }
 
  private:
-  QString File(int count, const QString& suffix, QByteArray (*text)(const std::vector<Item>&)) {
+  using Design = std::vector<Item>;
+  QString File(int count, const QString& suffix, QByteArray (*text)(const Design&),
+               const std::function<Design()>& design = {}) {
     const QString name = folder_.filePath(QStringLiteral("%1.%2").arg(count).arg(suffix));
     QFile file(name);
-    if (!file.exists() && (!file.open(QIODevice::WriteOnly) || file.write(text(MakeDesign(count))) < 0))
+    if (!file.exists() &&
+        (!file.open(QIODevice::WriteOnly) || file.write(text(design ? design() : MakeDesign(count))) < 0))
       qFatal("Cannot write %s", qPrintable(name));
     return name;
   }
@@ -62,6 +70,8 @@ class Bench {
       Growth("load-form", QStringLiteral("Load"), QStringLiteral("at most 1.5"));
       Growth("save-form", QStringLiteral("Save"), QStringLiteral("at most 1.3"));
       Edits();
+      References();
+      Window();
     }
     Pixels();
   }
@@ -122,6 +132,40 @@ class Bench {
     const QString what = QStringLiteral("One property, %1: time on 100,000 components / on 100");
     Row(what.arg(QStringLiteral("edit")), QStringLiteral("about 1"), edit);
     Row(what.arg(QStringLiteral("undo")), QStringLiteral("about 1"), undo);
+  }
+
+  void References() {
+    Pairs each;
+    for (int i = 0; i < Rounds; ++i) {
+      const auto load = [&](bool referring) {
+        return Results::RunApart(
+                   {QStringLiteral("load-form"), files_.Labels(10'000, referring), files_.Form(WarmUp)})
+            .Value("time");
+      };
+      const double with = load(true);
+      each.Add(with, load(false));
+    }
+    Row(QStringLiteral("Load 10,000 labels: time with references to one button / without"),
+        QStringLiteral("at most 1.2"), each);
+  }
+
+  // Through the real window, until it is painted.
+  void Window() {
+    constexpr const char* steps[] = {"edit", "undo", "select", "nudge"};
+    for (const bool referring : {false, true}) {
+      const auto file = [&](int n) { return referring ? files_.Labels(n, true) : files_.Form(n); };
+      std::map<QByteArray, Pairs> all;
+      for (int i = 0; i < 3; ++i) {
+        const Results large = Results::RunApart({QStringLiteral("window"), file(10'000), file(WarmUp)});
+        const Results small = Results::RunApart({QStringLiteral("window"), file(100), file(WarmUp)});
+        for (const char* step : steps) all[step].Add(large.Value(step), small.Value(step));
+      }
+      for (const char* step : steps)
+        Row(QStringLiteral("Until painted, %1: time on 10,000 components / on 100%2")
+                .arg(QString::fromLatin1(step),
+                     referring ? QStringLiteral(", all referring to one") : QString()),
+            QStringLiteral("at most 1.5"), all[step]);
+    }
   }
 
   void Pixels() {

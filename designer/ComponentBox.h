@@ -2,7 +2,7 @@
 #pragma once
 #include <QComboBox>
 
-#include "ide/FormSession.h"
+#include "ide/ComponentModel.h"
 
 class ComponentBox : public QComboBox {
   Q_OBJECT
@@ -14,7 +14,6 @@ class ComponentBox : public QComboBox {
   void wheelEvent(QWheelEvent* event) override;
 
  private:
-  void Fill();
-  void Refresh();
-  FormSession* session_ = nullptr;
+  void ShowSelection();
+  ComponentModel components_{ComponentModel::Shape::List};
 };

@@ -27,20 +27,57 @@ void FormSurface::SetSession(FormSession* session) {
   session_ = session;
   action_ = Action::None;
   if (session_) {
-    connect(session_, &FormSession::RepaintNeeded, this, qOverload<>(&QWidget::update));
-    connect(session_, &FormSession::FormChanged, this, &FormSurface::UpdateSize);
+    connect(session_, &FormSession::RepaintNeeded, this, &FormSurface::Touch);
+    connect(session_, &FormSession::Changed, this, &FormSurface::TakeChange);
     connect(session_, &FormSession::SelectionChanged, this, [this] {
       for (const TComponent* c : session_->SelectedComponents()) RevealPages(*c);
-      update();
-    });
-    // What was being dragged may be gone.
-    connect(session_, &FormSession::StructureChanged, this, [this] {
-      action_ = Action::None;
-      starts_.clear();
-      ArrangePages(session_->Form());
+      UpdateFrames();
     });
   }
-  UpdateSize();
+  TakeChange({.structure = true});
+}
+
+void FormSurface::TakeChange(const FormChange& change) {
+  if (change.structure) {
+    // What was being dragged may be gone.
+    action_ = Action::None;
+    starts_.clear();
+    icons_.clear();
+    if (session_) {
+      ArrangePages(session_->Form());
+      for (TComponent* c : session_->Form().Components())
+        if (HasTile(*session_, *c)) icons_.push_back(c);
+    }
+  }
+  const auto icon = [](const TComponent* c) { return HasIcon(*c); };
+  if (sizeHint() != minimumSize())
+    UpdateSize();
+  else if (change.structure || std::any_of(change.values.begin(), change.values.end(), icon))
+    update();
+  else
+    UpdateFrames();
+}
+
+// A control paints within what it covers.
+void FormSurface::Touch(const TControl& control) {
+  if (&control == &session_->Form()) return update();
+  QRect r = control.PaintExtent().translated(control.Left(), control.Top());
+  for (const TWinControl* p = control.Parent(); p; p = p->Parent())
+    r.translate(p->ClientRect().topLeft() + (p->Parent() ? QPoint(p->Left(), p->Top()) : QPoint()));
+  update(Shown(r).adjusted(-1, -1, 1, 1));
+}
+
+// With its handles and marks.
+QRect FormSurface::FrameRect(const TComponent& component) const {
+  return WidgetRect(component).adjusted(-4, -4, 4, 4);
+}
+
+// The selection where it was and where it is.
+void FormSurface::UpdateFrames() {
+  update(frames_);
+  const auto selected = session_->SelectedComponents();
+  if (selected.size() > 64) return update();
+  for (const TComponent* c : selected) update(FrameRect(*c));
 }
 
 void FormSurface::SetZoom(double factor) {
@@ -119,6 +156,12 @@ QRect FormSurface::WidgetRect(const TComponent& c) const {
   return QRectF(r.left() * zoom_, r.top() * zoom_, r.width() * zoom_, r.height() * zoom_).toRect();
 }
 
+// A part of the form's client area in widget coordinates, to its last pixel.
+QRect FormSurface::Shown(const QRect& formRect) const {
+  const QRectF r = formRect.translated(ClientOrigin());
+  return QRectF(r.topLeft() * zoom_, r.size() * zoom_).toAlignedRect();
+}
+
 TControl* FormSurface::DeepestAt(QPoint p) const {
   TForm& form = session_->Form();
   TControl* at = &form;
@@ -135,9 +178,8 @@ TControl* FormSurface::DeepestAt(QPoint p) const {
 TComponent* FormSurface::ComponentAt(QPoint widgetPoint) const {
   if (!session_) return nullptr;
   const QPoint p = ToForm(widgetPoint);
-  const auto& all = session_->Form().Components();
-  for (auto it = all.rbegin(); it != all.rend(); ++it)
-    if (HasTile(*session_, **it) && RectOf(**it).contains(p)) return *it;
+  for (auto it = icons_.rbegin(); it != icons_.rend(); ++it)
+    if (RectOf(**it).contains(p)) return *it;
   const TForm& form = session_->Form();
   if (!form.ClientRect().contains(p)) return FormRectOf(form).contains(p) ? session_->GetRoot() : nullptr;
   return DeepestAt(p);
@@ -309,9 +351,8 @@ void FormSurface::SelectBand(const QRect& band, bool add) {
   for (TControl* c : session_->Form().Controls())
     if (FormRectOf(*c).intersects(band) && std::find(found.begin(), found.end(), c) == found.end())
       found.push_back(c);
-  for (TComponent* c : session_->Form().Components())
-    if (HasTile(*session_, *c) && RectOf(*c).intersects(band) &&
-        std::find(found.begin(), found.end(), c) == found.end())
+  for (TComponent* c : icons_)
+    if (RectOf(*c).intersects(band) && std::find(found.begin(), found.end(), c) == found.end())
       found.push_back(c);
   session_->Select(found);
 }

@@ -56,6 +56,7 @@ class FormSurface : public QWidget {
   };
   void Guarded(const std::function<void()>& action);
   TControl* DeepestAt(QPoint formPoint) const;
+  QRect Shown(const QRect& formRect) const;
   QPoint ToForm(QPoint widgetPoint) const;  // client coordinates of the form
   QPoint ClientOrigin() const;              // of the form's client area, in unzoomed surface coordinates
   static bool HasIcon(const TComponent& component) { return !As<TControl>(&component); }
@@ -72,10 +73,14 @@ class FormSurface : public QWidget {
   void SetRect(TComponent& component, const QRect& rect);
   QRect RectOf(const TComponent& component) const;
   void WalkSelection(int step);
-  void PaintGrid(QPainter& p) const;
-  void PaintIcons(QPainter& p) const;
-  void PaintSelection(QPainter& p) const;
+  void PaintGrid(QPainter& p, const QRect& sight) const;
+  void PaintIcons(QPainter& p, const QRect& sight) const;
+  void PaintSelection(QPainter& p);
   void UpdateSize();
+  void TakeChange(const FormChange& change);
+  void Touch(const TControl& control);
+  QRect FrameRect(const TComponent& component) const;
+  void UpdateFrames();
   void UpdateCursor(QPoint widgetPoint);
 
   FormSession* session_ = nullptr;
@@ -86,6 +91,8 @@ class FormSurface : public QWidget {
   int handle_ = -1;
   QPoint pressed_;
   QPoint current_;
-  std::vector<Start> starts_;      // what is dragged
-  TWinControl* target_ = nullptr;  // where a tool or band works
+  std::vector<Start> starts_;       // what is dragged
+  TWinControl* target_ = nullptr;   // where a tool or band works
+  std::vector<TComponent*> icons_;  // what has a tile
+  QRegion frames_;                  // where the selection is painted
 };

@@ -7,8 +7,9 @@
 #include "vcl/FormFrame.h"
 #include "vcl/Theme.h"
 
-void FormSurface::paintEvent(QPaintEvent*) {
+void FormSurface::paintEvent(QPaintEvent* event) {
   QPainter p(this);
+  p.setClipRegion(event->region());
   p.fillRect(rect(), palette().color(QPalette::Window).darker(IsDarkTheme() ? 125 : 107));
   if (!session_) return;
   p.scale(zoom_, zoom_);
@@ -18,36 +19,38 @@ void FormSurface::paintEvent(QPaintEvent*) {
   p.restore();
   p.save();
   p.translate(ClientOrigin());
-  p.setClipRect(session_->Form().ClientRect());
-  PaintGrid(p);
-  p.setClipping(false);  // an icon beyond the edge is still to be found
-  PaintIcons(p);
+  const QRect sight = p.clipBoundingRect().toAlignedRect();
+  PaintGrid(p, sight & session_->Form().ClientRect());
+  PaintIcons(p, sight);  // an icon beyond the edge is still to be found
   p.restore();
   p.resetTransform();
   PaintSelection(p);
 }
 
-void FormSurface::PaintGrid(QPainter& p) const {
-  if (zoom_ < 0.75) return;
+void FormSurface::PaintGrid(QPainter& p, const QRect& sight) const {
+  if (zoom_ < 0.75 || sight.isEmpty()) return;
   // Only where nothing else stands: the dots belong to the empty form.
-  const TForm& form = session_->Form();
-  QRegion empty(form.ClientRect());
-  for (const TControl* c : form.Controls()) empty -= c->BoundsRect();
+  QRegion empty(sight);
+  for (const TControl* c : session_->Form().Controls())
+    if (c->BoundsRect().intersects(sight)) empty -= c->BoundsRect();
   p.save();
   p.setClipRegion(empty, Qt::IntersectClip);
   QColor ink = FormPalette().color(QPalette::WindowText);
   ink.setAlpha(48);
   p.setPen(QPen(ink, 1 / zoom_));
   QList<QPoint> dots;
-  for (int y = 0; y < form.ClientHeight(); y += Grid)
-    for (int x = 0; x < form.ClientWidth(); x += Grid) dots << QPoint(x, y);
+  const auto first = [](int v) { return (v + Grid - 1) / Grid * Grid; };
+  for (int y = first(sight.top()); y <= sight.bottom(); y += Grid)
+    for (int x = first(sight.left()); x <= sight.right(); x += Grid) dots << QPoint(x, y);
   p.drawPoints(dots.data(), static_cast<int>(dots.size()));
   p.restore();
 }
 
-void FormSurface::PaintIcons(QPainter& p) const {
-  for (const TComponent* c : session_->Form().Components())
-    if (HasTile(*session_, *c)) PaintComponentTile(p, *c, RectOf(*c).topLeft(), devicePixelRatioF() * zoom_);
+void FormSurface::PaintIcons(QPainter& p, const QRect& sight) const {
+  constexpr int Name = 20;  // it stands below and may be far wider than the tile
+  for (const TComponent* c : icons_)
+    if (const QRect r = RectOf(*c); r.top() <= sight.bottom() && r.bottom() + Name >= sight.top())
+      PaintComponentTile(p, *c, RectOf(*c).topLeft(), devicePixelRatioF() * zoom_);
 }
 
 std::vector<QRect> FormSurface::Handles() const {
@@ -73,9 +76,14 @@ int FormSurface::HandleAt(QPoint p) const {
   return -1;
 }
 
-void FormSurface::PaintSelection(QPainter& p) const {
+void FormSurface::PaintSelection(QPainter& p) {
   const QColor accent = palette().color(QPalette::Highlight);
   const auto selected = session_->SelectedComponents();
+  frames_ = {};
+  if (selected.size() <= 64)
+    for (const TComponent* c : selected) frames_ += FrameRect(*c);
+  else
+    frames_ = rect();
   p.setRenderHint(QPainter::Antialiasing, false);
   for (const TComponent* c : selected) {
     if (c == session_->GetRoot()) continue;

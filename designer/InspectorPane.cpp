@@ -249,7 +249,7 @@ void InspectorPane::ShowValue(bool keepTyping) {
   setup.text = model_.ValueText(row);
   setup.bold = row.data(InspectorModel::NotDefaultRole).toBool();
   setup.mixed = property->PropCount() > 1 && !property->AllEqual();
-  setup.values = model_.ValueList(row);
+  if (a.Contains(paValueList)) setup.values = [this] { return model_.ValueList(CurrentRow()); };
   setup.readOnly = fixed && !a.Contains(paValueList);
   setup.dialog = a.Contains(paDialog);
   // A longer value that is there already is not cut off.

@@ -301,7 +301,7 @@ void MainWindow::SetSession(std::unique_ptr<FormSession> session) {
   structure_->SetSession(session_.get());
   inspector_->SetSession(session_.get());
   connect(session_.get(), &FormSession::ModifiedChanged, this, &MainWindow::UpdateActions);
-  connect(session_.get(), &FormSession::FormChanged, this, &MainWindow::UpdateActions);
+  connect(session_.get(), &FormSession::Changed, this, &MainWindow::UpdateActions);
   connect(session_.get(), &FormSession::SelectionChanged, this, &MainWindow::UpdateStatus);
   connect(session_.get(), &FormSession::HandlerShown, this,
           [this](const QString& name) { statusBar()->showMessage(tr("Event handler %1").arg(name), 5000); });

@@ -3,28 +3,26 @@
 #include <QtWidgets>
 
 #include "designer/SearchField.h"
-#include "designintf/ComponentIcons.h"
 #include "rtl/Exceptions.h"
 #include "vcl/Prompts.h"
 
-namespace {
-TComponent* ComponentOf(const QTreeWidgetItem* item) {
-  return static_cast<TComponent*>(item->data(0, Qt::UserRole).value<void*>());
-}
-QString TitleOf(const TComponent& c) {
-  const QString cls = QString::fromUtf8(c.StreamClassName());
-  return c.Name().isEmpty() ? cls : QStringLiteral("%1: %2").arg(c.Name(), cls);
-}
-}  // namespace
-
 StructurePane::StructurePane(QWidget* parent) : QWidget(parent) {
   filter_ = new SearchField(tr("Filter..."), tr("Filter of the structure"));
-  tree_ = new QTreeWidget;
+  // A container stays in sight with what is found inside.
+  filtered_ = new QSortFilterProxyModel(this);
+  filtered_->setFilterCaseSensitivity(Qt::CaseInsensitive);
+  filtered_->setRecursiveFilteringEnabled(true);
+  filtered_->setDynamicSortFilter(false);
+  filtered_->setSourceModel(&model_);
+  tree_ = new QTreeView;
   tree_->setObjectName(QStringLiteral("structure"));
+  tree_->setModel(filtered_);
   tree_->setHeaderHidden(true);
   tree_->setSelectionMode(QAbstractItemView::ExtendedSelection);
+  tree_->setEditTriggers(QAbstractItemView::NoEditTriggers);
   tree_->setIndentation(16);
   tree_->setUniformRowHeights(true);
+  tree_->setExpandsOnDoubleClick(false);
   tree_->setAccessibleName(tr("Structure"));
   auto* box = new QVBoxLayout(this);
   box->setContentsMargins(6, 6, 6, 6);
@@ -32,92 +30,87 @@ StructurePane::StructurePane(QWidget* parent) : QWidget(parent) {
   box->addWidget(tree_, 1);
   box->addWidget(filter_);
   connect(filter_, &QLineEdit::textChanged, this, &StructurePane::ApplyFilter);
-  connect(tree_, &QTreeWidget::itemSelectionChanged, this, [this] {
-    if (updating_ || !session_) return;
-    std::vector<TComponent*> selected;
-    for (const QTreeWidgetItem* item : tree_->selectedItems()) selected.push_back(ComponentOf(item));
-    updating_ = true;
-    session_->Select(selected);
-    updating_ = false;
-  });
-  connect(tree_, &QTreeWidget::itemDoubleClicked, this, [this](QTreeWidgetItem* item) {
+  connect(tree_->selectionModel(), &QItemSelectionModel::selectionChanged, this,
+          &StructurePane::TakeSelection);
+  connect(tree_, &QTreeView::doubleClicked, this, [this](const QModelIndex& row) {
     try {
-      session_->Edit(*ComponentOf(item));
+      if (TComponent* c = ComponentAt(row)) Session()->Edit(*c);
     } catch (const std::exception& e) {
       Prompts().Warn(this, QCoreApplication::applicationName(), ExceptionMessage(e));
     }
   });
-  tree_->setExpandsOnDoubleClick(false);
+  // What was closed stays closed, and the tree where it was scrolled to.
+  connect(tree_, &QTreeView::collapsed, this, [this](const QModelIndex& row) {
+    if (!updating_) closed_.insert(row.data().toString());
+  });
+  connect(tree_, &QTreeView::expanded, this, [this](const QModelIndex& row) {
+    if (!updating_) closed_.remove(row.data().toString());
+  });
+  connect(filtered_, &QAbstractItemModel::modelAboutToBeReset, this,
+          [this] { scroll_ = tree_->verticalScrollBar()->value(); });
+  connect(filtered_, &QAbstractItemModel::modelReset, this, &StructurePane::OpenRows);
 }
 
 void StructurePane::SetSession(FormSession* session) {
-  if (session_) disconnect(session_, nullptr, this, nullptr);
-  session_ = session;
-  if (session_) {
-    connect(session_, &FormSession::StructureChanged, this, &StructurePane::Fill);
-    connect(session_, &FormSession::SelectionChanged, this, &StructurePane::ShowSelection);
-    connect(session_, &FormSession::FormChanged, this, &StructurePane::Refresh);
-  }
-  Fill();
+  if (Session()) disconnect(Session(), nullptr, this, nullptr);
+  closed_.clear();
+  model_.SetSession(session);
+  if (session) connect(session, &FormSession::SelectionChanged, this, &StructurePane::ShowSelection);
 }
 
-void StructurePane::AddItem(TComponent& component, QTreeWidgetItem* parent) {
-  auto* item = parent ? new QTreeWidgetItem(parent) : new QTreeWidgetItem(tree_);
-  item->setText(0, TitleOf(component));
-  item->setIcon(0, ComponentIcon(component.ClassType()));
-  item->setData(0, Qt::UserRole, QVariant::fromValue(static_cast<void*>(&component)));
-  items_.insert(&component, item);
-  for (TComponent* child : component.GetChildren()) AddItem(*child, item);
+TComponent* StructurePane::ComponentAt(const QModelIndex& row) const {
+  return model_.ComponentAt(filtered_->mapToSource(row));
 }
 
-// What was closed stays closed, and the tree where it was scrolled to.
-void StructurePane::Fill() {
+void StructurePane::OpenRows() {
   updating_ = true;
-  const int scroll = tree_->verticalScrollBar()->value();
-  QSet<QString> closed;
-  for (const QTreeWidgetItem* item : std::as_const(items_))
-    if (item->childCount() > 0 && !item->isExpanded()) closed.insert(item->text(0));
-  tree_->clear();
-  items_.clear();
-  if (session_) AddItem(session_->Form(), nullptr);
   tree_->expandAll();
-  for (QTreeWidgetItem* item : std::as_const(items_))
-    if (closed.contains(item->text(0))) item->setExpanded(false);
+  std::function<void(const QModelIndex&)> close = [&](const QModelIndex& parent) {
+    for (int row = 0; row < filtered_->rowCount(parent); ++row) {
+      const QModelIndex i = filtered_->index(row, 0, parent);
+      if (filtered_->rowCount(i) == 0) continue;
+      close(i);
+      if (closed_.contains(i.data().toString())) tree_->setExpanded(i, false);
+    }
+  };
+  // A hit inside is shown all the same.
+  if (!closed_.isEmpty() && filter_->text().isEmpty()) close({});
   tree_->doItemsLayout();
-  tree_->verticalScrollBar()->setValue(scroll);
+  tree_->verticalScrollBar()->setValue(scroll_);
   updating_ = false;
-  ApplyFilter();
   ShowSelection();
 }
 
-// Names may have changed.
-void StructurePane::Refresh() {
-  for (auto it = items_.cbegin(); it != items_.cend(); ++it)
-    if (const QString title = TitleOf(*it.key()); it.value()->text(0) != title) it.value()->setText(0, title);
-}
-
-void StructurePane::ShowSelection() {
-  if (updating_ || !session_) return;
+void StructurePane::TakeSelection() {
+  if (updating_ || !Session()) return;
+  std::vector<TComponent*> selected;
+  for (const QModelIndex& row : tree_->selectionModel()->selectedIndexes())
+    if (TComponent* c = ComponentAt(row)) selected.push_back(c);
   updating_ = true;
-  tree_->clearSelection();
-  for (const TComponent* c : session_->SelectedComponents())
-    if (QTreeWidgetItem* item = items_.value(c)) {
-      item->setSelected(true);
-      tree_->scrollToItem(item);
-    }
+  Session()->Select(selected);
   updating_ = false;
 }
 
+void StructurePane::ShowSelection() {
+  if (updating_ || !Session()) return;
+  const QScopedValueRollback guard(updating_, true);
+  QItemSelection rows;
+  QModelIndex first;
+  for (const TComponent* c : Session()->SelectedComponents()) {
+    const QModelIndex row = filtered_->mapFromSource(model_.IndexOf(*c));
+    if (row.isValid()) rows.select(row, row);
+    if (!first.isValid()) first = row;
+  }
+  tree_->selectionModel()->select(rows, QItemSelectionModel::ClearAndSelect);
+  if (!first.isValid()) return;
+  tree_->selectionModel()->setCurrentIndex(first, QItemSelectionModel::NoUpdate);
+  tree_->scrollTo(first);
+}
+
 void StructurePane::ApplyFilter() {
-  const QString text = filter_->text();
-  std::function<bool(QTreeWidgetItem*)> walk = [&](QTreeWidgetItem* item) {
-    bool any = item->text(0).contains(text, Qt::CaseInsensitive);
-    bool below = false;
-    for (int i = 0; i < item->childCount(); ++i) below = walk(item->child(i)) || below;
-    if (below && !text.isEmpty()) item->setExpanded(true);
-    any = any || below;
-    item->setHidden(!any);
-    return any;
-  };
-  for (int i = 0; i < tree_->topLevelItemCount(); ++i) walk(tree_->topLevelItem(i));
+  updating_ = true;
+  filtered_->setFilterFixedString(filter_->text());
+  updating_ = false;
+  scroll_ = tree_->verticalScrollBar()->value();
+  OpenRows();
 }

@@ -1,30 +1,34 @@
 // The components of the form as a tree.
 #pragma once
+#include <QSet>
 #include <QWidget>
 
-#include "ide/FormSession.h"
+#include "ide/ComponentModel.h"
 
 class QLineEdit;
-class QTreeWidget;
-class QTreeWidgetItem;
+class QSortFilterProxyModel;
+class QTreeView;
 
 class StructurePane : public QWidget {
   Q_OBJECT
  public:
   explicit StructurePane(QWidget* parent = nullptr);
   void SetSession(FormSession* session);
-  QTreeWidget& Tree() { return *tree_; }
+  QTreeView& Tree() { return *tree_; }
 
  private:
-  void Fill();
-  void Refresh();
-  void AddItem(TComponent& component, QTreeWidgetItem* parent);
+  FormSession* Session() const { return model_.Session(); }
+  TComponent* ComponentAt(const QModelIndex& row) const;
+  void OpenRows();
   void ShowSelection();
   void ApplyFilter();
+  void TakeSelection();
 
-  FormSession* session_ = nullptr;
-  QTreeWidget* tree_;
+  ComponentModel model_{ComponentModel::Shape::Tree};
+  QSortFilterProxyModel* filtered_;
+  QTreeView* tree_;
   QLineEdit* filter_;
-  QHash<const TComponent*, QTreeWidgetItem*> items_;
+  QSet<QString> closed_;  // titles
+  int scroll_ = 0;
   bool updating_ = false;
 };

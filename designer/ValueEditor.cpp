@@ -75,7 +75,7 @@ void ValueEditor::Show(const Setup& setup, bool keepTyping) {
       if (field_->hasFocus()) field_->selectAll();
     }
   }
-  drop_->setVisible(!setup.values.isEmpty());
+  drop_->setVisible(setup.values != nullptr);
   ellipsis_->setVisible(setup.dialog);
   show();
   raise();
@@ -132,12 +132,14 @@ void ValueEditor::OpenList() {
   list->setFrameShape(QFrame::NoFrame);
   list->setIconSize(QSize(28, 14));
   list->setMouseTracking(true);
-  for (const QString& value : setup_.values) {
+  const QStringList values = setup_.values();
+  for (const QString& value : values) {
     auto* item = new QListWidgetItem(value, list);
     if (setup_.iconOf) item->setIcon(setup_.iconOf(value));
     if (value == field_->text()) list->setCurrentItem(item);
   }
-  const int rows = static_cast<int>(std::min<qsizetype>(setup_.values.size(), 14));
+  if (values.isEmpty()) (new QListWidgetItem(tr("(none)"), list))->setFlags(Qt::NoItemFlags);
+  const int rows = std::clamp(list->count(), 1, 14);
   list->setFixedSize(std::max(width(), list->sizeHintForColumn(0) + 30),
                      rows * std::max(18, list->sizeHintForRow(0)) + 4);
   auto* action = new QWidgetAction(&menu);
@@ -184,9 +186,9 @@ bool ValueEditor::DoubleClicked() {
     emit DialogWanted();
     return true;
   }
-  if (setup_.values.isEmpty()) return false;
-  const qsizetype at = setup_.values.indexOf(field_->text());
-  emit Entered(setup_.values[(at + 1) % setup_.values.size()]);
+  const QStringList values = setup_.values ? setup_.values() : QStringList();
+  if (values.isEmpty()) return false;
+  emit Entered(values[(values.indexOf(field_->text()) + 1) % values.size()]);
   return true;
 }
 
@@ -235,7 +237,7 @@ bool ValueEditor::KeyPressed(QKeyEvent& key) {
       emit Moved(-1);
       return true;
     case Qt::Key_Down:
-      if (key.modifiers() & Qt::AltModifier && !setup_.values.isEmpty())
+      if (key.modifiers() & Qt::AltModifier && setup_.values)
         OpenList();
       else
         emit Moved(1);

@@ -15,7 +15,7 @@ class ValueEditor : public QWidget {
   struct Setup {
     QString name;  // the row's path
     QString text;
-    QStringList values;
+    std::function<QStringList()> values;  // asked for when somebody wants to see them; null: none ever
     bool mixed = false;  // the components differ; the text is empty
     bool readOnly = false;
     bool bold = false;  // the value is not the default

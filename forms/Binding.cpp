@@ -133,8 +133,11 @@ void ApplyValue(const PropertyTarget& t, const Value& v, const Document& doc,
       if (!IsComponentRef(prop)) return ApplyCollection(t, v, doc, pending);
       if (v.type == ValueType::Nil) return SetObjectProp(*t.instance, prop, nullptr);
       if (v.type != ValueType::Ident) Refuse(t, v, QStringLiteral("the name of a component is expected"));
-      pending.push_back(
-          {nullptr, t.instance, &prop, QByteArray(v.bytes.constData(), v.bytes.size()), nullptr});
+      pending.push_back({nullptr, t.instance, &prop,
+                         !pending.empty() && pending.back().target == v.bytes
+                             ? pending.back().target
+                             : QByteArray(v.bytes.constData(), v.bytes.size()),
+                         nullptr});
       return;
     case TTypeKind::tkUnknown:
       if (v.type != ValueType::Binary) Refuse(t, v, QStringLiteral("binary data {...} is expected"));
@@ -146,6 +149,7 @@ void ApplyValue(const PropertyTarget& t, const Value& v, const Document& doc,
 
 namespace {
 TComponent* FindByPath(TComponent& scope, const QString& path) {
+  if (!path.contains(u'.')) return scope.FindComponent(path);
   TComponent* at = &scope;
   for (const QString& name : path.split(u'.')) {
     at = at->FindComponent(name);
@@ -164,8 +168,12 @@ TComponent* FindReferenced(TComponent& root, const TPersistent& from, const QStr
 }  // namespace
 
 std::vector<PendingReference> ResolveReferences(TComponent& root, std::vector<PendingReference> pending) {
+  // Many refer to the same one.
+  QByteArray last;
+  QString path;
   std::erase_if(pending, [&](const PendingReference& p) {
-    TComponent* target = FindReferenced(root, *p.instance, QString::fromUtf8(p.target));
+    if (path.isNull() || p.target != last) path = QString::fromUtf8(last = p.target);
+    TComponent* target = FindReferenced(root, *p.instance, path);
     if (!target || !target->InheritsFrom(p.prop->PropType->ClassType())) return false;
     SetObjectProp(*p.instance, *p.prop, target);
     return true;

@@ -96,7 +96,7 @@ void FormSession::Rebuild() {
   root_.reset();
   Build();
   selection_ = ComponentsOf(selected);
-  Announce(true);
+  Announce({.structure = true});
   emit SelectionChanged();
 }
 
@@ -220,4 +220,4 @@ void FormSession::Edit(TComponent& component) {
   Run(tr("Edit %1").arg(component.Name()), {&component}, [&] { editor->Edit(); });
 }
 
-void FormSession::ControlChanged(TControl&) { emit RepaintNeeded(); }
+void FormSession::ControlChanged(TControl& control) { emit RepaintNeeded(control); }

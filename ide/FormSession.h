@@ -9,6 +9,7 @@
 #include "designintf/Designer.h"
 #include "forms/FormReader.h"
 #include "ide/Command.h"
+#include "ide/FormChange.h"
 #include "vcl/Form.h"
 
 // What became of a file since it was read or written here last. Its content decides.
@@ -112,11 +113,11 @@ class FormSession : public QObject, public IDesigner, public IControlHost {
   bool LayoutFrozen() const override { return applying_; }
 
  signals:
-  void FormChanged();       // a property, name or the structure; views read everything anew
-  void StructureChanged();  // components came or went
+  void Changed(const FormChange& change);
   void SelectionChanged();
   void ModifiedChanged();
-  void RepaintNeeded();
+  // The control looks different from now on, or is about to.
+  void RepaintNeeded(const TControl& control);
   void HandlerShown(const QString& name);
 
  private:
@@ -150,7 +151,8 @@ class FormSession : public QObject, public IDesigner, public IControlHost {
   void InsertObject(StructureChange& change);
   void MoveObject(StructureChange& change, bool redo);
   void TakeObject(StructureChange& change);
-  void Announce(bool structure);
+  void Announce(const FormChange& change);
+  FormChange ChangeOf(const Command& command) const;
   static forms::FormReader MakeReader(forms::Document& document, forms::ObjectMap& map);
   std::vector<TComponent*> ComponentsOf(const std::vector<forms::Object*>& objects) const;
   std::vector<forms::Object*> SelectedObjects() const;

@@ -56,6 +56,8 @@ void FormSession::Capture(TComponent& component) {
 }
 
 void FormSession::ComponentChanging(TComponent& component) {
+  // What it covers now, too: a text may get shorter.
+  if (const auto* control = As<TControl>(&component)) emit RepaintNeeded(*control);
   if (applying_ || structuring_ || !map_.ObjectOf(component)) return;
   NoteStray();
   pending_->announced = true;

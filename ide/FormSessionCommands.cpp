@@ -55,9 +55,12 @@ void FormSession::Commit(const QString& text) {
   // Somebody says that something changed, and nobody told of it before.
   if (pending_->modified && !pending_->announced) CaptureAll();
   auto command = TakeDifferences();
+  FormChange shown;
+  for (const auto& c : pending_->captured)
+    if (map_.ObjectOf(*c.component) == c.object) shown.values.push_back(c.component);
   pending_.reset();
   if (command->Empty()) {
-    emit FormChanged();  // live previews may have been shown on the way
+    emit Changed(shown);  // live previews may have been shown on the way
   } else {
     command->text = text;
     Push(std::move(command));
@@ -73,10 +76,10 @@ void FormSession::Ended() {
 void FormSession::Push(std::unique_ptr<Command> command) {
   if (clean_ > position_) clean_ = -1;  // the saved state can no longer be reached
   commands_.resize(static_cast<std::size_t>(position_));
-  const bool structure = !command->structure.empty();
+  const FormChange change = ChangeOf(*command);
   commands_.push_back(std::move(command));
   ++position_;
-  Announce(structure);
+  Announce(change);
   emit ModifiedChanged();
 }
 
@@ -86,14 +89,25 @@ void FormSession::Rollback() {
   pending_.reset();
   Apply(*command, false);
   selection_ = ComponentsOf(command->selectionBefore);
-  Announce(!command->structure.empty());
+  Announce(ChangeOf(*command));
   Select(selection_);
   Ended();
 }
 
-void FormSession::Announce(bool structure) {
-  if (structure) emit StructureChanged();
-  emit FormChanged();
+FormChange FormSession::ChangeOf(const Command& command) const {
+  FormChange change;
+  change.structure = !command.structure.empty();
+  for (const ComponentChange& c : command.components) {
+    TComponent* component = map_.ComponentOf(*c.object);
+    if (!component) continue;
+    change.values.push_back(component);
+    if (c.nameBefore != c.nameAfter) change.renamed.push_back(component);
+  }
+  return change;
+}
+
+void FormSession::Announce(const FormChange& change) {
+  emit Changed(change);
   NotifyDesign([this](IDesignNotification& n) { n.ItemsModified(this); });
 }
 
@@ -110,7 +124,7 @@ void FormSession::Undo() {
   Command& command = *commands_[static_cast<std::size_t>(--position_)];
   Apply(command, false);
   selection_ = ComponentsOf(command.selectionBefore);
-  Announce(!command.structure.empty());
+  Announce(ChangeOf(command));
   Select(selection_);
   emit ModifiedChanged();
 }
@@ -121,7 +135,7 @@ void FormSession::Redo() {
   Command& command = *commands_[static_cast<std::size_t>(position_++)];
   Apply(command, true);
   selection_ = ComponentsOf(command.selectionAfter);
-  Announce(!command.structure.empty());
+  Announce(ChangeOf(command));
   Select(selection_);
   emit ModifiedChanged();
 }

@@ -54,8 +54,10 @@ void InspectorModel::SetSession(FormSession* session) {
     connect(session_, &FormSession::SelectionChanged, this, [this] {
       if (shown_ != session_->SelectedComponents()) Rebuild();
     });
-    connect(session_, &FormSession::StructureChanged, this, &InspectorModel::Rebuild);
-    connect(session_, &FormSession::FormChanged, this, &InspectorModel::Refresh);
+    connect(session_, &FormSession::Changed, this, [this](const FormChange& change) {
+      if (change.structure) Rebuild();
+      Refresh();
+    });
   }
   Rebuild();
 }
@@ -338,6 +340,9 @@ QVariant InspectorModel::data(const QModelIndex& index, int role) const {
     case NotDefaultRole:
       return !editor->IsDefault();
     case IsBooleanRole: {
+      // Lists of components and handlers are long, and nothing of the kind.
+      const TTypeKind kind = editor->GetPropType().Kind;
+      if (kind != TTypeKind::tkEnumeration && kind != TTypeKind::tkSet) return false;
       const QStringList values = ValueList(index);
       return values.size() == 2 && values[0] == QStringLiteral("False") &&
              values[1] == QStringLiteral("True");

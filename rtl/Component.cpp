@@ -46,7 +46,7 @@ TComponent::TComponent(TComponent* owner) {
 
 TComponent::~TComponent() {
   destroying_ = true;
-  for (TComponent* c : std::exchange(freeNotifies_, {})) c->Notification(this, TOperation::opRemove);
+  for (TComponent* c : std::exchange(freeNotifies_, TNotifyList())) c->Notification(this, TOperation::opRemove);
   while (!components_.empty()) {
     TComponent* last = components_.back();
     RemoveComponent(last);
@@ -147,17 +147,13 @@ void TComponent::SetName(const QString& name) {
 void TComponent::NameChanged(const QString&) {}
 
 void TComponent::FreeNotification(TComponent* component) {
-  if (std::find(freeNotifies_.begin(), freeNotifies_.end(), component) != freeNotifies_.end()) return;
-  freeNotifies_.push_back(component);
+  if (!freeNotifies_.Insert(component)) return;
   // Both sides know of each other, so that whoever goes first leaves no dangling pointer.
   component->FreeNotification(this);
 }
 
 void TComponent::RemoveFreeNotification(TComponent* component) {
-  const auto it = std::find(freeNotifies_.begin(), freeNotifies_.end(), component);
-  if (it == freeNotifies_.end()) return;
-  freeNotifies_.erase(it);
-  component->RemoveFreeNotification(this);
+  if (freeNotifies_.Remove(component)) component->RemoveFreeNotification(this);
 }
 
 bool TComponent::RefersTo(const TComponent& other) const {
@@ -169,7 +165,7 @@ bool TComponent::RefersTo(const TComponent& other) const {
 
 void TComponent::Notification(TComponent* component, TOperation operation) {
   if (operation != TOperation::opRemove) return;
-  std::erase(freeNotifies_, component);
+  freeNotifies_.Remove(component);
   if (destroying_) return;
   for (const TPropInfo* prop : ClassType().Properties())
     if (IsComponentRef(*prop) && GetObjectProp(*this, *prop) == component)

@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "rtl/Class.h"
+#include "rtl/NotifyList.h"
 
 // What a value object streams besides properties (lines of a string list, items of a collection). Kept here
 // because "is it at default" and "reset" ask it.
@@ -93,7 +94,7 @@ class TComponent : public TPersistent {
   // From now on the two tell each other when one of them is freed.
   void FreeNotification(TComponent* component);
   void RemoveFreeNotification(TComponent* component);
-  const std::vector<TComponent*>& FreeNotifies() const { return freeNotifies_; }
+  const TNotifyList& FreeNotifies() const { return freeNotifies_; }
   // Whether a published reference of this component leads to the other one.
   bool RefersTo(const TComponent& other) const;
   // `component`, which asked or was asked for a free notification, is going: references to it are dropped.
@@ -125,7 +126,7 @@ class TComponent : public TPersistent {
 
   TComponent* owner_ = nullptr;
   std::vector<TComponent*> components_;
-  std::vector<TComponent*> freeNotifies_;
+  TNotifyList freeNotifies_;
   std::vector<std::pair<const TPropAccess*, QString>> methods_;
   std::unique_ptr<QHash<TNameKey, TComponent*>> names_;  // of owned components; the keys are their names
   QString name_;

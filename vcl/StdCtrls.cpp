@@ -60,10 +60,16 @@ bool TLabel::GrowsToTheLeft() const {
   return alignment_ == TAlignment::taRightJustify;
 }
 
+void TLabel::DoChanged() {
+  measured_.reset();
+  TGraphicControl::DoChanged();
+}
+
 QRect TLabel::PaintExtent() const {
   const QRect own = TGraphicControl::PaintExtent();
   if (!AutoSize() || Align() != TAlign::alNone) return own;
-  const QSize text = AutoSizeHint().expandedTo(own.size());
+  if (!measured_ || measured_->width != Width()) measured_ = {Width(), AutoSizeHint()};
+  const QSize text = measured_->text.expandedTo(own.size());
   const int more = text.width() - own.width();
   const int left = alignment_ == TAlignment::taRightJustify ? -more
                    : alignment_ == TAlignment::taCenter     ? -more / 2

@@ -31,9 +31,16 @@ class TLabel : public TGraphicControl {
  protected:
   QSize AutoSizeHint() const override;
   bool GrowsToTheLeft() const override;
+  void DoChanged() override;
 
  private:
   int TextFlags() const;
+  // What the text takes, measured when it was painted last in this width.
+  struct Measured {
+    int width = 0;
+    QSize text;
+  };
+  mutable std::optional<Measured> measured_;
   TWinControl* focusControl_ = nullptr;
   TAlignment alignment_ = TAlignment::taLeftJustify;
   TTextLayout layout_ = TTextLayout::tlTop;

@@ -86,16 +86,28 @@ TControl* TWinControl::ControlAt(QPoint point) const {
 }
 
 namespace {
-void PaintChildren(TWinControl& container, QPainter& painter, bool windowed) {
+void PaintChild(TControl& control, QPainter& painter) {
+  painter.save();
+  painter.translate(control.Left(), control.Top());
+  painter.setClipRect(control.PaintExtent(), Qt::IntersectClip);
+  if (!painter.clipBoundingRect().isEmpty()) PaintControl(control, painter);
+  painter.restore();
+}
+
+// What is out of sight costs next to nothing: a form may be much larger than its view.
+void PaintChildren(TWinControl& container, QPainter& painter) {
+  const bool clipped = painter.hasClipping();
+  const QRect sight = painter.clipBoundingRect().toAlignedRect();
+  std::vector<TControl*> windowed;
   for (TControl* c : container.Controls()) {
-    if ((dynamic_cast<TWinControl*>(c) != nullptr) != windowed) continue;
+    if (clipped && !sight.intersects(c->PaintExtent().translated(c->Left(), c->Top()))) continue;
     if (!c->Visible() && !c->IsDesigning()) continue;
-    painter.save();
-    painter.translate(c->Left(), c->Top());
-    painter.setClipRect(c->PaintExtent(), Qt::IntersectClip);
-    if (!painter.clipBoundingRect().isEmpty()) PaintControl(*c, painter);
-    painter.restore();
+    if (As<TWinControl>(c))
+      windowed.push_back(c);
+    else
+      PaintChild(*c, painter);
   }
+  for (TControl* c : windowed) PaintChild(*c, painter);
 }
 }  // namespace
 
@@ -109,8 +121,7 @@ void PaintControl(TControl& control, QPainter& painter) {
     painter.save();
     const QRect client = container->ClientRect();
     painter.translate(client.topLeft());
-    PaintChildren(*container, painter, false);
-    PaintChildren(*container, painter, true);
+    PaintChildren(*container, painter);
     painter.restore();
   }
 }

@@ -4,15 +4,17 @@
 using namespace designer;
 
 namespace {
-QTreeWidgetItem* ItemOf(QTreeWidget& tree, const QString& text) {
-  const auto items = tree.findItems(text, Qt::MatchStartsWith | Qt::MatchRecursive);
-  return items.isEmpty() ? nullptr : items.front();
+// Not valid when the tree does not show it.
+QModelIndex ItemOf(QTreeView& tree, const QString& text) {
+  const auto items = tree.model()->match(tree.model()->index(0, 0), Qt::DisplayRole, text, 1,
+                                         Qt::MatchStartsWith | Qt::MatchRecursive);
+  return items.value(0);
 }
-void ClickItem(QTreeWidget& tree, const QString& text, Qt::KeyboardModifiers keys = {}) {
-  QTreeWidgetItem* item = ItemOf(tree, text);
-  ASSERT_NE(item, nullptr) << text.toStdString();
-  tree.scrollToItem(item);
-  QTest::mouseClick(tree.viewport(), Qt::LeftButton, keys, tree.visualItemRect(item).center());
+void ClickItem(QTreeView& tree, const QString& text, Qt::KeyboardModifiers keys = {}) {
+  const QModelIndex item = ItemOf(tree, text);
+  ASSERT_TRUE(item.isValid()) << text.toStdString();
+  tree.scrollTo(item);
+  QTest::mouseClick(tree.viewport(), Qt::LeftButton, keys, tree.visualRect(item).center());
 }
 }  // namespace
 
@@ -76,15 +78,15 @@ TEST_F(DesignerTest, AHintTellsClassAndPage) {
 }
 
 TEST_F(DesignerTest, TheStructureShowsTheFormAsATree) {
-  QTreeWidget& tree = window_->Structure().Tree();
-  EXPECT_EQ(tree.topLevelItemCount(), 1);
-  EXPECT_EQ(tree.topLevelItem(0)->text(0), QStringLiteral("Main: TMain"));
-  EXPECT_EQ(ItemOf(tree, QStringLiteral("Inner"))->parent(), ItemOf(tree, QStringLiteral("Panel1")));
-  EXPECT_EQ(ItemOf(tree, QStringLiteral("Timer1"))->text(0), QStringLiteral("Timer1: TTimer"));
+  QTreeView& tree = window_->Structure().Tree();
+  EXPECT_EQ(tree.model()->rowCount(), 1);
+  EXPECT_EQ(tree.model()->index(0, 0).data().toString(), QStringLiteral("Main: TMain"));
+  EXPECT_EQ(ItemOf(tree, QStringLiteral("Inner")).parent(), ItemOf(tree, QStringLiteral("Panel1")));
+  EXPECT_EQ(ItemOf(tree, QStringLiteral("Timer1")).data().toString(), QStringLiteral("Timer1: TTimer"));
 }
 
 TEST_F(DesignerTest, AClickInTheStructureSelectsOnTheForm) {
-  QTreeWidget& tree = window_->Structure().Tree();
+  QTreeView& tree = window_->Structure().Tree();
   ClickItem(tree, QStringLiteral("Inner"));
   EXPECT_EQ(Selected(), "Inner");
   ClickItem(tree, QStringLiteral("Led"), Qt::ControlModifier);
@@ -95,39 +97,40 @@ TEST_F(DesignerTest, ASelectionOnTheFormShowsInTheStructure) {
   Click(At("Button1"));
   Click(At("Led"), Qt::ControlModifier);
   QStringList texts;
-  for (const QTreeWidgetItem* item : window_->Structure().Tree().selectedItems()) texts << item->text(0);
+  for (const QModelIndex& item : window_->Structure().Tree().selectionModel()->selectedIndexes())
+    texts << item.data().toString();
   texts.sort();
   EXPECT_EQ(texts.join(u'|'), QStringLiteral("Button1: TButton|Led: TVRXLEDLabel"));
 }
 
 TEST_F(DesignerTest, TheStructureFollowsNamesAndComponents) {
-  QTreeWidget& tree = window_->Structure().Tree();
+  QTreeView& tree = window_->Structure().Tree();
   Session().Rename(Get("Led"), QStringLiteral("Clock"));
-  EXPECT_NE(ItemOf(tree, QStringLiteral("Clock: TVRXLEDLabel")), nullptr);
-  EXPECT_EQ(ItemOf(tree, QStringLiteral("Led:")), nullptr);
+  EXPECT_TRUE(ItemOf(tree, QStringLiteral("Clock: TVRXLEDLabel")).isValid());
+  EXPECT_FALSE(ItemOf(tree, QStringLiteral("Led:")).isValid());
   Select("Panel1");
   Session().DeleteSelection();
-  EXPECT_EQ(ItemOf(tree, QStringLiteral("Inner")), nullptr);
+  EXPECT_FALSE(ItemOf(tree, QStringLiteral("Inner")).isValid());
   Session().Undo();
-  EXPECT_NE(ItemOf(tree, QStringLiteral("Inner")), nullptr);
+  EXPECT_TRUE(ItemOf(tree, QStringLiteral("Inner")).isValid());
 }
 
 TEST_F(DesignerTest, TheStructureFilterHidesWhatDoesNotFit) {
-  QTreeWidget& tree = window_->Structure().Tree();
+  QTreeView& tree = window_->Structure().Tree();
   QTest::keyClicks(window_->Structure().findChild<QLineEdit*>(), QStringLiteral("inner"));
-  EXPECT_FALSE(ItemOf(tree, QStringLiteral("Inner"))->isHidden());
-  EXPECT_FALSE(ItemOf(tree, QStringLiteral("Panel1"))->isHidden());
-  EXPECT_TRUE(ItemOf(tree, QStringLiteral("Button1"))->isHidden());
-  EXPECT_TRUE(ItemOf(tree, QStringLiteral("Timer1"))->isHidden());
+  EXPECT_TRUE(ItemOf(tree, QStringLiteral("Inner")).isValid());
+  EXPECT_TRUE(ItemOf(tree, QStringLiteral("Panel1")).isValid());
+  EXPECT_FALSE(ItemOf(tree, QStringLiteral("Button1")).isValid());
+  EXPECT_FALSE(ItemOf(tree, QStringLiteral("Timer1")).isValid());
 }
 
 TEST_F(DesignerTest, TheStructureKeepsClosedWhatWasClosed) {
-  QTreeWidget& tree = window_->Structure().Tree();
-  ItemOf(tree, QStringLiteral("Panel1"))->setExpanded(false);
+  QTreeView& tree = window_->Structure().Tree();
+  tree.setExpanded(ItemOf(tree, QStringLiteral("Panel1")), false);
   Session().DeleteComponents({&Get("Timer1")});
-  EXPECT_FALSE(ItemOf(tree, QStringLiteral("Panel1"))->isExpanded());
-  EXPECT_TRUE(tree.topLevelItem(0)->isExpanded());
+  EXPECT_FALSE(tree.isExpanded(ItemOf(tree, QStringLiteral("Panel1"))));
+  EXPECT_TRUE(tree.isExpanded(tree.model()->index(0, 0)));
   // A hit inside is shown all the same.
   QTest::keyClicks(window_->Structure().findChild<QLineEdit*>(), QStringLiteral("inner"));
-  EXPECT_TRUE(ItemOf(tree, QStringLiteral("Panel1"))->isExpanded());
+  EXPECT_TRUE(tree.isExpanded(ItemOf(tree, QStringLiteral("Panel1"))));
 }

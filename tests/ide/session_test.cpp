@@ -113,7 +113,7 @@ TEST_F(SessionTest, ACreatedComponentThatFailsIsNotSelected) {
 TEST_F(SessionTest, TheSelectionIsNeverEmptyWhileListenersHearOfAnUndo) {
   session_->CreateComponent(TButton::StaticClass(), nullptr, QRect(0, 0, 9, 9));
   bool heard = false;
-  QObject::connect(session_.get(), &FormSession::FormChanged, session_.get(), [&] {
+  QObject::connect(session_.get(), &FormSession::Changed, session_.get(), [&] {
     heard = true;
     EXPECT_FALSE(session_->SelectedComponents().empty());
   });

@@ -159,7 +159,8 @@ TEST_F(UnannouncedTest, MakingTheComponentsAnewWaitsForTheCommand) {
   TComponent* label = &Get<TLabel>("Label1");
   int rebuilt = 0;
   QObject listener;
-  QObject::connect(session_.get(), &FormSession::StructureChanged, &listener, [&] { ++rebuilt; });
+  QObject::connect(session_.get(), &FormSession::Changed, &listener,
+                   [&](const FormChange& change) { rebuilt += change.structure; });
   session_->Run(QStringLiteral("dialog"), {}, [&] {
     session_->Rebuild();
     EXPECT_EQ(session_->GetComponent(QStringLiteral("Label1")), label);
