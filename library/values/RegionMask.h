@@ -35,6 +35,8 @@ class TVRXRegionMask : public TOwnedPersistent {
   // What a control shows: the picture of the state or, without one, the border picture, transparent outside
   // of the region. Null when there is no region or no picture. Made once and kept until something changes.
   const QImage& Shown(int state) const;
+  // The size of Shown, without decoding anything; empty when that is null.
+  QSize ShownSize(int state) const;
 
   void Assign(const TPersistent* source) override;
 

@@ -50,14 +50,22 @@ QImage Reduced(const QImage& image, TVRXColorDepth depth) {
 }
 }  // namespace
 
+void StoredPicture::Decode() const {
+  if (decoded_ || Empty()) return;
+  full_ = shown_ = ImageFromBytes(bytes_);
+  decoded_ = true;
+}
+
 void StoredPicture::Refresh() const {
   if (!stale_) return;
+  Decode();
   stale_ = false;
   shown_ = full_.isNull() ? QImage() : Reduced(full_, depth_);
   bytes_ = PictureToBytes(shown_, compress_ || shown_.hasAlphaChannel() ? "PNG" : "BMP");
 }
 
 const QImage& StoredPicture::Image() const {
+  Decode();
   Refresh();
   return shown_;
 }
@@ -68,14 +76,18 @@ QByteArray StoredPicture::Bytes() const {
 }
 
 void StoredPicture::SetImage(const QImage& image) {
+  RequirePictureSize(QStringLiteral("The picture"), image.width(), image.height());
   full_ = image;
+  size_ = image.size();
+  decoded_ = true;
   stale_ = true;
 }
 
 void StoredPicture::SetBytes(const QByteArray& bytes) {
-  full_ = bytes.isEmpty() ? QImage() : ImageFromBytes(bytes);
-  shown_ = full_;
+  size_ = bytes.isEmpty() ? QSize() : ImageFromBytes(bytes).size();
+  full_ = shown_ = QImage();
   bytes_ = bytes;
+  decoded_ = false;
   stale_ = false;
 }
 
@@ -83,5 +95,5 @@ void StoredPicture::SetStorage(bool compress, TVRXColorDepth depth) {
   if (compress == compress_ && depth == depth_) return;
   compress_ = compress;
   depth_ = depth;
-  stale_ = !full_.isNull();
+  stale_ = !Empty();
 }

@@ -11,19 +11,27 @@ class StoredPicture {
  public:
   // As it is shown: with the colours that the way of storing leaves. Null when there is no picture.
   const QImage& Image() const;
+  // Both without decoding anything.
+  bool Empty() const { return size_.isEmpty(); }
+  QSize Size() const { return size_; }
+  // Throws EInvalidPicture and changes nothing when it is larger than what can be read again.
   void SetImage(const QImage& image);
   // BMP, or PNG when compressed or transparent. Empty when there is no picture.
   QByteArray Bytes() const;
-  // Throws EInvalidPicture and changes nothing when they are not a picture.
+  // Throws EInvalidPicture and changes nothing when they are not a picture. They are decoded to know that;
+  // what is decoded is kept only once somebody asks for the image, for most pictures of a form are not shown.
   void SetBytes(const QByteArray& bytes);
   void SetStorage(bool compress, TVRXColorDepth depth);
 
  private:
-  QImage full_;  // before any reduction
+  QSize size_;
+  mutable QImage full_;  // before any reduction
   mutable QImage shown_;
   mutable QByteArray bytes_;
-  mutable bool stale_ = false;  // shown_ and bytes_ do not belong to full_ yet
+  mutable bool stale_ = false;    // shown_ and bytes_ do not belong to full_ yet
+  mutable bool decoded_ = false;  // full_ belongs to the bytes that were set
   bool compress_ = false;
   TVRXColorDepth depth_{};
+  void Decode() const;
   void Refresh() const;
 };
