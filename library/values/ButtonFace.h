@@ -29,6 +29,9 @@ class TVRXButtonFace : public TOwnedPersistent {
   bool Empty() const { return pictures_[0].Empty(); }
   // Of the picture, without decoding it.
   QSize Size() const { return pictures_[0].Size(); }
+  // Makes what is stored, as StoredPicture does.
+  bool Encode(const TGoOn& goOn) const;
+  bool NeedsTime() const;
   void Assign(const TPersistent* source) override;
 
  private:

@@ -38,6 +38,10 @@ class TVRXRegionMask : public TOwnedPersistent {
   // The size of Shown, without decoding anything; empty when that is null.
   QSize ShownSize(int state) const;
 
+  // Makes what is stored, as StoredPicture does.
+  bool Encode(const TGoOn& goOn) const { return EncodeAll({&border_, &states_[0], &states_[1]}, goOn); }
+  bool NeedsTime() const { return border_.NeedsTime() || states_[0].NeedsTime() || states_[1].NeedsTime(); }
+
   void Assign(const TPersistent* source) override;
 
  private:

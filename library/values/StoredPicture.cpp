@@ -56,22 +56,34 @@ void StoredPicture::Decode() const {
   decoded_ = true;
 }
 
-void StoredPicture::Refresh() const {
-  if (!stale_) return;
+void StoredPicture::Reduce() const {
   Decode();
-  stale_ = false;
+  if (std::exchange(reduced_, true)) return;
   shown_ = full_.isNull() ? QImage() : Reduced(full_, depth_);
-  bytes_ = PictureToBytes(shown_, compress_ || shown_.hasAlphaChannel() ? "PNG" : "BMP");
 }
 
 const QImage& StoredPicture::Image() const {
-  Decode();
-  Refresh();
+  Reduce();
   return shown_;
 }
 
+bool StoredPicture::Encode(const TGoOn& goOn) const {
+  if (!stale_) return true;
+  Reduce();
+  const bool png = compress_ || shown_.hasAlphaChannel();
+  if (png && IsLargePicture(size_)) {
+    const QByteArray bytes = LargePng(shown_, goOn);
+    if (bytes.isEmpty()) return false;
+    bytes_ = bytes;
+  } else {
+    bytes_ = PictureToBytes(shown_, png ? "PNG" : "BMP");
+  }
+  stale_ = false;
+  return true;
+}
+
 QByteArray StoredPicture::Bytes() const {
-  Refresh();
+  Encode({});
   return bytes_;
 }
 
@@ -80,6 +92,7 @@ void StoredPicture::SetImage(const QImage& image) {
   full_ = image;
   size_ = image.size();
   decoded_ = true;
+  reduced_ = false;
   stale_ = true;
 }
 
@@ -88,6 +101,7 @@ void StoredPicture::SetBytes(const QByteArray& bytes) {
   full_ = shown_ = QImage();
   bytes_ = bytes;
   decoded_ = false;
+  reduced_ = true;
   stale_ = false;
 }
 
@@ -95,5 +109,17 @@ void StoredPicture::SetStorage(bool compress, TVRXColorDepth depth) {
   if (compress == compress_ && depth == depth_) return;
   compress_ = compress;
   depth_ = depth;
+  reduced_ = Empty();
   stale_ = !Empty();
+}
+
+bool EncodeAll(std::initializer_list<const StoredPicture*> pictures, const TGoOn& goOn) {
+  const int count = static_cast<int>(pictures.size());
+  int before = 0;
+  for (const StoredPicture* picture : pictures) {
+    const TGoOn part = [&](int percent) { return goOn((before * 100 + percent) / count); };
+    if (!picture->Encode(goOn ? part : TGoOn())) return false;
+    ++before;
+  }
+  return true;
 }

@@ -5,6 +5,8 @@
 #include <QByteArray>
 #include <QImage>
 
+#include "vcl/LargePng.h"
+
 enum class TVRXColorDepth : std::uint8_t;
 
 class StoredPicture {
@@ -18,6 +20,10 @@ class StoredPicture {
   void SetImage(const QImage& image);
   // BMP, or PNG when compressed or transparent. Empty when there is no picture.
   QByteArray Bytes() const;
+  // Makes the bytes now instead of when somebody asks for them, which can take seconds for a large picture.
+  // False when `goOn` ended it.
+  bool Encode(const TGoOn& goOn) const;
+  bool NeedsTime() const { return stale_ && IsLargePicture(size_); }
   // Throws EInvalidPicture and changes nothing when they are not a picture. They are decoded to know that;
   // what is decoded is kept only once somebody asks for the image, for most pictures of a form are not shown.
   void SetBytes(const QByteArray& bytes);
@@ -28,10 +34,13 @@ class StoredPicture {
   mutable QImage full_;  // before any reduction
   mutable QImage shown_;
   mutable QByteArray bytes_;
-  mutable bool stale_ = false;    // shown_ and bytes_ do not belong to full_ yet
+  mutable bool reduced_ = true;   // shown_ belongs to full_
+  mutable bool stale_ = false;    // bytes_ do not belong to full_ yet
   mutable bool decoded_ = false;  // full_ belongs to the bytes that were set
   bool compress_ = false;
   TVRXColorDepth depth_{};
   void Decode() const;
-  void Refresh() const;
+  void Reduce() const;
 };
+// One after the other, with the percentage of all of them.
+bool EncodeAll(std::initializer_list<const StoredPicture*> pictures, const TGoOn& goOn);

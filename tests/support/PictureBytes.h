@@ -24,15 +24,16 @@ inline QByteArray PngOf(quint32 width, quint32 height, int bits, const QByteArra
   const QByteArray row(
       static_cast<qsizetype>((std::size_t{width} * static_cast<std::size_t>(bits) + 7) / 8 + 1), '\0');
   const char kind = bits == 24 ? 2 : 0, depth = static_cast<char>(bits == 24 ? 8 : bits);
-  const QByteArray head =
-      Number32(width, true) + Number32(height, true) + QByteArray(1, depth) + QByteArray(1, kind) + QByteArray(3, '\0');
+  const QByteArray head = Number32(width, true) + Number32(height, true) + QByteArray(1, depth) +
+                          QByteArray(1, kind) + QByteArray(3, '\0');
   return QByteArray("\x89PNG\r\n\x1a\n", 8) + PngChunk("IHDR", head) + between +
          PngChunk("IDAT", Deflated(row.repeated(static_cast<qsizetype>(height)))) + PngChunk("IEND", {});
 }
 // The head of a BMP and whatever follows it.
 inline QByteArray BmpOf(qint32 width, qint32 height, int bits, quint32 compression, const QByteArray& data) {
   const auto number = [](qint64 v) { return Number32(static_cast<quint32>(v), false); };
-  const QByteArray planesAndBits = QByteArray("\1\0", 2) + QByteArray(1, static_cast<char>(bits)) + QByteArray(1, '\0');
+  const QByteArray planesAndBits =
+      QByteArray("\1\0", 2) + QByteArray(1, static_cast<char>(bits)) + QByteArray(1, '\0');
   const QByteArray colors = bits == 8 ? QByteArray(1024, '\x55') : QByteArray();
   return "BM" + number(54 + colors.size() + data.size()) + number(0) + number(54 + colors.size()) +
          number(40) + number(width) + number(height) + planesAndBits + number(compression) + number(0) +
