@@ -36,6 +36,9 @@ int CheckCommand(const QStringList& list, Console& console) {
     } catch (const Exception& e) {
       PrintFinding(console.out, file, {0, 1, 1}, "error", e.Message());
       bad = true;
+    } catch (const std::bad_alloc& e) {
+      PrintFinding(console.out, file, {0, 1, 1}, "error", ExceptionMessage(e));
+      bad = true;
     }
   }
   console.out.flush();

@@ -43,14 +43,8 @@ class TerminalProgress : public IVRXProgress {
 Results Draw(const QString& file, const Effect& e, IVRXProgress* progress) {
   const TBitmap source = LoadPicture(file);
   const TColor transparent = e.transparent.value_or(source.Pixel(0, source.Height() - 1));
-  const std::int64_t width = std::int64_t{source.Width()} + 2 * e.width,
-                     height = std::int64_t{source.Height()} + 2 * e.width;
-  if (width * height > MaxPicturePixels)
-    throw Exception(QStringLiteral("%1: with a bevel of %2 the pictures would have %3 x %4 pixels, too many")
-                        .arg(file)
-                        .arg(e.width)
-                        .arg(width)
-                        .arg(height));
+  RequireButton3DSize(QStringLiteral("%1: with a bevel of %2, each of the pictures").arg(file).arg(e.width),
+                      source, e.width);
   Results r;
   VRXDrawButton3D(source, r.up, r.down, r.disabled, transparent, e.light, e.shadow, e.dither, e.semiSecond,
                   e.semiKey, e.bevel, e.semi, e.width, progress);

@@ -4,6 +4,7 @@
 #include "forms/FormFile.h"
 #include "forms/TextWriter.h"
 #include "ide/BoundsCheck.h"
+#include "ide/PictureBudget.h"
 #include "ide/StandIns.h"
 #include "ide/Tiles.h"
 #include "rtl/Exceptions.h"
@@ -18,6 +19,13 @@ std::unique_ptr<FormSession> OpenForm(const QString& file) {
   } catch (const EFormError& e) {
     throw Exception(QStringLiteral("%1: %2").arg(file, e.Message()));
   }
+}
+
+// For what shows values: a form whose pictures were refused is not what it seems.
+std::unique_ptr<FormSession> OpenWholeForm(const QString& file) {
+  auto session = OpenForm(file);
+  RequireAllData(*session);
+  return session;
 }
 
 // "Button1.Font.Color": the component, and the rest of the path. What stands in a frame has the frame's name
@@ -44,7 +52,7 @@ int GetCommand(const QStringList& list, Console& console) {
   if (args.values.size() != 2)
     throw UsageError{QStringLiteral("FORM and COMPONENT or COMPONENT.PROPERTY are needed")};
   LoadClasses(console);
-  const auto session = OpenForm(args.values[0]);
+  const auto session = OpenWholeForm(args.values[0]);
   QByteArray path;
   TComponent& component = ComponentOf(*session, args.values[1], path);
   const Document& document = session->Document();
@@ -154,7 +162,7 @@ int RenderCommand(const QStringList& list, Console& console) {
     throw UsageError{QStringLiteral("--theme takes light or dark, not \"%1\"").arg(theme)};
   const FormColorScope colors(theme == QStringLiteral("dark") ? TFormColors::Dark : TFormColors::Light);
   LoadClasses(console);
-  const auto session = OpenForm(args.values[0]);
+  const auto session = OpenWholeForm(args.values[0]);
   constexpr double MaxPixels = 200e6;
   const QSize size = DeskSize(*session).expandedTo(session->Form().BoundsRect().size());
   if (size.width() * scale * size.height() * scale > MaxPixels)

@@ -8,9 +8,11 @@
 #include "designer/MainWindow.h"
 #include "designer/ValueEditor.h"
 #include "forms/FormFile.h"
+#include "ide/PictureBudget.h"
 #include "rtl/Exceptions.h"
 #include "vcl/FormColors.h"
 #include "vcl/PictureFile.h"
+#include "vcl/Prompts.h"
 #include "vcl/Theme.h"
 
 namespace {
@@ -31,6 +33,20 @@ class Album {
   QDir folder_;
 };
 
+// Nobody is there to answer a box.
+class KeptWarnings : public IPrompts {
+ public:
+  KeptWarnings() { SetPrompts(this); }
+  ~KeptWarnings() override { SetPrompts(nullptr); }
+  void Inform(QWidget*, const QString&, const QString& text) override { last = text; }
+  void Warn(QWidget*, const QString&, const QString& text) override { last = text; }
+  TAnswer AskToSave(QWidget*, const QString&) override { return TAnswer::No; }
+  bool Confirm(QWidget*, const QString&, const QString&) override { return false; }
+  QString OpenFileName(QWidget*, const QString&, const QString&, const QString&) override { return {}; }
+  QString SaveFileName(QWidget*, const QString&, const QString&, const QString&) override { return {}; }
+  QString last;
+};
+
 // The component with the largest LED: the one that shows best.
 TComponent* ShowPiece(FormSession& session) {
   TControl* best = nullptr;
@@ -43,6 +59,7 @@ TComponent* ShowPiece(FormSession& session) {
 
 QStringList TakePictures(PackageManager& packages, const QString& form, const QString& folder) {
   Album album(folder);
+  const KeptWarnings warnings;
   const FormColorScope colors(TFormColors::Light);  // whatever this person prefers
   for (const bool dark : {false, true}) {
     ApplyTheme(dark ? TTheme::Dark : TTheme::Light);
@@ -50,7 +67,8 @@ QStringList TakePictures(PackageManager& packages, const QString& form, const QS
     const QString suffix = dark ? QStringLiteral("-dark") : QStringLiteral("-light");
     MainWindow window(packages);
     window.show();
-    if (!window.OpenForm(form)) throw Exception(QStringLiteral("%1 cannot be opened").arg(form));
+    if (!window.OpenForm(form)) throw Exception(warnings.last);
+    RequireAllData(*window.Session());
     if (TComponent* led = ShowPiece(*window.Session())) {
       window.Session()->Select({led});
       window.Inspector().ShowProperty(QStringLiteral("LED"));

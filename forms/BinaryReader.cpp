@@ -41,6 +41,12 @@ BinaryReader::BinaryReader(QByteArrayView bytes, std::size_t at, bool lclStream)
 
 void BinaryReader::Fail(const QString& text) const { throw EFormError(text, Location{Offset(), 0, 0}); }
 
+void BinaryReader::Charge(std::int64_t pieceCost) {
+  if (!budget_.Take(pieceCost))
+    Fail(QStringLiteral("The form has too many parts: in memory it would take more than %1 MB")
+             .arg(MaxFormMemory >> 20));
+}
+
 unsigned char BinaryReader::Byte() {
   if (p_ == end_) Fail(QStringLiteral("The stream ends too early"));
   return static_cast<unsigned char>(*p_++);
@@ -91,6 +97,7 @@ void BinaryReader::ReadDocument(Document& doc) {
 
 std::unique_ptr<Object> BinaryReader::ReadObject(Document& doc, int depth) {
   if (depth > MaxDepth) Fail(QStringLiteral("Objects are nested more than %1 deep").arg(MaxDepth));
+  Charge(cost::Object);
   auto object = std::make_unique<Object>();
   object->header.begin = static_cast<std::uint32_t>(Offset());
   if (p_ != end_ && (static_cast<unsigned char>(*p_) & 0xF0u) == 0xF0u) {
@@ -117,6 +124,7 @@ std::unique_ptr<Object> BinaryReader::ReadObject(Document& doc, int depth) {
     }
     const char* value = p_;
     ReadValue(nullptr);
+    Charge(cost::Property);
     properties.emplace_back(path, QByteArrayView(begin, p_), value);
   }
   properties.shrink_to_fit();
@@ -144,6 +152,7 @@ void BinaryReader::ReadList(Value* out, int depth) {
       ++p_;
       return;
     }
+    Charge(cost::Element);
     Value item;
     ReadValue(out ? &item : nullptr, depth + 1);
     if (out) out->items.push_back(std::move(item));
@@ -154,6 +163,7 @@ void BinaryReader::ReadCollection(Value* out, int depth) {
   for (;;) {
     unsigned char code = Byte();
     if (code == 0) return;
+    Charge(cost::Item);
     CollectionItem item;
     if (code != 1) {
       item.index = TaggedInteger(static_cast<ValueType>(code));
@@ -163,6 +173,7 @@ void BinaryReader::ReadCollection(Value* out, int depth) {
     for (;;) {
       const QByteArrayView path = ShortString("a property name");
       if (path.isEmpty()) break;
+      Charge(cost::Element);
       NamedValue property;
       ReadValue(out ? &property.value : nullptr, depth + 1);
       if (out) {
@@ -248,6 +259,7 @@ void BinaryReader::ReadValue(Value* out, int depth) {
       for (;;) {
         const QByteArrayView element = ShortString("a set element");
         if (element.isEmpty()) return;
+        Charge(cost::SetElement);
         if (out) out->elements.append(element.toByteArray());
       }
     case ValueType::List:

@@ -99,6 +99,16 @@ void ApplyCollection(const PropertyTarget& t, const Value& v, const Document& do
     }
   }
 }
+
+// The refusals of pictures and regions do not know whose they are.
+void ApplyBinary(const PropertyTarget& t, const Value& v) {
+  try {
+    SetBinaryProp(*t.instance, *t.prop, QByteArray(v.bytes.constData(), v.bytes.size()));
+  } catch (const Exception& e) {
+    throw EPropertyError(
+        QStringLiteral("%1 is refused. %2").arg(QString::fromLatin1(t.prop->Name), e.Message()));
+  }
+}
 }  // namespace
 
 void ApplyValue(const PropertyTarget& t, const Value& v, const Document& doc,
@@ -141,7 +151,7 @@ void ApplyValue(const PropertyTarget& t, const Value& v, const Document& doc,
       return;
     case TTypeKind::tkUnknown:
       if (v.type != ValueType::Binary) Refuse(t, v, QStringLiteral("binary data {...} is expected"));
-      return SetBinaryProp(*t.instance, prop, QByteArray(v.bytes.constData(), v.bytes.size()));
+      return ApplyBinary(t, v);
     default:
       return SetOrdProp(*t.instance, prop, OrdinalOf(t, v));
   }

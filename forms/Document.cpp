@@ -94,7 +94,12 @@ Document Document::Parse(QByteArray bytes, const Dialect& hint) {
   doc.format_ = Detect(bytes);
   doc.source_ = std::move(bytes);
   if (doc.format_ == Format::Text) {
-    TextReader(doc.source_).ReadDocument(doc);
+    TextReader reader(doc.source_);
+    try {
+      reader.ReadDocument(doc);
+    } catch (const std::bad_alloc&) {
+      ThrowOutOfMemory(LocationOf(doc.source_, reader.Offset()));
+    }
   } else {
     const std::size_t at = StreamOffset(doc.source_);
     // The two families of streams disagree about one code; the other reading may fit, too.
@@ -118,6 +123,8 @@ Document Document::Parse(QByteArray bytes, const Dialect& hint) {
     } catch (const EFormError&) {
       if (!takeOther(false)) throw;
       reader = BinaryReader(doc.source_, at, true);
+    } catch (const std::bad_alloc&) {
+      ThrowOutOfMemory({reader.Offset(), 0, 0});
     }
     // A string of two units is as long as a double, but hardly any double begins with its length.
     if (reader.SawDouble()) takeOther(true);

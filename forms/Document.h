@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "forms/FormError.h"
+#include "forms/Limits.h"
 #include "forms/Value.h"
 
 namespace forms {
@@ -196,8 +197,5 @@ class Document {
   QByteArray codePage_;
   std::deque<QByteArray> interned_;
 };
-
-constexpr int MaxDepth = 400;                            // nesting of objects and of values
-constexpr qsizetype MaxFileSize = qsizetype{512} << 20;  // bytes
 
 }  // namespace forms

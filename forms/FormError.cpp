@@ -32,4 +32,8 @@ QString Placed(const QString& text, const Location& where) {
 EFormError::EFormError(const QString& text, Location where)
     : Exception(Placed(text, where)), text_(text), where_(where) {}
 
+void ThrowOutOfMemory(Location where) {
+  throw EFormError(QStringLiteral("Out of memory: there is not enough of it for this form"), where);
+}
+
 }  // namespace forms

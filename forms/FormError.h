@@ -14,6 +14,9 @@ struct Location {
 // The place of a byte offset in a text. Columns count characters when the line is UTF-8, else bytes.
 Location LocationOf(QByteArrayView text, std::size_t offset);
 
+// There is not enough memory for a form; said like any other trouble with it, with its place.
+[[noreturn]] void ThrowOutOfMemory(Location where);
+
 class EFormError : public Exception {
  public:
   EFormError(const QString& text, Location where);

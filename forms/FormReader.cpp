@@ -35,7 +35,19 @@ TComponent* FormReader::Create(Object& object, TComponent* owner) {
 }
 
 std::unique_ptr<TComponent> FormReader::ReadRoot() {
-  Object& object = document_.Root();
+  try {
+    return MakeRoot(document_.Root());
+  } catch (const std::bad_alloc&) {
+    // What was made so far is gone again, so there is room for saying it.
+    value_ = Value();
+    findings_ = {};
+    ThrowOutOfMemory(atProperty_ ? document_.Where(*atProperty_)
+                     : atObject_ ? document_.Where(*atObject_)
+                                 : document_.Where(document_.Root()));
+  }
+}
+
+std::unique_ptr<TComponent> FormReader::MakeRoot(Object& object) {
   const qsizetype count = CountObjects(object);
   map_.Reserve(count);
   std::unique_ptr<TComponent> root(makeRoot_ ? makeRoot_(object, nullptr) : Create(object, nullptr));
@@ -63,6 +75,8 @@ TComponent* FormReader::ReadChild(Object& object, TComponent& owner, TComponent&
 void FormReader::ReadInto(Object& object, TComponent& component, TComponent* owner) {
   // One note tells of an unknown class; its properties are not listed one by one.
   const bool reportUnknown = !std::exchange(standIn_, false);
+  atObject_ = &object;
+  atProperty_ = nullptr;
   if (!component.IsLoading()) component.BeginLoading();
   loading_.push_back(&component);
   map_.Add(component, object);
@@ -88,6 +102,7 @@ void FormReader::ReadProperties(Object& object, TComponent& component, bool repo
       target = FindTarget(component, p.Name());
       if (target.Found() && !known) known = notes.Add(p.Name(), component, target);
     }
+    atProperty_ = &p;
     if (!target.Found()) {
       if (!reportUnknown) continue;
       Report(Severity::Note, document_.Where(p),
@@ -102,6 +117,7 @@ void FormReader::ReadProperties(Object& object, TComponent& component, bool repo
     } catch (const Exception& e) {
       Report(Severity::Error, document_.Where(p),
              QStringLiteral("%1: %2").arg(ObjectTitle(object), e.Message()));
+      findings_.back().refusedData = target.prop && target.prop->Kind() == TTypeKind::tkUnknown;
     }
     for (std::size_t i = before; i < pending_.size(); ++i) {
       pending_[i].holder = &component;

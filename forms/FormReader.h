@@ -14,6 +14,7 @@ struct Finding {
   Location where;
   QString text;
   bool unknownName = false;  // a class, property or event that no loaded package has
+  bool refusedData = false;  // a picture or other binary data that its class does not take
 };
 
 // Which component stands for which object of the document.
@@ -52,7 +53,7 @@ class FormReader {
   void SetUnknownMaker(Maker maker) { makeUnknown_ = std::move(maker); }
   void SetDesigning(bool designing) { designing_ = designing; }
 
-  // The whole form; the caller owns the root.
+  // The whole form; the caller owns the root. Throws EFormError when memory runs out.
   std::unique_ptr<TComponent> ReadRoot();
   // An object (and everything in it) below an existing component.
   TComponent* ReadChild(Object& object, TComponent& owner, TComponent& parent);
@@ -60,6 +61,7 @@ class FormReader {
   const std::vector<Finding>& Findings() const { return findings_; }
 
  private:
+  std::unique_ptr<TComponent> MakeRoot(Object& object);
   TComponent* Create(Object& object, TComponent* owner);
   void ReadInto(Object& object, TComponent& component, TComponent* owner);
   void ReadProperties(Object& object, TComponent& component, bool reportUnknown);
@@ -79,6 +81,9 @@ class FormReader {
   QHash<QByteArray, const TClass*> classes_;
   std::unordered_map<const TClass*, ClassNotes> notes_;
   Value value_;
+  // What is being read.
+  const Object* atObject_ = nullptr;
+  const Property* atProperty_ = nullptr;
 };
 
 }  // namespace forms

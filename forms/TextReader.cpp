@@ -62,6 +62,11 @@ void TextReader::Fail(const QString& text, const char* at) const {
   throw EFormError(text, LocationOf(QByteArrayView(begin_, end_), offset));
 }
 
+void TextReader::FailTooMany() const {
+  Fail(QStringLiteral("The form has too many parts: in memory it would take more than %1 MB")
+           .arg(MaxFormMemory >> 20));
+}
+
 // What stands here, for messages: the rest of the word or the single character.
 QByteArray TextReader::Here() const {
   if (p_ == end_) return "the end of the file";
@@ -188,6 +193,7 @@ void TextReader::ReadDocument(Document& doc) {
 
 std::unique_ptr<Object> TextReader::ReadObject(Document& doc, std::size_t nodeBegin, int depth) {
   if (depth > MaxDepth) Fail(QStringLiteral("Objects are nested more than %1 deep").arg(MaxDepth));
+  Charge(cost::Object);
   auto object = std::make_unique<Object>();
   const char* at = p_;
   const auto kind = KindOf(Word("\"object\", \"inherited\" or \"inline\""));
@@ -271,6 +277,7 @@ void TextReader::ReadProperties(Document& doc, Object& object) {
     ReadValue(nullptr);
     NodeEnd();
     scratch_.emplace_back(name, QByteArrayView(nodeStart, p_), value);
+    Charge(cost::Property);
   }
   object.properties.reserve(scratch_.size());
   for (Property& p : scratch_) object.properties.push_back(std::move(p));

@@ -19,6 +19,8 @@ class TextReader {
   }
   // Refuses anything but blanks up to the end.
   void ExpectEnd();
+  // Where the reader stands.
+  std::size_t Offset() const { return static_cast<std::size_t>(p_ - begin_); }
 
  private:
   using Scratch = std::vector<Property>;
@@ -48,15 +50,19 @@ class TextReader {
   QByteArrayView PropertyPath(QByteArrayView firstWord);
   QByteArrayView UsualName(QByteArrayView firstWord);
   void Expect(char c, const char* what);
-  std::size_t Offset() const { return static_cast<std::size_t>(p_ - begin_); }
   QByteArray Here() const;
   [[noreturn]] void Fail(const QString& text, const char* at = nullptr) const;
+  [[noreturn]] void FailTooMany() const;
+  void Charge(std::int64_t pieceCost) {
+    if (!budget_.Take(pieceCost)) FailTooMany();
+  }
 
   const char* begin_;
   const char* p_;
   const char* end_;
   Scratch scratch_;
   bool directives_ = false;
+  Budget budget_;
   // Signs of the file's style, met on the way.
   int glued_ = 0, apart_ = 0;            // closing brackets
   int doubledQuotes_ = 0, coded39_ = 0;  // apostrophes

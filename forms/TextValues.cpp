@@ -24,6 +24,7 @@ void TextReader::ReadValue(Value* out, int depth) {
   if (depth > MaxDepth) Fail(QStringLiteral("Values are nested more than %1 deep").arg(MaxDepth));
   if (p_ == end_) Fail(QStringLiteral("A value expected, but the file ends"));
   if (const char* stop = PlainValue(p_, end_, out)) {
+    if (*p_ == '[') Charge((stop - p_) / 2 * cost::SetElement);  // as many as it can be
     p_ = stop;
     return;
   }
@@ -142,11 +143,16 @@ void TextReader::ReadNumber(Value* out) {
 
 void TextReader::ReadString(Value* out) {
   bool wide = false;
-  std::vector<std::pair<bool, QByteArray>> parts;  // (is a character code, text or code)
+  struct Part {
+    QByteArrayView text;  // null: a character code
+    std::uint32_t code = 0;
+  };
+  std::vector<Part> parts;
   for (;;) {
     if (p_ == end_ || (*p_ != '\'' && *p_ != '#'))
       Fail(QStringLiteral("A string expected behind \"+\", but %1 found").arg(QString::fromLatin1(Here())));
     while (p_ != end_ && (*p_ == '\'' || *p_ == '#')) {
+      Charge(cost::StringPart);
       if (*p_ == '#') {
         ++p_;
         const char* digits = p_;
@@ -157,12 +163,11 @@ void TextReader::ReadString(Value* out) {
         }
         if (code == 39) ++coded39_;
         if (code > 127) wide = true;
-        if (out) parts.emplace_back(true, QByteArray::number(code));
+        if (out) parts.push_back({{}, code});
         continue;
       }
       const char* open = p_++;
       const char* runStart = p_;
-      QByteArray run;
       for (;;) {
         const char* q = p_;
         while (q != end_ && *q != '\'' && *q != '\n' && *q != '\r') {
@@ -172,17 +177,12 @@ void TextReader::ReadString(Value* out) {
         if (q == end_ || *q != '\'') Fail(QStringLiteral("The string is not closed on its line"), open);
         if (q + 1 != end_ && q[1] == '\'') {
           ++doubledQuotes_;
-          if (out) run.append(runStart, q + 1 - runStart);
+          Charge(cost::StringPart);
+          if (out) parts.push_back({{runStart, q + 1}});
           p_ = runStart = q + 2;
           continue;
         }
-        if (out) {
-          if (run.isEmpty())
-            run = QByteArray::fromRawData(runStart, q - runStart);
-          else
-            run.append(runStart, q - runStart);
-          parts.emplace_back(false, run);
-        }
+        if (out) parts.push_back({{runStart, q}});
         p_ = q + 1;
         break;
       }
@@ -200,10 +200,10 @@ void TextReader::ReadString(Value* out) {
   *out = Value{};
   if (wide) {
     out->type = ValueType::WString;
-    for (const auto& [isCode, text] : parts) {
-      if (!isCode) {
+    for (const auto& [text, code] : parts) {
+      if (!text.isNull()) {
         out->wide += QString::fromUtf8(text).replace(QChar::ReplacementCharacter, u'?');
-      } else if (const std::uint32_t code = text.toUInt(); code > 0xFFFF) {
+      } else if (code > 0xFFFF) {
         out->wide += QChar(QChar::highSurrogate(code));
         out->wide += QChar(QChar::lowSurrogate(code));
       } else {
@@ -212,12 +212,12 @@ void TextReader::ReadString(Value* out) {
     }
     return;
   }
-  if (parts.size() == 1 && !parts[0].first) {
-    out->bytes = parts[0].second;
+  if (parts.size() == 1 && !parts[0].text.isNull()) {
+    out->bytes = QByteArray::fromRawData(parts[0].text.data(), parts[0].text.size());
   } else {
-    for (const auto& [isCode, text] : parts) {
-      if (isCode)
-        out->bytes += static_cast<char>(text.toUInt());
+    for (const auto& [text, code] : parts) {
+      if (text.isNull())
+        out->bytes += static_cast<char>(code);
       else
         out->bytes += text;
     }
@@ -256,6 +256,7 @@ void TextReader::ReadSet(Value* out) {
   for (;;) {
     SkipBlanks();
     const QByteArrayView word = Word("A set element");
+    Charge(cost::SetElement);
     if (out) out->elements.append(QByteArray::fromRawData(word.data(), word.size()));
     SkipBlanks();
     if (p_ != end_ && *p_ == ']') break;
@@ -281,6 +282,7 @@ void TextReader::ReadList(Value* out, int depth) {
       ++p_;
       return;
     }
+    Charge(cost::Element);
     Value item;
     ReadValue(out ? &item : nullptr, depth + 1);
     if (out) out->items.push_back(std::move(item));
@@ -302,6 +304,7 @@ void TextReader::ReadCollection(Value* out, int depth) {
     }
     const char* at = p_;
     if (!Is(Word("\"item\""), "item")) Fail(QStringLiteral("\"item\" or \">\" expected in a collection"), at);
+    Charge(cost::Item);
     CollectionItem item;
     SkipBlanks();
     if (p_ != end_ && *p_ == '[') {
@@ -323,6 +326,7 @@ void TextReader::ReadCollection(Value* out, int depth) {
       const QByteArrayView path = PropertyPath(word);
       Expect('=', "\"=\"");
       SkipBlanks();
+      Charge(cost::Element);
       NamedValue property;
       ReadValue(out ? &property.value : nullptr, depth + 1);
       if (out) {

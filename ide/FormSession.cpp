@@ -7,6 +7,7 @@
 #include "designintf/DesignWindow.h"
 #include "forms/FormFile.h"
 #include "ide/PendingCommand.h"
+#include "ide/PictureBudget.h"
 #include "ide/StandIns.h"
 #include "rtl/ClassRegistry.h"
 #include "rtl/Exceptions.h"
@@ -74,6 +75,7 @@ forms::FormReader FormSession::MakeReader(forms::Document& document, forms::Obje
 }
 
 void FormSession::Build() {
+  RequirePictureBudget(document_);
   map_.Clear();
   forms::FormReader reader = MakeReader(document_, map_);
   auto root = reader.ReadRoot();
@@ -124,6 +126,7 @@ DiskState FormSession::StateOnDisk() const {
 void FormSession::Write(const QString& fileName, const QByteArray* expected) {
   SettleStray();
   QByteArray bytes = Bytes();
+  RequireReadable(bytes.size());
   forms::WriteFile(fileName, bytes, expected);
   onDisk_ = std::move(bytes);
   fileName_ = fileName;

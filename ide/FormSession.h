@@ -130,6 +130,8 @@ class FormSession : public QObject, public IDesigner, public IControlHost {
   void NoteStray();
   void SettleStray();
   void Commit(const QString& text);
+  void RequireReadableAfter(const Command& command);
+  static void RequireReadable(qsizetype size);
   void Rollback();
   void Ended();
   std::unique_ptr<Command> TakeDifferences();

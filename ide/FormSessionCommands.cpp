@@ -3,6 +3,7 @@
 
 #include "designintf/DesignWindow.h"
 #include "ide/PendingCommand.h"
+#include "ide/PictureBudget.h"
 #include "rtl/Exceptions.h"
 #include "rtl/PropAccess.h"
 
@@ -26,7 +27,35 @@ void FormSession::Run(const QString& text, const std::vector<TComponent*>& touch
     Rollback();
     throw;
   }
+  const int before = position_;
   Commit(text);
+  if (position_ == before + 1) RequireReadableAfter(*commands_.back());
+}
+
+// What an edit makes, the next reading of the file takes: an edit that goes beyond is taken back.
+void FormSession::RequireReadableAfter(const Command& command) {
+  qsizetype data = 0;
+  for (const ComponentChange& c : command.components)
+    for (const forms::ValueChange& v : c.values)
+      if (v.after.type == forms::ValueType::Binary) data += v.after.bytes.size();
+  if (data == 0) return;
+  try {
+    RequirePictureBudget(document_);
+    constexpr qsizetype Large = qsizetype{1} << 20;
+    if (data > Large) RequireReadable(Bytes().size());
+  } catch (const Exception&) {
+    Undo();
+    commands_.pop_back();
+    throw;
+  }
+}
+
+void FormSession::RequireReadable(qsizetype size) {
+  if (size > forms::MaxFileSize)
+    throw Exception(
+        QStringLiteral("The form would become larger than %1 MB and could not be opened again. Use smaller "
+                       "pictures, or store them compressed.")
+            .arg(forms::MaxFileSize >> 20));
 }
 
 bool FormSession::IsLive() const { return pending_ && pending_->kind == Pending::Kind::Live; }

@@ -1,22 +1,20 @@
-// Pictures from files, for dialogs and commands.
+// Pictures from files, for dialogs and commands, and from the bytes of a form.
+//
+// Bytes come from strangers. Everything is decoded from memory by the one decoder that the first bytes ask
+// for, so that no picture can name a file or an address that would be opened.
 #pragma once
-#include "rtl/Exceptions.h"
 #include "vcl/Bitmap.h"
+#include "vcl/PictureHead.h"
 
-// A file or a stream of bytes is not a picture that can be used; the text says which, why, and what to do.
-class EInvalidPicture : public Exception {
- public:
-  using Exception::Exception;
-};
-
-// Larger pictures are refused: work on them needs several copies in memory.
-constexpr std::int64_t MaxPicturePixels = std::int64_t{8192} * 8192;
-
-// Any format the toolkit reads; the picture is turned upright when it says that it lies.
+// Any format of the list that the toolkit reads; the picture is turned upright when it says that it lies.
+// Only regular files are opened, and drawings that refer to anything outside are refused.
 TBitmap LoadPicture(const QString& file);
+// A picture that a form keeps (BMP, PNG). Throws EInvalidPicture, std::bad_alloc when memory is short.
 TBitmap PictureFromBytes(const QByteArray& bytes);
 // The same with its transparency, as QImage::Format_ARGB32 or RGB32.
 QImage ImageFromBytes(const QByteArray& bytes);
+// Any format but drawings. `what` names the picture at the start of a sentence.
+QImage PixelPictureFromBytes(const QByteArray& bytes, const QString& what);
 QByteArray PictureToBytes(const QImage& image, const char* format);
 // For file dialogs: all readable formats first, then every file.
 QString PictureFilter();

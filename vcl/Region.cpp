@@ -100,6 +100,9 @@ constexpr std::size_t RectSize = 16;
 // What the platform can draw; sums of two such numbers do not overflow.
 constexpr std::int32_t MaxCoordinate = 1 << 27;
 
+// Rectangles of a region that a form keeps: as text, its bytes take a quarter of the largest form file.
+constexpr std::size_t MaxRects = std::size_t{1} << 22;
+
 void Put(char*& to, std::int32_t v) {
   qToLittleEndian(v, to);
   to += 4;
@@ -174,6 +177,12 @@ TRegion TRegion::FromData(QByteArrayView data) {
     Refuse(QStringLiteral("%1 rectangles are announced and %2 bytes follow the header")
                .arg(count)
                .arg(size - HeaderSize));
+  if (room > MaxRects)
+    throw EInvalidRegion(
+        QStringLiteral("The region has %1 rectangles; at most %2 are kept. Make the picture smaller or "
+                       "take its noise out first.")
+            .arg(room)
+            .arg(MaxRects));
   if (bytes != 0 && bytes != count * static_cast<std::int32_t>(RectSize))
     Refuse(QStringLiteral("the header announces %1 bytes for %2 rectangles").arg(bytes).arg(count));
   from += RectSize;  // the bounds are computed anew

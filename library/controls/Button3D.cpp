@@ -34,7 +34,7 @@ void TVRXCustom3DButton::SetDown(bool v) {
 }
 
 QSize TVRXCustom3DButton::AutoSizeHint() const {
-  return face_->Empty() ? QSize(Width(), Height()) : face_->Picture(TVRXButtonState::Up).size();
+  return face_->Empty() ? QSize(Width(), Height()) : face_->Size();
 }
 
 void TVRXCustom3DButton::Paint(TCanvas& canvas) {

@@ -30,8 +30,8 @@ void TVRXRegion::SetDown(bool v) {
 }
 
 QSize TVRXRegion::AutoSizeHint() const {
-  const QImage& picture = mask_->Shown(0);
-  return picture.isNull() ? QSize(Width(), Height()) : picture.size();
+  const QSize size = mask_->ShownSize(0);
+  return size.isEmpty() ? QSize(Width(), Height()) : size;
 }
 
 void TVRXRegion::Paint(TCanvas& canvas) {

@@ -6,6 +6,7 @@
 #include "library/pixels/BevelMasks.h"
 #include "library/pixels/PixelMask.h"
 #include "rtl/Exceptions.h"
+#include "vcl/PictureHead.h"
 
 bool VRX3DEffectAbort = false;
 
@@ -172,6 +173,11 @@ class Drawing {
   BevelMasks masks;
 };
 }  // namespace
+
+void RequireButton3DSize(const QString& what, const TBitmap& source, int bevelWidth) {
+  RequirePictureSize(what, std::int64_t{source.Width()} + 2 * bevelWidth,
+                     std::int64_t{source.Height()} + 2 * bevelWidth);
+}
 
 void VRXDrawButton3D(const TBitmap& source, TBitmap& up, TBitmap& down, TBitmap& disabled, TColor transparent,
                      TColor light, TColor shadow, TColor disabledColor, TColor semiSecond, TColor semiKey,

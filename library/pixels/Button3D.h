@@ -13,6 +13,10 @@ extern bool VRX3DEffectAbort;
 // Pixels of the key colour become `colorOdd` where x + y is odd and `colorEven` elsewhere. Always true.
 bool VRXMakeBmpSemiTransparent(TBitmap& bitmap, TColor colorOdd, TColor keyColor, TColor colorEven);
 
+// Throws EInvalidPicture when the results would be larger than pictures may be; `what` names one of them at
+// the start of the sentence.
+void RequireButton3DSize(const QString& what, const TBitmap& source, int bevelWidth);
+
 // Draws the three pictures, each `bevelWidth` pixels larger than the source on every side; the content of
 // `down` is moved by one pixel right and down. With `semiTransparent`, pixels of `semiKey` become a checker
 // of the transparent colour and `semiSecond` first. A bevel width of 0 leaves only the ring of the bevel

@@ -52,6 +52,13 @@ void TVRXButtonFace::SetPictures(const TVRXMaskedPicture& up, const TVRXMaskedPi
   Changed();
 }
 
+bool TVRXButtonFace::Encode(const TGoOn& goOn) const {
+  return EncodeAll({&pictures_[0], &pictures_[1], &pictures_[2]}, goOn);
+}
+bool TVRXButtonFace::NeedsTime() const {
+  return std::any_of(pictures_.begin(), pictures_.end(), [](const auto& p) { return p.NeedsTime(); });
+}
+
 void TVRXButtonFace::Assign(const TPersistent* source) {
   const auto* face = As<TVRXButtonFace>(source);
   if (!face) return TOwnedPersistent::Assign(source);

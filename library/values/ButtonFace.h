@@ -26,7 +26,12 @@ class TVRXButtonFace : public TOwnedPersistent {
   }
   void SetPictures(const TVRXMaskedPicture& up, const TVRXMaskedPicture& down,
                    const TVRXMaskedPicture& disabled);
-  bool Empty() const { return Picture(TVRXButtonState::Up).isNull(); }
+  bool Empty() const { return pictures_[0].Empty(); }
+  // Of the picture, without decoding it.
+  QSize Size() const { return pictures_[0].Size(); }
+  // Makes what is stored, as StoredPicture does.
+  bool Encode(const TGoOn& goOn) const;
+  bool NeedsTime() const;
   void Assign(const TPersistent* source) override;
 
  private:

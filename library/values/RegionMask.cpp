@@ -74,12 +74,17 @@ void TVRXRegionMask::StorageChanged() {
   Changed();
 }
 
+QSize TVRXRegionMask::ShownSize(int state) const {
+  if (region_.Empty()) return {};
+  return states_[state].Empty() ? border_.Size() : states_[state].Size();
+}
+
 const QImage& TVRXRegionMask::Shown(int state) const {
   QImage& shown = shown_[state];
   if (std::exchange(shownValid_[state], true)) return shown;
-  const QImage& picture = StatePicture(state).isNull() ? BorderPicture() : StatePicture(state);
   shown = QImage();
-  if (picture.isNull() || region_.Empty()) return shown;
+  if (ShownSize(state).isEmpty()) return shown;
+  const QImage& picture = states_[state].Empty() ? BorderPicture() : StatePicture(state);
   const QImage source = picture.convertToFormat(QImage::Format_ARGB32_Premultiplied);
   shown = QImage(source.size(), QImage::Format_ARGB32_Premultiplied);
   shown.fill(Qt::transparent);

@@ -35,6 +35,12 @@ class TVRXRegionMask : public TOwnedPersistent {
   // What a control shows: the picture of the state or, without one, the border picture, transparent outside
   // of the region. Null when there is no region or no picture. Made once and kept until something changes.
   const QImage& Shown(int state) const;
+  // The size of Shown, without decoding anything; empty when that is null.
+  QSize ShownSize(int state) const;
+
+  // Makes what is stored, as StoredPicture does.
+  bool Encode(const TGoOn& goOn) const { return EncodeAll({&border_, &states_[0], &states_[1]}, goOn); }
+  bool NeedsTime() const { return border_.NeedsTime() || states_[0].NeedsTime() || states_[1].NeedsTime(); }
 
   void Assign(const TPersistent* source) override;
 

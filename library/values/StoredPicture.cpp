@@ -50,32 +50,58 @@ QImage Reduced(const QImage& image, TVRXColorDepth depth) {
 }
 }  // namespace
 
-void StoredPicture::Refresh() const {
-  if (!stale_) return;
-  stale_ = false;
+void StoredPicture::Decode() const {
+  if (decoded_ || Empty()) return;
+  full_ = shown_ = ImageFromBytes(bytes_);
+  decoded_ = true;
+}
+
+void StoredPicture::Reduce() const {
+  Decode();
+  if (std::exchange(reduced_, true)) return;
   shown_ = full_.isNull() ? QImage() : Reduced(full_, depth_);
-  bytes_ = PictureToBytes(shown_, compress_ || shown_.hasAlphaChannel() ? "PNG" : "BMP");
 }
 
 const QImage& StoredPicture::Image() const {
-  Refresh();
+  Reduce();
   return shown_;
 }
 
+bool StoredPicture::Encode(const TGoOn& goOn) const {
+  if (!stale_) return true;
+  Reduce();
+  const bool png = compress_ || shown_.hasAlphaChannel();
+  if (png && IsLargePicture(size_)) {
+    const QByteArray bytes = LargePng(shown_, goOn);
+    if (bytes.isEmpty()) return false;
+    bytes_ = bytes;
+  } else {
+    bytes_ = PictureToBytes(shown_, png ? "PNG" : "BMP");
+  }
+  stale_ = false;
+  return true;
+}
+
 QByteArray StoredPicture::Bytes() const {
-  Refresh();
+  Encode({});
   return bytes_;
 }
 
 void StoredPicture::SetImage(const QImage& image) {
+  RequirePictureSize(QStringLiteral("The picture"), image.width(), image.height());
   full_ = image;
+  size_ = image.size();
+  decoded_ = true;
+  reduced_ = false;
   stale_ = true;
 }
 
 void StoredPicture::SetBytes(const QByteArray& bytes) {
-  full_ = bytes.isEmpty() ? QImage() : ImageFromBytes(bytes);
-  shown_ = full_;
+  size_ = bytes.isEmpty() ? QSize() : ImageFromBytes(bytes).size();
+  full_ = shown_ = QImage();
   bytes_ = bytes;
+  decoded_ = false;
+  reduced_ = true;
   stale_ = false;
 }
 
@@ -83,5 +109,17 @@ void StoredPicture::SetStorage(bool compress, TVRXColorDepth depth) {
   if (compress == compress_ && depth == depth_) return;
   compress_ = compress;
   depth_ = depth;
-  stale_ = !full_.isNull();
+  reduced_ = Empty();
+  stale_ = !Empty();
+}
+
+bool EncodeAll(std::initializer_list<const StoredPicture*> pictures, const TGoOn& goOn) {
+  const int count = static_cast<int>(pictures.size());
+  int before = 0;
+  for (const StoredPicture* picture : pictures) {
+    const TGoOn part = [&](int percent) { return goOn((before * 100 + percent) / count); };
+    if (!picture->Encode(goOn ? part : TGoOn())) return false;
+    ++before;
+  }
+  return true;
 }

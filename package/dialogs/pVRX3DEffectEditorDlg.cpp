@@ -189,6 +189,7 @@ void TVRX3DEffectEditorDlg::EXECUTEClick() {
                      tr("There is nothing to work on yet. Please choose a picture or a caption first."));
     return;
   }
+  RequireButton3DSize(tr("With a bevel of %1, each of the pictures").arg(bevelWidth), source, bevelWidth);
   const auto settings = [this](bool enabled) {
     for (QWidget* widget : settings_) widget->setEnabled(enabled);
   };

@@ -311,8 +311,8 @@ void TVRXfrmRegionFromBMPdlg::BuildButtonClick() {
                                      &progress)
                  : BuildWindowRegion(picture, transparent, static_cast<TRegionBorder>(cb->currentIndex()),
                                      &progress);
+  mask->SetRegionData(build.RegionData());  // refused before anything else when there is too much of it
   mask->BeginUpdate();
-  mask->SetRegionData(build.RegionData());
   mask->SetBorderPicture(build.Border);
   if (buttonFace) {
     mask->SetStatePicture(0, build.First);

@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QCheckBox>
+#include <QProgressDialog>
 
 #include "package/dialogs/pVRX3DEffectEditorDlg.h"
 #include "package/dialogs/pVRXBmpRegionEditorDlg.h"
@@ -11,6 +12,20 @@
 namespace {
 // The dialogs of the application belong to the window that the user is in.
 QWidget* ApplicationOwner() { return QApplication::activeWindow(); }
+
+// Large pictures take their time to be compressed. That is shown, and can be cancelled: then nothing changes.
+template <class TValue>
+bool Encoded(const TValue& value) {
+  if (!value.NeedsTime()) return true;
+  QProgressDialog progress(QObject::tr("The pictures are being compressed..."), QObject::tr("Cancel"), 0, 100,
+                           ApplicationOwner());
+  progress.setWindowModality(Qt::ApplicationModal);
+  progress.setMinimumDuration(0);
+  return value.Encode([&](int percent) {
+    progress.setValue(percent);
+    return !progress.wasCanceled();
+  });
+}
 }  // namespace
 
 bool VRXCPGetButtonFace3D(TVRXCustom3DButton& button) {
@@ -25,9 +40,12 @@ bool VRXCPGetButtonFace3D(TVRXCustom3DButton& button) {
   std::copy_n(bitmaps, 4, dialog.bitmaps);
   if (dialog.ShowModal() != mrOk || original.Empty()) return false;
   const TColor transparent = original.Pixel(0, original.Height() - 1);
-  button.BeginUpdate();
-  button.Set3DPics(VRXBmpCreateMasksExt(up, transparent), VRXBmpCreateMasksExt(down, transparent),
+  TVRXButtonFace face;
+  face.SetPictures(VRXBmpCreateMasksExt(up, transparent), VRXBmpCreateMasksExt(down, transparent),
                    VRXBmpCreateMasksExt(disabled, transparent));
+  if (!Encoded(face)) return false;
+  button.BeginUpdate();
+  button.SetButtonFace(&face);
   button.SetBounds(button.Left(), button.Top(), up.Width(), up.Height());
   button.EndUpdate();
   return true;
@@ -58,6 +76,7 @@ bool VRXCPGetRegionMask(TVRXRegionMask& mask, bool window) {
   if (!window) dialog.SetButtonFace();
   dialog.SetLabels();
   if (dialog.ShowModal() != mrOk) return false;
+  if (!Encoded(*dialog.mask)) return false;
   mask.Assign(dialog.mask.get());
   return true;
 }

@@ -1,4 +1,6 @@
 // Making button pictures and window shapes without a display.
+#include <sys/stat.h>
+
 #include <QDir>
 #include <QImage>
 #include <QJsonArray>
@@ -8,6 +10,7 @@
 #include "CliTest.h"
 #include "library/pixels/Button3D.h"
 #include "library/pixels/RegionFromBitmap.h"
+#include "tests/support/PictureBytes.h"
 #include "vcl/PictureFile.h"
 
 namespace {
@@ -159,4 +162,33 @@ TEST_F(PixelCommands, AFileThatIsNoPictureIsNamed) {
   EXPECT_EQ(r.code, ExitFindings);
   EXPECT_TRUE(r.err.contains(text.fileName())) << r.err.toStdString();
   EXPECT_FALSE(QFile::exists(File(S("u.png"))));
+}
+
+TEST_F(PixelCommands, Effect3DRefusesResultsThatCouldNotBeReadAgain) {
+  QImage line(6'200'000, 1, QImage::Format_Mono);
+  line.fill(1);
+  const QString source = File(S("line.bmp"));
+  ASSERT_TRUE(line.save(source));
+  const QStringList run{S("effect3d"), source, S("--up"), File(S("u.png")), S("--width"), S("5")};
+  const Result r = Vrx(run);
+  EXPECT_EQ(r.code, ExitFindings);
+  EXPECT_TRUE(r.err.contains(S("bevel of 5")) && r.err.contains(S("6200010 x 11"))) << r.err.toStdString();
+  EXPECT_FALSE(QFile::exists(File(S("u.png"))));
+}
+
+TEST_F(PixelCommands, SourcesThatReferOutsideOrAreNoFilesAreRefused) {
+  QFile svg(File(S("a.svg")));
+  ASSERT_TRUE(svg.open(QIODevice::WriteOnly));
+  svg.write(SvgImage("other.png"));
+  svg.close();
+  ASSERT_EQ(mkfifo(QFile::encodeName(File(S("pipe.png"))).constData(), 0600), 0);
+  const std::pair<const char*, const char*> cases[] = {{"a.svg", "outside"}, {"pipe.png", "pipe"}};
+  for (const auto& [name, text] : cases) {
+    const Result effect = Vrx({S("effect3d"), File(S(name)), S("--up"), File(S("u.png"))});
+    EXPECT_EQ(effect.code, ExitFindings);
+    EXPECT_TRUE(effect.err.contains(S(text))) << effect.err.toStdString();
+    const Result region = Vrx({S("region"), File(S(name)), S("--transparent"), S("clRed"), S("--json")});
+    EXPECT_EQ(region.code, ExitFindings);
+    EXPECT_TRUE(region.err.contains(S(text))) << region.err.toStdString();
+  }
 }

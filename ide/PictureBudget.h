@@ -1,0 +1,9 @@
+// What the pictures of a form may cost, asked before any of them is decoded.
+#pragma once
+#include "ide/FormSession.h"
+
+// Throws EFormError with the place of the picture that is one too many.
+void RequirePictureBudget(const forms::Document& document);
+// For whoever only shows the form or reads values from it: throws Exception with file and place when a
+// picture or other data of it was refused.
+void RequireAllData(const FormSession& session);
