@@ -24,6 +24,9 @@ class TVRXRegionMask : public TOwnedPersistent {
   // Null without a picture. State 0 and 1 are a button's, up and down.
   const QImage& BorderPicture() const { return border_.Image(); }
   const QImage& StatePicture(int state) const { return states_[state].Image(); }
+  // The same with all the colours that are known of them, whatever the depth leaves.
+  const QImage& FullBorderPicture() const { return border_.FullImage(); }
+  const QImage& FullStatePicture(int state) const { return states_[state].FullImage(); }
   void SetBorderPicture(const TBitmap& picture);
   void SetStatePicture(int state, const TBitmap& picture);
 

@@ -1,87 +1,45 @@
 #include "library/values/StoredPicture.h"
 
-#include "library/values/RegionMask.h"
+#include "library/values/ColorDepth.h"
 #include "vcl/PictureFile.h"
 
-namespace {
-// To the nearest of a few levels of each channel; doing it twice changes nothing more.
-QImage Quantized(const QImage& image, int redLevels, int greenLevels, int blueLevels) {
-  QImage result =
-      image.convertToFormat(image.hasAlphaChannel() ? QImage::Format_ARGB32 : QImage::Format_RGB32);
-  const auto nearest = [](int value, int levels) {
-    const int step = (value * (levels - 1) + 127) / 255;
-    return step * 255 / (levels - 1);
-  };
-  for (int y = 0; y < result.height(); ++y) {
-    auto* row = reinterpret_cast<QRgb*>(result.scanLine(y));
-    for (int x = 0; x < result.width(); ++x)
-      row[x] = qRgba(nearest(qRed(row[x]), redLevels), nearest(qGreen(row[x]), greenLevels),
-                     nearest(qBlue(row[x]), blueLevels), qAlpha(row[x]));
-  }
-  return result;
-}
-
-QImage Mono(const QImage& image) {
-  QImage result =
-      image.convertToFormat(image.hasAlphaChannel() ? QImage::Format_ARGB32 : QImage::Format_RGB32);
-  for (int y = 0; y < result.height(); ++y) {
-    auto* row = reinterpret_cast<QRgb*>(result.scanLine(y));
-    for (int x = 0; x < result.width(); ++x) {
-      const int v = qGray(row[x]) < 128 ? 0 : 255;
-      row[x] = qRgba(v, v, v, qAlpha(row[x]));
-    }
-  }
-  return result;
-}
-
-QImage Reduced(const QImage& image, TVRXColorDepth depth) {
-  switch (depth) {
-    case TVRXColorDepth::spfMono:
-      return Mono(image);
-    case TVRXColorDepth::spf4bit:
-      return Quantized(image, 2, 4, 2);
-    case TVRXColorDepth::spf8bit:
-      return Quantized(image, 8, 8, 4);
-    case TVRXColorDepth::spf16bit:
-      return Quantized(image, 32, 64, 32);
-    default:
-      return image;
-  }
-}
-}  // namespace
-
-void StoredPicture::Refresh() const {
-  if (!stale_) return;
-  stale_ = false;
-  shown_ = full_.isNull() ? QImage() : Reduced(full_, depth_);
-  bytes_ = PictureToBytes(shown_, compress_ || shown_.hasAlphaChannel() ? "PNG" : "BMP");
-}
-
 const QImage& StoredPicture::Image() const {
-  Refresh();
+  if (shownStale_) {
+    shown_ = full_.isNull() ? QImage() : WithDepth(full_, depth_);
+    shownStale_ = false;
+  }
   return shown_;
 }
 
+// Made only when they are asked for: whoever looks at a picture need not wait for its file.
 QByteArray StoredPicture::Bytes() const {
-  Refresh();
+  if (bytesStale_) {
+    const QImage& image = Image();
+    if (image.isNull())
+      bytes_.clear();
+    else
+      bytes_ =
+          compress_ || image.hasAlphaChannel() ? PictureToBytes(image, "PNG") : BitmapOfDepth(image, depth_);
+    bytesStale_ = false;
+  }
   return bytes_;
 }
 
 void StoredPicture::SetImage(const QImage& image) {
   full_ = image;
-  stale_ = true;
+  shownStale_ = bytesStale_ = true;
 }
 
 void StoredPicture::SetBytes(const QByteArray& bytes) {
-  full_ = bytes.isEmpty() ? QImage() : ImageFromBytes(bytes);
+  full_ = bytes.isEmpty() ? QImage() : WithFullLevels(ImageFromBytes(bytes), bytes);
   shown_ = full_;
   bytes_ = bytes;
-  stale_ = false;
+  shownStale_ = bytesStale_ = false;
 }
 
 void StoredPicture::SetStorage(bool compress, TVRXColorDepth depth) {
   if (compress == compress_ && depth == depth_) return;
   compress_ = compress;
   depth_ = depth;
-  stale_ = !full_.isNull();
+  shownStale_ = bytesStale_ = !full_.isNull();
 }

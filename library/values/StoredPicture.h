@@ -11,8 +11,11 @@ class StoredPicture {
  public:
   // As it is shown: with the colours that the way of storing leaves. Null when there is no picture.
   const QImage& Image() const;
+  // With all the colours that are known of it.
+  const QImage& FullImage() const { return full_; }
   void SetImage(const QImage& image);
-  // BMP, or PNG when compressed or transparent. Empty when there is no picture.
+  // BMP with the bits that the depth has, or PNG when compressed or transparent. Empty when there is no
+  // picture.
   QByteArray Bytes() const;
   // Throws EInvalidPicture and changes nothing when they are not a picture.
   void SetBytes(const QByteArray& bytes);
@@ -22,8 +25,7 @@ class StoredPicture {
   QImage full_;  // before any reduction
   mutable QImage shown_;
   mutable QByteArray bytes_;
-  mutable bool stale_ = false;  // shown_ and bytes_ do not belong to full_ yet
+  mutable bool shownStale_ = false, bytesStale_ = false;  // they do not belong to full_ yet
   bool compress_ = false;
   TVRXColorDepth depth_{};
-  void Refresh() const;
 };
