@@ -1,7 +1,15 @@
 #include "library_design/Named.h"
 
 #include <QApplication>
+#include <QLabel>
 #include <QPainter>
+
+QLabel* QuietLine(QWidget* parent, const char* name) {
+  auto* line = Named(new QLabel(parent), name, "");
+  line->setForegroundRole(QPalette::PlaceholderText);
+  line->setMinimumHeight(line->fontMetrics().height());
+  return line;
+}
 
 QIcon FontFxIcon() {
   QIcon icon;

@@ -17,6 +17,11 @@ void ZoomBox::ShowPart(const TBitmap& picture, QPoint origin) {
   update();
 }
 
+void ZoomBox::Clear() {
+  filled_ = false;
+  update();
+}
+
 QRect ZoomBox::CellRect(int column, int row) const {
   const auto edge = [](int index, int side) { return index * side / Cells; };
   return {QPoint(edge(column, width()), edge(row, height())),
