@@ -19,6 +19,8 @@ class TVRXRegionMask : public TOwnedPersistent {
   // Throws EInvalidRegion for bytes that are not region data, and changes nothing then.
   void SetRegionData(const QByteArray& data);
   const TRegion& Region() const { return region_; }
+  // The same without going through bytes; an empty one is no region.
+  void SetRegion(TRegion region);
   bool HasRegion() const { return !regionData_.isEmpty(); }
 
   // Null without a picture. State 0 and 1 are a button's, up and down.

@@ -53,6 +53,18 @@ TEST(RegionMask, DownShowsTheSecondState) {
   EXPECT_EQ(Painted(control).pixel(4, 4), qRgb(0, 0, 255));
 }
 
+TEST(RegionMask, ARegionIsTheSameAsItsData) {
+  const TRegion region = TRegion(TRect{1, 2, 5, 9}).United(TRegion(TRect{7, 4, 8, 20}));
+  TVRXRegionMask mask, other;
+  mask.SetRegion(region);
+  other.SetRegionData(region.ToData());
+  EXPECT_EQ(mask.RegionData(), other.RegionData());
+  EXPECT_EQ(mask.Region(), other.Region());
+  mask.SetRegion({});
+  EXPECT_FALSE(mask.HasRegion());
+  EXPECT_TRUE(mask.Region().Empty());
+}
+
 TEST(RegionMask, CorruptRegionDataIsRefusedAndNothingChanges) {
   TVRXRegionMask mask;
   Fill(mask, Block(clRed));
