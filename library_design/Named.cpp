@@ -6,7 +6,6 @@
 
 QLabel* QuietLine(QWidget* parent, const char* name) {
   auto* line = Named(new QLabel(parent), name, "");
-  line->setForegroundRole(QPalette::PlaceholderText);
   line->setMinimumHeight(line->fontMetrics().height());
   return line;
 }

@@ -14,8 +14,7 @@ W* Named(W* widget, const char* name, const char* hint) {
   return widget;
 }
 
-// A line that says something about what is shown, in a quiet colour. Its room stays when it says nothing, so
-// that nothing jumps.
+// A line that says something about what is shown. Its room stays when it says nothing, so that nothing jumps.
 QLabel* QuietLine(QWidget* parent, const char* name);
 
 // A letter with a shadow, for buttons that open font effects.

@@ -39,7 +39,8 @@ std::optional<TColor> ZoomBox::ColorAt(QPoint place) const {
 
 void ZoomBox::paintEvent(QPaintEvent*) {
   QPainter p(this);
-  p.fillRect(rect(), palette().color(QPalette::Base));
+  // Empty, it is a part of the dialog; only what it shows has colours of its own.
+  p.fillRect(rect(), parentWidget()->palette().color(QPalette::Base));
   for (int row = 0; filled_ && row < Cells; ++row)
     for (int column = 0; column < Cells; ++column)
       p.fillRect(CellRect(column, row),

@@ -218,6 +218,7 @@ void TVRX3DEffectEditorDlg::EXECUTEClick() {
   Ok->setEnabled(false);
   cmbState->setEnabled(false);
   settings(false);
+  ShowNote();
   VRX3DEffectAbort = false;
   setWindowTitle(QStringLiteral("Please wait - effect is being generated..."));
   const TColor transparent = source.Pixel(0, source.Height() - 1);
@@ -256,8 +257,8 @@ bool TVRX3DEffectEditorDlg::ResultsAreOlder() const {
 }
 
 void TVRX3DEffectEditorDlg::ShowNote() {
-  note->setText(ResultsAreOlder() ? tr("Older than the settings; Execute makes it anew.")
-                : nothingToDo_    ? tr("There is no picture or caption to work on yet.")
+  note->setText(ResultsAreOlder() ? tr("Older than the settings")
+                : nothingToDo_    ? tr("No picture or caption yet")
                                   : QString());
 }
 

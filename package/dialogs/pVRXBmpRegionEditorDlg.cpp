@@ -204,6 +204,7 @@ void TVRXfrmRegionFromBMPdlg::FormCreate() {
   ApplyIDETheme(*this, [this](const QWidget& control) {
     return &control != Image1 && &control != Result && &control != zoom && &control != cc;
   });
+  ShowColor(std::nullopt);
 }
 
 void TVRXfrmRegionFromBMPdlg::SetButtonFace() {
@@ -301,8 +302,7 @@ void TVRXfrmRegionFromBMPdlg::zoomMouseMove(QPoint place) { ShowColor(zoom->Colo
 
 void TVRXfrmRegionFromBMPdlg::ShowColor(std::optional<TColor> color) {
   QPalette palette = cc->palette();
-  palette.setColor(QPalette::Window,
-                   color ? ToQColor(*color) : QApplication::palette().color(QPalette::Window));
+  palette.setColor(QPalette::Window, color ? ToQColor(*color) : this->palette().color(QPalette::Window));
   palette.setColor(QPalette::WindowText, Readable(palette.color(QPalette::Window)));
   cc->setPalette(palette);
   cc->setText(color ? ColorToString(*color) : QString());
@@ -371,12 +371,13 @@ void TVRXfrmRegionFromBMPdlg::BuildButtonClick() {
   // Nothing may change under the run, and half a mask is not to be confirmed.
   pages->setEnabled(false);
   OKButton->setEnabled(false);
+  ShowNote();
   Progress->SetPercent(0);
   Progress->show();
   try {
-    const TRegionBuild build = Build();
+    TRegionBuild build = Build();
     mask->BeginUpdate();
-    mask->SetRegionData(build.RegionData());
+    mask->SetRegion(std::move(build.Region).value_or(TRegion()));
     mask->SetBorderPicture(build.Border);
     if (buttonFace) {
       mask->SetStatePicture(0, build.First);
