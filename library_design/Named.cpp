@@ -1,7 +1,14 @@
 #include "library_design/Named.h"
 
 #include <QApplication>
+#include <QLabel>
 #include <QPainter>
+
+QLabel* QuietLine(QWidget* parent, const char* name) {
+  auto* line = Named(new QLabel(parent), name, "");
+  line->setMinimumHeight(line->fontMetrics().height());
+  return line;
+}
 
 QIcon FontFxIcon() {
   QIcon icon;

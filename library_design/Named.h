@@ -3,6 +3,9 @@
 #include <QIcon>
 #include <QString>
 
+class QLabel;
+class QWidget;
+
 // A control with the name it is known by and its hint.
 template <class W>
 W* Named(W* widget, const char* name, const char* hint) {
@@ -10,6 +13,9 @@ W* Named(W* widget, const char* name, const char* hint) {
   widget->setToolTip(QString::fromLatin1(hint));
   return widget;
 }
+
+// A line that says something about what is shown. Its room stays when it says nothing, so that nothing jumps.
+QLabel* QuietLine(QWidget* parent, const char* name);
 
 // A letter with a shadow, for buttons that open font effects.
 QIcon FontFxIcon();

@@ -32,6 +32,7 @@ class RunProgress : public IVRXProgress {
   static void SetInterval(std::int64_t milliseconds);
   void Report(int percent, std::int64_t times) override;
   void ProcessMessages(std::int64_t times) override;
+  std::int64_t Unwatched(std::int64_t times) const override;
 
  private:
   TVRXProgressBar& bar_;

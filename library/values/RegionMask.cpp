@@ -30,6 +30,15 @@ void TVRXRegionMask::SetRegionData(const QByteArray& data) {
   Changed();
 }
 
+void TVRXRegionMask::SetRegion(TRegion region) {
+  QByteArray data = region.Empty() ? QByteArray() : region.ToData();
+  if (data == regionData_) return;
+  Changing();
+  region_ = std::move(region);
+  regionData_ = std::move(data);
+  Changed();
+}
+
 void TVRXRegionMask::SetBorderPicture(const TBitmap& picture) {
   Changing();
   border_.SetImage(picture.Image());

@@ -19,11 +19,16 @@ class TVRXRegionMask : public TOwnedPersistent {
   // Throws EInvalidRegion for bytes that are not region data, and changes nothing then.
   void SetRegionData(const QByteArray& data);
   const TRegion& Region() const { return region_; }
+  // The same without going through bytes; an empty one is no region.
+  void SetRegion(TRegion region);
   bool HasRegion() const { return !regionData_.isEmpty(); }
 
   // Null without a picture. State 0 and 1 are a button's, up and down.
   const QImage& BorderPicture() const { return border_.Image(); }
   const QImage& StatePicture(int state) const { return states_[state].Image(); }
+  // The same with all the colours that are known of them, whatever the depth leaves.
+  const QImage& FullBorderPicture() const { return border_.FullImage(); }
+  const QImage& FullStatePicture(int state) const { return states_[state].FullImage(); }
   void SetBorderPicture(const TBitmap& picture);
   void SetStatePicture(int state, const TBitmap& picture);
 

@@ -1,70 +1,28 @@
 #include "library/values/StoredPicture.h"
 
-#include "library/values/RegionMask.h"
+#include "library/values/ColorDepth.h"
 #include "vcl/PictureFile.h"
-
-namespace {
-// To the nearest of a few levels of each channel; doing it twice changes nothing more.
-QImage Quantized(const QImage& image, int redLevels, int greenLevels, int blueLevels) {
-  QImage result =
-      image.convertToFormat(image.hasAlphaChannel() ? QImage::Format_ARGB32 : QImage::Format_RGB32);
-  const auto nearest = [](int value, int levels) {
-    const int step = (value * (levels - 1) + 127) / 255;
-    return step * 255 / (levels - 1);
-  };
-  for (int y = 0; y < result.height(); ++y) {
-    auto* row = reinterpret_cast<QRgb*>(result.scanLine(y));
-    for (int x = 0; x < result.width(); ++x)
-      row[x] = qRgba(nearest(qRed(row[x]), redLevels), nearest(qGreen(row[x]), greenLevels),
-                     nearest(qBlue(row[x]), blueLevels), qAlpha(row[x]));
-  }
-  return result;
-}
-
-QImage Mono(const QImage& image) {
-  QImage result =
-      image.convertToFormat(image.hasAlphaChannel() ? QImage::Format_ARGB32 : QImage::Format_RGB32);
-  for (int y = 0; y < result.height(); ++y) {
-    auto* row = reinterpret_cast<QRgb*>(result.scanLine(y));
-    for (int x = 0; x < result.width(); ++x) {
-      const int v = qGray(row[x]) < 128 ? 0 : 255;
-      row[x] = qRgba(v, v, v, qAlpha(row[x]));
-    }
-  }
-  return result;
-}
-
-QImage Reduced(const QImage& image, TVRXColorDepth depth) {
-  switch (depth) {
-    case TVRXColorDepth::spfMono:
-      return Mono(image);
-    case TVRXColorDepth::spf4bit:
-      return Quantized(image, 2, 4, 2);
-    case TVRXColorDepth::spf8bit:
-      return Quantized(image, 8, 8, 4);
-    case TVRXColorDepth::spf16bit:
-      return Quantized(image, 32, 64, 32);
-    default:
-      return image;
-  }
-}
-}  // namespace
 
 void StoredPicture::Decode() const {
   if (decoded_ || Empty()) return;
-  full_ = shown_ = ImageFromBytes(bytes_);
+  full_ = shown_ = WithFullLevels(ImageFromBytes(bytes_), bytes_);
   decoded_ = true;
 }
 
 void StoredPicture::Reduce() const {
   Decode();
   if (std::exchange(reduced_, true)) return;
-  shown_ = full_.isNull() ? QImage() : Reduced(full_, depth_);
+  shown_ = full_.isNull() ? QImage() : WithDepth(full_, depth_);
 }
 
 const QImage& StoredPicture::Image() const {
   Reduce();
   return shown_;
+}
+
+const QImage& StoredPicture::FullImage() const {
+  Decode();
+  return full_;
 }
 
 bool StoredPicture::Encode(const TGoOn& goOn) const {
@@ -76,7 +34,7 @@ bool StoredPicture::Encode(const TGoOn& goOn) const {
     if (bytes.isEmpty()) return false;
     bytes_ = bytes;
   } else {
-    bytes_ = PictureToBytes(shown_, png ? "PNG" : "BMP");
+    bytes_ = png ? PictureToBytes(shown_, "PNG") : BitmapOfDepth(shown_, depth_);
   }
   stale_ = false;
   return true;

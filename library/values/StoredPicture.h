@@ -13,12 +13,15 @@ class StoredPicture {
  public:
   // As it is shown: with the colours that the way of storing leaves. Null when there is no picture.
   const QImage& Image() const;
+  // With all the colours that are known of it.
+  const QImage& FullImage() const;
   // Both without decoding anything.
   bool Empty() const { return size_.isEmpty(); }
   QSize Size() const { return size_; }
   // Throws EInvalidPicture and changes nothing when it is larger than what can be read again.
   void SetImage(const QImage& image);
-  // BMP, or PNG when compressed or transparent. Empty when there is no picture.
+  // BMP with the bits that the depth has, or PNG when compressed or transparent. Empty when there is no
+  // picture.
   QByteArray Bytes() const;
   // Makes the bytes now instead of when somebody asks for them, which can take seconds for a large picture.
   // False when `goOn` ended it.

@@ -78,6 +78,32 @@ QSize TextSize(const QString& text, const TVRXFxCaption& fx, const TFont& font, 
       .boundingRect(QRect(0, 0, width > 0 ? width : 32000, 32000), qtFlags & ~Qt::AlignHorizontal_Mask, text)
       .size();
 }
+// How far letters reach beyond the room that their lines take, to the left and to the right; slanted ones do.
+struct Overhang {
+  int left = 0, right = 0;
+  int Both() const { return left + right; }
+};
+Overhang OverhangOf(const QString& text, const TVRXFxCaption& fx, const TFont& font, unsigned flags) {
+  // The letters as they are drawn.
+  QString letters;
+  for (qsizetype i = 0; i < text.size(); ++i) {
+    QChar letter = text[i];
+    if (letter == u'&' && !(flags & tfNoPrefix)) {
+      if (++i == text.size()) break;
+      letter = text[i];
+    }
+    const bool gap = letter == u'\t' || (letter == u'\n' && flags & tfSingleLine);
+    letters += gap ? QChar(u' ') : letter;
+  }
+  const QFontMetricsF metrics(FontOf(fx, font));
+  qreal left = 0, right = 0;
+  for (const QString& line : letters.split(u'\n')) {
+    const QRectF ink = metrics.tightBoundingRect(line);
+    left = std::max(left, -ink.left());
+    right = std::max(right, ink.right() - metrics.horizontalAdvance(line));
+  }
+  return {static_cast<int>(std::ceil(left)), static_cast<int>(std::ceil(right))};
+}
 }  // namespace
 
 QRect VRXDrawTextCalcExt(const QString& text, const TVRXFxCaption& fx, const TFont& font, bool multiLine,
@@ -85,10 +111,13 @@ QRect VRXDrawTextCalcExt(const QString& text, const TVRXFxCaption& fx, const TFo
   if (text.isEmpty()) return {};
   const double angle = AngleOf(fx, font);
   const Reach reach = ReachOf(fx);
-  const unsigned flags =
-      tfExpandTabs | (multiLine && angle == 0 ? unsigned{tfWordBreak} : unsigned{tfSingleLine});
+  const bool single = !multiLine || fx.Angle() != 0 || angle != 0;
+  const unsigned flags = tfExpandTabs | (single ? unsigned{tfSingleLine} : unsigned{tfWordBreak}) |
+                         (fx.Angle() > 0 ? unsigned{tfNoPrefix} : 0u);
   const int room = maxWidth > 0 ? std::max(1, maxWidth - reach.before - reach.after) : 0;
-  const QSizeF size = Turned(TextSize(text, fx, font, QtFlags(flags), room), angle);
+  const QSize lines = TextSize(text, fx, font, QtFlags(flags), room);
+  if (lines.width() == 0) return {};
+  const QSizeF size = Turned(lines + QSize(OverhangOf(text, fx, font, flags).Both(), 0), angle);
   const int more = reach.before + reach.after;
   return {0, 0, static_cast<int>(std::ceil(size.width() - 1e-6)) + more,
           static_cast<int>(std::ceil(size.height() - 1e-6)) + more};
@@ -102,14 +131,17 @@ void VRXDrawTextExt(TCanvas& canvas, const QString& text, const TVRXFxCaption& f
   if (angle != 0) flags |= tfSingleLine;
   const Reach reach = ReachOf(fx);
   const QRect room = rect.adjusted(reach.before, reach.before, -reach.after, -reach.after);
-  const int qtFlags = QtFlags(flags);
+  int qtFlags = QtFlags(flags);
   const int more = reach.before + reach.after;
+  // What was measured has room for letters that overhang; elsewhere lines stand where their room is.
+  const bool measured = options.Contains(TVRXTextOption::Measured) && calculated.isValid();
+  const Overhang over = measured ? OverhangOf(text, fx, font, flags) : Overhang();
+  if (measured) qtFlags |= Qt::TextDontClip;
   // The text as it lies before it is turned, and the outline it has then.
-  const bool measured = options.Contains(TVRXTextOption::Measured) && angle == 0 && calculated.isValid();
-  const QSize size =
-      measured ? calculated.size() - QSize(more, more)
-               : TextSize(text, fx, font, qtFlags, flags & tfSingleLine ? 0 : std::max(1, room.width()));
-  const QSizeF outline = Turned(size, angle);
+  const QSize size = measured && angle == 0 ? calculated.size() - QSize(more + over.Both(), more)
+                                            : TextSize(text, fx, font, qtFlags,
+                                                       flags & tfSingleLine ? 0 : std::max(1, room.width()));
+  const QSizeF outline = Turned(size + QSize(over.Both(), 0), angle);
   const auto place = [](double from, double space, double taken, bool centre, bool end) {
     return from + (centre ? (space - taken) / 2 : end ? space - taken : 0);
   };
@@ -129,8 +161,9 @@ void VRXDrawTextExt(TCanvas& canvas, const QString& text, const TVRXFxCaption& f
     p.setPen(layer.color);
     const double offset = layer.offset;
     if (angle == 0) {
-      const QRect box(QPoint(static_cast<int>(std::floor(at.x())), static_cast<int>(std::floor(at.y()))),
-                      size);
+      const QRect box(
+          QPoint(static_cast<int>(std::floor(at.x())) + over.left, static_cast<int>(std::floor(at.y()))),
+          size);
       p.drawText(box.translated(layer.offset, layer.offset), qtFlags, shown);
       continue;
     }
@@ -138,7 +171,8 @@ void VRXDrawTextExt(TCanvas& canvas, const QString& text, const TVRXFxCaption& f
     p.setRenderHint(QPainter::Antialiasing);
     p.translate(at.x() + outline.width() / 2 + offset, at.y() + outline.height() / 2 + offset);
     p.rotate(-angle);
-    p.drawText(QRectF(QPointF(-size.width() / 2.0, -size.height() / 2.0), size), qtFlags, shown);
+    p.drawText(QRectF(QPointF((over.left - over.right - size.width()) / 2.0, -size.height() / 2.0), size),
+               qtFlags, shown);
     p.restore();
   }
   p.restore();

@@ -17,6 +17,11 @@ void ZoomBox::ShowPart(const TBitmap& picture, QPoint origin) {
   update();
 }
 
+void ZoomBox::Clear() {
+  filled_ = false;
+  update();
+}
+
 QRect ZoomBox::CellRect(int column, int row) const {
   const auto edge = [](int index, int side) { return index * side / Cells; };
   return {QPoint(edge(column, width()), edge(row, height())),
@@ -34,7 +39,8 @@ std::optional<TColor> ZoomBox::ColorAt(QPoint place) const {
 
 void ZoomBox::paintEvent(QPaintEvent*) {
   QPainter p(this);
-  p.fillRect(rect(), palette().color(QPalette::Base));
+  // Empty, it is a part of the dialog; only what it shows has colours of its own.
+  p.fillRect(rect(), parentWidget()->palette().color(QPalette::Base));
   for (int row = 0; filled_ && row < Cells; ++row)
     for (int column = 0; column < Cells; ++column)
       p.fillRect(CellRect(column, row),

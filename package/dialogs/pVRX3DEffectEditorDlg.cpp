@@ -8,7 +8,6 @@
 #include "library_design/PictureDialog.h"
 #include "library_design/pVRXCommon.h"
 #include "package/property_editors/pVRXCPGetMain.h"
-#include "vcl/Prompts.h"
 
 void VRXDrawCaptionFace(const TVRXCaption& caption, TBitmap& bitmap) {
   QRect rect = VRXDrawTextCalcExt(caption.Caption(), *caption.FontFX(), *caption.Font(), caption.MultiLine());
@@ -34,6 +33,7 @@ enum { Original, Up, Down, Disabled };
 
 TVRX3DEffectEditorDlg::TVRX3DEffectEditorDlg(QWidget* owner)
     : EditorDialog(QStringLiteral("3D Effect Editor"), QSize(610, 311), owner, 280) {
+  setObjectName(QStringLiteral("VRX3DEffectEditorDlg"));
   Build();
   FormCreate();
 }
@@ -78,6 +78,7 @@ void TVRX3DEffectEditorDlg::BuildSettings() {
 void TVRX3DEffectEditorDlg::BuildRight() {
   BtnImg = Named(new PictureView(this), "BtnImg", "");
   SetPreview(ScrollBoxOf(BtnImg, this));
+  note = QuietLine(this, "note");
   cmbState = Named(new QComboBox(this), "cmbState", "");
   cmbState->addItems({StateTexts()[Up], StateTexts()[Down], StateTexts()[Disabled], StateTexts()[Original]});
   cmbState->setCurrentText(StateTexts()[Original]);
@@ -98,6 +99,7 @@ void TVRX3DEffectEditorDlg::BuildRight() {
     row->addWidget(b, 1);
     AddBelowPreview(box);
   };
+  AddBelowPreview(note);
   AddBelowPreview(cmbState);
   pair(EXECUTE, STOP);
   AddBelowPreview(vrxprog);
@@ -132,6 +134,9 @@ void TVRX3DEffectEditorDlg::FormActivate() {
   spind->setMaximum(MaxBevel);
   SetLabels();
   if (bitmaps[Original] && !bitmaps[Original]->Empty()) ShowState(Original);
+  // Results that were handed over are taken for what these settings lead to.
+  made_ = CurrentSettings();
+  ShowNote();
 }
 
 void TVRX3DEffectEditorDlg::LoadControls() {
@@ -151,11 +156,14 @@ void TVRX3DEffectEditorDlg::cmbBChange(const TVRXColorComboBox* sender) {
     colors[2] = cmbL->Selected();
   else
     colors[3] = cmbS->Selected();
+  ShowNote();
 }
 
 // What the spin edit shows before the dialog is active is not the launcher's width yet.
 void TVRX3DEffectEditorDlg::spindChange() {
-  if (activated) bevelWidth = static_cast<std::uint8_t>(spind->value());
+  if (!activated) return;
+  bevelWidth = static_cast<std::uint8_t>(spind->value());
+  ShowNote();
 }
 
 void TVRX3DEffectEditorDlg::dlgBClick(const QToolButton* sender) {
@@ -167,9 +175,13 @@ void TVRX3DEffectEditorDlg::btngetpicClick(const QPushButton* sender) {
     // Cancelled or empty, the caption is what it was.
     TVRXCaption edited;
     edited.Assign(caption.get());
-    if (!VRXCPGetVRXCaption(edited, true) || edited.Caption().isEmpty()) return;
+    if (!VRXCPGetVRXCaption(edited, true)) return;
+    // A text of which nothing is drawn is as good as none.
+    TBitmap face;
+    VRXDrawCaptionFace(edited, face);
+    if (face.Empty()) return;
     caption->Assign(&edited);
-    VRXDrawCaptionFace(*caption, *bitmaps[Original]);
+    bitmaps[Original]->Assign(&face);
   } else if (!VRXCPGetPicture(this, *bitmaps[Original])) {
     return;
   }
@@ -179,16 +191,13 @@ void TVRX3DEffectEditorDlg::btngetpicClick(const QPushButton* sender) {
   // Earlier results are not this source's.
   Ok->setEnabled(false);
   cmbState->setEnabled(false);
+  nothingToDo_ = false;
+  ShowNote();
 }
 
 void TVRX3DEffectEditorDlg::EXECUTEClick() {
   if (running_) return;
   const TBitmap& source = *bitmaps[Original];
-  if (source.Empty()) {
-    Prompts().Inform(this, windowTitle(),
-                     tr("There is nothing to work on yet. Please choose a picture or a caption first."));
-    return;
-  }
   RequireButton3DSize(tr("With a bevel of %1, each of the pictures").arg(bevelWidth), source, bevelWidth);
   const auto settings = [this](bool enabled) {
     for (QWidget* widget : settings_) widget->setEnabled(enabled);
@@ -201,6 +210,7 @@ void TVRX3DEffectEditorDlg::EXECUTEClick() {
     EXECUTE->setEnabled(true);
     settings(true);
     running_ = false;
+    ShowNote();
   });
   running_ = true;
   EXECUTE->setEnabled(false);
@@ -209,13 +219,18 @@ void TVRX3DEffectEditorDlg::EXECUTEClick() {
   Ok->setEnabled(false);
   cmbState->setEnabled(false);
   settings(false);
+  ShowNote();
   VRX3DEffectAbort = false;
   setWindowTitle(QStringLiteral("Please wait - effect is being generated..."));
   const TColor transparent = source.Pixel(0, source.Height() - 1);
   RunProgress progress(*vrxprog);
-  VRXDrawButton3D(source, *bitmaps[Up], *bitmaps[Down], *bitmaps[Disabled], transparent, colors[2], colors[3],
-                  colors[1], clNone, clNone, colors[0], false, bevelWidth, &progress);
+  // Nothing comes of nothing: a bevel around no picture would be results that OK has no use for.
+  nothingToDo_ = source.Empty();
+  if (!nothingToDo_)
+    VRXDrawButton3D(source, *bitmaps[Up], *bitmaps[Down], *bitmaps[Disabled], transparent, colors[2],
+                    colors[3], colors[1], clNone, clNone, colors[0], false, bevelWidth, &progress);
   const bool complete = !VRX3DEffectAbort;
+  if (complete && !nothingToDo_) made_ = CurrentSettings();
   cmbState->setCurrentText(StateTexts()[complete ? Up : Original]);
   ShowState(complete ? Up : Original);
   Ok->setEnabled(complete);
@@ -224,10 +239,36 @@ void TVRX3DEffectEditorDlg::EXECUTEClick() {
 
 void TVRX3DEffectEditorDlg::STOPClick() { VRX3DEffectAbort = true; }
 
+// Cancel and Escape are Stop, too, whether something runs or not.
+void TVRX3DEffectEditorDlg::reject() {
+  STOPClick();
+  EditorDialog::reject();
+}
+
 // However the dialog is closed, a run in it ends.
 void TVRX3DEffectEditorDlg::done(int result) {
   if (running_) STOPClick();
   EditorDialog::done(result);
+}
+
+bool TVRX3DEffectEditorDlg::ResultsAreOlder() const {
+  const auto filled = [](const TBitmap* b) { return b && !b->Empty(); };
+  return Ok->isEnabled() && made_ && *made_ != CurrentSettings() &&
+         std::any_of(bitmaps + Up, bitmaps + Disabled + 1, filled);
+}
+
+void TVRX3DEffectEditorDlg::ShowNote() {
+  note->setText(ResultsAreOlder() ? tr("Older than the settings")
+                : nothingToDo_    ? tr("No picture or caption yet")
+                                  : QString());
+}
+
+// Return in a field is for the default button, but what is older than the settings is confirmed by the button
+// itself only.
+void TVRX3DEffectEditorDlg::keyPressEvent(QKeyEvent* event) {
+  const bool confirms = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+  if (confirms && ResultsAreOlder()) return event->accept();
+  EditorDialog::keyPressEvent(event);
 }
 
 void TVRX3DEffectEditorDlg::cmbStateChange() {

@@ -3,6 +3,9 @@
 // Whoever shows the dialog hands it colours, bevel width and bitmaps before and reads them after ShowModal
 // returned 1. The bitmaps stay the caller's and must outlive the dialog.
 #pragma once
+#include <array>
+#include <optional>
+
 #include "dclstd/EditorDialog.h"
 #include "library/pixels/Button3D.h"
 #include "library/values/Caption.h"
@@ -11,6 +14,7 @@
 #include "library_design/ProgressBar.h"
 #include "library_design/SpinEdit.h"
 
+class QLabel;
 class QToolButton;
 
 // Sizes the bitmap to the caption and draws it there on silver, which an editor takes for transparent.
@@ -31,6 +35,7 @@ class TVRX3DEffectEditorDlg : public EditorDialog {
   void FormCreate();
   void FormActivate() override;
   void FormClose() override;
+  void reject() override;
   void cmbBChange(const TVRXColorComboBox* sender);
   void spindChange();
   void dlgBClick(const QToolButton* sender);
@@ -45,6 +50,7 @@ class TVRX3DEffectEditorDlg : public EditorDialog {
   TVRXColorComboBox *cmbB, *cmbD, *cmbL, *cmbS;
   QToolButton *dlgb, *dlgd, *dlgl, *dlgs;
   PictureView* BtnImg;
+  QLabel* note;  // why the results are not what they could be; quiet
   QComboBox* cmbState;
   QPushButton* EXECUTE;
   QPushButton* STOP;
@@ -54,6 +60,7 @@ class TVRX3DEffectEditorDlg : public EditorDialog {
 
  protected:
   void done(int result) override;
+  void keyPressEvent(QKeyEvent* event) override;
   void LoadControls() override;
 
  private:
@@ -61,6 +68,18 @@ class TVRX3DEffectEditorDlg : public EditorDialog {
   void BuildSettings();
   void BuildRight();
   void ShowState(int state);
+  void ShowNote();
+  // What the results depend on besides the picture.
+  struct Settings {
+    std::array<TColor, 4> colors;
+    std::uint8_t bevelWidth;
+    bool operator==(const Settings&) const = default;
+  };
+  Settings CurrentSettings() const { return {std::to_array(colors), bevelWidth}; }
+  // Whether OK would take results that other settings led to.
+  bool ResultsAreOlder() const;
+  std::optional<Settings> made_;  // of the results
+  bool nothingToDo_ = false;      // the last run had no picture
   bool running_ = false;
   std::vector<QWidget*> settings_;
 };

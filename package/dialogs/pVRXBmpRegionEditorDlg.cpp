@@ -4,6 +4,7 @@
 
 #include "dclstd/EditorDialog.h"
 #include "designintf/IdeTheme.h"
+#include "library/pixels/RegionOrigin.h"
 #include "library_design/Named.h"
 #include "library_design/PictureDialog.h"
 #include "library_design/pVRXCommon.h"
@@ -37,10 +38,25 @@ class ColorItems : public QStyledItemDelegate {
     p->restore();
   }
 };
+
+// Ends a build at its next point when the dialog has been closed.
+struct BuildEnded {};
+class BuildProgress : public RunProgress {
+ public:
+  BuildProgress(TVRXProgressBar& bar, const bool& closed) : RunProgress(bar), closed_(closed) {}
+  void ProcessMessages(std::int64_t times) override {
+    RunProgress::ProcessMessages(times);
+    if (closed_) throw BuildEnded();
+  }
+
+ private:
+  const bool& closed_;
+};
 }  // namespace
 
 TVRXfrmRegionFromBMPdlg::TVRXfrmRegionFromBMPdlg(QWidget* owner)
     : ModalDialog(QStringLiteral("Region From Bitmap Editor"), owner) {
+  setObjectName(QStringLiteral("VRXfrmRegionFromBMPdlg"));
   pages = new QTabWidget(this);
   pages->addTab(BuildImagePage(), QStringLiteral("Image/Colors"));
   pages->addTab(BuildBorderPage(), QStringLiteral("Border/Build"));
@@ -50,7 +66,8 @@ TVRXfrmRegionFromBMPdlg::TVRXfrmRegionFromBMPdlg(QWidget* owner)
   OKButton->setDefault(true);
   auto* buttons = new QHBoxLayout;
   buttons->setSpacing(8);
-  buttons->addStretch(1);
+  note = QuietLine(this, "note");
+  buttons->addWidget(note, 1);
   buttons->addWidget(OKButton);
   buttons->addWidget(CancelButton);
   auto* all = new QVBoxLayout(this);
@@ -187,6 +204,7 @@ void TVRXfrmRegionFromBMPdlg::FormCreate() {
   ApplyIDETheme(*this, [this](const QWidget& control) {
     return &control != Image1 && &control != Result && &control != zoom && &control != cc;
   });
+  ShowColor(std::nullopt);
 }
 
 void TVRXfrmRegionFromBMPdlg::SetButtonFace() {
@@ -199,15 +217,48 @@ void TVRXfrmRegionFromBMPdlg::SetButtonFace() {
 void TVRXfrmRegionFromBMPdlg::LoadControls() {
   ccb->setChecked(mask->Compress());
   colb->setCurrentIndex(static_cast<int>(mask->ColorDepth()));
+  if (Image1->Picture().Empty()) ShowOrigin();
   ShowResult();
+  // What has been built before can be confirmed, with another depth or compression or as it is.
+  OKButton->setEnabled(mask->HasRegion() || !mask->FullBorderPicture().isNull());
+  NoteSettings();
+}
+
+// What the value still has of the picture and the settings it was built from. Without its colours a region
+// can only be kept as it is.
+void TVRXfrmRegionFromBMPdlg::ShowOrigin() {
+  if (mask->FullBorderPicture().isNull()) return;
+  ShowPicture(TBitmap::FromImage(mask->FullBorderPicture()));
+  const TBitmap& picture = Image1->Picture();
+  for (const TColor color : TransparentColorsOf(picture, mask->Region())) cl->addItem(ColorToString(color));
+  if (buttonFace) {
+    const TBitmap first = TBitmap::FromImage(mask->FullStatePicture(0));
+    if (const auto look = ButtonLookOf(picture, first, mask->Region()))
+      cb2->setCurrentIndex(static_cast<int>(*look));
+  } else {
+    const TRegionBorder border = BorderStyleOf(picture, mask->Region());
+    cb->setCurrentIndex(static_cast<int>(border));
+    bordered_ = border != TRegionBorder::None;
+  }
+}
+
+void TVRXfrmRegionFromBMPdlg::ShowPicture(const TBitmap& picture) {
+  Image1->SetPicture(picture);
+  DimLabel->setText(QStringLiteral("Bitmap size: %1x%2").arg(picture.Width()).arg(picture.Height()));
 }
 
 void TVRXfrmRegionFromBMPdlg::LoadButtonClick() {
   TBitmap picture;
   if (!VRXCPGetPicture(this, picture)) return;
-  Image1->SetPicture(picture);
-  DimLabel->setText(QStringLiteral("Bitmap size: %1x%2").arg(picture.Width()).arg(picture.Height()));
+  ShowPicture(picture);
+  // These were of the picture before.
+  zoom->Clear();
+  ViewLabel->clear();
+  ShowColor(std::nullopt);
+  otherPicture_ = !(picture == made_.picture);
+  bordered_ = false;
   BuildButton->setEnabled(true);
+  ShowNote();
 }
 
 void TVRXfrmRegionFromBMPdlg::Pick(TColor color) {
@@ -221,6 +272,7 @@ void TVRXfrmRegionFromBMPdlg::Pick(TColor color) {
     cl->addItem(text);
   }
   BuildButton->setEnabled(true);
+  ShowNote();
 }
 
 void TVRXfrmRegionFromBMPdlg::Image1MouseDown(Qt::MouseButton button, QPoint pixel) {
@@ -243,16 +295,14 @@ void TVRXfrmRegionFromBMPdlg::Image1MouseMove(QPoint pixel) {
 
 void TVRXfrmRegionFromBMPdlg::zoomMouseDown(Qt::MouseButton button, QPoint place) {
   if (button != Qt::LeftButton) return;
-  // Where the picture has no pixels there is no colour to be picked.
-  if (const auto color = zoom->ColorAt(place); color && *color != clInvalid) Pick(*color);
+  if (const auto color = zoom->ColorAt(place)) Pick(*color);
 }
 
 void TVRXfrmRegionFromBMPdlg::zoomMouseMove(QPoint place) { ShowColor(zoom->ColorAt(place)); }
 
 void TVRXfrmRegionFromBMPdlg::ShowColor(std::optional<TColor> color) {
   QPalette palette = cc->palette();
-  palette.setColor(QPalette::Window,
-                   color ? ToQColor(*color) : QApplication::palette().color(QPalette::Window));
+  palette.setColor(QPalette::Window, color ? ToQColor(*color) : this->palette().color(QPalette::Window));
   palette.setColor(QPalette::WindowText, Readable(palette.color(QPalette::Window)));
   cc->setPalette(palette);
   cc->setText(color ? ColorToString(*color) : QString());
@@ -261,6 +311,8 @@ void TVRXfrmRegionFromBMPdlg::ShowColor(std::optional<TColor> color) {
 void TVRXfrmRegionFromBMPdlg::RemoveSelected() {
   if (building_) return;
   delete cl->takeItem(cl->currentRow());
+  BuildButton->setEnabled(true);
+  ShowNote();
 }
 
 bool TVRXfrmRegionFromBMPdlg::eventFilter(QObject* watched, QEvent* event) {
@@ -274,7 +326,24 @@ bool TVRXfrmRegionFromBMPdlg::eventFilter(QObject* watched, QEvent* event) {
   return ModalDialog::eventFilter(watched, event);
 }
 
-void TVRXfrmRegionFromBMPdlg::cbChange() { BuildButton->setEnabled(true); }
+// Return in a field is for the default button, but a result that is older than the settings is confirmed by
+// the button itself only.
+void TVRXfrmRegionFromBMPdlg::keyPressEvent(QKeyEvent* event) {
+  const bool confirms = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+  if (confirms && ResultIsOlder()) return event->accept();
+  ModalDialog::keyPressEvent(event);
+}
+
+// However the dialog is closed, a build in it ends.
+void TVRXfrmRegionFromBMPdlg::done(int result) {
+  closed_ = true;
+  ModalDialog::done(result);
+}
+
+void TVRXfrmRegionFromBMPdlg::cbChange() {
+  BuildButton->setEnabled(true);
+  ShowNote();
+}
 void TVRXfrmRegionFromBMPdlg::ccbChange() { mask->SetCompress(ccb->isChecked()); }
 void TVRXfrmRegionFromBMPdlg::colbChange() {
   mask->SetColorDepth(static_cast<TVRXColorDepth>(colb->currentIndex()));
@@ -288,8 +357,6 @@ void TVRXfrmRegionFromBMPdlg::BuildButtonClick() {
                      QStringLiteral("Please choose at least one color to be transparent!"));
     return;
   }
-  std::vector<TColor> transparent;
-  for (int i = 0; i < cl->count(); ++i) transparent.push_back(StringToColor(cl->item(i)->text()));
   bool built = false;
   const auto finish = qScopeGuard([&, confirmable = OKButton->isEnabled()] {
     building_ = false;
@@ -297,30 +364,69 @@ void TVRXfrmRegionFromBMPdlg::BuildButtonClick() {
     pages->setEnabled(true);
     OKButton->setEnabled(built || confirmable);
     BuildButton->setEnabled(!built);
+    ShowNote();
   });
   building_ = true;
+  closed_ = false;
   // Nothing may change under the run, and half a mask is not to be confirmed.
   pages->setEnabled(false);
   OKButton->setEnabled(false);
+  ShowNote();
   Progress->SetPercent(0);
   Progress->show();
-  RunProgress progress(*Progress);
-  const TBitmap& picture = Image1->Picture();
-  const TRegionBuild build =
-      buttonFace ? BuildButtonRegion(picture, transparent, static_cast<TRegionButton>(cb2->currentIndex()),
-                                     &progress)
-                 : BuildWindowRegion(picture, transparent, static_cast<TRegionBorder>(cb->currentIndex()),
-                                     &progress);
-  mask->SetRegionData(build.RegionData());  // refused before anything else when there is too much of it
-  mask->BeginUpdate();
-  mask->SetBorderPicture(build.Border);
-  if (buttonFace) {
-    mask->SetStatePicture(0, build.First);
-    mask->SetStatePicture(1, build.Second);
+  try {
+    TRegionBuild build = Build();
+    mask->BeginUpdate();
+    mask->SetRegion(std::move(build.Region).value_or(TRegion()));
+    mask->SetBorderPicture(build.Border);
+    if (buttonFace) {
+      mask->SetStatePicture(0, build.First);
+      mask->SetStatePicture(1, build.Second);
+    }
+    mask->EndUpdate();
+  } catch (const BuildEnded&) {
+    return;
   }
-  mask->EndUpdate();
   ShowResult();
+  NoteSettings();
   built = true;
+}
+
+TRegionBuild TVRXfrmRegionFromBMPdlg::Build() {
+  std::vector<TColor> transparent;
+  for (int i = 0; i < cl->count(); ++i) transparent.push_back(StringToColor(cl->item(i)->text()));
+  BuildProgress progress(*Progress, closed_);
+  const TBitmap& picture = Image1->Picture();
+  return buttonFace ? BuildButtonRegion(picture, transparent, static_cast<TRegionButton>(Style()), &progress)
+                    : BuildWindowRegion(picture, transparent, static_cast<TRegionBorder>(Style()), &progress);
+}
+
+QStringList TVRXfrmRegionFromBMPdlg::Colors() const {
+  QStringList colors;
+  for (int i = 0; i < cl->count(); ++i) colors << cl->item(i)->text();
+  colors.sort();
+  return colors;
+}
+
+int TVRXfrmRegionFromBMPdlg::Style() const { return (buttonFace ? cb2 : cb)->currentIndex(); }
+
+// The result is of what is set now.
+void TVRXfrmRegionFromBMPdlg::NoteSettings() {
+  made_.picture.Assign(&Image1->Picture());
+  made_.colors = Colors();
+  made_.style = Style();
+  otherPicture_ = false;
+  ShowNote();
+}
+
+bool TVRXfrmRegionFromBMPdlg::ResultIsOlder() const {
+  return OKButton->isEnabled() && (otherPicture_ || Style() != made_.style || Colors() != made_.colors);
+}
+
+void TVRXfrmRegionFromBMPdlg::ShowNote() {
+  note->setText(ResultIsOlder() ? tr("The result is older than the settings; Build makes it anew.")
+                : bordered_     ? tr("The picture has its border already; load it again for another one.")
+                                : QString());
 }
 
 // What a control with this mask will look like.

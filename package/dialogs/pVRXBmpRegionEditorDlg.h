@@ -25,6 +25,8 @@ class ZoomBox : public QWidget {
   explicit ZoomBox(QWidget* parent);
   // Shows the pixels from `origin` on; where the picture has none, they are clInvalid.
   void ShowPart(const TBitmap& picture, QPoint origin);
+  // Shows nothing.
+  void Clear();
   // The colour at a place; nothing before a part is shown.
   std::optional<TColor> ColorAt(QPoint place) const;
   QSize sizeHint() const override { return {Cells * 8 + 1, Cells * 8 + 1}; }
@@ -82,20 +84,41 @@ class TVRXfrmRegionFromBMPdlg : public ModalDialog {
   QPushButton* BuildButton;
   TVRXProgressBar* Progress;
   PictureView* Result;
+  QLabel* note;  // how the result stands to what is set; quiet
   QPushButton* OKButton;
   QPushButton* CancelButton;
 
  protected:
   bool eventFilter(QObject* watched, QEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
+  void done(int result) override;
   void LoadControls() override;
 
  private:
   QWidget* BuildImagePage();
   QWidget* BuildBorderPage();
+  void ShowOrigin();
+  void ShowPicture(const TBitmap& picture);
   void Pick(TColor color);
   void ShowColor(std::optional<TColor> color);
   void ShowResult();
+  void ShowNote();
   void RemoveSelected();
+  TRegionBuild Build();
+  // What a result depends on.
+  struct Settings {
+    TBitmap picture;
+    QStringList colors;  // sorted
+    int style = 0;
+  };
+  QStringList Colors() const;
+  int Style() const;
+  void NoteSettings();
+  // Whether OK would take a result that other settings led to.
+  bool ResultIsOlder() const;
   QLabel* styleLabel_;
-  bool building_ = false;
+  Settings made_;              // of the result
+  bool otherPicture_ = false;  // not the one that the result was made from
+  bool bordered_ = false;      // the picture comes from the value, with a border painted on it
+  bool building_ = false, closed_ = false;
 };

@@ -89,6 +89,73 @@ TEST(Caption, TheMeasuredRectangleHoldsTheTextWithItsEffect) {
   }
 }
 
+namespace {
+// As a picture of its own, and the same with room all around it.
+struct Face {
+  QImage exact, roomy;
+};
+Face FaceOf(const TVRXCaption& caption) {
+  const QRect rect =
+      VRXDrawTextCalcExt(caption.Caption(), *caption.FontFX(), *caption.Font(), caption.MultiLine());
+  const auto draw = [&](int margin) {
+    QImage image(rect.size() + QSize(2 * margin, 2 * margin), QImage::Format_RGB32);
+    image.fill(Qt::white);
+    if (image.isNull()) return image;
+    QPainter painter(&image);
+    TCanvas canvas(painter);
+    VRXDrawTextExt(canvas, caption.Caption(), *caption.FontFX(), *caption.Font(),
+                   rect.translated(margin, margin), {TVRXTextOption::Measured}, caption.TextFlags(), rect,
+                   clWhite);
+    return image;
+  };
+  return {draw(0), draw(60)};
+}
+}  // namespace
+
+TEST(Caption, NothingThatIsDrawnIsCut) {
+  const char* const texts[] = {"f",    "j", "Wolf", "jelly of", "R&D", "&Go",
+                               "A&&B", "&", "&&",   "ff\njj",   "f\tj"};
+  for (const char* text : texts)
+    for (const bool italic : {false, true})
+      for (const int height : {-11, -33})
+        for (const int angle : {0, 30, 90, 270, 360})
+          for (const bool multiLine : {false, true})
+            for (const int alignment : {0, 4, 8}) {
+              TVRXCaption caption;
+              caption.SetCaption(QString::fromLatin1(text));
+              caption.SetMultiLine(multiLine);
+              caption.SetAlignment(static_cast<TVRXAlignment>(alignment));
+              caption.Font()->SetHeight(height);
+              if (italic) caption.Font()->SetStyle({TFontStyle::fsItalic, TFontStyle::fsBold});
+              caption.FontFX()->SetAngle(static_cast<std::uint16_t>(angle));
+              if (height == -11) caption.FontFX()->SetStyle(TVRX3DTextStyle::tdRaised);
+              const Face face = FaceOf(caption);
+              const QRect ink = InkOf(face.roomy).translated(-60, -60);
+              ASSERT_TRUE(ink.isEmpty() || face.exact.rect().contains(ink))
+                  << text << " italic " << italic << " height " << height << " angle " << angle << " lines "
+                  << multiLine << " alignment " << alignment << " ink " << ink.left() << ' ' << ink.top()
+                  << ' ' << ink.right() << ' ' << ink.bottom() << " of " << face.exact.width() << 'x'
+                  << face.exact.height();
+            }
+}
+
+TEST(Caption, AnAmpersandIsMeasuredAsItIsDrawn) {
+  const auto width = [](const char* text, int angle) {
+    TVRXCaption caption;
+    caption.SetCaption(QString::fromLatin1(text));
+    caption.FontFX()->SetAngle(static_cast<std::uint16_t>(angle));
+    return VRXDrawTextCalcExt(caption.Caption(), *caption.FontFX(), *caption.Font(), false).width();
+  };
+  EXPECT_EQ(width("&Go", 0), width("Go", 0));
+  EXPECT_EQ(width("A&&B", 0), width("A&B", 360));
+  // A turned text has no accelerator; every one of them is a letter.
+  EXPECT_GT(width("&Go", 360), width("Go", 360));
+  EXPECT_GT(width("A&&B", 360), width("A&B", 360));
+  EXPECT_GT(width("&", 360), 0);
+  EXPECT_EQ(width("&", 0), 0);
+  EXPECT_EQ(width("&", 0), width("", 0));
+}
+
 TEST(Caption, TheDefaultFontIsNotStored) {
   TVRXShapeControl shape(nullptr);
   EXPECT_TRUE(shape.Caption()->ContentEmpty());

@@ -3,6 +3,7 @@
 
 #include <QImage>
 #include <QPainter>
+#include <set>
 
 #include "library/controls/Button3D.h"
 #include "library/controls/RegionControl.h"
@@ -52,6 +53,18 @@ TEST(RegionMask, DownShowsTheSecondState) {
   EXPECT_EQ(Painted(control).pixel(4, 4), qRgb(0, 0, 255));
 }
 
+TEST(RegionMask, ARegionIsTheSameAsItsData) {
+  const TRegion region = TRegion(TRect{1, 2, 5, 9}).United(TRegion(TRect{7, 4, 8, 20}));
+  TVRXRegionMask mask, other;
+  mask.SetRegion(region);
+  other.SetRegionData(region.ToData());
+  EXPECT_EQ(mask.RegionData(), other.RegionData());
+  EXPECT_EQ(mask.Region(), other.Region());
+  mask.SetRegion({});
+  EXPECT_FALSE(mask.HasRegion());
+  EXPECT_TRUE(mask.Region().Empty());
+}
+
 TEST(RegionMask, CorruptRegionDataIsRefusedAndNothingChanges) {
   TVRXRegionMask mask;
   Fill(mask, Block(clRed));
@@ -79,6 +92,76 @@ TEST(RegionMask, ItsBytesAreReadBackAndStayAsTheyAre) {
       EXPECT_EQ(GetBinaryProp(copy, picture), GetBinaryProp(mask, picture));
       EXPECT_EQ(GetBinaryProp(mask, picture).startsWith(compress ? "\x89PNG" : "BM"), true);
     }
+}
+
+namespace {
+// Many colours, white and grey among them, in a picture that is not square.
+TBitmap ManyColors() {
+  TBitmap picture(40, 27);
+  for (int y = 0; y < 27; ++y)
+    for (int x = 0; x < 40; ++x)
+      picture.SetPixel(x, y,
+                       RGBColor(static_cast<unsigned>(x * 6), static_cast<unsigned>(y * 9),
+                                static_cast<unsigned>(x * y) % 256));
+  picture.SetPixel(0, 0, clWhite);
+  picture.SetPixel(39, 26, clGray);
+  return picture;
+}
+std::set<QRgb> ColorsOf(const QImage& image) {
+  std::set<QRgb> colors;
+  for (int y = 0; y < image.height(); ++y)
+    for (int x = 0; x < image.width(); ++x) colors.insert(image.pixel(x, y));
+  return colors;
+}
+QByteArray BorderBytes(const TVRXRegionMask& mask) {
+  return GetBinaryProp(mask, TVRXRegionMask::StaticClass().GetProp("BorderPicture"));
+}
+}  // namespace
+
+TEST(RegionMask, EveryDepthStoresItsNumberOfBits) {
+  struct Depth {
+    TVRXColorDepth depth;
+    int bits;
+    std::size_t colors;
+  };
+  using enum TVRXColorDepth;
+  std::set<QByteArray> seen;
+  for (const Depth& d : {Depth{spfMono, 1, 2}, Depth{spf4bit, 4, 16}, Depth{spf8bit, 8, 256},
+                         Depth{spf16bit, 16, 65536}, Depth{spfDefault, 24, 1 << 24}}) {
+    TVRXRegionMask mask, read;
+    Fill(mask, ManyColors());
+    const QByteArray region = mask.RegionData();
+    mask.SetColorDepth(d.depth);
+    const QByteArray bytes = BorderBytes(mask);
+    ASSERT_TRUE(bytes.startsWith("BM"));
+    EXPECT_EQ(bytes[28] | bytes[29] << 8, d.bits);
+    // A head, a table of the colours, and rows of whole words.
+    EXPECT_LE(bytes.size(), 66 + 4 * 256 + (40 * d.bits + 31) / 32 * 4 * 27);
+    EXPECT_LE(ColorsOf(mask.BorderPicture()).size(), d.colors);
+    EXPECT_TRUE(seen.insert(bytes).second) << d.bits;
+    EXPECT_EQ(mask.RegionData(), region);
+    for (const TPropInfo* prop : TVRXRegionMask::StaticClass().Properties())
+      CopyProp(mask, *prop, read, *prop);
+    EXPECT_EQ(read.BorderPicture(), mask.BorderPicture()) << d.bits;
+    EXPECT_EQ(read.BorderPicture().pixel(0, 0), qRgb(255, 255, 255)) << d.bits;
+    EXPECT_EQ(BorderBytes(read), bytes);
+    // Once reduced, nothing more is lost.
+    read.SetCompress(true);
+    read.SetCompress(false);
+    EXPECT_EQ(BorderBytes(read), bytes) << d.bits;
+  }
+}
+
+TEST(RegionMask, ADepthKeepsColoursThatItHasRoomFor) {
+  TBitmap few(9, 5);
+  for (int i = 0; i < 45; ++i)
+    few.SetPixel(i % 9, i / 9, RGBColor(static_cast<unsigned>(i % 16) * 3 + 100, 77, 12));
+  for (const auto depth : {TVRXColorDepth::spf4bit, TVRXColorDepth::spf8bit}) {
+    TVRXRegionMask mask;
+    Fill(mask, few);
+    mask.SetColorDepth(depth);
+    EXPECT_EQ(mask.BorderPicture(), few.Image());
+  }
 }
 
 TEST(RegionMask, FewerColoursAreShownAndMoreComeBack) {

@@ -8,6 +8,7 @@ class EffectDialog : public pixeltest::PictureDialogTest {
   EffectDialog() {
     for (std::size_t i = 0; i < 4; ++i) dlg.bitmaps[i] = &pictures[i];
   }
+  ~EffectDialog() override { VRX3DEffectAbort = false; }
   // Shows the dialog while `act` uses it; its result.
   int Show(std::function<void()> act) {
     modal::NextOf<TVRX3DEffectEditorDlg>([this, act = std::move(act)](auto&) {

@@ -154,17 +154,51 @@ TEST_F(EffectDialog, ClosingTheWindowInARunEndsBoth) {
   ExpectFilledResults();
 }
 
-TEST_F(EffectDialog, ExecuteWithoutAPictureTellsAndChangesNothing) {
+TEST_F(EffectDialog, ExecuteWithoutASourceRunsItsStepsAndLeavesTheResultsEmpty) {
+  EXPECT_EQ(Show([&] {
+              EXPECT_EQ(dlg.note->text(), QString());
+              Click(dlg.EXECUTE);
+              EXPECT_TRUE(prompts.informed.isEmpty());
+              EXPECT_EQ(dlg.windowTitle(), QStringLiteral("3DEffect-Editor"));
+              EXPECT_TRUE(dlg.EXECUTE->isEnabled());
+              EXPECT_FALSE(dlg.STOP->isEnabled());
+              EXPECT_TRUE(dlg.Ok->isEnabled());
+              EXPECT_TRUE(dlg.cmbState->isEnabled());
+              EXPECT_EQ(State(), QStringLiteral("Up"));
+              EXPECT_NE(dlg.note->text(), QString());
+              Click(dlg.Ok);
+            }),
+            1);
+  for (const TBitmap& picture : pictures) EXPECT_TRUE(picture.Empty());
+}
+
+TEST_F(EffectDialog, ExecuteWithoutASourceKeepsResultsThatWereHandedOver) {
   FillResults();
   Show([&] {
     Click(dlg.EXECUTE);
-    EXPECT_EQ(prompts.informed.size(), 1);
-    EXPECT_EQ(dlg.windowTitle(), QStringLiteral("3D Effect Editor"));
-    EXPECT_TRUE(dlg.EXECUTE->isEnabled());
-    EXPECT_TRUE(dlg.STOP->isEnabled());
-    EXPECT_TRUE(dlg.Ok->isEnabled());
-    EXPECT_FALSE(dlg.cmbState->isEnabled());
+    EXPECT_TRUE(dlg.BtnImg->Picture() == pictures[1]);
+    LoadPicture(BarOnSilver());
+    EXPECT_EQ(dlg.note->text(), QString());
   });
-  EXPECT_TRUE(pictures[0].Empty());
   ExpectFilledResults();
+}
+
+TEST_F(EffectDialog, CancelSetsTheAbortFlagWithoutARunToo) {
+  for (const bool escape : {false, true}) {
+    VRX3DEffectAbort = false;
+    EXPECT_EQ(Show([&] {
+                if (escape)
+                  QTest::keyClick(&dlg, Qt::Key_Escape);
+                else
+                  Click(dlg.VRXButton4);
+                EXPECT_FALSE(dlg.isVisible());
+              }),
+              2);
+    EXPECT_TRUE(VRX3DEffectAbort) << escape;
+  }
+}
+
+TEST_F(EffectDialog, OkSetsNoAbortFlag) {
+  EXPECT_EQ(Show([&] { Click(dlg.Ok); }), 1);
+  EXPECT_FALSE(VRX3DEffectAbort);
 }

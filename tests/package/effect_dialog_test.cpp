@@ -131,6 +131,38 @@ TEST_F(EffectDialog, ACaptionWithoutTextLeavesEverythingAsItWas) {
   ExpectFilledResults();
 }
 
+// Nothing of it is drawn.
+TEST_F(EffectDialog, ACaptionOfAnAmpersandIsAsGoodAsNone) {
+  pictures[0] = BarOnSilver();
+  FillResults();
+  dlg.caption->FontFX()->SetStyle(TVRX3DTextStyle::tdRaised);
+  Show([&] {
+    modal::NextOf<TVRXCaptionEditorDlg>([](auto& editor) {
+      QTest::keyClicks(editor.cap, QStringLiteral("&"));
+      Click(editor.ok);
+    });
+    Click(dlg.btngetcap);
+    EXPECT_EQ(dlg.caption->Caption(), QString());
+    EXPECT_TRUE(dlg.Ok->isEnabled());
+    EXPECT_TRUE(dlg.BtnImg->Picture() == BarOnSilver());
+  });
+  EXPECT_TRUE(pictures[0] == BarOnSilver());
+  ExpectFilledResults();
+}
+
+TEST_F(EffectDialog, ATurnedAmpersandIsDrawn) {
+  Show([&] {
+    modal::NextOf<TVRXCaptionEditorDlg>([](auto& editor) {
+      editor.test->Caption()->FontFX()->SetAngle(30);
+      QTest::keyClicks(editor.cap, QStringLiteral("&"));
+      Click(editor.ok);
+    });
+    Click(dlg.btngetcap);
+    EXPECT_FALSE(dlg.Ok->isEnabled());
+  });
+  EXPECT_FALSE(pictures[0] == Plain(pictures[0].Width(), pictures[0].Height(), clSilver));
+}
+
 TEST_F(EffectDialog, ACancelledSourceLeavesEverythingAsItWas) {
   pictures[0] = BarOnSilver();
   Show([&] {
@@ -163,6 +195,7 @@ TEST_F(EffectDialog, AFileThatIsNoPictureIsNamedInAWarning) {
 }
 
 TEST_F(EffectDialog, EveryControlHasItsNameTextAndHint) {
+  EXPECT_EQ(dlg.objectName(), QStringLiteral("VRX3DEffectEditorDlg"));
   const std::tuple<const char*, const char*, const char*> expected[] = {
       {"btngetpic", "&Picture >>", "Specify a picture for the 3D-effect."},
       {"btngetcap", "&Caption >>", "Specify a VRXCaption for the 3D-effect."},

@@ -1,4 +1,6 @@
 // Building a mask in the region dialog.
+#include <set>
+
 #include "tests/package/RegionDialogTest.h"
 
 using namespace pixeltest;
@@ -103,6 +105,73 @@ TEST_F(RegionBuild, NothingCanBeChangedOrConfirmedWhileItRuns) {
             BuildWindowRegion(BarOnSilver(), Silver, TRegionBorder::None, nullptr).RegionData());
 }
 
+// Wherever the run is: the first percentages are of the region, those from 50 on of the border.
+TEST_F(RegionBuild, CancelEndsItAtTheNextPoint) {
+  for (const int from : {0, 20, 55, 80}) {
+    RunSteps steps;
+    SetUp();
+    dlg.cl->clear();
+    Pick();
+    Choose(dlg.cb, QStringLiteral("Raised"));
+    dlg.pages->setCurrentIndex(1);
+    int handled = 0, percent = -1;
+    QTimer timer;
+    QObject::connect(&timer, &QTimer::timeout, [&] {
+      if (percent >= 0) {
+        ++handled;
+      } else if (dlg.Progress->Percent() >= from) {
+        percent = dlg.Progress->Percent();
+        Click(dlg.CancelButton);
+      }
+    });
+    timer.start(0);
+    Click(dlg.BuildButton);
+    EXPECT_EQ(handled, 0) << from;
+    EXPECT_GE(percent, from);
+    EXPECT_LT(percent, 100);
+    EXPECT_EQ(dlg.Progress->Percent(), percent) << from;
+    EXPECT_FALSE(dlg.isVisible());
+    EXPECT_EQ(dlg.result(), QDialog::Rejected);
+    EXPECT_FALSE(dlg.mask->HasRegion());
+    EXPECT_TRUE(dlg.mask->BorderPicture().isNull());
+    EXPECT_TRUE(dlg.Result->sizeHint().isEmpty());
+  }
+}
+
+TEST_F(RegionBuild, EscapeAndClosingEndItToo) {
+  for (const bool escape : {false, true}) {
+    RunSteps steps;
+    SetUp();
+    Pick();
+    dlg.pages->setCurrentIndex(1);
+    steps.Next([&] {
+      if (escape)
+        QTest::keyClick(&dlg, Qt::Key_Escape);
+      else
+        dlg.close();
+    });
+    Click(dlg.BuildButton);
+    EXPECT_FALSE(dlg.isVisible());
+    EXPECT_FALSE(dlg.mask->HasRegion()) << escape;
+  }
+}
+
+TEST_F(RegionBuild, EventsAreHandledWhileTheBorderIsPainted) {
+  RunSteps steps;
+  Pick();
+  Choose(dlg.cb, QStringLiteral("Single"));
+  dlg.pages->setCurrentIndex(1);
+  std::set<int> percents;
+  QTimer timer;
+  QObject::connect(&timer, &QTimer::timeout, [&] { percents.insert(dlg.Progress->Percent()); });
+  timer.start(0);
+  Click(dlg.BuildButton);
+  const TRegionBuild build = BuildWindowRegion(BarOnSilver(), Silver, TRegionBorder::Single, nullptr);
+  const TRect box = build.Region->Bounds();
+  for (int x = box.Left; x <= box.Right; ++x)
+    EXPECT_TRUE(percents.contains(50 + static_cast<int>(RoundHalfEven(50 * (x + 1), box.Right)))) << x;
+}
+
 TEST_F(RegionBuild, CompressionAndDepthAreWrittenToTheMask) {
   dlg.pages->setCurrentIndex(1);
   dlg.ccb->click();
@@ -134,6 +203,7 @@ TEST_F(RegionBuild, EveryControlHasItsNameAndHint) {
   }
   for (const char* name : {"DimLabel", "ViewLabel", "cc", "ccb", "colb", "OKButton", "VRXScrollBox1"})
     EXPECT_NE(dlg.findChild<QWidget*>(QLatin1StringView(name)), nullptr) << name;
+  EXPECT_EQ(dlg.objectName(), QStringLiteral("VRXfrmRegionFromBMPdlg"));
   EXPECT_EQ(dlg.pages->tabText(0), QStringLiteral("Image/Colors"));
   EXPECT_EQ(dlg.pages->tabText(1), QStringLiteral("Border/Build"));
   EXPECT_EQ(dlg.OKButton->text(), QStringLiteral("Ok"));

@@ -125,11 +125,23 @@ TEST_F(RegionDialog, TheZoomBoxPicksWhatItShows) {
   EXPECT_TRUE(dlg.BuildButton->isEnabled());
 }
 
-TEST_F(RegionDialog, ThePixelsThatAreMissingInTheZoomCannotBePicked) {
+TEST_F(RegionDialog, ACellBeyondThePicturePicksTheColourItShows) {
   Load(Colorful(12, 8));
   PressAt(Qt::RightButton, 3, 3);
+  MoveTo(dlg.zoom, CellPlace(0, 0));
+  EXPECT_EQ(dlg.cc->text(), ColorToString(clInvalid));
+  dlg.BuildButton->setEnabled(false);
   PressCell(0, 0);
-  EXPECT_EQ(Listed(), "");
+  PressCell(1, 0);
+  EXPECT_EQ(Listed(), ColorToString(clInvalid).toStdString());
+  EXPECT_TRUE(dlg.BuildButton->isEnabled());
+  const auto at = [](QWidget& widget, QPoint place) { return widget.grab().toImage().pixelColor(place); };
+  const QRect item = dlg.cl->visualItemRect(dlg.cl->item(0));
+  EXPECT_EQ(at(*dlg.cl->viewport(), item.topLeft() + QPoint(3, 1)), at(*dlg.zoom, CellPlace(0, 0)));
+  // No pixel of the picture has it.
+  dlg.pages->setCurrentIndex(1);
+  Click(dlg.BuildButton);
+  EXPECT_EQ(dlg.mask->Region(), TRegion(TRect{0, 0, 11, 8}));
 }
 
 TEST_F(RegionDialog, TheColourUnderTheMouseIsShown) {

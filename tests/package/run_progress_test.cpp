@@ -39,6 +39,16 @@ TEST(RunProgress, AnIntervalOfZeroHandlesThemAfterEveryStep) {
   EXPECT_EQ(HandledAt(3, [] {}), (std::vector{1, 2, 3}));
 }
 
+TEST(RunProgress, StepsThatNobodySeesAreTakenTogether) {
+  TVRXProgressBar bar(0);
+  const RunProgress progress(bar);
+  EXPECT_EQ(progress.Unwatched(1), 1);
+  EXPECT_EQ(progress.Unwatched(70000), 70000);
+  EXPECT_LT(progress.Unwatched(std::int64_t{1} << 40), std::int64_t{1} << 40);
+  const pixeltest::RunSteps steps;
+  EXPECT_EQ(progress.Unwatched(70000), 1);
+}
+
 TEST(RunProgress, TheMachinesClockGoesOn) {
   const std::int64_t before = ClockMilliseconds();
   {
