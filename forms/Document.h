@@ -118,6 +118,7 @@ struct Dialect {
   bool fixedFloats = true;        // 18 decimals instead of 15 significant digits
   bool literalHighBytes = false;  // non-ASCII as UTF-8 instead of #n
   QByteArray eol = "\n";
+  bool foreignWords = false;  // values may have names that only another framework knows
 };
 
 class Document {
@@ -163,7 +164,8 @@ class Document {
 
   // The document in its own form: untouched parts are copied.
   QByteArray Write() const;
-  // The document in another form. Asking for its own form is the same as Write().
+  // The document in another form. Asking for its own form is the same as Write(). EFormError when the form
+  // cannot hold all of it.
   QByteArray WriteAs(Format format) const;
   // The text of one object, as the clipboard carries it.
   QByteArray ObjectText(const Object& object) const;
@@ -175,6 +177,7 @@ class Document {
   void WriteTextObject(class TextWriter& out, const Object& object, int level) const;
   void WriteBinaryObject(class BinaryWriter& out, const Object& object, bool copy) const;
   void DescribeCodePage();
+  void RequireOneRoot() const;
   QByteArrayView Slice(Span span) const;
   std::size_t OffsetOf(QByteArrayView piece) const {
     return static_cast<std::size_t>(piece.data() - source_.constData());
@@ -195,6 +198,7 @@ class Document {
   bool lclStream_ = false;  // code 21 is a string
   QByteArray codePage_;
   std::deque<QByteArray> interned_;
+  mutable Locator locator_;
 };
 
 constexpr int MaxDepth = 400;                            // nesting of objects and of values

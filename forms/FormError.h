@@ -1,5 +1,7 @@
 // What went wrong in a form file, and exactly where.
 #pragma once
+#include <vector>
+
 #include "rtl/Exceptions.h"
 
 namespace forms {
@@ -13,6 +15,15 @@ struct Location {
 
 // The place of a byte offset in a text. Columns count characters when the line is UTF-8, else bytes.
 Location LocationOf(QByteArrayView text, std::size_t offset);
+
+// The same for many places of one text: what was counted once is not counted again.
+class Locator {
+ public:
+  Location At(QByteArrayView text, std::size_t offset);
+
+ private:
+  std::vector<Location> passed_;  // in steps of one size
+};
 
 class EFormError : public Exception {
  public:
