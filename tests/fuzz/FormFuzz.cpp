@@ -1,7 +1,5 @@
 #include "tests/fuzz/FormFuzz.h"
 
-#include <cstdio>
-#include <cstdlib>
 #include <optional>
 
 namespace formfuzz {
@@ -10,12 +8,6 @@ namespace {
 using forms::Document;
 using forms::EFormError;
 using forms::Format;
-
-void Require(bool holds, const char* what) {
-  if (holds) return;
-  std::fprintf(stderr, "does not hold: %s\n", what);
-  std::abort();
-}
 
 std::optional<Document> TryParse(const QByteArray& bytes) {
   try {
@@ -31,6 +23,8 @@ std::optional<QByteArray> TryWriteAs(const Document& doc, Format format) {
     return doc.WriteAs(format);
   } catch (const EFormError& e) {
     // Streams may hold names that are no words, texts paths that are too long for a stream.
+    // What stands behind the root has no place in another form.
+    if (e.Text().contains(QStringLiteral("stands behind"))) return {};
     const bool known = format == Format::Text
                            ? e.Text().contains(QStringLiteral("cannot be written as text"))
                            : e.Text().contains(QStringLiteral("255")) ||
