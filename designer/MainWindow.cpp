@@ -32,6 +32,11 @@ MainWindow::MainWindow(PackageManager& packages) : packages_(packages) {
   RestoreFormColors();
   BuildPanes();
   BuildActions();
+  // Told later: it may be a question of the middle of painting.
+  SetPackageProblemListener([this](const QString& message) {
+    QMetaObject::invokeMethod(
+        this, [this, message] { findChild<MessageBar*>()->Tell(message); }, Qt::QueuedConnection);
+  });
   connect(&packages_, &PackageManager::ClassesChanged, this, [this] {
     palette_->Reload();
     if (session_) {
@@ -49,6 +54,7 @@ MainWindow::MainWindow(PackageManager& packages) : packages_(packages) {
 }
 
 MainWindow::~MainWindow() {
+  SetPackageProblemListener(nullptr);
   inspector_->SetSession(nullptr);
   structure_->SetSession(nullptr);
   surface_->SetSession(nullptr);

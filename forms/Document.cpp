@@ -370,7 +370,6 @@ void Document::RequireOneRoot() const {
 
 QByteArray Document::WriteAs(Format format) const {
   if (format == format_) return Write();
-  RequireOneRoot();
   if (template_)
     throw Exception(QStringLiteral("This is a form template with {$...} lines; it has no binary form."));
   if (format == Format::Text) return ObjectText(*root_);

@@ -164,9 +164,11 @@ class Document {
 
   // The document in its own form: untouched parts are copied.
   QByteArray Write() const;
-  // The document in another form. Asking for its own form is the same as Write(). EFormError when the form
-  // cannot hold all of it.
+  // The document in another form. Asking for its own form is the same as Write().
   QByteArray WriteAs(Format format) const;
+  // Another form than its own holds one root and nothing behind it. EFormError, with the place, when there is
+  // more.
+  void RequireOneRoot() const;
   // The text of one object, as the clipboard carries it.
   QByteArray ObjectText(const Object& object) const;
 
@@ -177,7 +179,6 @@ class Document {
   void WriteTextObject(class TextWriter& out, const Object& object, int level) const;
   void WriteBinaryObject(class BinaryWriter& out, const Object& object, bool copy) const;
   void DescribeCodePage();
-  void RequireOneRoot() const;
   QByteArrayView Slice(Span span) const;
   std::size_t OffsetOf(QByteArrayView piece) const {
     return static_cast<std::size_t>(piece.data() - source_.constData());

@@ -23,8 +23,6 @@ std::optional<QByteArray> TryWriteAs(const Document& doc, Format format) {
     return doc.WriteAs(format);
   } catch (const EFormError& e) {
     // Streams may hold names that are no words, texts paths that are too long for a stream.
-    // What stands behind the root has no place in another form.
-    if (e.Text().contains(QStringLiteral("stands behind"))) return {};
     const bool known = format == Format::Text
                            ? e.Text().contains(QStringLiteral("cannot be written as text"))
                            : e.Text().contains(QStringLiteral("255")) ||
