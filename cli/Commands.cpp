@@ -1,33 +1,45 @@
 #include "cli/Commands.h"
 
 #include "dclstd/StandardEditors.h"
+#include "designintf/PackageCall.h"
 #include "ide/PackageManager.h"
 #include "rtl/Exceptions.h"
+#include "rtl/Printable.h"
 
 const std::vector<CommandRow>& CommandTable() {
   static const std::vector<CommandRow> table{
       {"check", "FILE... [--strict]",
        "Reads forms and lists what is wrong with them, one line per finding:\n"
-       "FILE:LINE:COL: error|warning|note: TEXT. Unknown classes and properties are\n"
-       "notes, with --strict errors. Exit code 1 with errors or warnings.",
+       "FILE:LINE:COL: error|warning|note: TEXT. Unknown classes and properties, and\n"
+       "names of values that only another framework knows, are notes, with --strict\n"
+       "errors. Exit code 1 with errors or warnings.",
        CheckCommand},
-      {"convert", "IN OUT [--to text|binary|resource]",
+      {"convert", "IN OUT [--to text|binary|resource] [--eol lf|crlf]",
        "Converts between form text, a bare TPF0 stream and a stream wrapped as a\n"
        "resource. Without --to, text becomes a resource and the others become text.\n"
        "\"-\" is standard input or output. A form that is in the wanted form already\n"
-       "comes out byte for byte.",
+       "comes out byte for byte. --eol ends the lines of text; without it new text has\n"
+       "the line ends of the file it replaces, or of the forms beside it, else CRLF in\n"
+       "a .dfm and LF elsewhere.",
        ConvertCommand},
-      {"render", "FORM -o PNG [--scale F] [--theme light|dark]", "Draws a form as a picture.", RenderCommand},
+      {"render", "FORM -o PICTURE [--scale F] [--theme light|dark]",
+       "Draws a form as a picture. The name says which kind: .png, .jpg, .bmp or what\n"
+       "else can be written here; without a suffix, and on standard output, it is PNG.",
+       RenderCommand},
       {"get", "FORM COMPONENT[.PROPERTY]", "Prints a property, or all of a component, as form text.",
        GetCommand},
       {"set", "FORM COMPONENT.PROPERTY=VALUE... [-o OUT]",
        "Changes properties; values are written as in form text ('a string', clRed,\n"
        "[a, b], 12). A refused value says why, and nothing is written.",
        SetCommand},
-      {"package", "[--json]", "Prints the description record of the design-time package.", PackageCommand},
-      {"registrations", "[--labeled] [--json]",
-       "Lists every registration call of the package in order. --labeled switches the\n"
-       "labeled variants on.",
+      {"package", "[PACKAGE] [--json]",
+       "Prints the description record of a package, without running its code. PACKAGE is\n"
+       "a name or a file; without it, the library's design-time package.",
+       PackageCommand},
+      {"registrations", "[PACKAGE] [--labeled] [--json]",
+       "Lists every registration call of a package in order, unit by unit. PACKAGE is a\n"
+       "name or a file; without it, the library's design-time package. --labeled\n"
+       "switches the labeled variants on. Exit code 1 when nothing is registered.",
        RegistrationsCommand},
       {"effect3d",
        "SOURCE --up PNG --down PNG --disabled PNG [--transparent C] [--light C] [--shadow C] [--dither C] "
@@ -88,25 +100,73 @@ Arguments ParseArguments(const QStringList& list, const QStringList& withValue, 
   return result;
 }
 
-void LoadClasses(Console& console, bool labeled) {
+void Console::Tell(const QString& message) const { err << Printable(message) << Qt::endl; }
+
+QString LoadClasses(Console& console, bool labeled, const QString& package) {
   static PackageManager* packages = nullptr;
-  if (packages) return;
+  const QString wanted = package.isEmpty() ? PackageManager::DefaultPackage() : package;
   if (labeled) qputenv("ORLENVOKITEDITOROPTIONS", "1");
-  RegisterStandard();
-  packages = new PackageManager(PackageManager::DefaultFolders());  // for the life of the process
-  try {
-    packages->Load(PackageManager::DefaultPackage());
-  } catch (const std::exception& e) {
-    console.err << "vrx: " << ExceptionMessage(e) << Qt::endl;
+  if (!packages) {
+    RegisterStandard();
+    packages = new PackageManager(PackageManager::DefaultFolders());  // for the life of the process
+    SetPackageProblemListener(
+        [&console](const QString& message) { console.Tell(QStringLiteral("vrx: ") + message); });
   }
+  try {
+    const QString name = packages->ReadRecord(wanted).Name;
+    if (packages->IsLoaded(name)) return name;
+    packages->Load(wanted);
+    for (const QString& warning : packages->Warnings())
+      console.Tell(QStringLiteral("vrx: warning: ") + warning);
+    return name;
+  } catch (const std::exception& e) {
+    console.Tell(QStringLiteral("vrx: ") + ExceptionMessage(e));
+  }
+  return {};
 }
 
 namespace {
+constexpr int Columns = 100;
+
+// What a command takes, broken between its arguments; the lines after the first are indented.
+QString Synopsis(const CommandRow& row, const QString& lead) {
+  const QString text = QString::fromLatin1(row.arguments);
+  QStringList pieces;
+  int depth = 0;
+  qsizetype from = 0;
+  for (qsizetype i = 0; i <= text.size(); ++i) {
+    const QChar c = i < text.size() ? text[i] : QChar(u' ');
+    if (c == u'[') ++depth;
+    if (c == u']') --depth;
+    // A value stays behind its option.
+    if (c != u' ' || depth > 0) continue;
+    if (text[from] != u'-' && text[from] != u'[' && !pieces.isEmpty() && !pieces.last().contains(u' ') &&
+        pieces.last().startsWith(QStringLiteral("--")))
+      pieces.last() += u' ' + text.mid(from, i - from);
+    else
+      pieces << text.mid(from, i - from);
+    from = i + 1;
+  }
+  QString result, line = lead + QStringLiteral("vrx ") + QString::fromLatin1(row.name);
+  const QString indent(lead.size() + 8, u' ');
+  for (const QString& piece : pieces) {
+    if (line.size() + 1 + piece.size() > Columns) {
+      result += line + u'\n';
+      line = indent + piece;
+    } else {
+      line += u' ' + piece;
+    }
+  }
+  return result + line;
+}
+
+QString Usage(const CommandRow& row) { return Synopsis(row, QStringLiteral("Usage: ")); }
+
 void PrintHelp(QTextStream& out) {
   out << "vrx - works on form files without a display\n\nUsage: vrx COMMAND ARGUMENTS\n       vrx --help | "
          "--version\n";
   for (const CommandRow& row : CommandTable()) {
-    out << "\n  vrx " << row.name << ' ' << row.arguments << '\n';
+    out << '\n' << Synopsis(row, QStringLiteral("  ")) << '\n';
     for (const QString& line : QString::fromLatin1(row.help).split(u'\n')) out << "      " << line << '\n';
   }
   out.flush();
@@ -126,23 +186,24 @@ int RunVrx(const QStringList& arguments, Console& console) {
   for (const CommandRow& row : CommandTable()) {
     if (first != QLatin1StringView(row.name)) continue;
     if (arguments.contains(QStringLiteral("--help"))) {
-      console.out << "Usage: vrx " << row.name << ' ' << row.arguments << "\n\n" << row.help << Qt::endl;
+      console.out << Usage(row) << "\n\n" << row.help << Qt::endl;
       return ExitOk;
     }
     try {
       return row.run(arguments.mid(1), console);
     } catch (const UsageError& e) {
-      console.err << "vrx " << row.name << ": " << e.text << "\nUsage: vrx " << row.name << ' '
-                  << row.arguments << Qt::endl;
+      console.Tell(QStringLiteral("vrx %1: %2").arg(QString::fromLatin1(row.name), e.text));
+      console.err << Usage(row) << Qt::endl;
       return ExitUsage;
-    } catch (const std::exception& e) {
-      console.err << "vrx " << row.name << ": " << ExceptionMessage(e) << Qt::endl;
+    } catch (...) {
+      console.Tell(
+          QStringLiteral("vrx %1: %2").arg(QString::fromLatin1(row.name), CurrentExceptionMessage()));
       return ExitFindings;
     }
   }
   if (first.isEmpty())
     console.err << "vrx: a command is missing; vrx --help lists them" << Qt::endl;
   else
-    console.err << "vrx: unknown command \"" << first << "\"; vrx --help lists the commands" << Qt::endl;
+    console.Tell(QStringLiteral("vrx: unknown command \"%1\"; vrx --help lists the commands").arg(first));
   return ExitUsage;
 }

@@ -9,6 +9,8 @@ enum ExitCode { ExitOk = 0, ExitFindings = 1, ExitUsage = 2 };
 struct Console {
   QTextStream& out;
   QTextStream& err;
+  // A message: one line, whatever a file or package has put into it.
+  void Tell(const QString& message) const;
 };
 
 struct CommandRow {
@@ -36,8 +38,8 @@ struct Arguments {
 Arguments ParseArguments(const QStringList& list, const QStringList& withValue, const QStringList& flags);
 
 // Makes the host's classes and, when it can be loaded, the package's known; a package that cannot is told on
-// `err`.
-void LoadClasses(Console& console, bool labeled = false);
+// `err`. Empty: the design-time package of the library. The name of what was loaded, empty for nothing.
+QString LoadClasses(Console& console, bool labeled = false, const QString& package = {});
 
 int CheckCommand(const QStringList& arguments, Console& console);
 int ConvertCommand(const QStringList& arguments, Console& console);

@@ -1,4 +1,7 @@
+#include <QFileInfo>
 #include <QImage>
+#include <QImageWriter>
+#include <QPainter>
 
 #include "cli/Commands.h"
 #include "forms/FormFile.h"
@@ -8,6 +11,7 @@
 #include "ide/StandIns.h"
 #include "ide/Tiles.h"
 #include "rtl/Exceptions.h"
+#include "rtl/Printable.h"
 #include "vcl/FormColors.h"
 
 using namespace forms;
@@ -45,6 +49,49 @@ TComponent& ComponentOf(FormSession& session, const QString& text, QByteArray& p
   }
   throw Exception(QStringLiteral("%1 has no component named \"%2\"").arg(session.FileName(), name));
 }
+// A value of a stranger's form as form text that is harmless on a terminal: what would act there is written
+// as #n in strings, and names, which are anything in a stream, are escaped.
+Value Harmless(Value v, const Document& document) {
+  if (v.IsString()) {
+    const QString text = document.Decode(v);
+    if (std::any_of(text.begin(), text.end(), IsControl)) {
+      v.type = ValueType::WString;
+      v.wide = text;
+    }
+  } else if (v.type == ValueType::Ident) {
+    v.bytes = Printable(QString::fromUtf8(v.bytes)).toUtf8();
+  }
+  for (QByteArray& element : v.elements) element = Printable(QString::fromUtf8(element)).toUtf8();
+  for (Value& item : v.items) item = Harmless(std::move(item), document);
+  for (CollectionItem& item : v.collection)
+    for (NamedValue& p : item.properties) {
+      p.path = Printable(QString::fromUtf8(p.path)).toUtf8();
+      p.value = Harmless(std::move(p.value), document);
+    }
+  return v;
+}
+
+QString ShownValue(const Value& value, const Document& document) {
+  QByteArray text = ValueToText(Harmless(value, document), document.Style());
+  // The one control character that form text keeps within its quotes.
+  text.replace('\x7F', "'#127'");
+  return QString::fromUtf8(text);
+}
+
+// Which kind of picture the name asks for.
+QByteArray PictureFormat(const QString& fileName) {
+  const QString suffix = fileName == QStringLiteral("-") ? QString() : QFileInfo(fileName).suffix().toLower();
+  if (suffix.isEmpty()) return "png";
+  static const QByteArrayList wanted{"png", "jpg", "jpeg", "bmp", "webp"};
+  QStringList possible;
+  for (const QByteArray& format : wanted)
+    if (QImageWriter::supportedImageFormats().contains(format))
+      possible << u'.' + QString::fromLatin1(format);
+  if (!possible.contains(u'.' + suffix))
+    throw UsageError{QStringLiteral("-o %1: pictures are written as %2")
+                         .arg(fileName, possible.join(QStringLiteral(", ")))};
+  return suffix.toLatin1();
+}
 }  // namespace
 
 int GetCommand(const QStringList& list, Console& console) {
@@ -62,25 +109,24 @@ int GetCommand(const QStringList& list, Console& console) {
                               property.first(path.size()).compare(path, Qt::CaseInsensitive) == 0);
   };
   if (const Property* p = path.isEmpty() ? nullptr : object.Find(path)) {
-    console.out << QString::fromUtf8(ValueToText(document.Read(*p), document.Style())) << Qt::endl;
+    console.out << ShownValue(document.Read(*p), document) << Qt::endl;
     return ExitOk;
   }
   // Whatever the file says, then what the component adds: the value of a property that is at its default.
   bool found = false;
   for (const Property& p : object.properties)
     if (below(p.Name())) {
-      console.out << QString::fromUtf8(p.Name().toByteArray()) << " = "
-                  << QString::fromUtf8(ValueToText(document.Read(p), document.Style())) << '\n';
+      console.out << Printable(QString::fromUtf8(p.Name())) << " = " << ShownValue(document.Read(p), document)
+                  << '\n';
       found = true;
     }
   if (!path.isEmpty())
     for (const StoredValue& v : PropertyValues(component, document, true)) {
       if (v.path.compare(path, Qt::CaseInsensitive) == 0) {
-        console.out << QString::fromUtf8(ValueToText(v.value, document.Style())) << '\n';
+        console.out << ShownValue(v.value, document) << '\n';
         found = true;
       } else if (below(v.path) && !object.Find(v.path)) {
-        console.out << QString::fromUtf8(v.path) << " = "
-                    << QString::fromUtf8(ValueToText(v.value, document.Style())) << '\n';
+        console.out << QString::fromUtf8(v.path) << " = " << ShownValue(v.value, document) << '\n';
         found = true;
       }
     }
@@ -151,12 +197,13 @@ int RenderCommand(const QStringList& list, Console& console) {
   const Arguments args =
       ParseArguments(list, {QStringLiteral("-o"), QStringLiteral("--scale"), QStringLiteral("--theme")}, {});
   if (args.values.size() != 1 || !args.Has(QStringLiteral("-o")))
-    throw UsageError{QStringLiteral("FORM and -o PNG are needed")};
+    throw UsageError{QStringLiteral("FORM and -o PICTURE are needed")};
   bool ok = true;
   const QString scaleText = args.options.value(QStringLiteral("--scale"), QStringLiteral("1"));
   const double scale = scaleText.toDouble(&ok);
   if (!ok || !(scale >= 0.05 && scale <= 20))
     throw UsageError{QStringLiteral("--scale takes a number from 0.05 to 20, not \"%1\"").arg(scaleText)};
+  const QByteArray format = PictureFormat(args.options.value(QStringLiteral("-o")));
   const QString theme = args.options.value(QStringLiteral("--theme"), QStringLiteral("light"));
   if (theme != QStringLiteral("light") && theme != QStringLiteral("dark"))
     throw UsageError{QStringLiteral("--theme takes light or dark, not \"%1\"").arg(theme)};
@@ -170,11 +217,22 @@ int RenderCommand(const QStringList& list, Console& console) {
         QStringLiteral("%1: the picture would have more than 200 million pixels; use a smaller --scale")
             .arg(args.values[0]));
   const QString file = args.options.value(QStringLiteral("-o"));
-  QByteArray png;
-  QBuffer buffer(&png);
+  QImage picture = RenderRoot(*session, scale);
+  // Other kinds keep no transparency; what is not the form is white then.
+  if (format != "png" && picture.hasAlphaChannel()) {
+    QImage opaque(picture.size(), QImage::Format_RGB32);
+    opaque.setDevicePixelRatio(picture.devicePixelRatio());
+    opaque.fill(Qt::white);
+    QPainter(&opaque).drawImage(QPoint(), picture);
+    picture = opaque;
+  }
+  QByteArray bytes;
+  QBuffer buffer(&bytes);
   buffer.open(QIODevice::WriteOnly);
-  if (!RenderRoot(*session, scale).save(&buffer, "PNG"))
-    throw Exception(QStringLiteral("The picture could not be made"));
-  WriteFile(file, png);
+  QImageWriter writer(&buffer, format);
+  writer.setQuality(format == "png" || format == "bmp" ? -1 : 95);
+  if (!writer.write(picture))
+    throw Exception(QStringLiteral("The picture could not be made: %1").arg(writer.errorString()));
+  WriteFile(file, bytes);
   return ExitOk;
 }

@@ -4,6 +4,7 @@
 #include "cli/Commands.h"
 #include "designintf/DesignIntf.h"
 #include "ide/PackageManager.h"
+#include "rtl/Printable.h"
 
 namespace {
 void PrintJson(QTextStream& out, const QJsonDocument& json) {
@@ -90,42 +91,106 @@ QString RowToText(const TRegistration& r) {
 }
 }  // namespace
 
+namespace {
+// The package to tell about.
+QString PackageArgument(const Arguments& args) {
+  if (args.values.size() > 1) throw UsageError{QStringLiteral("one PACKAGE is expected, not several")};
+  return args.values.value(0);
+}
+
+void PrintList(QTextStream& out, const QString& title, const QStringList& lines) {
+  out << '\n' << title << " (" << lines.size() << "):\n";
+  if (lines.isEmpty()) out << "  none\n";
+  for (const QString& line : lines) out << "  " << Printable(line) << '\n';
+}
+
+QString CallName(TRegistrationKind kind) {
+  switch (kind) {
+    case TRegistrationKind::Components:
+      return QStringLiteral("RegisterComponents");
+    case TRegistrationKind::Actions:
+      return QStringLiteral("RegisterActions");
+    case TRegistrationKind::ComponentEditor:
+      return QStringLiteral("RegisterComponentEditor");
+    case TRegistrationKind::PropertyEditor:
+      return QStringLiteral("RegisterPropertyEditor");
+    case TRegistrationKind::Category:
+      return QStringLiteral("RegisterPropertiesInCategory");
+  }
+  return {};
+}
+
+void PrintRows(QTextStream& out, const QString& package, const std::vector<const TRegistration*>& rows) {
+  std::map<TRegistrationKind, int> kinds;
+  std::map<QByteArray, int> units;
+  for (const TRegistration* r : rows) {
+    ++kinds[r->Kind];
+    ++units[r->Procedure];
+  }
+  QStringList calls;
+  for (const auto& [kind, count] : kinds) calls << QStringLiteral("%1 %2").arg(count).arg(CallName(kind));
+  out << "Package " << Printable(package) << ": " << rows.size() << " registrations in " << units.size()
+      << " units\n";
+  if (!calls.isEmpty()) out << calls.join(QStringLiteral(", ")) << '\n';
+  QByteArray unit;
+  for (const TRegistration* r : rows) {
+    if (r->Procedure != unit) {
+      unit = r->Procedure;
+      out << '\n' << Printable(QString::fromUtf8(unit)) << " (" << units[unit] << "):\n";
+    }
+    out << "  " << Printable(RowToText(*r)) << '\n';
+  }
+}
+}  // namespace
+
 int PackageCommand(const QStringList& list, Console& console) {
   const Arguments args = ParseArguments(list, {}, {QStringLiteral("--json")});
-  if (!args.values.isEmpty()) throw UsageError{QStringLiteral("no argument is expected")};
+  const QString wanted = PackageArgument(args);
+  PackageManager packages(PackageManager::DefaultFolders());
   const TPackageRecord record =
-      PackageManager(PackageManager::DefaultFolders()).ReadRecord(PackageManager::DefaultPackage());
+      packages.ReadRecord(wanted.isEmpty() ? PackageManager::DefaultPackage() : wanted);
+  for (const QString& warning : packages.Warnings())
+    console.Tell(QStringLiteral("vrx package: warning: ") + warning);
   if (args.Has(QStringLiteral("--json"))) {
     PrintJson(console.out, QJsonDocument(record.ToJson()));
     return ExitOk;
   }
-  const auto yes = [](bool b) { return b ? "yes" : "no"; };
-  console.out << "Package:      " << record.Name << "\nDescription:  " << record.Description
-              << "\nNever build:  " << yes(record.NeverBuild) << "\nDesign only:  " << yes(record.DesignOnly)
-              << "\nRun only:     " << yes(record.RunOnly) << "\nRequires (" << record.Requires.size()
-              << "):\n";
-  for (const QString& name : record.Requires) console.out << "  " << name << '\n';
-  console.out << "Contains (" << record.Contains.size() << "):\n";
-  for (const TPackageUnit& unit : record.Contains)
-    console.out << "  " << unit.Name << (unit.MainUnit ? " (main unit, package unit)" : "") << '\n';
+  QStringList flags, units;
+  if (record.NeverBuild) flags << QStringLiteral("never build");
+  if (record.DesignOnly) flags << QStringLiteral("design only");
+  if (record.RunOnly) flags << QStringLiteral("run only");
+  for (const TPackageUnit& unit : record.Contains) {
+    QStringList roles;
+    if (unit.MainUnit) roles << QStringLiteral("main unit");
+    if (unit.PackageUnit) roles << QStringLiteral("package unit");
+    units << (roles.isEmpty() ? unit.Name
+                              : QStringLiteral("%1 (%2)").arg(unit.Name, roles.join(QStringLiteral(", "))));
+  }
+  console.out << "Package:      " << Printable(record.Name)
+              << "\nDescription:  " << Printable(record.Description) << "\nFlags:        "
+              << (flags.isEmpty() ? QStringLiteral("none") : flags.join(QStringLiteral(", "))) << '\n';
+  PrintList(console.out, QStringLiteral("Requires"), record.Requires);
+  PrintList(console.out, QStringLiteral("Contains"), units);
+  if (!record.Provides.isEmpty()) PrintList(console.out, QStringLiteral("Provides"), record.Provides);
   console.out.flush();
   return ExitOk;
 }
 
 int RegistrationsCommand(const QStringList& list, Console& console) {
   const Arguments args = ParseArguments(list, {}, {QStringLiteral("--labeled"), QStringLiteral("--json")});
-  if (!args.values.isEmpty()) throw UsageError{QStringLiteral("no argument is expected")};
-  LoadClasses(console, args.Has(QStringLiteral("--labeled")));
-  QJsonArray rows;
-  QByteArray procedure;
-  for (const TRegistration& r : Registrations()) {
-    if (!r.Package) continue;  // the host's own
-    rows << RowToJson(r);
-    if (args.Has(QStringLiteral("--json"))) continue;
-    if (r.Procedure != procedure) console.out << (procedure = r.Procedure) << '\n';
-    console.out << "  " << RowToText(r) << '\n';
+  const QString package = LoadClasses(console, args.Has(QStringLiteral("--labeled")), PackageArgument(args));
+  std::vector<const TRegistration*> rows;
+  for (const TRegistration& r : Registrations())
+    if (r.Package && PackageName(r.Package) == package) rows.push_back(&r);
+  if (args.Has(QStringLiteral("--json"))) {
+    QJsonArray json;
+    for (const TRegistration* r : rows) json << RowToJson(*r);
+    PrintJson(console.out, QJsonDocument(json));
+  } else if (!package.isEmpty()) {
+    PrintRows(console.out, package, rows);
   }
-  if (args.Has(QStringLiteral("--json"))) PrintJson(console.out, QJsonDocument(rows));
   console.out.flush();
-  return rows.isEmpty() ? ExitFindings : ExitOk;
+  if (!package.isEmpty() && rows.empty())
+    console.Tell(QStringLiteral("vrx registrations: package %1 registers nothing").arg(package));
+  return rows.empty() ? ExitFindings : ExitOk;
 }

@@ -4,6 +4,7 @@
 #include <QFileInfo>
 #include <QThreadPool>
 
+#include "designintf/PackageCall.h"
 #include "forms/FormFile.h"
 #include "rtl/Exceptions.h"
 #include "vcl/PictureFile.h"
@@ -33,15 +34,15 @@ int RunOnAllCores(const QStringList& sources, Console& console, const QString& c
     pool.start([&, i] {
       try {
         job(sources[i]);
-      } catch (const std::exception& e) {
-        failures[static_cast<std::size_t>(i)] = ExceptionMessage(e);
+      } catch (...) {
+        failures[static_cast<std::size_t>(i)] = CurrentExceptionMessage();
       }
     });
   pool.waitForDone();
   int result = ExitOk;
   for (const QString& failure : failures) {
     if (failure.isEmpty()) continue;
-    console.err << "vrx " << command << ": " << failure << Qt::endl;
+    console.Tell(QStringLiteral("vrx %1: %2").arg(command, failure));
     result = ExitFindings;
   }
   return result;

@@ -3,6 +3,7 @@
 #include <QIcon>
 
 #include "designer/MainWindow.h"
+#include "designintf/PackageCall.h"
 #include "vcl/Theme.h"
 
 void UseThemeIcons() {
@@ -21,6 +22,9 @@ bool DesignerApplication::notify(QObject* receiver, QEvent* event) {
     return QApplication::notify(receiver, event);
   } catch (const std::exception& e) {
     ReportException(activeWindow(), e);
+    return true;
+  } catch (...) {
+    ReportException(activeWindow(), Exception(CurrentExceptionMessage()));
     return true;
   }
 }

@@ -7,9 +7,14 @@
 #include "designer/RowSelection.h"
 #include "designer/SearchField.h"
 #include "designer/ValueEditor.h"
+#include "designintf/DesignIntf.h"
 #include "rtl/Clock.h"
 
 using enum TPropertyAttribute;
+
+namespace {
+constexpr qsizetype LongestTyped = 32767;
+}  // namespace
 
 InspectorPane::InspectorPane(QWidget* parent) : QWidget(parent) {
   components_ = new ComponentBox;
@@ -240,7 +245,8 @@ void InspectorPane::ShowValue(bool keepTyping) {
   description_->setText(row.data(InspectorModel::DescriptionRole).toString());
   const TPropertyEditor* property = model_.EditorAt(row);
   if (!property) return HideEditor();
-  const TPropertyAttributes a = property->GetAttributes();
+  const auto a =
+      AskEditor(*property, "GetAttributes", TPropertyAttributes(), [&] { return property->GetAttributes(); });
   const bool isObject = property->GetPropType().Kind == TTypeKind::tkClass;
   const bool fixed =
       a.Contains(paReadOnly) || a.Contains(paDisplayReadOnly) || isObject || property->GetPropInfo().ReadOnly;
@@ -248,15 +254,23 @@ void InspectorPane::ShowValue(bool keepTyping) {
   setup.name = row.data(InspectorModel::PathRole).toString();
   setup.text = model_.ValueText(row);
   setup.bold = row.data(InspectorModel::NotDefaultRole).toBool();
-  setup.mixed = property->PropCount() > 1 && !property->AllEqual();
+  setup.mixed = property->PropCount() > 1 &&
+                !AskEditor(*property, "AllEqual", true, [&] { return property->AllEqual(); });
   if (a.Contains(paValueList)) setup.values = [this] { return model_.ValueList(CurrentRow()); };
   setup.readOnly = fixed && !a.Contains(paValueList);
   setup.dialog = a.Contains(paDialog);
+  // A field for one line would take minutes to lay this out.
+  if (setup.text.size() > LongestTyped) {
+    setup.text = InspectorModel::Shortened(setup.text);
+    setup.readOnly = true;
+  }
   // A longer value that is there already is not cut off.
-  setup.limit = std::max(property->GetEditLimit(), static_cast<int>(setup.text.size()));
+  setup.limit = std::max(AskEditor(*property, "GetEditLimit", 0, [&] { return property->GetEditLimit(); }),
+                         static_cast<int>(setup.text.size()));
   setup.iconOf = [this](const QString& v) {
     const TPropertyEditor* current = model_.EditorAt(CurrentRow());
-    return current ? current->GetValueIcon(v) : QIcon();
+    if (!current) return QIcon();
+    return AskEditor(*current, "GetValueIcon", QIcon(), [&] { return current->GetValueIcon(v); });
   };
   editor_->Show(setup, keepTyping);
   PlaceEditor();

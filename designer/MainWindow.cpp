@@ -32,6 +32,11 @@ MainWindow::MainWindow(PackageManager& packages) : packages_(packages) {
   RestoreFormColors();
   BuildPanes();
   BuildActions();
+  // Told later: it may be a question of the middle of painting.
+  SetPackageProblemListener([this](const QString& message) {
+    QMetaObject::invokeMethod(
+        this, [this, message] { findChild<MessageBar*>()->Tell(message); }, Qt::QueuedConnection);
+  });
   connect(&packages_, &PackageManager::ClassesChanged, this, [this] {
     palette_->Reload();
     if (session_) {
@@ -49,6 +54,7 @@ MainWindow::MainWindow(PackageManager& packages) : packages_(packages) {
 }
 
 MainWindow::~MainWindow() {
+  SetPackageProblemListener(nullptr);
   inspector_->SetSession(nullptr);
   structure_->SetSession(nullptr);
   surface_->SetSession(nullptr);
@@ -455,15 +461,22 @@ void MainWindow::ShowContextMenu(const QPoint& pos) {
   std::unique_ptr<TComponentEditor> editor;
   if (selected.size() == 1) {
     editor = GetComponentEditor(selected[0], session_.get());
-    for (int i = 0; i < editor->GetVerbCount(); ++i) {
-      const QString verb = editor->GetVerb(i);
+    const auto call = [component = selected[0]](const char* member) {
+      return [component, member] { return CallOf(*component, member); };
+    };
+    const int verbs = AskPackage(call("GetVerbCount"), 0, [&] { return editor->GetVerbCount(); });
+    for (int i = 0; i < verbs; ++i) {
+      const QString verb =
+          AskPackage(call("GetVerb"), QStringLiteral("-"), [&] { return editor->GetVerb(i); });
       if (verb == QStringLiteral("-")) {
         menu.addSeparator();
         continue;
       }
       menu.addAction(verb, this, [&, i, verb] {
         try {
-          session_->Run(QString(verb).remove(u'&'), selected, [&] { editor->ExecuteVerb(i); });
+          session_->Run(QString(verb).remove(u'&'), selected, [&, run = CallOf(*selected[0], "ExecuteVerb")] {
+            PackageCall([&] { return run; }, [&] { editor->ExecuteVerb(i); });
+          });
         } catch (const std::exception& e) {
           ReportException(this, e);
         }

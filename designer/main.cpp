@@ -7,10 +7,16 @@
 #include "designer/MainWindow.h"
 #include "designer/Pictures.h"
 #include "rtl/Exceptions.h"
+#include "rtl/OwnMessages.h"
+#include "rtl/Printable.h"
 #include "vcl/Prompts.h"
 #include "vcl/Theme.h"
 
 int main(int argc, char** argv) {
+  std::FILE* const messages = TakeStandardError();
+  qInstallMessageHandler([](QtMsgType, const QMessageLogContext&, const QString& text) {
+    std::fprintf(TakeStandardError(), "%s\n", qPrintable(Printable(text)));
+  });
   DesignerApplication app(argc, argv);
   QCommandLineParser options;
   options.setApplicationDescription(QObject::tr("Designs forms."));
@@ -42,17 +48,18 @@ int main(int argc, char** argv) {
   } catch (const std::exception& e) {
     packageProblem = ExceptionMessage(e);
   }
+  if (packageProblem.isEmpty()) packageProblem = packages.Warnings().join(u'\n');
 
   const QString form = options.positionalArguments().value(0);
   if (options.isSet(pictures)) {
-    QTextStream err(stderr);
-    if (!packageProblem.isEmpty()) err << packageProblem << Qt::endl;
+    QTextStream err(messages);
+    if (!packageProblem.isEmpty()) err << Printable(packageProblem) << Qt::endl;
     try {
       for (const QString& file : TakePictures(packages, form, options.value(pictures)))
         QTextStream(stdout) << file << Qt::endl;
       return 0;
     } catch (const std::exception& e) {
-      err << ExceptionMessage(e) << Qt::endl;
+      err << Printable(ExceptionMessage(e)) << Qt::endl;
       return 1;
     }
   }

@@ -24,8 +24,8 @@ void TDefaultEditor::Edit() {
     else if (!first && editor->GetPropInfo().IsEvent())
       first = std::move(editor);
   });
-  if (best)
-    best->Edit();
-  else if (first)
-    first->Edit();
+  TPropertyEditor* editor = best ? best.get() : first.get();
+  if (!editor) return;
+  // What it does may take the component away.
+  PackageCall([call = CallOf(*editor, "Edit")] { return call; }, [&] { editor->Edit(); });
 }

@@ -9,6 +9,7 @@ struct State {
   const void* package = nullptr;
   QByteArray procedure;
   std::function<void()> changed;
+  QHash<const void*, QString> names;
 };
 State& Design() {
   static State state;
@@ -91,6 +92,41 @@ TPropertyEditorClass EditorForKind(const TPropInfo& prop) {
   }
 }
 
+const TRegistration* BestRow(const TPersistent& instance, const TPropInfo& prop) {
+  const TRegistration* best = nullptr;
+  Fit bestFit;
+  for (const TRegistration& row : Design().rows)
+    if (const auto fit = FitOf(row, instance, prop); fit && (!best || *fit >= bestFit)) {
+      best = &row;
+      bestFit = *fit;
+    }
+  return best;
+}
+
+const TRegistration* BestRow(const TComponent& component) {
+  const TRegistration* best = nullptr;
+  for (const TRegistration& row : Design().rows)
+    if (row.Kind == TRegistrationKind::ComponentEditor && component.InheritsFrom(*row.ComponentClass) &&
+        (!best || Depth(row.ComponentClass) >= Depth(best->ComponentClass)))
+      best = &row;
+  return best;
+}
+
+QString PackageOf(const TClass& cls) {
+  for (const TClass* c = &cls; c; c = c->ClassParent())
+    for (const TRegistration& row : Design().rows)
+      if (row.Package && row.Kind == TRegistrationKind::Components &&
+          std::find(row.Classes.begin(), row.Classes.end(), c) != row.Classes.end())
+        return PackageName(row.Package);
+  return {};
+}
+
+TPackageCall CallFrom(const TRegistration* row, const QByteArray& editor, const TClass& cls,
+                      const char* member) {
+  if (row && row->Package) return {PackageName(row->Package), QString::fromLatin1(editor + '.' + member)};
+  return {PackageOf(cls), QString::fromLatin1(cls.ClassName() + '.' + member)};
+}
+
 std::vector<TPalettePage> Pages(TRegistrationKind kind) {
   std::vector<TPalettePage> pages;
   for (const TRegistration& row : Design().rows) {
@@ -112,6 +148,23 @@ RegistrationScope::RegistrationScope(const void* package, QByteArray procedure)
 RegistrationScope::~RegistrationScope() {
   Design().package = package_;
   Design().procedure = procedure_;
+}
+
+void NamePackage(const void* package, const QString& name) { Design().names.insert(package, name); }
+QString PackageName(const void* package) { return Design().names.value(package); }
+
+TPackageCall CallOf(const TPropertyEditor& editor, const char* member) {
+  const TPersistent& instance = *editor.GetComponent(0);
+  const TRegistration* row = BestRow(instance, editor.GetPropInfo());
+  return CallFrom(row, row && row->PropertyEditor ? row->PropertyEditor->Name : QByteArray(),
+                  instance.ClassType(), member);
+}
+TPackageCall CallOf(const TComponent& component, const char* member) {
+  const TRegistration* row = BestRow(component);
+  return CallFrom(row, row ? row->ComponentEditor->Name : QByteArray(), component.ClassType(), member);
+}
+TPackageCall ConstructorOf(const TClass& cls) {
+  return {PackageOf(cls), QString::fromLatin1(cls.ClassName() + ".constructor")};
 }
 
 const std::vector<TRegistration>& Registrations() { return Design().rows; }
@@ -181,16 +234,15 @@ std::vector<TPalettePage> ActionCategories() { return Pages(TRegistrationKind::A
 
 std::unique_ptr<TPropertyEditor> CreatePropertyEditor(IDesigner* designer, TInstProps props) {
   const TInstProp& first = props.front();
-  const TRegistration* best = nullptr;
-  Fit bestFit;
-  for (const TRegistration& row : Design().rows)
-    if (const auto fit = FitOf(row, *first.Instance, *first.PropInfo); fit && (!best || *fit >= bestFit)) {
-      best = &row;
-      bestFit = *fit;
-    }
-  if (best && !best->PropertyEditor) return nullptr;
-  const TPropertyEditorClass editor = best ? *best->PropertyEditor : EditorForKind(*first.PropInfo);
-  return editor.Create(designer, std::move(props));
+  const TRegistration* row = BestRow(*first.Instance, *first.PropInfo);
+  if (row && !row->PropertyEditor) return nullptr;
+  const TPropertyEditorClass usual = EditorForKind(*first.PropInfo);
+  if (!row) return usual.Create(designer, std::move(props));
+  const TPropertyEditorClass editor = *row->PropertyEditor;
+  auto made =
+      AskPackage([&] { return CallFrom(row, editor.Name, first.Instance->ClassType(), "constructor"); },
+                 std::unique_ptr<TPropertyEditor>(), [&] { return editor.Create(designer, props); });
+  return made ? std::move(made) : usual.Create(designer, std::move(props));
 }
 
 void GetComponentProperties(const TDesignerSelections& objects, IDesigner* designer,
@@ -208,18 +260,21 @@ void GetComponentProperties(const TDesignerSelections& objects, IDesigner* desig
     if (props.size() != objects.size()) continue;
     auto editor = CreatePropertyEditor(designer, std::move(props));
     if (!editor) continue;
-    if (objects.size() > 1 && !editor->GetAttributes().Contains(TPropertyAttribute::paMultiSelect)) continue;
+    const auto together = [&] { return editor->GetAttributes().Contains(TPropertyAttribute::paMultiSelect); };
+    if (objects.size() > 1 && !AskPackage([&] { return CallOf(*editor, "GetAttributes"); }, false, together))
+      continue;
     proc(std::move(editor));
   }
 }
 
 std::unique_ptr<TComponentEditor> GetComponentEditor(TComponent* component, IDesigner* designer) {
-  const TRegistration* best = nullptr;
-  for (const TRegistration& row : Design().rows)
-    if (row.Kind == TRegistrationKind::ComponentEditor && component->InheritsFrom(*row.ComponentClass) &&
-        (!best || Depth(row.ComponentClass) >= Depth(best->ComponentClass)))
-      best = &row;
-  if (best) return best->ComponentEditor->Create(component, designer);
+  if (const TRegistration* row = BestRow(*component)) {
+    const TComponentEditorClass editor = *row->ComponentEditor;
+    auto made =
+        AskPackage([&] { return CallFrom(row, editor.Name, component->ClassType(), "constructor"); },
+                   std::unique_ptr<TComponentEditor>(), [&] { return editor.Create(component, designer); });
+    if (made) return made;
+  }
   return std::make_unique<TDefaultEditor>(component, designer);
 }
 

@@ -7,6 +7,7 @@
 
 #include "designintf/BasicEditors.h"
 #include "designintf/ComponentEditor.h"
+#include "designintf/PackageCall.h"
 
 enum class TRegistrationKind : std::uint8_t {
   Components,
@@ -56,6 +57,21 @@ class RegistrationScope {
   QByteArray procedure_;
 };
 
+// What messages call a package; empty for the host.
+void NamePackage(const void* package, const QString& name);
+QString PackageName(const void* package);
+
+// Whose code runs when a member of an editor is called: the package that registered the editor, or, where the
+// editor is the host's, the package that the component's class came with.
+TPackageCall CallOf(const TPropertyEditor& editor, const char* member);
+TPackageCall CallOf(const TComponent& component, const char* member);
+TPackageCall ConstructorOf(const TClass& cls);
+// An editor may be a package's; whoever shows a row goes on with what can be said without it.
+template <class T, class F>
+T AskEditor(const TPropertyEditor& editor, const char* member, T otherwise, F&& f) {
+  return AskPackage([&] { return CallOf(editor, member); }, std::move(otherwise), std::forward<F>(f));
+}
+
 const std::vector<TRegistration>& Registrations();
 void UnregisterPackage(const void* package);
 // Called after rows came or went.
@@ -68,7 +84,8 @@ struct TPalettePage {
 std::vector<TPalettePage> PalettePages();
 std::vector<TPalettePage> ActionCategories();
 
-// The editor for a property of an object; null when it is hidden.
+// The editor for a property of an object; null when it is hidden. An editor that throws while it is made is
+// told of (TellPackageProblem) and replaced by the host's; so is a component editor.
 std::unique_ptr<TPropertyEditor> CreatePropertyEditor(IDesigner* designer, TInstProps props);
 // Editors of the properties that all objects have in common and that may be edited together.
 void GetComponentProperties(const TDesignerSelections& objects, IDesigner* designer,

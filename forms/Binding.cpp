@@ -13,6 +13,7 @@ namespace forms {
 
 PropertyTarget FindTarget(TPersistent& root, QByteArrayView path) {
   TPersistent* instance = &root;
+  const QByteArrayView whole = path;
   for (;;) {
     const auto* point =
         path.isEmpty() ? nullptr : std::memchr(path.data(), '.', static_cast<std::size_t>(path.size()));
@@ -20,9 +21,9 @@ PropertyTarget FindTarget(TPersistent& root, QByteArrayView path) {
       constexpr QByteArrayView content("Strings");
       if (path.size() == content.size() && path.compare(content, Qt::CaseInsensitive) == 0 &&
           As<TStrings>(instance))
-        return {instance, nullptr};
+        return {instance, nullptr, whole};
       const TPropInfo* prop = instance->ClassType().FindProp(path);
-      return prop ? PropertyTarget{instance, prop} : PropertyTarget{};
+      return prop ? PropertyTarget{instance, prop, whole} : PropertyTarget{};
     }
     const qsizetype dot = static_cast<const char*>(point) - path.data();
     const TPropInfo* prop = instance->ClassType().FindProp(path.first(dot));
@@ -34,10 +35,27 @@ PropertyTarget FindTarget(TPersistent& root, QByteArrayView path) {
 }
 
 namespace {
+QString NameOf(const PropertyTarget& t) {
+  if (!t.path.isEmpty()) return QString::fromUtf8(t.path);
+  return t.prop ? QString::fromLatin1(t.prop->Name) : QStringLiteral("Strings");
+}
+
+QString Refusal(const PropertyTarget& t, const Value& v, const QString& expected) {
+  return QStringLiteral("%1 cannot be %2: %3.")
+      .arg(NameOf(t), QString::fromUtf8(ValueToText(v)).left(60), expected);
+}
+
 [[noreturn]] void Refuse(const PropertyTarget& t, const Value& v, const QString& expected) {
-  const QString name = t.prop ? QString::fromLatin1(t.prop->Name) : QStringLiteral("Strings");
-  throw EPropertyError(
-      QStringLiteral("%1 cannot be %2: %3.").arg(name, QString::fromUtf8(ValueToText(v)).left(60), expected));
+  throw EPropertyError(Refusal(t, v, expected));
+}
+
+// What an enumeration has to offer, as far as a message can hold it.
+QString OneOf(const TTypeInfo& type) {
+  constexpr qsizetype Most = 16;
+  QStringList names;
+  for (const QByteArray& name : type.Elements.mid(0, Most)) names << QString::fromLatin1(name);
+  if (type.Elements.size() > Most) names << QStringLiteral("...");
+  return names.join(QStringLiteral(", "));
 }
 
 }  // namespace
@@ -52,9 +70,11 @@ std::int64_t OrdinalOf(const PropertyTarget& t, const Value& v) {
       for (const QByteArray& element : v.elements) {
         const int i = type.CompType->IndexOfElement(element);
         if (i < 0)
-          Refuse(t, v,
-                 QStringLiteral("%1 is no element of %2")
-                     .arg(QString::fromUtf8(element), QString::fromLatin1(type.Name)));
+          throw EUnknownName(Refusal(t, v,
+                                     QStringLiteral("%1 is no element of %2 (%3)")
+                                         .arg(QString::fromUtf8(element), QString::fromLatin1(type.Name),
+                                              OneOf(*type.CompType))),
+                             type.CompType->Name, element);
         bits |= std::int64_t{1} << i;
       }
       return bits;
@@ -63,16 +83,20 @@ std::int64_t OrdinalOf(const PropertyTarget& t, const Value& v) {
       const bool boolean = v.type == ValueType::True || v.type == ValueType::False;
       if (boolean && &type == &TypeInfoOf<bool>::Get()) return v.type == ValueType::True;
       const int i = v.type == ValueType::Ident ? type.IndexOfElement(v.bytes) : -1;
-      if (i < 0) Refuse(t, v, QStringLiteral("a %1 is expected").arg(QString::fromLatin1(type.Name)));
-      return i;
+      if (i >= 0) return i;
+      const QString expected =
+          QStringLiteral("a %1 is expected (%2)").arg(QString::fromLatin1(type.Name), OneOf(type));
+      if (v.type != ValueType::Ident) Refuse(t, v, expected);
+      throw EUnknownName(Refusal(t, v, expected), type.Name, v.bytes);
     }
     default: {
       std::int64_t value = 0;
       const TIntegerConsts* consts = v.type == ValueType::Ident ? FindIntegerConsts(type) : nullptr;
-      if (!consts || !consts->IdentToInt(v.bytes, value))
-        Refuse(t, v,
-               QStringLiteral("a number or name of type %1 is expected").arg(QString::fromLatin1(type.Name)));
-      return value;
+      if (consts && consts->IdentToInt(v.bytes, value)) return value;
+      const QString expected =
+          QStringLiteral("a number or name of type %1 is expected").arg(QString::fromLatin1(type.Name));
+      if (!consts) Refuse(t, v, expected);
+      throw EUnknownName(Refusal(t, v, expected), type.Name, v.bytes);
     }
   }
 }
@@ -147,7 +171,7 @@ void ApplyValue(const PropertyTarget& t, const Value& v, const Document& doc,
                          !pending.empty() && pending.back().target == v.bytes
                              ? pending.back().target
                              : QByteArray(v.bytes.constData(), v.bytes.size()),
-                         nullptr});
+                         nullptr, nullptr});
       return;
     case TTypeKind::tkUnknown:
       if (v.type != ValueType::Binary) Refuse(t, v, QStringLiteral("binary data {...} is expected"));
@@ -181,14 +205,25 @@ std::vector<PendingReference> ResolveReferences(TComponent& root, std::vector<Pe
   // Many refer to the same one.
   QByteArray last;
   QString path;
-  std::erase_if(pending, [&](const PendingReference& p) {
+  std::erase_if(pending, [&](PendingReference& p) {
     if (path.isNull() || p.target != last) path = QString::fromUtf8(last = p.target);
     TComponent* target = FindReferenced(root, *p.instance, path);
-    if (!target || !target->InheritsFrom(p.prop->PropType->ClassType())) return false;
+    if (!target || !target->InheritsFrom(p.prop->PropType->ClassType())) {
+      p.unfit = target;
+      return false;
+    }
     SetObjectProp(*p.instance, *p.prop, target);
     return true;
   });
   return pending;
+}
+
+QString WhyUnresolved(const PendingReference& p) {
+  const QString target = QString::fromUtf8(p.target);
+  if (!p.unfit) return QStringLiteral("%1, which is not on this form").arg(target);
+  return QStringLiteral("%1, which is a %2 and no %3")
+      .arg(target, QString::fromUtf8(p.unfit->StreamClassName()),
+           QString::fromLatin1(p.prop->PropType->Name));
 }
 
 void ApplyNow(TComponent& root, const PropertyTarget& target, const Value& value, const Document& document) {
@@ -196,10 +231,8 @@ void ApplyNow(TComponent& root, const PropertyTarget& target, const Value& value
   ApplyValue(target, value, document, pending);
   const auto unresolved = ResolveReferences(root, std::move(pending));
   if (!unresolved.empty())
-    throw EPropertyError(QStringLiteral("%1 cannot be %2: the form has no such component of type %3.")
-                             .arg(QString::fromLatin1(unresolved[0].prop->Name),
-                                  QString::fromUtf8(unresolved[0].target),
-                                  QString::fromLatin1(unresolved[0].prop->PropType->Name)));
+    throw EPropertyError(
+        QStringLiteral("%1 cannot refer to %2.").arg(NameOf(target), WhyUnresolved(unresolved[0])));
 }
 
 namespace {

@@ -14,15 +14,33 @@ struct PendingReference {
   const TPropInfo* prop = nullptr;
   QByteArray target;
   const Property* source = nullptr;
+  // Why it could not be resolved: there is a component of that name, but of another class.
+  const TComponent* unfit = nullptr;
 };
+// "Label2, which is a TLabel and no TWinControl"; "Gone, which is not on this form".
+QString WhyUnresolved(const PendingReference& reference);
 
 // What a property path of a form file leads to.
 struct PropertyTarget {
   TPersistent* instance = nullptr;
   const TPropInfo* prop = nullptr;  // null with an instance: the content of a string list ("Lines.Strings")
+  QByteArrayView path{};            // as messages name it; empty: the property's own name
   bool Found() const { return instance != nullptr; }
 };
+// The path must live as long as what it leads to is used.
 PropertyTarget FindTarget(TPersistent& root, QByteArrayView path);
+
+// The property would take a name, but not this one.
+class EUnknownName : public EPropertyError {
+ public:
+  EUnknownName(const QString& text, QByteArray type, QByteArray word)
+      : EPropertyError(text), type_(std::move(type)), word_(std::move(word)) {}
+  const QByteArray& Type() const { return type_; }
+  const QByteArray& Word() const { return word_; }
+
+ private:
+  QByteArray type_, word_;
+};
 
 // The ordinal that a value stands for. Throws like ApplyValue.
 std::int64_t OrdinalOf(const PropertyTarget& target, const Value& value);

@@ -6,6 +6,7 @@
 #include "forms/BinaryWriter.h"
 #include "forms/Encoding.h"
 #include "forms/PlainValues.h"
+#include "forms/TextChars.h"
 #include "forms/TextReader.h"
 #include "forms/TextWriter.h"
 
@@ -179,7 +180,7 @@ Value Document::Read(const Property& property) const {
 Location Document::Where(const Property& property) const {
   if (!property.FromSource()) return {};
   const std::size_t at = OffsetOf(property.SourceValue());
-  return format_ == Format::Text ? LocationOf(source_, at) : Location{at, 0, 0};
+  return format_ == Format::Text ? locator_.At(source_, at) : Location{at, 0, 0};
 }
 
 Location Document::Where(const Object& object) const {
@@ -187,7 +188,7 @@ Location Document::Where(const Object& object) const {
   if (format_ != Format::Text) return {object.header.begin, 0, 0};
   std::size_t at = object.header.begin;
   while (at < object.header.end && std::strchr(" \t\r\n", source_[static_cast<qsizetype>(at)])) ++at;
-  return LocationOf(source_, at);
+  return locator_.At(source_, at);
 }
 
 QString Document::Decode(const Value& value) const {
@@ -345,6 +346,33 @@ QByteArray Document::ObjectText(const Object& object) const {
   TextWriter out(dialect_);
   WriteDecodedText(*this, out, object, 0);
   return std::move(out).Result();
+}
+
+// What follows the root's end is kept by copying, which only the form's own kind of file can do. Padding and
+// the end mark of old text files are nothing.
+void Document::RequireOneRoot() const {
+  const QByteArrayView rest = Slice(trailer_);
+  const std::string_view padding =
+      format_ == Format::Text ? std::string_view(" \t\r\n\0\x1A", 6) : std::string_view("\0", 1);
+  const std::size_t skipped =
+      std::string_view(rest.data(), static_cast<std::size_t>(rest.size())).find_first_not_of(padding);
+  if (skipped == std::string_view::npos) return;
+  const std::size_t at = trailer_.begin + skipped;
+  const QByteArrayView behind = rest.sliced(static_cast<qsizetype>(skipped));
+  if (format_ != Format::Text) {
+    // Readers of streams stop after the root, so writers were free to leave anything there.
+    if (behind.startsWith("TPF0"))
+      throw EFormError(QStringLiteral("A second form stands behind the first; only one can be converted"),
+                       {at, 0, 0});
+    return;
+  }
+  const auto wordEnd = std::find_if_not(behind.begin(), behind.end(), IsIdentChar);
+  const QByteArrayView word(behind.begin(), wordEnd);
+  const bool object = Is(word, "object") || Is(word, "inherited") || Is(word, "inline");
+  throw EFormError(
+      object ? QStringLiteral("A second root object stands behind the first; only one can be converted")
+             : QStringLiteral("Something stands behind the end of the form; it would be lost"),
+      locator_.At(source_, at));
 }
 
 QByteArray Document::WriteAs(Format format) const {

@@ -119,6 +119,7 @@ struct Dialect {
   bool fixedFloats = true;        // 18 decimals instead of 15 significant digits
   bool literalHighBytes = false;  // non-ASCII as UTF-8 instead of #n
   QByteArray eol = "\n";
+  bool foreignWords = false;  // values may have names that only another framework knows
 };
 
 class Document {
@@ -166,6 +167,9 @@ class Document {
   QByteArray Write() const;
   // The document in another form. Asking for its own form is the same as Write().
   QByteArray WriteAs(Format format) const;
+  // Another form than its own holds one root and nothing behind it. EFormError, with the place, when there is
+  // more.
+  void RequireOneRoot() const;
   // The text of one object, as the clipboard carries it.
   QByteArray ObjectText(const Object& object) const;
 
@@ -196,6 +200,7 @@ class Document {
   bool lclStream_ = false;  // code 21 is a string
   QByteArray codePage_;
   std::deque<QByteArray> interned_;
+  mutable Locator locator_;
 };
 
 }  // namespace forms

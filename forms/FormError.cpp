@@ -2,23 +2,45 @@
 
 namespace forms {
 
-Location LocationOf(QByteArrayView text, std::size_t offset) {
-  Location where{offset, 1, 1};
-  const std::size_t end = std::min(offset, static_cast<std::size_t>(text.size()));
-  std::size_t lineStart = 0;
-  for (std::size_t i = 0; i < end; ++i) {
+namespace {
+constexpr std::size_t Step = 4096;
+
+// Counts on from `at` to the offset.
+void Advance(QByteArrayView text, Location& at, std::size_t offset) {
+  const auto size = static_cast<std::size_t>(text.size());
+  const std::size_t end = std::min(offset, size);
+  std::size_t i = at.offset;
+  // The byte-order mark takes no column.
+  if (i == 0 && text.startsWith("\xEF\xBB\xBF")) i = 3;
+  for (; i < end; ++i) {
     const char c = text[static_cast<qsizetype>(i)];
-    const bool crlf = c == '\r' && i + 1 < static_cast<std::size_t>(text.size()) &&
-                      text[static_cast<qsizetype>(i + 1)] == '\n';
+    const bool crlf = c == '\r' && i + 1 < size && text[static_cast<qsizetype>(i + 1)] == '\n';
     if (c == '\n' || (c == '\r' && !crlf)) {
-      ++where.line;
-      lineStart = i + 1;
+      ++at.line;
+      at.column = 1;
+    } else if ((static_cast<unsigned char>(c) & 0xC0u) != 0x80u) {
+      ++at.column;
     }
   }
-  if (lineStart == 0 && text.startsWith("\xEF\xBB\xBF"))
-    lineStart = 3;  // the byte-order mark takes no column
-  for (std::size_t i = lineStart; i < end; ++i)
-    if ((static_cast<unsigned char>(text[static_cast<qsizetype>(i)]) & 0xC0u) != 0x80u) ++where.column;
+  at.offset = offset;
+}
+}  // namespace
+
+Location LocationOf(QByteArrayView text, std::size_t offset) {
+  Location where{0, 1, 1};
+  Advance(text, where, offset);
+  return where;
+}
+
+Location Locator::At(QByteArrayView text, std::size_t offset) {
+  if (passed_.empty()) passed_.push_back({0, 1, 1});
+  while (passed_.size() <= offset / Step) {
+    Location next = passed_.back();
+    Advance(text, next, next.offset + Step);
+    passed_.push_back(next);
+  }
+  Location where = passed_[offset / Step];
+  Advance(text, where, offset);
   return where;
 }
 

@@ -1,5 +1,7 @@
 // What went wrong in a form file, and exactly where.
 #pragma once
+#include <vector>
+
 #include "rtl/Exceptions.h"
 
 namespace forms {
@@ -16,6 +18,14 @@ Location LocationOf(QByteArrayView text, std::size_t offset);
 
 // There is not enough memory for a form; said like any other trouble with it, with its place.
 [[noreturn]] void ThrowOutOfMemory(Location where);
+// The same for many places of one text: what was counted once is not counted again.
+class Locator {
+ public:
+  Location At(QByteArrayView text, std::size_t offset);
+
+ private:
+  std::vector<Location> passed_;  // in steps of one size
+};
 
 class EFormError : public Exception {
  public:

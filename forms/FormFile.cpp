@@ -13,6 +13,7 @@ Dialect DialectOfName(const QString& fileName) {
   Dialect d;
   d.lcl = fileName.endsWith(QStringLiteral(".lfm"), Qt::CaseInsensitive);
   d.fixedFloats = !d.lcl;
+  d.foreignWords = d.lcl;
   return d;
 }
 

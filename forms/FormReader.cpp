@@ -1,5 +1,6 @@
 #include "forms/FormReader.h"
 
+#include "forms/ForeignWords.h"
 #include "rtl/ClassRegistry.h"
 #include "rtl/PropAccess.h"
 
@@ -26,7 +27,15 @@ TComponent* FormReader::Create(Object& object, TComponent* owner) {
   if (it == classes_.end()) it = classes_.insert(object.className, FindClass(object.className));
   const TClass* cls = *it;
   standIn_ = !cls || cls->IsAbstract();
-  if (!standIn_) return cls->NewComponent(owner);
+  if (!standIn_) try {
+      return create_ ? create_(*cls, owner) : cls->NewComponent(owner);
+    } catch (const Exception& e) {
+      if (!makeUnknown_) throw;
+      standIn_ = true;
+      Report(Severity::Error, document_.Where(object),
+             QStringLiteral("%1 cannot be made: %2").arg(ObjectTitle(object), e.Message()));
+      return makeUnknown_(object, owner);
+    }
   Report(Severity::Note, document_.Where(object),
          QStringLiteral("class %1 is unknown; %2 is kept as it is")
              .arg(QString::fromUtf8(object.className), ObjectTitle(object)),
@@ -111,9 +120,12 @@ void FormReader::ReadProperties(Object& object, TComponent& component, bool repo
              true);
       continue;
     }
+    target.path = p.Name();
     const std::size_t before = pending_.size();
     try {
       Apply(known, target, p);
+    } catch (const EUnknownName& e) {
+      ReportName(e, p, object);
     } catch (const Exception& e) {
       Report(Severity::Error, document_.Where(p),
              QStringLiteral("%1: %2").arg(ObjectTitle(object), e.Message()));
@@ -124,6 +136,21 @@ void FormReader::ReadProperties(Object& object, TComponent& component, bool repo
       pending_[i].source = &p;
     }
   }
+}
+
+// A name that another framework gives to a value is no mistake in a file of that framework.
+void FormReader::ReportName(const EUnknownName& e, const Property& property, const Object& object) {
+  const WordHome home = HomeOfWord(e.Type(), e.Word());
+  const bool foreign = document_.Style().foreignWords;
+  if (foreign && home == WordHome::Lcl) return;
+  if (foreign || home != WordHome::Nowhere)
+    return Report(
+        Severity::Note, document_.Where(property),
+        QStringLiteral("%1: %2 is %3, which is unknown here; it is kept as it is")
+            .arg(ObjectTitle(object), QString::fromUtf8(property.Name()), QString::fromUtf8(e.Word())),
+        true);
+  Report(Severity::Error, document_.Where(property),
+         QStringLiteral("%1: %2").arg(ObjectTitle(object), e.Message()));
 }
 
 void FormReader::Apply(KnownProperty* known, const PropertyTarget& target, const Property& property) {
@@ -144,8 +171,10 @@ void FormReader::Apply(KnownProperty* known, const PropertyTarget& target, const
 void FormReader::Finish(TComponent& root) {
   for (const PendingReference& p : ResolveReferences(root, std::exchange(pending_, {})))
     Report(Severity::Warning, p.source ? document_.Where(*p.source) : Location{},
-           QStringLiteral("%1.%2 refers to %3, which is not on this form")
-               .arg(p.holder->Name(), QString::fromLatin1(p.prop->Name), QString::fromUtf8(p.target)));
+           QStringLiteral("%1.%2 refers to %3")
+               .arg(p.holder->Name(),
+                    p.source ? QString::fromUtf8(p.source->Name()) : QString::fromLatin1(p.prop->Name),
+                    WhyUnresolved(p)));
   for (TComponent* c : std::exchange(loading_, {})) c->Loaded();
 }
 

@@ -51,6 +51,9 @@ class FormReader {
   FormReader(Document& document, ObjectMap& map) : document_(document), map_(map) {}
   void SetRootMaker(Maker maker) { makeRoot_ = std::move(maker); }
   void SetUnknownMaker(Maker maker) { makeUnknown_ = std::move(maker); }
+  // Makes the components of registered classes; what throws is reported, and another stands in for it.
+  using Creator = std::function<TComponent*(const TClass&, TComponent* owner)>;
+  void SetCreator(Creator creator) { create_ = std::move(creator); }
   void SetDesigning(bool designing) { designing_ = designing; }
 
   // The whole form; the caller owns the root. Throws EFormError when memory runs out.
@@ -65,6 +68,7 @@ class FormReader {
   TComponent* Create(Object& object, TComponent* owner);
   void ReadInto(Object& object, TComponent& component, TComponent* owner);
   void ReadProperties(Object& object, TComponent& component, bool reportUnknown);
+  void ReportName(const EUnknownName& error, const Property& property, const Object& object);
   void Apply(KnownProperty* known, const PropertyTarget& target, const Property& property);
   void Finish(TComponent& root);
   void Report(Severity severity, Location where, QString text, bool unknownName = false);
@@ -73,6 +77,7 @@ class FormReader {
   ObjectMap& map_;
   Maker makeRoot_;
   Maker makeUnknown_;
+  Creator create_;
   bool standIn_ = false;  // the component created last stands for an unknown class
   bool designing_ = false;
   std::vector<Finding> findings_;

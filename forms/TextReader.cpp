@@ -186,6 +186,7 @@ void TextReader::ReadDocument(Document& doc) {
   const int vcl = glued_ * 4 + coded39_ + blankIndex_;
   const int lcl = apart_ * 4 + doubledQuotes_ + tightIndex_;
   if (vcl != lcl) d.lcl = lcl > vcl;
+  d.foreignWords = d.foreignWords || d.lcl;
   d.fixedFloats = fixedFloats_ != shortFloats_ ? fixedFloats_ > shortFloats_ : !d.lcl;
   doc.utf8_ = IsUtf8(QByteArrayView(begin_, end_));
   d.literalHighBytes = doc.utf8_ && (highBytes_ > 0 || d.lcl);

@@ -24,6 +24,12 @@ QString WhatDecidesBounds(const TControl& control) {
 
 void RequireBoundsTaken(const TPersistent& instance, const TPropInfo& prop, std::int64_t wanted) {
   const auto* control = As<TControl>(&instance);
+  static const QByteArrayList sizes{"Width", "Height", "ClientWidth", "ClientHeight"};
+  if (control && wanted < 0 && sizes.contains(prop.Name))
+    throw EPropertyError(
+        Translated("%1 of %2 cannot be %3: no control is smaller than nothing. Use 0 or more.")
+            .arg(QString::fromLatin1(prop.Name), control->Name())
+            .arg(wanted));
   static const QByteArrayList bounds{"Left", "Top", "Width", "Height"};
   if (!control || !control->Parent() || !bounds.contains(prop.Name)) return;
   if (prop.Stored && !prop.Stored(instance))

@@ -2,8 +2,8 @@
 #pragma once
 #include "vcl/Control.h"
 
-// Throws EPropertyError, saying what decides instead, when `prop` is a place or size of a control and is not
-// `wanted` although that was just set.
+// Throws EPropertyError, saying what decides instead or why it cannot be, when `prop` is a place or size of a
+// control and is not `wanted` although that was just set.
 void RequireBoundsTaken(const TPersistent& instance, const TPropInfo& prop, std::int64_t wanted);
 
 // "Panel1 is aligned (Align = alTop): Form1 decides its place and width."

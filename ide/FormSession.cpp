@@ -68,6 +68,9 @@ forms::FormReader FormSession::MakeReader(forms::Document& document, forms::Obje
   reader.SetRootMaker([lcl = document.Style().lcl](const forms::Object& object, TComponent* owner) {
     return MakeRoot(object, lcl, owner);
   });
+  reader.SetCreator([](const TClass& cls, TComponent* owner) {
+    return PackageCall([&] { return ConstructorOf(cls); }, [&] { return cls.NewComponent(owner); });
+  });
   reader.SetUnknownMaker([&document](const forms::Object& object, TComponent* owner) {
     return MakeStandIn(document, object, owner);
   });
@@ -220,7 +223,8 @@ void FormSession::ShowMethod(const QString& name) { emit HandlerShown(name); }
 
 void FormSession::Edit(TComponent& component) {
   const auto editor = GetComponentEditor(&component, this);
-  Run(tr("Edit %1").arg(component.Name()), {&component}, [&] { editor->Edit(); });
+  Run(tr("Edit %1").arg(component.Name()), {&component},
+      [&, call = CallOf(component, "Edit")] { PackageCall([&] { return call; }, [&] { editor->Edit(); }); });
 }
 
 void FormSession::ControlChanged(TControl& control) { emit RepaintNeeded(control); }

@@ -1,6 +1,7 @@
 // Components that come and go, and changes that nobody announced.
 #include <QScopedValueRollback>
 
+#include "designintf/DesignIntf.h"
 #include "designintf/DesignWindow.h"
 #include "ide/PendingCommand.h"
 #include "rtl/Exceptions.h"
@@ -61,7 +62,8 @@ TComponent* FormSession::CreateComponent(const TClass& cls, TComponent* parent, 
     TComponent* component = nullptr;
     {
       const QScopedValueRollback guard(structuring_, true);
-      component = cls.NewComponent(root_.get());
+      component =
+          PackageCall([&] { return ConstructorOf(cls); }, [&] { return cls.NewComponent(root_.get()); });
     }
     component->SetDesigning(true);
     auto* control = As<TControl>(component);

@@ -7,6 +7,21 @@
 
 using enum TPropertyAttribute;
 
+namespace {
+QString NameOf(const TPropertyEditor& editor) {
+  return AskEditor(editor, "GetName", QString::fromLatin1(editor.GetPropInfo().Name),
+                   [&] { return editor.GetName(); });
+}
+QIcon IconOf(const TPropertyEditor& editor, const QString& value) {
+  return AskEditor(editor, "GetValueIcon", QIcon(), [&] { return editor.GetValueIcon(value); });
+}
+bool Has(const TPropertyEditor& editor, TPropertyAttribute attribute) {
+  return AskEditor(editor, "GetAttributes", false,
+                   [&] { return editor.GetAttributes().Contains(attribute); });
+}
+
+}  // namespace
+
 struct InspectorModel::Node {
   Node* parent = nullptr;
   int row = 0;  // among those that are shown
@@ -33,7 +48,7 @@ struct InspectorModel::Node {
     node.row = static_cast<int>(shown.size());
     shown.push_back(&node);
   }
-  QString Name() const { return editor ? editor->GetName() : category; }
+  QString Name() const { return editor ? NameOf(*editor) : category; }
   QString Path() const { return parent && parent->parent ? parent->Path() + u'.' + Name() : Name(); }
 };
 
@@ -82,8 +97,7 @@ void InspectorModel::SetFilter(const QString& text) {
 bool InspectorModel::Belongs(const TPropertyEditor& editor) const {
   if (editor.GetPropInfo().IsEvent()) return events_;
   if (!events_) return true;
-  if (editor.GetPropType().Kind != TTypeKind::tkClass || !editor.GetAttributes().Contains(paSubProperties))
-    return false;
+  if (editor.GetPropType().Kind != TTypeKind::tkClass || !Has(editor, paSubProperties)) return false;
   const auto* component = As<TComponent>(editor.GetObjectValue());
   if (!component) return false;
   const auto& properties = component->ClassType().Properties();
@@ -103,7 +117,7 @@ void InspectorModel::Rebuild() {
       editors.push_back(std::move(e));
   });
   std::stable_sort(editors.begin(), editors.end(), [](const auto& a, const auto& b) {
-    return a->GetName().compare(b->GetName(), Qt::CaseInsensitive) < 0;
+    return NameOf(*a).compare(NameOf(*b), Qt::CaseInsensitive) < 0;
   });
   if (!byCategory_) {
     for (auto& e : editors) root_->Add(std::move(e));
@@ -181,8 +195,7 @@ bool InspectorModel::Filter(Node& node, bool everything) const {
 // Rows below an object are the object's own; another one in its place has others.
 bool InspectorModel::IsStale(const Node& node) const {
   if (!node.loaded) return false;
-  if (node.editor &&
-      (node.editor->GetAttributes().Contains(paVolatileSubProperties) || ObjectsOf(node) != node.objects))
+  if (node.editor && (Has(*node.editor, paVolatileSubProperties) || ObjectsOf(node) != node.objects))
     return true;
   return std::any_of(node.all.begin(), node.all.end(), [this](const auto& n) { return IsStale(*n); });
 }
@@ -215,10 +228,13 @@ std::vector<TPersistent*> InspectorModel::ObjectsOf(const Node& node) {
 void InspectorModel::Load(Node& node) const {
   if (node.loaded) return;
   node.loaded = true;
-  if (!node.editor || !node.editor->GetAttributes().Contains(paSubProperties)) return;
+  if (!node.editor || !Has(*node.editor, paSubProperties)) return;
   node.objects = ObjectsOf(node);
-  node.editor->GetProperties([&](std::unique_ptr<TPropertyEditor> e) {
-    if (Belongs(*e)) node.Add(std::move(e));
+  AskEditor(*node.editor, "GetProperties", false, [&] {
+    node.editor->GetProperties([&](std::unique_ptr<TPropertyEditor> e) {
+      if (Belongs(*e)) node.Add(std::move(e));
+    });
+    return true;
   });
   node.ShowAll();
 }
@@ -244,26 +260,34 @@ QModelIndex InspectorModel::IndexOfPath(const QString& path) const {
 QString InspectorModel::ValueText(const QModelIndex& index) const {
   const TPropertyEditor* editor = EditorAt(index);
   if (!editor) return {};
-  return editor->PropCount() == 1 || editor->AllEqual() ? editor->GetValue() : QString();
+  if (editor->PropCount() != 1 && !AskEditor(*editor, "AllEqual", false, [&] { return editor->AllEqual(); }))
+    return {};
+  return AskEditor(*editor, "GetValue", QString(), [&] { return editor->GetValue(); });
 }
 
 QStringList InspectorModel::ValueList(const QModelIndex& index) const {
   QStringList values;
   const TPropertyEditor* editor = EditorAt(index);
-  if (!editor || !editor->GetAttributes().Contains(paValueList)) return values;
-  editor->GetValues([&](const QString& v) { values << v; });
-  if (editor->GetAttributes().Contains(paSortList)) values.sort(Qt::CaseInsensitive);
+  if (!editor || !Has(*editor, paValueList)) return values;
+  AskEditor(*editor, "GetValues", false, [&] {
+    editor->GetValues([&](const QString& v) { values << v; });
+    return true;
+  });
+  if (Has(*editor, paSortList)) values.sort(Qt::CaseInsensitive);
   return values;
 }
 
-QString InspectorModel::Guarded(const QString& text, const std::function<void()>& action) {
+QString InspectorModel::Guarded(TPropertyEditor& editor, const char* member, const QString& text,
+                                const std::function<void()>& action) {
   // What the editor does may make the rows anew, and with them the editor itself.
   ++running_;
   const auto done = qScopeGuard([this] {
     if (--running_ == 0) retired_.clear();
   });
   try {
-    session_->Run(text, shown_, action);
+    // Asked before: what the editor does may take its component away.
+    session_->Run(text, shown_,
+                  [&, call = CallOf(editor, member)] { PackageCall([&] { return call; }, action); });
   } catch (const std::exception& e) {
     return ExceptionMessage(e);
   }
@@ -273,7 +297,7 @@ QString InspectorModel::Guarded(const QString& text, const std::function<void()>
 QString InspectorModel::SetValueText(const QModelIndex& index, const QString& text) {
   TPropertyEditor* editor = EditorAt(index);
   if (!editor) return {};
-  return Guarded(tr("Change %1").arg(editor->GetName()), [&] {
+  return Guarded(*editor, "SetValue", tr("Change %1").arg(NameOf(*editor)), [&] {
     editor->SetValue(text);
     bool number = false;
     const std::int64_t wanted = text.toLongLong(&number);
@@ -285,13 +309,18 @@ QString InspectorModel::SetValueText(const QModelIndex& index, const QString& te
 QString InspectorModel::RunDialog(const QModelIndex& index) {
   TPropertyEditor* editor = EditorAt(index);
   if (!editor) return {};
-  return Guarded(tr("Edit %1").arg(editor->GetName()), [&] { editor->Edit(); });
+  return Guarded(*editor, "Edit", tr("Edit %1").arg(NameOf(*editor)), [&] { editor->Edit(); });
 }
 
 QString InspectorModel::Reset(const QModelIndex& index) {
   TPropertyEditor* editor = EditorAt(index);
   if (!editor) return {};
-  return Guarded(tr("Reset %1").arg(editor->GetName()), [&] { editor->Revert(); });
+  return Guarded(*editor, "Revert", tr("Reset %1").arg(NameOf(*editor)), [&] { editor->Revert(); });
+}
+
+QString InspectorModel::Shortened(const QString& value) {
+  constexpr qsizetype Most = 1000;
+  return value.size() <= Most ? value : value.left(Most) + u'\u2026';
 }
 
 QModelIndex InspectorModel::index(int row, int column, const QModelIndex& parent) const {
@@ -318,7 +347,7 @@ bool InspectorModel::hasChildren(const QModelIndex& parent) const {
   if (parent.isValid() && parent.column() != 0) return false;
   const Node* node = NodeAt(parent);
   if (node->loaded) return !node->shown.empty();
-  return node->editor && node->editor->GetAttributes().Contains(paSubProperties);
+  return node->editor && Has(*node->editor, paSubProperties);
 }
 
 QVariant InspectorModel::data(const QModelIndex& index, int role) const {
@@ -330,15 +359,16 @@ QVariant InspectorModel::data(const QModelIndex& index, int role) const {
   if (role == IsAboveRole) return node->above;
   if (!editor) return role == Qt::DisplayRole && index.column() == 0 ? QVariant(node->category) : QVariant();
   switch (role) {
-    case Qt::DisplayRole:
     case Qt::EditRole:
-      return index.column() == 0 ? editor->GetName() : ValueText(index);
+      return index.column() == 0 ? NameOf(*editor) : ValueText(index);
+    case Qt::DisplayRole:
+      return index.column() == 0 ? NameOf(*editor) : Shortened(ValueText(index));
     case Qt::DecorationRole:
-      return index.column() == 1 ? QVariant(editor->GetValueIcon(ValueText(index))) : QVariant();
+      return index.column() == 1 ? QVariant(IconOf(*editor, ValueText(index))) : QVariant();
     case Qt::ToolTipRole:
-      return index.column() == 1 ? QVariant(ValueText(index)) : QVariant();
+      return index.column() == 1 ? QVariant(Shortened(ValueText(index))) : QVariant();
     case NotDefaultRole:
-      return !editor->IsDefault();
+      return !AskEditor(*editor, "IsDefault", true, [&] { return editor->IsDefault(); });
     case IsBooleanRole: {
       // Lists of components and handlers are long, and nothing of the kind.
       const TTypeKind kind = editor->GetPropType().Kind;

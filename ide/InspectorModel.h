@@ -37,6 +37,8 @@ class InspectorModel : public QAbstractItemModel {
   QModelIndex IndexOfPath(const QString& path) const;
   // The value as text; empty when the selected components differ.
   QString ValueText(const QModelIndex& index) const;
+  // As a row can show it.
+  static QString Shortened(const QString& value);
   QStringList ValueList(const QModelIndex& index) const;
   // Applies a text. Empty on success, else why it was refused; nothing is changed then.
   QString SetValueText(const QModelIndex& index, const QString& text);
@@ -64,7 +66,8 @@ class InspectorModel : public QAbstractItemModel {
   bool IsStale(const Node& node) const;
   void Rebuild();
   void Refresh();
-  QString Guarded(const QString& text, const std::function<void()>& action);
+  QString Guarded(TPropertyEditor& editor, const char* member, const QString& text,
+                  const std::function<void()>& action);
 
   FormSession* session_ = nullptr;
   std::unique_ptr<Node> root_;

@@ -5,6 +5,7 @@
 #include <QFileInfo>
 
 #include "designintf/DesignIntf.h"
+#include "designintf/PackageCall.h"
 #include "rtl/Exceptions.h"
 
 namespace {
@@ -28,17 +29,6 @@ TPackageRecord RecordOf(const QJsonObject& meta) {
   return TPackageRecord::FromJson(meta.value(QStringLiteral("MetaData")).toObject());
 }
 
-// A package is foreign code and may throw anything.
-QString CurrentExceptionMessage() {
-  try {
-    throw;
-  } catch (const std::exception& e) {
-    return ExceptionMessage(e);
-  } catch (...) {
-    return PackageManager::tr("An error of an unknown kind occurred.");
-  }
-}
-
 QFileInfoList Libraries(const QString& folder) {
   return QDir(folder).entryInfoList({QStringLiteral("*.so")}, QDir::Files, QDir::Name);
 }
@@ -47,7 +37,13 @@ QFileInfoList Libraries(const QString& folder) {
 PackageManager::PackageManager(QStringList folders) : folders_(std::move(folders)) {}
 
 PackageManager::~PackageManager() {
-  while (!loaded_.empty()) Unload(loaded_.back().record.Name);
+  while (!loaded_.empty()) {
+    try {
+      Unload(loaded_.back().record.Name);
+    } catch (const Exception& e) {
+      TellPackageProblem(e.Message());
+    }
+  }
 }
 
 QStringList PackageManager::DefaultFolders() {
@@ -55,33 +51,53 @@ QStringList PackageManager::DefaultFolders() {
   return {bin.filePath(QStringLiteral("../packages")), bin.filePath(QStringLiteral("../lib"))};
 }
 
-QString PackageManager::FindFile(const QString& nameOrFile) const {
+// The file of that name is the package, in whichever folder it stands; without one it is whatever file says
+// that it is the package. A file that only claims the name never stands before the one that bears it.
+QString PackageManager::FindFile(const QString& nameOrFile) {
   if (nameOrFile.contains(u'/')) {
     if (!QFileInfo::exists(nameOrFile))
       throw Exception(
           tr("Package %1 cannot be loaded: there is no such file. Check the path.").arg(nameOrFile));
     return nameOrFile;
   }
+  const auto isName = [&](const QString& name) { return name.compare(nameOrFile, Qt::CaseInsensitive) == 0; };
+  QStringList named, claiming;
   for (const QString& folder : folders_)
     for (const QFileInfo& file : Libraries(folder)) {
       const QJsonObject meta = MetaData(file.filePath());
-      if (IsDesignPackage(meta) && RecordOf(meta).Name == nameOrFile) return file.filePath();
       // A file of that name that cannot be read is worth telling about.
-      if (meta.isEmpty() && file.completeBaseName() == nameOrFile) return file.filePath();
+      const bool fits = meta.isEmpty() || (IsDesignPackage(meta) && isName(RecordOf(meta).Name));
+      if (isName(file.completeBaseName()) && fits)
+        named << file.filePath();
+      else if (!meta.isEmpty() && fits)
+        claiming << file.filePath();
     }
-  throw Exception(
-      tr("Package %1 cannot be loaded: it was not found in %2. Build the project or put the package there.")
-          .arg(nameOrFile, QDir::cleanPath(folders_.value(0))));
+  const QStringList all = named + claiming;
+  if (all.isEmpty())
+    throw Exception(tr("Package %1 cannot be loaded: it was not found in %2. Build the project or put the "
+                       "package there.")
+                        .arg(nameOrFile, QDir::cleanPath(folders_.value(0))));
+  for (const QString& other : all.mid(1)) {
+    const QString warning = tr("Package %1 is taken from %2; %3 claims the same name and is ignored. Remove "
+                               "one of them.")
+                                .arg(nameOrFile, QDir::cleanPath(all[0]), QDir::cleanPath(other));
+    if (!warnings_.contains(warning)) warnings_ << warning;
+  }
+  return all[0];
 }
 
-TPackageRecord PackageManager::ReadRecord(const QString& nameOrFile) const {
-  const QString file = FindFile(nameOrFile);
+TPackageRecord PackageManager::ReadRecord(const QString& nameOrFile) {
+  return RecordIn(FindFile(nameOrFile), nameOrFile);
+}
+
+TPackageRecord PackageManager::RecordIn(const QString& file, const QString& nameOrFile) {
   const QJsonObject meta = MetaData(file);
-  if (!IsDesignPackage(meta))
+  TPackageRecord record = IsDesignPackage(meta) ? RecordOf(meta) : TPackageRecord();
+  if (record.Name.isEmpty())
     throw Exception(
         tr("Package %1 cannot be loaded: %2 is not a design-time package or is damaged. Build it again.")
             .arg(QFileInfo(nameOrFile).completeBaseName(), QDir::cleanPath(file)));
-  return RecordOf(meta);
+  return record;
 }
 
 QString PackageManager::MissingRequirement(const TPackageRecord& record) const {
@@ -96,41 +112,64 @@ QString PackageManager::MissingRequirement(const TPackageRecord& record) const {
   return {};
 }
 
-void PackageManager::RunRegisterProcedures(IDesignPackage& package) {
-  for (const TUnitEntry& unit : package.GetPackageInfoTable()) {
+namespace {
+template <class F>
+decltype(auto) Call(const TPackageRecord& record, const QString& call, F&& f) {
+  return PackageCall([&] { return TPackageCall{record.Name, call}; }, std::forward<F>(f));
+}
+
+void RunRegisterProcedures(const TPackageRecord& record, IDesignPackage& package) {
+  const auto& units =
+      *Call(record, QStringLiteral("GetPackageInfoTable"), [&] { return &package.GetPackageInfoTable(); });
+  for (const TUnitEntry& unit : units) {
     if (!unit.Register) continue;
     const RegistrationScope scope(&package, unit.Name);
-    unit.Register();
+    Call(record, QStringLiteral("Register of %1").arg(QString::fromLatin1(unit.Name)),
+         [&] { unit.Register(); });
   }
 }
 
+void Finalize(const TPackageRecord& record, IDesignPackage& package) {
+  Call(record, QStringLiteral("Finalize"), [&] { package.Finalize(); });
+}
+}  // namespace
+
 void PackageManager::Load(const QString& nameOrFile) {
-  const TPackageRecord record = ReadRecord(nameOrFile);
+  const QString file = FindFile(nameOrFile);
+  const TPackageRecord record = RecordIn(file, nameOrFile);
   if (IsLoaded(record.Name)) return;
   if (const QString missing = MissingRequirement(record); !missing.isEmpty())
     throw Exception(tr("Package %1 cannot be loaded: it requires package %2, which is not there. Install the "
                        "library that "
                        "provides %2.")
                         .arg(record.Name, missing));
-  auto loader = std::make_unique<QPluginLoader>(FindFile(nameOrFile));
+  auto loader = std::make_unique<QPluginLoader>(file);
   // The code stays mapped after unloading: a window that is still being destroyed may need it.
   loader->setLoadHints(QLibrary::PreventUnloadHint | QLibrary::ResolveAllSymbolsHint);
-  auto* package = qobject_cast<IDesignPackage*>(loader->instance());
-  if (!package)
-    throw Exception(
-        tr("Package %1 cannot be loaded: %2. Build the package again for this version of the designer.")
-            .arg(record.Name, loader->errorString()));
+  IDesignPackage* package = nullptr;
   bool initialised = false;
   try {
-    package->Initialize();
+    package = Call(record, QStringLiteral("constructor"),
+                   [&] { return qobject_cast<IDesignPackage*>(loader->instance()); });
+    if (!package)
+      throw Exception(
+          tr("Package %1 cannot be loaded: %2. Build the package again for this version of the designer.")
+              .arg(record.Name, loader->errorString()));
+    NamePackage(package, record.Name);
+    Call(record, QStringLiteral("Initialize"), [&] { package->Initialize(); });
     initialised = true;
-    RunRegisterProcedures(*package);
-  } catch (...) {
-    UnregisterPackage(package);
-    if (initialised) package->Finalize();
+    RunRegisterProcedures(record, *package);
+  } catch (const EPackageError& e) {
+    if (package) UnregisterPackage(package);
+    QString message = tr("Package %1 cannot be loaded: %2 failed: %3 Update or remove the package.")
+                          .arg(record.Name, e.Where().Call, e.Reason());
+    try {
+      if (initialised) Finalize(record, *package);
+    } catch (const EPackageError& last) {
+      message += u' ' + tr("%1 failed, too: %2").arg(last.Where().Call, last.Reason());
+    }
     loader->unload();
-    throw Exception(tr("Package %1 failed to register: %2 Update or remove the package.")
-                        .arg(record.Name, CurrentExceptionMessage()));
+    throw Exception(message);
   }
   loaded_.push_back({record, std::move(loader), package});
   emit ClassesChanged();
@@ -143,9 +182,10 @@ void PackageManager::Unload(const QString& name) {
   if (it == loaded_.end()) return;
   UnregisterPackage(it->package);
   emit ClassesChanged();
-  it->package->Finalize();
-  it->loader->unload();
+  const Loaded going = std::move(*it);
   loaded_.erase(it);
+  const auto unload = qScopeGuard([&] { going.loader->unload(); });
+  Finalize(going.record, *going.package);
 }
 
 bool PackageManager::IsLoaded(const QString& name) const {

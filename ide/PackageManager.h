@@ -15,17 +15,20 @@ class PackageManager : public QObject {
   static QStringList DefaultFolders();
   static QString DefaultPackage() { return QStringLiteral("dclvrxmain220"); }
 
-  // The record of a package, found by name or given as a file, without running its code. Throws Exception
-  // with cause and fix when there is none.
-  TPackageRecord ReadRecord(const QString& nameOrFile) const;
+  // The record of a package, found by name (no regard to case) or given as a file, without running its code.
+  // Throws Exception with cause and fix when there is none.
+  TPackageRecord ReadRecord(const QString& nameOrFile);
   // Loads the package: its required packages are checked in order, its units initialised, its Register
   // procedures called. Loading a loaded package does nothing. On failure everything is taken back and
   // Exception tells cause and fix.
   void Load(const QString& nameOrFile);
-  // Drops the package's registrations and finalises it.
+  // Drops the package's registrations and finalises it. The package is gone, too, when its Finalize throws;
+  // EPackageError tells of it then.
   void Unload(const QString& name);
   bool IsLoaded(const QString& name) const;
   QStringList LoadedPackages() const;
+  // What is odd but did not stop anything: other files that claim a package's name.
+  const QStringList& Warnings() const { return warnings_; }
 
  signals:
   // Rows of a package came or went; open forms make their components anew. When a package goes, its code is
@@ -38,10 +41,11 @@ class PackageManager : public QObject {
     std::unique_ptr<QPluginLoader> loader;
     IDesignPackage* package;
   };
-  QString FindFile(const QString& nameOrFile) const;
+  QString FindFile(const QString& nameOrFile);
+  static TPackageRecord RecordIn(const QString& file, const QString& nameOrFile);
   QString MissingRequirement(const TPackageRecord& record) const;
-  static void RunRegisterProcedures(IDesignPackage& package);
 
   QStringList folders_;
   std::vector<Loaded> loaded_;
+  QStringList warnings_;
 };

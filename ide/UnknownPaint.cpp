@@ -4,6 +4,7 @@
 
 #include "ide/Unknown.h"
 #include "vcl/FormColors.h"
+#include "vcl/ShownText.h"
 
 namespace {
 using enum TStandInLook;
@@ -69,7 +70,7 @@ std::vector<QRect> TUnknownControl::TabRects() const {
   const QFontMetrics metrics(ToQFont(*Font()));
   int x = 2;
   const auto add = [&](const QString& text) {
-    const int width = metrics.horizontalAdvance(text) + 20;
+    const int width = metrics.horizontalAdvance(ShownText(text)) + 20;
     rects.emplace_back(x, 0, width, TabHeight);
     x += width;
   };
@@ -181,7 +182,7 @@ bool TUnknownControl::PaintSurface(TCanvas& canvas) const {
       Box(p, QRectF(r).adjusted(0, title / 2.0, 0, 0), standIn_.color ? base : QColor(Qt::transparent));
       if (!text.isEmpty()) {
         const int width =
-            std::min(r.width() - 12, QFontMetrics(ToQFont(*Font())).horizontalAdvance(text) + 6);
+            std::min(r.width() - 12, QFontMetrics(ToQFont(*Font())).horizontalAdvance(ShownText(text)) + 6);
         const QRect label(7, 0, width, title);
         p.fillRect(label, ToQColor(Color()));
         PaintText(canvas, label.adjusted(3, 0, 0, 0), Middle, text);

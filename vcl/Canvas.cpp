@@ -3,6 +3,8 @@
 #include <QFontMetrics>
 #include <QPolygonF>
 
+#include "vcl/ShownText.h"
+
 // clDefault is what a control of the kind usually has.
 void TCanvas::FillRect(const QRect& rect, TColor color) {
   if (color != clNone) painter_.fillRect(rect, ToQColor(color == clDefault ? clBtnFace : color));
@@ -32,12 +34,13 @@ void TCanvas::TextRect(const QRect& rect, int flags, const QString& text, const 
   painter_.setFont(ToQFont(font));
   const TColor color = font.Color() == clDefault ? clWindowText : font.Color();
   painter_.setPen(ToQColor(enabled ? color : clGrayText));
-  painter_.drawText(rect, flags | Qt::TextShowMnemonic, text);
+  painter_.drawText(rect, flags | Qt::TextShowMnemonic, ShownText(text));
 }
 
 QSize TextExtent(const QString& text, const TFont& font, int flags, int width) {
   const QFontMetrics metrics(ToQFont(font));
   return metrics
-      .boundingRect(QRect(0, 0, width > 0 ? width : 32000, 32000), flags | Qt::TextShowMnemonic, text)
+      .boundingRect(QRect(0, 0, width > 0 ? width : 32000, 32000), flags | Qt::TextShowMnemonic,
+                    ShownText(text))
       .size();
 }

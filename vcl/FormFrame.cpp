@@ -4,6 +4,7 @@
 #include <QPainterPath>
 
 #include "vcl/FormColors.h"
+#include "vcl/ShownText.h"
 #include "vcl/Theme.h"
 
 namespace {
@@ -55,7 +56,7 @@ void PaintTitleBar(const TForm& form, QPainter& p, bool active) {
   p.setPen(ink);
   const QRect text(row.left() + 2, 0, std::max(0, x - row.left() - 6), m.top());
   p.drawText(text, Qt::AlignVCenter | Qt::AlignLeft,
-             p.fontMetrics().elidedText(form.Caption(), Qt::ElideRight, text.width()));
+             p.fontMetrics().elidedText(ShownText(form.Caption()), Qt::ElideRight, text.width()));
 }
 }  // namespace
 

@@ -144,6 +144,15 @@ bool IsBanded(const std::vector<TRect>& rects) {
 }
 }  // namespace
 
+void TRegion::RequireCount(std::size_t rects) {
+  if (rects > MaxRects)
+    throw EInvalidRegion(
+        QStringLiteral("The region has %1 rectangles; at most %2 are kept. Make the picture smaller or "
+                       "take its noise out first.")
+            .arg(rects)
+            .arg(MaxRects));
+}
+
 QByteArray TRegion::ToData() const {
   QByteArray data(static_cast<qsizetype>(HeaderSize + rects_.size() * RectSize), Qt::Uninitialized);
   char* to = data.data();
@@ -177,12 +186,7 @@ TRegion TRegion::FromData(QByteArrayView data) {
     Refuse(QStringLiteral("%1 rectangles are announced and %2 bytes follow the header")
                .arg(count)
                .arg(size - HeaderSize));
-  if (room > MaxRects)
-    throw EInvalidRegion(
-        QStringLiteral("The region has %1 rectangles; at most %2 are kept. Make the picture smaller or "
-                       "take its noise out first.")
-            .arg(room)
-            .arg(MaxRects));
+  RequireCount(room);
   if (bytes != 0 && bytes != count * static_cast<std::int32_t>(RectSize))
     Refuse(QStringLiteral("the header announces %1 bytes for %2 rectangles").arg(bytes).arg(count));
   from += RectSize;  // the bounds are computed anew

@@ -41,10 +41,13 @@ class TRegion {
   // The platform's region data: a header of 32 bytes (its size, kind 1, number of rectangles, their size in
   // bytes, bounds), then the rectangles; all numbers little-endian, 32 bits.
   QByteArray ToData() const;
+  // EInvalidRegion when it has more rectangles than FromData takes.
+  void RequireStorable() const { RequireCount(rects_.size()); }
   // Accepts rectangles in any order; EInvalidRegion for anything that is not region data.
   static TRegion FromData(QByteArrayView data);
 
  private:
+  static void RequireCount(std::size_t rects);
   friend class TBandBuilder;
   std::vector<TRect, LargeAllocator<TRect>> rects_;
   TRect bounds_;

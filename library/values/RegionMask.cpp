@@ -31,6 +31,7 @@ void TVRXRegionMask::SetRegionData(const QByteArray& data) {
 }
 
 void TVRXRegionMask::SetRegion(TRegion region) {
+  region.RequireStorable();
   QByteArray data = region.Empty() ? QByteArray() : region.ToData();
   if (data == regionData_) return;
   Changing();

@@ -2,6 +2,8 @@
 
 #include <QtMath>
 
+#include "vcl/ShownText.h"
+
 namespace {
 using enum TVRX3DTextStyle;
 
@@ -75,7 +77,8 @@ QSizeF Turned(QSizeF size, double degrees) {
 QSize TextSize(const QString& text, const TVRXFxCaption& fx, const TFont& font, int qtFlags, int width) {
   const QFontMetrics metrics(FontOf(fx, font));
   return metrics
-      .boundingRect(QRect(0, 0, width > 0 ? width : 32000, 32000), qtFlags & ~Qt::AlignHorizontal_Mask, text)
+      .boundingRect(QRect(0, 0, width > 0 ? width : 32000, 32000), qtFlags & ~Qt::AlignHorizontal_Mask,
+                    ShownText(text))
       .size();
 }
 // How far letters reach beyond the room that their lines take, to the left and to the right; slanted ones do.
@@ -150,9 +153,9 @@ void VRXDrawTextExt(TCanvas& canvas, const QString& text, const TVRXFxCaption& f
   const QColor letters = options.Contains(TVRXTextOption::Disabled)      ? ToQColor(clGrayText)
                          : options.Contains(TVRXTextOption::ParentColor) ? ToQColor(behind)
                                                                          : ToQColor(font.Color());
-  QString shown = text;
+  QString shown = ShownText(text);
   if (options.Contains(TVRXTextOption::Ellipsis) && flags & tfSingleLine && angle == 0)
-    shown = QFontMetrics(FontOf(fx, font)).elidedText(text, Qt::ElideRight, room.width(), qtFlags);
+    shown = QFontMetrics(FontOf(fx, font)).elidedText(shown, Qt::ElideRight, room.width(), qtFlags);
   QPainter& p = canvas.Painter();
   p.save();
   p.setFont(FontOf(fx, font));

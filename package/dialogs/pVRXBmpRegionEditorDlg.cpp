@@ -376,14 +376,13 @@ void TVRXfrmRegionFromBMPdlg::BuildButtonClick() {
   Progress->show();
   try {
     TRegionBuild build = Build();
-    mask->BeginUpdate();
+    const TUpdateLock lock(*mask);
     mask->SetRegion(std::move(build.Region).value_or(TRegion()));
     mask->SetBorderPicture(build.Border);
     if (buttonFace) {
       mask->SetStatePicture(0, build.First);
       mask->SetStatePicture(1, build.Second);
     }
-    mask->EndUpdate();
   } catch (const BuildEnded&) {
     return;
   }

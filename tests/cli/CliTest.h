@@ -56,6 +56,9 @@ class Cli : public testing::Test {
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("no such file");
   }
   static QString Example() { return QStringLiteral(VRX_SOURCE_DIR "/examples/control-panel.dfm"); }
+  static QString Case(const char* name) {
+    return QStringLiteral(VRX_SOURCE_DIR "/tests/cli/cases/") + QString::fromLatin1(name);
+  }
   static QString L(const char* text) { return QString::fromUtf8(text); }
 
  private:

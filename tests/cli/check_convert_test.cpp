@@ -158,3 +158,129 @@ TEST_F(ConvertCli, WrongUseIsTwo) {
     EXPECT_FALSE(QFile::exists(out));
   }
 }
+
+TEST_F(CheckCli, ControlCharactersOfAFormAreEscapedEverywhere) {
+  const QString form = Case("control-chars.dfm");
+  for (const QStringList& arguments : {QStringList{L("check"), form},
+                                       {L("get"), form, L("Form1")},
+                                       {L("get"), form, L("Form1.\x1B[2J")},
+                                       {L("check"), Path("no\nsuch\x1B.dfm")},
+                                       {L("convert"), form, Path("a.txt"), L("--to"), L("text")}}) {
+    const Result r = Vrx(arguments);
+    for (const QString& text : {r.out, r.err}) {
+      EXPECT_FALSE(text.contains(u'\x1B')) << text.toStdString();
+      for (const QString& line : text.split(u'\n'))
+        EXPECT_FALSE(line.startsWith(L("/etc/x"))) << line.toStdString();
+    }
+    EXPECT_TRUE((r.out + r.err).contains(L("\\x1B"))) << (r.out + r.err).toStdString();
+  }
+}
+
+TEST_F(CheckCli, TextThatTurnsOrEndsTheLineComesOutAsCodes) {
+  const QByteArray form =
+      "object Form1: TForm1\n  Caption = 'a\xE2\x80\xAE"
+      "b\xC2\x9B"
+      "2J\x7F"
+      "c'\n  Hint = 'gr\xC3\xBC\xC3\x9F'\nend\n";
+  const QString file = Write("a.lfm", form);
+  const Result r = Vrx({L("get"), file, L("Form1.Caption")});
+  EXPECT_EQ(r.out, L("'a'#8238'b'#155'2J'#127'c'\n"));
+  EXPECT_EQ(Vrx({L("get"), file, L("Form1.Hint")}).out, L("'gr\u00FC\u00DF'\n"));
+}
+
+TEST_F(CheckCli, ValuesOfARelatedFrameworkAreRightInItsFiles) {
+  const Result r = Vrx({L("check"), Case("lcl-values.lfm")});
+  EXPECT_EQ(r.code, 0);
+  EXPECT_EQ(r.out, QString());
+  const QString file = Write(
+      "a.lfm", "object F: TF\n  ClientWidth = 9\n  Color = clNobodyKnows\n  BorderIcons = [biNew]\nend\n");
+  const Result unknown = Vrx({L("check"), file});
+  EXPECT_EQ(unknown.code, 0);
+  ASSERT_EQ(unknown.Lines().size(), 2) << unknown.out.toStdString();
+  EXPECT_TRUE(unknown.Lines()[0].startsWith(file + L(":3:11: note: "))) << unknown.out.toStdString();
+  EXPECT_TRUE(unknown.Lines()[0].contains(L("clNobodyKnows")));
+  EXPECT_TRUE(unknown.Lines()[1].contains(L("biNew")));
+  EXPECT_EQ(Vrx({L("check"), L("--strict"), file}).code, 1);
+  EXPECT_EQ(Vrx({L("check"), Write("a.dfm", Read(file))}).code, 1) << "elsewhere it is a mistake";
+}
+
+TEST_F(CheckCli, AFindingNamesThePathAndWhyAReferenceDoesNotFit) {
+  const Result r = Vrx({L("check"), Case("messages.dfm")});
+  ASSERT_EQ(r.Lines().size(), 2) << r.out.toStdString();
+  EXPECT_TRUE(r.Lines()[0].contains(L("Font.Color"))) << r.out.toStdString();
+  EXPECT_TRUE(r.Lines()[0].contains(L(": note: "))) << "clText is a colour of another framework";
+  EXPECT_TRUE(r.Lines()[1].contains(L("Label2, which is a TLabel and no TWinControl")))
+      << r.out.toStdString();
+  EXPECT_FALSE(r.out.contains(L("not on this form")));
+  const Result bad = Vrx({L("check"), Write("b.dfm", "object F: TF\n  Font.Color = clFoo\nend\n")});
+  EXPECT_TRUE(bad.out.contains(L("error: F: TF: Font.Color cannot be clFoo"))) << bad.out.toStdString();
+}
+
+TEST_F(CheckCli, AWrongNameIsToldWhatThereIs) {
+  const Result r = Vrx(
+      {L("check"),
+       Write("a.dfm",
+             "object F: TF\n  object B: TButton\n    Align = alFoo\n    Anchors = [akUp]\n  end\nend\n")});
+  EXPECT_EQ(r.code, 1);
+  for (const char* name : {"alNone", "alTop", "alClient", "akLeft", "akBottom"})
+    EXPECT_TRUE(r.out.contains(L(name))) << r.out.toStdString();
+}
+
+TEST_F(CheckCli, TenThousandsOfFindingsHaveTheirPlaces) {
+  constexpr int Count = 40000;
+  QByteArray form = "object F: TF\n";
+  for (int i = 0; i < Count; ++i) form += "object X" + QByteArray::number(i) + ": TNoSuch\nend ";
+  form += "end\n";
+  const Result r = Vrx({L("check"), Write("a.dfm", form)});
+  ASSERT_EQ(r.Lines().size(), Count);
+  EXPECT_TRUE(r.Lines()[0].contains(L(":2:1: note: ")));
+  EXPECT_TRUE(r.Lines().last().contains(L(":40001:5: note: "))) << r.Lines().last().toStdString();
+}
+
+TEST_F(ConvertCli, ASecondRootIsNotDropped) {
+  const QByteArray two = "object A: TA\n  Left = 1\nend\n\n  object B: TB\nend\n";
+  const QString in = Write("two.dfm", two), out = Write("out.dfm", "precious");
+  const Result r = Vrx({L("convert"), in, out, L("--to"), L("binary")});
+  EXPECT_EQ(r.code, 1);
+  EXPECT_TRUE(r.err.contains(L("second root object"))) << r.err.toStdString();
+  EXPECT_TRUE(r.err.contains(L("line 5, column 3"))) << r.err.toStdString();
+  EXPECT_EQ(Read(out), "precious");
+  EXPECT_EQ(Vrx({L("convert"), in, out, L("--to"), L("text")}).code, 0) << "text can hold both";
+  EXPECT_EQ(Read(out), two);
+  const QString one = Path("one.bin");
+  ASSERT_EQ(Vrx({L("convert"), Write("one.dfm", SmallForm), one, L("--to"), L("binary")}).code, 0);
+  const QString both = Write("both.bin", Read(one) + Read(one));
+  EXPECT_EQ(Vrx({L("convert"), both, out}).code, 1);
+  EXPECT_EQ(Read(out), two);
+  EXPECT_EQ(
+      Vrx({L("convert"), Write("padded.dfm", SmallForm + "\r\n\x1A"), out, L("--to"), L("binary")}).code, 0);
+}
+
+TEST_F(ConvertCli, TheLinesEndAsAskedOrAsUsual) {
+  const QString in = Write("form.bin", "");
+  ASSERT_EQ(Vrx({L("convert"), Write("a.text", SmallForm), in, L("--to"), L("binary")}).code, 0);
+  QByteArray crlf = SmallForm;
+  crlf.replace("\n", "\r\n");
+  const auto converted = [&](const char* name, const QStringList& more = {}) {
+    const QString out = Path(name);
+    EXPECT_EQ(Vrx(QStringList{L("convert"), in, out} + more).code, 0);
+    const QByteArray bytes = Read(out);
+    return bytes.contains("\r\n") ? "crlf" : "lf";
+  };
+  EXPECT_STREQ(converted("new.dfm"), "crlf") << "nothing says otherwise";
+  QFile::remove(Path("new.dfm"));
+  EXPECT_STREQ(converted("new.lfm"), "lf");
+  EXPECT_STREQ(converted("b.dfm", {L("--eol"), L("lf")}), "lf");
+  EXPECT_STREQ(converted("c.dfm"), "lf") << "as the form beside it";
+  EXPECT_STREQ(converted("d.lfm", {L("--eol=crlf")}), "crlf");
+  EXPECT_STREQ(converted("d.lfm"), "crlf") << "as the file it replaces";
+  // Text that is text already changes its line ends only when asked.
+  const QString text = Write("e.dfm", crlf), out = Path("f.dfm");
+  EXPECT_EQ(Vrx({L("convert"), text, out, L("--to"), L("text")}).code, 0);
+  EXPECT_EQ(Read(out), crlf);
+  EXPECT_EQ(Vrx({L("convert"), text, out, L("--to"), L("text"), L("--eol"), L("lf")}).code, 0);
+  EXPECT_EQ(Read(out), SmallForm);
+  EXPECT_EQ(Vrx({L("convert"), text, out, L("--eol"), L("mac")}).code, 2);
+  EXPECT_EQ(Vrx({L("convert"), text, out, L("--to"), L("binary"), L("--eol"), L("lf")}).code, 2);
+  EXPECT_EQ(Read(out), SmallForm);
+}

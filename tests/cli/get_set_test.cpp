@@ -222,3 +222,20 @@ TEST_F(SetCli, WrongUseIsTwo) {
     EXPECT_EQ(Read(file), SmallForm);
   }
 }
+
+TEST_F(SetCli, ANegativeSizeIsRefusedAndSaysWhy) {
+  const Result r = Refused({L("Go.Width=-5")});
+  EXPECT_TRUE(r.err.contains(L("Width of Go cannot be -5"))) << r.err.toStdString();
+  Refused({L("Go.Left=3"), L("Go.Height=-1")});
+  Refused({L("Form1.ClientWidth=-20")});
+  EXPECT_EQ(Changed({L("Go.Left=-5")}), QStringList{L("Left = -5")});
+}
+
+TEST_F(SetCli, ARefusalNamesThePathTheValuesAndTheMisfit) {
+  EXPECT_TRUE(Refused({L("Go.Font.Color=clFoo")}).err.contains(L("Font.Color cannot be clFoo")));
+  const Result align = Refused({L("Go.Align=alFoo")});
+  for (const char* name : {"alNone", "alTop", "alClient"}) EXPECT_TRUE(align.err.contains(L(name)));
+  EXPECT_TRUE(
+      Refused({L("Note.FocusControl=Note")}).err.contains(L("Note, which is a TLabel and no TWinControl")));
+  EXPECT_TRUE(Refused({L("Note.FocusControl=Gone")}).err.contains(L("Gone, which is not on this form")));
+}

@@ -1,6 +1,7 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QRegularExpression>
 
 #include "CliTest.h"
 
@@ -56,7 +57,11 @@ TEST_F(PackageCli, TextListsTheSameInOrder) {
     at = r.out.indexOf(L("\n  ") + name, at) + 1;
     EXPECT_GT(at, 0) << name.toStdString();
   }
-  EXPECT_EQ(Vrx({L("package"), L("extra")}).code, 2);
+  EXPECT_TRUE(r.out.contains(L("\nRequires (11):\n"))) << r.out.toStdString();
+  EXPECT_TRUE(r.out.contains(L("\nContains (33):\n")));
+  EXPECT_TRUE(r.out.contains(L("never build, design only")));
+  EXPECT_EQ(Vrx({L("package"), L("nosuch220")}).code, 1);
+  EXPECT_EQ(Vrx({L("package"), L("extra"), L("more")}).code, 2);
 }
 
 TEST_F(RegistrationsCli, JsonHasOneObjectForEveryCall) {
@@ -99,7 +104,8 @@ TEST_F(RegistrationsCli, JsonHasOneObjectForEveryCall) {
 TEST_F(RegistrationsCli, TextNamesNothingNil) {
   const Result r = Vrx({L("registrations")});
   EXPECT_EQ(r.code, 0);
-  EXPECT_TRUE(r.Lines().contains(L("VRX_RegMain")));
+  EXPECT_TRUE(r.Lines()[0].startsWith(L("Package dclvrxmain220: "))) << r.out.toStdString();
+  EXPECT_EQ(r.Lines().filter(QRegularExpression(L("^VRX_RegMain \\(\\d+\\):$"))).size(), 1);
   EXPECT_TRUE(r.Lines().contains(L("  RegisterPropertyEditor TVRXLED nil \"\" -> TVRXLEDProperty")))
       << r.out.toStdString();
   const qsizetype rows =
@@ -131,4 +137,60 @@ TEST_F(HelpCli, AnUnknownCommandIsTwo) {
     EXPECT_TRUE(r.err.startsWith(L("vrx: ")));
     EXPECT_TRUE(arguments.isEmpty() || r.err.contains(arguments[0]));
   }
+}
+
+TEST_F(RegistrationsCli, ACountStandsBeforeTheRowsOfEveryUnit) {
+  const Result r = Vrx({L("registrations")});
+  static const QRegularExpression heading(L("^(\\w+) \\((\\d+)\\):$"));
+  int rows = 0, said = 0;
+  for (const QString& line : r.Lines()) {
+    if (const auto match = heading.match(line); match.hasMatch()) {
+      EXPECT_EQ(rows, said);
+      said = match.captured(2).toInt();
+      rows = 0;
+    } else if (said > 0 && line.startsWith(L("  Register"))) {
+      ++rows;
+    }
+  }
+  EXPECT_GT(said, 0);
+  EXPECT_EQ(rows, said);
+}
+
+namespace {
+QString TestPackage(const char* name) {
+  return QStringLiteral(VRX_BINARY_DIR "/tests/packages/") + QString::fromLatin1(name) +
+         QStringLiteral(".so");
+}
+}  // namespace
+
+TEST_F(RegistrationsCli, APackageThatRegistersNothingIsSaidTo) {
+  const ProcessResult r = RealVrx({L("registrations"), TestPackage("testempty")});
+  EXPECT_EQ(r.code, 1);
+  EXPECT_EQ(r.err, "vrx registrations: package testempty registers nothing\n");
+}
+
+TEST_F(RegistrationsCli, APackageThatThrowsAnythingIsNamedWithTheCall) {
+  const std::pair<const char*, const char*> rows[] = {{"testctorthrows", "constructor"},
+                                                      {"teststaticthrows", "constructor"},
+                                                      {"testthrowing", "Register of testthrowing"},
+                                                      {"testinitthrows", "Initialize"}};
+  for (const auto& [name, call] : rows) {
+    const ProcessResult r = RealVrx({L("registrations"), TestPackage(name)});
+    EXPECT_EQ(r.code, 1) << name;
+    EXPECT_EQ(r.out, "") << name;
+    EXPECT_TRUE(r.err.startsWith(QByteArray("vrx: Package ") + name)) << r.err.constData();
+    EXPECT_TRUE(r.err.contains(call)) << r.err.constData();
+  }
+}
+
+TEST_F(HelpCli, NoLineIsLongerThanAHundredColumns) {
+  QStringList texts{Vrx({L("--help")}).out};
+  for (const CommandRow& row : CommandTable()) {
+    texts << Vrx({L(row.name), L("--help")}).out << Vrx({L(row.name), L("--nonsense")}).err;
+    // Nothing of what a command takes gets lost between the lines.
+    const QString help = Vrx({L(row.name), L("--help")}).out.section(L("\n\n"), 0, 0);
+    EXPECT_EQ(help.simplified(), L("Usage: vrx ") + L(row.name) + u' ' + L(row.arguments).simplified());
+  }
+  for (const QString& text : texts)
+    for (const QString& line : text.split(u'\n')) EXPECT_LE(line.size(), 100) << line.toStdString();
 }

@@ -98,3 +98,54 @@ TEST_F(RealCli, LoadsThePackage) {
   const ProcessResult value = RealVrx({L("get"), Example(), L("SpeedLED.LED.Thickness")});
   EXPECT_EQ(value.out, "6\n");
 }
+
+TEST_F(RenderCli, TheNameSaysWhichKindOfPicture) {
+  const std::pair<const char*, QByteArray> rows[] = {{"a.jpg", "\xFF\xD8\xFF"},
+                                                     {"a.JPEG", "\xFF\xD8\xFF"},
+                                                     {"a.bmp", "BM"},
+                                                     {"a.png", "\x89PNG"},
+                                                     {"a", "\x89PNG"}};
+  const QString form = Write("f.dfm",
+                             "object Form1: TForm1\n  BorderStyle = bsNone\n  ClientHeight = 30\n  "
+                             "ClientWidth = 70\n  Color = clRed\nend\n");
+  for (const auto& [name, begin] : rows) {
+    const Result r = Vrx({L("render"), form, L("-o"), Path(name)});
+    EXPECT_EQ(r.code, 0) << name << r.err.toStdString();
+    EXPECT_TRUE(Read(Path(name)).startsWith(begin)) << name;
+    EXPECT_EQ(QImage::fromData(Read(Path(name))).size(), QSize(70, 30)) << name;
+    EXPECT_GT(QImage::fromData(Read(Path(name))).pixelColor(35, 15).red(), 240) << name;
+  }
+  const Result r = Vrx({L("render"), form, L("-o"), Path("a.gif")});
+  EXPECT_EQ(r.code, 2);
+  EXPECT_TRUE(r.err.contains(L(".png, .jpg"))) << r.err.toStdString();
+  EXPECT_FALSE(QFile::exists(Path("a.gif")));
+}
+
+TEST_F(RenderCli, ACaptionWithoutEndLooksLikeALongOne) {
+  const auto picture = [&](const char* name, qsizetype size) {
+    const QString form =
+        Write("f.dfm",
+              "object Form1: TForm1\n  ClientHeight = 60\n  ClientWidth = 300\n  object L: TLabel\n"
+              "    Left = 5\n    Top = 6\n    Caption = '" +
+                  QByteArray("word ").repeated(size / 5) + "'\n  end\nend\n");
+    EXPECT_EQ(Vrx({L("render"), form, L("-o"), Path(name)}).code, 0);
+    return QImage(Path(name));
+  };
+  EXPECT_EQ(picture("long.png", 1 << 20), picture("huge.png", 50 << 20));
+}
+
+TEST_F(RealCli, WhatALibraryWritesDoesNotReachThePerson) {
+  QImage image(40, 30, QImage::Format_ARGB32);
+  for (int y = 0; y < 30; ++y)
+    for (int x = 0; x < 40; ++x) image.setPixelColor(x, y, QColor(x * 6, y * 8, x * y % 255, 255 - x));
+  ASSERT_TRUE(image.save(Path("whole.png")));
+  QByteArray bytes = Read(Path("whole.png"));
+  const qsizetype data = bytes.indexOf("IDAT") + 8;
+  for (qsizetype i = data; i < data + 20; ++i) bytes[i] = static_cast<char>(~bytes[i]);
+  const QString damaged = Write("damaged.png", bytes);
+  const ProcessResult r = RealVrx({L("effect3d"), damaged, L("--up"), Path("up.png")});
+  EXPECT_EQ(r.code, 1);
+  EXPECT_FALSE(r.err.contains("libpng")) << r.err.constData();
+  EXPECT_TRUE(r.err.startsWith("vrx effect3d: ")) << r.err.constData();
+  EXPECT_EQ(r.err.count('\n'), 1) << r.err.constData();
+}

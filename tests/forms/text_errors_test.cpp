@@ -1,4 +1,6 @@
 // What the text form refuses, and the place it names.
+#include <random>
+
 #include "tests/forms/FormTest.h"
 
 using namespace formtest;
@@ -185,6 +187,24 @@ TEST(TextErrors, LocationOfAgreesWithCountingLineByLine) {
       const forms::Location where = forms::LocationOf(text, e.offset);
       EXPECT_EQ(where.line, e.line) << text.toHex().toStdString() << " at " << e.offset;
       EXPECT_EQ(where.column, e.column) << text.toHex().toStdString() << " at " << e.offset;
+    }
+  }
+}
+
+// Places that are asked for in any order are those that counting from the start gives.
+TEST(TextErrors, ManyPlacesAreThoseOfCountingFromTheStart) {
+  std::mt19937 random(7);
+  const QByteArray pieces[] = {"\n", "\r\n", "\r", "x", "word = ", "\xC3\xA4", "\xE2\x82\xAC"};
+  for (const QByteArray& begin : {QByteArray(), QByteArray("\xEF\xBB\xBF")}) {
+    QByteArray text = begin;
+    while (text.size() < 40000) text += pieces[random() % (random() % 8 ? 7 : 3)];
+    forms::Locator locator;
+    for (int i = 0; i < 300; ++i) {
+      const std::size_t at = random() % static_cast<std::size_t>(text.size() + 3);
+      const forms::Location quick = locator.At(text, at), slow = forms::LocationOf(text, at);
+      EXPECT_EQ(quick.line, slow.line) << at;
+      EXPECT_EQ(quick.column, slow.column) << at;
+      EXPECT_EQ(quick.offset, slow.offset) << at;
     }
   }
 }

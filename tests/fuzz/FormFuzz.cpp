@@ -1,7 +1,5 @@
 #include "tests/fuzz/FormFuzz.h"
 
-#include <cstdio>
-#include <cstdlib>
 #include <optional>
 
 namespace formfuzz {
@@ -10,12 +8,6 @@ namespace {
 using forms::Document;
 using forms::EFormError;
 using forms::Format;
-
-void Require(bool holds, const char* what) {
-  if (holds) return;
-  std::fprintf(stderr, "does not hold: %s\n", what);
-  std::abort();
-}
 
 std::optional<Document> TryParse(const QByteArray& bytes) {
   try {

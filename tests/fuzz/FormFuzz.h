@@ -1,8 +1,7 @@
 // What must hold for any bytes that a reader of forms is given.
 #pragma once
-#include <cstdint>
-
 #include "forms/Document.h"
+#include "tests/fuzz/Target.h"
 
 namespace formfuzz {
 
@@ -10,5 +9,3 @@ namespace formfuzz {
 void Check(const QByteArray& bytes);
 
 }  // namespace formfuzz
-
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size);

@@ -6,7 +6,7 @@
 #include <random>
 #include <vector>
 
-#include "tests/fuzz/FormFuzz.h"
+#include "tests/fuzz/Target.h"
 
 namespace {
 constexpr std::size_t MaxSize = 4096;

@@ -1,17 +1,6 @@
 // Fuzz target: region data.
-#include <cstdio>
-#include <cstdlib>
-
-#include "tests/fuzz/FormFuzz.h"
+#include "tests/fuzz/Target.h"
 #include "vcl/Region.h"
-
-namespace {
-void Require(bool holds, const char* what) {
-  if (holds) return;
-  std::fprintf(stderr, "does not hold: %s\n", what);
-  std::abort();
-}
-}  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   const QByteArray bytes(reinterpret_cast<const char*>(data), static_cast<qsizetype>(size));

@@ -430,3 +430,15 @@ TEST(InspectorOfRoots, FramesAndDataModulesOfferOnlyWhatTheyHave) {
   EXPECT_TRUE(offers(frame, "Font"));
   EXPECT_TRUE(offers("object F: TF\n  Caption = 'x'\nend\n", "BorderStyle"));
 }
+
+TEST_F(InspectorTest, ARowShowsTheBeginningOfAnEndlessText) {
+  const QString endless(5'000'000, u'x');
+  auto& button = *session_->GetComponent(QStringLiteral("Inner"));
+  session_->Run(QStringLiteral("long"), {&button},
+                [&] { static_cast<TControl&>(button).SetCaption(endless); });
+  session_->Select({&button});
+  const QModelIndex cell = model_.IndexOfPath(QStringLiteral("Caption")).siblingAtColumn(1);
+  EXPECT_LT(cell.data(Qt::DisplayRole).toString().size(), 2000);
+  EXPECT_LT(cell.data(Qt::ToolTipRole).toString().size(), 2000);
+  EXPECT_EQ(model_.ValueText(cell), endless) << "the value itself is whole";
+}

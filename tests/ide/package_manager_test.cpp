@@ -6,7 +6,9 @@
 #include <QtTest>
 
 #include "designintf/DesignIntf.h"
+#include "designintf/PackageCall.h"
 #include "ide/FormSession.h"
+#include "ide/InspectorModel.h"
 #include "ide/Unknown.h"
 #include "rtl/ClassRegistry.h"
 #include "rtl/Exceptions.h"
@@ -267,4 +269,168 @@ TEST_F(PackageTest, AnOpenFormFollowsItsPackageAndLosesNothing) {
   EXPECT_TRUE(IsUnknown(*session->GetComponent(name)));
   EXPECT_EQ(session->Bytes(), bytes);
   EXPECT_FALSE(session->IsModified());
+}
+
+namespace {
+bool Names(const QString& message, const char* package, const char* call) {
+  return message.contains(QString::fromLatin1(package)) && message.contains(QString::fromLatin1(call));
+}
+
+// A copy of a test package under another file name.
+QString CopyOf(const char* name, const QString& folder, const char* as) {
+  const QString file = folder + u'/' + QString::fromLatin1(as);
+  QDir().mkpath(folder);
+  EXPECT_TRUE(QFile::copy(TestPackages + u'/' + QString::fromLatin1(name), file));
+  return file;
+}
+
+// What packages are told to have done, while it lives.
+struct Told {
+  QStringList messages;
+  Told() {
+    SetPackageProblemListener([this](const QString& m) { messages << m; });
+  }
+  ~Told() { SetPackageProblemListener(nullptr); }
+};
+
+const QByteArray BadForm =
+    "object F: TF\n  object G: TBadGauge\n    Left = 1\n    Top = 2\n    Width = 60\n    Height = 20\n"
+    "    Level = 3\n  end\nend\n";
+}  // namespace
+
+TEST_F(PackageTest, APluginWhoseConstructorThrowsAnythingIsNamed) {
+  const QString message = MessageOf([&] { manager_.Load(QStringLiteral("testctorthrows")); });
+  EXPECT_TRUE(Names(message, "testctorthrows", "constructor")) << message.toStdString();
+  EXPECT_TRUE(NothingLeft());
+  EXPECT_FALSE(manager_.IsLoaded(QStringLiteral("testctorthrows")));
+  manager_.Load(QStringLiteral("testsample"));
+  EXPECT_TRUE(manager_.IsLoaded(QStringLiteral("testsample")));
+}
+
+TEST_F(PackageTest, APackageWhoseStaticObjectsThrowIsNamed) {
+  const QString message = MessageOf([&] { manager_.Load(QStringLiteral("teststaticthrows")); });
+  EXPECT_TRUE(Names(message, "teststaticthrows", "constructor")) << message.toStdString();
+  EXPECT_TRUE(NothingLeft());
+}
+
+TEST_F(PackageTest, AFailingRegisterIsNamedWithItsUnit) {
+  const QString message = MessageOf([&] { manager_.Load(QStringLiteral("testthrowing")); });
+  EXPECT_TRUE(Names(message, "testthrowing", "Register of testthrowing")) << message.toStdString();
+  const QString start = MessageOf([&] { manager_.Load(QStringLiteral("testinitthrows")); });
+  EXPECT_TRUE(Names(start, "testinitthrows", "Initialize")) << start.toStdString();
+}
+
+TEST_F(PackageTest, APackageWhoseFinalizeThrowsIsGoneAndNamed) {
+  manager_.Load(QStringLiteral("testbadend"));
+  const QString message = MessageOf([&] { manager_.Unload(QStringLiteral("testbadend")); });
+  EXPECT_TRUE(Names(message, "testbadend", "Finalize")) << message.toStdString();
+  EXPECT_FALSE(manager_.IsLoaded(QStringLiteral("testbadend")));
+  EXPECT_TRUE(NothingLeft());
+}
+
+TEST_F(PackageTest, AManagerThatGoesSurvivesAFinalizeThatThrows) {
+  Told told;
+  {
+    PackageManager other({TestPackages, Libraries});
+    other.Load(QStringLiteral("testsample"));
+    other.Load(QStringLiteral("testbadend"));
+  }
+  ASSERT_EQ(told.messages.size(), 1);
+  EXPECT_TRUE(Names(told.messages[0], "testbadend", "Finalize")) << told.messages[0].toStdString();
+  EXPECT_EQ(Log().last(), QStringLiteral("final first")) << "the others still end";
+  EXPECT_TRUE(NothingLeft());
+}
+
+TEST_F(PackageTest, EditorsThatThrowAreNamedAndTheRowsStay) {
+  Told told;
+  manager_.Load(QStringLiteral("testbadend"));
+  const auto session = FormSession::FromBytes(BadForm);
+  InspectorModel model;
+  model.SetSession(session.get());
+  session->Select({session->GetComponent(QStringLiteral("G"))});
+  ASSERT_EQ(session->GetComponent(QStringLiteral("G"))->ClassType().ClassName(), "TBadGauge");
+  ASSERT_EQ(told.messages.filter(QStringLiteral("TBadMarkProperty.constructor")).size(), 1);
+  const QModelIndex mark = model.IndexOfPath(QStringLiteral("Mark"));
+  EXPECT_EQ(model.ValueText(mark), QStringLiteral("0")) << "the usual editor serves instead";
+  EXPECT_EQ(model.SetValueText(mark, QStringLiteral("9")), QString());
+  const QModelIndex level = model.IndexOfPath(QStringLiteral("Level"));
+  EXPECT_EQ(model.ValueText(level), QString());
+  ASSERT_FALSE(told.messages.isEmpty());
+  EXPECT_TRUE(Names(told.messages.last(), "testbadend", "TBadLevelProperty.GetValue"));
+  const qsizetype count = told.messages.size();
+  EXPECT_EQ(model.ValueText(level), QString());
+  EXPECT_EQ(told.messages.size(), count) << "once is enough";
+  const QByteArray before = session->Bytes();
+  const QString refused = model.SetValueText(level, QStringLiteral("8"));
+  EXPECT_TRUE(Names(refused, "testbadend", "TBadLevelProperty.SetValue")) << refused.toStdString();
+  EXPECT_EQ(session->Bytes(), before);
+  model.SetSession(nullptr);
+}
+
+TEST_F(PackageTest, AComponentEditorThatThrowsIsNamedAndRolledBack) {
+  manager_.Load(QStringLiteral("testbadend"));
+  const auto session = FormSession::FromBytes(BadForm);
+  const QString message = MessageOf([&] { session->Edit(*session->GetComponent(QStringLiteral("G"))); });
+  EXPECT_TRUE(Names(message, "testbadend", "TBadGaugeEditor.Edit")) << message.toStdString();
+  EXPECT_EQ(session->Bytes(), BadForm);
+  EXPECT_FALSE(session->CanUndo());
+}
+
+TEST_F(PackageTest, AComponentThatCannotBeMadeIsAFindingAndStaysInTheFile) {
+  manager_.Load(QStringLiteral("testbadend"));
+  const QByteArray bytes = "object F: TF\n  ClientWidth = 90\n  object N: TNeverMade\n    Left = 1\n  end\nend\n";
+  const auto session = FormSession::FromBytes(bytes);
+  ASSERT_EQ(session->Findings().size(), 1u);
+  EXPECT_TRUE(Names(session->Findings()[0].text, "testbadend", "TNeverMade.constructor"))
+      << session->Findings()[0].text.toStdString();
+  EXPECT_EQ(session->Findings()[0].where.line, 3);
+  EXPECT_EQ(session->Bytes(), bytes);
+  const QString message =
+      MessageOf([&] { session->CreateComponent(GetClass("TNeverMade"), nullptr, QRect(1, 2, 30, 40)); });
+  EXPECT_TRUE(Names(message, "testbadend", "TNeverMade.constructor")) << message.toStdString();
+  EXPECT_EQ(session->Bytes(), bytes);
+}
+
+TEST_F(PackageTest, TheFileThatBearsTheNameIsTakenBeforeOneThatClaimsIt) {
+  const QTemporaryDir folder;
+  const QString stranger = CopyOf("testsample.so", folder.filePath(QStringLiteral("first")), "aaa.so"),
+                own = CopyOf("testsample.so", folder.filePath(QStringLiteral("second")), "testsample.so");
+  const QStringList folders{folder.filePath(QStringLiteral("first")),
+                            folder.filePath(QStringLiteral("second")), Libraries};
+  PackageManager manager(folders);
+  manager.Load(QStringLiteral("testsample"));
+  EXPECT_TRUE(IsMapped(own));
+  EXPECT_FALSE(IsMapped(stranger));
+  ASSERT_EQ(manager.Warnings().size(), 1);
+  EXPECT_TRUE(manager.Warnings()[0].contains(own)) << manager.Warnings()[0].toStdString();
+  EXPECT_TRUE(manager.Warnings()[0].contains(stranger)) << manager.Warnings()[0].toStdString();
+}
+
+TEST_F(PackageTest, AStrangersNameOnTheFileDoesNotMakeItThePackage) {
+  const QTemporaryDir folder;
+  CopyOf("testneedy.so", folder.path(), "testsample.so");
+  CopyOf("testsample.so", folder.path(), "zzz.so");
+  PackageManager manager({folder.path()});
+  EXPECT_EQ(manager.ReadRecord(QStringLiteral("testsample")).Name, QStringLiteral("testsample"));
+  EXPECT_TRUE(manager.Warnings().isEmpty());
+}
+
+TEST_F(PackageTest, ADamagedFileOfTheNameIsToldRatherThanReplacedByAnother) {
+  const QTemporaryDir folder;
+  QFile damaged(folder.filePath(QStringLiteral("testsample.so")));
+  ASSERT_TRUE(damaged.open(QIODevice::WriteOnly));
+  damaged.write("no library");
+  damaged.close();
+  CopyOf("testsample.so", folder.path(), "aaa.so");
+  PackageManager manager({folder.path()});
+  const QString message = MessageOf([&] { manager.ReadRecord(QStringLiteral("testsample")); });
+  EXPECT_TRUE(message.contains(damaged.fileName())) << message.toStdString();
+}
+
+TEST_F(PackageTest, NamesAreComparedWithoutRegardToCase) {
+  EXPECT_EQ(manager_.ReadRecord(QStringLiteral("TestSAMPLE")).Name, QStringLiteral("testsample"));
+  manager_.Load(QStringLiteral("TESTSAMPLE"));
+  EXPECT_TRUE(manager_.IsLoaded(QStringLiteral("testSample")));
+  manager_.Unload(QStringLiteral("TestSample"));
+  EXPECT_FALSE(manager_.IsLoaded(QStringLiteral("testsample")));
 }
