@@ -43,9 +43,6 @@ int CheckCommand(const QStringList& list, Console& console) {
     } catch (...) {
       PrintFinding(console.out, file, {0, 1, 1}, "error", CurrentExceptionMessage());
       bad = true;
-    } catch (const std::bad_alloc& e) {
-      PrintFinding(console.out, file, {0, 1, 1}, "error", ExceptionMessage(e));
-      bad = true;
     }
   }
   console.out.flush();

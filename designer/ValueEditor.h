@@ -16,7 +16,7 @@ class ValueEditor : public QWidget {
     QString name;  // the row's path
     QString text;
     std::function<QStringList()> values;  // asked for when somebody wants to see them; null: none ever
-    bool mixed = false;  // the components differ; the text is empty
+    bool mixed = false;                   // the components differ; the text is empty
     bool readOnly = false;
     bool bold = false;  // the value is not the default
     bool dialog = false;

@@ -46,7 +46,8 @@ TComponent::TComponent(TComponent* owner) {
 
 TComponent::~TComponent() {
   destroying_ = true;
-  for (TComponent* c : std::exchange(freeNotifies_, TNotifyList())) c->Notification(this, TOperation::opRemove);
+  for (TComponent* c : std::exchange(freeNotifies_, TNotifyList()))
+    c->Notification(this, TOperation::opRemove);
   while (!components_.empty()) {
     TComponent* last = components_.back();
     RemoveComponent(last);

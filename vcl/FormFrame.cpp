@@ -63,9 +63,8 @@ void PaintTitleBar(const TForm& form, QPainter& p, bool active) {
 void PaintFormWindow(TForm& form, QPainter& painter, bool active) {
   painter.save();
   if (!form.FrameMargins().isNull()) {
-    painter.fillRect(
-        QRect(QPoint(0, 0), form.OuterSize()).adjusted(0, form.FrameMargins().top(), 0, 0),
-        FormPalette().color(QPalette::Window));
+    painter.fillRect(QRect(QPoint(0, 0), form.OuterSize()).adjusted(0, form.FrameMargins().top(), 0, 0),
+                     FormPalette().color(QPalette::Window));
     PaintTitleBar(form, painter, active);
   }
   painter.restore();

@@ -29,9 +29,7 @@ TVRXCustom3DButton::TVRXCustom3DButton(TComponent* owner)
 }
 TVRXCustom3DButton::~TVRXCustom3DButton() = default;
 
-void TVRXCustom3DButton::SetDown(bool v) {
-  Change(down_, v);
-}
+void TVRXCustom3DButton::SetDown(bool v) { Change(down_, v); }
 
 QSize TVRXCustom3DButton::AutoSizeHint() const {
   return face_->Empty() ? QSize(Width(), Height()) : face_->Size();

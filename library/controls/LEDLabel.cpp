@@ -37,13 +37,9 @@ TVRXLEDCustomLabel::TVRXLEDCustomLabel(TComponent* owner)
 }
 TVRXLEDCustomLabel::~TVRXLEDCustomLabel() = default;
 
-void TVRXLEDCustomLabel::SetTransparent(bool v) {
-  Change(transparent_, v);
-}
+void TVRXLEDCustomLabel::SetTransparent(bool v) { Change(transparent_, v); }
 
-void TVRXLEDCustomLabel::SetAlignment(TAlignment v) {
-  Change(alignment_, v);
-}
+void TVRXLEDCustomLabel::SetAlignment(TAlignment v) { Change(alignment_, v); }
 
 namespace {
 int Margin(const TVRXLED& led) { return std::max<int>(3, led.Thickness()); }

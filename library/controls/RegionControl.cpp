@@ -25,9 +25,7 @@ TVRXRegion::TVRXRegion(TComponent* owner)
 }
 TVRXRegion::~TVRXRegion() = default;
 
-void TVRXRegion::SetDown(bool v) {
-  Change(down_, v);
-}
+void TVRXRegion::SetDown(bool v) { Change(down_, v); }
 
 QSize TVRXRegion::AutoSizeHint() const {
   const QSize size = mask_->ShownSize(0);
@@ -70,9 +68,7 @@ TVRXWndButtonShape::TVRXWndButtonShape(TComponent* owner)
 }
 TVRXWndButtonShape::~TVRXWndButtonShape() = default;
 
-void TVRXWndButtonShape::SetTransparent(bool v) {
-  Change(transparent_, v);
-}
+void TVRXWndButtonShape::SetTransparent(bool v) { Change(transparent_, v); }
 
 void TVRXWndButtonShape::Paint(TCanvas& canvas) {
   if (!transparent_) canvas.FillRect(ClientRect(), Color());

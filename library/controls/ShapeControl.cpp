@@ -32,13 +32,9 @@ TVRXBaseShape::TVRXBaseShape(TComponent* owner)
 }
 TVRXBaseShape::~TVRXBaseShape() = default;
 
-void TVRXBaseShape::SetBevelColor(TColor v) {
-  Change(bevelColor_, v);
-}
+void TVRXBaseShape::SetBevelColor(TColor v) { Change(bevelColor_, v); }
 
-void TVRXBaseShape::SetTransparent(bool v) {
-  Change(transparent_, v);
-}
+void TVRXBaseShape::SetTransparent(bool v) { Change(transparent_, v); }
 
 void TVRXBaseShape::Paint(TCanvas& canvas) {
   const QRect area = ClientRect();

@@ -167,7 +167,8 @@ TEST_F(DesignerTest, KeysThatAnAlignmentTakesBackSayWhyQuietly) {
   Session().Run(QStringLiteral("x"), {}, [&] { panel.SetAlign(TAlign::alTop); });
   QStringList notices;
   QObject listener;
-  QObject::connect(&Surface(), &FormSurface::Notice, &listener, [&](const QString& text) { notices << text; });
+  QObject::connect(&Surface(), &FormSurface::Notice, &listener,
+                   [&](const QString& text) { notices << text; });
   Key(Qt::Key_Right);
   Key(Qt::Key_Right, Qt::ShiftModifier);
   ASSERT_EQ(notices.size(), 2);

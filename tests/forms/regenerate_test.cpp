@@ -134,7 +134,8 @@ TEST(Regenerate, StringBreakingAgreesWithAPlainModel) {
       const bool plain = c >= 32 && c != '\'';
       if (plain != quoted) lines.back() += "'";
       quoted = plain;
-      lines.back() += plain ? std::string(1, c) : std::string("#").append(std::to_string(static_cast<int>(c)));
+      lines.back() +=
+          plain ? std::string(1, c) : std::string("#").append(std::to_string(static_cast<int>(c)));
       ++units;
     }
     if (quoted) lines.back() += "'";

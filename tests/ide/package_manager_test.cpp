@@ -378,7 +378,8 @@ TEST_F(PackageTest, AComponentEditorThatThrowsIsNamedAndRolledBack) {
 
 TEST_F(PackageTest, AComponentThatCannotBeMadeIsAFindingAndStaysInTheFile) {
   manager_.Load(QStringLiteral("testbadend"));
-  const QByteArray bytes = "object F: TF\n  ClientWidth = 90\n  object N: TNeverMade\n    Left = 1\n  end\nend\n";
+  const QByteArray bytes =
+      "object F: TF\n  ClientWidth = 90\n  object N: TNeverMade\n    Left = 1\n  end\nend\n";
   const auto session = FormSession::FromBytes(bytes);
   ASSERT_EQ(session->Findings().size(), 1u);
   EXPECT_TRUE(Names(session->Findings()[0].text, "testbadend", "TNeverMade.constructor"))
