@@ -25,7 +25,7 @@ void TVRXProgressBar::paintEvent(QPaintEvent*) {
   const QRectF room = frame.adjusted(2, 2, -2, -2);
   const double part = std::clamp(percent_, 0, 100) / 100.0;
   p.setPen(Qt::NoPen);
-  p.setBrush(palette().color(QPalette::Highlight));
+  p.setBrush(palette().color(QPalette::Active, QPalette::Highlight));  // what runs is not disabled
   if (segments_ == 0) {
     p.drawRect(QRectF(room.topLeft(), QSizeF(room.width() * part, room.height())));
     return;

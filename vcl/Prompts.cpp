@@ -5,24 +5,35 @@
 #include <QPushButton>
 
 namespace {
+// Texts hold names out of strangers' files, which must not become markup.
+QMessageBox::StandardButton Show(QMessageBox::Icon icon, QWidget* parent, const QString& title,
+                                 const QString& text, QMessageBox::StandardButtons buttons = QMessageBox::Ok,
+                                 QMessageBox::StandardButton preset = QMessageBox::NoButton) {
+  QMessageBox box(icon, title, text, buttons, parent);
+  box.setTextFormat(Qt::PlainText);
+  box.setDefaultButton(preset);
+  return static_cast<QMessageBox::StandardButton>(box.exec());
+}
+
 class WidgetPrompts : public IPrompts {
  public:
   void Inform(QWidget* parent, const QString& title, const QString& text) override {
-    QMessageBox::information(parent, title, text);
+    Show(QMessageBox::Information, parent, title, text);
   }
   void Warn(QWidget* parent, const QString& title, const QString& text) override {
-    QMessageBox::warning(parent, title, text);
+    Show(QMessageBox::Warning, parent, title, text);
   }
   TAnswer AskToSave(QWidget* parent, const QString& text) override {
-    const auto button = QMessageBox::question(parent, QObject::tr("Save changes"), text,
-                                              QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel,
-                                              QMessageBox::Save);
+    const auto button =
+        Show(QMessageBox::Question, parent, QObject::tr("Save changes"), text,
+             QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel, QMessageBox::Save);
     return button == QMessageBox::Save      ? TAnswer::Yes
            : button == QMessageBox::Discard ? TAnswer::No
                                             : TAnswer::Cancel;
   }
   TFileAnswer AskFileChanged(QWidget* parent, const QString& title, const QString& text) override {
     QMessageBox box(QMessageBox::Warning, title, text, QMessageBox::Cancel, parent);
+    box.setTextFormat(Qt::PlainText);
     box.setInformativeText(
         QObject::tr("Reload takes the file on disk and gives up the changes made here. Overwrite does the "
                     "reverse. Show both lets you compare them first."));
@@ -37,7 +48,8 @@ class WidgetPrompts : public IPrompts {
     return TFileAnswer::Cancel;
   }
   bool Confirm(QWidget* parent, const QString& title, const QString& text) override {
-    return QMessageBox::question(parent, title, text) == QMessageBox::Yes;
+    return Show(QMessageBox::Question, parent, title, text, QMessageBox::Yes | QMessageBox::No) ==
+           QMessageBox::Yes;
   }
   QString OpenFileName(QWidget* parent, const QString& title, const QString& folder,
                        const QString& filter) override {

@@ -5,10 +5,12 @@
 #include <QXmlStreamReader>
 
 #include "vcl/PictureFile.h"
+#include "vcl/SvgUses.h"
 
 namespace {
 constexpr qsizetype MaxText = qsizetype{64} << 20;
-constexpr int MaxSvgDepth = 256;  // drawing goes down by recursion
+constexpr int MaxSvgDepth = 256;                    // drawing goes down by recursion
+constexpr std::int64_t MaxSvgElements = 1'000'000;  // with those that are drawn again
 
 bool IsCompressed(QByteArrayView bytes) { return bytes.startsWith("\x1f\x8b"); }
 
@@ -84,6 +86,7 @@ class Checker {
           break;
         case QXmlStreamReader::EndElement:
           --depth;
+          uses_.Close();
           break;
         case QXmlStreamReader::Characters:
           CheckCss(xml_.text().toString());
@@ -97,6 +100,11 @@ class Checker {
                                 .arg(what_, xml_.errorString())
                                 .arg(xml_.lineNumber())
                                 .arg(xml_.columnNumber()));
+    if (uses_.Drawn(MaxSvgElements) >= MaxSvgElements)
+      throw EInvalidPicture(
+          QStringLiteral("%1 is a drawing that repeats its parts without end, or to more than %2 elements.")
+              .arg(what_)
+              .arg(MaxSvgElements));
   }
 
  private:
@@ -115,6 +123,7 @@ class Checker {
 
   void CheckElement() {
     const QStringView name = LocalName(xml_.qualifiedName());
+    uses_.Open(xml_.attributes().value(QLatin1StringView("id")).toString());
     for (const QXmlStreamAttribute& a : xml_.attributes()) {
       const QStringView attribute = LocalName(a.qualifiedName());
       const QString value = a.value().toString();
@@ -122,6 +131,7 @@ class Checker {
       const bool fetched = attribute.compare(u"href", Qt::CaseInsensitive) == 0
                                ? name.compare(u"a", Qt::CaseInsensitive) != 0
                                : attribute.compare(u"src", Qt::CaseInsensitive) == 0;
+      if (fetched && value.startsWith(u'#')) uses_.Use(value.mid(1));
       if (fetched && !value.isEmpty() && !value.startsWith(u'#')) CheckEmbedded(value);
       CheckCss(value);
     }
@@ -163,6 +173,7 @@ class Checker {
   QXmlStreamReader xml_;
   QString what_;
   std::int64_t pixels_ = 0;  // of everything embedded
+  SvgUses uses_;
 };
 }  // namespace
 

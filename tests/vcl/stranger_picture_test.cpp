@@ -190,6 +190,25 @@ TEST_F(StrangerPicture, TheWatchSeesADecoderThatFollowsAReference) {
   EXPECT_EQ(watch.Opened(), QStringList());
 }
 
+TEST_F(StrangerPicture, ADrawingDoesNotRepeatItselfEndlessly) {
+  // Each of thirty groups draws the one before twice: 2^30 times the first.
+  QByteArray doubling = "<g id='g0'><rect width='1' height='1'/></g>";
+  for (int i = 1; i <= 30; ++i) {
+    const QByteArray before = "<use xlink:href='#g" + QByteArray::number(i - 1) + "'/>";
+    doubling += "<g id='g" + QByteArray::number(i) + "'>" + before + before + "</g>";
+  }
+  EXPECT_TRUE(Has(Refusal(Write("doubling.svg", SvgOf(doubling))), "repeats"));
+  EXPECT_TRUE(
+      Has(Refusal(Write("self.svg", SvgOf("<g id='a'><g><use xlink:href='#a'/></g></g>"))), "repeats"));
+  EXPECT_TRUE(Has(Refusal(Write("round.svg", SvgOf("<g id='a'><use xlink:href='#b'/></g>"
+                                                   "<g id='b'><use xlink:href='#a'/></g>"))),
+                  "repeats"));
+  // Repeating something is what "use" is for.
+  QByteArray honest = "<g id='g'><rect width='1' height='1'/></g>";
+  for (int i = 0; i < 500; ++i) honest += "<use xlink:href='#g' x='" + QByteArray::number(i) + "'/>";
+  EXPECT_FALSE(LoadPicture(Write("honest.svg", SvgOf(honest))).Empty());
+}
+
 TEST_F(StrangerPicture, ADrawingIsNotNestedEndlessly) {
   const QByteArray deep = QByteArray("<g>").repeated(100000) + QByteArray("</g>").repeated(100000);
   EXPECT_TRUE(Has(Refusal(Write("deep.svg", SvgOf(deep))), "nested"));
