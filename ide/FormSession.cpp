@@ -78,7 +78,7 @@ forms::FormReader FormSession::MakeReader(forms::Document& document, forms::Obje
 }
 
 void FormSession::Build() {
-  RequirePictureBudget(document_);
+  RequirePictureBudget(document_, !commands_.empty());
   map_.Clear();
   forms::FormReader reader = MakeReader(document_, map_);
   auto root = reader.ReadRoot();

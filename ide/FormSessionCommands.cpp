@@ -40,12 +40,13 @@ void FormSession::RequireReadableAfter(const Command& command) {
       if (v.after.type == forms::ValueType::Binary) data += v.after.bytes.size();
   if (data == 0) return;
   try {
-    RequirePictureBudget(document_);
+    RequirePictureBudget(document_, true);
     constexpr qsizetype Large = qsizetype{1} << 20;
     if (data > Large) RequireReadable(Bytes().size());
   } catch (const Exception&) {
     Undo();
     commands_.pop_back();
+    emit ModifiedChanged();  // there is nothing to redo
     throw;
   }
 }

@@ -140,7 +140,8 @@ void TControl::SetBounds(int left, int top, int width, int height) {
   height = std::max(height, 0);
   if (QRect(left, top, width, height) == BoundsRect()) return;
   const LayoutChange among(align_ != TAlign::alNone ? parent_ : nullptr);
-  if (IControlHost* host = FindHost()) {
+  // What is being loaded nobody has seen yet.
+  if (IControlHost* host = IsLoading() ? nullptr : FindHost()) {
     host->ControlChanged(*this);
     host->BoundsChanging(*this);
   }
@@ -298,6 +299,7 @@ bool TControl::IsLayoutFrozen() const {
 }
 
 void TControl::Invalidate() {
+  if (IsLoading()) return;
   if (IControlHost* host = FindHost()) host->ControlChanged(*this);
 }
 
