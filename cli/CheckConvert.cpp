@@ -37,6 +37,8 @@ int CheckCommand(const QStringList& list, Console& console) {
         PrintFinding(console.out, file, f.where, names[static_cast<int>(severity)], f.text);
         bad = bad || severity != Severity::Note;
       }
+      // It is kept, and nobody but this file's own kind can hold it.
+      session->Document().RequireOneRoot();
     } catch (const EFormError& e) {
       PrintFinding(console.out, file, e.Where(), "error", e.Text());
       bad = true;

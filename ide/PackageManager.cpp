@@ -17,7 +17,10 @@ const QStringList& HostPackages() {
   return names;
 }
 
-QJsonObject MetaData(const QString& file) { return QPluginLoader(file).metaData(); }
+// The loader looks for a relative name in its own folders.
+QString Loadable(const QString& file) { return QFileInfo(file).absoluteFilePath(); }
+
+QJsonObject MetaData(const QString& file) { return QPluginLoader(Loadable(file)).metaData(); }
 
 bool IsDesignPackage(const QJsonObject& meta) {
   return meta.value(QStringLiteral("IID")).toString() == QLatin1StringView(VRX_DESIGN_PACKAGE_IID);
@@ -143,7 +146,7 @@ void PackageManager::Load(const QString& nameOrFile) {
                        "library that "
                        "provides %2.")
                         .arg(record.Name, missing));
-  auto loader = std::make_unique<QPluginLoader>(file);
+  auto loader = std::make_unique<QPluginLoader>(Loadable(file));
   // The code stays mapped after unloading: a window that is still being destroyed may need it.
   loader->setLoadHints(QLibrary::PreventUnloadHint | QLibrary::ResolveAllSymbolsHint);
   IDesignPackage* package = nullptr;

@@ -1,7 +1,8 @@
 #include "rtl/Registry.h"
 
-#include <QSettings>
 #include <QStandardPaths>
+
+#include "rtl/SettingsFormat.h"
 
 namespace {
 QString& StoragePath() {
@@ -18,7 +19,7 @@ QString TRegistry::StorageFile() {
          QStringLiteral("/orlenvo-designer/settings.ini");
 }
 
-TRegistry::TRegistry() : settings_(std::make_unique<QSettings>(StorageFile(), QSettings::IniFormat)) {}
+TRegistry::TRegistry() : settings_(std::make_unique<QSettings>(StorageFile(), SettingsFormat())) {}
 TRegistry::~TRegistry() = default;
 
 QString TRegistry::Find(const QStringList& names, const QString& wanted) const {

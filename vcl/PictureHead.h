@@ -13,9 +13,9 @@ class EInvalidPicture : public Exception {
 
 // Larger pictures are refused: work on them needs several copies in memory.
 constexpr std::int64_t MaxPicturePixels = std::int64_t{8192} * 8192;
-// What the pictures of one form may take in memory: four of the largest, so that a value with three of them
-// leaves room for others, and reading them all stays a matter of seconds.
-constexpr std::int64_t MaxFormPictureBytes = 4 * MaxPicturePixels * 4;
+// What the pictures of one form may take in memory: a value with three of the largest and some room for
+// others, so that reading them all stays a matter of seconds.
+constexpr std::int64_t MaxFormPictureBytes = 3 * MaxPicturePixels * 4 + (std::int64_t{64} << 20);
 
 // The one limit for pictures that are read, stored or about to be made. `what` stands at the start of the
 // sentence.

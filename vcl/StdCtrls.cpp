@@ -6,6 +6,7 @@
 #include "rtl/ClassRegistry.h"
 #include "vcl/Form.h"
 #include "vcl/FormColors.h"
+#include "vcl/ShownText.h"
 
 const TClass& TLabel::StaticClass() {
   static const TClass cls(
@@ -137,7 +138,7 @@ void TButton::Paint(TCanvas& canvas) {
   option.palette = FormPalette();
   option.palette.setColor(QPalette::ButtonText, ToQColor(Enabled() ? Font()->Color() : clGrayText));
   option.fontMetrics = QFontMetrics(ToQFont(*Font()));
-  option.text = Caption();
+  option.text = ShownText(Caption());
   option.state = Enabled() ? QStyle::State_Enabled | QStyle::State_Raised : QStyle::State_Raised;
   if (default_) option.features |= QStyleOptionButton::DefaultButton;
   canvas.Painter().setFont(ToQFont(*Font()));

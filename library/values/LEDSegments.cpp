@@ -1,6 +1,7 @@
 #include "library/values/LEDSegments.h"
 
 #include <QHash>
+#include <climits>
 #include <cmath>
 
 namespace {
@@ -212,9 +213,9 @@ int Spacing(const TVRXLED& led) { return led.Thickness() + 1; }
 }  // namespace
 
 QSize LEDTextSize(const QString& text, const TVRXLED& led) {
-  int width = 0;
+  std::int64_t width = 0;
   for (QChar c : text) width += LEDCellSize(LEDGlyphOf(c).Cell, led).width() + Spacing(led);
-  return {std::max(0, width - Spacing(led)),
+  return {static_cast<int>(std::clamp<std::int64_t>(width - Spacing(led), 0, INT_MAX / 2)),
           LEDCellSize(TLEDCell::Seven, led).height() + (led.Thickness() + 1) / 2};
 }
 
@@ -224,8 +225,18 @@ void DrawLEDText(TCanvas& canvas, QPoint at, const QString& text, const TVRXLED&
   painter.setRenderHint(QPainter::Antialiasing);
   std::vector<QPolygonF> shapes[3];
   qreal x = at.x();
+  // Letters out of sight are only counted; slanted ones reach over their cells by less than their height.
+  const qreal reach = LEDCellSize(TLEDCell::Seven, led).height() + led.Thickness();
+  const bool clipped = painter.hasClipping();
+  const QRectF sight = painter.clipBoundingRect().adjusted(-reach, 0, reach, 0);
   for (QChar c : text) {
     const TLEDGlyph glyph = LEDGlyphOf(c);
+    const qreal width = LEDCellSize(glyph.Cell, led).width();
+    if (clipped && x > sight.right()) break;
+    if (clipped && x + width < sight.left()) {
+      x += width + Spacing(led);
+      continue;
+    }
     auto& cell = shapes[static_cast<int>(glyph.Cell)];
     if (cell.empty()) cell = LEDSegmentShapes(glyph.Cell, led);
     for (std::size_t i = 0; i < cell.size(); ++i) {
@@ -234,7 +245,7 @@ void DrawLEDText(TCanvas& canvas, QPoint at, const QString& text, const TVRXLED&
       if (cell[i].isEmpty() || (!on && glyph.Cell == TLEDCell::Point && i > 0)) continue;
       canvas.Polygon(cell[i].translated(x, at.y()), on && lit ? led.ActiveColor() : led.InActiveColor());
     }
-    x += LEDCellSize(glyph.Cell, led).width() + Spacing(led);
+    x += width + Spacing(led);
   }
   painter.restore();
 }

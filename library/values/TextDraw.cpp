@@ -62,9 +62,11 @@ int QtFlags(unsigned flags) {
   return (flags & tfSingleLine ? Qt::TextSingleLine : 0) |
          (flags & tfWordBreak && !(flags & tfSingleLine) ? Qt::TextWordWrap : 0) |
          (flags & tfExpandTabs ? Qt::TextExpandTabs : 0) | (flags & tfNoPrefix ? 0 : Qt::TextShowMnemonic) |
-         (flags & tfCenter  ? Qt::AlignHCenter
-          : flags & tfRight ? Qt::AlignRight
-                            : Qt::AlignLeft);
+         // A single line fills its box; lines that are not at the left would lose their tabs.
+         (flags & tfSingleLine ? Qt::AlignLeft
+          : flags & tfCenter   ? Qt::AlignHCenter
+          : flags & tfRight    ? Qt::AlignRight
+                               : Qt::AlignLeft);
 }
 
 // The size of a text that is turned by an angle.
@@ -76,10 +78,7 @@ QSizeF Turned(QSizeF size, double degrees) {
 
 QSize TextSize(const QString& text, const TVRXFxCaption& fx, const TFont& font, int qtFlags, int width) {
   const QFontMetrics metrics(FontOf(fx, font));
-  return metrics
-      .boundingRect(QRect(0, 0, width > 0 ? width : 32000, 32000), qtFlags & ~Qt::AlignHorizontal_Mask,
-                    ShownText(text))
-      .size();
+  return metrics.boundingRect(QRect(0, 0, width > 0 ? width : 32000, 32000), qtFlags, ShownText(text)).size();
 }
 // How far letters reach beyond the room that their lines take, to the left and to the right; slanted ones do.
 struct Overhang {

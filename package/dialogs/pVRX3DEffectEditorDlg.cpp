@@ -64,6 +64,7 @@ void TVRX3DEffectEditorDlg::BuildSettings() {
     using enum TColorBoxStyle;
     combo = Named(new TVRXColorComboBox({csDefaultColors, csSystemColors, csAnyColor}, this), name, hint);
     button = NewColorButton(buttonName, this);
+    button->setToolTip(QString::fromLatin1(hint));
     AddRow(QString::fromLatin1(label), combo, button);
     connect(combo, &TVRXColorComboBox::Change, this, [this, combo] { Guarded([&] { cmbBChange(combo); }); });
     connect(button, &QToolButton::clicked, this, [this, button] { Guarded([&] { dlgBClick(button); }); });

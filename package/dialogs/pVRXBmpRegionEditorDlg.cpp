@@ -310,7 +310,7 @@ void TVRXfrmRegionFromBMPdlg::ShowColor(std::optional<TColor> color) {
 
 void TVRXfrmRegionFromBMPdlg::RemoveSelected() {
   if (building_) return;
-  delete cl->takeItem(cl->currentRow());
+  qDeleteAll(cl->selectedItems());
   BuildButton->setEnabled(true);
   ShowNote();
 }
@@ -318,7 +318,7 @@ void TVRXfrmRegionFromBMPdlg::RemoveSelected() {
 bool TVRXfrmRegionFromBMPdlg::eventFilter(QObject* watched, QEvent* event) {
   if (watched == cl && event->type() == QEvent::KeyPress) {
     const int key = static_cast<QKeyEvent*>(event)->key();
-    if ((key == Qt::Key_Delete || key == Qt::Key_Backspace) && cl->currentRow() >= 0) {
+    if ((key == Qt::Key_Delete || key == Qt::Key_Backspace) && !cl->selectedItems().isEmpty()) {
       RemoveSelected();
       return true;
     }
@@ -423,9 +423,11 @@ bool TVRXfrmRegionFromBMPdlg::ResultIsOlder() const {
 }
 
 void TVRXfrmRegionFromBMPdlg::ShowNote() {
-  note->setText(ResultIsOlder() ? tr("The result is older than the settings; Build makes it anew.")
-                : bordered_     ? tr("The picture has its border already; load it again for another one.")
-                                : QString());
+  const bool older = ResultIsOlder();
+  const bool overBorder = bordered_ && (!older || Style() != made_.style);
+  note->setText(overBorder ? tr("The picture has its border already; load it again for another one.")
+                : older    ? tr("The result is older than the settings; Build makes it anew.")
+                           : QString());
 }
 
 // What a control with this mask will look like.

@@ -169,6 +169,14 @@ TEST_F(RegistrationsCli, APackageThatRegistersNothingIsSaidTo) {
   EXPECT_EQ(r.err, "vrx registrations: package testempty registers nothing\n");
 }
 
+TEST_F(RegistrationsCli, AFileMayBeNamedFromTheFolderOneStandsIn) {
+  const QString relative = QDir().relativeFilePath(TestPackage("testempty"));
+  ASSERT_TRUE(QFileInfo(relative).isRelative());
+  for (const QString& name : {relative, L("./") + relative})
+    EXPECT_EQ(RealVrx({L("registrations"), name}).err,
+              "vrx registrations: package testempty registers nothing\n");
+}
+
 TEST_F(RegistrationsCli, APackageThatThrowsAnythingIsNamedWithTheCall) {
   const std::pair<const char*, const char*> rows[] = {{"testctorthrows", "constructor"},
                                                       {"teststaticthrows", "constructor"},

@@ -66,6 +66,7 @@ TEST_F(RepaintTest, WhateverIsDoneTheWholeSurfaceIsRight) {
         TComponent* c = all[static_cast<std::size_t>(random.bounded(static_cast<int>(all.size())))];
         auto* control = As<TControl>(c);
         const int what = random.bounded(10);
+        const QString name = c->Name();  // it may be gone afterwards
         const auto run = [&](const std::function<void()>& action) {
           Session().Run(QStringLiteral("step"), {c}, action);
         };
@@ -88,7 +89,7 @@ TEST_F(RepaintTest, WhateverIsDoneTheWholeSurfaceIsRight) {
         if (!control && what >= 5)
           run([&] { c->SetDesignInfo(DesignWordOf({static_cast<std::int16_t>(random.bounded(300)), 60})); });
         ExpectAllPainted(
-            QStringLiteral("seed %1, step %2: %3 of %4").arg(seed).arg(step).arg(what).arg(c->Name()));
+            QStringLiteral("seed %1, step %2: %3 of %4").arg(seed).arg(step).arg(what).arg(name));
         if (HasFailure()) return;
       }
     }

@@ -28,10 +28,10 @@ void RegisterRegion() {
 TEST(PictureBudget, AnEditThatGoesBeyondItIsTakenBack) {
   RegisterRegion();
   const QByteArray large = PngOf(8192, 8192, 1);
-  const QByteArray text = FormWith(4, large);
+  const QByteArray text = FormWith(3, large);
   const auto session = FormSession::FromBytes(text);
   ASSERT_TRUE(session->Findings().empty()) << session->Findings()[0].text.toStdString();
-  auto* last = dynamic_cast<TVRXRegion*>(session->GetComponent(QStringLiteral("R4")));
+  auto* last = dynamic_cast<TVRXRegion*>(session->GetComponent(QStringLiteral("R3")));
   ASSERT_NE(last, nullptr);
   const TPropInfo& picture = TVRXRegionMask::StaticClass().GetProp("BorderPicture");
   const auto set = [&](const QByteArray& bytes) {
@@ -42,7 +42,7 @@ TEST(PictureBudget, AnEditThatGoesBeyondItIsTakenBack) {
     set(large);
     FAIL();
   } catch (const Exception& e) {
-    EXPECT_TRUE(e.Message().contains(QStringLiteral("1024 MB"))) << e.what();
+    EXPECT_TRUE(e.Message().contains(QStringLiteral("832 MB"))) << e.what();
   }
   EXPECT_EQ(session->Bytes(), text);
   EXPECT_FALSE(session->CanUndo());
@@ -65,6 +65,6 @@ TEST(PictureBudget, TheFirstPictureTooManyIsNamedWithItsLine) {
     FormSession::FromBytes(FormWith(5, PngOf(8192, 8192, 1)));
     FAIL();
   } catch (const forms::EFormError& e) {
-    EXPECT_EQ(e.Where().line, 5 + 4 * 6);
+    EXPECT_EQ(e.Where().line, 5 + 3 * 6);
   }
 }

@@ -139,6 +139,21 @@ TEST(Caption, NothingThatIsDrawnIsCut) {
             }
 }
 
+TEST(Caption, ATabIsMeasuredAsItIsDrawn) {
+  for (const int alignment : {0, 4, 8})
+    for (const bool multiLine : {false, true}) {
+      if (multiLine && alignment != 0) continue;  // lines that are not at the left have no tab stops
+      TVRXCaption caption;
+      caption.SetCaption(QStringLiteral("H\tH"));
+      caption.SetAlignment(static_cast<TVRXAlignment>(alignment));
+      caption.SetMultiLine(multiLine);
+      const Face face = FaceOf(caption);
+      const QRect ink = InkOf(face.exact);
+      EXPECT_LE(face.exact.width() - ink.width(), 4) << "alignment " << alignment << " lines " << multiLine;
+      EXPECT_GT(ink.width(), 40) << "a tab is wider than a space";
+    }
+}
+
 TEST(Caption, AnAmpersandIsMeasuredAsItIsDrawn) {
   const auto width = [](const char* text, int angle) {
     TVRXCaption caption;

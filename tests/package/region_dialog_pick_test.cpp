@@ -76,6 +76,10 @@ TEST_F(RegionDialog, DeleteAndBackspaceRemoveTheSelectedColour) {
   dlg.cl->setCurrentRow(0);
   QTest::keyClick(dlg.cl, Qt::Key_Backspace);
   EXPECT_EQ(Listed(), "clBlue");
+  dlg.cl->setCurrentRow(0);
+  dlg.cl->clearSelection();
+  QTest::keyClick(dlg.cl, Qt::Key_Delete);
+  EXPECT_EQ(Listed(), "clBlue") << "nothing was selected";
 }
 
 TEST_F(RegionDialog, TheZoomShowsThePixelsFromTheRightClickOn) {

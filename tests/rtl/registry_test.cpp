@@ -1,4 +1,5 @@
 // Settings: keys and values without regard to case.
+#include <QFile>
 #include <QTemporaryDir>
 
 #include "rtl/Registry.h"
@@ -66,6 +67,34 @@ TEST_F(Registry, ValuesOfEveryKindComeBack) {
   r.WriteBool(Q("No"), false);
   EXPECT_TRUE(r.ReadBool(Q("Yes"), false));
   EXPECT_FALSE(r.ReadBool(Q("No"), true));
+}
+
+TEST_F(Registry, AValueIsATextWhateverItLooksLike) {
+  // Other writers keep whole objects so; one of these asks for gigabytes.
+  QFile file(TRegistry::StorageFile());
+  ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+  file.write(
+      "Loose=1\n[General]\nTheme=dark ; a remark\n[Odd]\nA=@Variant(\\0\\0\\0\\xc\\x7f\\xff\\xff\\xff)\n"
+      "B=@ByteArray(abc)\nC=\"a, b; c\"\nD=\\x41\\n\\\"@@x\"\nSub\\Key%20%U20AC=\"@@at\"\n; no "
+      "value\nnothing\n");
+  file.close();
+  TRegistry r;
+  EXPECT_EQ(r.ReadString(Q("Loose")), Q("1"));
+  EXPECT_EQ(r.ReadString(Q("Theme")), Q("dark "));
+  ASSERT_TRUE(r.OpenKey(Q("Odd"), false));
+  EXPECT_TRUE(r.ReadString(Q("A")).startsWith(Q("@Variant(")));
+  EXPECT_EQ(r.ReadString(Q("B")), Q("@ByteArray(abc)"));
+  EXPECT_EQ(r.ReadString(Q("C")), Q("a, b; c"));
+  EXPECT_EQ(r.ReadString(Q("D")), Q("A\n\"@@x"));
+  r.WriteString(Q("E"), Q("new"));
+  ASSERT_TRUE(r.Flush());
+  TRegistry again;
+  EXPECT_EQ(again.ReadString(Q("Theme")), Q("dark "));
+  ASSERT_TRUE(again.OpenKey(Q("Odd\\Sub"), false));
+  EXPECT_EQ(again.ReadString(Q("Key \xE2\x82\xAC")), Q("@at"));
+  ASSERT_TRUE(again.OpenKey(Q("Odd"), false));
+  EXPECT_EQ(again.ReadString(Q("C")), Q("a, b; c"));
+  EXPECT_EQ(again.ReadString(Q("E")), Q("new"));
 }
 
 TEST_F(Registry, MissingOrUnreadableValuesGiveTheDefault) {
