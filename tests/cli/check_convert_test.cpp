@@ -256,6 +256,14 @@ TEST_F(ConvertCli, ASecondRootIsNotDropped) {
       Vrx({L("convert"), Write("padded.dfm", SmallForm + "\r\n\x1A"), out, L("--to"), L("binary")}).code, 0);
 }
 
+TEST_F(CheckCli, ASecondRootIsToldWithItsPlace) {
+  const QString two = Write("two.dfm", "object A: TForm\nend\nobject B: TForm\nend\n");
+  const Result r = Vrx({L("check"), two});
+  EXPECT_EQ(r.code, 1);
+  EXPECT_TRUE(r.out.contains(two + L(":3:1: warning: A second root object"))) << r.out.toStdString();
+  EXPECT_EQ(Vrx({L("check"), Write("one.dfm", "object A: TForm\nend\n\n")}).code, 0);
+}
+
 TEST_F(ConvertCli, TheLinesEndAsAskedOrAsUsual) {
   const QString in = Write("form.bin", "");
   ASSERT_EQ(Vrx({L("convert"), Write("a.text", SmallForm), in, L("--to"), L("binary")}).code, 0);
