@@ -7,6 +7,7 @@
 #include "dclstd/StandardEditors.h"
 #include "designer/FormSurface.h"
 #include "designer/MainWindow.h"
+#include "vcl/StdCtrls.h"
 
 namespace {
 // Until everything that follows has been done and painted.
@@ -47,7 +48,7 @@ void MeasureWindow(const QString& file, const QString&) {
   Settle();
   FormSession& session = *window.Session();
   TControl* control = InSight(session);
-  QList<double> edit, undo, select, nudge;
+  QList<double> edit, undo, select, nudge, place;
   for (int i = 0; i < 15; ++i) {
     select << TimeOf([&] { session.Select({i % 2 ? session.GetRoot() : control}); });
     session.Select({control});
@@ -61,9 +62,13 @@ void MeasureWindow(const QString& file, const QString&) {
     undo << TimeOf([&] { session.Undo(); });
     session.Undo();
     Settle();
+    place << TimeOf([&] { session.CreateComponent(TButton::StaticClass(), nullptr, QRect(120, 300, 75, 25)); });
+    session.Undo();
+    Settle();
   }
   Report("edit", Median(edit));
   Report("undo", Median(undo));
   Report("select", Median(select));
   Report("nudge", Median(nudge));
+  Report("place", Median(place));
 }

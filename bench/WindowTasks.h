@@ -2,5 +2,5 @@
 #pragma once
 #include <QString>
 
-// Times of an edit, of undoing one, of selecting, and of moving by an arrow key.
+// Times of an edit, of undoing one, of selecting, of moving by an arrow key, and of placing a button.
 void MeasureWindow(const QString& file, const QString& warmUp);

@@ -22,12 +22,19 @@ void DrawPlain(QPainter& p, const TIconInk& ink) {
   p.drawEllipse(QRectF(9, 9, 6, 6));
 }
 
-void Draw(const TClass& cls, QPainter& painter, const QRectF& rect, const QPalette& palette) {
+void Draw(const TClass& cls, QPainter& painter, const QRectF& rect, const QPalette& palette,
+          QIcon::Mode mode = QIcon::Normal) {
   TIconInk ink;
   const bool dark = IsDark(palette);
   ink.Line = dark ? QColor(0xC8, 0xCD, 0xD6) : QColor(0x4A, 0x52, 0x5E);
   ink.Fill = dark ? QColor(0x4A, 0x51, 0x5C) : QColor(0xFF, 0xFF, 0xFF);
   ink.Accent = palette.color(QPalette::Highlight);
+  if (mode == QIcon::Selected) {
+    // On a ground of the accent.
+    ink.Line = ink.Accent = palette.color(QPalette::HighlightedText);
+    ink.Fill = ink.Line;
+    ink.Fill.setAlpha(50);
+  }
   painter.save();
   painter.setRenderHint(QPainter::Antialiasing);
   painter.translate(rect.topLeft());
@@ -46,14 +53,14 @@ void Draw(const TClass& cls, QPainter& painter, const QRectF& rect, const QPalet
 class Engine : public QIconEngine {
  public:
   explicit Engine(const TClass& cls) : cls_(cls) {}
-  void paint(QPainter* painter, const QRect& rect, QIcon::Mode, QIcon::State) override {
-    Draw(cls_, *painter, rect, QApplication::palette());
+  void paint(QPainter* painter, const QRect& rect, QIcon::Mode mode, QIcon::State) override {
+    Draw(cls_, *painter, rect, QApplication::palette(), mode);
   }
-  QPixmap pixmap(const QSize& size, QIcon::Mode, QIcon::State) override {
+  QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State) override {
     QPixmap pixmap(size);
     pixmap.fill(Qt::transparent);
     QPainter p(&pixmap);
-    Draw(cls_, p, QRectF(QPointF(0, 0), size), QApplication::palette());
+    Draw(cls_, p, QRectF(QPointF(0, 0), size), QApplication::palette(), mode);
     return pixmap;
   }
   QIconEngine* clone() const override { return new Engine(cls_); }

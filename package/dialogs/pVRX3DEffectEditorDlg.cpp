@@ -32,7 +32,7 @@ enum { Original, Up, Down, Disabled };
 }  // namespace
 
 TVRX3DEffectEditorDlg::TVRX3DEffectEditorDlg(QWidget* owner)
-    : EditorDialog(QStringLiteral("3D Effect Editor"), QSize(610, 311), owner, 280) {
+    : EditorDialog(QStringLiteral("3D Effect Editor"), QSize(610, 311), owner, 272) {
   setObjectName(QStringLiteral("VRX3DEffectEditorDlg"));
   Build();
   FormCreate();

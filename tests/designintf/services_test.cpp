@@ -214,3 +214,17 @@ TEST(ComponentIcons, AreTheNearestAncestors) {
   EXPECT_EQ(picture(TComponent::StaticClass()), plain);
   EXPECT_EQ(ComponentIcon(TIce::StaticClass()).pixmap(48, 48).size(), QSize(48, 48));
 }
+
+TEST(ComponentIcons, AreReadableInSelectedRows) {
+  const QIcon icon = ComponentIcon(TComponent::StaticClass());
+  const auto accents = [&](QIcon::Mode mode) {
+    const QImage picture = icon.pixmap(QSize(48, 48), mode).toImage();
+    int count = 0;
+    for (int y = 0; y < 48; ++y)
+      for (int x = 0; x < 48; ++x)
+        count += picture.pixelColor(x, y) == QApplication::palette().color(QPalette::Highlight);
+    return count;
+  };
+  EXPECT_GT(accents(QIcon::Normal), 0);
+  EXPECT_EQ(accents(QIcon::Selected), 0) << "the accent on a ground of the accent";
+}

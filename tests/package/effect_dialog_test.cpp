@@ -22,6 +22,10 @@ TEST_F(EffectDialog, TheResultsAreThoseOfTheRoutineWithTheDialogsColours) {
   EXPECT_TRUE(pictures[3] == disabled);
 }
 
+TEST_F(EffectDialog, TheFormOpensInItsOwnSize) {
+  Show([&] { EXPECT_EQ(dlg.size(), QSize(610, 311)); });
+}
+
 TEST_F(EffectDialog, TheColoursThatWereHandedOverAreShown) {
   const TColor given[] = {clNavy, clYellow, TColor(0x123456), clMaroon};
   std::copy_n(given, 4, dlg.colors);
