@@ -39,8 +39,9 @@ const Row kRows[] = {
 };
 }  // namespace
 
-void RegisterStandard() {
+void RegisterStandard(DesignRegistry& registry) {
   RegisterStandardIcons();
   RegisterClass(TForm::StaticClass());
+  const RegistrationScope scope(registry, nullptr, {});
   MakeCalls(kRows);
 }

@@ -14,7 +14,8 @@
 
 std::vector<std::string> ConcreteClasses() {
   static const bool registered = [] {
-    RegisterStandard();
+    static DesignRegistry registry;
+    RegisterStandard(registry);
     ORLENVOKITEDITOROPTIONS = 0xFF;  // the variants, too
     VRX_RegMain::Register();
     return true;

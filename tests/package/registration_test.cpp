@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include "designintf/DesignRegistry.h"
 #include "designintf/RegistrationTable.h"
 #include "library/controls/LEDLabel.h"
 #include "library_design/pVRXCommon.h"
@@ -56,15 +57,13 @@ const Row kRows[] = {
 
 class Registering : public testing::Test {
  protected:
+  DesignRegistry registry_;
   void SetUp() override { ORLENVOKITEDITOROPTIONS = 0; }
-  void TearDown() override {
-    UnregisterPackage(this);
-    ORLENVOKITEDITOROPTIONS = 0;
-  }
+  void TearDown() override { ORLENVOKITEDITOROPTIONS = 0; }
   // The calls of this test, in words.
   QStringList Calls() const {
     QStringList calls;
-    for (const TRegistration& row : Registrations())
+    for (const TRegistration& row : registry_.Rows())
       if (row.Package == this) calls << Words(row);
     return calls;
   }
@@ -90,7 +89,7 @@ class Registering : public testing::Test {
     return {};
   }
   void Register(std::span<const Row> rows) {
-    const RegistrationScope scope(this, "test");
+    const RegistrationScope scope(registry_, this, "test");
     MakeCalls(rows);
   }
 };
@@ -115,7 +114,7 @@ TEST_F(Registering, WithTheOptionTheLabeledRowsShareOnePage) {
                                                "page Labeled: TKnob|") +
                                     kAfterPages);
   QString labeled;
-  for (const TPalettePage& page : PalettePages())
+  for (const TPalettePage& page : registry_.PalettePages())
     if (page.Name == QStringLiteral("Labeled"))
       for (const TClass* cls : page.Classes) labeled += QString::fromLatin1(cls->ClassName()) + u' ';
   EXPECT_EQ(labeled, QStringLiteral("TDial TKnob "));
@@ -141,7 +140,7 @@ TEST_F(Registering, AClassTwiceOnAPageGivesOneButton) {
   Register(rows);
   EXPECT_EQ(Calls().join(u'|'), QStringLiteral("page Twice: TKnob TDial TKnob"));
   int buttons = 0;
-  for (const TPalettePage& page : PalettePages())
+  for (const TPalettePage& page : registry_.PalettePages())
     if (page.Name == QStringLiteral("Twice")) buttons = static_cast<int>(page.Classes.size());
   EXPECT_EQ(buttons, 2);
 }
@@ -155,11 +154,11 @@ TEST_F(Registering, ARowThatThrowsComesOutAndEndsTheTable) {
 
 TEST_F(Registering, ThePackagePutsTheLedLabelOnItsPageWithItsEditors) {
   {
-    const RegistrationScope scope(this, "VRX_RegMain");
+    const RegistrationScope scope(registry_, this, "VRX_RegMain");
     VRX_RegMain::Register();
   }
   std::vector<const TRegistration*> own;
-  for (const TRegistration& row : Registrations())
+  for (const TRegistration& row : registry_.Rows())
     if (row.Package == this) own.push_back(&row);
   ASSERT_GE(own.size(), 2u);
   EXPECT_EQ(own[0]->Kind, TRegistrationKind::Components);
@@ -177,10 +176,10 @@ TEST_F(Registering, ThePackagePutsTheLedLabelOnItsPageWithItsEditors) {
 }
 
 TEST_F(Registering, UnregisteringLeavesNoRowAndNoClass) {
-  const std::size_t before = Registrations().size();
+  const std::size_t before = registry_.Rows().size();
   Register(kRows);
   EXPECT_NE(FindClass("TKnob"), nullptr);
-  UnregisterPackage(this);
-  EXPECT_EQ(Registrations().size(), before);
+  registry_.UnregisterPackage(this);
+  EXPECT_EQ(registry_.Rows().size(), before);
   EXPECT_EQ(FindClass("TKnob"), nullptr);
 }

@@ -218,7 +218,7 @@ TEST(EveryComponentEditor, HasACaptionForEachVerbAndNothingBeyond) {
     if (cls->IsAbstract() || !cls->InheritsFrom(TComponent::StaticClass())) continue;
     SCOPED_TRACE(cls->ClassName().toStdString());
     const std::unique_ptr<TComponent> component(cls->NewComponent(nullptr));
-    const auto editor = GetComponentEditor(component.get(), &designer);
+    const auto editor = scope.registry.GetComponentEditor(component.get(), &designer);
     const int count = editor->GetVerbCount();
     edited += count;
     for (int i = 0; i < count; ++i) EXPECT_FALSE(editor->GetVerb(i).isEmpty()) << i;
