@@ -24,7 +24,7 @@ run: build
 	fi
 
 test: build
-	ctest --test-dir build/$(PRESET) --output-on-failure -j $(JOBS)
+	ctest --test-dir build/$(PRESET) --output-on-failure --no-tests=error -j $(JOBS)
 
 # Says what is missing when a preset or a machine has no benchmarks.
 bench: build

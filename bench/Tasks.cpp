@@ -10,8 +10,9 @@
 
 namespace {
 void LoadClasses() {
-  RegisterStandard();
-  static PackageManager packages(PackageManager::DefaultFolders());
+  static DesignRegistry registry;
+  RegisterStandard(registry);
+  static PackageManager packages(PackageManager::DefaultFolders(), registry);
   packages.Load(PackageManager::DefaultPackage());
 }
 

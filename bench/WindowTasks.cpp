@@ -38,8 +38,9 @@ TControl* InSight(FormSession& session) {
 }  // namespace
 
 void MeasureWindow(const QString& file, const QString&) {
-  RegisterStandard();
-  PackageManager packages(PackageManager::DefaultFolders());
+  DesignRegistry registry;
+  RegisterStandard(registry);
+  PackageManager packages(PackageManager::DefaultFolders(), registry);
   packages.Load(PackageManager::DefaultPackage());
   MainWindow window(packages);
   window.resize(1280, 800);

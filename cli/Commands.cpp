@@ -102,13 +102,18 @@ Arguments ParseArguments(const QStringList& list, const QStringList& withValue, 
 
 void Console::Tell(const QString& message) const { err << Printable(message) << Qt::endl; }
 
+DesignRegistry& Host() {
+  static auto& registry = *new DesignRegistry;  // for the life of the process
+  return registry;
+}
+
 QString LoadClasses(Console& console, bool labeled, const QString& package) {
   static PackageManager* packages = nullptr;
   const QString wanted = package.isEmpty() ? PackageManager::DefaultPackage() : package;
   if (labeled) qputenv("ORLENVOKITEDITOROPTIONS", "1");
   if (!packages) {
-    RegisterStandard();
-    packages = new PackageManager(PackageManager::DefaultFolders());  // for the life of the process
+    RegisterStandard(Host());
+    packages = new PackageManager(PackageManager::DefaultFolders(), Host());  // as long
     SetPackageProblemListener(
         [&console](const QString& message) { console.Tell(QStringLiteral("vrx: ") + message); });
   }
@@ -174,6 +179,7 @@ void PrintHelp(QTextStream& out) {
 }  // namespace
 
 int RunVrx(const QStringList& arguments, Console& console) {
+  Host();
   const QString first = arguments.value(0);
   if (first == QStringLiteral("--help") || first == QStringLiteral("-h") || first == QStringLiteral("help")) {
     PrintHelp(console.out);

@@ -3,6 +3,8 @@
 #include <QStringList>
 #include <QTextStream>
 
+class DesignRegistry;
+
 // What a command leaves the process with.
 enum ExitCode { ExitOk = 0, ExitFindings = 1, ExitUsage = 2 };
 
@@ -37,6 +39,8 @@ struct Arguments {
 };
 Arguments ParseArguments(const QStringList& list, const QStringList& withValue, const QStringList& flags);
 
+// What packages have registered with vrx.
+DesignRegistry& Host();
 // Makes the host's classes and, when it can be loaded, the package's known; a package that cannot is told on
 // `err`. Empty: the design-time package of the library. The name of what was loaded, empty for nothing.
 QString LoadClasses(Console& console, bool labeled = false, const QString& package = {});

@@ -2,7 +2,7 @@
 #include <QJsonDocument>
 
 #include "cli/Commands.h"
-#include "designintf/DesignIntf.h"
+#include "designintf/DesignRegistry.h"
 #include "ide/PackageManager.h"
 #include "rtl/Printable.h"
 
@@ -146,7 +146,7 @@ void PrintRows(QTextStream& out, const QString& package, const std::vector<const
 int PackageCommand(const QStringList& list, Console& console) {
   const Arguments args = ParseArguments(list, {}, {QStringLiteral("--json")});
   const QString wanted = PackageArgument(args);
-  PackageManager packages(PackageManager::DefaultFolders());
+  PackageManager packages(PackageManager::DefaultFolders(), Host());
   const TPackageRecord record =
       packages.ReadRecord(wanted.isEmpty() ? PackageManager::DefaultPackage() : wanted);
   for (const QString& warning : packages.Warnings())
@@ -180,8 +180,8 @@ int RegistrationsCommand(const QStringList& list, Console& console) {
   const Arguments args = ParseArguments(list, {}, {QStringLiteral("--labeled"), QStringLiteral("--json")});
   const QString package = LoadClasses(console, args.Has(QStringLiteral("--labeled")), PackageArgument(args));
   std::vector<const TRegistration*> rows;
-  for (const TRegistration& r : Registrations())
-    if (r.Package && PackageName(r.Package) == package) rows.push_back(&r);
+  for (const TRegistration& r : Host().Rows())
+    if (r.Package && Host().PackageName(r.Package) == package) rows.push_back(&r);
   if (args.Has(QStringLiteral("--json"))) {
     QJsonArray json;
     for (const TRegistration* r : rows) json << RowToJson(*r);

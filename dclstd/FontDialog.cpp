@@ -4,7 +4,7 @@
 
 #include "designintf/CustomColors.h"
 #include "designintf/IdeTheme.h"
-#include "rtl/ClassRegistry.h"
+#include "rtl/IntegerConsts.h"
 
 namespace {
 // What can be chosen; a font of another size keeps it and is shown with it.

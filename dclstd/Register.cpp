@@ -1,50 +1,47 @@
 #include "dclstd/Icons.h"
 #include "dclstd/StandardEditors.h"
-#include "designintf/DesignIntf.h"
+#include "designintf/RegistrationTable.h"
 #include "rtl/ClassRegistry.h"
 #include "rtl/Strings.h"
 #include "vcl/ExtCtrls.h"
 #include "vcl/Form.h"
 #include "vcl/StdCtrls.h"
 
-namespace {
-const TTypeInfo& TypeOfProp(const TClass& cls, const char* name) { return *cls.GetProp(name).PropType; }
+using namespace registration;
 
-void Category(TResString category, const TClass& cls, const QStringList& names) {
-  RegisterPropertiesInCategory(LoadResString(category), cls, names);
-}
+namespace {
+// Types that only these properties have.
+const TTypeInfo& FontNameType() { return *TFont::StaticClass().GetProp("Name").PropType; }
+const TTypeInfo& ComponentNameType() { return *TComponent::StaticClass().GetProp("Name").PropType; }
+const TTypeInfo& ModalResultType() { return *TButton::StaticClass().GetProp("ModalResult").PropType; }
+
+const Row kRows[] = {
+    Page("Standard", Classes<TLabel, TButton, TPanel>()),
+    Page("System", Classes<TTimer>()),
+
+    Property<TColor, TColorProperty>(),
+    Property<TCursor, TCursorProperty>(),
+    Property<TFontCharset, TFontCharsetProperty>(),
+    Property<TFont, TFontProperty>(),
+    Property<TStrings, TStringListProperty>(),
+    Property<CaptionType, TCaptionProperty>(),
+    Property<FontNameType, TFontNameProperty>(),
+    Property<ComponentNameType, TComponentNameProperty>(),
+    Property<ModalResultType, TModalResultProperty>(),
+
+    Category<TControl>(TResString::sLayoutCategoryName,
+                       {"Left", "Top", "Width", "Height", "Align", "Anchors", "AutoSize", "Alignment",
+                        "Layout", "ClientWidth", "ClientHeight", "BorderWidth", "Position"}),
+    Category<TControl>(
+        TResString::sVisualCategoryName,
+        {"Caption", "Color", "Font", "ParentColor", "ParentFont", "Visible", "Transparent", "Cursor",
+         "BevelInner", "BevelOuter", "BevelWidth", "BorderStyle", "BorderIcons", "LED", "Enabled"}),
+};
 }  // namespace
 
-void RegisterStandard() {
+void RegisterStandard(DesignRegistry& registry) {
   RegisterStandardIcons();
   RegisterClass(TForm::StaticClass());
-  RegisterComponents(QStringLiteral("Standard"),
-                     {&TLabel::StaticClass(), &TButton::StaticClass(), &TPanel::StaticClass()});
-  RegisterComponents(QStringLiteral("System"), {&TTimer::StaticClass()});
-
-  RegisterPropertyEditor(TypeInfoOf<TColor>::Get(), nullptr, {}, VRX_PROPERTY_EDITOR(TColorProperty));
-  RegisterPropertyEditor(TypeInfoOf<TCursor>::Get(), nullptr, {}, VRX_PROPERTY_EDITOR(TCursorProperty));
-  RegisterPropertyEditor(TypeInfoOf<TFontCharset>::Get(), nullptr, {},
-                         VRX_PROPERTY_EDITOR(TFontCharsetProperty));
-  RegisterPropertyEditor(TFont::StaticTypeInfo(), nullptr, {}, VRX_PROPERTY_EDITOR(TFontProperty));
-  RegisterPropertyEditor(TStrings::StaticTypeInfo(), nullptr, {}, VRX_PROPERTY_EDITOR(TStringListProperty));
-  RegisterPropertyEditor(CaptionType(), nullptr, {}, VRX_PROPERTY_EDITOR(TCaptionProperty));
-  RegisterPropertyEditor(TypeOfProp(TFont::StaticClass(), "Name"), nullptr, {},
-                         VRX_PROPERTY_EDITOR(TFontNameProperty));
-  RegisterPropertyEditor(TypeOfProp(TComponent::StaticClass(), "Name"), nullptr, {},
-                         VRX_PROPERTY_EDITOR(TComponentNameProperty));
-  RegisterPropertyEditor(TypeOfProp(TButton::StaticClass(), "ModalResult"), nullptr, {},
-                         VRX_PROPERTY_EDITOR(TModalResultProperty));
-
-  const auto names = [](std::initializer_list<const char*> list) {
-    QStringList result;
-    for (const char* name : list) result << QString::fromLatin1(name);
-    return result;
-  };
-  Category(TResString::sLayoutCategoryName, TControl::StaticClass(),
-           names({"Left", "Top", "Width", "Height", "Align", "Anchors", "AutoSize", "Alignment", "Layout",
-                  "ClientWidth", "ClientHeight", "BorderWidth", "Position"}));
-  Category(TResString::sVisualCategoryName, TControl::StaticClass(),
-           names({"Caption", "Color", "Font", "ParentColor", "ParentFont", "Visible", "Transparent", "Cursor",
-                  "BevelInner", "BevelOuter", "BevelWidth", "BorderStyle", "BorderIcons", "LED", "Enabled"}));
+  const RegistrationScope scope(registry, nullptr, {});
+  MakeCalls(kRows);
 }

@@ -7,7 +7,7 @@
 #include "dclstd/FontDialog.h"
 #include "dclstd/LinesDialog.h"
 #include "designintf/CustomColors.h"
-#include "rtl/ClassRegistry.h"
+#include "rtl/IntegerConsts.h"
 #include "rtl/Registry.h"
 #include "rtl/Strings.h"
 #include "vcl/ColorSwatch.h"

@@ -1,6 +1,7 @@
 // Editors of the framework's own property types.
 #pragma once
 #include "designintf/BasicEditors.h"
+#include "designintf/DesignRegistry.h"
 
 // Colours: names with swatches, numbers, and the colour dialog.
 class TColorProperty : public TIntegerProperty {
@@ -62,4 +63,4 @@ class TStringListProperty : public TClassProperty {
 };
 
 // The Register procedure of the framework's own design-time part: standard components and these editors.
-void RegisterStandard();
+void RegisterStandard(DesignRegistry& registry = DesignRegistry::Current());

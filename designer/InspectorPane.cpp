@@ -7,7 +7,6 @@
 #include "designer/RowSelection.h"
 #include "designer/SearchField.h"
 #include "designer/ValueEditor.h"
-#include "designintf/DesignIntf.h"
 #include "rtl/Clock.h"
 
 using enum TPropertyAttribute;

@@ -11,7 +11,6 @@
 #include "designer/StructurePane.h"
 #include "designer/ValueEditor.h"
 #include "designintf/ComponentEditor.h"
-#include "designintf/DesignIntf.h"
 #include "forms/FormFile.h"
 #include "forms/SafeFile.h"
 #include "ide/Placing.h"
@@ -62,7 +61,7 @@ MainWindow::~MainWindow() {
 
 void MainWindow::BuildPanes() {
   setDockOptions(AnimatedDocks | AllowTabbedDocks);
-  palette_ = new PalettePane;
+  palette_ = new PalettePane(packages_.Registry());
   auto* paletteBar = new QToolBar(tr("Palette"));
   paletteBar->setObjectName(QStringLiteral("paletteBar"));
   paletteBar->setMovable(false);
@@ -337,7 +336,7 @@ bool MainWindow::OpenForm(const QString& fileName) {
   try {
     // An editor's dialog works on components of the form that is open.
     if (session_ && session_->IsBusy()) throw Exception(tr("Finish what is open first."));
-    SetSession(FormSession::Open(fileName));
+    SetSession(FormSession::Open(fileName, packages_.Registry()));
     forms::RemoveLeftovers(fileName);
     return true;
   } catch (const std::exception& e) {
@@ -359,7 +358,9 @@ bool MainWindow::Reload() {
   return true;
 }
 
-void MainWindow::NewForm() { SetSession(FormSession::NewForm(QStringLiteral("Form1"))); }
+void MainWindow::NewForm() {
+  SetSession(FormSession::NewForm(QStringLiteral("Form1"), packages_.Registry()));
+}
 
 bool MainWindow::SaveTo(const QString& fileName) {
   try {
@@ -460,9 +461,9 @@ void MainWindow::ShowContextMenu(const QPoint& pos) {
   const auto selected = session_->SelectedComponents();
   std::unique_ptr<TComponentEditor> editor;
   if (selected.size() == 1) {
-    editor = GetComponentEditor(selected[0], session_.get());
-    const auto call = [component = selected[0]](const char* member) {
-      return [component, member] { return CallOf(*component, member); };
+    editor = session_->Registry().GetComponentEditor(selected[0], session_.get());
+    const auto call = [this, component = selected[0]](const char* member) {
+      return [this, component, member] { return session_->Registry().CallOf(*component, member); };
     };
     const int verbs = AskPackage(call("GetVerbCount"), 0, [&] { return editor->GetVerbCount(); });
     for (int i = 0; i < verbs; ++i) {
@@ -474,9 +475,10 @@ void MainWindow::ShowContextMenu(const QPoint& pos) {
       }
       menu.addAction(verb, this, [&, i, verb] {
         try {
-          session_->Run(QString(verb).remove(u'&'), selected, [&, run = CallOf(*selected[0], "ExecuteVerb")] {
-            PackageCall([&] { return run; }, [&] { editor->ExecuteVerb(i); });
-          });
+          session_->Run(QString(verb).remove(u'&'), selected,
+                        [&, run = session_->Registry().CallOf(*selected[0], "ExecuteVerb")] {
+                          PackageCall([&] { return run; }, [&] { editor->ExecuteVerb(i); });
+                        });
         } catch (const std::exception& e) {
           ReportException(this, e);
         }

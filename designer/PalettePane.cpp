@@ -4,7 +4,6 @@
 
 #include "designer/SearchField.h"
 #include "designintf/ComponentIcons.h"
-#include "designintf/DesignIntf.h"
 
 namespace {
 const TClass* ClassOf(const QObject* button) {
@@ -22,7 +21,8 @@ int FitOf(const TClass& cls, const QString& wanted) {
 }
 }  // namespace
 
-PalettePane::PalettePane(QWidget* parent) : QWidget(parent) {
+PalettePane::PalettePane(const DesignRegistry& registry, QWidget* parent)
+    : QWidget(parent), registry_(registry) {
   search_ = new SearchField(tr("Find a component..."), tr("Find a component"));
   search_->setObjectName(QStringLiteral("paletteSearch"));
   search_->setToolTip(tr("Enter places the first one found, Down goes to the buttons"));
@@ -118,7 +118,7 @@ void PalettePane::Reload() {
   {
     const QSignalBlocker quiet(pages_);
     while (pages_->count()) pages_->removeTab(0);
-    for (const TPalettePage& page : PalettePages()) {
+    for (const TPalettePage& page : registry_.PalettePages()) {
       pages_->addTab(page.Name);
       if (page.Name == was) pages_->setCurrentIndex(pages_->count() - 1);
       for (const TClass* cls : page.Classes) AddButton(*cls, page.Name);

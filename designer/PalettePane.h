@@ -5,7 +5,7 @@
 #pragma once
 #include <QWidget>
 
-#include "rtl/Class.h"
+#include "designintf/DesignRegistry.h"
 
 class QButtonGroup;
 class QHBoxLayout;
@@ -18,7 +18,7 @@ class QToolButton;
 class PalettePane : public QWidget {
   Q_OBJECT
  public:
-  explicit PalettePane(QWidget* parent = nullptr);
+  explicit PalettePane(const DesignRegistry& registry, QWidget* parent = nullptr);
   // Reads the registered pages anew.
   void Reload();
   // Shows the arrow as chosen.
@@ -57,4 +57,5 @@ class PalettePane : public QWidget {
   QToolButton* arrow_;
   std::vector<QToolButton*> buttons_;  // of all pages
   std::vector<QToolButton*> shown_;
+  const DesignRegistry& registry_;
 };

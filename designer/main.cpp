@@ -40,8 +40,9 @@ int main(int argc, char** argv) {
                                                  : TTheme::System);
   if (wanted.isEmpty()) RestoreTheme();
   UseThemeIcons();
-  RegisterStandard();
-  PackageManager packages(PackageManager::DefaultFolders());
+  DesignRegistry registry;
+  RegisterStandard(registry);
+  PackageManager packages(PackageManager::DefaultFolders(), registry);
   QString packageProblem;
   try {
     packages.Load(PackageManager::DefaultPackage());

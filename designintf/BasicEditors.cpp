@@ -1,6 +1,6 @@
 #include "designintf/BasicEditors.h"
 
-#include "designintf/DesignIntf.h"
+#include "designintf/EditorSource.h"
 #include "rtl/ClassRegistry.h"
 #include "rtl/Exceptions.h"
 #include "rtl/PropText.h"
@@ -86,13 +86,14 @@ void TClassProperty::SetValue(const QString&) {
   throw EPropertyError(QStringLiteral("%1 is edited through its parts or its dialog.").arg(GetName()));
 }
 void TClassProperty::GetProperties(const TGetPropProc& proc) const {
+  if (!Source()) return;
   TDesignerSelections objects;
   for (int i = 0; i < PropCount(); ++i) {
     TPersistent* object = GetObjectValueAt(i);
     if (!object) return;
     objects.push_back(object);
   }
-  GetComponentProperties(objects, Designer(), proc);
+  Source()->GetComponentProperties(objects, Designer(), proc);
 }
 
 TPropertyAttributes TComponentProperty::GetAttributes() const {

@@ -1,6 +1,6 @@
 #include "designintf/ComponentEditor.h"
 
-#include "designintf/DesignIntf.h"
+#include "designintf/EditorSource.h"
 
 void TComponentEditor::Edit() {
   if (GetVerbCount() > 0) ExecuteVerb(0);
@@ -15,15 +15,17 @@ bool TDefaultEditor::EditProperty(const TPropertyEditor& property) const {
 }
 
 void TDefaultEditor::Edit() {
+  if (!Source()) return;
   std::unique_ptr<TPropertyEditor> first;
   std::unique_ptr<TPropertyEditor> best;
-  GetComponentProperties({GetComponent()}, GetDesigner(), [&](std::unique_ptr<TPropertyEditor> editor) {
-    if (best) return;
-    if (EditProperty(*editor))
-      best = std::move(editor);
-    else if (!first && editor->GetPropInfo().IsEvent())
-      first = std::move(editor);
-  });
+  Source()->GetComponentProperties({GetComponent()}, GetDesigner(),
+                                   [&](std::unique_ptr<TPropertyEditor> editor) {
+                                     if (best) return;
+                                     if (EditProperty(*editor))
+                                       best = std::move(editor);
+                                     else if (!first && editor->GetPropInfo().IsEvent())
+                                       first = std::move(editor);
+                                   });
   TPropertyEditor* editor = best ? best.get() : first.get();
   if (!editor) return;
   // What it does may take the component away.

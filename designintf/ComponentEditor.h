@@ -18,10 +18,14 @@ class TComponentEditor {
 
   TComponent* GetComponent() const { return component_; }
   IDesigner* GetDesigner() const { return designer_; }
+  // Who made it, and makes the editors that it opens; null for an editor that was made by hand.
+  const IEditorSource* Source() const { return source_; }
+  void SetSource(const IEditorSource* source) { source_ = source; }
 
  private:
   TComponent* component_;
   IDesigner* designer_;
+  const IEditorSource* source_ = nullptr;
 };
 
 // Serves every class that has no editor of its own: a double-click edits the default property.

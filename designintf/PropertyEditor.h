@@ -10,6 +10,7 @@
 #include "designintf/PropertyAttributes.h"
 #include "rtl/PropAccess.h"
 
+class IEditorSource;
 class TPropertyEditor;
 using TGetPropProc = std::function<void(std::unique_ptr<TPropertyEditor>)>;
 
@@ -49,6 +50,9 @@ class TPropertyEditor {
   virtual void Revert();
 
   IDesigner* Designer() const { return designer_; }
+  // Who made it, and makes the editors of its parts; null for an editor that was made by hand.
+  const IEditorSource* Source() const { return source_; }
+  void SetSource(const IEditorSource* source) { source_ = source; }
   int PropCount() const { return static_cast<int>(props_.size()); }
   TPersistent* GetComponent(int index) const { return props_.at(static_cast<std::size_t>(index)).Instance; }
   const TPropInfo& GetPropInfo() const { return *props_.front().PropInfo; }
@@ -79,6 +83,7 @@ class TPropertyEditor {
 
  private:
   IDesigner* designer_;
+  const IEditorSource* source_ = nullptr;
   TInstProps props_;
 };
 

@@ -3,8 +3,8 @@
 #include <cstring>
 
 #include "forms/TextWriter.h"
-#include "rtl/ClassRegistry.h"
 #include "rtl/Collection.h"
+#include "rtl/IntegerConsts.h"
 #include "rtl/PropAccess.h"
 #include "rtl/PropText.h"
 #include "rtl/Strings.h"

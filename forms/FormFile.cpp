@@ -49,10 +49,6 @@ QByteArray ReadFile(const QString& fileName) {
   return bytes;
 }
 
-Document LoadForm(const QString& fileName) {
-  return Document::Parse(ReadFile(fileName), DialectOfName(fileName));
-}
-
 bool SameFile(const QString& a, const QString& b) {
   const QFileInfo first(a);
   return a == b || (first.exists() && first == QFileInfo(b));

@@ -8,7 +8,6 @@ namespace forms {
 Dialect DialectOfName(const QString& fileName);
 // "-" is standard input. Errors: Exception (cannot be read) or EFormError.
 QByteArray ReadFile(const QString& fileName);
-Document LoadForm(const QString& fileName);
 // Whether two names lead to one file; links are followed.
 bool SameFile(const QString& a, const QString& b);
 // Replaces the file in one step (forms/SafeFile.h); "-" is standard output. Throws Exception and leaves the

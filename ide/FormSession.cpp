@@ -3,7 +3,6 @@
 #include <QFileInfo>
 
 #include "designintf/ComponentEditor.h"
-#include "designintf/DesignIntf.h"
 #include "designintf/DesignWindow.h"
 #include "forms/FormFile.h"
 #include "ide/PendingCommand.h"
@@ -23,7 +22,8 @@ TComponent* MakeRoot(const forms::Object& object, bool sizeIsClient, TComponent*
 }
 }  // namespace
 
-FormSession::FormSession(forms::Document document) : document_(std::move(document)) {}
+FormSession::FormSession(forms::Document document, DesignRegistry& registry)
+    : registry_(registry), document_(std::move(document)) {}
 
 FormSession::~FormSession() {
   if (root_) {
@@ -32,9 +32,10 @@ FormSession::~FormSession() {
   }
 }
 
-std::unique_ptr<FormSession> FormSession::FromBytes(QByteArray bytes, const QString& fileName) {
+std::unique_ptr<FormSession> FormSession::FromBytes(QByteArray bytes, const QString& fileName,
+                                                    DesignRegistry& registry) {
   std::unique_ptr<FormSession> session(
-      new FormSession(forms::Document::Parse(bytes, forms::DialectOfName(fileName))));
+      new FormSession(forms::Document::Parse(bytes, forms::DialectOfName(fileName)), registry));
   session->fileName_ = fileName;
   session->onDisk_ = std::move(bytes);  // shared with the document
   session->Build();
@@ -42,11 +43,11 @@ std::unique_ptr<FormSession> FormSession::FromBytes(QByteArray bytes, const QStr
   return session;
 }
 
-std::unique_ptr<FormSession> FormSession::Open(const QString& fileName) {
-  return FromBytes(forms::ReadFile(fileName), fileName);
+std::unique_ptr<FormSession> FormSession::Open(const QString& fileName, DesignRegistry& registry) {
+  return FromBytes(forms::ReadFile(fileName), fileName, registry);
 }
 
-std::unique_ptr<FormSession> FormSession::NewForm(const QString& name) {
+std::unique_ptr<FormSession> FormSession::NewForm(const QString& name, DesignRegistry& registry) {
   forms::Document document = forms::Document::Create("T" + name.toUtf8(), name.toUtf8());
   TForm form(nullptr);
   form.SetDesigning(true);
@@ -56,20 +57,20 @@ std::unique_ptr<FormSession> FormSession::NewForm(const QString& name) {
   form.SetClientWidth(480);
   form.SetClientHeight(320);
   forms::DescribeComponent(form, document, document.Root());
-  std::unique_ptr<FormSession> session(new FormSession(std::move(document)));
+  std::unique_ptr<FormSession> session(new FormSession(std::move(document), registry));
   session->Build();
   NotifyDesign([&](IDesignNotification& n) { n.DesignerOpened(session.get()); });
   return session;
 }
 
-forms::FormReader FormSession::MakeReader(forms::Document& document, forms::ObjectMap& map) {
+forms::FormReader FormSession::MakeReader(forms::Document& document, forms::ObjectMap& map) const {
   forms::FormReader reader(document, map);
   reader.SetDesigning(true);
   reader.SetRootMaker([lcl = document.Style().lcl](const forms::Object& object, TComponent* owner) {
     return MakeRoot(object, lcl, owner);
   });
-  reader.SetCreator([](const TClass& cls, TComponent* owner) {
-    return PackageCall([&] { return ConstructorOf(cls); }, [&] { return cls.NewComponent(owner); });
+  reader.SetCreator([&registry = registry_](const TClass& cls, TComponent* owner) {
+    return PackageCall([&] { return registry.ConstructorOf(cls); }, [&] { return cls.NewComponent(owner); });
   });
   reader.SetUnknownMaker([&document](const forms::Object& object, TComponent* owner) {
     return MakeStandIn(document, object, owner);
@@ -222,9 +223,10 @@ bool FormSession::MethodExists(const QString& name) const {
 void FormSession::ShowMethod(const QString& name) { emit HandlerShown(name); }
 
 void FormSession::Edit(TComponent& component) {
-  const auto editor = GetComponentEditor(&component, this);
-  Run(tr("Edit %1").arg(component.Name()), {&component},
-      [&, call = CallOf(component, "Edit")] { PackageCall([&] { return call; }, [&] { editor->Edit(); }); });
+  const auto editor = registry_.GetComponentEditor(&component, this);
+  Run(tr("Edit %1").arg(component.Name()), {&component}, [&, call = registry_.CallOf(component, "Edit")] {
+    PackageCall([&] { return call; }, [&] { editor->Edit(); });
+  });
 }
 
 void FormSession::ControlChanged(TControl& control) { emit RepaintNeeded(control); }

@@ -6,6 +6,7 @@
 #pragma once
 #include <QObject>
 
+#include "designintf/DesignRegistry.h"
 #include "designintf/Designer.h"
 #include "forms/FormReader.h"
 #include "ide/Command.h"
@@ -20,10 +21,16 @@ class FormSession : public QObject, public IDesigner, public IControlHost {
  public:
   ~FormSession() override;
 
-  // Errors: Exception, EFormError. Findings are not errors.
-  static std::unique_ptr<FormSession> Open(const QString& fileName);
-  static std::unique_ptr<FormSession> FromBytes(QByteArray bytes, const QString& fileName = {});
-  static std::unique_ptr<FormSession> NewForm(const QString& name);
+  // Errors: Exception, EFormError. Findings are not errors. The registry is the host's, which outlives the
+  // session.
+  static std::unique_ptr<FormSession> Open(const QString& fileName,
+                                           DesignRegistry& registry = DesignRegistry::Current());
+  static std::unique_ptr<FormSession> FromBytes(QByteArray bytes, const QString& fileName = {},
+                                                DesignRegistry& registry = DesignRegistry::Current());
+  static std::unique_ptr<FormSession> NewForm(const QString& name,
+                                              DesignRegistry& registry = DesignRegistry::Current());
+  // Who makes the editors of the form.
+  DesignRegistry& Registry() const { return registry_; }
 
   TForm& Form() const { return *root_; }
   const forms::Document& Document() const { return document_; }
@@ -122,7 +129,7 @@ class FormSession : public QObject, public IDesigner, public IControlHost {
 
  private:
   struct Pending;
-  explicit FormSession(forms::Document document);
+  FormSession(forms::Document document, DesignRegistry& registry);
   void Build();
   void Write(const QString& fileName, const QByteArray* expected);
   void Capture(TComponent& component);
@@ -155,12 +162,13 @@ class FormSession : public QObject, public IDesigner, public IControlHost {
   void TakeObject(StructureChange& change);
   void Announce(const FormChange& change);
   FormChange ChangeOf(const Command& command) const;
-  static forms::FormReader MakeReader(forms::Document& document, forms::ObjectMap& map);
+  forms::FormReader MakeReader(forms::Document& document, forms::ObjectMap& map) const;
   std::vector<TComponent*> ComponentsOf(const std::vector<forms::Object*>& objects) const;
   std::vector<forms::Object*> SelectedObjects() const;
   int NewChildIndex(const forms::Object& parent, const TComponent& component) const;
   int PlaceAmong(const forms::Object& parent, int index) const;
 
+  DesignRegistry& registry_;
   forms::Document document_;
   forms::ObjectMap map_;
   std::unique_ptr<TForm> root_;

@@ -1,7 +1,6 @@
 // Components that come and go, and changes that nobody announced.
 #include <QScopedValueRollback>
 
-#include "designintf/DesignIntf.h"
 #include "designintf/DesignWindow.h"
 #include "ide/PendingCommand.h"
 #include "rtl/Exceptions.h"
@@ -62,8 +61,8 @@ TComponent* FormSession::CreateComponent(const TClass& cls, TComponent* parent, 
     TComponent* component = nullptr;
     {
       const QScopedValueRollback guard(structuring_, true);
-      component =
-          PackageCall([&] { return ConstructorOf(cls); }, [&] { return cls.NewComponent(root_.get()); });
+      component = PackageCall([&] { return registry_.ConstructorOf(cls); },
+                              [&] { return cls.NewComponent(root_.get()); });
     }
     component->SetDesigning(true);
     auto* control = As<TControl>(component);

@@ -1,6 +1,5 @@
 #include "ide/InspectorModel.h"
 
-#include "designintf/DesignIntf.h"
 #include "ide/BoundsCheck.h"
 #include "ide/StandIns.h"
 #include "rtl/Exceptions.h"
@@ -111,11 +110,13 @@ void InspectorModel::Rebuild() {
   root_->loaded = true;
   shown_ = session_ ? session_->SelectedComponents() : std::vector<TComponent*>();
   std::vector<std::unique_ptr<TPropertyEditor>> editors;
-  GetComponentProperties({shown_.begin(), shown_.end()}, session_, [&](std::unique_ptr<TPropertyEditor> e) {
-    const bool root = session_ && shown_.front() == session_->GetRoot();
+  const auto collect = [&](std::unique_ptr<TPropertyEditor> e) {
+    const bool root = shown_.front() == session_->GetRoot();
     if (Belongs(*e) && !(root && !RootHasProperty(session_->Form().Kind(), e->GetPropInfo().Name)))
       editors.push_back(std::move(e));
-  });
+  };
+  if (session_)
+    session_->Registry().GetComponentProperties({shown_.begin(), shown_.end()}, session_, collect);
   std::stable_sort(editors.begin(), editors.end(), [](const auto& a, const auto& b) {
     return NameOf(*a).compare(NameOf(*b), Qt::CaseInsensitive) < 0;
   });
@@ -125,7 +126,8 @@ void InspectorModel::Rebuild() {
     // A property stands under every category it belongs to, each time with an editor of its own.
     std::map<QString, Node*> groups;
     for (const auto& e : editors)
-      for (const QString& category : CategoriesOf(shown_.front()->ClassType(), e->GetPropInfo().Name)) {
+      for (const QString& category :
+           session_->Registry().CategoriesOf(shown_.front()->ClassType(), e->GetPropInfo().Name)) {
         Node*& group = groups[category];
         if (!group) {
           group = &root_->Add(nullptr);
@@ -136,7 +138,7 @@ void InspectorModel::Rebuild() {
         for (int i = 0; i < e->PropCount(); ++i)
           props.push_back(
               {e->GetComponent(i), e->GetComponent(i)->ClassType().FindProp(e->GetPropInfo().Name)});
-        group->Add(CreatePropertyEditor(session_, std::move(props)));
+        group->Add(session_->Registry().CreatePropertyEditor(session_, std::move(props)));
       }
   }
   Filter(*root_, false);

@@ -4,7 +4,6 @@
 #include <QDir>
 #include <QFileInfo>
 
-#include "designintf/DesignIntf.h"
 #include "designintf/PackageCall.h"
 #include "rtl/Exceptions.h"
 
@@ -37,7 +36,8 @@ QFileInfoList Libraries(const QString& folder) {
 }
 }  // namespace
 
-PackageManager::PackageManager(QStringList folders) : folders_(std::move(folders)) {}
+PackageManager::PackageManager(QStringList folders, DesignRegistry& registry)
+    : folders_(std::move(folders)), registry_(registry) {}
 
 PackageManager::~PackageManager() {
   while (!loaded_.empty()) {
@@ -121,12 +121,12 @@ decltype(auto) Call(const TPackageRecord& record, const QString& call, F&& f) {
   return PackageCall([&] { return TPackageCall{record.Name, call}; }, std::forward<F>(f));
 }
 
-void RunRegisterProcedures(const TPackageRecord& record, IDesignPackage& package) {
+void RunRegisterProcedures(DesignRegistry& registry, const TPackageRecord& record, IDesignPackage& package) {
   const auto& units =
       *Call(record, QStringLiteral("GetPackageInfoTable"), [&] { return &package.GetPackageInfoTable(); });
   for (const TUnitEntry& unit : units) {
     if (!unit.Register) continue;
-    const RegistrationScope scope(&package, unit.Name);
+    const RegistrationScope scope(registry, &package, unit.Name);
     Call(record, QStringLiteral("Register of %1").arg(QString::fromLatin1(unit.Name)),
          [&] { unit.Register(); });
   }
@@ -158,12 +158,12 @@ void PackageManager::Load(const QString& nameOrFile) {
       throw Exception(
           tr("Package %1 cannot be loaded: %2. Build the package again for this version of the designer.")
               .arg(record.Name, loader->errorString()));
-    NamePackage(package, record.Name);
+    registry_.NamePackage(package, record.Name);
     Call(record, QStringLiteral("Initialize"), [&] { package->Initialize(); });
     initialised = true;
-    RunRegisterProcedures(record, *package);
+    RunRegisterProcedures(registry_, record, *package);
   } catch (const EPackageError& e) {
-    if (package) UnregisterPackage(package);
+    if (package) registry_.UnregisterPackage(package);
     QString message = tr("Package %1 cannot be loaded: %2 failed: %3 Update or remove the package.")
                           .arg(record.Name, e.Where().Call, e.Reason());
     try {
@@ -183,7 +183,7 @@ void PackageManager::Unload(const QString& name) {
     return l.record.Name.compare(name, Qt::CaseInsensitive) == 0;
   });
   if (it == loaded_.end()) return;
-  UnregisterPackage(it->package);
+  registry_.UnregisterPackage(it->package);
   emit ClassesChanged();
   const Loaded going = std::move(*it);
   loaded_.erase(it);

@@ -3,13 +3,15 @@
 #include <QObject>
 #include <QPluginLoader>
 
+#include "designintf/DesignRegistry.h"
 #include "designintf/Package.h"
 
 class PackageManager : public QObject {
   Q_OBJECT
  public:
-  // Looks for packages and libraries in these folders, in order.
-  explicit PackageManager(QStringList folders);
+  // Looks for packages and libraries in these folders, in order. What packages register goes to the registry,
+  // which outlives the manager.
+  explicit PackageManager(QStringList folders, DesignRegistry& registry = DesignRegistry::Current());
   ~PackageManager() override;
   // The folders beside the running program.
   static QStringList DefaultFolders();
@@ -25,6 +27,7 @@ class PackageManager : public QObject {
   // Drops the package's registrations and finalises it. The package is gone, too, when its Finalize throws;
   // EPackageError tells of it then.
   void Unload(const QString& name);
+  DesignRegistry& Registry() const { return registry_; }
   bool IsLoaded(const QString& name) const;
   QStringList LoadedPackages() const;
   // What is odd but did not stop anything: other files that claim a package's name.
@@ -46,6 +49,7 @@ class PackageManager : public QObject {
   QString MissingRequirement(const TPackageRecord& record) const;
 
   QStringList folders_;
+  DesignRegistry& registry_;
   std::vector<Loaded> loaded_;
   QStringList warnings_;
 };

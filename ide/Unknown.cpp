@@ -86,11 +86,6 @@ QRect TUnknownControl::PageArea() const {
           std::max(0, Height() - tabs - 2 * border)};
 }
 
-bool IsUnknown(const TComponent& component) {
-  return component.InheritsFrom(TUnknownControl::StaticClass()) ||
-         component.InheritsFrom(TUnknownComponent::StaticClass());
-}
-
 void ArrangePages(TWinControl& root) {
   for (TControl* c : root.Controls()) {
     if (auto* book = dynamic_cast<TUnknownControl*>(c)) book->PlacePages();

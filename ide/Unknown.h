@@ -70,7 +70,6 @@ class TUnknownComponent : public TComponent {
   QByteArray streamClass_;
 };
 
-bool IsUnknown(const TComponent& component);
 // Pages anew into their places, after some came or went.
 void ArrangePages(TWinControl& root);
 // Brings every page that the component stands on to the front.

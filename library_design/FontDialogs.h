@@ -9,6 +9,8 @@
 // Each writes its result into the argument only when the user confirms, and is true then.
 bool VRXCPGetFont(TFont& font);
 bool VRXCPGetFontFx(TVRXFxCaption& fx);
+// A letter with a shadow, for buttons that open font effects.
+QIcon FontFxIcon();
 
 class TVRXFontFxEditorDlg : public EditorDialog {
   Q_OBJECT

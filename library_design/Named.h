@@ -1,6 +1,5 @@
-// Small things that every dialog says of its controls.
+// Controls with the name that they are known by.
 #pragma once
-#include <QIcon>
 #include <QString>
 
 class QLabel;
@@ -16,6 +15,3 @@ W* Named(W* widget, const char* name, const char* hint) {
 
 // A line that says something about what is shown. Its room stays when it says nothing, so that nothing jumps.
 QLabel* QuietLine(QWidget* parent, const char* name);
-
-// A letter with a shadow, for buttons that open font effects.
-QIcon FontFxIcon();

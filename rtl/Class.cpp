@@ -43,6 +43,7 @@ TClass::TClass(TClassBuilder&& b)
       makeComponent_(b.makeComponent_),
       makePersistent_(b.makePersistent_),
       makeItem_(b.makeItem_),
+      isComponent_(b.isComponent_),
       own_(std::move(b.own_)) {
   BuildTables();
 }

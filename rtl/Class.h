@@ -39,6 +39,8 @@ class TClass {
   // The same, refusing with EPropertyError when there is none.
   const TPropInfo& GetProp(QByteArrayView name) const;
 
+  // Whether its objects are components: properties refer to them, and do not have them as a part.
+  bool IsComponent() const { return isComponent_; }
   bool IsAbstract() const { return !makeComponent_ && !makePersistent_ && !makeItem_; }
   // A new component owned by `owner`; with no owner, by the caller. Refuses abstract classes.
   TComponent* NewComponent(TComponent* owner) const;
@@ -57,6 +59,7 @@ class TClass {
   TComponent* (*makeComponent_)(TComponent*) = nullptr;
   TPersistent* (*makePersistent_)() = nullptr;
   TPersistent* (*makeItem_)(TCollection*) = nullptr;
+  bool isComponent_ = false;
   std::vector<std::unique_ptr<TPropInfo>> own_;
   std::vector<const TPropInfo*> published_;
   std::vector<const TPropInfo*> hash_;  // open addressing, power-of-two size, names folded to lower case
@@ -194,6 +197,7 @@ class TClassBuilder {
 
   template <class C>
   void SetFactory() {
+    isComponent_ = std::is_base_of_v<TComponent, C>;
     if constexpr (std::is_abstract_v<C>) {
     } else if constexpr (std::is_base_of_v<TComponent, C>) {
       makeComponent_ = [](TComponent* o) -> TComponent* { return new C(o); };
@@ -260,6 +264,7 @@ class TClassBuilder {
   TComponent* (*makeComponent_)(TComponent*) = nullptr;
   TPersistent* (*makePersistent_)() = nullptr;
   TPersistent* (*makeItem_)(TCollection*) = nullptr;
+  bool isComponent_ = false;
   std::vector<std::unique_ptr<TPropInfo>> own_;
 };
 

@@ -1,33 +1,34 @@
 #include "rtl/ClassRegistry.h"
 
 #include <map>
+#include <set>
 
 #include "rtl/Exceptions.h"
 
 namespace {
 struct Entry {
   const TClass* cls;
-  const void* owner;
+  std::set<const void*> owners;
 };
 std::map<QByteArray, Entry>& Classes() {
   static std::map<QByteArray, Entry> classes;
   return classes;
 }
-std::vector<std::pair<const TTypeInfo*, TIntegerConsts>>& Consts() {
-  static std::vector<std::pair<const TTypeInfo*, TIntegerConsts>> consts;
-  return consts;
-}
 }  // namespace
 
 void RegisterClass(const TClass& cls, const void* owner) {
-  const auto [it, isNew] = Classes().try_emplace(cls.ClassName().toLower(), Entry{&cls, owner});
+  const auto [it, isNew] = Classes().try_emplace(cls.ClassName().toLower(), Entry{&cls, {}});
   if (!isNew && it->second.cls != &cls)
     throw EComponentError(QStringLiteral("Another class named \"%1\" is registered already.")
                               .arg(QString::fromLatin1(cls.ClassName())));
+  it->second.owners.insert(owner);
 }
 
 void UnRegisterClasses(const void* owner) {
-  std::erase_if(Classes(), [owner](const auto& e) { return e.second.owner == owner; });
+  for (auto it = Classes().begin(); it != Classes().end();) {
+    auto& owners = it->second.owners;
+    it = owners.erase(owner) && owners.empty() ? Classes().erase(it) : std::next(it);
+  }
 }
 
 const TClass* FindClass(QByteArrayView name) {
@@ -45,14 +46,4 @@ std::vector<const TClass*> RegisteredClasses() {
   std::vector<const TClass*> result;
   for (const auto& [name, entry] : Classes()) result.push_back(entry.cls);
   return result;
-}
-
-void RegisterIntegerConsts(const TTypeInfo& type, TIntegerConsts consts) {
-  if (!FindIntegerConsts(type)) Consts().emplace_back(&type, consts);
-}
-
-const TIntegerConsts* FindIntegerConsts(const TTypeInfo& type) {
-  for (const auto& [t, consts] : Consts())
-    if (t == &type) return &consts;
-  return nullptr;
 }

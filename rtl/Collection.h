@@ -1,6 +1,7 @@
 // Collections: an ordered list of value objects of one class, owned by the collection.
 #pragma once
 #include "rtl/Component.h"
+#include "rtl/StreamedContent.h"
 
 class TCollectionItem : public TPersistent {
   VRX_CLASS(TCollectionItem)

@@ -179,12 +179,13 @@ QString TComponent::MethodName(const TPropInfo& event) const {
   return {};
 }
 
-void TComponent::SetMethodName(const TPropInfo& event, const QString& handler) {
-  if (MethodName(event) == handler) return;
+bool TComponent::SetMethodName(const TPropInfo& event, const QString& handler) {
+  if (MethodName(event) == handler) return true;
   Changing();
   const TPropAccess* key = event.Access.get();
   std::erase_if(methods_, [&](const auto& m) { return m.first == key; });
   if (!handler.isEmpty()) methods_.emplace_back(key, handler);
+  return true;
 }
 
 void TComponent::SetDesignLeft(int left) {

@@ -7,15 +7,6 @@
 #include "rtl/Class.h"
 #include "rtl/NotifyList.h"
 
-// What a value object streams besides properties (lines of a string list, items of a collection). Kept here
-// because "is it at default" and "reset" ask it.
-class IStreamedContent {
- public:
-  virtual ~IStreamedContent() = default;
-  virtual bool ContentEmpty() const = 0;
-  virtual void ClearContent() = 0;
-};
-
 // Where a designer shows the icon of a component that is not a control: the design-time position word with
 // left in its low and top in its high 16 bits, both signed.
 struct TDesignPoint {
@@ -100,9 +91,8 @@ class TComponent : public TPersistent {
   // `component`, which asked or was asked for a free notification, is going: references to it are dropped.
   virtual void Notification(TComponent* component, TOperation operation);
 
-  // Handler names of events.
-  QString MethodName(const TPropInfo& event) const;
-  void SetMethodName(const TPropInfo& event, const QString& handler);
+  QString MethodName(const TPropInfo& event) const override;
+  bool SetMethodName(const TPropInfo& event, const QString& handler) override;
 
  protected:
   bool AssignsProperty(const TPropInfo& prop) const override { return prop.Name != "Name"; }

@@ -23,6 +23,10 @@ class TPersistent {
   // descendant of it; otherwise EConvertError, and nothing is changed. Null resets nothing and is refused.
   virtual void Assign(const TPersistent* source);
 
+  // The name of the handler that an event has here. Only components keep them; anything else refuses to.
+  virtual QString MethodName(const TPropInfo&) const { return {}; }
+  virtual bool SetMethodName(const TPropInfo&, const QString&) { return false; }
+
   // The object this one is a part of: the component of a value object, the collection of an item.
   virtual TPersistent* GetOwner() const { return nullptr; }
 

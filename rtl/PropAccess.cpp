@@ -2,8 +2,8 @@
 
 #include <limits>
 
-#include "rtl/Component.h"
 #include "rtl/Exceptions.h"
+#include "rtl/StreamedContent.h"
 
 namespace {
 QString Path(const TPersistent& instance, const TPropInfo& prop) {
@@ -113,14 +113,11 @@ void SetObjectProp(TPersistent& instance, const TPropInfo& prop, TPersistent* va
 }
 
 QString GetMethodProp(const TPersistent& instance, const TPropInfo& prop) {
-  const auto* component = As<TComponent>(&instance);
-  return component ? component->MethodName(prop) : QString();
+  return instance.MethodName(prop);
 }
 void SetMethodProp(TPersistent& instance, const TPropInfo& prop, const QString& handler) {
-  auto* component = As<TComponent>(&instance);
-  if (!component || !prop.IsEvent())
+  if (!prop.IsEvent() || !instance.SetMethodName(prop, handler))
     throw EPropertyError(QStringLiteral("%1 is not an event.").arg(Path(instance, prop)));
-  component->SetMethodName(prop, handler);
 }
 
 QByteArray GetBinaryProp(const TPersistent& instance, const TPropInfo& prop) {
@@ -136,8 +133,7 @@ void SetBinaryProp(TPersistent& instance, const TPropInfo& prop, const QByteArra
 bool IsBinary(const TPropInfo& prop) { return prop.PropType->Kind == TTypeKind::tkUnknown; }
 
 bool IsComponentRef(const TPropInfo& prop) {
-  return prop.Kind() == TTypeKind::tkClass &&
-         prop.PropType->ClassType().InheritsFrom(TComponent::StaticClass());
+  return prop.Kind() == TTypeKind::tkClass && prop.PropType->ClassType().IsComponent();
 }
 
 bool IsDefaultValue(const TPersistent& instance, const TPropInfo& prop) {
@@ -204,7 +200,7 @@ void CopyProp(const TPersistent& source, const TPropInfo& sp, TPersistent& targe
       if (!tp.ReadOnly) SetStrProp(target, tp, GetStrProp(source, sp));
       return;
     case TTypeKind::tkMethod:
-      if (As<TComponent>(&source)) SetMethodProp(target, tp, GetMethodProp(source, sp));
+      target.SetMethodName(tp, source.MethodName(sp));
       return;
     case TTypeKind::tkUnknown:
       if (!tp.ReadOnly) SetBinaryProp(target, tp, GetBinaryProp(source, sp));

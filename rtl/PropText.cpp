@@ -2,9 +2,9 @@
 
 #include <cctype>
 
-#include "rtl/ClassRegistry.h"
 #include "rtl/Component.h"
 #include "rtl/Exceptions.h"
+#include "rtl/IntegerConsts.h"
 #include "rtl/PropAccess.h"
 
 namespace {

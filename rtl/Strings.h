@@ -3,6 +3,7 @@
 #include <QStringList>
 
 #include "rtl/Component.h"
+#include "rtl/StreamedContent.h"
 
 class TStrings : public TOwnedPersistent, public IStreamedContent {
   VRX_CLASS(TStrings)

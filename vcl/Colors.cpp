@@ -1,7 +1,7 @@
 #include "vcl/Colors.h"
 
-#include "rtl/ClassRegistry.h"
 #include "rtl/Exceptions.h"
+#include "rtl/IntegerConsts.h"
 #include "vcl/FormColors.h"
 
 const std::vector<TColorEntry>& NamedColors() {

@@ -2,8 +2,8 @@
 
 #include <array>
 
-#include "rtl/ClassRegistry.h"
 #include "rtl/Exceptions.h"
+#include "rtl/IntegerConsts.h"
 #include "vcl/Layout.h"
 
 namespace {

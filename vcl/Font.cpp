@@ -3,7 +3,7 @@
 #include <array>
 
 #include "rtl/Class.h"
-#include "rtl/ClassRegistry.h"
+#include "rtl/IntegerConsts.h"
 
 namespace {
 struct CharsetRow {

@@ -118,8 +118,6 @@ QImage ImageFromBytes(const QByteArray& bytes) {
   return image;
 }
 
-TBitmap PictureFromBytes(const QByteArray& bytes) { return TBitmap::FromImage(ImageFromBytes(bytes)); }
-
 QByteArray PictureToBytes(const QImage& image, const char* format) {
   QByteArray bytes;
   QBuffer buffer(&bytes);

@@ -9,9 +9,8 @@
 // Any format of the list that the toolkit reads; the picture is turned upright when it says that it lies.
 // Only regular files are opened, and drawings that refer to anything outside are refused.
 TBitmap LoadPicture(const QString& file);
-// A picture that a form keeps (BMP, PNG). Throws EInvalidPicture, std::bad_alloc when memory is short.
-TBitmap PictureFromBytes(const QByteArray& bytes);
-// The same with its transparency, as QImage::Format_ARGB32 or RGB32.
+// A picture that a form keeps (BMP, PNG), as QImage::Format_ARGB32 or RGB32. Throws EInvalidPicture,
+// std::bad_alloc when memory is short.
 QImage ImageFromBytes(const QByteArray& bytes);
 // Any format but drawings. `what` names the picture at the start of a sentence.
 QImage PixelPictureFromBytes(const QByteArray& bytes, const QString& what);

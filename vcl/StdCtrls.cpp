@@ -3,7 +3,7 @@
 #include <QApplication>
 #include <QStyleOptionButton>
 
-#include "rtl/ClassRegistry.h"
+#include "rtl/IntegerConsts.h"
 #include "vcl/Form.h"
 #include "vcl/FormColors.h"
 #include "vcl/ShownText.h"

@@ -2,6 +2,7 @@
 #pragma once
 #include "library/values/FontFx.h"
 #include "rtl/Component.h"
+#include "rtl/StreamedContent.h"
 #include "vcl/Canvas.h"
 
 enum class TVRXAlignment : std::uint8_t {

@@ -1,24 +1,16 @@
 // Component editors of the library: context-menu verbs and the action of a double-click.
 #pragma once
-#include "designintf/ComponentEditor.h"
+#include "library/controls/Button3D.h"
+#include "library/controls/LEDLabel.h"
+#include "library_design/VerbEditor.h"
 
 // LED labels: a double-click opens the look of the letters.
-class TVRXLEDLabelComponentEditor : public TDefaultEditor {
- public:
-  using TDefaultEditor::TDefaultEditor;
-  void ExecuteVerb(int index) override;
-  QString GetVerb(int index) const override;
-  int GetVerbCount() const override { return 1; }
+class TVRXLEDLabelComponentEditor : public TVerbEditor<TVRXLEDCustomLabel, TDefaultEditor> {
+  VRX_VERB_TABLE(TVRXLEDLabelComponentEditor)
 
  protected:
   bool EditProperty(const TPropertyEditor& property) const override;
 };
 
 // Graphic buttons: 3D buttons have the editor of their pictures.
-class TVRXExtGraphicButtonComponentEditor : public TDefaultEditor {
- public:
-  using TDefaultEditor::TDefaultEditor;
-  void ExecuteVerb(int index) override;
-  QString GetVerb(int index) const override;
-  int GetVerbCount() const override;
-};
+VRX_VERB_EDITOR(TVRXExtGraphicButtonComponentEditor, TVRXCustom3DButton, TDefaultEditor);

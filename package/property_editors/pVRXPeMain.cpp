@@ -21,22 +21,11 @@ void TVRXLEDProperty::Edit() {
   if (dialog.ShowModal() == mrOk) SetOrdValue(dialog.test->LED());
 }
 
-TPropertyAttributes TVRXCaptionProperty::GetAttributes() const {
-  return {paSubProperties, paDialog, paMultiSelect};
-}
-void TVRXCaptionProperty::Edit() {
-  TVRXCaption copy;
-  copy.Assign(GetObjectValue());
-  if (VRXCPGetVRXCaption(copy, true)) SetOrdValue(&copy);
-}
+bool TVRXCaptionProperty::Launch(TVRXCaption& copy) { return VRXCPGetVRXCaption(copy, true); }
 
-TPropertyAttributes TVRXRegionMaskProperty::GetAttributes() const { return {paDialog}; }
 // The region component shows two states, as a button does; its descendants are shaped windows.
-void TVRXRegionMaskProperty::Edit() {
-  TVRXRegionMask copy;
-  copy.Assign(GetObjectValue());
-  const bool window = GetComponent(0)->ClassType().ClassName() != "TVRXRegion";
-  if (VRXCPGetRegionMask(copy, window)) SetOrdValue(&copy);
+bool TVRXRegionMaskProperty::Launch(TVRXRegionMask& copy) {
+  return VRXCPGetRegionMask(copy, GetComponent(0)->ClassType().ClassName() != "TVRXRegion");
 }
 
 TPropertyAttributes TVRXButtonFaceProperty::GetAttributes() const { return {paDialog}; }

@@ -2,49 +2,45 @@
 #include "designintf/Package.h"
 
 #include <QObject>
+#include <string_view>
 
+#include "UnitNames.h"
 #include "package/registration/VRX_RegMain.h"
 #include "package/registration/VRX_RegMainEditors.h"
 
 namespace {
-// In the order of the description record. Units that have neither start-up work nor a Register procedure are
-// here by name, because the table is what the IDE is told the package contains.
+// What units do when the package is loaded and unloaded, and their Register procedures. All other units are
+// in the table by name, because it is what the IDE is told the package contains.
+constexpr TUnitEntry kWork[] = {
+    {"VRX_RegMainEditors", nullptr, nullptr, &VRX_RegMainEditors::Register},
+    {"VRX_RegMain", nullptr, nullptr, &VRX_RegMain::Register},
+};
+
+constexpr const TUnitEntry* WorkOf(std::string_view name) {
+  for (const TUnitEntry& work : kWork)
+    if (name == work.Name) return &work;
+  return nullptr;
+}
+constexpr bool IsUnit(std::string_view name) {
+  for (const char* unit : kUnitNames)
+    if (name == unit) return true;
+  return false;
+}
+constexpr bool AllWorkIsOfUnits() {
+  for (const TUnitEntry& work : kWork)
+    if (!IsUnit(work.Name)) return false;
+  return true;
+}
+static_assert(AllWorkIsOfUnits(), "a unit that works is not in the description record");
+
+// In the order of the description record.
 const std::vector<TUnitEntry>& Units() {
-  static const std::vector<TUnitEntry> units{
-      {"dclvrxmain220"},
-      {"pVRXValueListDlg"},
-      {"SysInit"},
-      {"pVRXControlFaceEditorDlgAddState"},
-      {"pVRXControlFaceEditorDlg"},
-      {"pVRXDateListEditorDlg"},
-      {"pVRXVldRegExpEditor"},
-      {"pVRXTeethEditorDlg"},
-      {"pVRXStyleManProp"},
-      {"pVRXCstMain"},
-      {"pVRXCPGetMain"},
-      {"pVRXLightEditorDlg"},
-      {"pVRXBmpRegionEditorDlg"},
-      {"pVRXPointListEditorDlg"},
-      {"pVRXShapeEditorDlg"},
-      {"pVRXCaptionEditorDlg"},
-      {"pVRXSimpleBevelEditorDlg"},
-      {"pVRXShadowEditorDlg"},
-      {"pVRX3DEffectEditorDlg"},
-      {"pVRXLEDEditorDlg"},
-      {"pVRXSendKeyEditorDlg"},
-      {"pVRXOSPropForm"},
-      {"pVRXRegOS"},
-      {"pVRXMMButtonFaceEditorDlg"},
-      {"pVRXHideNonVC"},
-      {"pVRXGraphicLabelEditorDlg"},
-      {"pVRXFilterPropertyEditorDlg"},
-      {"pVRXDlgBtnEditorDlg"},
-      {"pVRXButtonBarEditorDlg"},
-      {"pVRXPeMain"},
-      {"pVRXCEMain"},
-      {"VRX_RegMainEditors", nullptr, nullptr, &VRX_RegMainEditors::Register},
-      {"VRX_RegMain", nullptr, nullptr, &VRX_RegMain::Register},
-  };
+  static const std::vector<TUnitEntry> units = [] {
+    std::vector<TUnitEntry> all;
+    for (const char* name : kUnitNames)
+      all.push_back(WorkOf(name) ? *WorkOf(name) : TUnitEntry{name, nullptr, nullptr, nullptr});
+    return all;
+  }();
   return units;
 }
 }  // namespace

@@ -2,7 +2,7 @@
 
 #include "dclstd/StandardEditors.h"
 #include "forms/TextWriter.h"
-#include "library/LibraryClasses.h"
+#include "library_design/pVRXCommon.h"
 #include "package/registration/VRX_RegMain.h"
 #include "rtl/ClassRegistry.h"
 #include "rtl/Collection.h"
@@ -14,10 +14,10 @@
 
 std::vector<std::string> ConcreteClasses() {
   static const bool registered = [] {
-    RegisterStandard();
-    for (const TPageRow& row : PageRows())
-      for (const QByteArray& name : row.Classes)
-        if (const TClass* cls = FindLibraryClass(name)) RegisterClass(*cls);
+    static DesignRegistry registry;
+    RegisterStandard(registry);
+    ORLENVOKITEDITOROPTIONS = 0xFF;  // the variants, too
+    VRX_RegMain::Register();
     return true;
   }();
   std::vector<std::string> names;

@@ -125,11 +125,8 @@ inline QToolButton& ButtonOf(MainWindow& window, const char* cls) {
 class DesignerTest : public testing::Test {
  protected:
   DesignerTest() {
-    [[maybe_unused]] static const bool once = [] {
-      RegisterStandard();
-      VRX_RegMain::Register();
-      return true;
-    }();
+    RegisterStandard(registry_);
+    VRX_RegMain::Register();
     file_ = folder_.filePath(QStringLiteral("main.dfm"));
     Write(file_, Sample);
     window_ = std::make_unique<MainWindow>(packages_);
@@ -209,6 +206,7 @@ class DesignerTest : public testing::Test {
   QString file_;
   FakePrompts prompts_;
   QStringList expectedWarnings_;
+  DesignRegistry registry_;
   PackageManager packages_{
       {QStringLiteral(VRX_BINARY_DIR "/tests/packages"), QStringLiteral(VRX_BINARY_DIR "/lib")}};
   std::unique_ptr<MainWindow> window_;

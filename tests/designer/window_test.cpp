@@ -29,7 +29,7 @@ class WithThrowingEditor {
     const RegistrationScope scope(this, "test");
     RegisterComponentEditor(TButton::StaticClass(), VRX_COMPONENT_EDITOR(ThrowingEditor));
   }
-  ~WithThrowingEditor() { UnregisterPackage(this); }
+  ~WithThrowingEditor() { DesignRegistry::Current().UnregisterPackage(this); }
 };
 
 class Window : public DesignerTest {

@@ -2,6 +2,7 @@
 // of property, and registrations that are taken back at the end of a test.
 #pragma once
 #include "designintf/DesignIntf.h"
+#include "designintf/DesignRegistry.h"
 #include "rtl/Exceptions.h"
 #include "rtl/PropText.h"
 
@@ -112,24 +113,28 @@ class TBigIce : public TIce {
   using TIce::TIce;
 };
 
-// Takes back what a test registered.
+// What a test registers goes to a registry of its own.
 class Scope {
  public:
-  explicit Scope(const char* procedure = "Test") : scope_(this, procedure) {}
-  ~Scope() { UnregisterPackage(this); }
+  explicit Scope(const char* procedure = "Test") : scope_(registry, this, procedure) {}
   Scope(const Scope&) = delete;
   Scope& operator=(const Scope&) = delete;
+
+  DesignRegistry registry;
 
  private:
   RegistrationScope scope_;
 };
+
+// For tests that register nothing.
+inline DesignRegistry EmptyRegistry;
 
 // The editor of one property for some components.
 inline std::unique_ptr<TPropertyEditor> EditorOf(const std::vector<TPersistent*>& instances, const char* name,
                                                  IDesigner* designer = nullptr) {
   TInstProps props;
   for (TPersistent* p : instances) props.push_back({p, &p->ClassType().GetProp(name)});
-  return CreatePropertyEditor(designer, std::move(props));
+  return DesignRegistry::Current().CreatePropertyEditor(designer, std::move(props));
 }
 
 inline QStringList ValuesOf(const TPropertyEditor& editor) {

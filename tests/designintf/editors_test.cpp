@@ -255,8 +255,8 @@ TEST(Selection, OnlySharedPropertiesThatMayBeEditedTogetherAppear) {
   TComponent plain(nullptr);
   const auto names = [](const TDesignerSelections& objects) {
     QStringList list;
-    GetComponentProperties(objects, nullptr,
-                           [&](std::unique_ptr<TPropertyEditor> e) { list << e->GetName(); });
+    DesignRegistry::Current().GetComponentProperties(
+        objects, nullptr, [&](std::unique_ptr<TPropertyEditor> e) { list << e->GetName(); });
     return list.join(u' ');
   };
   const QString all =
@@ -302,14 +302,14 @@ TEST(DefaultEditor, EditsTheUsualEventElseTheFirst) {
   TClicker clicker(nullptr);
   clicker.SetName(QStringLiteral("Clicker"));
   FakeDesigner designer;
-  GetComponentEditor(&clicker, &designer)->Edit();
+  DesignRegistry::Current().GetComponentEditor(&clicker, &designer)->Edit();
   EXPECT_EQ(designer.shown, QStringList{QStringLiteral("ClickerClick")});
   TIce ice(nullptr);
   ice.SetName(QStringLiteral("Ice"));
-  GetComponentEditor(&ice, &designer)->Edit();
+  DesignRegistry::Current().GetComponentEditor(&ice, &designer)->Edit();
   EXPECT_EQ(designer.shown.last(), QStringLiteral("IceMelt"));
   TComponent plain(nullptr);
-  GetComponentEditor(&plain, &designer)->Edit();
+  DesignRegistry::Current().GetComponentEditor(&plain, &designer)->Edit();
   EXPECT_EQ(designer.shown.size(), 2);
 }
 

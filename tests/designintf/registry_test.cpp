@@ -36,7 +36,8 @@ class NumberedComponentEditor : public TComponentEditor {
 }  // namespace
 
 TEST(Registry, RecordsEveryCallInOrder) {
-  const std::size_t before = Registrations().size();
+  const DesignRegistry registry;
+  const std::size_t before = DesignRegistry::Current().Rows().size();
   const int package = 0;
   {
     const RegistrationScope scope(&package, "UnitA");
@@ -50,7 +51,7 @@ TEST(Registry, RecordsEveryCallInOrder) {
     RegisterComponentEditor(TIce::StaticClass(), VRX_COMPONENT_EDITOR(TDefaultEditor));
     RegisterPropertiesInCategory(QStringLiteral("Taste"), TIce::StaticClass(), {QStringLiteral("Flavour")});
   }
-  const auto& rows = Registrations();
+  const auto& rows = DesignRegistry::Current().Rows();
   ASSERT_EQ(rows.size(), before + 6);
   const TRegistration* r = &rows[before];
   using enum TRegistrationKind;
@@ -74,55 +75,103 @@ TEST(Registry, RecordsEveryCallInOrder) {
   EXPECT_FALSE(r[3].PropertyEditor.has_value());
   EXPECT_EQ(r[4].ComponentEditor->Name, "TDefaultEditor");
   EXPECT_EQ(r[5].Properties, QStringList{QStringLiteral("Flavour")});
-  UnregisterPackage(&package);
-  EXPECT_EQ(Registrations().size(), before);
+  DesignRegistry::Current().UnregisterPackage(&package);
+  EXPECT_EQ(DesignRegistry::Current().Rows().size(), before);
 }
 
 TEST(Registry, UnregisteringLeavesNothingAndOthersAlone) {
-  const std::size_t before = Registrations().size();
   const Scope keep("Keep");
+  const std::size_t before = DesignRegistry::Current().Rows().size();
   RegisterComponents(QStringLiteral("Kept"), {&TIce::StaticClass()});
   TIce ice(nullptr);
+  const int gone = 0;
   {
-    const Scope gone("Gone");
+    const RegistrationScope scope(&gone, "Gone");
     RegisterComponents(QStringLiteral("Gone"), {&TBigIce::StaticClass()});
     RegisterPropertyEditor(IntType(), nullptr, "Scoops", NumberedEditors()[3]);
     RegisterPropertiesInCategory(QStringLiteral("Taste"), TIce::StaticClass(), {QStringLiteral("Flavour")});
     EXPECT_EQ(Chosen(ice, "Scoops"), QStringLiteral("3"));
     EXPECT_EQ(FindClass("tbigice"), &TBigIce::StaticClass());
   }
+  DesignRegistry::Current().UnregisterPackage(&gone);
   EXPECT_EQ(FindClass("TBigIce"), nullptr);
   EXPECT_EQ(FindClass("TIce"), &TIce::StaticClass());
   EXPECT_EQ(Chosen(ice, "Scoops"), QStringLiteral("1")) << "the plain integer editor shows the value";
-  EXPECT_EQ(CategoriesOf(TIce::StaticClass(), "Flavour"), QStringList{QStringLiteral("Miscellaneous")});
-  EXPECT_EQ(Registrations().size(), before + 1);
-  for (const TPalettePage& page : PalettePages()) EXPECT_NE(page.Name, QStringLiteral("Gone"));
+  EXPECT_EQ(DesignRegistry::Current().CategoriesOf(TIce::StaticClass(), "Flavour"),
+            QStringList{QStringLiteral("Miscellaneous")});
+  EXPECT_EQ(DesignRegistry::Current().Rows().size(), before + 1);
+  for (const TPalettePage& page : DesignRegistry::Current().PalettePages())
+    EXPECT_NE(page.Name, QStringLiteral("Gone"));
 }
 
-TEST(Registry, TheListenerHearsOfEveryRow) {
-  int heard = 0;
-  SetRegistrationsChanged([&] { ++heard; });
+TEST(Registry, TwoLiveSideBySide) {
+  DesignRegistry one;
+  const int package = 0;
+  TIce ice(nullptr);
+  TBigIce big(nullptr);
   {
-    const Scope scope;
-    int before = heard;
-    const auto expectOne = [&](const char* what) {
-      EXPECT_EQ(heard, before + 1) << what;
-      before = heard;
-    };
-    RegisterComponents(QStringLiteral("Ices"), {&TIce::StaticClass()});
-    expectOne("components");
-    RegisterActions(QStringLiteral("Lick"), {&TIce::StaticClass()}, nullptr);
-    expectOne("actions");
-    RegisterPropertyEditor(IntType(), nullptr, "Scoops", NumberedEditors()[0]);
-    expectOne("property editor");
-    RegisterComponentEditor(TIce::StaticClass(), VRX_COMPONENT_EDITOR(TDefaultEditor));
-    expectOne("component editor");
-    RegisterPropertiesInCategory(QStringLiteral("Taste"), TIce::StaticClass(), {QStringLiteral("Flavour")});
-    expectOne("category");
-    heard = 0;
+    DesignRegistry two;
+    for (DesignRegistry* registry : {&one, &two}) {
+      const RegistrationScope scope(*registry, &package, "Unit");
+      RegisterComponents(QStringLiteral("Ices"), {&TIce::StaticClass(), &TBigIce::StaticClass()});
+    }
+    one.NamePackage(&package, QStringLiteral("Parlour"));
+    {
+      const RegistrationScope scope(one, &package, "Unit");
+      RegisterComponentEditor(TIce::StaticClass(), VRX_COMPONENT_EDITOR(NumberedComponentEditor<1>));
+      {
+        const RegistrationScope inner(two, &package, "Other");
+        RegisterComponentEditor(TIce::StaticClass(), VRX_COMPONENT_EDITOR(NumberedComponentEditor<2>));
+      }
+      RegisterPropertyEditor(IntType(), nullptr, "Scoops", std::nullopt);
+    }
+    EXPECT_EQ(one.Rows().size(), 3u);
+    EXPECT_EQ(two.Rows().size(), 2u);
+    EXPECT_EQ(two.Rows().back().Procedure, "Other");
+    EXPECT_EQ(one.Rows().back().Procedure, "Unit");
+    EXPECT_EQ(one.GetComponentEditor(&ice, nullptr)->GetVerb(0), QStringLiteral("1"));
+    EXPECT_EQ(two.GetComponentEditor(&ice, nullptr)->GetVerb(0), QStringLiteral("2"));
+    const TPropInfo& scoops = ice.ClassType().GetProp("Scoops");
+    EXPECT_EQ(one.CreatePropertyEditor(nullptr, {{&ice, &scoops}}), nullptr);
+    EXPECT_NE(two.CreatePropertyEditor(nullptr, {{&ice, &scoops}}), nullptr);
+    EXPECT_EQ(one.ConstructorOf(ice.ClassType()).Package, QStringLiteral("Parlour"));
+    EXPECT_EQ(two.ConstructorOf(ice.ClassType()).Package, QString());
+    two.UnregisterPackage(&package);
+    EXPECT_TRUE(two.PalettePages().empty());
+    EXPECT_EQ(one.PalettePages().size(), 1u);
+    EXPECT_NE(FindClass("TBigIce"), nullptr) << "the other one still has it";
   }
-  EXPECT_EQ(heard, 1) << "and of the rows that went";
-  SetRegistrationsChanged({});
+  EXPECT_NE(FindClass("TBigIce"), nullptr);
+  one.UnregisterPackage(&package);
+  EXPECT_EQ(FindClass("TBigIce"), nullptr);
+}
+
+TEST(Registry, ClassesOfPackagesGoWithTheRegistry) {
+  const int package = 0;
+  {
+    DesignRegistry registry;
+    const RegistrationScope scope(registry, &package, "Unit");
+    RegisterComponents(QStringLiteral("Ices"), {&TBigIce::StaticClass()});
+    EXPECT_EQ(FindClass("TBigIce"), &TBigIce::StaticClass());
+  }
+  EXPECT_EQ(FindClass("TBigIce"), nullptr);
+}
+
+TEST(Registry, PartsOfAValueObjectAreMadeByTheSameRegistry) {
+  DesignRegistry plain, hiding;
+  {
+    const RegistrationScope scope(hiding, nullptr, {});
+    RegisterPropertyEditor(IntType(), &TCone::StaticClass(), "Depth", std::nullopt);
+  }
+  TIce ice(nullptr);
+  const auto parts = [&](const DesignRegistry& registry) {
+    QStringList names;
+    const auto cone = registry.CreatePropertyEditor(nullptr, {{&ice, &ice.ClassType().GetProp("Cone")}});
+    for (const auto& part : PartsOf(*cone)) names << part->GetName();
+    return names.join(u' ');
+  };
+  EXPECT_EQ(parts(plain), QStringLiteral("Depth Paper"));
+  EXPECT_EQ(parts(hiding), QStringLiteral("Paper"));
 }
 
 TEST(Palette, KeepsPagesInOrderAndEveryClassOnce) {
@@ -132,13 +181,13 @@ TEST(Palette, KeepsPagesInOrderAndEveryClassOnce) {
   RegisterComponents(QStringLiteral("One"),
                      {&TIce::StaticClass(), &TBigIce::StaticClass(), &TIce::StaticClass()});
   RegisterActions(QStringLiteral("Lick"), {&TIce::StaticClass()}, nullptr);
-  const auto pages = PalettePages();
+  const auto pages = DesignRegistry::Current().PalettePages();
   ASSERT_EQ(pages.size(), 2u);
   EXPECT_EQ(pages[0].Name, QStringLiteral("One"));
   EXPECT_EQ(pages[0].Classes, (std::vector{&TBigIce::StaticClass(), &TIce::StaticClass()}));
   EXPECT_EQ(pages[1].Name, QStringLiteral("Two"));
-  ASSERT_EQ(ActionCategories().size(), 1u);
-  EXPECT_EQ(ActionCategories()[0].Name, QStringLiteral("Lick"));
+  ASSERT_EQ(DesignRegistry::Current().ActionCategories().size(), 1u);
+  EXPECT_EQ(DesignRegistry::Current().ActionCategories()[0].Name, QStringLiteral("Lick"));
 }
 
 TEST(EditorChoice, NamedBeforeClassBeforeType) {
@@ -244,9 +293,12 @@ TEST(EditorChoice, MatchesASlowSearch) {
 
 TEST(ComponentEditors, TheNearestClassAndTheLaterOfEqualsWins) {
   TBigIce ice(nullptr);
-  const auto verb = [&](TComponent& c) { return GetComponentEditor(&c, nullptr)->GetVerb(0); };
+  const auto verb = [&](TComponent& c) {
+    return DesignRegistry::Current().GetComponentEditor(&c, nullptr)->GetVerb(0);
+  };
   EXPECT_EQ(verb(ice), QString()) << "the default editor has no verbs";
-  EXPECT_NE(dynamic_cast<TDefaultEditor*>(GetComponentEditor(&ice, nullptr).get()), nullptr);
+  EXPECT_NE(dynamic_cast<TDefaultEditor*>(DesignRegistry::Current().GetComponentEditor(&ice, nullptr).get()),
+            nullptr);
   const Scope scope;
   RegisterComponentEditor(TIce::StaticClass(), VRX_COMPONENT_EDITOR(NumberedComponentEditor<1>));
   RegisterComponentEditor(TComponent::StaticClass(), VRX_COMPONENT_EDITOR(NumberedComponentEditor<2>));
@@ -259,7 +311,7 @@ TEST(ComponentEditors, TheNearestClassAndTheLaterOfEqualsWins) {
   TIce small(nullptr);
   EXPECT_EQ(verb(small), QStringLiteral("4"));
   FakeDesigner designer;
-  const auto editor = GetComponentEditor(&ice, &designer);
+  const auto editor = DesignRegistry::Current().GetComponentEditor(&ice, &designer);
   EXPECT_EQ(editor->GetComponent(), &ice);
   EXPECT_EQ(editor->GetDesigner(), &designer);
 }
@@ -270,11 +322,14 @@ TEST(Categories, AreInheritedAndOrdered) {
                                {QStringLiteral("Scoops"), QStringLiteral("Label")});
   RegisterPropertiesInCategory(QStringLiteral("A"), TBigIce::StaticClass(), {QStringLiteral("scoops")});
   RegisterPropertiesInCategory(QStringLiteral("B"), TIce::StaticClass(), {QStringLiteral("Scoops")});
-  EXPECT_EQ(CategoriesOf(TBigIce::StaticClass(), "Scoops"),
+  EXPECT_EQ(DesignRegistry::Current().CategoriesOf(TBigIce::StaticClass(), "Scoops"),
             (QStringList{QStringLiteral("B"), QStringLiteral("A")}));
-  EXPECT_EQ(CategoriesOf(TIce::StaticClass(), "Scoops"), QStringList{QStringLiteral("B")});
-  EXPECT_EQ(CategoriesOf(TComponent::StaticClass(), "Scoops"), QStringList{QStringLiteral("Miscellaneous")});
-  EXPECT_EQ(CategoriesOf(TIce::StaticClass(), "Flavour"), QStringList{QStringLiteral("Miscellaneous")});
+  EXPECT_EQ(DesignRegistry::Current().CategoriesOf(TIce::StaticClass(), "Scoops"),
+            QStringList{QStringLiteral("B")});
+  EXPECT_EQ(DesignRegistry::Current().CategoriesOf(TComponent::StaticClass(), "Scoops"),
+            QStringList{QStringLiteral("Miscellaneous")});
+  EXPECT_EQ(DesignRegistry::Current().CategoriesOf(TIce::StaticClass(), "Flavour"),
+            QStringList{QStringLiteral("Miscellaneous")});
 }
 
 TEST(ResStrings, NameTheCategories) {

@@ -41,6 +41,10 @@ bool SavingThrows(const QString& file, const QByteArray& bytes) {
   }
 }
 
+forms::Document Load(const QString& file) {
+  return forms::Document::Parse(forms::ReadFile(file), forms::DialectOfName(file));
+}
+
 QByteArray BigForm(char letter, int lines) {
   QByteArray text = "object Main: TMain\n";
   for (int i = 0; i < lines; ++i)
@@ -60,7 +64,7 @@ TEST_F(Save, WritesAndReplacesAFile) {
 TEST_F(Save, LoadedAndSavedFormsAreTheSameFile) {
   const QByteArray bytes = "\xEF\xBB\xBFobject A: T\r\n  P = 'x'\r\nend";
   Put(File(), bytes);
-  forms::WriteFile(File("copy.dfm"), forms::LoadForm(File()).Write());
+  forms::WriteFile(File("copy.dfm"), Load(File()).Write());
   EXPECT_EQ(ReadBytes(File("copy.dfm")), bytes);
 }
 
@@ -122,7 +126,7 @@ TEST_F(Save, FilesThatCannotBeReadAreReported) {
   EXPECT_THROW(forms::ReadFile(File("none.dfm")), Exception);
   EXPECT_THROW(forms::ReadFile(folder_.path()), Exception);
   Put(File(), "not a form");
-  EXPECT_THROW(forms::LoadForm(File()), EFormError);
+  EXPECT_THROW(Load(File()), EFormError);
 }
 
 TEST_F(Save, StandardOutputIsWrittenWithoutChanges) {
@@ -154,7 +158,7 @@ TEST_F(Save, StandardInputIsReadToItsEnd) {
   const QString file = File();
   EXPECT_EQ(InChild([&] {
               if (!std::freopen(file.toLocal8Bit().constData(), "rb", stdin)) return 2;
-              return forms::LoadForm(QStringLiteral("-")).Write() == bytes ? 0 : 1;
+              return Load(QStringLiteral("-")).Write() == bytes ? 0 : 1;
             }),
             0);
 }

@@ -6,6 +6,7 @@
 
 #include "dclstd/StandardEditors.h"
 #include "designintf/DesignIntf.h"
+#include "designintf/DesignRegistry.h"
 #include "designintf/DesignWindow.h"
 #include "forms/TextWriter.h"
 #include "ide/FormSession.h"
@@ -22,8 +23,9 @@ inline void PrintTo(const QByteArray& bytes, std::ostream* out) { *out << bytes.
 namespace ide {
 
 inline void RegisterAll() {
+  static DesignRegistry registry;
   [[maybe_unused]] static const bool once = [] {
-    RegisterStandard();
+    RegisterStandard(registry);
     RegisterComponents(QStringLiteral("VRX Ext"), {&TVRXLEDLabel::StaticClass()});
     RegisterPropertyEditor(TVRXLED::StaticTypeInfo(), nullptr, {}, VRX_PROPERTY_EDITOR(TVRXLEDProperty));
     return true;

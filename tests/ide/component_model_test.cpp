@@ -63,8 +63,7 @@ TEST_F(ComponentModelTest, FollowsWhateverIsDone) {
       if (what <= 1) session_->Undo();
       if (what == 2) session_->Redo();
       if (what == 3 && c != session_->GetRoot()) session_->DeleteComponents({c});
-      if (what == 4)
-        session_->CreateComponent(TPanel::StaticClass(), As<TPanel>(c), QRect(1, 2, 30, 20));
+      if (what == 4) session_->CreateComponent(TPanel::StaticClass(), As<TPanel>(c), QRect(1, 2, 30, 20));
       if (what == 5 && !c->Name().isEmpty())
         session_->Rename(*c, QStringLiteral("Renamed%1").arg(random.bounded(100000)));
       if (auto* control = what >= 6 ? As<TControl>(c) : nullptr)

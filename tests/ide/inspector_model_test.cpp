@@ -15,7 +15,7 @@ class InspectorTest : public SessionTest {
   }
   void TearDown() override {
     model_.SetSession(nullptr);
-    UnregisterPackage(this);
+    DesignRegistry::Current().UnregisterPackage(this);
   }
   QModelIndex At(const char* path) const { return model_.IndexOfPath(QLatin1StringView(path)); }
   std::string Text(const char* path) const { return model_.ValueText(At(path)).toStdString(); }
@@ -238,7 +238,7 @@ class OpenReferenceProperty : public TComponentProperty {
             TPropertyAttribute::paSubProperties};
   }
   void GetProperties(const TGetPropProc& proc) const override {
-    if (TPersistent* object = GetObjectValue()) GetComponentProperties({object}, Designer(), proc);
+    if (TPersistent* object = GetObjectValue()) Source()->GetComponentProperties({object}, Designer(), proc);
   }
 };
 }  // namespace

@@ -5,7 +5,6 @@
 
 #include <QtTest>
 
-#include "designintf/DesignIntf.h"
 #include "designintf/PackageCall.h"
 #include "ide/FormSession.h"
 #include "ide/InspectorModel.h"
@@ -39,12 +38,13 @@ class PackageTest : public testing::Test {
  protected:
   void SetUp() override {
     qApp->setProperty("packageLog", QStringList());
-    rows_ = Registrations().size();
+    rows_ = registry_.Rows().size();
     classes_ = RegisteredClasses().size();
   }
   bool NothingLeft() const {
-    return Registrations().size() == rows_ && RegisteredClasses().size() == classes_;
+    return registry_.Rows().size() == rows_ && RegisteredClasses().size() == classes_;
   }
+  DesignRegistry registry_;
   PackageManager manager_{{TestPackages, Packages, Libraries}};
   std::size_t rows_ = 0, classes_ = 0;
 };
@@ -113,8 +113,8 @@ TEST_F(PackageTest, LoadingTheMainPackagePutsTheLedLabelOnThePalette) {
   const TClass* before = FindClass("TVRXLEDLabel");
   manager_.Load(PackageManager::DefaultPackage());
   EXPECT_NE(FindClass("TVRXLEDLabel"), nullptr);
-  ASSERT_GT(Registrations().size(), rows_);
-  const auto& rows = Registrations();
+  ASSERT_GT(registry_.Rows().size(), rows_);
+  const auto& rows = registry_.Rows();
   const auto first = std::find_if(rows.begin() + static_cast<std::ptrdiff_t>(rows_), rows.end(),
                                   [](const auto& row) { return row.Kind == TRegistrationKind::Components; });
   ASSERT_NE(first, rows.end());
@@ -136,10 +136,10 @@ TEST_F(PackageTest, UnitsStartInOrderThenRegisterAndEndInReverse) {
 
 TEST_F(PackageTest, LoadingALoadedPackageDoesNothing) {
   manager_.Load(QStringLiteral("testsample"));
-  const std::size_t rows = Registrations().size();
+  const std::size_t rows = registry_.Rows().size();
   const QStringList log = Log();
   manager_.Load(QStringLiteral("testsample"));
-  EXPECT_EQ(Registrations().size(), rows);
+  EXPECT_EQ(registry_.Rows().size(), rows);
   EXPECT_EQ(Log(), log);
   EXPECT_EQ(manager_.LoadedPackages(), QStringList(QStringLiteral("testsample")));
 }
@@ -150,7 +150,7 @@ TEST_F(PackageTest, UnloadingLeavesNoRegistrationAndNoClass) {
     manager_.Load(QStringLiteral("testsample"));
     EXPECT_TRUE(manager_.IsLoaded(QStringLiteral("testsample")));
     EXPECT_NE(FindClass("TSampleGauge"), nullptr);
-    EXPECT_EQ(Registrations().size(), rows_ + 4);
+    EXPECT_EQ(registry_.Rows().size(), rows_ + 4);
     manager_.Unload(QStringLiteral("testsample"));
     EXPECT_FALSE(manager_.IsLoaded(QStringLiteral("testsample")));
     EXPECT_EQ(FindClass("TSampleGauge"), nullptr);
@@ -165,8 +165,8 @@ TEST_F(PackageTest, UnloadingLeavesNoRegistrationAndNoClass) {
 TEST_F(PackageTest, TheRowsCarryTheUnitThatMadeThem) {
   manager_.Load(QStringLiteral("testsample"));
   QStringList units;
-  for (std::size_t i = rows_; i < Registrations().size(); ++i)
-    units << QString::fromLatin1(Registrations()[i].Procedure);
+  for (std::size_t i = rows_; i < registry_.Rows().size(); ++i)
+    units << QString::fromLatin1(registry_.Rows()[i].Procedure);
   EXPECT_EQ(units.join(u' '), QStringLiteral("testsample testsample Second Second"));
 }
 
@@ -263,11 +263,11 @@ TEST_F(PackageTest, AnOpenFormFollowsItsPackageAndLosesNothing) {
   const auto follow = [&] { session->Rebuild(); };
   QObject::connect(&manager_, &PackageManager::ClassesChanged, session.get(), follow);
   const QString name = QStringLiteral("Gauge1");
-  EXPECT_TRUE(IsUnknown(*session->GetComponent(name)));
+  EXPECT_TRUE(session->GetComponent(name)->InheritsFrom(TUnknownControl::StaticClass()));
   manager_.Load(QStringLiteral("testsample"));
   EXPECT_EQ(session->GetComponent(name)->ClassType().ClassName(), "TSampleGauge");
   manager_.Unload(QStringLiteral("testsample"));
-  EXPECT_TRUE(IsUnknown(*session->GetComponent(name)));
+  EXPECT_TRUE(session->GetComponent(name)->InheritsFrom(TUnknownControl::StaticClass()));
   EXPECT_EQ(session->Bytes(), bytes);
   EXPECT_FALSE(session->IsModified());
 }

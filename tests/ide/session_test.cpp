@@ -233,7 +233,7 @@ TEST_F(SessionTest, InheritedComponentsCannotBeDeleted) {
 
 TEST_F(SessionTest, UnknownClassesSurviveEverything) {
   auto& mystery = Get("Mystery");
-  EXPECT_TRUE(IsUnknown(mystery));
+  EXPECT_TRUE(mystery.InheritsFrom(TUnknownControl::StaticClass()));
   session_->Run(QStringLiteral("Move"), {&mystery}, [&] { mystery.SetBounds(0, 140, 50, 50); });
   EXPECT_EQ(Changes(), "-Left = 240|+Left = 0");
   session_->Rename(mystery, QStringLiteral("Riddle"));

@@ -3,6 +3,10 @@
 
 #include <QDirIterator>
 #include <QFile>
+#include <QFileInfo>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
 #include <QMap>
 #include <QRegularExpression>
 #include <QSet>
@@ -54,3 +58,69 @@ TEST_P(Layer, IncludesOnlyWhatLiesBelow) {
 INSTANTIATE_TEST_SUITE_P(Every, Layer,
                          testing::Values("rtl", "forms", "vcl", "designintf", "dclstd", "library",
                                          "library_design", "package", "ide", "designer", "cli"));
+
+namespace {
+// The units (a header and its source) that a unit of the same folder includes, directly or through others.
+QSet<QString> ReachedFrom(const QString& unit) {
+  const QString folder = unit.section(u'/', 0, 0);
+  const QRegularExpression include(QStringLiteral("^#include \"(%1/[A-Za-z]+)\\.h\"").arg(folder),
+                                   QRegularExpression::MultilineOption);
+  QSet<QString> reached;
+  QStringList open{unit};
+  while (!open.isEmpty()) {
+    const QString from = open.takeLast();
+    for (const char* ending : {".h", ".cpp"}) {
+      QFile file(QStringLiteral(VRX_SOURCE_DIR) + u'/' + from + QString::fromLatin1(ending));
+      if (!file.open(QIODevice::ReadOnly)) continue;
+      auto matches = include.globalMatch(QString::fromUtf8(file.readAll()));
+      while (matches.hasNext()) {
+        const QString to = matches.next().captured(1);
+        if (to == from || reached.contains(to)) continue;
+        reached.insert(to);
+        open << to;
+      }
+    }
+  }
+  return reached;
+}
+}  // namespace
+
+TEST(Units, OfTheDesignInterfaceFormNoCircle) {
+  int units = 0;
+  QDirIterator it(QStringLiteral(VRX_SOURCE_DIR "/designintf"), {QStringLiteral("*.h")}, QDir::Files);
+  while (it.hasNext()) {
+    const QString unit = QStringLiteral("designintf/") + QFileInfo(it.next()).completeBaseName();
+    EXPECT_FALSE(ReachedFrom(unit).contains(unit)) << qPrintable(unit);
+    ++units;
+  }
+  EXPECT_GT(units, 10);
+}
+
+TEST(Units, AccessToPropertiesKnowsNothingOfComponents) {
+  EXPECT_FALSE(ReachedFrom(QStringLiteral("rtl/PropAccess")).contains(QStringLiteral("rtl/Component")));
+  EXPECT_TRUE(ReachedFrom(QStringLiteral("rtl/Component")).contains(QStringLiteral("rtl/PropAccess")));
+}
+
+TEST(Presets, RefuseARunWithoutTests) {
+  QFile file(QStringLiteral(VRX_SOURCE_DIR "/CMakePresets.json"));
+  ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+  const QJsonObject presets = QJsonDocument::fromJson(file.readAll()).object();
+  QMap<QString, QJsonObject> byName;
+  int shown = 0;
+  for (const QJsonValue& value : presets.value(QStringLiteral("testPresets")).toArray())
+    byName.insert(value.toObject().value(QStringLiteral("name")).toString(), value.toObject());
+  for (QJsonObject preset : byName) {
+    if (preset.value(QStringLiteral("hidden")).toBool()) continue;
+    ++shown;
+    const QString name = preset.value(QStringLiteral("name")).toString();
+    while (!preset.contains(QStringLiteral("execution")) && preset.contains(QStringLiteral("inherits")))
+      preset = byName.value(preset.value(QStringLiteral("inherits")).toString());
+    EXPECT_EQ(preset.value(QStringLiteral("execution"))
+                  .toObject()
+                  .value(QStringLiteral("noTestsAction"))
+                  .toString(),
+              QStringLiteral("error"))
+        << qPrintable(name);
+  }
+  EXPECT_EQ(shown, presets.value(QStringLiteral("configurePresets")).toArray().size() - 1);
+}

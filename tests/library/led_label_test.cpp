@@ -1,7 +1,6 @@
 #include <gtest/gtest.h>
 
 #include "LibraryTest.h"
-#include "library/LibraryClasses.h"
 #include "rtl/PropAccess.h"
 
 namespace {
@@ -26,12 +25,6 @@ class CountingHost : public IControlHost {
   int changes = 0;
 };
 }  // namespace
-
-TEST(LedLabel, IsInTheLibrary) {
-  EXPECT_EQ(FindLibraryClass("TVRXLEDLabel"), &TVRXLEDLabel::StaticClass());
-  EXPECT_EQ(FindLibraryClass("TVRXNoSuchClass"), nullptr);
-  EXPECT_EQ(FindLibraryClass(""), nullptr);
-}
 
 TEST(LedLabel, StartsBlackAndSizesItself) {
   const TVRXLEDLabel label(nullptr);

@@ -67,21 +67,18 @@ class ThrowingHost : public IControlHost {
 
 class LedProperty : public LedDialog {
  protected:
+  DesignRegistry registry_;
   void SetUp() override {
     LedDialog::SetUp();
     RegisterClass(TVRXLEDLabel::StaticClass());
     RegisterClass(TLampBank::StaticClass());
-    {
-      const RegistrationScope scope(this, "test");
-      RegisterPropertyEditor(TVRXLED::StaticTypeInfo(), nullptr, {}, VRX_PROPERTY_EDITOR(TVRXLEDProperty));
-    }
+    RegisterPropertyEditor(TVRXLED::StaticTypeInfo(), nullptr, {}, VRX_PROPERTY_EDITOR(TVRXLEDProperty));
     session_ = FormSession::FromBytes(FormText);
     original_ = session_->Bytes();
   }
   void TearDown() override {
     model_.SetSession(nullptr);
     session_.reset();
-    UnregisterPackage(this);
   }
   TVRXLEDLabel& Label(const char* name) {
     return dynamic_cast<TVRXLEDLabel&>(*session_->GetComponent(QString::fromLatin1(name)));

@@ -1,6 +1,7 @@
 // Class descriptions: order of properties, republishing, look-up, creation, registration.
 #include <random>
 
+#include "rtl/IntegerConsts.h"
 #include "tests/rtl/RtlTest.h"
 
 using namespace rtltest;

@@ -3,8 +3,8 @@
 #include <set>
 
 #include "VclTest.h"
-#include "rtl/ClassRegistry.h"
 #include "rtl/Exceptions.h"
+#include "rtl/IntegerConsts.h"
 #include "rtl/PropText.h"
 #include "vcl/ColorSwatch.h"
 #include "vcl/Colors.h"

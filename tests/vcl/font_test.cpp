@@ -1,6 +1,6 @@
 #include "VclTest.h"
-#include "rtl/ClassRegistry.h"
 #include "rtl/Exceptions.h"
+#include "rtl/IntegerConsts.h"
 #include "rtl/PropAccess.h"
 #include "rtl/PropText.h"
 #include "vcl/StdCtrls.h"

@@ -1,0 +1,6 @@
+// The IDE's own texts.
+#pragma once
+#include <QString>
+
+enum class TResString { sLayoutCategoryName, sVisualCategoryName, sMiscCategoryName };
+QString LoadResString(TResString id);
