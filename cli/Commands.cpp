@@ -32,6 +32,13 @@ const std::vector<CommandRow>& CommandTable() {
        "Changes properties; values are written as in form text ('a string', clRed,\n"
        "[a, b], 12). A refused value says why, and nothing is written.",
        SetCommand},
+      {"do", "FORM ACTION... [--select NAME[,NAME...]] [--clipboard FILE] [-o OUT]",
+       "Does what the designer's menus do, one action after the other, to the components\n"
+       "named; the first one is the measure of alignments and sizes. What cannot be done\n"
+       "says why, and nothing is written. The clipboard is a file: paste reads it, copy and\n"
+       "cut write it; without --clipboard it is standard input and output.",
+       DoCommand},
+      {"actions", "[--json]", "Lists the actions and what they do.", ActionsCommand},
       {"package", "[PACKAGE] [--json]",
        "Prints the description record of a package, without running its code. PACKAGE is\n"
        "a name or a file; without it, the library's design-time package.",

@@ -50,6 +50,8 @@ int ConvertCommand(const QStringList& arguments, Console& console);
 int RenderCommand(const QStringList& arguments, Console& console);
 int GetCommand(const QStringList& arguments, Console& console);
 int SetCommand(const QStringList& arguments, Console& console);
+int DoCommand(const QStringList& arguments, Console& console);
+int ActionsCommand(const QStringList& arguments, Console& console);
 int PackageCommand(const QStringList& arguments, Console& console);
 int Effect3DCommand(const QStringList& arguments, Console& console);
 int RegionCommand(const QStringList& arguments, Console& console);

@@ -4,6 +4,7 @@
 #include <QPainter>
 
 #include "cli/Commands.h"
+#include "cli/OpenForm.h"
 #include "forms/FormFile.h"
 #include "forms/TextWriter.h"
 #include "ide/BoundsCheck.h"
@@ -16,7 +17,6 @@
 
 using namespace forms;
 
-namespace {
 std::unique_ptr<FormSession> OpenForm(const QString& file) {
   try {
     return FormSession::Open(file);
@@ -25,15 +25,6 @@ std::unique_ptr<FormSession> OpenForm(const QString& file) {
   }
 }
 
-// For what shows values: a form whose pictures were refused is not what it seems.
-std::unique_ptr<FormSession> OpenWholeForm(const QString& file) {
-  auto session = OpenForm(file);
-  RequireAllData(*session);
-  return session;
-}
-
-// "Button1.Font.Color": the component, and the rest of the path. What stands in a frame has the frame's name
-// in front ("Frame1.Button1.Caption").
 TComponent& ComponentOf(FormSession& session, const QString& text, QByteArray& path) {
   const QStringList names = text.split(u'.');
   const QString name = names[0].trimmed();
@@ -49,6 +40,22 @@ TComponent& ComponentOf(FormSession& session, const QString& text, QByteArray& p
   }
   throw Exception(QStringLiteral("%1 has no component named \"%2\"").arg(session.FileName(), name));
 }
+
+void WriteForm(FormSession& session, const QString& file) {
+  if (SameFile(file, session.FileName()))
+    session.Save();  // refuses when the file has changed since it was read
+  else
+    WriteFile(file, session.Bytes());
+}
+
+namespace {
+// For what shows values: a form whose pictures were refused is not what it seems.
+std::unique_ptr<FormSession> OpenWholeForm(const QString& file) {
+  auto session = OpenForm(file);
+  RequireAllData(*session);
+  return session;
+}
+
 // A value of a stranger's form as form text that is harmless on a terminal: what would act there is written
 // as #n in strings, and names, which are anything in a stream, are escaped.
 Value Harmless(Value v, const Document& document) {
@@ -184,12 +191,7 @@ int SetCommand(const QStringList& list, Console& console) {
       }
     }
   });
-  const QString file = args.options.value(QStringLiteral("-o"), args.values[0]);
-  if (SameFile(file, args.values[0])) {
-    session->Save();  // refuses when the file has changed since it was read
-  } else {
-    WriteFile(file, session->Bytes());
-  }
+  WriteForm(*session, args.options.value(QStringLiteral("-o"), args.values[0]));
   return ExitOk;
 }
 

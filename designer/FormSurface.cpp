@@ -5,13 +5,10 @@
 #include "ide/BoundsCheck.h"
 #include "ide/Tiles.h"
 #include "ide/Unknown.h"
+#include "ide/operations/Places.h"
 #include "rtl/Exceptions.h"
 #include "vcl/FormFrame.h"
 #include "vcl/Theme.h"
-
-namespace {
-int Snap(int v, int grid) { return static_cast<int>(std::lround(static_cast<double>(v) / grid)) * grid; }
-}  // namespace
 
 FormSurface::FormSurface(QWidget* parent) : QWidget(parent) {
   setFocusPolicy(Qt::StrongFocus);
@@ -41,6 +38,7 @@ void FormSurface::TakeChange(const FormChange& change) {
   if (change.structure) {
     // What was being dragged may be gone.
     action_ = Action::None;
+    grabbed_ = target_ = nullptr;
     starts_.clear();
     icons_.clear();
     if (session_) {
@@ -117,25 +115,9 @@ QPoint FormSurface::ToForm(QPoint p) const {
   return QPoint(qFloor(p.x() / zoom_), qFloor(p.y() / zoom_)) - ClientOrigin();
 }
 
-QRect FormSurface::RectOf(const TComponent& c) const {
-  if (const auto* control = As<TControl>(&c)) return control->BoundsRect();
-  return TileRect(c);
-}
-
 void FormSurface::SetRect(TComponent& c, const QRect& r) {
-  if (auto* control = As<TControl>(&c)) {
-    control->SetBounds(r.left(), r.top(), r.width(), r.height());
-  } else {
-    c.SetDesignInfo(DesignWordOf({static_cast<std::int16_t>(r.left()), static_cast<std::int16_t>(r.top())}));
-    update();
-  }
-}
-
-// What can be moved: not the form, and no part of another component.
-bool FormSurface::HasPlace(const TComponent& c) const {
-  if (&c == session_->GetRoot()) return false;
-  if (const auto* stand = dynamic_cast<const TUnknownControl*>(&c)) return stand->StandIn().hasPlace;
-  return !HasIcon(c) || HasTile(*session_, c);
+  SetPlace(c, r);
+  if (HasIcon(c)) update();
 }
 
 // In client coordinates of the form; the form itself with its frame.
@@ -143,12 +125,7 @@ QRect FormSurface::FormRectOf(const TComponent& c) const {
   const TForm& form = session_->Form();
   const QMargins m = form.FrameMargins();
   if (&c == &form) return QRect({-m.left(), -m.top()}, form.OuterSize());
-  const TComponent& shown = ShownFor(*session_, c);
-  QRect r = RectOf(shown);
-  if (const auto* control = As<TControl>(&shown))
-    for (const TControl* p = control->Parent(); p && p != &form; p = p->Parent())
-      r.translate(p->Left(), p->Top());
-  return r;
+  return FormPlaceOf(ShownFor(*session_, c));
 }
 
 QRect FormSurface::WidgetRect(const TComponent& c) const {
@@ -179,7 +156,7 @@ TComponent* FormSurface::ComponentAt(QPoint widgetPoint) const {
   if (!session_) return nullptr;
   const QPoint p = ToForm(widgetPoint);
   for (auto it = icons_.rbegin(); it != icons_.rend(); ++it)
-    if (RectOf(**it).contains(p)) return *it;
+    if (PlaceOf(**it).contains(p)) return *it;
   const TForm& form = session_->Form();
   if (!form.ClientRect().contains(p)) return FormRectOf(form).contains(p) ? session_->GetRoot() : nullptr;
   return DeepestAt(p);
@@ -192,199 +169,6 @@ void FormSurface::Guarded(const std::function<void()>& action) {
   } catch (const std::exception& e) {
     emit Message(ExceptionMessage(e));
   }
-}
-
-// --- Mouse
-
-void FormSurface::mousePressEvent(QMouseEvent* event) {
-  if (!session_ || event->button() != Qt::LeftButton) return;
-  setFocus();
-  pressed_ = current_ = event->pos();
-  handle_ = tool_ ? -1 : HandleAt(pressed_);
-  const QPoint p = ToForm(pressed_);
-  if (tool_) {
-    // Nobody would see what stands beside the form.
-    if (FormRectOf(session_->Form()).united(QRect({}, DeskSize(*session_))).contains(p))
-      action_ = Action::Place;
-    else
-      emit Notice(tr("Click on the form to place a component, or press Escape."));
-    return;
-  }
-  if (handle_ >= 0) {
-    TComponent* c = session_->SelectedComponents().front();
-    starts_ = {{c, RectOf(*c)}};
-    session_->BeginLive();
-    action_ = Action::Resize;
-    return;
-  }
-  TComponent* hit = ComponentAt(pressed_);
-  if (!hit) return session_->Select({});
-  const bool add = event->modifiers() & (Qt::ControlModifier | Qt::ShiftModifier);
-  if (hit == session_->GetRoot()) {
-    target_ = &session_->Form();
-    action_ = session_->Form().ClientRect().contains(p) ? Action::Band : Action::None;
-    if (!add) session_->Select({});
-    return;
-  }
-  auto selected = session_->SelectedComponents();
-  if (add) {
-    if (session_->IsSelected(*hit))
-      std::erase(selected, hit);
-    else
-      selected.push_back(hit);
-    return session_->Select(selected);
-  }
-  if (!session_->IsSelected(*hit)) session_->Select({hit});
-  if (auto* book = dynamic_cast<TUnknownControl*>(hit))
-    if (const auto* page = book->PageAt(p - FormRectOf(*book).topLeft())) book->ShowPage(*page);
-  action_ = Action::Press;
-}
-
-void FormSurface::mouseMoveEvent(QMouseEvent* event) {
-  if (!session_) return;
-  current_ = event->pos();
-  switch (action_) {
-    case Action::None:
-      return UpdateCursor(current_);
-    case Action::Press:
-      // A trembling click is not a drag.
-      if ((current_ - pressed_).manhattanLength() < QApplication::startDragDistance()) return;
-      starts_.clear();
-      for (TComponent* c : session_->SelectedComponents())
-        if (HasPlace(*c)) starts_.push_back({c, RectOf(*c)});
-      if (starts_.empty()) return;
-      session_->BeginLive();
-      action_ = Action::Move;
-      [[fallthrough]];
-    case Action::Move:
-    case Action::Resize:
-      return Drag(current_, event->modifiers() & Qt::AltModifier);
-    case Action::Band:
-    case Action::Place:
-      return update();
-  }
-}
-
-void FormSurface::UpdateCursor(QPoint p) {
-  if (tool_) return;
-  static constexpr Qt::CursorShape shapes[] = {Qt::SizeFDiagCursor, Qt::SizeVerCursor, Qt::SizeBDiagCursor,
-                                               Qt::SizeHorCursor};
-  const int handle = HandleAt(p);
-  setCursor(handle < 0 ? Qt::ArrowCursor : shapes[handle % 4]);
-}
-
-// Live: the components follow the pointer; the command is made when the button is let go.
-void FormSurface::Drag(QPoint p, bool fine) {
-  // A command that came in between has ended the drag.
-  if (!session_->IsLive()) {
-    action_ = Action::None;
-    return;
-  }
-  const int grid = fine ? 1 : Grid;
-  const QPoint delta((p - pressed_) / zoom_);
-  session_->RestartLive();
-  if (action_ == Action::Move) {
-    const QPoint first = starts_.front().rect.topLeft();
-    const QPoint step = QPoint(Snap(first.x() + delta.x(), grid), Snap(first.y() + delta.y(), grid)) - first;
-    for (const Start& s : starts_) SetRect(*s.component, s.rect.translated(step));
-  } else {
-    static constexpr int sides[8][4] = {{1, 1, 0, 0}, {0, 1, 0, 0}, {0, 1, 1, 0}, {0, 0, 1, 0},
-                                        {0, 0, 1, 1}, {0, 0, 0, 1}, {1, 0, 0, 1}, {1, 0, 0, 0}};
-    const QRect r = starts_.front().rect;
-    int left = r.left(), top = r.top(), right = r.left() + r.width(), bottom = r.top() + r.height();
-    const int* side = sides[handle_];
-    if (side[0]) left = std::min(Snap(left + delta.x(), grid), right - 1);
-    if (side[1]) top = std::min(Snap(top + delta.y(), grid), bottom - 1);
-    if (side[2]) right = std::max(Snap(right + delta.x(), grid), left + 1);
-    if (side[3]) bottom = std::max(Snap(bottom + delta.y(), grid), top + 1);
-    SetRect(*starts_.front().component, QRect(left, top, right - left, bottom - top));
-  }
-  update();
-}
-
-void FormSurface::FinishDrag() {
-  const bool resize = action_ == Action::Resize;
-  action_ = Action::None;
-  const QPoint delta = current_ - pressed_;
-  const auto stayed = std::find_if(starts_.begin(), starts_.end(), [&](const Start& s) {
-    const auto* control = As<TControl>(s.component);
-    return control && control->Align() != TAlign::alNone && control->BoundsRect() == s.rect;
-  });
-  const bool inVain = stayed != starts_.end() && delta.manhattanLength() >= Grid;
-  Guarded([&] { session_->EndLive(resize ? tr("Resize") : tr("Move"), true); });
-  if (inVain) emit Notice(WhatDecidesBounds(*As<TControl>(stayed->component)));
-}
-
-void FormSurface::CancelDrag() {
-  if (session_) session_->EndLive({}, false);
-  action_ = Action::None;
-  update();
-}
-
-void FormSurface::mouseReleaseEvent(QMouseEvent* event) {
-  if (!session_ || event->button() != Qt::LeftButton) return;
-  current_ = event->pos();
-  const QRect rect = QRect(ToForm(pressed_), ToForm(current_)).normalized();
-  switch (action_) {
-    case Action::Move:
-    case Action::Resize:
-      FinishDrag();
-      break;
-    case Action::Band:
-      action_ = Action::None;
-      if (rect.width() > 3 || rect.height() > 3)
-        SelectBand(rect, event->modifiers() & (Qt::ControlModifier | Qt::ShiftModifier));
-      break;
-    case Action::Place:
-      action_ = Action::None;
-      PlaceTool(rect, keepTool_ || event->modifiers() & Qt::ShiftModifier);
-      break;
-    default:
-      action_ = Action::None;
-  }
-  update();
-}
-
-void FormSurface::SelectBand(const QRect& band, bool add) {
-  std::vector<TComponent*> found;
-  if (add) found = session_->SelectedComponents();
-  for (TControl* c : session_->Form().Controls())
-    if (FormRectOf(*c).intersects(band) && std::find(found.begin(), found.end(), c) == found.end())
-      found.push_back(c);
-  for (TComponent* c : icons_)
-    if (RectOf(*c).intersects(band) && std::find(found.begin(), found.end(), c) == found.end())
-      found.push_back(c);
-  session_->Select(found);
-}
-
-void FormSurface::PlaceTool(const QRect& drawn, bool keep) {
-  const TClass& cls = *tool_;
-  if (!keep) {
-    SetTool(nullptr);
-    emit ToolUsed();
-  }
-  TControl* at = DeepestAt(drawn.topLeft());
-  while (at && !at->AcceptsControls()) at = at->Parent();
-  auto* container = at ? As<TWinControl>(at) : &session_->Form();
-  const QPoint origin = container == &session_->Form() ? QPoint() : FormRectOf(*container).topLeft();
-  QRect r = drawn.translated(-origin);
-  r.moveTopLeft({Snap(r.left(), Grid), Snap(r.top(), Grid)});
-  const bool sized = drawn.width() > 8 && drawn.height() > 8;
-  r.setSize(sized ? QSize(Snap(r.width(), Grid), Snap(r.height(), Grid)) : QSize(0, 0));
-  Guarded([&] { session_->CreateComponent(cls, container, r); });
-}
-
-void FormSurface::mouseDoubleClickEvent(QMouseEvent* event) {
-  if (!session_ || event->button() != Qt::LeftButton) return;
-  CancelDrag();
-  if (TComponent* c = ComponentAt(event->pos())) Guarded([&] { session_->Edit(*c); });
-}
-
-void FormSurface::contextMenuEvent(QContextMenuEvent* event) {
-  if (!session_) return;
-  if (event->reason() == QContextMenuEvent::Mouse)
-    if (TComponent* c = ComponentAt(event->pos()); c && !session_->IsSelected(*c)) session_->Select({c});
-  emit ContextMenuWanted(event->globalPos());
 }
 
 // --- Keyboard
@@ -421,13 +205,12 @@ void FormSurface::WalkSelection(int step) {
 }
 
 void FormSurface::Nudge(int dx, int dy, bool resize) {
-  auto touched = session_->SelectedComponents();
-  std::erase_if(touched, [&](const TComponent* c) { return !HasPlace(*c); });
+  const auto touched = Movable();
   if (touched.empty()) return;
   const TControl* stayed = nullptr;
   session_->Run(resize ? tr("Resize") : tr("Move"), touched, [&] {
     for (TComponent* c : touched) {
-      const QRect was = RectOf(*c);
+      const QRect was = PlaceOf(*c);
       QRect r = was;
       if (!resize)
         r.translate(dx, dy);
@@ -435,7 +218,7 @@ void FormSurface::Nudge(int dx, int dy, bool resize) {
         r.setSize(QSize(std::max(1, r.width() + dx), std::max(1, r.height() + dy)));
       SetRect(*c, r);
       const auto* control = As<TControl>(c);
-      if (control && control->Align() != TAlign::alNone && RectOf(*c) == was) stayed = control;
+      if (control && control->Align() != TAlign::alNone && PlaceOf(*c) == was) stayed = control;
     }
   });
   if (stayed) emit Notice(WhatDecidesBounds(*stayed));
@@ -456,8 +239,6 @@ void FormSurface::keyPressEvent(QKeyEvent* event) {
       return Nudge(0, -step, resize);
     case Qt::Key_Down:
       return Nudge(0, step, resize);
-    case Qt::Key_Delete:
-      return Guarded([&] { session_->DeleteSelection(); });
     case Qt::Key_Return:
     case Qt::Key_F11:
       emit InspectorWanted();

@@ -60,22 +60,25 @@ class FormSurface : public QWidget {
   QPoint ToForm(QPoint widgetPoint) const;  // client coordinates of the form
   QPoint ClientOrigin() const;              // of the form's client area, in unzoomed surface coordinates
   static bool HasIcon(const TComponent& component) { return !As<TControl>(&component); }
-  bool HasPlace(const TComponent& component) const;
   QRect FormRectOf(const TComponent& component) const;
   int HandleAt(QPoint widgetPoint) const;
   std::vector<QRect> Handles() const;
   void Drag(QPoint widgetPoint, bool fine);
   void FinishDrag();
+  bool FinishOverContainer();
+  void FindTarget(QPoint widgetPoint);
+  std::vector<TComponent*> Movable() const;
+  std::vector<TComponent*> DraggedControls() const;
   void CancelDrag();
   void PlaceTool(const QRect& formRect, bool keep);
   void SelectBand(const QRect& formRect, bool add);
   void Nudge(int dx, int dy, bool resize);
   void SetRect(TComponent& component, const QRect& rect);
-  QRect RectOf(const TComponent& component) const;
   void WalkSelection(int step);
   void PaintGrid(QPainter& p, const QRect& sight) const;
   void PaintIcons(QPainter& p, const QRect& sight) const;
   void PaintSelection(QPainter& p);
+  void PaintDrag(QPainter& p) const;
   void UpdateSize();
   void TakeChange(const FormChange& change);
   void Touch(const TControl& control);
@@ -92,7 +95,9 @@ class FormSurface : public QWidget {
   QPoint pressed_;
   QPoint current_;
   std::vector<Start> starts_;       // what is dragged
-  TWinControl* target_ = nullptr;   // where a tool or band works
+  TComponent* grabbed_ = nullptr;   // the one under the pointer when the drag began
+  TWinControl* target_ = nullptr;   // another container that what is dragged would go to
+  QString refusal_;                 // why it cannot
   std::vector<TComponent*> icons_;  // what has a tile
   QRegion frames_;                  // where the selection is painted
 };

@@ -3,6 +3,7 @@
 
 #include "designer/FormSurface.h"
 #include "designintf/ComponentTile.h"
+#include "ide/operations/Containers.h"
 #include "vcl/FormColors.h"
 #include "vcl/FormFrame.h"
 #include "vcl/Theme.h"
@@ -49,8 +50,8 @@ void FormSurface::PaintGrid(QPainter& p, const QRect& sight) const {
 void FormSurface::PaintIcons(QPainter& p, const QRect& sight) const {
   constexpr int Name = 20;  // it stands below and may be far wider than the tile
   for (const TComponent* c : icons_)
-    if (const QRect r = RectOf(*c); r.top() <= sight.bottom() && r.bottom() + Name >= sight.top())
-      PaintComponentTile(p, *c, RectOf(*c).topLeft(), devicePixelRatioF() * zoom_);
+    if (const QRect r = PlaceOf(*c); r.top() <= sight.bottom() && r.bottom() + Name >= sight.top())
+      PaintComponentTile(p, *c, PlaceOf(*c).topLeft(), devicePixelRatioF() * zoom_);
 }
 
 std::vector<QRect> FormSurface::Handles() const {
@@ -109,17 +110,43 @@ void FormSurface::PaintSelection(QPainter& p) {
     p.setBrush(fill);
     p.drawRect(QRect(pressed_, current_).normalized());
   }
-  if (action_ == Action::Move || action_ == Action::Resize) {
-    const QRect r = FormRectOf(*starts_.front().component);
-    const QRect own = RectOf(*starts_.front().component);
-    const QString text = action_ == Action::Move ? QStringLiteral("%1, %2").arg(own.left()).arg(own.top())
-                                                 : QStringLiteral("%1 x %2").arg(r.width()).arg(r.height());
-    const int width = p.fontMetrics().horizontalAdvance(text) + 12;
-    const QRect label(current_ + QPoint(14, 16), QSize(width, p.fontMetrics().height() + 6));
-    p.setPen(palette().color(QPalette::Mid));
-    p.setBrush(palette().color(QPalette::ToolTipBase));
-    p.drawRect(label);
-    p.setPen(palette().color(QPalette::ToolTipText));
-    p.drawText(label, Qt::AlignCenter, text);
+  if (action_ == Action::Move || action_ == Action::Resize) PaintDrag(p);
+}
+
+// Where it would come to stand, its place or size, and which container would take it or why none does.
+void FormSurface::PaintDrag(QPainter& p) const {
+  if (target_) {
+    // What leaves its container is cut off at its edge.
+    for (const TComponent* c : DraggedControls()) {
+      p.save();
+      p.setOpacity(refusal_.isEmpty() ? 0.8 : 0.4);
+      p.translate(WidgetRect(*c).topLeft());
+      p.scale(zoom_, zoom_);
+      PaintControl(*As<TControl>(const_cast<TComponent*>(c)), p);
+      p.restore();
+    }
+    if (refusal_.isEmpty()) {
+      p.setPen(QPen(palette().color(QPalette::Highlight), 2));
+      p.setBrush(Qt::NoBrush);
+      p.drawRect(Shown(target_->ClientRect().translated(FormOriginOf(*target_))).adjusted(1, 1, -1, -1));
+    }
   }
+  const TComponent& first = *starts_.front().component;
+  const QRect own =
+      target_ && !HasIcon(first) ? FormPlaceOf(first).translated(-FormOriginOf(*target_)) : PlaceOf(first);
+  const QString place = action_ == Action::Move
+                            ? QStringLiteral("%1, %2").arg(own.left()).arg(own.top())
+                            : QStringLiteral("%1 x %2").arg(own.width()).arg(own.height());
+  const QString text = !refusal_.isEmpty() ? refusal_
+                       : target_           ? tr("%1 \u2192 %2").arg(place, target_->Name())
+                                           : place;
+  const int width = std::min(p.fontMetrics().horizontalAdvance(text) + 12, this->width());
+  QRect label(current_ + QPoint(14, 16), QSize(width, p.fontMetrics().height() + 6));
+  label.moveLeft(std::min(label.left(), this->width() - width));
+  p.setPen(palette().color(QPalette::Mid));
+  p.setBrush(palette().color(QPalette::ToolTipBase));
+  p.drawRect(label);
+  p.setPen(palette().color(QPalette::ToolTipText));
+  p.drawText(label.adjusted(6, 0, -6, 0), Qt::AlignCenter,
+             p.fontMetrics().elidedText(text, Qt::ElideRight, label.width() - 12));
 }

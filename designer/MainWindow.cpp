@@ -3,6 +3,7 @@
 #include <QtWidgets>
 
 #include "designer/DiskChanges.h"
+#include "designer/FormActions.h"
 #include "designer/FormColorsMenu.h"
 #include "designer/FormSurface.h"
 #include "designer/InspectorPane.h"
@@ -155,6 +156,19 @@ void MainWindow::PlaceOne(const TClass& cls) {
   surface_->setFocus();
 }
 
+// While something is dragged or a dialog is open, what it works on stays as it is.
+void MainWindow::Run(const ActionRow& row) {
+  if (!session_ || session_->IsBusy()) return;
+  if (row.group != ActionGroup::Undo && !CommitTyping()) return;
+  try {
+    DesktopClipboard clipboard;
+    ActionContext context{*session_, clipboard, FormSurface::Grid};
+    RunAction(row, context);
+  } catch (const std::exception& e) {
+    ReportException(this, e);
+  }
+}
+
 void MainWindow::ShowTool() {
   const TClass* tool = surface_->Tool();
   putDown_->setEnabled(tool);
@@ -217,25 +231,11 @@ void MainWindow::BuildActions() {
       file, tr("&Quit"), QStringLiteral("application-exit"), QKeySequence::Quit, [this] { close(); }, "quit");
 
   QMenu* edit = menuBar()->addMenu(tr("&Edit"));
-  undo_ = AddAction(
-      edit, tr("&Undo"), QStringLiteral("edit-undo"), QKeySequence::Undo, [this] { session_->Undo(); },
-      "undo");
-  redo_ = AddAction(
-      edit, tr("&Redo"), QStringLiteral("edit-redo"), QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Z),
-      [this] { session_->Redo(); }, "redo");
-  redo_->setShortcuts({QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Z), QKeySequence(Qt::CTRL | Qt::Key_Y)});
-  edit->addSeparator();
-  delete_ = AddAction(
-      edit, tr("&Delete"), QStringLiteral("edit-delete"), {}, [this] { session_->DeleteSelection(); },
-      "delete");
-  AddAction(
-      edit, tr("Select &all"), QStringLiteral("edit-select-all"), {},
-      [this] {
-        auto all = session_->AllComponents();
-        all.erase(all.begin());
-        session_->Select(all);
-      },
-      "selectAll");
+  form_ = new FormActions(*this);
+  connect(form_, &FormActions::Wanted, this, &MainWindow::Run);
+  form_->WorkIn(*surface_);
+  form_->WorkIn(structure_->Tree());
+  form_->AddTo(*edit, {ActionGroup::Undo, ActionGroup::Clipboard, ActionGroup::Select});
 
   QMenu* view = menuBar()->addMenu(tr("&View"));
   for (QDockWidget* d : findChildren<QDockWidget*>()) view->addAction(d->toggleViewAction());
@@ -272,6 +272,9 @@ void MainWindow::BuildActions() {
       view, tr("&Dark theme"), {}, {}, [] { ChooseTheme(TTheme::Dark); }, "dark");
   AddFormColorsMenu(*view);
 
+  form_->AddTo(*menuBar()->addMenu(tr("F&orm")), {ActionGroup::Align, ActionGroup::Size, ActionGroup::Spacing,
+                                                  ActionGroup::Order, ActionGroup::Grid});
+
   QMenu* help = menuBar()->addMenu(tr("&Help"));
   AddAction(
       help, tr("&About"), QStringLiteral("help-about"), {},
@@ -282,8 +285,7 @@ void MainWindow::BuildActions() {
       "about");
 
   for (QAction* a : {fresh, open, save_}) tools->addAction(a);
-  tools->addSeparator();
-  for (QAction* a : {undo_, redo_, delete_}) tools->addAction(a);
+  form_->AddTo(*tools);
   tools->addSeparator();
   for (QAction* a : {zoomOut, zoomIn}) tools->addAction(a);
 }
@@ -307,7 +309,10 @@ void MainWindow::SetSession(std::unique_ptr<FormSession> session) {
   inspector_->SetSession(session_.get());
   connect(session_.get(), &FormSession::ModifiedChanged, this, &MainWindow::UpdateActions);
   connect(session_.get(), &FormSession::Changed, this, &MainWindow::UpdateActions);
-  connect(session_.get(), &FormSession::SelectionChanged, this, &MainWindow::UpdateStatus);
+  connect(session_.get(), &FormSession::SelectionChanged, this, [this] {
+    form_->Update(session_.get());
+    UpdateStatus();
+  });
   connect(session_.get(), &FormSession::HandlerShown, this,
           [this](const QString& name) { statusBar()->showMessage(tr("Event handler %1").arg(name), 5000); });
   UpdateProblems();
@@ -425,11 +430,7 @@ void MainWindow::UpdateActions() {
   setWindowModified(open && session_->IsModified());
   save_->setEnabled(open && (session_->IsModified() || session_->FileName().isEmpty() || disk_->Differs() ||
                              inspector_->Editor().IsChanged()));
-  undo_->setEnabled(open && session_->CanUndo());
-  undo_->setText(open && session_->CanUndo() ? tr("&Undo %1").arg(session_->UndoText()) : tr("&Undo"));
-  redo_->setEnabled(open && session_->CanRedo());
-  redo_->setText(open && session_->CanRedo() ? tr("&Redo %1").arg(session_->RedoText()) : tr("&Redo"));
-  delete_->setEnabled(open);
+  form_->Update(session_.get());
   UpdateStatus();
 }
 
@@ -486,9 +487,7 @@ void MainWindow::ShowContextMenu(const QPoint& pos) {
     }
     menu.addSeparator();
   }
-  menu.addAction(undo_);
-  menu.addAction(redo_);
-  menu.addSeparator();
-  menu.addAction(delete_);
+  form_->AddTo(menu, {ActionGroup::Undo, ActionGroup::Clipboard, ActionGroup::Align, ActionGroup::Size,
+                      ActionGroup::Spacing, ActionGroup::Order});
   menu.exec(pos);
 }

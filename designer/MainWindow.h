@@ -6,6 +6,7 @@
 #include "ide/PackageManager.h"
 
 class DiskChanges;
+class FormActions;
 class FormSurface;
 class InspectorPane;
 class PalettePane;
@@ -13,6 +14,7 @@ class QLabel;
 class QListWidget;
 class QShortcut;
 class StructurePane;
+struct ActionRow;
 
 class MainWindow : public QMainWindow {
   Q_OBJECT
@@ -44,6 +46,7 @@ class MainWindow : public QMainWindow {
  private:
   bool CommitTyping();
   void PlaceOne(const TClass& cls);
+  void Run(const ActionRow& row);
   void ShowTool();
   void BuildActions();
   void BuildPanes();
@@ -72,9 +75,7 @@ class MainWindow : public QMainWindow {
   QLabel* modifiedLabel_ = nullptr;
   QShortcut* putDown_ = nullptr;
   QAction* save_ = nullptr;
-  QAction* undo_ = nullptr;
-  QAction* redo_ = nullptr;
-  QAction* delete_ = nullptr;
+  FormActions* form_ = nullptr;
 };
 
 // Shows what a handler threw; the process goes on.

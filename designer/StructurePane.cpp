@@ -58,6 +58,8 @@ void StructurePane::SetSession(FormSession* session) {
   if (session) connect(session, &FormSession::SelectionChanged, this, &StructurePane::ShowSelection);
 }
 
+QWidget& StructurePane::Tree() const { return *tree_; }
+
 TComponent* StructurePane::ComponentAt(const QModelIndex& row) const {
   return model_.ComponentAt(filtered_->mapToSource(row));
 }

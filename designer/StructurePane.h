@@ -14,6 +14,7 @@ class StructurePane : public QWidget {
  public:
   explicit StructurePane(QWidget* parent = nullptr);
   void SetSession(FormSession* session);
+  QWidget& Tree() const;
   QTreeView& Tree() { return *tree_; }
 
  private:

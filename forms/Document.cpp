@@ -53,6 +53,12 @@ int Object::IndexInParent() const {
   return -1;
 }
 
+int Object::Levels() const {
+  int below = 0;
+  for (const auto& child : children) below = std::max(below, child->Levels());
+  return below + 1;
+}
+
 Object& Object::AddChild(QByteArray childClass, QByteArray childName) {
   auto child = std::make_unique<Object>();
   child->className = std::move(childClass);
@@ -134,8 +140,23 @@ Document Document::Parse(QByteArray bytes, const Dialect& hint) {
   return doc;
 }
 
-Document Document::Create(QByteArray rootClass, QByteArray rootName) {
+Document Document::ParseObjects(QByteArray text) {
+  if (text.size() > MaxFileSize)
+    throw EFormError(QStringLiteral("The text is larger than %1 MB").arg(MaxFileSize >> 20), {});
   Document doc;
+  doc.source_ = std::move(text);
+  TextReader reader(doc.source_);
+  try {
+    reader.ReadObjects(doc);
+  } catch (const std::bad_alloc&) {
+    ThrowOutOfMemory(LocationOf(doc.source_, reader.Offset()));
+  }
+  return doc;
+}
+
+Document Document::Create(QByteArray rootClass, QByteArray rootName, const Dialect& style) {
+  Document doc;
+  doc.dialect_ = style;
   doc.root_ = std::make_unique<Object>();
   doc.root_->className = std::move(rootClass);
   doc.root_->name = std::move(rootName);
@@ -388,6 +409,19 @@ QByteArray Document::WriteAs(Format format) const {
   return ResourceHeader(root_->className, static_cast<std::size_t>(stream.size())) + stream;
 }
 
+// Strings that mean something only with this document's code page, or that the other one writes in another
+// way.
+void Document::CarryStrings(Value& v, const Document& target) const {
+  const auto high = [](QChar c) { return c.unicode() > 127; };
+  const bool bytes = v.type == ValueType::String || v.type == ValueType::LString;
+  if (bytes || v.type == ValueType::WString)
+    if (const QString text = Decode(v); std::any_of(text.begin(), text.end(), high))
+      v = target.MakeText(text);
+  for (Value& item : v.items) CarryStrings(item, target);
+  for (CollectionItem& item : v.collection)
+    for (NamedValue& p : item.properties) CarryStrings(p.value, target);
+}
+
 std::unique_ptr<Object> Document::Detached(const Object& object, Document& target) const {
   const auto owned = [](const QByteArray& b) { return QByteArray(b.constData(), b.size()); };
   auto copy = std::make_unique<Object>();
@@ -398,6 +432,7 @@ std::unique_ptr<Object> Document::Detached(const Object& object, Document& targe
   for (const Property& p : object.properties) {
     Value value = Read(p);
     value.Own();
+    if (this != &target) CarryStrings(value, target);
     copy->properties.push_back(target.MakeProperty(p.Name(), std::move(value)));
   }
   for (const auto& child : object.children) {

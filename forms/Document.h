@@ -107,6 +107,8 @@ class Object {
   Property* Find(QByteArrayView path);
   const Property* Find(QByteArrayView path) const;
   int IndexInParent() const;
+  // Of nested objects, this one included.
+  int Levels() const;
   // A new last child.
   Object& AddChild(QByteArray childClass, QByteArray childName);
   std::unique_ptr<Object> Take(int childIndex);
@@ -133,8 +135,11 @@ class Document {
   // Errors: EFormError with the place.
   static Document Parse(QByteArray bytes, const Dialect& dialectHint = {});
   static Format Detect(QByteArrayView bytes);
-  // A new document with one root object.
-  static Document Create(QByteArray rootClass, QByteArray rootName);
+  // Form text of any number of objects, one behind the other, as a clipboard carries it: they are the
+  // children of a nameless root. Errors: EFormError with the place; no object at all is one.
+  static Document ParseObjects(QByteArray text);
+  // A new document with one root object; written in the style, if one is given.
+  static Document Create(QByteArray rootClass, QByteArray rootName, const Dialect& style = {});
 
   Format SourceFormat() const { return format_; }
   Object& Root() { return *root_; }
@@ -173,10 +178,12 @@ class Document {
   // The text of one object, as the clipboard carries it.
   QByteArray ObjectText(const Object& object) const;
 
-  // Severs an object from the source, so that it can stand at another depth or in another document.
+  // Severs an object from the source, so that it can stand at another depth or in another document. Texts
+  // keep their meaning there.
   std::unique_ptr<Object> Detached(const Object& object, Document& target) const;
 
  private:
+  void CarryStrings(Value& value, const Document& target) const;
   void WriteTextObject(class TextWriter& out, const Object& object, int level) const;
   void WriteBinaryObject(class BinaryWriter& out, const Object& object, bool copy) const;
   void DescribeCodePage();

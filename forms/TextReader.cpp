@@ -174,7 +174,25 @@ void TextReader::ReadDocument(Document& doc) {
   SkipBlanks();
   doc.root_ = ReadObject(doc, rootBegin, 0);
   doc.trailer_ = {static_cast<std::uint32_t>(Offset()), static_cast<std::uint32_t>(end_ - begin_)};
+  TakeStyle(doc);
+}
 
+void TextReader::ReadObjects(Document& doc) {
+  if (QByteArrayView(p_, end_).startsWith("\xEF\xBB\xBF")) p_ += 3;
+  doc.root_ = std::make_unique<Object>();
+  do {
+    const std::size_t nodeBegin = Offset();
+    SkipBlanks();
+    auto child = ReadObject(doc, nodeBegin, 1);
+    child->parent = doc.root_.get();
+    doc.root_->children.push_back(std::move(child));
+    SkipBlanks();
+  } while (p_ != end_);
+  TakeStyle(doc);
+}
+
+// How the text writes what can be written in several ways.
+void TextReader::TakeStyle(Document& doc) const {
   doc.template_ = directives_;
   Dialect& d = doc.dialect_;
   const char* firstEnd =

@@ -11,6 +11,8 @@ class TextReader {
 
   // Reads the root object into `document`, whose source is this reader's text.
   void ReadDocument(Document& document);
+  // Reads objects up to the end, as children of a root that is not in the text.
+  void ReadObjects(Document& document);
   // Reads one value at the current place; with null it is only checked.
   void ReadValue(Value* out, int depth = 0);
   void SkipBlanks() {
@@ -25,6 +27,7 @@ class TextReader {
  private:
   using Scratch = std::vector<Property>;
 
+  void TakeStyle(Document& document) const;
   std::unique_ptr<Object> ReadObject(Document& document, std::size_t nodeBegin, int depth);
   void ReadProperties(Document& document, Object& object);
   void ReadNumber(Value* out);

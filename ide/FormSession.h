@@ -80,6 +80,14 @@ class FormSession : public QObject, public IDesigner, public IControlHost {
 
   // A component on the form, as one command; its name is made unique.
   TComponent* CreateComponent(const TClass& cls, TComponent* parent, const QRect& bounds) override;
+  // Puts objects of another document, with everything inside them, into objects of this one and makes their
+  // components, as one command; all or none. Names are taken as they are. What the command does to the new
+  // components afterwards is written into their objects.
+  struct Insertion {
+    const forms::Object* object;
+    forms::Object* parent;
+  };
+  std::vector<TComponent*> Insert(const forms::Document& from, const std::vector<Insertion>& insertions);
   // Deletes components and everything inside them. The form itself and inherited components are refused.
   void DeleteComponents(const std::vector<TComponent*>& components);
   void Rename(TComponent& component, const QString& name);
@@ -158,6 +166,10 @@ class FormSession : public QObject, public IDesigner, public IControlHost {
   void RemoveObject(forms::Object& object);
   void RemoveWithChildren(TComponent& component);
   void InsertObject(StructureChange& change);
+  TComponent* MakeComponents(const StructureChange& change);
+  void RequireRoomFor(const std::vector<Insertion>& insertions,
+                      std::vector<std::unique_ptr<forms::Object>>& objects, qsizetype data);
+  void TakeIntoLayout(TComponent& component);
   void MoveObject(StructureChange& change, bool redo);
   void TakeObject(StructureChange& change);
   void Announce(const FormChange& change);
@@ -165,7 +177,7 @@ class FormSession : public QObject, public IDesigner, public IControlHost {
   forms::FormReader MakeReader(forms::Document& document, forms::ObjectMap& map) const;
   std::vector<TComponent*> ComponentsOf(const std::vector<forms::Object*>& objects) const;
   std::vector<forms::Object*> SelectedObjects() const;
-  int NewChildIndex(const forms::Object& parent, const TComponent& component) const;
+  int NewChildIndex(const forms::Object& parent, bool control) const;
   int PlaceAmong(const forms::Object& parent, int index) const;
 
   DesignRegistry& registry_;

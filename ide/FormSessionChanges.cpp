@@ -123,19 +123,30 @@ void FormSession::TakeArrivals() {
 }
 
 void FormSession::TakePlaces() {
-  for (TControl* control : std::exchange(pending_->placed, {})) {
+  std::vector<TControl*> placed = std::exchange(pending_->placed, {});
+  if (placed.empty()) return;
+  const QSet<const TControl*> moving(placed.begin(), placed.end());
+  std::erase_if(placed, [&](const TControl* c) {
+    const forms::Object* object = map_.ObjectOf(*c);
+    return !object || pending_->created.contains(object) || !c->Parent() || !map_.ObjectOf(*c->Parent());
+  });
+  // From back to front, so that each finds its predecessor in place.
+  QHash<const TControl*, int> ranks;
+  for (const TControl* c : placed) ranks.insert(c, c->Parent()->ControlIndex(c));
+  std::stable_sort(placed.begin(), placed.end(),
+                   [&](const TControl* a, const TControl* b) { return ranks.value(a) < ranks.value(b); });
+  for (TControl* control : placed) {
     forms::Object* object = map_.ObjectOf(*control);
-    if (!object || pending_->created.contains(object) || !control->Parent()) continue;
     forms::Object* parent = map_.ObjectOf(*control->Parent());
-    if (!parent) continue;
-    // Behind the sibling it now follows.
+    // Behind the sibling it now follows, before the next that stands still.
     const auto& siblings = control->Parent()->Controls();
-    const int rank = control->Parent()->ControlIndex(control);
+    const int rank = ranks.value(control);
     const forms::Object* previous =
         rank > 0 ? map_.ObjectOf(*siblings[static_cast<std::size_t>(rank - 1)]) : nullptr;
-    const forms::Object* next = rank + 1 < static_cast<int>(siblings.size())
-                                    ? map_.ObjectOf(*siblings[static_cast<std::size_t>(rank + 1)])
-                                    : nullptr;
+    const auto still = std::find_if(siblings.begin() + rank + 1, siblings.end(), [&](const TControl* c) {
+      return !moving.contains(c) && map_.ObjectOf(*c);
+    });
+    const forms::Object* next = still == siblings.end() ? nullptr : map_.ObjectOf(**still);
     const int at = object->IndexInParent();
     if (parent == object->parent && (!previous || previous->IndexInParent() < at) &&
         (!next || next->IndexInParent() > at))
@@ -149,7 +160,7 @@ void FormSession::TakePlaces() {
     s.newParent = parent;
     s.newIndex = previous ? previous->IndexInParent() + 1
                  : next   ? next->IndexInParent()
-                          : NewChildIndex(*parent, *control);
+                          : NewChildIndex(*parent, true);
     parent->Insert(s.newIndex, std::move(node));
     pending_->structure.push_back(std::move(s));
   }
@@ -223,6 +234,8 @@ std::unique_ptr<Command> FormSession::TakeDifferences() {
       }
     }
     forms::PatchObject(*c.object, document_, after, change.values);
+    // It comes and goes with its object.
+    if (pending_->inserted.contains(c.object)) continue;
     if (!change.values.empty() || change.nameBefore != change.nameAfter)
       command->components.push_back(std::move(change));
   }

@@ -245,16 +245,20 @@ void FormSession::ApplyStructure(StructureChange& s, bool redo) {
 }
 
 void FormSession::InsertObject(StructureChange& s) {
-  forms::Object& object = *s.held;
   s.parent->Insert(s.index, std::move(s.held));
+  MakeComponents(s);
+}
+
+// Of an object that stands in the document already.
+TComponent* FormSession::MakeComponents(const StructureChange& s) {
   forms::FormReader reader = MakeReader(document_, map_);
-  TComponent* parent = map_.ComponentOf(*s.parent);
-  if (TComponent* c = reader.ReadChild(object, *root_, *parent)) {
-    // Back to its place among the siblings.
-    if (auto* control = As<TControl>(c); control && control->Parent())
-      control->Parent()->SetControlIndex(control, PlaceAmong(*s.parent, s.index));
-    NotifyDesign([&](IDesignNotification& n) { n.ItemInserted(this, c); });
-  }
+  TComponent* c = reader.ReadChild(*s.object, *root_, *map_.ComponentOf(*s.parent));
+  if (!c) return nullptr;
+  // Back to its place among the siblings.
+  if (auto* control = As<TControl>(c); control && control->Parent())
+    control->Parent()->SetControlIndex(control, PlaceAmong(*s.parent, s.index));
+  NotifyDesign([&](IDesignNotification& n) { n.ItemInserted(this, c); });
+  return c;
 }
 
 // How many controls stand before the child.

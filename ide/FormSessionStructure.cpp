@@ -13,9 +13,9 @@ void CollectComponents(TComponent& component, std::vector<TComponent*>& out) {
 }  // namespace
 
 // Controls stand before the components that are none, as in every form file.
-int FormSession::NewChildIndex(const forms::Object& parent, const TComponent& component) const {
+int FormSession::NewChildIndex(const forms::Object& parent, bool control) const {
   int index = static_cast<int>(parent.children.size());
-  if (!As<TControl>(&component)) return index;
+  if (!control) return index;
   while (index > 0) {
     const TComponent* c = map_.ComponentOf(*parent.children[static_cast<std::size_t>(index - 1)]);
     if (!c || As<TControl>(c)) break;
@@ -31,7 +31,7 @@ void FormSession::Enter(TComponent& component, forms::Object& parent) {
   StructureChange s;
   s.object = object.get();
   s.parent = &parent;
-  s.index = NewChildIndex(parent, component);
+  s.index = NewChildIndex(parent, As<TControl>(&component));
   parent.Insert(s.index, std::move(object));
   pending_->created.insert(s.object);
   map_.Add(component, *s.object);

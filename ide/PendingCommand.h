@@ -37,6 +37,7 @@ struct FormSession::Pending {
   std::vector<TControl*> placed;      // came to another parent or place in the order
   std::vector<StructureChange> structure;
   QSet<const forms::Object*> created;
+  QSet<const forms::Object*> inserted;  // came with their text, which is only patched
   std::vector<forms::Object*> selectionBefore;
   bool announced = false;  // a component told of a change
   bool modified = false;   // an editor said that it changed something

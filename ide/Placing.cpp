@@ -1,13 +1,13 @@
 #include "ide/Placing.h"
 
+#include "ide/operations/Places.h"
+
 namespace {
 constexpr QSize IconRoom(64, 48);  // an icon with its name under it
 
 TWinControl& ContainerOf(const FormSession& session) {
   const auto selected = session.SelectedComponents();
-  TControl* at = selected.size() == 1 ? As<TControl>(selected[0]) : nullptr;
-  while (at && !(As<TWinControl>(at) && at->AcceptsControls() && session.ObjectOf(*at))) at = at->Parent();
-  return at ? *As<TWinControl>(at) : session.Form();
+  return selected.size() == 1 ? ContainerAround(session, *selected[0]) : session.Form();
 }
 
 // From the middle of `area` down the diagonal, and on from the other side at an edge.

@@ -29,6 +29,12 @@ const TClass& TUnknownComponent::StaticClass() {
 
 TUnknownControl::TUnknownControl(TComponent* owner) : TWinControl(owner) {}
 
+bool TUnknownControl::AcceptsControls() const {
+  using enum TStandInLook;
+  const bool container = standIn_.look == Panel || standIn_.look == Group || standIn_.look == Page;
+  return container || (!Controls().empty() && Pages().empty());
+}
+
 std::vector<TUnknownControl*> TUnknownControl::Pages() const {
   std::vector<TUnknownControl*> pages;
   for (TControl* c : Controls())

@@ -27,6 +27,9 @@ class TUnknownControl : public TWinControl {
   const TStandIn& StandIn() const { return standIn_; }
   void SetStandIn(TStandIn standIn) { standIn_ = std::move(standIn); }
 
+  // What looks like a container holds controls, and what holds some in the file.
+  bool AcceptsControls() const override;
+
   // The children that are pages, in order, and the one in front; null when there is none.
   std::vector<TUnknownControl*> Pages() const;
   TUnknownControl* FrontPage() const;

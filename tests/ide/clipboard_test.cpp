@@ -1,0 +1,288 @@
+// Cut, copy, paste and duplicate.
+#include "tests/ide/OperationTest.h"
+
+using namespace ide;
+
+TEST_F(OperationTest, ACopyIsFormText) {
+  Run("copy", {"Label1"});
+  EXPECT_EQ(
+      clipboard_.text.toStdString(),
+      "object Label1: TLabel\n  Left = 240\n  Top = 16\n  Width = 60\n  Height = 15\n  AutoSize = False\n"
+      "  Caption = 'Go'\n  FocusControl = Button1\n  Font.Charset = DEFAULT_CHARSET\n"
+      "  Font.Color = clRed\n  Font.Height = -12\n  Font.Name = 'Tahoma'\n  Font.Style = [fsBold]\n"
+      "  ParentFont = False\nend\n");
+  EXPECT_FALSE(session_->CanUndo());
+  EXPECT_EQ(session_->Bytes(), Sample);
+}
+
+TEST_F(OperationTest, ACopyOfSeveralIsInTheOrderOfTheFileAndHoldsEachOnce) {
+  Run("copy", {"Timer1", "Inner", "Button1", "Panel1"});
+  const QStringList lines =
+      clipboard_.text.split(u'\n').filter(QRegularExpression(QStringLiteral("^ *object")));
+  EXPECT_EQ(lines.join(u'|').toStdString(),
+            "object Panel1: TPanel|  object Inner: TButton|  object InnerLabel: TLabel|object Button1: "
+            "TButton|object Timer1: TTimer");
+}
+
+TEST_F(OperationTest, APasteHasFreeNamesAndItsReferencesFollow) {
+  Run("copy", {"Label1", "Button1", "Mystery"});
+  Run("paste", {"Main"});
+  EXPECT_EQ(Selected(), "Label2+Button2+Mystery1");
+  EXPECT_EQ(As<TLabel>("Label2").FocusControl(), &Get("Button2"));
+  EXPECT_EQ(PropertyOf("Label2", "FocusControl"), "Button2");
+  EXPECT_EQ(PropertyOf("Mystery1", "Link"), "Button2");  // of a class that nobody knows
+  EXPECT_EQ(As<TLabel>("Label1").FocusControl(), &Get("Button1"));
+  EXPECT_TRUE(session_->GetComponent(QStringLiteral("Secret1")));
+  EXPECT_EQ(session_->UndoText(), QStringLiteral("Paste 3 components"));
+  ExpectOneCommand();
+}
+
+TEST_F(OperationTest, AReferenceToWhatIsNotPastedKeepsItsTarget) {
+  Run("copy", {"Label1"});
+  Run("paste", {"Main"});
+  EXPECT_EQ(As<TLabel>("Label2").FocusControl(), &Get("Button1"));
+  EXPECT_EQ(session_->UndoText(), QStringLiteral("Paste Label2"));
+  ExpectOneCommand();
+}
+
+TEST_F(OperationTest, APasteStepsAsideOfWhatItWouldCover) {
+  Run("copy", {"Label1", "Button1", "Timer1"});
+  Run("paste", {"Main"});
+  EXPECT_EQ(Bounds("Label2"), QRect(248, 24, 60, 15));
+  EXPECT_EQ(Bounds("Button2"), QRect(248, 48, 75, 25));
+  EXPECT_EQ(Bounds("Timer2").topLeft(), QPoint(328, 208));
+  session_->Select({});
+  Run("paste");
+  EXPECT_EQ(Bounds("Button3"), QRect(256, 56, 75, 25));
+  EXPECT_EQ(Bounds("Timer3").topLeft(), QPoint(336, 216));
+}
+
+TEST_F(OperationTest, WhereNothingIsCoveredAPasteKeepsItsPlace) {
+  Run("copy", {"Button1"});
+  const QString text = clipboard_.text;
+  session_->DeleteComponents({&Get("Button1")});
+  Run("paste", {"Main"});
+  EXPECT_EQ(Selected(), "Button1");  // the name is free again
+  EXPECT_EQ(Bounds("Button1"), QRect(240, 40, 75, 25));
+}
+
+TEST_F(OperationTest, APasteGoesIntoTheSelectedContainerElseBesideTheSelected) {
+  Run("copy", {"Led"});
+  Run("paste", {"Panel1"});
+  EXPECT_EQ(As<TControl>("Led1").Parent(), &Get("Panel1"));
+  Run("paste", {"InnerLabel"});
+  EXPECT_EQ(As<TControl>("Led2").Parent(), &Get("Panel1"));
+  Run("paste", {"Label1"});
+  EXPECT_EQ(As<TControl>("Led3").Parent(), &session_->Form());
+  Run("paste", {"Timer1"});
+  EXPECT_EQ(As<TControl>("Led4").Parent(), &session_->Form());
+}
+
+TEST_F(OperationTest, WhatIsNoControlStandsOnTheFormWhateverIsSelected) {
+  Run("copy", {"Timer1"});
+  Run("paste", {"Inner"});
+  EXPECT_EQ(session_->ObjectOf(Get("Timer2"))->parent, &session_->Document().Root());
+  ExpectOneCommand();
+}
+
+TEST_F(OperationTest, WhatWouldBeOutOfSightComesIntoSight) {
+  Run("copy", {"Led"});  // at 240, 80; the panel is 200 wide
+  Run("paste", {"Panel1"});
+  EXPECT_EQ(Bounds("Led1"), QRect(8, 8, 120, 40));
+  ExpectOneCommand();
+}
+
+TEST_F(OperationTest, ControlsAreWrittenBeforeWhatIsNone) {
+  Run("copy", {"Button1", "Timer1", "Label1"});
+  Run("paste", {"Main"});
+  QByteArrayList names;
+  for (const auto& child : session_->Document().Root().children) names << child->name;
+  EXPECT_EQ(names.join(' '), "Panel1 Label1 Button1 Led Mystery Label2 Button2 Timer1 Timer2");
+}
+
+TEST_F(OperationTest, PastedControlsComeLastInTheTabOrder) {
+  clipboard_.text = QStringLiteral(
+      "object B: TButton TabOrder = 7 end object A: TButton TabOrder = 3 end object L: TLabel end");
+  Run("paste", {"Main"});
+  EXPECT_EQ(PropertyOf("A", "TabOrder"), "2");
+  EXPECT_EQ(PropertyOf("B", "TabOrder"), "3");
+  EXPECT_EQ(PropertyOf("L", "TabOrder"), "-");
+  ExpectOneCommand();
+}
+
+TEST_F(OperationTest, TextFromAnEditorIsPastedAsItIs) {
+  clipboard_.text = QStringLiteral(
+      "\r\n   OBJECT Fancy : TButton\r\n Caption = 'gr\u00FC\u00DF'#33 Left = $21\r\n Top=7 Width = 90\r\n"
+      " Height = 31 Foreign.Thing = <item end item A = 'x' end>\r\n OnClick = GoNow end\r\n\r\n");
+  Run("paste", {"Main"});
+  EXPECT_EQ(Selected(), "Fancy");
+  EXPECT_EQ(As<TButton>("Fancy").Caption(), QStringLiteral("gr\u00FC\u00DF!"));
+  EXPECT_EQ(Bounds("Fancy"), QRect(33, 7, 90, 31));
+  EXPECT_EQ(Changes(),
+            "+object Fancy: TButton|+Caption = 'gr'#252#223'!'|+Left = 33|+Top = 7|+Width = 90|+Height = 31|"
+            "+Foreign.Thing = <|+item|+end|+item|+A = 'x'|+end>|+OnClick = GoNow|+end");
+  ExpectOneCommand();
+}
+
+TEST_F(OperationTest, NamelessObjectsGetNames) {
+  clipboard_.text = QStringLiteral("object TButton end object TButton end object TNobodys Width = 9 end");
+  Run("paste", {"Main"});
+  EXPECT_EQ(Selected(), "Button2+Button3+Nobodys1");
+  ExpectOneCommand();
+}
+
+TEST_F(OperationTest, NamesTwiceInOneTextAreToldApart) {
+  clipboard_.text = QStringLiteral(
+      "object P: TPanel object E: TButton end object L: TLabel FocusControl = E end end "
+      "object P: TPanel object E: TButton end object L: TLabel FocusControl = e end end");
+  Run("paste", {"Main"});
+  EXPECT_EQ(Selected(), "P+P1");
+  EXPECT_EQ(As<TLabel>("L").FocusControl(), &Get("E"));
+  EXPECT_EQ(As<TLabel>("L1").FocusControl(), &Get("E1"));
+  ExpectOneCommand();
+}
+
+TEST_F(OperationTest, ValuesThatOnlyLookLikeNamesAreNoReferences) {
+  clipboard_.text = QStringLiteral(
+      "object clRed: TButton end object Button1: TLabel Color = clRed Font.Color = clRed OnClick = Button1 "
+      "FocusControl = clRed Caption = 'clRed' end");
+  session_->Rename(Get("Led"), QStringLiteral("clRed"));
+  first_ = session_->Bytes();
+  Run("paste", {"Main"});
+  EXPECT_EQ(Selected(), "clRed1+Button2");
+  EXPECT_EQ(PropertyOf("Button2", "Color"), "clRed");
+  EXPECT_EQ(PropertyOf("Button2", "Font.Color"), "clRed");
+  EXPECT_EQ(PropertyOf("Button2", "OnClick"), "Button1");
+  EXPECT_EQ(PropertyOf("Button2", "FocusControl"), "clRed1");
+}
+
+TEST_F(OperationTest, WhatIsNoFormTextIsRefusedWithItsPlace) {
+  const std::pair<const char*, const char*> rows[] = {
+      {"Hello world", "Line 1, column 1"},
+      {"object A: TButton\n  Left = 8\n  Top == 9\nend", "Line 3, column 8"},
+      {"object A: TButton\nend\n\nbutton", "Line 4, column 1"},
+      {"object A: TButton\n  Left = 8\n", "Line 3"},
+      {"object A: TPanel\n  inherited B: TButton\n  end\nend", "Line 2, column 3"},
+  };
+  for (const auto& [text, place] : rows) {
+    clipboard_.text = QString::fromLatin1(text);
+    const std::string reason = Refusal("paste", {"Panel1"});
+    EXPECT_TRUE(QString::fromStdString(reason).contains(QLatin1StringView(place), Qt::CaseInsensitive))
+        << reason;
+    EXPECT_NE(reason.find("no form text"), std::string::npos) << reason;
+  }
+  clipboard_.text = QStringLiteral(" \n");
+  EXPECT_NE(Refusal("paste", {"Main"}).find("no text on the clipboard"), std::string::npos);
+}
+
+TEST_F(OperationTest, CutTakesAwayAndPasteBringsBackUnderTheSameNames) {
+  Run("cut", {"Label1", "Button1"});
+  EXPECT_FALSE(session_->GetComponent(QStringLiteral("Button1")));
+  EXPECT_EQ(session_->UndoText(), QStringLiteral("Cut 2 components"));
+  ExpectOneCommand();
+  Run("paste", {"Panel1"});
+  EXPECT_EQ(Selected(), "Label1+Button1");
+  EXPECT_EQ(As<TLabel>("Label1").FocusControl(), &Get("Button1"));
+  EXPECT_EQ(As<TControl>("Button1").Parent(), &Get("Panel1"));
+}
+
+TEST_F(OperationTest, ADuplicateStandsBesideItsOriginalInTheSameContainer) {
+  clipboard_.text = QStringLiteral("mine");
+  Run("duplicate", {"Inner", "InnerLabel", "Led", "Timer1"});
+  EXPECT_EQ(Selected(), "Inner1+InnerLabel1+Led1+Timer2");
+  EXPECT_EQ(As<TControl>("Inner1").Parent(), &Get("Panel1"));
+  EXPECT_EQ(As<TLabel>("InnerLabel1").FocusControl(), &Get("Inner1"));
+  EXPECT_EQ(Bounds("Inner1"), QRect(16, 48, 75, 25));
+  EXPECT_EQ(Bounds("Led1"), QRect(248, 88, 120, 40));
+  EXPECT_EQ(As<TVRXLEDLabel>("Led1").LED()->ActiveColor(), clAqua);
+  EXPECT_EQ(clipboard_.text, QStringLiteral("mine"));
+  ExpectOneCommand();
+}
+
+TEST_F(OperationTest, AnAlignedCopyTakesItsStripAndTheOthersMakeRoom) {
+  Open(
+      "object F: TF\n  ClientHeight = 200\n  ClientWidth = 300\n  object Bar: TPanel\n    Left = 0\n    Top "
+      "= 0\n"
+      "    Width = 300\n    Height = 30\n    Align = alTop\n  end\n  object Rest: TPanel\n    Left = 0\n"
+      "    Top = 30\n    Width = 300\n    Height = 170\n    Align = alClient\n  end\nend\n");
+  Run("duplicate", {"Bar"});
+  EXPECT_EQ(Bounds("Bar1").size(), QSize(300, 30));
+  EXPECT_EQ(Bounds("Rest"), QRect(0, 60, 300, 140));
+  ExpectOneCommand();
+}
+
+TEST_F(OperationTest, TextsOfAnOldCodePageKeepTheirMeaningElsewhere) {
+  Open(
+      "object F: TF\n  ClientHeight = 200\n  ClientWidth = 300\n  Font.Charset = RUSSIAN_CHARSET\n"
+      "  object A: TButton\n    Left = 3\n    Caption = '\xCF\xF0'\n  end\nend\n");
+  ASSERT_EQ(As<TButton>("A").Caption(), QStringLiteral("\u041F\u0440"));
+  Run("copy", {"A"});
+  Open(Sample);
+  Run("paste", {"Main"});
+  EXPECT_EQ(As<TButton>("A").Caption(), QStringLiteral("\u041F\u0440"));
+  ExpectOneCommand();
+}
+
+TEST_F(OperationTest, BinaryFormsGiveAndTakeFormText) {
+  const QByteArray binary = forms::Document::Parse(Sample).WriteAs(forms::Format::Binary);
+  Open(binary);
+  Run("copy", {"Panel1"});
+  EXPECT_TRUE(clipboard_.text.startsWith(QStringLiteral("object Panel1: TPanel\n  Left = 8\n")));
+  Run("paste", {"Main"});
+  EXPECT_EQ(Selected(), "Panel2");
+  EXPECT_EQ(As<TLabel>("InnerLabel1").FocusControl(), &Get("Inner1"));
+  ExpectOneCommand();
+}
+
+TEST_F(OperationTest, ControlsStayOffADataModule) {
+  Open(
+      "object Data: TData\n  OldCreateOrder = True\n  Height = 150\n  Width = 215\n  object T: TTimer\n"
+      "    Left = 24\n    Top = 16\n  end\nend\n");
+  clipboard_.text = QStringLiteral("object B: TButton\nend");
+  EXPECT_NE(Refusal("paste", {"Data"}).find("data module"), std::string::npos);
+  Run("duplicate", {"T"});
+  EXPECT_EQ(Bounds("T1").topLeft(), QPoint(32, 24));
+  ExpectOneCommand();
+}
+
+TEST_F(OperationTest, WhatComesFromAnAncestorIsNeitherCopiedNorCutNorDuplicated) {
+  Open(
+      "inherited F: TF\n  Caption = 'x'\n  inherited Base: TButton [0]\n    Left = 9\n  end\n"
+      "  object Own: TButton [1]\n    Left = 90\n    Top = 4\n  end\nend\n");
+  for (const char* id : {"copy", "cut", "duplicate", "delete", "bringToFront", "sendToBack"})
+    EXPECT_NE(Refusal(id, {"Own", "Base"}).find("Base comes from the ancestor form"), std::string::npos)
+        << id;
+  EXPECT_EQ(clipboard_.text, QString());
+  Run("duplicate", {"Own"});
+  EXPECT_FALSE(session_->ObjectOf(Get("Own1"))->position);
+}
+
+TEST_F(OperationTest, AFrameIsCopiedWholeItsPartsAreNot) {
+  Open(
+      "object F: TF\n  ClientHeight = 200\n  ClientWidth = 300\n  inline Fr: TFr\n    Left = 9\n    Width = "
+      "80\n"
+      "    Height = 70\n    inherited Part: TButton\n      Caption = 'in'\n    end\n    inherited Lab: "
+      "TLabel\n"
+      "      FocusControl = Part\n    end\n  end\n  object Part: TButton\n    Left = 120\n  end\n  object "
+      "Lab: TLabel\n    "
+      "FocusControl = Fr.Part\n  end\nend\n");
+  Run("duplicate", {"Fr", "Part", "Lab"});
+  EXPECT_EQ(Selected(), "Fr1+Part1+Lab1");
+  EXPECT_EQ(PropertyOf("Lab1", "FocusControl"), "Fr1.Part");
+  EXPECT_TRUE(session_->Bytes().contains("inline Fr1: TFr"));
+  const TComponent* inner = Get("Fr1").FindComponent(QStringLiteral("Lab"));
+  ASSERT_TRUE(inner);
+  EXPECT_EQ(dynamic_cast<const TLabel*>(inner)->FocusControl(),
+            Get("Fr1").FindComponent(QStringLiteral("Part")));
+  ExpectOneCommand();
+  session_->Select({Get("Fr").FindComponent(QStringLiteral("Part"))});
+  EXPECT_NE(Refusal("copy").find("belongs to the frame Fr"), std::string::npos);
+}
+
+TEST_F(OperationTest, APasteThatNestsTooDeepIsTakenBack) {
+  QByteArray deep;
+  for (int i = 0; i < forms::MaxDepth - 1; ++i) deep += "object TPanel\n";
+  for (int i = 0; i < forms::MaxDepth - 1; ++i) deep += "end\n";
+  clipboard_.text = QString::fromUtf8(deep);
+  EXPECT_NE(Refusal("paste", {"Panel1"}).find("deep"), std::string::npos);
+}
