@@ -80,7 +80,7 @@ void FormSession::RequireRoomFor(const std::vector<Insertion>& insertions,
   constexpr qsizetype Large = qsizetype{1} << 20;
   putIn();
   try {
-    RequirePictureBudget(document_);
+    RequirePictureBudget(document_, true);
     if (data > Large) RequireReadable(Bytes().size());
   } catch (...) {
     takeOut();
