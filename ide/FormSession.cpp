@@ -85,6 +85,7 @@ void FormSession::Build() {
   auto root = reader.ReadRoot();
   root_.reset(static_cast<TForm*>(root.release()));
   findings_ = reader.Findings();
+  NoteDangling(findings_);
   root_->SetHost(this);
   if (selection_.empty()) selection_ = {root_.get()};
 }

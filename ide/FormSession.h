@@ -161,6 +161,8 @@ class FormSession : public QObject, public IDesigner, public IControlHost {
   void Apply(Command& command, bool redo);
   void ApplyStructure(StructureChange& change, bool redo);
   void Settle(forms::Object& object);
+  void NoteDangling(const std::vector<forms::Finding>& findings);
+  void Reconnect();
   void ApplyValues(ComponentChange& change, bool redo);
   void SetObjectName(forms::Object& object, const QString& name);
   void RemoveObject(forms::Object& object);
@@ -195,4 +197,5 @@ class FormSession : public QObject, public IDesigner, public IControlHost {
   bool applying_ = false;     // an undo, a redo or a rollback is under way
   bool structuring_ = false;  // the session itself makes or frees components
   bool rebuildWanted_ = false;
+  bool dangling_ = false;  // a reference in the file names something that was not there
 };

@@ -85,6 +85,7 @@ void FormSession::Commit(const QString& text) {
   // Somebody says that something changed, and nobody told of it before.
   if (pending_->modified && !pending_->announced) CaptureAll();
   auto command = TakeDifferences();
+  if (!command->structure.empty()) Reconnect();
   FormChange shown;
   for (const auto& c : pending_->captured)
     if (map_.ObjectOf(*c.component) == c.object) shown.values.push_back(c.component);
@@ -195,6 +196,7 @@ void FormSession::Apply(Command& command, bool redo) {
   for (ComponentChange& c : command.components) ApplyValues(c, redo);
   for (StructureChange& s : command.structure)
     if (!s.held) Settle(*s.object);
+  if (!command.structure.empty()) Reconnect();
 }
 
 // What came back before everything else was in place: components it refers to may have come later, and its
@@ -253,6 +255,7 @@ void FormSession::InsertObject(StructureChange& s) {
 TComponent* FormSession::MakeComponents(const StructureChange& s) {
   forms::FormReader reader = MakeReader(document_, map_);
   TComponent* c = reader.ReadChild(*s.object, *root_, *map_.ComponentOf(*s.parent));
+  NoteDangling(reader.Findings());
   if (!c) return nullptr;
   // Back to its place among the siblings.
   if (auto* control = As<TControl>(c); control && control->Parent())

@@ -5,6 +5,7 @@
 #include "ide/PictureBudget.h"
 #include "ide/StandIns.h"
 #include "rtl/Exceptions.h"
+#include "rtl/PropAccess.h"
 
 namespace {
 void RequireDepth(const forms::Object& object, const forms::Object& parent) {
@@ -103,4 +104,32 @@ void FormSession::TakeIntoLayout(TComponent& component) {
   control->SetParent(parent);
   const QScopedValueRollback frozen(applying_, true);
   parent->SetControlIndex(control, index);
+}
+
+void FormSession::NoteDangling(const std::vector<forms::Finding>& findings) {
+  dangling_ = dangling_ || std::any_of(findings.begin(), findings.end(), [](const forms::Finding& f) {
+                return f.severity == forms::Severity::Warning;
+              });
+}
+
+// A reference that the file had all the time finds a component that has come with that name, as it would when
+// the file is read again.
+void FormSession::Reconnect() {
+  if (!dangling_) return;
+  const QScopedValueRollback frozen(applying_, true);
+  const std::function<void(const forms::Object&)> walk = [&](const forms::Object& object) {
+    if (TComponent* c = map_.ComponentOf(object))
+      for (const forms::Property& p : object.properties) {
+        const forms::PropertyTarget target = forms::FindTarget(*c, p.Name());
+        if (!target.prop || !IsComponentRef(*target.prop) || GetObjectProp(*target.instance, *target.prop))
+          continue;
+        try {
+          forms::ApplyNow(*root_, target, document_.Read(p), document_);
+        } catch (const Exception&) {
+          // Still nothing there.
+        }
+      }
+    for (const auto& child : object.children) walk(*child);
+  };
+  walk(document_.Root());
 }

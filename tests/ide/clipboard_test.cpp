@@ -156,6 +156,16 @@ TEST_F(OperationTest, ValuesThatOnlyLookLikeNamesAreNoReferences) {
   EXPECT_EQ(PropertyOf("Button2", "FocusControl"), "clRed1");
 }
 
+TEST_F(OperationTest, AReferenceToNothingFindsWhatComesUnderThatName) {
+  Open("object F: TF\n  ClientHeight = 200\n  ClientWidth = 300\n  object L: TLabel\n    Left = 9\n"
+       "    FocusControl = Late\n  end\nend\n");
+  EXPECT_FALSE(As<TLabel>("L").FocusControl());
+  clipboard_.text = QStringLiteral("object Late: TButton Left = 77 end");
+  Run("paste", {"F"});
+  EXPECT_EQ(As<TLabel>("L").FocusControl(), &Get("Late"));
+  ExpectOneCommand();
+}
+
 TEST_F(OperationTest, WhatIsNoFormTextIsRefusedWithItsPlace) {
   const std::pair<const char*, const char*> rows[] = {
       {"Hello world", "Line 1, column 1"},

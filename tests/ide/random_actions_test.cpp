@@ -84,7 +84,7 @@ TEST_P(RandomActions, TheFileSaysWhatIsOnTheFormAndEverythingComesBack) {
     std::string state;
   };
   std::vector<Stage> stages{{session_->Bytes(), state_}};
-  for (int i = 0; i < 160; ++i) {
+  for (int i = 0; i < 240; ++i) {
     const QByteArray before = session_->Bytes();
     Step();
     if (session_->Bytes() == before) continue;
