@@ -187,20 +187,21 @@ TEST_F(Actions, WhatStandsInASelectedContainerGoesAlongOnce) {
 }
 
 TEST_F(Actions, TheContainerThatWouldTakeItIsMarked) {
+  const QPoint edge = FormPoint(180, 16), beside = FormPoint(230, 60), inside = FormPoint(100, 100);
   Press(At("Button1"));
-  MoveTo(FormPoint(230, 60));
+  MoveTo(beside);
   const auto grab = [&] { return Surface().grab().toImage().convertToFormat(QImage::Format_RGB32); };
   const QRgb accent = Surface().palette().color(QPalette::Highlight).rgb();
   const auto marked = [&] {  // along the top edge of the panel
     const QImage picture = grab();
     for (int y = 0; y < 3; ++y)
-      if (picture.pixel(FormPoint(180, 16) + QPoint(0, y)) == accent) return true;
+      if (picture.pixel(edge + QPoint(0, y)) == accent) return true;
     return false;
   };
   EXPECT_FALSE(marked());
-  MoveTo(FormPoint(100, 100));
+  MoveTo(inside);
   EXPECT_TRUE(marked());
-  MoveTo(FormPoint(230, 60));
+  MoveTo(beside);
   EXPECT_FALSE(marked());
   Key(Qt::Key_Escape);
 }
