@@ -73,7 +73,7 @@ TEST_F(DoCli, ARefusalSaysWhyAndWritesNothing) {
   Write("foreign.txt", "object A: TButton\n  Left == 3\nend\n");
   const Result r = Do({L("paste"), L("--clipboard"), board});
   EXPECT_EQ(r.code, 1);
-  EXPECT_TRUE(r.err.contains(L("line 2, column 8"), Qt::CaseInsensitive)) << r.err.toStdString();
+  EXPECT_TRUE(r.err.contains(L("line 2, column 9"), Qt::CaseInsensitive)) << r.err.toStdString();
   EXPECT_EQ(Read(file_), SmallForm);
 }
 
