@@ -8,7 +8,7 @@
 #include "dclstd/ColorDialog.h"
 #include "designintf/CustomColors.h"
 
-ColorComboBox::ColorComboBox(TColorBoxStyles styles, QWidget* parent) : QComboBox(parent), styles_(styles) {
+ColorComboBox::ColorComboBox(QWidget* parent) : QComboBox(parent) {
   setIconSize(QSize(28, 14));
   setMaxVisibleItems(16);
   setSizeAdjustPolicy(AdjustToMinimumContentsLengthWithIcon);
@@ -39,6 +39,11 @@ void ColorComboBox::Fill() {
     for (const TColor c : CustomColorValues(customColors_)) Add(c);
   listed_ = count();
   SetSelected(selected_);
+}
+
+void ColorComboBox::SetStyles(TColorBoxStyles styles) {
+  styles_ = styles;
+  Fill();
 }
 
 void ColorComboBox::SetSelected(TColor color) {

@@ -14,9 +14,11 @@ class QToolButton;
 class ColorComboBox : public QComboBox {
   Q_OBJECT
  public:
-  explicit ColorComboBox(TColorBoxStyles styles = AllColors, QWidget* parent = nullptr);
+  explicit ColorComboBox(QWidget* parent = nullptr);
 
+  // Which colours are listed; all at first.
   TColorBoxStyles Styles() const { return styles_; }
+  void SetStyles(TColorBoxStyles styles);
   TColor Selected() const { return selected_; }
   // Shows the colour, in an entry of its own while it is selected when the list does not hold it. Does not
   // emit Change.
@@ -46,7 +48,7 @@ class ColorComboBox : public QComboBox {
   // While it lives, the entry that opens the dialog is passed over.
   class WithoutCustom;
 
-  TColorBoxStyles styles_;
+  TColorBoxStyles styles_ = AllColors;
   TColor selected_ = clBlack;
   QStringList customColors_;
   int listed_ = 0;  // entries of the list proper; behind them at most the selected colour

@@ -5,17 +5,18 @@
 #include "vcl/ControlView.h"
 
 EditorDialog::EditorDialog(const QString& caption, QSize clientSize, QWidget* parent, int previewWidth)
-    : ModalDialog(caption, parent), clientSize_(clientSize) {
-  auto* settings = new QFrame(this);
-  settings->setObjectName(QStringLiteral("settings"));
-  settings->setAutoFillBackground(true);
-  settings->setBackgroundRole(QPalette::Base);
-  grid_ = new QGridLayout;
-  grid_->setHorizontalSpacing(8);
-  grid_->setVerticalSpacing(8);
-  auto* settingsBox = new QVBoxLayout(settings);
+    : RowDialog(caption, parent), clientSize_(clientSize) {
+  settings_ = new QFrame(this);
+  settings_->setObjectName(QStringLiteral("settings"));
+  settings_->setAutoFillBackground(true);
+  settings_->setBackgroundRole(QPalette::Base);
+  auto* grid = new QGridLayout;
+  grid->setHorizontalSpacing(8);
+  grid->setVerticalSpacing(8);
+  RowsInto(*grid);
+  auto* settingsBox = new QVBoxLayout(settings_);
   settingsBox->setContentsMargins(16, 16, 16, 8);
-  settingsBox->addLayout(grid_);
+  settingsBox->addLayout(grid);
   settingsBox->addStretch(1);
 
   right_ = new QWidget(this);
@@ -36,55 +37,55 @@ EditorDialog::EditorDialog(const QString& caption, QSize clientSize, QWidget* pa
   auto* all = new QHBoxLayout(this);
   all->setContentsMargins(0, 0, 0, 0);
   all->setSpacing(0);
-  all->addWidget(settings, 1);
+  all->addWidget(settings_, 1);
   all->addWidget(right_);
 }
 
-void EditorDialog::AddRow(const QString& text, QWidget* control, QWidget* button) {
-  const int row = grid_->rowCount();
-  auto* label = new QLabel(text, this);
-  label->setBuddy(control);
-  label->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-  grid_->addWidget(label, row, 0);
-  grid_->addWidget(control, row, 1);
-  if (button) grid_->addWidget(button, row, 2);
-  grid_->setColumnStretch(1, 1);
-}
-
-void EditorDialog::AddWide(QWidget* widget) {
-  // Over the column of buttons, too, where there is one.
-  grid_->addWidget(widget, grid_->rowCount(), 1, 1, grid_->columnCount() > 2 ? 2 : 1);
-}
+// The view is gone before what it shows.
+EditorDialog::~EditorDialog() { delete testView; }
 
 void EditorDialog::SetPreview(QWidget* preview) { previewBox_->addWidget(preview); }
 
-void EditorDialog::SetPreview(ControlView* preview, Qt::Alignment place) {
-  preview->SetPlace(place);
-  SetPreview(ScrollBoxOf(preview, this));
+void EditorDialog::TakePreview(TControl* control, const char* hint) {
+  preview_.reset(control);
+  testView = new ControlView(control, this);
+  testView->setObjectName(QStringLiteral("test"));
+  testView->setToolTip(QString::fromLatin1(hint));
+  OwnColors({testView});
+}
+void EditorDialog::FillPreview() {
+  testView->SetFillView(true);
+  SetPreview(testView);
+}
+void EditorDialog::ScrollPreview(Qt::Alignment place) {
+  testView->SetPlace(place);
+  QScrollArea* box = ScrollBoxOf(testView, this);
+  box->setFocusPolicy(Qt::ClickFocus);  // no stop between the rows and the buttons
+  SetPreview(box);
 }
 
-QPushButton* EditorDialog::AddButton(const QString& text) {
-  auto* button = new QPushButton(text, this);
-  button->setAutoDefault(false);
-  buttons_->addWidget(button);
-  return button;
+void EditorDialog::Buttons(NamedButton ok, NamedButton cancel) {
+  OkButton(ok.button, ok.name);
+  CancelButton(cancel.button, cancel.name);
+  buttons_->addWidget(ok.button);
+  buttons_->addWidget(cancel.button);
+}
+void EditorDialog::Buttons(NamedButton ok, NamedButton cancel, NamedButton reset) {
+  Buttons(ok, cancel);
+  ResetButton(reset.button, reset.name);
+  buttons_->addWidget(reset.button);
 }
 
-void EditorDialog::AddOk(QPushButton* button) {
-  button->setDefault(true);
-  connect(button, &QPushButton::clicked, this, &QDialog::accept);
-}
-void EditorDialog::AddCancel(QPushButton* button) {
-  connect(button, &QPushButton::clicked, this, &QDialog::reject);
-}
-
-void EditorDialog::SetTabSequence(const std::vector<QWidget*>& widgets) {
-  for (std::size_t i = 1; i < widgets.size(); ++i) setTabOrder(widgets[i - 1], widgets[i]);
+void EditorDialog::AddBelowPreview(const std::vector<QWidget*>& beside) {
+  auto* line = new QHBoxLayout;
+  line->setSpacing(8);
+  for (QWidget* widget : beside) line->addWidget(widget, 1);
+  buttons_->addLayout(line);
 }
 
-void EditorDialog::AddBelowPreview(QWidget* widget) { buttons_->addWidget(widget); }
-
-void EditorDialog::FinishLayout(bool fixed) {
+void EditorDialog::Finish(bool fixed) {
+  SetTabSequence();
+  FormCreate();
   const QSize size = clientSize_.expandedTo(minimumSizeHint());
   auto* all = static_cast<QHBoxLayout*>(layout());
   all->setStretch(0, fixed ? 1 : 0);

@@ -3,11 +3,8 @@
 #pragma once
 #include "dclstd/ColorComboBox.h"
 #include "dclstd/EditorDialog.h"
-#include "dclstd/SpinEdit.h"
-#include "vcl/ControlView.h"
 #include "vcl/StdCtrls.h"
 
-class QCheckBox;
 class QFontComboBox;
 
 // Writes into the font only when the user confirms, and is true then.
@@ -17,8 +14,6 @@ class FontDialog : public EditorDialog {
   Q_OBJECT
  public:
   explicit FontDialog(QWidget* owner);
-  ~FontDialog() override;
-  void FormClose() override;
   // The copy that is edited.
   TFont& Font() { return font_; }
 
@@ -26,24 +21,15 @@ class FontDialog : public EditorDialog {
   SpinEdit* edsize;    // points
   SpinEdit* edheight;  // pixels; the same value in another unit
   ColorComboBox* cmbcolor;
-  QComboBox* cmbcharset;
-  QComboBox* cmbpitch;
+  QComboBox *cmbcharset, *cmbpitch;
   QCheckBox* styles[4];  // in the order of TFontStyle
-  QPushButton* ok;
-  QPushButton* cancel;
-  QPushButton* reset;
-  std::unique_ptr<TLabel> test;  // the preview
-  ControlView* testView;
+  QPushButton *ok, *cancel, *reset;
+  TLabel* test;  // the preview
 
  protected:
   void LoadControls() override;
 
  private:
-  void Build();
-  void Connect();
-  void ShowCharset();
-  // Does one change to the font and shows what came of it.
-  void Change(const std::function<void()>& change);
-  void ShowPreview();
+  void SetName(const QString& name);
   TFont font_;
 };

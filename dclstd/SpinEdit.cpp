@@ -3,15 +3,20 @@
 #include <QKeyEvent>
 #include <QLineEdit>
 
-SpinEdit::SpinEdit(int maximum, int maxLength, QWidget* parent) : QSpinBox(parent), maxLength_(maxLength) {
-  setRange(0, maximum);
-  lineEdit()->setMaxLength(maxLength);
+SpinEdit::SpinEdit(int maximum, int maxLength, QWidget* parent) : QSpinBox(parent) {
+  SetLimits(0, maximum, maxLength);
   connect(lineEdit(), &QLineEdit::textEdited, this, [this] {
     typing_ = true;
     if (outside_) replaced_ = std::exchange(outside_, std::nullopt);
   });
   connect(lineEdit(), &QLineEdit::textChanged, this, &SpinEdit::Edited);
   connect(this, &QSpinBox::valueChanged, this, [this] { replaced_.reset(); });
+}
+
+void SpinEdit::SetLimits(int minimum, int maximum, int maxLength) {
+  maxLength_ = maxLength;
+  setRange(minimum, maximum);
+  FitLength();
 }
 
 // The limit that stood in for a value outside of the range may be typed: no change of the spin box's own.

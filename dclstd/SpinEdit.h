@@ -9,6 +9,8 @@ class SpinEdit : public QSpinBox {
   // From 0 to the maximum, in at most `maxLength` characters; the whole text is selected when the focus
   // comes.
   SpinEdit(int maximum, int maxLength, QWidget* parent = nullptr);
+  explicit SpinEdit(QWidget* parent) : SpinEdit(99, 2, parent) {}
+  void SetLimits(int minimum, int maximum, int maxLength);
 
   // Shows a value that comes from elsewhere. One outside of the range is shown as it is, and stays until
   // somebody changes it. A text that is being typed is left alone until that is done.
@@ -28,7 +30,7 @@ class SpinEdit : public QSpinBox {
   void Edited();
   void EndTyping();
   void FitLength();
-  int maxLength_;
+  int maxLength_ = 0;
   bool typing_ = false;
   std::optional<int> outside_;   // shown instead of the value
   std::optional<int> replaced_;  // what the text that is being typed may take the place of

@@ -8,3 +8,10 @@ bool TVRXColorComboBox::ExecuteEnh(QStringList& customColors) {
   if (chosen) Choose(color);
   return chosen;
 }
+
+bool TVRXColorComboBox::ExecuteEnh(ColorComboBox& owner) {
+  QStringList colors = owner.CustomColors();
+  const bool chosen = ExecuteEnh(colors);
+  owner.SetCustomColors(colors);
+  return chosen;
+}

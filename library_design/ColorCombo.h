@@ -12,4 +12,5 @@ class TVRXColorComboBox : public ColorComboBox {
   // The extended colour dialog, working on a list of custom colours that may be another combo's. True when a
   // colour was chosen, which is then selected and reported.
   bool ExecuteEnh(QStringList& customColors);
+  bool ExecuteEnh(ColorComboBox& owner);
 };

@@ -4,7 +4,6 @@
 #include "library/controls/ShapeControl.h"
 #include "library_design/ColorCombo.h"
 #include "library_design/SpinEdit.h"
-#include "vcl/ControlView.h"
 
 // Each writes its result into the argument only when the user confirms, and is true then.
 bool VRXCPGetFont(TFont& font);
@@ -15,20 +14,13 @@ QIcon FontFxIcon();
 class TVRXFontFxEditorDlg : public EditorDialog {
   Q_OBJECT
  public:
-  TVRXFontFxEditorDlg();
-  ~TVRXFontFxEditorDlg() override;
-  void FormClose() override;
+  explicit TVRXFontFxEditorDlg(QWidget* owner = nullptr);
   TVRXFxCaption& FontFx() { return *test->Caption()->FontFX(); }
 
   QComboBox* cmbstyle;
   TVRXSpinEdit* eddepth[2];  // light, shadow
   TVRXColorComboBox* cmbcolor[2];
-  TVRXSpinEdit* edangle;
-  TVRXSpinEdit* edtracing;
-  QPushButton* reset;
-  std::unique_ptr<TVRXShapeControl> test;
-  ControlView* testView;
-
- protected:
-  void LoadControls() override;
+  TVRXSpinEdit *edangle, *edtracing;
+  QPushButton *ok, *cancel, *reset;
+  TVRXShapeControl* test;
 };

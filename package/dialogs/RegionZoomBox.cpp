@@ -1,6 +1,7 @@
-#include <QtWidgets>
+#include "package/dialogs/RegionZoomBox.h"
 
-#include "package/dialogs/pVRXBmpRegionEditorDlg.h"
+#include <QMouseEvent>
+#include <QPainter>
 
 ZoomBox::ZoomBox(QWidget* parent) : QWidget(parent) {
   setMouseTracking(true);

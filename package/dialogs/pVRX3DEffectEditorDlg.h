@@ -14,9 +14,6 @@
 #include "library_design/ProgressBar.h"
 #include "library_design/SpinEdit.h"
 
-class QLabel;
-class QToolButton;
-
 // Sizes the bitmap to the caption and draws it there on silver, which an editor takes for transparent.
 void VRXDrawCaptionFace(const TVRXCaption& caption, TBitmap& bitmap);
 
@@ -24,17 +21,15 @@ class TVRX3DEffectEditorDlg : public EditorDialog {
   Q_OBJECT
  public:
   explicit TVRX3DEffectEditorDlg(QWidget* owner);
-  ~TVRX3DEffectEditorDlg() override;
 
   // Set before the dialog is shown.
   TColor colors[4] = {clBlack, clWhite, clWhite, clGray};  // bevel, disabled, light, shadow
   std::uint8_t bevelWidth = 2;
-  TBitmap* bitmaps[4] = {};  // the original, then the results up, down, disabled
-  std::unique_ptr<TVRXCaption> caption;
+  // The original, then the results up, down, disabled.
+  TBitmap* bitmaps[4] = {&own_[0], &own_[1], &own_[2], &own_[3]};
+  std::unique_ptr<TVRXCaption> caption = std::make_unique<TVRXCaption>();
 
-  void FormCreate();
   void FormActivate() override;
-  void FormClose() override;
   void reject() override;
   void cmbBChange(const TVRXColorComboBox* sender);
   void spindChange();
@@ -60,13 +55,11 @@ class TVRX3DEffectEditorDlg : public EditorDialog {
 
  protected:
   void done(int result) override;
-  void keyPressEvent(QKeyEvent* event) override;
+  // What is older than the settings is confirmed by the button itself only.
+  bool ReturnConfirms() const override { return !ResultsAreOlder(); }
   void LoadControls() override;
 
  private:
-  void Build();
-  void BuildSettings();
-  void BuildRight();
   void ShowState(int state);
   void ShowNote();
   // What the results depend on besides the picture.
@@ -81,5 +74,5 @@ class TVRX3DEffectEditorDlg : public EditorDialog {
   std::optional<Settings> made_;  // of the results
   bool nothingToDo_ = false;      // the last run had no picture
   bool running_ = false;
-  std::vector<QWidget*> settings_;
+  TBitmap own_[4];  // when nobody hands bitmaps over
 };

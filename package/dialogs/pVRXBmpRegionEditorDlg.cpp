@@ -3,8 +3,8 @@
 #include <QtWidgets>
 
 #include "dclstd/EditorDialog.h"
-#include "designintf/IdeTheme.h"
 #include "library/pixels/RegionOrigin.h"
+#include "library_design/Encoding.h"
 #include "library_design/Named.h"
 #include "library_design/PictureDialog.h"
 #include "library_design/pVRXCommon.h"
@@ -54,16 +54,18 @@ class BuildProgress : public RunProgress {
 };
 }  // namespace
 
+using D = TVRXfrmRegionFromBMPdlg;
+
 TVRXfrmRegionFromBMPdlg::TVRXfrmRegionFromBMPdlg(QWidget* owner)
-    : ModalDialog(QStringLiteral("Region From Bitmap Editor"), owner) {
+    : RowDialog(QStringLiteral("Region From Bitmap Editor"), owner) {
   setObjectName(QStringLiteral("VRXfrmRegionFromBMPdlg"));
+  Edits(*mask);
   pages = new QTabWidget(this);
+  pages->setObjectName(QStringLiteral("pages"));
   pages->addTab(BuildImagePage(), QStringLiteral("Image/Colors"));
   pages->addTab(BuildBorderPage(), QStringLiteral("Border/Build"));
-  OKButton = Named(new QPushButton(QStringLiteral("Ok"), this), "OKButton", "");
-  CancelButton = Named(new QPushButton(QStringLiteral("Cancel"), this), "CancelButton", "");
-  for (QPushButton* button : {OKButton, CancelButton, LoadButton, BuildButton}) button->setAutoDefault(false);
-  OKButton->setDefault(true);
+  OkButton(OKButton, "OKButton", "Ok");
+  RowDialog::CancelButton(CancelButton, "CancelButton");
   auto* buttons = new QHBoxLayout;
   buttons->setSpacing(8);
   note = QuietLine(this, "note");
@@ -75,22 +77,26 @@ TVRXfrmRegionFromBMPdlg::TVRXfrmRegionFromBMPdlg(QWidget* owner)
   all->setSpacing(12);
   all->addWidget(pages, 1);
   all->addLayout(buttons);
-  connect(OKButton, &QPushButton::clicked, this, &QDialog::accept);
-  connect(CancelButton, &QPushButton::clicked, this, &QDialog::reject);
+  BuildButton->setEnabled(false);
+  OKButton->setEnabled(false);
+  OwnColors({Image1, Result, zoom, cc});
+  VRXSetThemeMode(*this, 1);
+  SetTabSequence();
   FormCreate();
+  ShowColor(std::nullopt);
   setSizeGripEnabled(true);
   resize(QSize(600, 440).expandedTo(minimumSizeHint()));
 }
-TVRXfrmRegionFromBMPdlg::~TVRXfrmRegionFromBMPdlg() = default;
 
 QWidget* TVRXfrmRegionFromBMPdlg::BuildImagePage() {
   auto* page = new QWidget(this);
-  LoadButton = Named(new QPushButton(QStringLiteral("&Load"), page), "LoadButton", "Load an image");
+  Button(LoadButton, "LoadButton", "&Load", &D::LoadButtonClick, "Load an image");
   DimLabel = Named(new QLabel(QStringLiteral("Bitmap size:"), page), "DimLabel", "");
   Image1 = Named(new PictureView(page), "Image1", "Left mouse btn -> select color\nRight mouse btn -> zoom");
   VRXScrollBox1 = ScrollBoxOf(Image1, page);
   VRXScrollBox1->setObjectName(QStringLiteral("VRXScrollBox1"));
   VRXScrollBox1->setFrameShape(QFrame::StyledPanel);
+  Follows(VRXScrollBox1);
   zoom = Named(new ZoomBox(page), "zoom", "Left mouse btn -> select color");
   ViewLabel = Named(new QLabel(page), "ViewLabel", "");
   cc = Named(new QLabel(page), "cc", "");
@@ -103,6 +109,8 @@ QWidget* TVRXfrmRegionFromBMPdlg::BuildImagePage() {
   cl->setItemDelegate(new ColorItems(cl));
   cl->setUniformItemSizes(true);
   cl->installEventFilter(this);
+  cl->setFixedWidth(zoom->sizeHint().width());
+  Follows(cl);
 
   auto* top = new QHBoxLayout;
   top->setSpacing(8);
@@ -129,8 +137,6 @@ QWidget* TVRXfrmRegionFromBMPdlg::BuildImagePage() {
   grid->addLayout(side, 0, 1, 2, 1);
   grid->setColumnStretch(0, 1);
   grid->setRowStretch(1, 1);
-  cl->setFixedWidth(zoom->sizeHint().width());
-  connect(LoadButton, &QPushButton::clicked, this, [this] { Guarded([&] { LoadButtonClick(); }); });
   connect(Image1, &PictureView::MouseDown, this,
           [this](Qt::MouseButton b, QPoint p) { Guarded([&] { Image1MouseDown(b, p); }); });
   connect(Image1, &PictureView::MouseMove, this, [this](QPoint p) { Image1MouseMove(p); });
@@ -142,81 +148,53 @@ QWidget* TVRXfrmRegionFromBMPdlg::BuildImagePage() {
 
 QWidget* TVRXfrmRegionFromBMPdlg::BuildBorderPage() {
   auto* page = new QWidget(this);
-  cb = Named(new QComboBox(page), "cb", "Select a border style");
-  cb->addItems({QStringLiteral("None"), QStringLiteral("Single"), QStringLiteral("Raised"),
-                QStringLiteral("Lowered"), QStringLiteral("Single-Raised"),
-                QStringLiteral("Single-Lowered")});
-  cb2 = Named(new QComboBox(page), "cb2", "Select a border style");
-  cb2->addItems({QStringLiteral("Win31"), QStringLiteral("Win40"), QStringLiteral("Simple")});
-  cb2->hide();
-  ccb = Named(new QCheckBox(QStringLiteral("Compress image"), page), "ccb", "");
-  colb = Named(new QComboBox(page), "colb", "");
-  for (const QByteArray& name : TypeInfoOf<TVRXColorDepth>::Get().Elements)
-    colb->addItem(QString::fromLatin1(name));
-  BuildButton =
-      Named(new QPushButton(QStringLiteral("&Build"), page), "BuildButton", "Build region and border bitmap");
+  auto* row = new QHBoxLayout(page);
+  row->setContentsMargins(12, 12, 12, 12);
+  row->setSpacing(12);
+  auto* grid = new QGridLayout;
+  grid->setHorizontalSpacing(8);
+  grid->setVerticalSpacing(8);
+  row->addLayout(grid);
+  RowsInto(*grid);
+  Row(cb, "cb", "", "BorderStyle:", "Select a border style")
+      .Items({QStringLiteral("None"), QStringLiteral("Single"), QStringLiteral("Raised"),
+              QStringLiteral("Lowered"), QStringLiteral("Single-Raised"), QStringLiteral("Single-Lowered")})
+      .Changes(&D::cbChange);
+  Row(cb2, "cb2", "", "BorderStyle:", "Select a border style")
+      .Items({QStringLiteral("Win31"), QStringLiteral("Win40"), QStringLiteral("Simple")})
+      .Changes(&D::cbChange);
+  ShowRow(cb2, false);
+  Row(colb, "colb", "ColorDepth", "Colordepth:").Changes(&D::colbChange);
+  Row(ccb, "ccb", "Compress", "Compress image").Changes(&D::ccbChange);
+  Button(BuildButton, "BuildButton", "&Build", &D::BuildButtonClick, "Build region and border bitmap");
+  Wide({BuildButton});
   Progress = Named(new TVRXProgressBar(0, page), "Progress", "Shows build progress");
   // Its room stays when it is not there, so that nothing jumps.
   QSizePolicy keep = Progress->sizePolicy();
   keep.setRetainSizeWhenHidden(true);
   Progress->setSizePolicy(keep);
   Progress->hide();
+  Wide({Progress});
+  grid->setRowStretch(grid->rowCount(), 1);
   Result = Named(new PictureView(page), "Result", "");
   QScrollArea* resultBox = ScrollBoxOf(Result, page);
+  resultBox->setObjectName(QStringLiteral("ResultBox"));
   resultBox->setFrameShape(QFrame::StyledPanel);
-
-  auto* grid = new QGridLayout;
-  grid->setHorizontalSpacing(8);
-  grid->setVerticalSpacing(8);
-  styleLabel_ = new QLabel(QStringLiteral("BorderStyle:"), page);
-  styleLabel_->setBuddy(cb);
-  auto* depthLabel = new QLabel(QStringLiteral("Colordepth:"), page);
-  depthLabel->setBuddy(colb);
-  for (QLabel* label : {styleLabel_, depthLabel}) label->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-  grid->addWidget(styleLabel_, 0, 0);
-  grid->addWidget(cb, 0, 1);
-  grid->addWidget(cb2, 0, 1);
-  grid->addWidget(depthLabel, 1, 0);
-  grid->addWidget(colb, 1, 1);
-  grid->addWidget(ccb, 2, 1);
-  grid->addWidget(BuildButton, 3, 1);
-  grid->addWidget(Progress, 4, 1);
-  grid->setRowStretch(5, 1);
-  auto* row = new QHBoxLayout(page);
-  row->setContentsMargins(12, 12, 12, 12);
-  row->setSpacing(12);
-  row->addLayout(grid);
+  Follows(resultBox);
   row->addWidget(resultBox, 1);
-  connect(cb, &QComboBox::activated, this, [this] { cbChange(); });
-  connect(cb2, &QComboBox::activated, this, [this] { cbChange(); });
-  connect(ccb, &QCheckBox::toggled, this, [this] { Guarded([&] { ccbChange(); }); });
-  connect(colb, &QComboBox::currentIndexChanged, this, [this] { Guarded([&] { colbChange(); }); });
-  connect(BuildButton, &QPushButton::clicked, this, [this] { Guarded([&] { BuildButtonClick(); }); });
   return page;
-}
-
-void TVRXfrmRegionFromBMPdlg::FormCreate() {
-  mask = std::make_unique<TVRXRegionMask>();
-  buttonFace = false;
-  BuildButton->setEnabled(false);
-  OKButton->setEnabled(false);
-  VRXSetThemeMode(*this, 1);
-  ApplyIDETheme(*this, [this](const QWidget& control) {
-    return &control != Image1 && &control != Result && &control != zoom && &control != cc;
-  });
-  ShowColor(std::nullopt);
 }
 
 void TVRXfrmRegionFromBMPdlg::SetButtonFace() {
   buttonFace = true;
-  cb->hide();
-  cb2->show();
-  styleLabel_->setBuddy(cb2);
+  ShowRow(cb, false);
+  ShowRow(cb2, true);
 }
 
+bool TVRXfrmRegionFromBMPdlg::Confirmed() { return Encoded(*mask); }
+
 void TVRXfrmRegionFromBMPdlg::LoadControls() {
-  ccb->setChecked(mask->Compress());
-  colb->setCurrentIndex(static_cast<int>(mask->ColorDepth()));
+  RowDialog::LoadControls();
   if (Image1->Picture().Empty()) ShowOrigin();
   ShowResult();
   // What has been built before can be confirmed, with another depth or compression or as it is.
@@ -323,30 +301,22 @@ bool TVRXfrmRegionFromBMPdlg::eventFilter(QObject* watched, QEvent* event) {
       return true;
     }
   }
-  return ModalDialog::eventFilter(watched, event);
-}
-
-// Return in a field is for the default button, but a result that is older than the settings is confirmed by
-// the button itself only.
-void TVRXfrmRegionFromBMPdlg::keyPressEvent(QKeyEvent* event) {
-  const bool confirms = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
-  if (confirms && ResultIsOlder()) return event->accept();
-  ModalDialog::keyPressEvent(event);
+  return RowDialog::eventFilter(watched, event);
 }
 
 // However the dialog is closed, a build in it ends.
 void TVRXfrmRegionFromBMPdlg::done(int result) {
   closed_ = true;
-  ModalDialog::done(result);
+  RowDialog::done(result);
 }
 
 void TVRXfrmRegionFromBMPdlg::cbChange() {
   BuildButton->setEnabled(true);
   ShowNote();
 }
-void TVRXfrmRegionFromBMPdlg::ccbChange() { mask->SetCompress(ccb->isChecked()); }
+void TVRXfrmRegionFromBMPdlg::ccbChange() { Write(ccb); }
 void TVRXfrmRegionFromBMPdlg::colbChange() {
-  mask->SetColorDepth(static_cast<TVRXColorDepth>(colb->currentIndex()));
+  Write(colb);
   ShowResult();
 }
 

@@ -1,64 +1,28 @@
 // Builds the region mask of a shaped window or button from a picture and the colours that are to be
 // transparent in it.
 #pragma once
-#include <array>
-
-#include "dclstd/ModalDialog.h"
+#include "dclstd/RowDialog.h"
 #include "library/pixels/RegionFromBitmap.h"
 #include "library/values/RegionMask.h"
 #include "library_design/PictureView.h"
 #include "library_design/ProgressBar.h"
+#include "package/dialogs/RegionZoomBox.h"
 
-class QCheckBox;
-class QComboBox;
-class QLabel;
 class QListWidget;
-class QPushButton;
 class QScrollArea;
 class QTabWidget;
 
-// A square part of a picture, enlarged.
-class ZoomBox : public QWidget {
-  Q_OBJECT
- public:
-  static constexpr int Cells = 20;
-  explicit ZoomBox(QWidget* parent);
-  // Shows the pixels from `origin` on; where the picture has none, they are clInvalid.
-  void ShowPart(const TBitmap& picture, QPoint origin);
-  // Shows nothing.
-  void Clear();
-  // The colour at a place; nothing before a part is shown.
-  std::optional<TColor> ColorAt(QPoint place) const;
-  QSize sizeHint() const override { return {Cells * 8 + 1, Cells * 8 + 1}; }
-  QSize minimumSizeHint() const override { return sizeHint(); }
-
- signals:
-  void MouseDown(Qt::MouseButton button, QPoint place);
-  void MouseMove(QPoint place);
-
- protected:
-  void paintEvent(QPaintEvent* event) override;
-  void mousePressEvent(QMouseEvent* event) override;
-  void mouseMoveEvent(QMouseEvent* event) override;
-
- private:
-  QRect CellRect(int column, int row) const;
-  std::array<std::array<TColor, Cells>, Cells> cells_{};  // [row][column]
-  bool filled_ = false;
-};
-
-class TVRXfrmRegionFromBMPdlg : public ModalDialog {
+class TVRXfrmRegionFromBMPdlg : public RowDialog {
   Q_OBJECT
  public:
   explicit TVRXfrmRegionFromBMPdlg(QWidget* owner);
-  ~TVRXfrmRegionFromBMPdlg() override;
 
-  std::unique_ptr<TVRXRegionMask> mask;
+  std::unique_ptr<TVRXRegionMask> mask = std::make_unique<TVRXRegionMask>();
   bool buttonFace = false;
   // For a button's mask: its looks are offered instead of border styles.
   void SetButtonFace();
 
-  void FormCreate();
+  bool Confirmed() override;
   void LoadButtonClick();
   void Image1MouseDown(Qt::MouseButton button, QPoint pixel);
   void Image1MouseMove(QPoint pixel);
@@ -90,7 +54,8 @@ class TVRXfrmRegionFromBMPdlg : public ModalDialog {
 
  protected:
   bool eventFilter(QObject* watched, QEvent* event) override;
-  void keyPressEvent(QKeyEvent* event) override;
+  // A result that is older than the settings is confirmed by the button itself only.
+  bool ReturnConfirms() const override { return !ResultIsOlder(); }
   void done(int result) override;
   void LoadControls() override;
 
@@ -116,7 +81,6 @@ class TVRXfrmRegionFromBMPdlg : public ModalDialog {
   void NoteSettings();
   // Whether OK would take a result that other settings led to.
   bool ResultIsOlder() const;
-  QLabel* styleLabel_;
   Settings made_;              // of the result
   bool otherPicture_ = false;  // not the one that the result was made from
   bool bordered_ = false;      // the picture comes from the value, with a border painted on it

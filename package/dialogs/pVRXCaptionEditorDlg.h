@@ -2,39 +2,23 @@
 #pragma once
 #include "dclstd/EditorDialog.h"
 #include "library/controls/ShapeControl.h"
-#include "vcl/ControlView.h"
-
-class QCheckBox;
-class QComboBox;
-class QLineEdit;
+#include "library_design/FlatCheckBox.h"
 
 class TVRXCaptionEditorDlg : public EditorDialog {
   Q_OBJECT
  public:
   explicit TVRXCaptionEditorDlg(QWidget* owner);
-  ~TVRXCaptionEditorDlg() override;
 
-  void FormCreate();
-  void cmbChange();
-  void capChange();
-  void chkClick();
+  void cmbChange() { Apply(cmb); }
+  // Loading would move the cursor.
+  void capChange() { Write(cap); }
+  void chkClick() { Write(chk); }
   void btncClick(const QPushButton* sender);
-  void resetClick();
 
   QComboBox* cmb;
   QLineEdit* cap;
-  QCheckBox* chk;
-  QPushButton* btnf;
-  QPushButton* btnffx;
-  QPushButton* ok;
-  QPushButton* Button1;
-  QPushButton* reset;
-  std::unique_ptr<TVRXShapeControl> test;  // the preview; its caption is what is edited
-  ControlView* testView;
-
- protected:
-  void LoadControls() override;
-
- private:
-  void Build();
+  FlatCheckBox* chk;
+  QPushButton *btnf, *btnffx;
+  QPushButton *ok, *Button1, *reset;
+  TVRXShapeControl* test;  // its caption is what is edited
 };

@@ -6,47 +6,23 @@
 #include "library/controls/LEDLabel.h"
 #include "library_design/ColorCombo.h"
 #include "library_design/SpinEdit.h"
-#include "vcl/ControlView.h"
-
-class QCheckBox;
-class QToolButton;
 
 class TVRXLEDEditorDlg : public EditorDialog {
   Q_OBJECT
  public:
   explicit TVRXLEDEditorDlg(QWidget* owner);
-  ~TVRXLEDEditorDlg() override;
 
-  // Everything takes the IDE's theme but the preview.
-  bool NeedTheme(const QWidget& control) const;
-
-  void FormCreate();
-  void FormClose() override;
-  void edchange(const TVRXSpinEdit* sender);
-  void cmbc(const TVRXColorComboBox* sender);
+  void edchange(const TVRXSpinEdit* sender) { Apply(sender); }
+  void cmbc(const TVRXColorComboBox* sender) { Apply(sender); }
   void predChange();
-  void chkClick();
+  void chkClick() { Write(chk); }
   void btn(const QToolButton* sender);
-  void resetClick();
 
-  TVRXSpinEdit* edhs;
-  TVRXSpinEdit* edvs;
-  TVRXSpinEdit* edt;
-  TVRXColorComboBox* cmbb;
-  TVRXColorComboBox* cmbL;
-  QToolButton* bt1;
-  QToolButton* bt2;
+  TVRXSpinEdit *edhs, *edvs, *edt;
+  TVRXColorComboBox *cmbb, *cmbL;
+  QToolButton *bt1, *bt2;
   OneShotComboBox* pred;
   QCheckBox* chk;
-  QPushButton* ok;
-  QPushButton* Button1;
-  QPushButton* reset;
-  std::unique_ptr<TVRXLEDLabel> test;  // the preview
-  ControlView* testView;
-
- protected:
-  void LoadControls() override;
-
- private:
-  void Build();
+  QPushButton *ok, *Button1, *reset;
+  TVRXLEDLabel* test;
 };

@@ -1,0 +1,5 @@
+#include "dclstd/EditValue.h"
+
+#include <QApplication>
+
+QWidget* ApplicationOwner() { return QApplication::activeWindow(); }
