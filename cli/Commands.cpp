@@ -48,6 +48,12 @@ const std::vector<CommandRow>& CommandTable() {
        "name or a file; without it, the library's design-time package. --labeled\n"
        "switches the labeled variants on. Exit code 1 when nothing is registered.",
        RegistrationsCommand},
+      {"describe", "--dialogs [PACKAGE] [--json]",
+       "Describes the dialogs of a package: every control with its texts, hint, entries,\n"
+       "limits and place in the tab order. PACKAGE is a name or a file; without it, the\n"
+       "library's design-time package. Exit code 1 when it has no dialogs, or one that\n"
+       "cannot be opened.",
+       DescribeCommand},
       {"effect3d",
        "SOURCE --up PNG --down PNG --disabled PNG [--transparent C] [--light C] [--shadow C] [--dither C] "
        "[--bevel C] [--width N] [--semi KEY,SECOND]",

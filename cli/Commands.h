@@ -53,6 +53,7 @@ int SetCommand(const QStringList& arguments, Console& console);
 int DoCommand(const QStringList& arguments, Console& console);
 int ActionsCommand(const QStringList& arguments, Console& console);
 int PackageCommand(const QStringList& arguments, Console& console);
+int DescribeCommand(const QStringList& arguments, Console& console);
 int Effect3DCommand(const QStringList& arguments, Console& console);
 int RegionCommand(const QStringList& arguments, Console& console);
 int RegistrationsCommand(const QStringList& arguments, Console& console);

@@ -1,5 +1,7 @@
 #include "designintf/DesignRegistry.h"
 
+#include <QDialog>
+
 #include "designintf/BasicEditors.h"
 #include "designintf/ResourceStrings.h"
 #include "rtl/ClassRegistry.h"
@@ -114,8 +116,22 @@ void DesignRegistry::Add(TRegistration row) {
   rows_.push_back(std::move(row));
 }
 
+void DesignRegistry::Add(TDialogRegistration dialog) {
+  dialog.Package = package_;
+  dialogs_.push_back(std::move(dialog));
+}
+
+std::unique_ptr<QDialog> DesignRegistry::Open(const TDialogRegistration& dialog) const {
+  const auto where = [&] {
+    return TPackageCall{PackageName(dialog.Package), QString::fromLatin1(dialog.Name + ".Create")};
+  };
+  return PackageCall(where, [&] { return dialog.Open(); });
+}
+
 void DesignRegistry::UnregisterPackage(const void* package) {
-  std::erase_if(rows_, [package](const TRegistration& r) { return r.Package == package; });
+  const auto isOf = [package](const auto& row) { return row.Package == package; };
+  std::erase_if(rows_, isOf);
+  std::erase_if(dialogs_, isOf);
   UnRegisterClasses(OwnerOf(package));
 }
 

@@ -10,6 +10,8 @@
 #include "designintf/ComponentEditor.h"
 #include "designintf/EditorSource.h"
 
+class QDialog;
+
 enum class TRegistrationKind : std::uint8_t {
   Components,
   Actions,
@@ -32,6 +34,13 @@ struct TRegistration {
   std::optional<TComponentEditorClass> ComponentEditor;
 };
 
+// A dialog that can be looked at without being shown.
+struct TDialogRegistration {
+  QByteArray Name;  // its class
+  std::unique_ptr<QDialog> (*Open)();
+  const void* Package = nullptr;
+};
+
 struct TPalettePage {
   QString Name;
   std::vector<const TClass*> Classes;  // each once, in the order of its first registration
@@ -50,6 +59,11 @@ class DesignRegistry : public IEditorSource {
   const std::vector<TRegistration>& Rows() const { return rows_; }
   // A new row of the package whose calls these are. Classes of pages become known.
   void Add(TRegistration row);
+  // Dialogs are no registrations of the IDE's: they come and go with their package, too.
+  const std::vector<TDialogRegistration>& Dialogs() const { return dialogs_; }
+  void Add(TDialogRegistration dialog);
+  // Throws EPackageError when it cannot be opened.
+  std::unique_ptr<QDialog> Open(const TDialogRegistration& dialog) const;
   void UnregisterPackage(const void* package);
 
   // What messages call a package; empty for the host.
@@ -88,6 +102,7 @@ class DesignRegistry : public IEditorSource {
   std::vector<TPalettePage> Pages(TRegistrationKind kind) const;
 
   std::vector<TRegistration> rows_;
+  std::vector<TDialogRegistration> dialogs_;
   std::map<const void*, Package> packages_;
   const void* package_ = nullptr;  // whose calls the next ones are
   QByteArray procedure_;
