@@ -18,6 +18,7 @@ ModalDialog::ModalDialog(const QString& caption, QWidget* parent)
 int ModalDialog::ShowModal() { return exec() == QDialog::Accepted ? mrOk : mrCancel; }
 
 void ModalDialog::SetLabels() {
+  if (loading_) return;
   const QScopedValueRollback loading(loading_, true);
   LoadControls();
 }

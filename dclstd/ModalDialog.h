@@ -34,6 +34,8 @@ class ModalDialog : public QDialog {
       Tell(error);
     }
   }
+  // From now on no handler runs and nothing is loaded: the dialog is being destroyed.
+  void Retire() { loading_ = true; }
   void showEvent(QShowEvent* event) override;
   void done(int result) override;
 

@@ -16,6 +16,12 @@ void SetName(QWidget& widget, const char* name, const char* hint) {
 }
 }  // namespace
 
+// Destroyed on the screen, a field loses the focus and reports what was typed in it.
+RowDialog::~RowDialog() {
+  Retire();
+  hide();
+}
+
 bool RowDialog::NeedTheme(const QWidget& control) const {
   return std::find(own_.begin(), own_.end(), &control) == own_.end();
 }

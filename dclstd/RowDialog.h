@@ -62,6 +62,7 @@ class RowDialog : public ModalDialog {
   Q_OBJECT
  public:
   RowDialog(const QString& caption, QWidget* parent) : ModalDialog(caption, parent) {}
+  ~RowDialog() override;
 
   // What is edited: a copy, until somebody takes it from here.
   TPersistent& Value() const { return *value_; }
