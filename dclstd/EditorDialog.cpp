@@ -86,15 +86,15 @@ void EditorDialog::AddBelowPreview(const std::vector<QWidget*>& beside) {
 void EditorDialog::Finish(bool fixed) {
   SetTabSequence();
   FormCreate();
-  const QSize size = clientSize_.expandedTo(minimumSizeHint());
   auto* all = static_cast<QHBoxLayout*>(layout());
   all->setStretch(0, fixed ? 1 : 0);
   all->setStretch(1, fixed ? 0 : 1);
-  if (fixed) {
-    right_->setFixedWidth(right_->minimumWidth());
-    setFixedSize(size);
-    return;
-  }
+  if (fixed) right_->setFixedWidth(right_->minimumWidth());
+  // Remarks that wrap need more height the narrower they are.
+  QSize size = clientSize_.expandedTo(minimumSizeHint());
+  if (layout()->hasHeightForWidth())
+    size.setHeight(std::max(size.height(), layout()->totalHeightForWidth(size.width())));
+  if (fixed) return setFixedSize(size);
   setMinimumSize(size);
   setSizeGripEnabled(true);
   resize(size);

@@ -102,8 +102,8 @@ QWidget* TVRXfrmRegionFromBMPdlg::BuildImagePage() {
   cc = Named(new QLabel(page), "cc", "");
   cc->setAutoFillBackground(true);
   cc->setAlignment(Qt::AlignCenter);
-  cc->setMinimumHeight(22);
   cc->setFrameShape(QFrame::StyledPanel);
+  cc->setMinimumHeight(std::max(22, cc->sizeHint().height()));
   cl = Named(new QListWidget(page), "cl",
              "Colors which will be excluded from the visible region\nRemove by pressing delete");
   cl->setItemDelegate(new ColorItems(cl));
