@@ -71,10 +71,8 @@ void ColorEnhDialog::Build() {
     rgb_[i]->setRange(0, 255);
     numbers->addRow(tr(names[i]), rgb_[i]);
     connect(rgb_[i], &QSpinBox::valueChanged, this, [this] {
-      if (updating_) return;
-      SetColor(RGBColor(static_cast<unsigned>(rgb_[0]->value()), static_cast<unsigned>(rgb_[1]->value()),
-                        static_cast<unsigned>(rgb_[2]->value())),
-               rgb_[0]);
+      const auto part = [this](int of) { return static_cast<unsigned>(rgb_[of]->value()); };
+      Guarded([&] { SetColor(RGBColor(part(0), part(1), part(2)), rgb_[0]); });
     });
   }
   text_ = new QLineEdit;
@@ -102,8 +100,8 @@ void ColorEnhDialog::Build() {
     // Selected, not only current, which the first one becomes when the focus passes by.
     connect(list, &QListWidget::itemSelectionChanged, this, [this, list] {
       const auto selected = list->selectedItems();
-      if (!selected.isEmpty() && !updating_)
-        SetColor(TColor(selected.first()->data(Qt::UserRole).toUInt()), list);
+      if (selected.isEmpty()) return;
+      Guarded([&] { SetColor(TColor(selected.first()->data(Qt::UserRole).toUInt()), list); });
     });
   connect(named_, &QListWidget::itemDoubleClicked, this, &QDialog::accept);
 
@@ -136,30 +134,33 @@ void ColorEnhDialog::Build() {
 }
 
 void ColorEnhDialog::FillCustom() {
-  const bool was = std::exchange(updating_, true);
+  const QSignalBlocker quiet(customList_);
   customList_->clear();
   for (const TColor c : custom_) {
     auto* item = new QListWidgetItem(ColorSwatch(c), ColorToString(c), customList_);
     item->setData(Qt::UserRole, static_cast<uint>(c));
   }
-  updating_ = was;
 }
 
 void ColorEnhDialog::SetColor(TColor color, const QObject* source) {
   color_ = color;
-  updating_ = true;
-  const QColor q = ToQColor(ColorToRGB(color));
+  source_ = source;
+  SetLabels();
+  source_ = nullptr;
+  sample_->update();
+}
+
+// The field that the colour comes from is left as it is.
+void ColorEnhDialog::LoadControls() {
+  const QColor q = ToQColor(ColorToRGB(color_));
   rgb_[0]->setValue(q.red());
   rgb_[1]->setValue(q.green());
   rgb_[2]->setValue(q.blue());
-  if (source != text_) text_->setText(ColorToString(color));
-  if (source != named_) {
-    named_->setCurrentItem(nullptr);
-    for (int i = 0; i < named_->count(); ++i)
-      if (TColor(named_->item(i)->data(Qt::UserRole).toUInt()) == color) named_->setCurrentRow(i);
-  }
-  updating_ = false;
-  sample_->update();
+  if (source_ != text_) text_->setText(ColorToString(color_));
+  if (source_ == named_) return;
+  named_->setCurrentItem(nullptr);
+  for (int i = 0; i < named_->count(); ++i)
+    if (TColor(named_->item(i)->data(Qt::UserRole).toUInt()) == color_) named_->setCurrentRow(i);
 }
 
 void ColorEnhDialog::AddCustom() {

@@ -18,6 +18,9 @@ class ColorEnhDialog : public ModalDialog {
   TColor Color() const { return color_; }
   QStringList CustomColors() const;
 
+ protected:
+  void LoadControls() override;
+
  private:
   void Build();
   void SetColor(TColor color, const QObject* source);
@@ -33,5 +36,5 @@ class ColorEnhDialog : public ModalDialog {
   QLineEdit* text_;
   QLineEdit* filter_;
   QWidget* sample_;
-  bool updating_ = false;
+  const QObject* source_ = nullptr;  // where the colour that is being shown comes from
 };
