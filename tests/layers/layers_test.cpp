@@ -96,6 +96,21 @@ TEST(Units, OfTheDesignInterfaceFormNoCircle) {
   EXPECT_GT(units, 10);
 }
 
+TEST(Units, DialogsKnowNoLaunchers) {
+  int files = 0;
+  for (const char* folder : {"/package/dialogs", "/library_design", "/dclstd"}) {
+    QDirIterator it(QStringLiteral(VRX_SOURCE_DIR) + QString::fromLatin1(folder), QDir::Files);
+    while (it.hasNext()) {
+      QFile file(it.next());
+      ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+      EXPECT_FALSE(file.readAll().contains("#include \"package/property_editors/"))
+          << qPrintable(file.fileName());
+      ++files;
+    }
+  }
+  EXPECT_GT(files, 40);
+}
+
 TEST(Units, AccessToPropertiesKnowsNothingOfComponents) {
   EXPECT_FALSE(ReachedFrom(QStringLiteral("rtl/PropAccess")).contains(QStringLiteral("rtl/Component")));
   EXPECT_TRUE(ReachedFrom(QStringLiteral("rtl/Component")).contains(QStringLiteral("rtl/PropAccess")));

@@ -134,15 +134,6 @@ TEST_F(CaptionDialog, TheCheckBoxIsVisibleWithTheFlag) {
   Launch([](auto& dlg) { EXPECT_TRUE(dlg.chk->isVisible()); });
 }
 
-TEST_F(CaptionDialog, PlacesAreListedFromTopLeftToBottomRight) {
-  const TVRXCaptionEditorDlg dlg(nullptr);
-  QStringList listed;
-  for (int i = 0; i < dlg.cmb->count(); ++i) listed << dlg.cmb->itemText(i);
-  EXPECT_EQ(listed.join(u' ').toStdString(),
-            "agTopLeft agTopCenter agTopRight agCenterLeft agCenter agCenterRight agBottomLeft "
-            "agBottomCenter agBottomRight");
-}
-
 TEST_F(CaptionDialog, EveryPlaceInTheListIsThePlaceOfThePreview) {
   Launch([](auto& dlg) {
     for (int i = 8; i >= 0; --i) {
@@ -209,28 +200,4 @@ TEST_F(CaptionDialog, ResetGivesANewCaptionAndKeepsTheDialogOpen) {
   }));
   EXPECT_EQ(caption.Caption(), QStringLiteral("Old"));
   EXPECT_EQ(caption.FontFX()->Angle(), 90);
-}
-
-TEST_F(CaptionDialog, EveryControlHasItsNameTextAndHint) {
-  const TVRXCaptionEditorDlg dlg(nullptr);
-  EXPECT_EQ(dlg.windowTitle(), QStringLiteral("Caption Editor"));
-  const std::tuple<const char*, const char*, const char*> expected[] = {
-      {"cmb", "", "Aligns your text in the object it is embedded in."},
-      {"cap", "", ""},
-      {"chk", "MultiLine", "Specifies whether WordWrap is used."},
-      {"btnf", "Font >>", ""},
-      {"btnffx", "", "Changes rotation, 3D-effect etc."},
-      {"test", "", ""},
-      {"reset", "Reset", ""},
-      {"ok", "OK", ""},
-      {"Button1", "Cancel", ""}};
-  for (const auto& [name, text, hint] : expected) {
-    const auto* control = dlg.findChild<QWidget*>(QLatin1StringView(name));
-    ASSERT_NE(control, nullptr) << name;
-    EXPECT_EQ(control->toolTip().toStdString(), hint) << name;
-    if (const auto* button = qobject_cast<const QAbstractButton*>(control)) {
-      EXPECT_EQ(button->text().toStdString(), text);
-    }
-  }
-  EXPECT_TRUE(dlg.ok->isDefault());
 }

@@ -197,30 +197,3 @@ TEST_F(EffectDialog, AFileThatIsNoPictureIsNamedInAWarning) {
   });
   EXPECT_TRUE(pictures[0] == BarOnSilver());
 }
-
-TEST_F(EffectDialog, EveryControlHasItsNameTextAndHint) {
-  EXPECT_EQ(dlg.objectName(), QStringLiteral("VRX3DEffectEditorDlg"));
-  const std::tuple<const char*, const char*, const char*> expected[] = {
-      {"btngetpic", "&Picture >>", "Specify a picture for the 3D-effect."},
-      {"btngetcap", "&Caption >>", "Specify a VRXCaption for the 3D-effect."},
-      {"EXECUTE", "&Execute", "Executes the 3D-effect routine."},
-      {"STOP", "&Stop", "Aborts the 3D effect-routine"},
-      {"Ok", "OK", ""},
-      {"VRXButton4", "Cancel", ""},
-      {"spind", "", "Specifies the width of the bevel."},
-      {"cmbB", "", "Specifies the color of the bevel."},
-      {"cmbD", "", "Specifies the color of the disabled style."},
-      {"cmbL", "", "Specifies the color of the lightened bevel parts."},
-      {"cmbS", "", "Specifies the color of the darkened bevel parts."}};
-  for (const auto& [name, text, hint] : expected) {
-    const auto* control = dlg.findChild<QWidget*>(QLatin1StringView(name));
-    ASSERT_NE(control, nullptr) << name;
-    EXPECT_EQ(control->toolTip().toStdString(), hint) << name;
-    if (const auto* button = qobject_cast<const QPushButton*>(control)) {
-      EXPECT_EQ(button->text().toStdString(), text);
-    }
-  }
-  for (const char* name : {"dlgb", "dlgd", "dlgl", "dlgs", "BtnImg", "cmbState", "vrxprog"})
-    EXPECT_NE(dlg.findChild<QWidget*>(QLatin1StringView(name)), nullptr) << name;
-  EXPECT_TRUE(dlg.Ok->isDefault());
-}

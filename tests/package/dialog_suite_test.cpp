@@ -1,0 +1,350 @@
+// What holds for every dialog: those of the package, and those that they open.
+#include "dclstd/DialogDescription.h"
+#include "dclstd/DialogRegistration.h"
+#include "dclstd/FontDialog.h"
+#include "designintf/IdeTheme.h"
+#include "library_design/ColorDialogs.h"
+#include "library_design/FontDialogs.h"
+#include "package/dialogs/pVRXCaptionEditorDlg.h"
+#include "package/dialogs/pVRXLEDEditorDlg.h"
+#include "package/property_editors/pVRXCPGetMain.h"
+#include "package/registration/VRX_RegMainEditors.h"
+#include "rtl/Exceptions.h"
+#include "rtl/PropText.h"
+#include "tests/package/PixelDialogTest.h"
+#include "tests/support/Fields.h"
+#include "vcl/Theme.h"
+
+namespace {
+// What Tab goes through as a dialog opens, page by page.
+struct TabRow {
+  const char* dialog;
+  int page;
+  const char* controls;
+};
+constexpr TabRow TabRows[] = {
+    {"TVRXLEDEditorDlg", 0, "edhs edvs edt cmbb bt1 cmbL bt2 pred chk ok Button1 reset"},
+    {"TVRXCaptionEditorDlg", 0, "cap cmb chk btnf btnffx ok Button1 reset"},
+    {"TVRX3DEffectEditorDlg", 0,
+     "btngetpic btngetcap spind cmbB dlgb cmbD dlgd cmbL dlgl cmbS dlgs EXECUTE STOP Ok VRXButton4"},
+    {"TVRXfrmRegionFromBMPdlg", 0, "pages LoadButton VRXScrollBox1 cl CancelButton"},
+    {"TVRXfrmRegionFromBMPdlg", 1, "pages cb colb ccb ResultBox CancelButton"},
+    {"TVRXFontFxEditorDlg", 0, "cmbstyle edlight cmbL edshadow cmbs edangle edtracing ok cancel reset"},
+    {"FontDialog", 0,
+     "cmbname edsize edheight cmbcolor cmbcharset cmbpitch bold italic underline strikeout ok cancel reset"},
+};
+
+std::vector<TDialogRegistration> AllDialogs() {
+  DesignRegistry registry;
+  const RegistrationScope scope(registry, nullptr, {});
+  VRX_RegMainEditors::Register();
+  registration::Dialogs<TVRXFontFxEditorDlg, FontDialog>().Call();
+  return registry.Dialogs();
+}
+void ForEveryDialog(const std::function<void(ModalDialog&)>& check) {
+  for (const TDialogRegistration& entry : AllDialogs()) {
+    SCOPED_TRACE(entry.Name.constData());
+    const std::unique_ptr<QDialog> dialog = entry.Open();
+    check(dynamic_cast<ModalDialog&>(*dialog));
+  }
+}
+
+// Hears of every change of what a preview shows.
+class Listener : public IControlHost {
+ public:
+  explicit Listener(bool broken = false) : broken_(broken) {}
+  void ControlChanged(TControl&) override {
+    ++changes;
+    if (broken_) throw Exception(QStringLiteral("The view is broken."));
+  }
+  int changes = 0;
+
+ private:
+  bool broken_;
+};
+
+// One step of whatever can be changed.
+void Touch(QWidget& control) {
+  if (auto* edit = qobject_cast<SpinEdit*>(&control)) edit->setValue(edit->value() + 1);
+  if (auto* box = qobject_cast<QCheckBox*>(&control)) box->click();
+  if (auto* edit = qobject_cast<QLineEdit*>(&control)) edit->setText(edit->text() + QStringLiteral("x"));
+  if (auto* color = qobject_cast<ColorComboBox*>(&control)) {
+    color->SetSelected(color->Selected() == clRed ? clBlue : clRed);
+    emit color->Change();
+  } else if (auto* combo = qobject_cast<QComboBox*>(&control)) {
+    combo->setCurrentIndex(combo->currentIndex() == 1 ? 2 : 1);
+  }
+}
+
+QStringList TextsOf(const TPersistent& value) {
+  QStringList texts;
+  for (const TPropInfo* prop : value.ClassType().Properties())
+    if (prop->Kind() == TTypeKind::tkClass)
+      texts << TextsOf(*GetObjectProp(value, *prop));
+    else
+      texts << QString::fromLatin1(prop->Name) + u'=' + GetPropText(value, *prop);
+  return texts;
+}
+int Lightness(const QColor& color, const QColor& ground) {
+  const double a = color.alphaF();
+  return static_cast<int>(a * qGray(color.rgb()) + (1 - a) * qGray(ground.rgb()));
+}
+}  // namespace
+
+class DialogSuite : public testing::Test {
+ protected:
+  void SetUp() override { SaveIDECustomColors({}); }
+  void TearDown() override {
+    QApplication::setFont(font_);
+    ApplyTheme(TTheme::Light);
+  }
+  ScriptedPrompts prompts;
+
+ private:
+  QFont font_ = QApplication::font();
+};
+
+TEST_F(DialogSuite, KnowsEveryDialogOfThePackageAndWhereTabGoesInIt) {
+  QStringList registered, known;
+  for (const TDialogRegistration& entry : AllDialogs()) registered << QString::fromLatin1(entry.Name);
+  for (const TabRow& row : TabRows)
+    if (row.page == 0) known << QString::fromLatin1(row.dialog);
+  EXPECT_EQ(registered, known);
+}
+
+TEST_F(DialogSuite, OpenedUnseenADialogIsNotOnTheScreen) {
+  ForEveryDialog([](ModalDialog& dialog) {
+    EXPECT_FALSE(dialog.isVisible());
+    EXPECT_FALSE(dialog.activated);
+    EXPECT_FALSE(dialog.windowTitle().isEmpty());
+    EXPECT_GE(DescribeControls(dialog).size(), 8u);
+    EXPECT_FALSE(dialog.isVisible());
+  });
+}
+
+TEST_F(DialogSuite, FormsThatHaveANameKeepIt) {
+  QStringList names;
+  ForEveryDialog([&](ModalDialog& dialog) { names << dialog.objectName(); });
+  names.removeAll(QString());
+  EXPECT_EQ(names.join(u' ').toStdString(), "VRX3DEffectEditorDlg VRXfrmRegionFromBMPdlg");
+}
+
+TEST_F(DialogSuite, EveryControlHasANameOfItsOwn) {
+  ForEveryDialog([](ModalDialog& dialog) {
+    QStringList names;
+    for (const ControlDescription& control : DescribeControls(dialog)) names << control.name;
+    EXPECT_EQ(names.removeDuplicates(), 0) << names.join(u' ').toStdString();
+    for (const QWidget* widget : dialog.findChildren<QWidget*>()) {
+      if (widget->window() != &dialog) continue;  // an open list
+      const bool reached = (widget->focusPolicy() & Qt::TabFocus) != 0 && !widget->focusProxy();
+      EXPECT_FALSE(reached && widget->objectName().isEmpty() && !qobject_cast<const QTabBar*>(widget))
+          << widget->metaObject()->className();
+    }
+  });
+}
+
+TEST_F(DialogSuite, TabReachesEveryControlOnceInTheOrderOfTheRows) {
+  for (const TabRow& row : TabRows) {
+    SCOPED_TRACE(row.dialog);
+    const auto all = AllDialogs();
+    const auto entry =
+        std::find_if(all.begin(), all.end(), [&](const auto& e) { return e.Name == row.dialog; });
+    ASSERT_NE(entry, all.end());
+    const auto dialog = entry->Open();
+    if (auto* pages = dialog->findChild<QTabWidget*>()) pages->setCurrentIndex(row.page);
+    fields::ShowActive(*dialog);
+    const auto nameOf = [](const QWidget* w) {
+      return qobject_cast<const QTabBar*>(w) ? w->parentWidget()->objectName() : w->objectName();
+    };
+    const QStringList wanted = QString::fromLatin1(row.controls).split(u' ');
+    auto* first = dialog->findChild<QWidget*>(wanted[0]);
+    first->setFocus();
+    QStringList reached;
+    for (qsizetype i = 0; i < wanted.size() + 1; ++i) {
+      reached << nameOf(QApplication::focusWidget());
+      QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+    }
+    EXPECT_EQ(reached.join(u' ').toStdString(), (wanted + QStringList{wanted[0]}).join(u' ').toStdString());
+  }
+}
+
+TEST_F(DialogSuite, TextsFitAndCanBeReadWithEveryFontAndTheme) {
+  for (const TTheme theme : {TTheme::Light, TTheme::Dark})
+    for (const int points : {6, 9, 17}) {
+      ApplyTheme(theme);
+      QFont font = QApplication::font();
+      font.setPointSize(points);
+      QApplication::setFont(font);
+      ForEveryDialog([&](ModalDialog& dialog) {
+        fields::ShowActive(dialog);
+        const int ground = qGray(dialog.grab().toImage().pixel(2, dialog.height() - 3));
+        EXPECT_EQ(ground < 128, theme == TTheme::Dark);
+        for (const QWidget* child : dialog.findChildren<QWidget*>()) {
+          const auto* label = qobject_cast<const QLabel*>(child);
+          const auto* button = qobject_cast<const QAbstractButton*>(child);
+          if ((!label && !button) || !child->isVisible() || child->objectName().startsWith(u"qt_")) continue;
+          if (button && button->text().isEmpty()) continue;
+          SCOPED_TRACE((label ? label->text() : button->text()).toStdString());
+          EXPECT_TRUE(dialog.rect().contains(QRect(child->mapTo(&dialog, QPoint()), child->size())));
+          const bool wraps = label && label->wordWrap();
+          const int height = wraps ? child->heightForWidth(child->width()) : child->sizeHint().height();
+          EXPECT_GE(child->height(), height);
+          EXPECT_GE(child->width(), wraps ? child->minimumSizeHint().width() : child->sizeHint().width());
+          const QPalette palette = child->palette();
+          const QColor under = palette.color(child->backgroundRole());
+          const QColor text = palette.color(QPalette::Active, child->foregroundRole());
+          EXPECT_GE(std::abs(Lightness(text, under) - qGray(under.rgb())), 60);
+        }
+      });
+    }
+}
+
+TEST_F(DialogSuite, LoadingChangesNothing) {
+  ForEveryDialog([](ModalDialog& dialog) {
+    auto* editor = dynamic_cast<RowDialog*>(&dialog);
+    ASSERT_NE(editor, nullptr);
+    for (QWidget* control : dialog.findChildren<QWidget*>())
+      if (!qobject_cast<QLineEdit*>(control->parentWidget())) Touch(*control);
+    auto* view = dialog.findChild<ControlView*>();
+    Listener listener;
+    const bool showsIt = view && !qobject_cast<FontDialog*>(&dialog);  // that one shows another font
+    if (showsIt) view->Control()->SetHost(&listener);
+    const bool hasValue = !dialog.inherits("TVRX3DEffectEditorDlg");
+    const QStringList before = hasValue ? TextsOf(editor->Value()) : QStringList();
+    for (int i = 0; i < 2; ++i) dialog.SetLabels();
+    EXPECT_EQ(listener.changes, 0);
+    EXPECT_EQ(hasValue ? TextsOf(editor->Value()) : QStringList(), before);
+    if (showsIt) view->Control()->SetHost(nullptr);
+  });
+}
+
+TEST_F(DialogSuite, NothingBeyondItsLimitsCanBeTypedIntoASpinEdit) {
+  int edits = 0;
+  ForEveryDialog([&](ModalDialog& dialog) {
+    fields::ShowActive(dialog);
+    for (SpinEdit* edit : dialog.findChildren<SpinEdit*>()) {
+      SCOPED_TRACE(edit->objectName().toStdString());
+      const int length = edit->findChild<QLineEdit*>()->maxLength();
+      for (const int beyond : {edit->maximum() + 1, edit->minimum() - 1}) {
+        const QString digits = QString::number(beyond) + u'9';
+        fields::Type(*edit, digits);
+        EXPECT_GE(edit->value(), edit->minimum());
+        EXPECT_LE(edit->value(), edit->maximum());
+        EXPECT_LE(edit->text().size(), length);
+        EXPECT_EQ(edit->text(), QString::number(edit->value()));
+      }
+      ++edits;
+    }
+  });
+  EXPECT_EQ(edits, 10);
+}
+
+TEST_F(DialogSuite, AllColoursOfADialogShareTheirCustomColours) {
+  int shared = 0;
+  ForEveryDialog([&](ModalDialog& dialog) {
+    const auto combos = dialog.findChildren<ColorComboBox*>();
+    if (combos.isEmpty()) return;
+    fields::ShowActive(dialog);
+    QStringList colors;
+    for (qsizetype i = 0; i < combos.size(); ++i) {
+      colors = CustomColorEntries({TColor(0x010203u * static_cast<unsigned>(i + 1)), clNavy});
+      combos[i]->SetCustomColors(colors);
+      for (const ColorComboBox* other : combos) EXPECT_EQ(other->CustomColors(), colors);
+      ++shared;
+    }
+    dialog.reject();
+    EXPECT_EQ(LoadIDECustomColors(), colors);
+  });
+  EXPECT_EQ(shared, 2 + 4 + 2 + 1);
+}
+
+TEST_F(DialogSuite, TheExtendedColourDialogKeepsTheLastSixteenCustomColours) {
+  std::vector<TColor> colors;
+  for (unsigned i = 0; i < 15; ++i) colors.push_back(TColor(0x030201 * (i + 1)));
+  const auto add = [](std::vector<TColor> before, const std::vector<const char*>& added) {
+    QStringList entries = CustomColorEntries(before);
+    TColor color = clRed;
+    modal::Next([&](QDialog& dialog) {
+      for (const char* text : added) {
+        auto* field = dialog.findChildren<QLineEdit*>().last();
+        for (QLineEdit* edit : dialog.findChildren<QLineEdit*>())
+          if (edit->toolTip().contains(QStringLiteral("BBGGRR"))) field = edit;
+        field->selectAll();
+        QTest::keyClicks(field, QString::fromLatin1(text));
+        pixeltest::Click(dialog.findChild<QPushButton*>(QStringLiteral("addCustom")));
+      }
+      dialog.reject();
+    });
+    EXPECT_FALSE(ChooseColorEnh(nullptr, color, entries));
+    EXPECT_EQ(color, clRed);
+    return CustomColorValues(entries);
+  };
+  std::vector<TColor> expected = colors;
+  expected.push_back(clAqua);
+  EXPECT_EQ(add(colors, {"clAqua", "clAqua"}), expected) << "the last place, and each colour once";
+  expected.erase(expected.begin());
+  expected.push_back(clNavy);
+  EXPECT_EQ(add(colors, {"clAqua", "clNavy"}), expected);
+  EXPECT_EQ(expected.size(), 16u);
+}
+
+TEST_F(DialogSuite, OneButtonIsTheDefaultAndItConfirms) {
+  ForEveryDialog([](ModalDialog& dialog) {
+    QStringList defaults;
+    for (const QPushButton* button : dialog.findChildren<QPushButton*>()) {
+      if (button->isDefault()) defaults << button->text().toUpper();
+      EXPECT_FALSE(button->autoDefault()) << button->objectName().toStdString();
+    }
+    EXPECT_EQ(defaults, QStringList{QStringLiteral("OK")});
+  });
+}
+
+TEST_F(DialogSuite, ThePreviewAndNothingElseIsLeftOutOfTheTheme) {
+  const QStringList own{QStringLiteral("test"),   QStringLiteral("BtnImg"), QStringLiteral("Image1"),
+                        QStringLiteral("Result"), QStringLiteral("zoom"),   QStringLiteral("cc")};
+  ForEveryDialog([&](ModalDialog& dialog) {
+    EXPECT_TRUE(IsIDEThemed(dialog));
+    for (const ControlDescription& control : DescribeControls(dialog)) {
+      const auto* widget = dialog.findChild<QWidget*>(control.name);
+      EXPECT_EQ(IsIDEThemed(*widget), !own.contains(control.name)) << control.name.toStdString();
+      EXPECT_EQ(dynamic_cast<RowDialog&>(dialog).NeedTheme(*widget), !own.contains(control.name));
+    }
+  });
+}
+
+namespace {
+// Every row of the value's dialog throws; what was handed over stays, and the dialog too.
+template <class Dialog, class Value>
+void ExpectBrokenHandlersHarmless(bool (*launch)(Value&), ScriptedPrompts& prompts) {
+  Value value;
+  const QStringList before = TextsOf(value);
+  int touched = 0;
+  modal::NextOf<Dialog>([&](Dialog& dialog) {
+    Listener broken(true);
+    dialog.testView->Control()->SetHost(&broken);
+    for (const ControlDescription& control : DescribeControls(dialog)) {
+      prompts.warned.clear();
+      const int changes = broken.changes;
+      Touch(*dialog.template findChild<QWidget*>(control.name));
+      if (broken.changes == changes) continue;
+      ++touched;
+      EXPECT_EQ(prompts.warned, QStringList{QStringLiteral("The view is broken.")})
+          << control.name.toStdString();
+      EXPECT_TRUE(dialog.isVisible());
+      EXPECT_EQ(TextsOf(value), before);
+    }
+    dialog.testView->Control()->SetHost(nullptr);
+    dialog.reject();
+  });
+  EXPECT_FALSE(launch(value));
+  EXPECT_GE(touched, 3);
+  EXPECT_EQ(TextsOf(value), before);
+}
+}  // namespace
+
+TEST_F(DialogSuite, AnExceptionInAHandlerLeavesTheValueAsItWas) {
+  ExpectBrokenHandlersHarmless<TVRXLEDEditorDlg, TVRXLED>(VRXCPGetLED, prompts);
+  ExpectBrokenHandlersHarmless<TVRXCaptionEditorDlg, TVRXCaption>(
+      [](TVRXCaption& value) { return VRXCPGetVRXCaption(value, true); }, prompts);
+  ExpectBrokenHandlersHarmless<TVRXFontFxEditorDlg, TVRXFxCaption>(VRXCPGetFontFx, prompts);
+}
