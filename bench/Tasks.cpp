@@ -87,3 +87,15 @@ void MeasureEdit(const QString& file, const QString& warmUp) {
   Report("edit", Median(edits));
   Report("undo", Median(undos));
 }
+
+void MeasureModified(const QString& file, const QString& warmUp) {
+  const auto session = OpenWarm(file, warmUp);
+  QList<double> times;
+  for (int round = 0; round < 9; ++round) {
+    const Stopwatch time;
+    session->Run(QStringLiteral("Demo"), {}, [&] { session->Modified(); });
+    times << time.Elapsed();
+  }
+  if (session->CanUndo()) qFatal("A command that changed nothing was kept");
+  Report("modified", Median(times));
+}

@@ -9,3 +9,5 @@ void MeasureUiLoad(const QString& file, const QString& warmUp);
 void MeasureFormSave(const QString& file, const QString& warmUp);
 // Time of changing one property of one component, and of taking it back.
 void MeasureEdit(const QString& file, const QString& warmUp);
+// Time of a command that changes nothing although its editor says that it did.
+void MeasureModified(const QString& file, const QString& warmUp);

@@ -15,7 +15,8 @@ const std::map<QString, void (*)(const QString&, const QString&)>& TaskTable() {
   static const std::map<QString, void (*)(const QString&, const QString&)> table{
       {QStringLiteral("load-form"), MeasureFormLoad}, {QStringLiteral("load-ui"), MeasureUiLoad},
       {QStringLiteral("save-form"), MeasureFormSave}, {QStringLiteral("edit-form"), MeasureEdit},
-      {QStringLiteral("pixels"), MeasurePixels},      {QStringLiteral("window"), MeasureWindow},
+      {QStringLiteral("modified"), MeasureModified},  {QStringLiteral("pixels"), MeasurePixels},
+      {QStringLiteral("window"), MeasureWindow},
   };
   return table;
 }
@@ -70,6 +71,7 @@ class Bench {
       Growth("load-form", QStringLiteral("Load"), QStringLiteral("at most 1.5"));
       Growth("save-form", QStringLiteral("Save"), QStringLiteral("at most 1.3"));
       Edits();
+      Modified();
       References();
       Window();
     }
@@ -132,6 +134,17 @@ class Bench {
     const QString what = QStringLiteral("One property, %1: time on 100,000 components / on 100");
     Row(what.arg(QStringLiteral("edit")), QStringLiteral("about 1"), edit);
     Row(what.arg(QStringLiteral("undo")), QStringLiteral("about 1"), undo);
+  }
+
+  void Modified() {
+    Pairs modified;
+    for (int i = 0; i < 3; ++i) {
+      const double large = Measure(QStringLiteral("modified"), 10'000).Value("modified");
+      modified.Add(large, Measure(QStringLiteral("modified"), 100).Value("modified"));
+    }
+    Row(QStringLiteral(
+            "An editor says that something changed, and nothing did: time on 10,000 components / on 100"),
+        QStringLiteral("about 1"), modified);
   }
 
   void References() {

@@ -204,7 +204,8 @@ int RunVrx(const QStringList& arguments, Console& console) {
   }
   for (const CommandRow& row : CommandTable()) {
     if (first != QLatin1StringView(row.name)) continue;
-    if (arguments.contains(QStringLiteral("--help"))) {
+    // Behind "--" stand names only, whatever they look like.
+    if (arguments.mid(0, arguments.indexOf(QStringLiteral("--"))).contains(QStringLiteral("--help"))) {
       console.out << Usage(row) << "\n\n" << row.help << Qt::endl;
       return ExitOk;
     }

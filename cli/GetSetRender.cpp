@@ -8,7 +8,7 @@
 #include "forms/FormFile.h"
 #include "forms/TextWriter.h"
 #include "ide/BoundsCheck.h"
-#include "ide/PictureBudget.h"
+#include "ide/RefusedData.h"
 #include "ide/StandIns.h"
 #include "ide/Tiles.h"
 #include "rtl/Exceptions.h"

@@ -16,8 +16,8 @@ const TTypeInfo& ComponentNameType() { return *TComponent::StaticClass().GetProp
 const TTypeInfo& ModalResultType() { return *TButton::StaticClass().GetProp("ModalResult").PropType; }
 
 const Row kRows[] = {
-    Page("Standard", Classes<TLabel, TButton, TPanel>()),
-    Page("System", Classes<TTimer>()),
+    Page("Standard", TellingClasses<TLabel, TButton, TPanel>()),
+    Page("System", TellingClasses<TTimer>()),
 
     Property<TColor, TColorProperty>(),
     Property<TCursor, TCursorProperty>(),
@@ -42,6 +42,7 @@ const Row kRows[] = {
 void RegisterStandard(DesignRegistry& registry) {
   RegisterStandardIcons();
   RegisterClass(TForm::StaticClass());
+  PromiseTelling(TForm::StaticClass());
   const RegistrationScope scope(registry, nullptr, {});
   MakeCalls(kRows);
 }

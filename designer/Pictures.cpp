@@ -8,7 +8,7 @@
 #include "designer/MainWindow.h"
 #include "designer/ValueEditor.h"
 #include "forms/FormFile.h"
-#include "ide/PictureBudget.h"
+#include "ide/RefusedData.h"
 #include "rtl/Exceptions.h"
 #include "vcl/FormColors.h"
 #include "vcl/PictureFile.h"

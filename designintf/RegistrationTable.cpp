@@ -1,11 +1,16 @@
 #include "designintf/RegistrationTable.h"
 
+#include "rtl/ClassRegistry.h"
+
 namespace registration {
 namespace {
 // Classes describe themselves on first use: not when the table is made, but when the call is.
-std::vector<const TClass*> Described(const std::vector<ClassFunction>& functions) {
+std::vector<const TClass*> Described(const ClassList& list) {
   std::vector<const TClass*> classes;
-  for (const ClassFunction function : functions) classes.push_back(&function());
+  for (const ClassFunction function : list.classes) {
+    classes.push_back(&function());
+    if (list.tell) PromiseTelling(*classes.back());
+  }
   return classes;
 }
 }  // namespace
@@ -14,10 +19,10 @@ void MakeCalls(std::span<const Row> rows) {
   for (const Row& row : rows) row.Call();
 }
 
-Row Page(const char* name, std::vector<ClassFunction> classes) {
+Row Page(const char* name, ClassList classes) {
   return Row([=] { RegisterComponents(QString::fromLatin1(name), Described(classes)); });
 }
-Row Actions(const char* category, std::vector<ClassFunction> classes) {
+Row Actions(const char* category, ClassList classes) {
   return Row([=] { RegisterActions(QString::fromLatin1(category), Described(classes), nullptr); });
 }
 

@@ -2,7 +2,7 @@
 //
 //   using namespace registration;
 //   const Row kRows[] = {
-//       Page("Gauges", Classes<TDial, TClock>()),
+//       Page("Gauges", TellingClasses<TDial, TClock>()),
 //       Component<TDial, TDialEditor>(),
 //       Property<TNeedle, TNeedleProperty>(),                 // everywhere
 //       Property<TNeedle, TShortNeedleProperty, TDial>("Short"),
@@ -37,12 +37,21 @@ class Row {
 // In order. What a call throws comes out; the calls after it are not made.
 void MakeCalls(std::span<const Row> rows);
 
+struct ClassList {
+  std::vector<ClassFunction> classes;
+  bool tell = false;
+};
 template <class... T>
-std::vector<ClassFunction> Classes() {
-  return {&T::StaticClass...};
+ClassList Classes() {
+  return {{&T::StaticClass...}};
 }
-Row Page(const char* name, std::vector<ClassFunction> classes);
-Row Actions(const char* category, std::vector<ClassFunction> classes);
+// Classes that promise that their setters tell (PromiseTelling).
+template <class... T>
+ClassList TellingClasses() {
+  return {{&T::StaticClass...}, true};
+}
+Row Page(const char* name, ClassList classes);
+Row Actions(const char* category, ClassList classes);
 
 namespace detail {
 // The class's own name, without namespaces.

@@ -22,6 +22,11 @@ QString WhatDecidesBounds(const TControl& control) {
            Translated(parts.value(control.Align(), "place and size")));
 }
 
+bool IsBoundsProperty(QByteArrayView name) {
+  static constexpr QByteArrayView names[] = {"Left", "Top", "Width", "Height", "ClientWidth", "ClientHeight"};
+  return std::find(std::begin(names), std::end(names), name) != std::end(names);
+}
+
 void RequireBoundsTaken(const TPersistent& instance, const TPropInfo& prop, std::int64_t wanted) {
   const auto* control = As<TControl>(&instance);
   static const QByteArrayList sizes{"Width", "Height", "ClientWidth", "ClientHeight"};

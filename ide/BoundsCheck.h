@@ -6,5 +6,8 @@
 // control and is not `wanted` although that was just set.
 void RequireBoundsTaken(const TPersistent& instance, const TPropInfo& prop, std::int64_t wanted);
 
+// Whether a control's property of that name is one of its places and sizes.
+bool IsBoundsProperty(QByteArrayView name);
+
 // "Panel1 is aligned (Align = alTop): Form1 decides its place and width."
 QString WhatDecidesBounds(const TControl& control);

@@ -10,7 +10,9 @@ void ComponentModel::SetSession(FormSession* session) {
   session_ = session;
   List();
   endResetModel();
-  if (session_) connect(session_, &FormSession::Changed, this, &ComponentModel::Take);
+  if (!session_) return;
+  connect(session_, &FormSession::Changed, this, &ComponentModel::Take);
+  connect(session_, &QObject::destroyed, this, [this] { SetSession(nullptr); });
 }
 
 void ComponentModel::Take(const FormChange& change) {

@@ -2,6 +2,7 @@
 // of the document itself and keeps nothing that a change of a value could make old.
 #pragma once
 #include <QAbstractItemModel>
+#include <QPointer>
 
 #include "ide/FormSession.h"
 
@@ -31,6 +32,6 @@ class ComponentModel : public QAbstractItemModel {
   }
 
   Shape shape_;
-  FormSession* session_ = nullptr;
+  QPointer<FormSession> session_;
   std::vector<forms::Object*> list_;  // the rows of a list
 };

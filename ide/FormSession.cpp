@@ -1,46 +1,34 @@
 #include "ide/FormSession.h"
 
-#include <QFileInfo>
+#include <QScopeGuard>
 
 #include "designintf/ComponentEditor.h"
 #include "designintf/DesignWindow.h"
 #include "forms/FormFile.h"
-#include "ide/PendingCommand.h"
-#include "ide/PictureBudget.h"
-#include "ide/StandIns.h"
-#include "rtl/ClassRegistry.h"
 #include "rtl/Exceptions.h"
 
-namespace {
-TComponent* MakeRoot(const forms::Object& object, bool sizeIsClient, TComponent* owner) {
-  auto* form = new TForm(owner);
-  form->SetKind(KindOfRoot(object));
-  form->SetSizeIsClient(sizeIsClient);
-  form->SetSizeInherited(object.kind == forms::ObjectKind::Inherited);
-  form->SetStreamClassName(QByteArray(object.className.constData(), object.className.size()));
-  return form;
-}
-}  // namespace
-
-FormSession::FormSession(forms::Document document, DesignRegistry& registry)
-    : registry_(registry), document_(std::move(document)) {}
+FormSession::FormSession(forms::Document document, FileOnDisk file, DesignRegistry& registry)
+    : form_(std::move(document), registry, *this), file_(std::move(file)) {}
 
 FormSession::~FormSession() {
-  if (root_) {
-    root_->SetHost(nullptr);
-    NotifyDesign([this](IDesignNotification& n) { n.DesignerClosed(this); });
-  }
+  if (!GetRoot()) return;
+  Form().SetHost(nullptr);
+  NotifyDesign([this](IDesignNotification& n) { n.DesignerClosed(this); });
+}
+
+std::unique_ptr<FormSession> FormSession::Opened(std::unique_ptr<FormSession> session) {
+  session->Make();
+  session->selection_.Set({}, session->Form());
+  NotifyDesign([&](IDesignNotification& n) { n.DesignerOpened(session.get()); });
+  return session;
 }
 
 std::unique_ptr<FormSession> FormSession::FromBytes(QByteArray bytes, const QString& fileName,
                                                     DesignRegistry& registry) {
-  std::unique_ptr<FormSession> session(
-      new FormSession(forms::Document::Parse(bytes, forms::DialectOfName(fileName)), registry));
-  session->fileName_ = fileName;
-  session->onDisk_ = std::move(bytes);  // shared with the document
-  session->Build();
-  NotifyDesign([&](IDesignNotification& n) { n.DesignerOpened(session.get()); });
-  return session;
+  forms::Document document = forms::Document::Parse(bytes, forms::DialectOfName(fileName));
+  FileOnDisk file(fileName, std::move(bytes));  // the bytes are shared with the document
+  return Opened(
+      std::unique_ptr<FormSession>(new FormSession(std::move(document), std::move(file), registry)));
 }
 
 std::unique_ptr<FormSession> FormSession::Open(const QString& fileName, DesignRegistry& registry) {
@@ -57,118 +45,64 @@ std::unique_ptr<FormSession> FormSession::NewForm(const QString& name, DesignReg
   form.SetClientWidth(480);
   form.SetClientHeight(320);
   forms::DescribeComponent(form, document, document.Root());
-  std::unique_ptr<FormSession> session(new FormSession(std::move(document), registry));
-  session->Build();
-  NotifyDesign([&](IDesignNotification& n) { n.DesignerOpened(session.get()); });
-  return session;
+  return Opened(std::unique_ptr<FormSession>(new FormSession(std::move(document), {}, registry)));
 }
 
-forms::FormReader FormSession::MakeReader(forms::Document& document, forms::ObjectMap& map) const {
-  forms::FormReader reader(document, map);
-  reader.SetDesigning(true);
-  reader.SetRootMaker([lcl = document.Style().lcl](const forms::Object& object, TComponent* owner) {
-    return MakeRoot(object, lcl, owner);
-  });
-  reader.SetCreator([&registry = registry_](const TClass& cls, TComponent* owner) {
-    return PackageCall([&] { return registry.ConstructorOf(cls); }, [&] { return cls.NewComponent(owner); });
-  });
-  reader.SetUnknownMaker([&document](const forms::Object& object, TComponent* owner) {
-    return MakeStandIn(document, object, owner);
-  });
-  return reader;
-}
-
-void FormSession::Build() {
-  RequirePictureBudget(document_, !commands_.empty());
-  map_.Clear();
-  forms::FormReader reader = MakeReader(document_, map_);
-  auto root = reader.ReadRoot();
-  root_.reset(static_cast<TForm*>(root.release()));
-  findings_ = reader.Findings();
-  NoteDangling(findings_);
-  root_->SetHost(this);
-  if (selection_.empty()) selection_ = {root_.get()};
+void FormSession::Make() {
+  form_.Make(!undo_.IsEmpty());
+  Form().SetHost(this);
 }
 
 void FormSession::Rebuild() {
   SettleStray();
-  if (pending_) {
+  if (recorder_) {
     // The components are in use by whatever goes on.
     rebuildWanted_ = true;
     return;
   }
-  const std::vector<forms::Object*> selected = SelectedObjects();
-  root_->SetHost(nullptr);
-  selection_.clear();
-  root_.reset();
-  Build();
-  selection_ = ComponentsOf(selected);
+  {
+    const std::vector<forms::Object*> selected = form_.ObjectsOf(selection_.Components());
+    const auto reselect = qScopeGuard([&] { selection_.Set(form_.ComponentsOf(selected), form_.Root()); });
+    selection_.Clear();
+    Make();
+  }
   Announce({.structure = true});
   emit SelectionChanged();
 }
 
-std::vector<TComponent*> FormSession::AllComponents() const {
-  std::vector<TComponent*> all;
-  const std::function<void(const forms::Object&)> collect = [&](const forms::Object& object) {
-    if (TComponent* c = map_.ComponentOf(object)) all.push_back(c);
-    for (const auto& child : object.children) collect(*child);
-  };
-  collect(document_.Root());
-  return all;
+void FormSession::Came(TComponent& component) {
+  NotifyDesign([&](IDesignNotification& n) { n.ItemInserted(this, &component); });
+}
+
+void FormSession::Going(TComponent& component) {
+  NotifyDesign([&](IDesignNotification& n) { n.ItemDeleted(this, &component); });
+  selection_.Drop(component, Form());
 }
 
 // --- Files
 
-void FormSession::Save() { Write(fileName_, &onDisk_); }
-void FormSession::SaveAs(const QString& fileName) { Write(fileName, nullptr); }
-
-DiskState FormSession::StateOnDisk() const {
-  if (fileName_ == QStringLiteral("-")) return DiskState::Same;
-  if (!QFileInfo::exists(fileName_)) return DiskState::Gone;
-  return forms::ReadFile(fileName_) == onDisk_ ? DiskState::Same : DiskState::Changed;
+void FormSession::Save() {
+  file_.Write(BytesToSave());
+  Saved();
 }
 
-void FormSession::Write(const QString& fileName, const QByteArray* expected) {
-  SettleStray();
-  QByteArray bytes = Bytes();
-  RequireReadable(bytes.size());
-  forms::WriteFile(fileName, bytes, expected);
-  onDisk_ = std::move(bytes);
-  fileName_ = fileName;
-  clean_ = position_;
+void FormSession::SaveAs(const QString& fileName) {
+  file_.WriteAs(fileName, BytesToSave());
+  Saved();
+}
+
+void FormSession::Saved() {
+  undo_.MarkSaved();
   emit ModifiedChanged();
 }
 
 // --- Selection
 
-std::vector<forms::Object*> FormSession::SelectedObjects() const {
-  std::vector<forms::Object*> objects;
-  for (const TComponent* c : selection_)
-    if (forms::Object* o = map_.ObjectOf(*c)) objects.push_back(o);
-  return objects;
-}
-
-std::vector<TComponent*> FormSession::ComponentsOf(const std::vector<forms::Object*>& objects) const {
-  std::vector<TComponent*> components;
-  for (const forms::Object* o : objects)
-    if (TComponent* c = map_.ComponentOf(*o)) components.push_back(c);
-  if (components.empty()) components.push_back(root_.get());
-  return components;
-}
-
 void FormSession::Select(const std::vector<TComponent*>& components) {
-  std::vector<TComponent*> wanted = components;
-  if (wanted.empty()) wanted = {root_.get()};
-  // The form is selected alone.
-  if (wanted.size() > 1) std::erase(wanted, static_cast<TComponent*>(root_.get()));
-  selection_ = wanted;
+  selection_.Set(components, Form());
   emit SelectionChanged();
   const TDesignerSelections list = GetSelections();
   NotifyDesign([&](IDesignNotification& n) { n.SelectionChanged(this, list); });
-}
-
-bool FormSession::IsSelected(const TComponent& component) const {
-  return std::find(selection_.begin(), selection_.end(), &component) != selection_.end();
 }
 
 void FormSession::SelectComponent(TPersistent* instance) { SetSelections({instance}); }
@@ -180,24 +114,14 @@ void FormSession::SetSelections(const TDesignerSelections& list) {
   Select(components);
 }
 
-TDesignerSelections FormSession::GetSelections() const { return {selection_.begin(), selection_.end()}; }
+TDesignerSelections FormSession::GetSelections() const {
+  const auto& selected = selection_.Components();
+  return {selected.begin(), selected.end()};
+}
 
 // --- Names and methods
 
-QString FormSession::GetRootClassName() const { return QString::fromUtf8(root_->StreamClassName()); }
-
-QString FormSession::UniqueName(const QString& baseName) const {
-  QString base = baseName;
-  if (base.size() > 1 && base.startsWith(u'T') && base[1].isUpper()) base.remove(0, 1);
-  for (int i = 1;; ++i) {
-    const QString name = base + QString::number(i);
-    if (!root_->FindComponent(name) && root_->Name().compare(name, Qt::CaseInsensitive) != 0) return name;
-  }
-}
-
-TComponent* FormSession::GetComponent(const QString& name) const {
-  return root_->Name().compare(name, Qt::CaseInsensitive) == 0 ? root_.get() : root_->FindComponent(name);
-}
+QString FormSession::GetRootClassName() const { return QString::fromUtf8(Form().StreamClassName()); }
 
 void FormSession::GetComponentNames(const TClass& cls, const TGetStrProc& proc) const {
   for (const TComponent* c : AllComponents())
@@ -224,10 +148,8 @@ bool FormSession::MethodExists(const QString& name) const {
 void FormSession::ShowMethod(const QString& name) { emit HandlerShown(name); }
 
 void FormSession::Edit(TComponent& component) {
-  const auto editor = registry_.GetComponentEditor(&component, this);
-  Run(tr("Edit %1").arg(component.Name()), {&component}, [&, call = registry_.CallOf(component, "Edit")] {
+  const auto editor = Registry().GetComponentEditor(&component, this);
+  Run(tr("Edit %1").arg(component.Name()), {&component}, [&, call = Registry().CallOf(component, "Edit")] {
     PackageCall([&] { return call; }, [&] { editor->Edit(); });
   });
 }
-
-void FormSession::ControlChanged(TControl& control) { emit RepaintNeeded(control); }

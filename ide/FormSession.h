@@ -1,4 +1,4 @@
-// An open form: its document, its components, the selection and everything that was done to them.
+// An open form: its document and components, its file, the selection and everything that was done to them.
 //
 // Every change goes through Run as one command. A command knows the documents' nodes before and after, so
 // undo gives back the very bytes, and only lines that changed differ in the file. An action that throws is
@@ -6,17 +6,14 @@
 #pragma once
 #include <QObject>
 
-#include "designintf/DesignRegistry.h"
 #include "designintf/Designer.h"
-#include "forms/FormReader.h"
-#include "ide/Command.h"
+#include "ide/CommandRecorder.h"
+#include "ide/FileOnDisk.h"
 #include "ide/FormChange.h"
-#include "vcl/Form.h"
+#include "ide/Selection.h"
+#include "ide/UndoStack.h"
 
-// What became of a file since it was read or written here last. Its content decides.
-enum class DiskState { Same, Changed, Gone };
-
-class FormSession : public QObject, public IDesigner, public IControlHost {
+class FormSession : public QObject, public IDesigner, public IControlHost, private IFormWatcher {
   Q_OBJECT
  public:
   ~FormSession() override;
@@ -30,29 +27,29 @@ class FormSession : public QObject, public IDesigner, public IControlHost {
   static std::unique_ptr<FormSession> NewForm(const QString& name,
                                               DesignRegistry& registry = DesignRegistry::Current());
   // Who makes the editors of the form.
-  DesignRegistry& Registry() const { return registry_; }
+  DesignRegistry& Registry() const { return form_.Registry(); }
 
-  TForm& Form() const { return *root_; }
-  const forms::Document& Document() const { return document_; }
-  const std::vector<forms::Finding>& Findings() const { return findings_; }
-  forms::Object* ObjectOf(const TComponent& component) const { return map_.ObjectOf(component); }
-  TComponent* ComponentOf(const forms::Object& object) const { return map_.ComponentOf(object); }
+  TForm& Form() const { return form_.Root(); }
+  const forms::Document& Document() const { return form_.Document(); }
+  const std::vector<forms::Finding>& Findings() const { return form_.Findings(); }
+  forms::Object* ObjectOf(const TComponent& component) const { return form_.ObjectOf(component); }
+  TComponent* ComponentOf(const forms::Object& object) const { return form_.ComponentOf(object); }
   // All components in the order of the file, the root first.
-  std::vector<TComponent*> AllComponents() const;
+  std::vector<TComponent*> AllComponents() const { return form_.AllComponents(); }
 
   // --- Files
-  const QString& FileName() const { return fileName_; }
-  QByteArray Bytes() const { return document_.Write(); }
+  const QString& FileName() const { return file_.Name(); }
+  QByteArray Bytes() const { return Document().Write(); }
   // Both throw and stay modified when the file cannot be written; the old file is then untouched. Save also
   // refuses (EFileChanged) when another program changed or removed the file meanwhile; SaveAs replaces any
   // file.
   void Save();
   void SaveAs(const QString& fileName);
   // Throws when the file cannot be read.
-  DiskState StateOnDisk() const;
+  DiskState StateOnDisk() const { return file_.State(); }
   // The person has seen what another program wrote; the next Save may replace it.
-  void AcceptOnDisk(const QByteArray& seen) { onDisk_ = seen; }
-  bool IsModified() const { return position_ != clean_; }
+  void AcceptOnDisk(const QByteArray& seen) { file_.Accept(seen); }
+  bool IsModified() const { return undo_.IsModified(); }
 
   // --- Commands
   // Runs `action`, which changes `touched` (and whatever follows from that), as one command. Nothing changed:
@@ -71,10 +68,10 @@ class FormSession : public QObject, public IDesigner, public IControlHost {
   // Keeps what the last step did as one command, or takes it back.
   void EndLive(const QString& text, bool keep);
   bool IsLive() const;
-  bool CanUndo() const { return position_ > 0; }
-  bool CanRedo() const { return position_ < static_cast<int>(commands_.size()); }
-  QString UndoText() const;
-  QString RedoText() const;
+  bool CanUndo() const { return undo_.CanUndo(); }
+  bool CanRedo() const { return undo_.CanRedo(); }
+  QString UndoText() const { return undo_.UndoText(); }
+  QString RedoText() const { return undo_.RedoText(); }
   void Undo();
   void Redo();
 
@@ -97,16 +94,16 @@ class FormSession : public QObject, public IDesigner, public IControlHost {
   void Rebuild();
 
   // --- Selection
-  std::vector<TComponent*> SelectedComponents() const { return selection_; }
+  std::vector<TComponent*> SelectedComponents() const { return selection_.Components(); }
   void Select(const std::vector<TComponent*>& components);
-  bool IsSelected(const TComponent& component) const;
+  bool IsSelected(const TComponent& component) const { return selection_.Contains(component); }
 
   // --- IDesigner
   void Modified() override;
-  TComponent* GetRoot() const override { return root_.get(); }
+  TComponent* GetRoot() const override { return form_.RootOrNull(); }
   QString GetRootClassName() const override;
-  QString UniqueName(const QString& baseName) const override;
-  TComponent* GetComponent(const QString& name) const override;
+  QString UniqueName(const QString& baseName) const override { return form_.UniqueName(baseName); }
+  TComponent* GetComponent(const QString& name) const override { return form_.FindComponent(name); }
   QString GetComponentName(const TComponent& component) const override { return component.Name(); }
   void GetComponentNames(const TClass& cls, const TGetStrProc& proc) const override;
   void SelectComponent(TPersistent* instance) override;
@@ -125,7 +122,7 @@ class FormSession : public QObject, public IDesigner, public IControlHost {
   void ComponentListed(TComponent& component, TOperation operation) override;
   void ControlPlaced(TControl& control) override;
   // Undo and redo know every place themselves.
-  bool LayoutFrozen() const override { return applying_; }
+  bool LayoutFrozen() const override { return form_.IsFrozen(); }
 
  signals:
   void Changed(const FormChange& change);
@@ -136,66 +133,36 @@ class FormSession : public QObject, public IDesigner, public IControlHost {
   void HandlerShown(const QString& name);
 
  private:
-  struct Pending;
-  FormSession(forms::Document document, DesignRegistry& registry);
-  void Build();
-  void Write(const QString& fileName, const QByteArray* expected);
-  void Capture(TComponent& component);
-  void Begin(int kind);
-  void NoteStray();
+  FormSession(forms::Document document, FileOnDisk file, DesignRegistry& registry);
+  static std::unique_ptr<FormSession> Opened(std::unique_ptr<FormSession> session);
+  void Came(TComponent& component) override;
+  void Going(TComponent& component) override;
+  void Make();
+  QByteArray BytesToSave();
+  void Saved();
+
+  using Kind = CommandRecorder::Kind;
+  bool Is(Kind kind) const { return recorder_ && recorder_->TheKind() == kind; }
+  void Begin(Kind kind);
+  CommandRecorder& Recorder();
   void SettleStray();
-  void Commit(const QString& text);
-  void RequireReadableAfter(const Command& command);
-  static void RequireReadable(qsizetype size);
+  std::unique_ptr<Command> Take();
+  qsizetype Commit(const QString& text);
   void Rollback();
+  void Step(Command& command, bool redo);
   void Ended();
-  std::unique_ptr<Command> TakeDifferences();
-  void TakeBounds();
-  void MarkFollowing(std::vector<forms::ValueChange>& values, const TControl& control) const;
-  void TakePlaces();
-  void TakeArrivals();
-  void Enter(TComponent& component, forms::Object& parent);
-  void Adopt(TComponent& component);
-  void CaptureAll();
-  void Push(std::unique_ptr<Command> command);
-  void Apply(Command& command, bool redo);
-  void ApplyStructure(StructureChange& change, bool redo);
-  void Settle(forms::Object& object);
-  void NoteDangling(const std::vector<forms::Finding>& findings);
-  void Reconnect();
-  void ApplyValues(ComponentChange& change, bool redo);
-  void SetObjectName(forms::Object& object, const QString& name);
-  void RemoveObject(forms::Object& object);
-  void RemoveWithChildren(TComponent& component);
-  void InsertObject(StructureChange& change);
-  TComponent* MakeComponents(const StructureChange& change);
+  void RequireReadable(qsizetype newData) const;
   void RequireRoomFor(const std::vector<Insertion>& insertions,
                       std::vector<std::unique_ptr<forms::Object>>& objects, qsizetype data);
   void TakeIntoLayout(TComponent& component);
-  void MoveObject(StructureChange& change, bool redo);
-  void TakeObject(StructureChange& change);
+  TWinControl& ContainerFor(TComponent* wanted) const;
   void Announce(const FormChange& change);
   FormChange ChangeOf(const Command& command) const;
-  forms::FormReader MakeReader(forms::Document& document, forms::ObjectMap& map) const;
-  std::vector<TComponent*> ComponentsOf(const std::vector<forms::Object*>& objects) const;
-  std::vector<forms::Object*> SelectedObjects() const;
-  int NewChildIndex(const forms::Object& parent, bool control) const;
-  int PlaceAmong(const forms::Object& parent, int index) const;
 
-  DesignRegistry& registry_;
-  forms::Document document_;
-  forms::ObjectMap map_;
-  std::unique_ptr<TForm> root_;
-  std::vector<forms::Finding> findings_;
-  QString fileName_;
-  QByteArray onDisk_;  // what the file held when it was read or written last
-  std::vector<TComponent*> selection_;
-  std::vector<std::unique_ptr<Command>> commands_;
-  int position_ = 0;
-  int clean_ = 0;
-  std::unique_ptr<Pending> pending_;
-  bool applying_ = false;     // an undo, a redo or a rollback is under way
-  bool structuring_ = false;  // the session itself makes or frees components
+  BoundForm form_;
+  FileOnDisk file_;
+  Selection selection_;
+  UndoStack undo_;
+  std::unique_ptr<CommandRecorder> recorder_;  // while a command is under way
   bool rebuildWanted_ = false;
-  bool dangling_ = false;  // a reference in the file names something that was not there
 };

@@ -1,25 +1,90 @@
-// Running, undoing and redoing commands.
-#include <QScopedValueRollback>
-
+// Running, undoing and redoing commands, and hearing what components tell meanwhile.
 #include "designintf/DesignWindow.h"
-#include "ide/PendingCommand.h"
+#include "ide/FormSession.h"
 #include "ide/PictureBudget.h"
 #include "rtl/Exceptions.h"
-#include "rtl/PropAccess.h"
 
 namespace {
-QSet<QByteArray> BoundsPaths() { return {"Left", "Top", "Width", "Height", "ClientWidth", "ClientHeight"}; }
+qsizetype DataIn(const Command& command) {
+  qsizetype data = 0;
+  for (const ComponentChange& c : command.components)
+    for (const forms::ValueChange& v : c.values)
+      if (v.after.type == forms::ValueType::Binary) data += v.after.bytes.size();
+  return data;
+}
+
+void RequireSize(qsizetype size) {
+  if (size > forms::MaxFileSize)
+    throw Exception(
+        QStringLiteral("The form would become larger than %1 MB and could not be opened again. Use smaller "
+                       "pictures, or store them compressed.")
+            .arg(forms::MaxFileSize >> 20));
+}
 }  // namespace
 
-bool FormSession::IsBusy() const { return pending_ && pending_->kind != Pending::Kind::Stray; }
+// --- What components tell
+
+// A change outside of any command, by a design window or a timer, becomes a command of its own, at the latest
+// when the event that made it is over.
+CommandRecorder& FormSession::Recorder() {
+  if (!recorder_) {
+    Begin(Kind::Stray);
+    QMetaObject::invokeMethod(this, &FormSession::SettleStray, Qt::QueuedConnection);
+  }
+  return *recorder_;
+}
+
+void FormSession::ControlChanged(TControl& control) { emit RepaintNeeded(control); }
+
+void FormSession::ComponentChanging(TComponent& component) {
+  // What it covers now, too: a text may get shorter.
+  if (const auto* control = As<TControl>(&component)) emit RepaintNeeded(*control);
+  if (!form_.IsFrozen() && !form_.IsBuilding() && ObjectOf(component)) Recorder().Capture(component);
+}
+
+void FormSession::BoundsChanging(TControl& control) {
+  if (!form_.IsFrozen() && ObjectOf(control)) Recorder().CaptureBounds(control);
+}
+
+void FormSession::ControlPlaced(TControl& control) {
+  if (!form_.IsFrozen() && !form_.IsBuilding() && ObjectOf(control)) Recorder().NotePlaced(control);
+}
+
+void FormSession::ComponentListed(TComponent& component, TOperation operation) {
+  if (form_.IsFrozen() || form_.IsBuilding()) return;
+  if (operation == TOperation::opInsert)
+    Recorder().NoteCame(component);
+  else
+    Recorder().NoteGoing(component);
+}
+
+// Inside a command the running command takes it along. Outside, a design window changed something.
+void FormSession::Modified() {
+  if (form_.IsFrozen()) return;
+  if (!recorder_) Begin(Kind::Stray);
+  recorder_->NoteModified();
+  SettleStray();
+}
+
+// --- Commands
+
+bool FormSession::IsBusy() const { return recorder_ && !Is(Kind::Stray); }
+
+void FormSession::Begin(Kind kind) {
+  recorder_ = std::make_unique<CommandRecorder>(form_, kind, form_.ObjectsOf(selection_.Components()));
+}
+
+void FormSession::SettleStray() {
+  if (Is(Kind::Stray)) Commit(tr("Change"));
+}
 
 void FormSession::Run(const QString& text, const std::vector<TComponent*>& touched,
                       const std::function<void()>& action) {
   SettleStray();
   EndLive({}, false);
-  const bool outer = !pending_;
-  if (outer) Begin(static_cast<int>(Pending::Kind::Action));
-  for (TComponent* c : touched) Capture(*c);
+  const bool outer = !recorder_;
+  if (outer) Begin(Kind::Action);
+  for (TComponent* c : touched) recorder_->Capture(*c);
   if (!outer) return action();
   try {
     action();
@@ -27,50 +92,41 @@ void FormSession::Run(const QString& text, const std::vector<TComponent*>& touch
     Rollback();
     throw;
   }
-  const int before = position_;
-  Commit(text);
-  if (position_ == before + 1) RequireReadableAfter(*commands_.back());
-}
-
-// What an edit makes, the next reading of the file takes: an edit that goes beyond is taken back.
-void FormSession::RequireReadableAfter(const Command& command) {
-  qsizetype data = 0;
-  for (const ComponentChange& c : command.components)
-    for (const forms::ValueChange& v : c.values)
-      if (v.after.type == forms::ValueType::Binary) data += v.after.bytes.size();
+  const qsizetype data = Commit(text);
   if (data == 0) return;
+  // What an edit makes, the next reading of the file takes: an edit that goes beyond is taken back.
   try {
-    RequirePictureBudget(document_, true);
-    constexpr qsizetype Large = qsizetype{1} << 20;
-    if (data > Large) RequireReadable(Bytes().size());
+    RequireReadable(data);
   } catch (const Exception&) {
     Undo();
-    commands_.pop_back();
+    undo_.ForgetUndone();
     emit ModifiedChanged();  // there is nothing to redo
     throw;
   }
 }
 
-void FormSession::RequireReadable(qsizetype size) {
-  if (size > forms::MaxFileSize)
-    throw Exception(
-        QStringLiteral("The form would become larger than %1 MB and could not be opened again. Use smaller "
-                       "pictures, or store them compressed.")
-            .arg(forms::MaxFileSize >> 20));
+void FormSession::RequireReadable(qsizetype newData) const {
+  RequirePictureBudget(Document(), true);
+  constexpr qsizetype Large = qsizetype{1} << 20;
+  if (newData > Large) RequireSize(Bytes().size());
 }
 
-bool FormSession::IsLive() const { return pending_ && pending_->kind == Pending::Kind::Live; }
+QByteArray FormSession::BytesToSave() {
+  SettleStray();
+  QByteArray bytes = Bytes();
+  RequireSize(bytes.size());
+  return bytes;
+}
+
+bool FormSession::IsLive() const { return Is(Kind::Live); }
 
 void FormSession::BeginLive() {
   SettleStray();
-  if (!pending_) Begin(static_cast<int>(Pending::Kind::Live));
+  if (!recorder_) Begin(Kind::Live);
 }
 
 void FormSession::RestartLive() {
-  if (!IsLive()) return;
-  const QScopedValueRollback guard(applying_, true);
-  for (const auto& [control, before] : pending_->bounds)
-    control->SetBounds(before.left(), before.top(), before.width(), before.height());
+  if (IsLive()) recorder_->RestoreBounds();
 }
 
 void FormSession::EndLive(const QString& text, bool keep) {
@@ -81,21 +137,36 @@ void FormSession::EndLive(const QString& text, bool keep) {
     Rollback();
 }
 
-void FormSession::Commit(const QString& text) {
-  // Somebody says that something changed, and nobody told of it before.
-  if (pending_->modified && !pending_->announced) CaptureAll();
-  auto command = TakeDifferences();
-  if (!command->structure.empty()) Reconnect();
-  FormChange shown;
-  for (const auto& c : pending_->captured)
-    if (map_.ObjectOf(*c.component) == c.object) shown.values.push_back(c.component);
-  pending_.reset();
+std::unique_ptr<Command> FormSession::Take() {
+  auto command = recorder_->Take();
+  command->selectionAfter = form_.ObjectsOf(selection_.Components());
+  return command;
+}
+
+// How much binary data the command put into the form.
+qsizetype FormSession::Commit(const QString& text) {
+  auto command = Take();
+  if (!command->structure.empty()) form_.Reconnect();
+  const FormChange shown{.values = recorder_->Captured()};
+  recorder_.reset();
+  const qsizetype data = command->Empty() ? 0 : DataIn(*command);
   if (command->Empty()) {
     emit Changed(shown);  // live previews may have been shown on the way
   } else {
     command->text = text;
-    Push(std::move(command));
+    Announce(ChangeOf(undo_.Push(std::move(command))));
+    emit ModifiedChanged();
   }
+  Ended();
+  return data;
+}
+
+// Takes back what the command did so far, even if it did not come to saying so.
+void FormSession::Rollback() {
+  recorder_->NoteModified();
+  const auto command = Take();
+  recorder_.reset();
+  Step(*command, false);
   Ended();
 }
 
@@ -104,32 +175,32 @@ void FormSession::Ended() {
   if (std::exchange(rebuildWanted_, false)) Rebuild();
 }
 
-void FormSession::Push(std::unique_ptr<Command> command) {
-  if (clean_ > position_) clean_ = -1;  // the saved state can no longer be reached
-  commands_.resize(static_cast<std::size_t>(position_));
-  const FormChange change = ChangeOf(*command);
-  commands_.push_back(std::move(command));
-  ++position_;
-  Announce(change);
+void FormSession::Step(Command& command, bool redo) {
+  form_.Apply(command, redo);
+  selection_.Set(form_.ComponentsOf(redo ? command.selectionAfter : command.selectionBefore), Form());
+  Announce(ChangeOf(command));
+  Select(selection_.Components());
+}
+
+void FormSession::Undo() {
+  SettleStray();
+  if (!CanUndo() || recorder_) return;
+  Step(undo_.StepBack(), false);
   emit ModifiedChanged();
 }
 
-// Takes back what the pending command did so far.
-void FormSession::Rollback() {
-  auto command = TakeDifferences();
-  pending_.reset();
-  Apply(*command, false);
-  selection_ = ComponentsOf(command->selectionBefore);
-  Announce(ChangeOf(*command));
-  Select(selection_);
-  Ended();
+void FormSession::Redo() {
+  SettleStray();
+  if (!CanRedo() || recorder_) return;
+  Step(undo_.StepForward(), true);
+  emit ModifiedChanged();
 }
 
 FormChange FormSession::ChangeOf(const Command& command) const {
   FormChange change;
   change.structure = !command.structure.empty();
   for (const ComponentChange& c : command.components) {
-    TComponent* component = map_.ComponentOf(*c.object);
+    TComponent* component = ComponentOf(*c.object);
     if (!component) continue;
     change.values.push_back(component);
     if (c.nameBefore != c.nameAfter) change.renamed.push_back(component);
@@ -140,167 +211,4 @@ FormChange FormSession::ChangeOf(const Command& command) const {
 void FormSession::Announce(const FormChange& change) {
   emit Changed(change);
   NotifyDesign([this](IDesignNotification& n) { n.ItemsModified(this); });
-}
-
-QString FormSession::UndoText() const {
-  return CanUndo() ? commands_[static_cast<std::size_t>(position_ - 1)]->text : QString();
-}
-QString FormSession::RedoText() const {
-  return CanRedo() ? commands_[static_cast<std::size_t>(position_)]->text : QString();
-}
-
-void FormSession::Undo() {
-  SettleStray();
-  if (!CanUndo() || pending_) return;
-  Command& command = *commands_[static_cast<std::size_t>(--position_)];
-  Apply(command, false);
-  selection_ = ComponentsOf(command.selectionBefore);
-  Announce(ChangeOf(command));
-  Select(selection_);
-  emit ModifiedChanged();
-}
-
-void FormSession::Redo() {
-  SettleStray();
-  if (!CanRedo() || pending_) return;
-  Command& command = *commands_[static_cast<std::size_t>(position_++)];
-  Apply(command, true);
-  selection_ = ComponentsOf(command.selectionAfter);
-  Announce(ChangeOf(command));
-  Select(selection_);
-  emit ModifiedChanged();
-}
-
-void FormSession::SetObjectName(forms::Object& object, const QString& name) {
-  object.name = name.toUtf8();
-  object.headerChanged = true;
-}
-
-void FormSession::Apply(Command& command, bool redo) {
-  const QScopedValueRollback guard(applying_, true);
-  if (redo)
-    for (StructureChange& s : command.structure) ApplyStructure(s, true);
-  else
-    for (auto it = command.structure.rbegin(); it != command.structure.rend(); ++it)
-      ApplyStructure(*it, false);
-  // Names first: values may refer to them.
-  for (ComponentChange& c : command.components) {
-    if (c.nameBefore == c.nameAfter) continue;
-    TComponent* component = map_.ComponentOf(*c.object);
-    component->SetName(redo ? c.nameAfter : c.nameBefore);
-    c.object->name = component->Name().toUtf8();
-    c.object->className = redo ? c.classAfter : c.classBefore;
-    c.object->headerChanged = redo || c.headerChangedBefore;
-    if (component == root_.get()) root_->SetStreamClassName(c.object->className);
-  }
-  for (ComponentChange& c : command.components) ApplyValues(c, redo);
-  for (StructureChange& s : command.structure)
-    if (!s.held) Settle(*s.object);
-  if (!command.structure.empty()) Reconnect();
-}
-
-// What came back before everything else was in place: components it refers to may have come later, and its
-// surroundings may have changed its bounds since.
-void FormSession::Settle(forms::Object& object) {
-  if (TComponent* c = map_.ComponentOf(object))
-    for (const forms::Property& p : object.properties) {
-      const forms::PropertyTarget target = forms::FindTarget(*c, p.Name());
-      if (!target.Found() || !target.prop) continue;
-      if (!IsComponentRef(*target.prop) && !BoundsPaths().contains(p.Name().toByteArray())) continue;
-      try {
-        forms::ApplyNow(*root_, target, document_.Read(p), document_);
-      } catch (const Exception&) {
-        // A reference to something that is not on this form; the reader has reported it.
-      }
-    }
-  for (const auto& child : object.children) Settle(*child);
-}
-
-void FormSession::ApplyValues(ComponentChange& change, bool redo) {
-  TComponent* component = map_.ComponentOf(*change.object);
-  const auto set = [&](const forms::ValueChange& v) {
-    const forms::PropertyTarget target = forms::FindTarget(*component, v.path);
-    if (!target.Found()) return;
-    try {
-      forms::ApplyNow(*root_, target, redo ? v.after : v.before, document_);
-    } catch (const Exception&) {
-      // The document has the value all the same; one setter that refuses does not keep the others back.
-    }
-  };
-  for (const forms::ValueChange& v : change.values) set(v);
-  // Whatever sized itself on the way gets its place back.
-  for (const forms::ValueChange& v : change.values)
-    if (BoundsPaths().contains(v.path)) set(v);
-  if (redo)
-    forms::RepatchObject(*change.object, change.values);
-  else
-    forms::UnpatchObject(*change.object, change.values);
-}
-
-void FormSession::ApplyStructure(StructureChange& s, bool redo) {
-  if (s.kind == StructureChange::Kind::Move)
-    MoveObject(s, redo);
-  else if ((s.kind == StructureChange::Kind::Insert) == redo)
-    InsertObject(s);
-  else
-    TakeObject(s);
-}
-
-void FormSession::InsertObject(StructureChange& s) {
-  s.parent->Insert(s.index, std::move(s.held));
-  MakeComponents(s);
-}
-
-// Of an object that stands in the document already.
-TComponent* FormSession::MakeComponents(const StructureChange& s) {
-  forms::FormReader reader = MakeReader(document_, map_);
-  TComponent* c = reader.ReadChild(*s.object, *root_, *map_.ComponentOf(*s.parent));
-  NoteDangling(reader.Findings());
-  if (!c) return nullptr;
-  // Back to its place among the siblings.
-  if (auto* control = As<TControl>(c); control && control->Parent())
-    control->Parent()->SetControlIndex(control, PlaceAmong(*s.parent, s.index));
-  NotifyDesign([&](IDesignNotification& n) { n.ItemInserted(this, c); });
-  return c;
-}
-
-// How many controls stand before the child.
-int FormSession::PlaceAmong(const forms::Object& parent, int index) const {
-  int place = 0;
-  for (int i = 0; i < index; ++i)
-    if (As<TControl>(map_.ComponentOf(*parent.children[static_cast<std::size_t>(i)]))) ++place;
-  return place;
-}
-
-void FormSession::MoveObject(StructureChange& s, bool redo) {
-  forms::Object* to = redo ? s.newParent : s.parent;
-  std::unique_ptr<forms::Object> node = s.object->parent->Take(s.object->IndexInParent());
-  const int index = redo ? s.newIndex : s.index;
-  to->Insert(index, std::move(node));
-  auto* control = As<TControl>(map_.ComponentOf(*s.object));
-  if (!control) return;
-  control->SetParentComponent(map_.ComponentOf(*to));
-  if (control->Parent()) control->Parent()->SetControlIndex(control, PlaceAmong(*to, index));
-}
-
-void FormSession::TakeObject(StructureChange& s) {
-  const QScopedValueRollback guard(structuring_, true);
-  RemoveObject(*s.object);
-  if (selection_.empty()) selection_ = {root_.get()};
-  s.index = s.object->IndexInParent();
-  s.held = s.parent->Take(s.index);
-}
-
-// By objects, because components of unknown classes do not know what stands inside them.
-void FormSession::RemoveObject(forms::Object& object) {
-  for (auto it = object.children.rbegin(); it != object.children.rend(); ++it) RemoveObject(**it);
-  if (TComponent* c = map_.ComponentOf(object)) RemoveWithChildren(*c);
-}
-
-void FormSession::RemoveWithChildren(TComponent& component) {
-  for (TComponent* child : component.GetChildren()) RemoveWithChildren(*child);
-  NotifyDesign([&](IDesignNotification& n) { n.ItemDeleted(this, &component); });
-  std::erase(selection_, &component);
-  map_.Remove(component);
-  delete &component;
 }

@@ -19,6 +19,14 @@ bool Has(const TPropertyEditor& editor, TPropertyAttribute attribute) {
                    [&] { return editor.GetAttributes().Contains(attribute); });
 }
 
+QString TextOf(const TPropertyEditor& editor) {
+  if (editor.PropCount() != 1 && !AskEditor(editor, "AllEqual", false, [&] { return editor.AllEqual(); }))
+    return {};
+  return AskEditor(editor, "GetValue", QString(), [&] { return editor.GetValue(); });
+}
+bool IsNotDefault(const TPropertyEditor& editor) {
+  return !AskEditor(editor, "IsDefault", true, [&] { return editor.IsDefault(); });
+}
 }  // namespace
 
 struct InspectorModel::Node {
@@ -27,7 +35,10 @@ struct InspectorModel::Node {
   std::unique_ptr<TPropertyEditor> editor;
   QString category;
   bool loaded = false;
-  bool above = false;                 // the filter finds something below
+  bool above = false;  // the filter finds something below
+  // What views were told; nothing when they did not ask since it changed.
+  std::optional<QString> toldText;
+  std::optional<bool> toldNotDefault;
   std::vector<TPersistent*> objects;  // whose properties the rows below are
   std::vector<std::unique_ptr<Node>> all;
   std::vector<Node*> shown;  // those that the filter leaves
@@ -72,6 +83,7 @@ void InspectorModel::SetSession(FormSession* session) {
       if (change.structure) Rebuild();
       Refresh();
     });
+    connect(session_, &QObject::destroyed, this, [this] { SetSession(nullptr); });
   }
   Rebuild();
 }
@@ -204,14 +216,33 @@ bool InspectorModel::IsStale(const Node& node) const {
 
 void InspectorModel::Refresh() {
   if (!session_ || shown_ != session_->SelectedComponents() || IsStale(*root_)) return Rebuild();
-  std::function<void(const QModelIndex&)> touch = [&](const QModelIndex& parent) {
-    const Node* node = parent.isValid() ? NodeAt(parent) : root_.get();
-    const int rows = node->loaded ? static_cast<int>(node->shown.size()) : 0;
-    if (rows == 0) return;
-    emit dataChanged(index(0, 0, parent), index(rows - 1, 1, parent));
-    for (int i = 0; i < rows; ++i) touch(index(i, 0, parent));
-  };
-  touch({});
+  TellChanges({});
+}
+
+// Of the rows that views know, those that show something else now, neighbours at once.
+void InspectorModel::TellChanges(const QModelIndex& parent) {
+  const Node* node = parent.isValid() ? NodeAt(parent) : root_.get();
+  const int rows = node->loaded ? static_cast<int>(node->shown.size()) : 0;
+  std::vector<bool> changed(static_cast<std::size_t>(rows));
+  for (int row = 0; row < rows; ++row)
+    changed[static_cast<std::size_t>(row)] = TakeChange(*node->shown[static_cast<std::size_t>(row)]);
+  for (auto from = changed.begin(); (from = std::find(from, changed.end(), true)) != changed.end();) {
+    const auto to = std::find(from, changed.end(), false);
+    const auto rowOf = [&](auto at) { return static_cast<int>(at - changed.begin()); };
+    emit dataChanged(index(rowOf(from), 1, parent), index(rowOf(to) - 1, 1, parent));
+    from = to;
+  }
+  for (int row = 0; row < rows; ++row) TellChanges(index(row, 0, parent));
+}
+
+bool InspectorModel::TakeChange(Node& node) {
+  const bool changed = (node.toldText && *node.toldText != TextOf(*node.editor)) ||
+                       (node.toldNotDefault && *node.toldNotDefault != IsNotDefault(*node.editor));
+  if (changed) {
+    node.toldText.reset();
+    node.toldNotDefault.reset();
+  }
+  return changed;
 }
 
 InspectorModel::Node* InspectorModel::NodeAt(const QModelIndex& index) const {
@@ -262,9 +293,7 @@ QModelIndex InspectorModel::IndexOfPath(const QString& path) const {
 QString InspectorModel::ValueText(const QModelIndex& index) const {
   const TPropertyEditor* editor = EditorAt(index);
   if (!editor) return {};
-  if (editor->PropCount() != 1 && !AskEditor(*editor, "AllEqual", false, [&] { return editor->AllEqual(); }))
-    return {};
-  return AskEditor(*editor, "GetValue", QString(), [&] { return editor->GetValue(); });
+  return *(NodeAt(index)->toldText = TextOf(*editor));
 }
 
 QStringList InspectorModel::ValueList(const QModelIndex& index) const {
@@ -370,7 +399,7 @@ QVariant InspectorModel::data(const QModelIndex& index, int role) const {
     case Qt::ToolTipRole:
       return index.column() == 1 ? QVariant(Shortened(ValueText(index))) : QVariant();
     case NotDefaultRole:
-      return !AskEditor(*editor, "IsDefault", true, [&] { return editor->IsDefault(); });
+      return *(NodeAt(index)->toldNotDefault = IsNotDefault(*editor));
     case IsBooleanRole: {
       // Lists of components and handlers are long, and nothing of the kind.
       const TTypeKind kind = editor->GetPropType().Kind;

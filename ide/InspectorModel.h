@@ -2,6 +2,7 @@
 // is the name, column 1 the value. Every change goes through the session as one command.
 #pragma once
 #include <QAbstractItemModel>
+#include <QPointer>
 
 #include "designintf/PropertyEditor.h"
 #include "ide/FormSession.h"
@@ -66,10 +67,12 @@ class InspectorModel : public QAbstractItemModel {
   bool IsStale(const Node& node) const;
   void Rebuild();
   void Refresh();
+  void TellChanges(const QModelIndex& parent);
+  static bool TakeChange(Node& node);
   QString Guarded(TPropertyEditor& editor, const char* member, const QString& text,
                   const std::function<void()>& action);
 
-  FormSession* session_ = nullptr;
+  QPointer<FormSession> session_;
   std::unique_ptr<Node> root_;
   std::vector<TComponent*> shown_;
   bool events_ = false;

@@ -103,7 +103,7 @@ TPackageRecord PackageManager::RecordIn(const QString& file, const QString& name
   return record;
 }
 
-QString PackageManager::MissingRequirement(const TPackageRecord& record) const {
+void PackageManager::RequireRequirements(const TPackageRecord& record) {
   QStringList provided = HostPackages();
   for (const QString& folder : folders_)
     for (const QFileInfo& file : Libraries(folder))
@@ -111,8 +111,34 @@ QString PackageManager::MissingRequirement(const TPackageRecord& record) const {
         provided += RecordOf(meta).Provides;
   for (const Loaded& l : loaded_) provided << l.record.Name;
   for (const QString& name : record.Requires)
-    if (!provided.contains(name, Qt::CaseInsensitive)) return name;
-  return {};
+    if (!provided.contains(name, Qt::CaseInsensitive))
+      throw Exception(tr("Package %1 cannot be loaded: it requires package %2, %3")
+                          .arg(record.Name, name, WhyMissing(record, name, provided)));
+}
+
+namespace {
+// The name without the version at its end.
+QString WithoutVersion(QString name) {
+  while (!name.isEmpty() && name.back().isDigit()) name.chop(1);
+  return name.toLower();
+}
+}  // namespace
+
+// The rest of a sentence, and what to do.
+QString PackageManager::WhyMissing(const TPackageRecord& record, const QString& required,
+                                   const QStringList& provided) {
+  for (const QString& other : provided)
+    if (WithoutVersion(other) == WithoutVersion(required))
+      return tr("and here is %1. Build the package for this version.").arg(other);
+  try {
+    const TPackageRecord found = ReadRecord(required);
+    if (found.Requires.contains(record.Name, Qt::CaseInsensitive))
+      return tr("which requires %1. Neither can be first: one of them must be built without the other.")
+          .arg(record.Name);
+    return tr("which is not loaded. Load %1 first.").arg(required);
+  } catch (const Exception&) {
+    return tr("which is not there. Install the library that provides %1.").arg(required);
+  }
 }
 
 namespace {
@@ -141,11 +167,7 @@ void PackageManager::Load(const QString& nameOrFile) {
   const QString file = FindFile(nameOrFile);
   const TPackageRecord record = RecordIn(file, nameOrFile);
   if (IsLoaded(record.Name)) return;
-  if (const QString missing = MissingRequirement(record); !missing.isEmpty())
-    throw Exception(tr("Package %1 cannot be loaded: it requires package %2, which is not there. Install the "
-                       "library that "
-                       "provides %2.")
-                        .arg(record.Name, missing));
+  RequireRequirements(record);
   auto loader = std::make_unique<QPluginLoader>(Loadable(file));
   // The code stays mapped after unloading: a window that is still being destroyed may need it.
   loader->setLoadHints(QLibrary::PreventUnloadHint | QLibrary::ResolveAllSymbolsHint);

@@ -46,7 +46,8 @@ class PackageManager : public QObject {
   };
   QString FindFile(const QString& nameOrFile);
   static TPackageRecord RecordIn(const QString& file, const QString& nameOrFile);
-  QString MissingRequirement(const TPackageRecord& record) const;
+  void RequireRequirements(const TPackageRecord& record);
+  QString WhyMissing(const TPackageRecord& record, const QString& required, const QStringList& provided);
 
   QStringList folders_;
   DesignRegistry& registry_;

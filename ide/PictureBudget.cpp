@@ -94,16 +94,3 @@ void RequirePictureBudget(const Document& document, bool edited) {
   if (edited || document.SourceFormat() != Format::Text || document.Source().contains('{'))
     PictureSum(document).Add(document.Root());
 }
-
-void RequireAllData(const FormSession& session) {
-  for (const Finding& f : session.Findings()) {
-    if (!f.refusedData) continue;
-    if (f.where.line > 0)
-      throw Exception(QStringLiteral("%1:%2:%3: %4")
-                          .arg(session.FileName())
-                          .arg(f.where.line)
-                          .arg(f.where.column)
-                          .arg(f.text));
-    throw Exception(QStringLiteral("%1: %2 (byte %3)").arg(session.FileName(), f.text).arg(f.where.offset));
-  }
-}

@@ -5,6 +5,7 @@
 namespace {
 [[maybe_unused]] const bool Registered = [] {
   RegisterClass(TVRXRegion::StaticClass());
+  PromiseTelling(TVRXRegion::StaticClass());
   return true;
 }();
 }  // namespace

@@ -1,5 +1,6 @@
 #include "rtl/ClassRegistry.h"
 
+#include <QSet>
 #include <map>
 #include <set>
 
@@ -10,10 +11,16 @@ struct Entry {
   const TClass* cls;
   std::set<const void*> owners;
 };
-std::map<QByteArray, Entry>& Classes() {
-  static std::map<QByteArray, Entry> classes;
-  return classes;
+struct Known {
+  std::map<QByteArray, Entry> classes;
+  QSet<const TClass*> telling;
+};
+Known& TheKnown() {
+  static Known known;
+  return known;
 }
+std::map<QByteArray, Entry>& Classes() { return TheKnown().classes; }
+QSet<const TClass*>& Telling() { return TheKnown().telling; }
 }  // namespace
 
 void RegisterClass(const TClass& cls, const void* owner) {
@@ -27,7 +34,12 @@ void RegisterClass(const TClass& cls, const void* owner) {
 void UnRegisterClasses(const void* owner) {
   for (auto it = Classes().begin(); it != Classes().end();) {
     auto& owners = it->second.owners;
-    it = owners.erase(owner) && owners.empty() ? Classes().erase(it) : std::next(it);
+    if (!owners.erase(owner) || !owners.empty()) {
+      ++it;
+      continue;
+    }
+    Telling().remove(it->second.cls);
+    it = Classes().erase(it);
   }
 }
 
@@ -47,3 +59,6 @@ std::vector<const TClass*> RegisteredClasses() {
   for (const auto& [name, entry] : Classes()) result.push_back(entry.cls);
   return result;
 }
+
+void PromiseTelling(const TClass& cls) { Telling().insert(&cls); }
+bool PromisesTelling(const TClass& cls) { return Telling().contains(&cls); }

@@ -12,3 +12,9 @@ const TClass* FindClass(QByteArrayView name);
 const TClass& GetClass(QByteArrayView name);  // refuses with EClassNotFound
 // All registered classes in order of name.
 std::vector<const TClass*> RegisteredClasses();
+
+// Every setter of the class tells before it changes anything (TPersistent::Changing). Where a class does not
+// promise that, an open form compares each of its components whenever an editor says that something changed.
+// The promise is the class's own: descendants give theirs. It ends when the class is no longer known.
+void PromiseTelling(const TClass& cls);
+bool PromisesTelling(const TClass& cls);

@@ -13,11 +13,11 @@ using namespace registration;
 namespace {
 // Each page, and then the editors of what is on it.
 const Row kRows[] = {
-    Page("VRX Ext", Classes<TVRXLEDLabel>()),
+    Page("VRX Ext", TellingClasses<TVRXLEDLabel>()),
     Property<TVRXLED, TVRXLEDProperty>(),
     Component<TVRXLEDCustomLabel, TVRXLEDLabelComponentEditor>(),
 
-    Page("VRX MM", Classes<TVRX3DEffectButton, TVRXShapeControl, TVRXWndButtonShape>()),
+    Page("VRX MM", TellingClasses<TVRX3DEffectButton, TVRXShapeControl, TVRXWndButtonShape>()),
     Component<TVRXCustom3DButton, TVRXExtGraphicButtonComponentEditor>(),
 };
 }  // namespace

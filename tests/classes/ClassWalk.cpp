@@ -12,17 +12,23 @@
 #include "vcl/PictureFile.h"
 #include "vcl/Region.h"
 
-std::vector<std::string> ConcreteClasses() {
-  static const bool registered = [] {
-    static DesignRegistry registry;
+DesignRegistry& Registrations() {
+  static DesignRegistry registry;
+  [[maybe_unused]] static const bool once = [] {
     RegisterStandard(registry);
     ORLENVOKITEDITOROPTIONS = 0xFF;  // the variants, too
+    const RegistrationScope scope(registry, nullptr, {});
     VRX_RegMain::Register();
     return true;
   }();
+  return registry;
+}
+
+std::vector<std::string> ConcreteClasses() {
+  Registrations();
   std::vector<std::string> names;
   for (const TClass* cls : RegisteredClasses())
-    if (registered && !cls->IsAbstract() && cls->InheritsFrom(TComponent::StaticClass()))
+    if (!cls->IsAbstract() && cls->InheritsFrom(TComponent::StaticClass()))
       names.push_back(cls->ClassName().toStdString());
   return names;
 }

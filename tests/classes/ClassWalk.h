@@ -1,8 +1,12 @@
 // Every class that a form may hold, and every value inside one.
 #pragma once
+#include "designintf/DesignRegistry.h"
 #include "forms/Binding.h"
 #include "rtl/Class.h"
 #include "vcl/Form.h"
+
+// What the standard and the package register, in a registry of its own.
+DesignRegistry& Registrations();
 
 // Names of the classes that are registered and can be created: the standard ones and the library's.
 std::vector<std::string> ConcreteClasses();

@@ -153,6 +153,7 @@ void CallSetter(const forms::PropertyTarget& to, const forms::PropertyTarget& fr
 }  // namespace
 
 TEST_P(EveryClass, EverySetterTellsBeforeItChanges) {
+  EXPECT_TRUE(PromisesTelling(Class()));
   Stage paths(Class());
   for (const QByteArray& path : ValuePaths(*paths.subject)) {
     SCOPED_TRACE(path.toStdString());

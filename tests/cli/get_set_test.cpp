@@ -239,3 +239,26 @@ TEST_F(SetCli, ARefusalNamesThePathTheValuesAndTheMisfit) {
       Refused({L("Note.FocusControl=Note")}).err.contains(L("Note, which is a TLabel and no TWinControl")));
   EXPECT_TRUE(Refused({L("Note.FocusControl=Gone")}).err.contains(L("Gone, which is not on this form")));
 }
+
+// Names of files may look like options.
+TEST_F(Cli, WhatStandsBehindTwoDashesIsNoOption) {
+  const QString before = QDir::currentPath();
+  ASSERT_TRUE(QDir::setCurrent(Path("")));
+  const auto back = qScopeGuard([&] { QDir::setCurrent(before); });
+  for (const char* name : {"-o", "--help", "--"}) {
+    Write(name, "object F: TF\n  Caption = 'odd'\n  Tag = 3\nend\n");
+    const QString file = QString::fromLatin1(name);
+    Result r = Vrx({QStringLiteral("get"), QStringLiteral("--"), file, QStringLiteral("F.Caption")});
+    EXPECT_EQ(r.code, 0) << name << r.err.toStdString();
+    EXPECT_EQ(r.out, QStringLiteral("'odd'\n")) << name;
+    r = Vrx({QStringLiteral("set"), QStringLiteral("-o"), QStringLiteral("out"), QStringLiteral("--"), file,
+             QStringLiteral("F.Tag=4")});
+    EXPECT_EQ(r.code, 0) << name << r.err.toStdString();
+    EXPECT_TRUE(Read(Path("out")).contains("Tag = 4")) << name;
+    EXPECT_TRUE(Read(Path(name)).contains("Tag = 3")) << name;
+  }
+  const Result r = Vrx({QStringLiteral("set"), QStringLiteral("--"), QStringLiteral("none"),
+                        QStringLiteral("-o"), QStringLiteral("out")});
+  EXPECT_TRUE(r.err.contains(QStringLiteral("none")) || r.code == 2) << r.err.toStdString();
+  EXPECT_NE(r.code, 0);
+}

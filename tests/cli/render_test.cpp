@@ -60,6 +60,26 @@ TEST_F(RenderCli, BadArgumentsMakeNoPicture) {
   EXPECT_FALSE(QFile::exists(png));
 }
 
+TEST_F(RenderCli, TheScaleHasAFirstAndALastValue) {
+  const QString form =
+      Write("f.dfm", "object F: TF\n  BorderStyle = bsNone\n  ClientHeight = 40\n  ClientWidth = 100\nend\n");
+  const QString png = Path("a.png");
+  for (const auto& [scale, size] : {std::pair{"0.05", QSize(5, 2)}, std::pair{"20", QSize(2000, 800)},
+                                    std::pair{"2e1", QSize(2000, 800)}}) {
+    EXPECT_EQ(Vrx({L("render"), form, L("-o"), png, L("--scale"), L(scale)}).code, 0) << scale;
+    EXPECT_EQ(QImage(png).size(), size) << scale;
+    ASSERT_TRUE(QFile::remove(png));
+  }
+  for (const char* scale : {"0.049", "20.01", "-0.05", "", "1x"}) {
+    const Result r = Vrx({L("render"), form, L("-o"), png, L("--scale"), L(scale)});
+    EXPECT_EQ(r.code, 2) << scale;
+    EXPECT_TRUE(
+        r.err.startsWith(L("vrx render: --scale takes a number from 0.05 to 20, not \"") + L(scale) + u'"'))
+        << r.err.toStdString();
+    EXPECT_FALSE(QFile::exists(png)) << scale;
+  }
+}
+
 TEST_F(RealCli, ConvertsFromStandardInputToStandardOutput) {
   const ProcessResult binary = RealVrx({L("convert"), L("-"), L("-"), L("--to"), L("binary")}, SmallForm);
   EXPECT_EQ(binary.code, 0);

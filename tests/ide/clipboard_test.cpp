@@ -157,8 +157,9 @@ TEST_F(OperationTest, ValuesThatOnlyLookLikeNamesAreNoReferences) {
 }
 
 TEST_F(OperationTest, AReferenceToNothingFindsWhatComesUnderThatName) {
-  Open("object F: TF\n  ClientHeight = 200\n  ClientWidth = 300\n  object L: TLabel\n    Left = 9\n"
-       "    FocusControl = Late\n  end\nend\n");
+  Open(
+      "object F: TF\n  ClientHeight = 200\n  ClientWidth = 300\n  object L: TLabel\n    Left = 9\n"
+      "    FocusControl = Late\n  end\nend\n");
   EXPECT_FALSE(As<TLabel>("L").FocusControl());
   clipboard_.text = QStringLiteral("object Late: TButton Left = 77 end");
   Run("paste", {"F"});

@@ -106,3 +106,26 @@ TEST_F(ComponentModelTest, ChangesTellWhichComponents) {
   session_->DeleteComponents({label});
   EXPECT_TRUE(heard.back().structure);
 }
+
+TEST_F(ComponentModelTest, HearsNothingOfAFormItNoLongerShows) {
+  const auto other = FormSession::FromBytes("object Other: TOther\n  object B: TButton\n  end\nend\n");
+  for (ComponentModel* model : {&tree_, &list_}) model->SetSession(other.get());
+  QSignalSpy tree(&tree_, &QAbstractItemModel::modelReset), list(&list_, &QAbstractItemModel::modelReset),
+      names(&tree_, &QAbstractItemModel::dataChanged);
+  session_->Rename(*session_->GetComponent(QStringLiteral("Label1")), QStringLiteral("Renamed"));
+  session_->DeleteComponents({session_->GetComponent(QStringLiteral("Panel1"))});
+  session_.reset();
+  EXPECT_EQ(tree.size() + list.size() + names.size(), 0);
+  EXPECT_EQ(tree_.index(0, 0).data().toString(), QStringLiteral("Other: TOther"));
+  other->DeleteComponents({other->GetComponent(QStringLiteral("B"))});
+  EXPECT_EQ(tree.size(), 1);
+  EXPECT_EQ(list.size(), 1);
+}
+
+TEST_F(ComponentModelTest, IsEmptyWhenItsFormIsClosed) {
+  session_.reset();
+  for (const ComponentModel* model : {&tree_, &list_}) {
+    EXPECT_EQ(model->rowCount(), 0);
+    EXPECT_EQ(model->Session(), nullptr);
+  }
+}

@@ -39,6 +39,84 @@ TEST_F(InspectorTest, ShowsPublishedPropertiesByNameWithTheirValues) {
   EXPECT_EQ(Text("Enabled"), "True");
 }
 
+namespace {
+// The rows of which the model said that they changed, each once.
+class ToldRows {
+ public:
+  explicit ToldRows(const InspectorModel& model) : told_(&model, &QAbstractItemModel::dataChanged) {}
+  std::string Take() {
+    QStringList rows;
+    for (const QList<QVariant>& call : std::exchange(static_cast<QList<QList<QVariant>>&>(told_), {})) {
+      const auto first = call[0].toModelIndex(), last = call[1].toModelIndex();
+      EXPECT_EQ(first.column(), 1);
+      EXPECT_EQ(last.column(), 1);
+      EXPECT_EQ(first.parent(), last.parent());
+      for (int row = first.row(); row <= last.row(); ++row)
+        rows << first.siblingAtRow(row).data(InspectorModel::PathRole).toString();
+    }
+    return rows.join(u' ').toStdString();
+  }
+
+ private:
+  QSignalSpy told_;
+};
+}  // namespace
+
+TEST_F(InspectorTest, TellsOfTheRowsThatChangedAndOfNoOther) {
+  Show({"Button1"});
+  const auto look = [&](const auto& self, const QModelIndex& parent) -> void {
+    for (int row = 0; row < model_.rowCount(parent); ++row) {
+      const QModelIndex i = model_.index(row, 0, parent);
+      i.siblingAtColumn(1).data();
+      i.siblingAtColumn(1).data(InspectorModel::NotDefaultRole);
+      if (i.data().toString() == QStringLiteral("Font")) self(self, i);
+    }
+  };
+  look(look, {});
+  ToldRows told(model_);
+  EXPECT_EQ(Set("Tag", "7"), QString());
+  EXPECT_EQ(told.Take(), "Tag");
+  session_->Run(QStringLiteral("several"), {}, [&] {
+    Get("Button1").SetBounds(1, 40, 2, 3);  // its top stays
+    Get<TButton>("Button1").Font()->SetHeight(-30);
+  });
+  EXPECT_EQ(told.Take(), "Font Height Left ParentFont Width Font.Height Font.Size");
+  look(look, {});
+  session_->Undo();
+  EXPECT_EQ(told.Take(), "Font Height Left ParentFont Width Font.Height Font.Size");
+  // Nobody looked since, so nobody shows anything old.
+  session_->Redo();
+  EXPECT_EQ(told.Take(), "");
+  session_->Run(QStringLiteral("another"), {}, [&] { Get("Label1").SetTag(3); });
+  EXPECT_EQ(told.Take(), "");
+}
+
+TEST_F(InspectorTest, HearsNothingOfAFormItNoLongerShows) {
+  Show({"Button1"});
+  const auto other = FormSession::FromBytes("object Other: TOther\nend\n");
+  model_.SetSession(other.get());
+  const QStringList rows = Rows();
+  QSignalSpy reset(&model_, &QAbstractItemModel::modelReset);
+  ToldRows told(model_);
+  session_->Select({&Get("Label1")});
+  session_->Run(QStringLiteral("tag"), {}, [&] { Get("Label1").SetTag(9); });
+  session_->DeleteSelection();
+  session_.reset();
+  EXPECT_EQ(reset.size(), 0);
+  EXPECT_EQ(told.Take(), "");
+  EXPECT_EQ(Rows(), rows);
+  EXPECT_EQ(Text("Name"), "Other");
+}
+
+TEST_F(InspectorTest, IsEmptyWhenItsFormIsClosed) {
+  Show({"Button1"});
+  const auto keep = Rows();
+  EXPECT_FALSE(keep.isEmpty());
+  session_.reset();
+  EXPECT_EQ(model_.rowCount(), 0);
+  EXPECT_EQ(model_.IndexOfPath(QStringLiteral("Name")), QModelIndex());
+}
+
 TEST_F(InspectorTest, EventsHaveAPageOfTheirOwn) {
   Show({"Timer1"});
   model_.ShowEvents(true);

@@ -409,6 +409,65 @@ TEST_F(PackageTest, TheFileThatBearsTheNameIsTakenBeforeOneThatClaimsIt) {
   EXPECT_TRUE(manager.Warnings()[0].contains(stranger)) << manager.Warnings()[0].toStdString();
 }
 
+namespace {
+// The package in another version: one name in its record, which keeps its length, is another.
+void Patch(const QString& fileName, const QByteArray& name, const QByteArray& other) {
+  ASSERT_EQ(name.size(), other.size());
+  QFile file(fileName);
+  ASSERT_TRUE(file.open(QIODevice::ReadWrite));
+  QByteArray bytes = file.readAll();
+  ASSERT_TRUE(bytes.contains(name));
+  file.seek(0);
+  file.write(bytes.replace(name, other));
+}
+}  // namespace
+
+TEST_F(PackageTest, APackageThatNeedsAnotherIsLoadedAfterIt) {
+  const QTemporaryDir folder;
+  Patch(CopyOf("testneedy.so", folder.path(), "testneedy.so"), "nowhere220", "testsample");
+  PackageManager manager({folder.path(), TestPackages, Libraries}, registry_);
+  const QString message = MessageOf([&] { manager.Load(QStringLiteral("testneedy")); });
+  EXPECT_EQ(message,
+            QStringLiteral("Package testneedy cannot be loaded: it requires package testsample, which "
+                           "is not loaded. Load testsample first."));
+  EXPECT_TRUE(manager.LoadedPackages().isEmpty());
+  manager.Load(QStringLiteral("testsample"));
+  manager.Load(QStringLiteral("testneedy"));
+  EXPECT_EQ(manager.LoadedPackages(),
+            (QStringList{QStringLiteral("testsample"), QStringLiteral("testneedy")}));
+}
+
+TEST_F(PackageTest, AnotherVersionOfWhatItNeedsIsNotEnough) {
+  const QTemporaryDir folder;
+  Patch(CopyOf("testneedy.so", folder.path(), "testneedy.so"), "rtl220", "rtl210");
+  PackageManager manager({folder.path(), Libraries}, registry_);
+  EXPECT_EQ(
+      MessageOf([&] { manager.Load(QStringLiteral("testneedy")); }),
+      QStringLiteral("Package testneedy cannot be loaded: it requires package rtl210, and here is rtl220. "
+                     "Build the package for this version."));
+  EXPECT_TRUE(manager.LoadedPackages().isEmpty());
+  EXPECT_TRUE(Log().isEmpty());
+}
+
+TEST_F(PackageTest, PackagesThatNeedEachOtherAreRefusedWithAReason) {
+  const QTemporaryDir folder;
+  Patch(CopyOf("testneedy.so", folder.path(), "testneedy.so"), "nowhere220", "testcircle");
+  PackageManager manager({folder.path(), TestPackages, Libraries}, registry_);
+  const QString ends = QStringLiteral(". Neither can be first: one of them must be built without the other.");
+  EXPECT_EQ(
+      MessageOf([&] { manager.Load(QStringLiteral("testneedy")); }),
+      QStringLiteral("Package testneedy cannot be loaded: it requires package testcircle, which requires "
+                     "testneedy") +
+          ends);
+  EXPECT_EQ(
+      MessageOf([&] { manager.Load(QStringLiteral("testcircle")); }),
+      QStringLiteral("Package testcircle cannot be loaded: it requires package testneedy, which requires "
+                     "testcircle") +
+          ends);
+  EXPECT_TRUE(manager.LoadedPackages().isEmpty());
+  EXPECT_TRUE(Log().isEmpty());
+}
+
 TEST_F(PackageTest, AStrangersNameOnTheFileDoesNotMakeItThePackage) {
   const QTemporaryDir folder;
   CopyOf("testneedy.so", folder.path(), "testsample.so");

@@ -24,6 +24,16 @@ const TClass& TSilent::StaticClass() {
                               .Published("Level", &TSilent::Level, &TSilent::SetLevel, 0));
   return cls;
 }
+// One that says that it tells.
+class TQuiet : public TSilent {
+  VRX_CLASS(TQuiet)
+ public:
+  using TSilent::TSilent;
+};
+const TClass& TQuiet::StaticClass() {
+  static const TClass cls(DescribeClass<TQuiet>("TQuiet", TSilent::StaticClass()));
+  return cls;
+}
 }  // namespace
 
 TEST_F(UnannouncedTest, EveryComponentThatAnActionChangesIsFound) {
@@ -153,6 +163,113 @@ TEST_F(UnannouncedTest, ASetterThatTellsNobodyIsFoundWhenTheEditorSaysSo) {
   session_->Run(QStringLiteral("inspector"), {},
                 [&] { SetOrdProp(silent, silent.ClassType().GetProp("Level"), 9); });
   EXPECT_TRUE(session_->Bytes().contains("Level = 9"));
+}
+
+namespace {
+class SilentTest : public UnannouncedTest {
+ protected:
+  void SetUp() override {
+    UnannouncedTest::SetUp();
+    RegisterClass(TSilent::StaticClass());
+    session_ = FormSession::FromBytes(Text);
+  }
+  TSilent& S() { return Get<TSilent>("S"); }
+  void ExpectChange(const QByteArray& lines) {
+    EXPECT_EQ(ChangedLines(Text, session_->Bytes()).join('|'), lines);
+    session_->Undo();
+    EXPECT_EQ(session_->Bytes(), Text);
+    EXPECT_FALSE(session_->CanUndo());
+    EXPECT_EQ(S().Level(), 1);
+    session_->Redo();
+    EXPECT_EQ(ChangedLines(Text, session_->Bytes()).join('|'), lines);
+  }
+  static inline const QByteArray Text =
+      "object F: TF\n  object L: TLabel\n    Left = 3\n    AutoSize = False\n  end\n"
+      "  object S: TSilent\n    Level = 1\n    Tag = 5\n  end\nend\n";
+};
+}  // namespace
+
+TEST_F(SilentTest, WhatNobodyToldOfIsFoundBesideWhatOthersTold) {
+  session_->Run(QStringLiteral("verb"), {}, [&] {
+    S().SetLevel(2);
+    Get<TLabel>("L").SetTag(8);
+    session_->Modified();
+  });
+  ExpectChange("+Tag = 8|-Level = 1|+Level = 2");
+}
+
+TEST_F(SilentTest, WhatNobodyToldOfIsFoundBesideWhatTheSameComponentTold) {
+  session_->Run(QStringLiteral("verb"), {}, [&] {
+    S().SetLevel(2);
+    S().SetTag(6);
+    session_->Modified();
+  });
+  ExpectChange("-Level = 1|-Tag = 5|+Level = 2|+Tag = 6");
+}
+
+TEST_F(SilentTest, AThrowTakesBackWhatNobodyToldOf) {
+  EXPECT_THROW(session_->Run(QStringLiteral("verb"), {},
+                             [&] {
+                               S().SetLevel(2);
+                               throw Exception(QStringLiteral("no"));
+                             }),
+               Exception);
+  EXPECT_EQ(S().Level(), 1);
+  EXPECT_EQ(session_->Bytes(), Text);
+  EXPECT_FALSE(session_->CanUndo());
+}
+
+TEST_F(SilentTest, AfterUndoAndRedoTheNextChangeIsFoundAndNoOther) {
+  for (int level = 2; level < 4; ++level) {
+    S().SetLevel(level);
+    session_->Modified();
+  }
+  session_->Undo();
+  session_->Modified();
+  EXPECT_EQ(session_->RedoText(), QStringLiteral("Change"));  // nothing new came on top
+  session_->Redo();
+  session_->Modified();
+  EXPECT_FALSE(session_->CanRedo());
+  EXPECT_EQ(S().Level(), 3);
+  S().SetLevel(1);
+  session_->Modified();
+  EXPECT_EQ(session_->Bytes(), Text);
+  session_->Undo();
+  EXPECT_EQ(S().Level(), 3);
+}
+
+TEST_F(SilentTest, ANewComponentOfItsClassIsWatchedToo) {
+  TComponent* made = session_->CreateComponent(TSilent::StaticClass(), nullptr, QRect(8, 8, 0, 0));
+  const QByteArray before = session_->Bytes();
+  dynamic_cast<TSilent&>(*made).SetLevel(4);
+  session_->Modified();
+  EXPECT_EQ(ChangedLines(before, session_->Bytes()).join('|'), "+Level = 4");
+  session_->Undo();
+  EXPECT_EQ(session_->Bytes(), before);
+}
+
+TEST_F(SilentTest, NothingChangedIsNoCommand) {
+  session_->Modified();
+  session_->Run(QStringLiteral("verb"), {}, [&] { session_->Modified(); });
+  S().SetLevel(2);
+  S().SetLevel(1);
+  session_->Modified();
+  EXPECT_FALSE(session_->CanUndo());
+}
+
+// What the promise saves: nobody looks at a component whose class gave it.
+TEST_F(SilentTest, AClassThatPromisesToTellIsTakenAtItsWord) {
+  const int package = 0;
+  RegisterClass(TQuiet::StaticClass(), &package);
+  PromiseTelling(TQuiet::StaticClass());
+  EXPECT_FALSE(PromisesTelling(TSilent::StaticClass()));
+  session_ = FormSession::FromBytes(QByteArray(Text).replace("TSilent", "TQuiet"));
+  S().SetLevel(2);
+  session_->Modified();
+  EXPECT_FALSE(session_->CanUndo());
+  session_.reset();
+  UnRegisterClasses(&package);
+  EXPECT_FALSE(PromisesTelling(TQuiet::StaticClass()));
 }
 
 TEST_F(UnannouncedTest, MakingTheComponentsAnewWaitsForTheCommand) {

@@ -111,6 +111,18 @@ TEST(Units, DialogsKnowNoLaunchers) {
   EXPECT_GT(files, 40);
 }
 
+TEST(Units, OfAnOpenFormStandOnEachOtherWithoutCircles) {
+  for (const char* name : {"FormSession", "BoundForm", "CommandRecorder", "UndoStack", "Selection",
+                           "FileOnDisk", "Fingerprints", "PictureBudget", "RefusedData"}) {
+    const QString unit = QStringLiteral("ide/") + QLatin1StringView(name);
+    EXPECT_TRUE(QFile::exists(QStringLiteral(VRX_SOURCE_DIR) + u'/' + unit + QStringLiteral(".h"))) << name;
+    EXPECT_FALSE(ReachedFrom(unit).contains(unit)) << name;
+    EXPECT_EQ(ReachedFrom(unit).contains(QStringLiteral("ide/FormSession")),
+              unit == QStringLiteral("ide/RefusedData"))
+        << name;
+  }
+}
+
 TEST(Units, AccessToPropertiesKnowsNothingOfComponents) {
   EXPECT_FALSE(ReachedFrom(QStringLiteral("rtl/PropAccess")).contains(QStringLiteral("rtl/Component")));
   EXPECT_TRUE(ReachedFrom(QStringLiteral("rtl/Component")).contains(QStringLiteral("rtl/PropAccess")));

@@ -1,0 +1,139 @@
+// The end of a command: what was noted on the way becomes differences of values and structure.
+#include "ide/CommandRecorder.h"
+
+std::unique_ptr<Command> CommandRecorder::Take() {
+  if (modified_) CaptureSilent();
+  TakeArrivals();
+  TakePlaces();
+  TakeBounds();
+  auto command = std::make_unique<Command>();
+  command->selectionBefore = std::move(selectionBefore_);
+  for (Before& before : captured_)
+    if (auto change = TakeChange(before)) command->components.push_back(std::move(*change));
+  for (const StructureChange& s : structure_)
+    if (s.kind == StructureChange::Kind::Insert && !s.held && created_.contains(s.object))
+      DescribeNew(*s.object);
+  command->structure = std::move(structure_);
+  return command;
+}
+
+// Nobody told of these, but they are not what they were.
+void CommandRecorder::CaptureSilent() {
+  std::vector<const forms::Object*> silent = form_.SilentlyChanged();
+  std::erase_if(silent, [&](const forms::Object* o) {
+    return created_.contains(o) || index_.contains(form_.ComponentOf(*o));
+  });
+  for (auto& d : form_.AsDocumented(silent)) {
+    TComponent* component = form_.ComponentOf(*d.object);
+    index_.insert(component);
+    captured_.push_back({component, form_.ObjectOf(*component), d.name, std::move(d.values)});
+  }
+}
+
+// What stood inside something that was freed goes with it; what was given another parent first has moved.
+void CommandRecorder::TakeArrivals() {
+  const auto building = form_.Build();
+  for (TComponent* c : std::exchange(orphaned_, {}))
+    if (forms::Object* object = form_.ObjectOf(*c)) form_.RemoveObject(*object);
+  for (TComponent* c : std::exchange(arrived_, {}))
+    if (!form_.ObjectOf(*c) && c->Owner()) Adopt(*c);
+}
+
+void CommandRecorder::TakePlaces() {
+  std::vector<TControl*> placed = std::exchange(placed_, {});
+  if (placed.empty()) return;
+  const QSet<const TControl*> moving(placed.begin(), placed.end());
+  std::erase_if(placed, [&](const TControl* c) {
+    const forms::Object* object = form_.ObjectOf(*c);
+    return !object || created_.contains(object) || !c->Parent() || !form_.ObjectOf(*c->Parent());
+  });
+  // From back to front, so that each finds its predecessor in place.
+  QHash<const TControl*, int> ranks;
+  for (const TControl* c : placed) ranks.insert(c, c->Parent()->ControlIndex(c));
+  std::stable_sort(placed.begin(), placed.end(),
+                   [&](const TControl* a, const TControl* b) { return ranks.value(a) < ranks.value(b); });
+  for (TControl* control : placed) TakePlace(*control, moving, ranks.value(control));
+}
+
+// Behind the sibling it now follows, before the next that stands still.
+void CommandRecorder::TakePlace(TControl& control, const QSet<const TControl*>& moving, int rank) {
+  forms::Object* object = form_.ObjectOf(control);
+  forms::Object* parent = form_.ObjectOf(*control.Parent());
+  const auto& siblings = control.Parent()->Controls();
+  const forms::Object* previous =
+      rank > 0 ? form_.ObjectOf(*siblings[static_cast<std::size_t>(rank - 1)]) : nullptr;
+  const auto still = std::find_if(siblings.begin() + rank + 1, siblings.end(), [&](const TControl* c) {
+    return !moving.contains(c) && form_.ObjectOf(*c);
+  });
+  const forms::Object* next = still == siblings.end() ? nullptr : form_.ObjectOf(**still);
+  const int at = object->IndexInParent();
+  if (parent == object->parent && (!previous || previous->IndexInParent() < at) &&
+      (!next || next->IndexInParent() > at))
+    return;
+  StructureChange s;
+  s.kind = StructureChange::Kind::Move;
+  s.object = object;
+  s.parent = object->parent;
+  s.index = at;
+  std::unique_ptr<forms::Object> node = s.parent->Take(at);
+  s.newParent = parent;
+  s.newIndex = previous ? previous->IndexInParent() + 1
+               : next   ? next->IndexInParent()
+                        : form_.NewChildIndex(*parent, true);
+  parent->Insert(s.newIndex, std::move(node));
+  structure_.push_back(std::move(s));
+}
+
+// Only the place of these can have changed: the old values are the present ones with the old bounds.
+void CommandRecorder::TakeBounds() {
+  for (auto& [control, before] : bounds_) {
+    const forms::Object* object = form_.ObjectOf(*control);
+    if (object && !created_.contains(object) && control->BoundsRect() != before) Capture(*control);
+  }
+}
+
+void CommandRecorder::MarkFollowing(std::vector<forms::ValueChange>& values, const TControl& control) {
+  ByHand hand = byHand_.value(&control);
+  hand.Settle(control.BoundsRect());
+  for (forms::ValueChange& v : values)
+    v.follows = (v.path == "Left" && !hand.left) || (v.path == "Top" && !hand.top) ||
+                (v.path == "Width" && !hand.width) || (v.path == "Height" && !hand.height);
+}
+
+std::optional<ComponentChange> CommandRecorder::TakeChange(Before& before) {
+  // A new component may stand at the address of a deleted one; the object tells them apart.
+  if (form_.ObjectOf(*before.component) != before.object) return {};
+  forms::Object& object = *before.object;
+  const TComponent& component = *before.component;
+  ComponentChange change;
+  change.object = &object;
+  const forms::Snapshot after = forms::TakeSnapshot(component, form_.Document());
+  change.values = forms::Difference(before.values, after);
+  if (const auto* control = As<TControl>(&component)) MarkFollowing(change.values, *control);
+  change.nameBefore = before.name;
+  change.nameAfter = component.Name();
+  change.classBefore = change.classAfter = object.className;
+  change.headerChangedBefore = object.headerChanged;
+  const bool renamed = change.nameBefore != change.nameAfter;
+  if (renamed) {
+    // A form's class follows its name: TMain for Main.
+    if (&component == &form_.Root() && change.classBefore == "T" + change.nameBefore.toUtf8())
+      change.classAfter = "T" + change.nameAfter.toUtf8();
+    form_.SetName(change, true);
+  }
+  forms::PatchObject(object, form_.Document(), after, change.values);
+  form_.TakeFingerprint(component, object);
+  // It comes and goes with its object.
+  if (inserted_.contains(&object) || (change.values.empty() && !renamed)) return {};
+  return change;
+}
+
+void CommandRecorder::DescribeNew(forms::Object& object) {
+  const TComponent* c = form_.ComponentOf(object);
+  if (!c) return;
+  object.properties.clear();
+  object.name = c->Name().toUtf8();
+  for (forms::StoredValue& v : forms::PropertyValues(*c, form_.Document(), false))
+    object.properties.push_back(form_.Document().MakeProperty(v.path, std::move(v.value)));
+  form_.TakeFingerprint(*c, object);
+}

@@ -1,0 +1,168 @@
+// Components that a command makes, pastes, deletes and renames.
+#include "ide/FormSession.h"
+#include "ide/StandIns.h"
+#include "rtl/Exceptions.h"
+
+namespace {
+void RequireDepth(const forms::Object& object, const forms::Object& parent) {
+  int depth = object.Levels();
+  for (const forms::Object* p = &parent; p; p = p->parent) ++depth;
+  if (depth > forms::MaxDepth)
+    throw EComponentError(FormSession::tr("%1 would be nested more than %2 deep there.")
+                              .arg(QString::fromUtf8(object.name))
+                              .arg(forms::MaxDepth));
+}
+
+qsizetype DataIn(const forms::Document& document, const forms::Object& object) {
+  qsizetype size = 0;
+  for (const forms::Property& p : object.properties)
+    if (const forms::Value v = document.Read(p); v.type == forms::ValueType::Binary) size += v.bytes.size();
+  for (const auto& child : object.children) size += DataIn(document, *child);
+  return size;
+}
+
+void CollectComponents(TComponent& component, std::vector<TComponent*>& out) {
+  out.push_back(&component);
+  for (TComponent* child : component.GetChildren()) CollectComponents(*child, out);
+}
+
+int WindowsIn(const TWinControl& parent, const TControl& without) {
+  return static_cast<int>(std::count_if(parent.Controls().begin(), parent.Controls().end(),
+                                        [&](TControl* c) { return c != &without && As<TWinControl>(c); }));
+}
+}  // namespace
+
+// The nearest that takes controls and that the document knows.
+TWinControl& FormSession::ContainerFor(TComponent* wanted) const {
+  TComponent* at = wanted ? wanted : GetRoot();
+  while (at != GetRoot() && !(As<TWinControl>(at) && ObjectOf(*at))) at = at->GetParentComponent();
+  return *As<TWinControl>(at);
+}
+
+TComponent* FormSession::CreateComponent(const TClass& cls, TComponent* parent, const QRect& bounds) {
+  TComponent* component = nullptr;
+  if (cls.InheritsFrom(TControl::StaticClass()) && !Form().AcceptsControls())
+    throw EComponentError(
+        tr("%1 is a data module: only components that are no controls can stand on it.").arg(Form().Name()));
+  Run(tr("Add %1").arg(QString::fromLatin1(cls.ClassName())), {}, [&] {
+    component = form_.NewComponent(cls);
+    component->SetDesigning(true);
+    auto* control = As<TControl>(component);
+    TWinControl& container = ContainerFor(control ? parent : nullptr);
+    recorder_->Enter(*component, *ObjectOf(container));
+    if (control) {
+      control->SetParent(&container);
+      control->SetCaption(control->Caption().isEmpty() ? control->Name() : control->Caption());
+      const bool sized = bounds.width() > 1 && bounds.height() > 1;
+      control->SetBounds(bounds.left(), bounds.top(), sized ? bounds.width() : control->Width(),
+                         sized ? bounds.height() : control->Height());
+      if (auto* windowed = As<TWinControl>(control))
+        windowed->SetTabOrder(WindowsIn(*windowed->Parent(), *windowed));
+    } else {
+      component->SetDesignInfo(
+          DesignWordOf({static_cast<std::int16_t>(bounds.left()), static_cast<std::int16_t>(bounds.top())}));
+    }
+    selection_.Set({component}, Form());
+    Came(*component);
+  });
+  Select(selection_.Components());
+  return component;
+}
+
+void FormSession::DeleteComponents(const std::vector<TComponent*>& components) {
+  std::vector<TComponent*> doomed;
+  const auto insideAnother = [&](const TComponent* c) {
+    for (const TComponent* p = c->GetParentComponent(); p && p != GetRoot(); p = p->GetParentComponent())
+      if (std::find(components.begin(), components.end(), p) != components.end()) return true;
+    return false;
+  };
+  for (TComponent* c : components) {
+    if (c == GetRoot() || insideAnother(c)) continue;
+    if (ObjectOf(*c)->kind == forms::ObjectKind::Inherited)
+      throw EComponentError(tr("%1 comes from the ancestor form and cannot be deleted here.").arg(c->Name()));
+    doomed.push_back(c);
+  }
+  if (doomed.empty()) return;
+  Run(doomed.size() == 1 ? tr("Delete %1").arg(doomed[0]->Name())
+                         : tr("Delete %n components", nullptr, static_cast<int>(doomed.size())),
+      {}, [&] {
+        for (TComponent* c : doomed) {
+          std::vector<TComponent*> all;
+          CollectComponents(*c, all);
+          for (TComponent* inner : all)
+            for (TComponent* holder : inner->FreeNotifies())
+              if (std::find(all.begin(), all.end(), holder) == all.end()) recorder_->Capture(*holder);
+        }
+        for (TComponent* c : doomed) recorder_->Delete(*c);
+      });
+  Select(selection_.Components());
+}
+
+void FormSession::DeleteSelection() { DeleteComponents(selection_.Components()); }
+
+void FormSession::Rename(TComponent& component, const QString& name) {
+  if (name.isEmpty()) throw EComponentError(tr("%1 needs a name.").arg(component.Name()));
+  Run(tr("Rename %1").arg(component.Name()), {&component}, [&] { component.SetName(name); });
+}
+
+// --- Objects that come with their text: pasted, duplicated
+
+std::vector<TComponent*> FormSession::Insert(const forms::Document& from,
+                                             const std::vector<Insertion>& insertions) {
+  std::vector<TComponent*> made;
+  Run(tr("Insert"), {}, [&] {
+    std::vector<std::unique_ptr<forms::Object>> objects;
+    qsizetype data = 0;
+    for (const Insertion& i : insertions) {
+      RequireDepth(*i.object, *i.parent);
+      data += DataIn(from, *i.object);
+      objects.push_back(from.Detached(*i.object, form_.Document()));
+    }
+    if (data > 0) RequireRoomFor(insertions, objects, data);
+    for (std::size_t i = 0; i < insertions.size(); ++i) {
+      forms::Object& parent = *insertions[i].parent;
+      const int index = form_.NewChildIndex(parent, IsVisual(*objects[i]));
+      made.push_back(recorder_->Insert(std::move(objects[i]), parent, index));
+    }
+    recorder_->SettleInserted(insertions.size());
+    for (TComponent* c : made) TakeIntoLayout(*c);
+  });
+  return made;
+}
+
+// Before anything is decoded, as when a file is read.
+void FormSession::RequireRoomFor(const std::vector<Insertion>& insertions,
+                                 std::vector<std::unique_ptr<forms::Object>>& objects, qsizetype data) {
+  const auto putIn = [&] {
+    for (std::size_t i = 0; i < objects.size(); ++i)
+      insertions[i].parent->Insert(INT_MAX, std::move(objects[i]));
+  };
+  const auto takeOut = [&] {
+    for (std::size_t i = objects.size(); i-- > 0;)
+      objects[i] = insertions[i].parent->Take(static_cast<int>(insertions[i].parent->children.size()) - 1);
+  };
+  putIn();
+  try {
+    RequireReadable(data);
+  } catch (...) {
+    takeOut();
+    throw;
+  }
+  takeOut();
+}
+
+// An aligned control takes its strip now, and the others make room.
+void FormSession::TakeIntoLayout(TComponent& component) {
+  auto* control = As<TControl>(&component);
+  TWinControl* parent = control ? control->Parent() : nullptr;
+  if (!parent || control->Align() == TAlign::alNone) return;
+  const auto building = form_.Build();
+  const int index = parent->ControlIndex(control);
+  {
+    const auto frozen = form_.Freeze();
+    control->SetParent(nullptr);
+  }
+  control->SetParent(parent);
+  const auto frozen = form_.Freeze();
+  parent->SetControlIndex(control, index);
+}
