@@ -131,13 +131,12 @@ class RowDialog : public ModalDialog {
     std::function<void()> changed;
   };
   template <class D, class W, class... S>
-  std::function<void()> Call(void (D::*handler)(S...), W* sender) {
-    return [dialog = static_cast<D*>(this), handler, sender] {
-      if constexpr (sizeof...(S) == 0)
-        (dialog->*handler)();
-      else
-        (dialog->*handler)(sender);
-    };
+  std::function<void()> Call(void (D::*handler)(S...), [[maybe_unused]] W* sender) {
+    auto* const dialog = static_cast<D*>(this);
+    if constexpr (sizeof...(S) == 0)
+      return [dialog, handler] { (dialog->*handler)(); };
+    else
+      return [dialog, handler, sender] { (dialog->*handler)(sender); };
   }
   void AddRow(QWidget& control, const char* name, const char* property, const char* label, const char* hint);
   RowState& StateOf(const QWidget* control);
