@@ -68,10 +68,15 @@ void FormActions::AddTo(QToolBar& bar) const {
   }
 }
 
+void FormActions::AddTo(std::vector<CommandEntry>& rows) const {
+  for (const auto& [row, action] : actions_)
+    rows.push_back(RowOf(*action, row->object ? action->text().remove(u'&') : row->Title()));
+}
+
 void FormActions::Update(const FormSession* session) {
   for (const auto& [row, action] : actions_) {
-    const QString reason = session ? row->whyNot(*session) : QString();
-    action->setEnabled(session && reason.isEmpty());
+    const QString reason = session ? row->whyNot(*session) : tr("Open a form first.");
+    action->setEnabled(reason.isEmpty());
     action->setStatusTip(reason);
     action->setText(session ? row->TextFor(*session) : row->Text());
   }

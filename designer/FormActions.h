@@ -2,6 +2,7 @@
 #pragma once
 #include <QObject>
 
+#include "designer/CommandPalette.h"
 #include "ide/operations/Actions.h"
 
 class QAction;
@@ -18,6 +19,7 @@ class FormActions : public QObject {
   void WorkIn(QWidget& widget);
   void AddTo(QMenu& menu, std::initializer_list<ActionGroup> groups) const;
   void AddTo(QToolBar& bar) const;
+  void AddTo(std::vector<CommandEntry>& rows) const;
   // What can be done with the form; null: none is open.
   void Update(const FormSession* session);
 

@@ -30,6 +30,7 @@ void FormSurface::SetSession(FormSession* session) {
       for (const TComponent* c : session_->SelectedComponents()) RevealPages(*c);
       UpdateFrames();
     });
+    connect(session_, &QObject::destroyed, this, [this] { SetSession(nullptr); });
   }
   TakeChange({.structure = true});
 }

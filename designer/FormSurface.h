@@ -1,6 +1,7 @@
 // The surface a form is designed on: the form drawn as a window on a desk, with handles, rubber band and the
 // icons of components that are not controls. Zoom never changes the form.
 #pragma once
+#include <QPointer>
 #include <QWidget>
 #include <optional>
 
@@ -24,6 +25,8 @@ class FormSurface : public QWidget {
   void SetTool(const TClass* cls, bool keep = false);
   const TClass* Tool() const { return tool_; }
   bool KeepsTool() const { return keepTool_; }
+  // Whether the mouse is about something that counts in widget coordinates.
+  bool IsDragging() const { return action_ != Action::None; }
 
   // Places in widget coordinates, for views and tests.
   QRect WidgetRect(const TComponent& component) const;
@@ -86,7 +89,7 @@ class FormSurface : public QWidget {
   void UpdateFrames();
   void UpdateCursor(QPoint widgetPoint);
 
-  FormSession* session_ = nullptr;
+  QPointer<FormSession> session_;
   double zoom_ = 1;
   const TClass* tool_ = nullptr;
   bool keepTool_ = false;

@@ -2,26 +2,25 @@
 
 #include <QtWidgets>
 
+#include "designer/CommandPalette.h"
+#include "designer/Desk.h"
 #include "designer/DiskChanges.h"
 #include "designer/FormActions.h"
-#include "designer/FormColorsMenu.h"
 #include "designer/FormSurface.h"
 #include "designer/InspectorPane.h"
+#include "designer/LookSettings.h"
 #include "designer/MessageBar.h"
 #include "designer/PalettePane.h"
+#include "designer/ProblemsList.h"
+#include "designer/StatusLine.h"
 #include "designer/StructurePane.h"
 #include "designer/ValueEditor.h"
-#include "designintf/ComponentEditor.h"
-#include "forms/FormFile.h"
-#include "forms/SafeFile.h"
+#include "designer/Verbs.h"
+#include "designer/WindowCommands.h"
+#include "designintf/ComponentIcons.h"
 #include "ide/Placing.h"
 #include "rtl/Exceptions.h"
 #include "vcl/Prompts.h"
-#include "vcl/Theme.h"
-
-namespace {
-QString FormFilter() { return MainWindow::tr("Forms (*.dfm *.lfm);;All files (*)"); }
-}  // namespace
 
 void ReportException(QWidget* parent, const std::exception& error) {
   Prompts().Warn(parent, QCoreApplication::applicationName(), ExceptionMessage(error));
@@ -31,7 +30,8 @@ MainWindow::MainWindow(PackageManager& packages) : packages_(packages) {
   setWindowIcon(QIcon::fromTheme(QStringLiteral("document-edit")));
   RestoreFormColors();
   BuildPanes();
-  BuildActions();
+  ConnectPanes();
+  BuildMenus();
   // Told later: it may be a question of the middle of painting.
   SetPackageProblemListener([this](const QString& message) {
     QMetaObject::invokeMethod(
@@ -72,53 +72,43 @@ void MainWindow::BuildPanes() {
   insertToolBarBreak(paletteBar);
 
   surface_ = new FormSurface;
-  auto* scroll = new QScrollArea;
-  scroll->setWidget(surface_);
-  scroll->setWidgetResizable(true);
-  scroll->setFrameShape(QFrame::NoFrame);
-  scroll->setFocusPolicy(Qt::NoFocus);  // the surface has it
+  desk_ = new Desk(*surface_);
   auto* bar = new MessageBar;
   auto* middle = new QWidget;
   auto* column = new QVBoxLayout(middle);
   column->setContentsMargins({});
   column->setSpacing(0);
   column->addWidget(bar);
-  column->addWidget(scroll, 1);
+  column->addWidget(desk_, 1);
   setCentralWidget(middle);
   disk_ = new DiskChanges(*this, *bar);
   connect(disk_, &DiskChanges::DiffersChanged, this, &MainWindow::UpdateActions);
   connect(disk_, &DiskChanges::ReloadWanted, this, &MainWindow::Reload);
   connect(disk_, &DiskChanges::SaveWanted, this, &MainWindow::Save);
 
-  const auto dock = [this](const QString& title, QWidget* widget, Qt::DockWidgetArea area) {
-    auto* d = new QDockWidget(title, this);
+  structure_ = new StructurePane;
+  inspector_ = new InspectorPane;
+  problems_ = new ProblemsList;
+  const auto dock = [this](WindowPane pane, const QString& title, QWidget* widget, Qt::DockWidgetArea area) {
+    auto* d = docks_[static_cast<std::size_t>(pane)] = new QDockWidget(title, this);
     d->setObjectName(title);
     d->setWidget(widget);
     d->setFeatures(QDockWidget::DockWidgetMovable | QDockWidget::DockWidgetClosable);
     addDockWidget(area, d);
     return d;
   };
-  structure_ = new StructurePane;
-  inspector_ = new InspectorPane;
-  problems_ = new QListWidget;
-  problems_->setFrameShape(QFrame::NoFrame);
-  problems_->setWordWrap(true);
-  problems_->setAccessibleName(tr("Problems"));
-  auto* structureDock = dock(tr("Structure"), structure_, Qt::LeftDockWidgetArea);
-  auto* inspectorDock = dock(tr("Inspector"), inspector_, Qt::LeftDockWidgetArea);
-  problemsDock_ = dock(tr("Problems"), problems_, Qt::BottomDockWidgetArea);
-  problemsDock_->hide();
+  auto* structure = dock(WindowPane::Structure, tr("Structure"), structure_, Qt::LeftDockWidgetArea);
+  auto* inspector = dock(WindowPane::Inspector, tr("Inspector"), inspector_, Qt::LeftDockWidgetArea);
+  dock(WindowPane::Problems, tr("Problems"), problems_, Qt::BottomDockWidgetArea)->hide();
   setCorner(Qt::BottomLeftCorner, Qt::LeftDockWidgetArea);
-  resizeDocks({structureDock, inspectorDock}, {220, 440}, Qt::Vertical);
-  resizeDocks({inspectorDock}, {340}, Qt::Horizontal);
+  resizeDocks({structure, inspector}, {220, 440}, Qt::Vertical);
+  resizeDocks({inspector}, {340}, Qt::Horizontal);
 
-  for (QLabel** label : {&selectionLabel_, &boundsLabel_, &modifiedLabel_, &zoomLabel_}) *label = new QLabel;
-  statusBar()->addWidget(selectionLabel_);
-  statusBar()->addWidget(boundsLabel_);
-  statusBar()->addPermanentWidget(new QLabel(tr("Grid %1").arg(FormSurface::Grid)));
-  statusBar()->addPermanentWidget(zoomLabel_);
-  statusBar()->addPermanentWidget(modifiedLabel_);
+  status_ = new StatusLine(*statusBar(), FormSurface::Grid);
+}
 
+void MainWindow::ConnectPanes() {
+  const auto tell = [this](const QString& text) { statusBar()->showMessage(text, 8000); };
   connect(palette_, &PalettePane::ToolChosen, surface_, &FormSurface::SetTool);
   connect(palette_, &PalettePane::AddWanted, this, &MainWindow::PlaceOne);
   connect(palette_, &PalettePane::Left, surface_, qOverload<>(&QWidget::setFocus));
@@ -128,14 +118,13 @@ void MainWindow::BuildPanes() {
   putDown_ = new QShortcut(Qt::Key_Escape, this);
   putDown_->setEnabled(false);
   connect(putDown_, &QShortcut::activated, palette_, &PalettePane::PutDown);
-  connect(inspector_, &InspectorPane::Message, this,
-          [this](const QString& text) { statusBar()->showMessage(text, 8000); });
+  connect(inspector_, &InspectorPane::Message, this, tell);
   connect(inspector_, &InspectorPane::Typing, this, &MainWindow::UpdateActions);
   connect(surface_, &FormSurface::ContextMenuWanted, this, &MainWindow::ShowContextMenu);
   connect(surface_, &FormSurface::Message, this,
           [this](const QString& text) { Prompts().Warn(this, QCoreApplication::applicationName(), text); });
-  connect(surface_, &FormSurface::Notice, this,
-          [this](const QString& text) { statusBar()->showMessage(text, 8000); });
+  connect(surface_, &FormSurface::Notice, this, tell);
+  connect(desk_, &Desk::Zoomed, this, &MainWindow::UpdateStatus);
   connect(surface_, &FormSurface::InspectorWanted, inspector_, &InspectorPane::FocusValue);
 }
 
@@ -180,278 +169,116 @@ void MainWindow::ShowTool() {
           : tr("%1: click or draw on the form, with Shift for several; Escape puts it down").arg(name));
 }
 
-QAction* MainWindow::AddAction(QWidget* menu, const QString& text, const QString& icon,
-                               const QKeySequence& keys, const std::function<void()>& run, const char* name) {
-  auto* action = new QAction(icon.isEmpty() ? QIcon() : QIcon::fromTheme(icon), text, this);
-  action->setShortcut(keys);
-  action->setObjectName(QString::fromLatin1(name));
-  connect(action, &QAction::triggered, this, [this, run] {
-    try {
-      run();
-    } catch (const std::exception& e) {
-      ReportException(this, e);
-    }
-  });
-  menu->addAction(action);
-  return action;
-}
-
-void MainWindow::BuildActions() {
+void MainWindow::BuildMenus() {
+  auto* palette = findChild<QToolBar*>(QStringLiteral("paletteBar"));
   auto* tools = new QToolBar(tr("Tools"));
   tools->setObjectName(QStringLiteral("tools"));
   tools->setMovable(false);
   tools->setIconSize(QSize(22, 22));
-  insertToolBar(findChild<QToolBar*>(QStringLiteral("paletteBar")), tools);
-  insertToolBarBreak(findChild<QToolBar*>(QStringLiteral("paletteBar")));
+  insertToolBar(palette, tools);
+  insertToolBarBreak(palette);
 
-  QMenu* file = menuBar()->addMenu(tr("&File"));
-  auto* fresh = AddAction(
-      file, tr("&New form"), QStringLiteral("document-new"), QKeySequence::New,
-      [this] {
-        if (MayClose()) NewForm();
-      },
-      "new");
-  auto* open = AddAction(
-      file, tr("&Open..."), QStringLiteral("document-open"), QKeySequence::Open,
-      [this] {
-        if (!MayClose()) return;
-        const QString folder = session_ ? QFileInfo(session_->FileName()).path() : QString();
-        if (const QString name = Prompts().OpenFileName(this, tr("Open form"), folder, FormFilter());
-            !name.isEmpty())
-          OpenForm(name);
-      },
-      "open");
-  save_ = AddAction(
-      file, tr("&Save"), QStringLiteral("document-save"), QKeySequence::Save, [this] { Save(); }, "save");
-  AddAction(
-      file, tr("Save &as..."), QStringLiteral("document-save-as"), QKeySequence::SaveAs, [this] { SaveAs(); },
-      "saveAs");
-  file->addSeparator();
-  AddAction(
-      file, tr("&Quit"), QStringLiteral("application-exit"), QKeySequence::Quit, [this] { close(); }, "quit");
-
-  QMenu* edit = menuBar()->addMenu(tr("&Edit"));
+  commands_ = new WindowCommands(*this);
   form_ = new FormActions(*this);
   connect(form_, &FormActions::Wanted, this, &MainWindow::Run);
   form_->WorkIn(*surface_);
   form_->WorkIn(structure_->Tree());
-  form_->AddTo(*edit, {ActionGroup::Undo, ActionGroup::Clipboard, ActionGroup::Select});
 
-  QMenu* view = menuBar()->addMenu(tr("&View"));
-  for (QDockWidget* d : findChildren<QDockWidget*>()) view->addAction(d->toggleViewAction());
-  view->addSeparator();
-  AddAction(
-      view, tr("&Form or inspector"), {}, Qt::Key_F11,
-      [this] {
-        if (!inspector_->isAncestorOf(QApplication::focusWidget()))
-          inspector_->FocusValue();
-        else if (CommitTyping())
-          surface_->setFocus();
-      },
-      "formOrInspector");
-  AddAction(
-      view, tr("&Palette"), {}, Qt::CTRL | Qt::Key_F,
-      [this] {
-        palette_->Search().setFocus();
-        palette_->Search().selectAll();
-      },
-      "findComponent");
-  view->addSeparator();
-  auto* zoomIn = AddAction(
-      view, tr("Zoom &in"), QStringLiteral("zoom-in"), QKeySequence::ZoomIn,
-      [this] { SetZoom(surface_->Zoom() * 1.25); }, "zoomIn");
-  auto* zoomOut = AddAction(
-      view, tr("Zoom &out"), QStringLiteral("zoom-out"), QKeySequence::ZoomOut,
-      [this] { SetZoom(surface_->Zoom() / 1.25); }, "zoomOut");
-  AddAction(
-      view, tr("&100 %"), {}, QKeySequence(Qt::CTRL | Qt::Key_0), [this] { SetZoom(1); }, "zoom100");
-  view->addSeparator();
-  AddAction(
-      view, tr("&Light theme"), {}, {}, [] { ChooseTheme(TTheme::Light); }, "light");
-  AddAction(
-      view, tr("&Dark theme"), {}, {}, [] { ChooseTheme(TTheme::Dark); }, "dark");
-  AddFormColorsMenu(*view);
-
+  QMenu& file = *menuBar()->addMenu(tr("&File"));
+  commands_->AddTo(file, WindowMenu::File);
+  QMenu& edit = *menuBar()->addMenu(tr("&Edit"));
+  form_->AddTo(edit, {ActionGroup::Undo, ActionGroup::Clipboard, ActionGroup::Select});
+  commands_->AddTo(edit, WindowMenu::Commands);
+  QMenu& view = *menuBar()->addMenu(tr("&View"));
+  for (const WindowMenu part : {WindowMenu::Panes, WindowMenu::Go, WindowMenu::Zoom, WindowMenu::Theme})
+    commands_->AddTo(view, part);
+  commands_->AddTo(*view.addMenu(tr("Form &colours")), WindowMenu::FormColors);
   form_->AddTo(*menuBar()->addMenu(tr("F&orm")), {ActionGroup::Align, ActionGroup::Size, ActionGroup::Spacing,
                                                   ActionGroup::Order, ActionGroup::Grid});
+  commands_->AddTo(*menuBar()->addMenu(tr("&Help")), WindowMenu::Help);
 
-  QMenu* help = menuBar()->addMenu(tr("&Help"));
-  AddAction(
-      help, tr("&About"), QStringLiteral("help-about"), {},
-      [this] {
-        Prompts().Inform(this, tr("About"),
-                         tr("Orlenvo-Kit form designer %1").arg(QStringLiteral(VRX_VERSION)));
-      },
-      "about");
-
-  for (QAction* a : {fresh, open, save_}) tools->addAction(a);
+  commands_->AddTo(*tools, WindowMenu::File);
   form_->AddTo(*tools);
   tools->addSeparator();
-  for (QAction* a : {zoomOut, zoomIn}) tools->addAction(a);
+  commands_->AddTo(*tools, WindowMenu::Zoom);
 }
 
-void MainWindow::SetZoom(double factor) {
-  if (std::abs(factor - 1) < 0.05) factor = 1;
-  surface_->SetZoom(factor);
-  UpdateStatus();
+double MainWindow::Zoom() const { return surface_->Zoom(); }
+void MainWindow::SetZoom(double factor) { desk_->SetZoom(factor); }
+
+bool MainWindow::ShowsPane(WindowPane pane) const {
+  return !docks_[static_cast<std::size_t>(pane)]->isHidden();
+}
+void MainWindow::ShowPane(WindowPane pane, bool shown) {
+  docks_[static_cast<std::size_t>(pane)]->setVisible(shown);
 }
 
-// --- Files
+void MainWindow::GoToFormOrInspector() {
+  if (!inspector_->isAncestorOf(QApplication::focusWidget()))
+    inspector_->FocusValue();
+  else if (CommitTyping())
+    surface_->setFocus();
+}
 
-void MainWindow::SetSession(std::unique_ptr<FormSession> session) {
-  inspector_->SetSession(nullptr);
-  structure_->SetSession(nullptr);
-  surface_->SetSession(nullptr);
-  session_ = std::move(session);
-  disk_->SetSession(session_.get());
-  surface_->SetSession(session_.get());
-  structure_->SetSession(session_.get());
-  inspector_->SetSession(session_.get());
-  connect(session_.get(), &FormSession::ModifiedChanged, this, &MainWindow::UpdateActions);
-  connect(session_.get(), &FormSession::Changed, this, &MainWindow::UpdateActions);
-  connect(session_.get(), &FormSession::SelectionChanged, this, [this] {
-    form_->Update(session_.get());
-    UpdateStatus();
-  });
-  connect(session_.get(), &FormSession::HandlerShown, this,
-          [this](const QString& name) { statusBar()->showMessage(tr("Event handler %1").arg(name), 5000); });
-  UpdateProblems();
+void MainWindow::GoToPalette() {
+  palette_->Search().setFocus();
+  palette_->Search().selectAll();
+}
+
+void MainWindow::TellAbout() {
+  Prompts().Inform(this, tr("About"), tr("Orlenvo-Kit form designer %1").arg(QStringLiteral(VRX_VERSION)));
+}
+
+void MainWindow::ShowCommands() {
   UpdateActions();
-  surface_->setFocus();
-}
-
-void MainWindow::UpdateProblems() {
-  problems_->clear();
-  int count = 0;
+  std::vector<CommandEntry> rows;
   if (session_)
-    for (const forms::Finding& f : session_->Findings()) {
-      if (f.severity == forms::Severity::Note) continue;
-      ++count;
-      auto* item = new QListWidgetItem(
-          f.where.line > 0 ? tr("Line %1: %2").arg(f.where.line).arg(f.text) : f.text, problems_);
-      item->setIcon(style()->standardIcon(f.severity == forms::Severity::Error
-                                              ? QStyle::SP_MessageBoxCritical
-                                              : QStyle::SP_MessageBoxWarning));
-    }
-  problemsDock_->setWindowTitle(tr("Problems (%1)").arg(count));
-  problemsDock_->setVisible(count > 0);
+    for (const Verb& verb : VerbsOfSelection(*session_))
+      if (verb.run) {
+        const TComponent& c = *session_->SelectedComponents().front();
+        const QString text = QString(verb.text).remove(u'&');
+        rows.push_back(
+            {QStringLiteral("verb %1 %2").arg(QString::fromLatin1(c.ClassType().ClassName()), text),
+             QStringLiteral("%1: %2").arg(c.Name(), text),
+             {},
+             ComponentIcon(c.ClassType()),
+             {},
+             [this, run = verb.run] { RunVerb(run); }});
+      }
+  form_->AddTo(rows);
+  commands_->AddTo(rows);
+  new CommandPalette(*this, std::move(rows));
 }
-
-bool MainWindow::OpenForm(const QString& fileName) {
-  try {
-    // An editor's dialog works on components of the form that is open.
-    if (session_ && session_->IsBusy()) throw Exception(tr("Finish what is open first."));
-    SetSession(FormSession::Open(fileName, packages_.Registry()));
-    forms::RemoveLeftovers(fileName);
-    return true;
-  } catch (const std::exception& e) {
-    Prompts().Warn(this, tr("Open form"),
-                   tr("%1 cannot be opened.\n%2").arg(QFileInfo(fileName).fileName(), ExceptionMessage(e)));
-    return false;
-  }
-}
-
-bool MainWindow::Reload() {
-  QStringList names;
-  for (const TComponent* c : session_->SelectedComponents()) names << c->Name();
-  const QString file = session_->FileName();  // the session that knows it goes
-  if (!OpenForm(file)) return false;
-  std::vector<TComponent*> selected;
-  for (const QString& name : names)
-    if (TComponent* c = session_->GetComponent(name)) selected.push_back(c);
-  session_->Select(selected);
-  return true;
-}
-
-void MainWindow::NewForm() {
-  SetSession(FormSession::NewForm(QStringLiteral("Form1"), packages_.Registry()));
-}
-
-bool MainWindow::SaveTo(const QString& fileName) {
-  try {
-    if (forms::SameFile(fileName, session_->FileName())) return disk_->Save();
-    session_->SaveAs(fileName);
-    disk_->SetSession(session_.get());
-    return true;
-  } catch (const std::exception& e) {
-    Prompts().Warn(this, tr("Save form"), ExceptionMessage(e));
-    return false;
-  }
-}
-
-bool MainWindow::Save() {
-  if (!session_) return true;
-  if (!CommitTyping()) return false;
-  return session_->FileName().isEmpty() ? SaveAs() : SaveTo(session_->FileName());
-}
-
-bool MainWindow::SaveAs() {
-  if (!session_) return true;
-  if (!CommitTyping()) return false;
-  const QString start = session_->FileName().isEmpty()
-                            ? session_->Form().Name().toLower() + QStringLiteral(".dfm")
-                            : session_->FileName();
-  const QString name = Prompts().SaveFileName(this, tr("Save form as"), start, FormFilter());
-  return !name.isEmpty() && SaveTo(name);
-}
-
-bool MainWindow::MayClose() {
-  if (!CommitTyping()) return false;
-  if (!session_ || !session_->IsModified()) return true;
-  const QString what =
-      session_->FileName().isEmpty() ? session_->Form().Name() : QFileInfo(session_->FileName()).fileName();
-  switch (Prompts().AskToSave(this, tr("%1 has changes that are not saved. Save them?").arg(what))) {
-    case TAnswer::Yes:
-      return Save();
-    case TAnswer::No:
-      return true;
-    case TAnswer::Cancel:
-      return false;
-  }
-  return false;
-}
-
-bool MainWindow::event(QEvent* event) {
-  const bool handled = QMainWindow::event(event);
-  if (event->type() == QEvent::WindowActivate) disk_->Check();
-  return handled;
-}
-
-void MainWindow::closeEvent(QCloseEvent* event) { event->setAccepted(MayClose()); }
 
 // --- State
 
+bool MainWindow::HasUnsaved() const {
+  return session_ && (session_->IsModified() || session_->FileName().isEmpty() || disk_->Differs() ||
+                      inspector_->Editor().IsChanged());
+}
+
+QString MainWindow::ShownName() const {
+  if (!session_) return {};
+  return session_->FileName().isEmpty() ? session_->Form().Name()
+                                        : QFileInfo(session_->FileName()).fileName();
+}
+
 void MainWindow::UpdateActions() {
-  const bool open = session_ != nullptr;
-  const QString file = !open                            ? QString()
-                       : session_->FileName().isEmpty() ? session_->Form().Name()
-                                                        : QFileInfo(session_->FileName()).fileName();
-  setWindowTitle(open ? tr("%1[*] - Orlenvo-Kit designer").arg(file) : tr("Orlenvo-Kit designer"));
-  setWindowModified(open && session_->IsModified());
-  save_->setEnabled(open && (session_->IsModified() || session_->FileName().isEmpty() || disk_->Differs() ||
-                             inspector_->Editor().IsChanged()));
+  setWindowTitle(session_ ? tr("%1[*] - Orlenvo-Kit designer").arg(ShownName()) : tr("Orlenvo-Kit designer"));
+  setWindowModified(session_ && session_->IsModified());
   form_->Update(session_.get());
+  commands_->Update();
   UpdateStatus();
 }
 
-void MainWindow::UpdateStatus() {
-  zoomLabel_->setText(tr("%1 %").arg(qRound(surface_->Zoom() * 100)));
-  if (!session_) return;
-  modifiedLabel_->setText(session_->IsModified() ? tr("Modified") : QString());
-  const auto selected = session_->SelectedComponents();
-  if (selected.size() > 1) {
-    selectionLabel_->setText(tr("%n selected", nullptr, static_cast<int>(selected.size())));
-    boundsLabel_->clear();
-  } else {
-    const TComponent& c = *selected.front();
-    selectionLabel_->setText(QStringLiteral("%1: %2").arg(c.Name(), QString::fromUtf8(c.StreamClassName())));
-    const auto* control = As<TControl>(&c);
-    boundsLabel_->setText(control ? QStringLiteral("%1, %2   %3 x %4")
-                                        .arg(control->Left())
-                                        .arg(control->Top())
-                                        .arg(control->Width())
-                                        .arg(control->Height())
-                                  : QString());
+void MainWindow::UpdateStatus() { status_->Show(session_.get(), Zoom()); }
+
+void MainWindow::RunVerb(const std::function<void()>& run) {
+  if (session_->IsBusy() || !CommitTyping()) return;
+  try {
+    run();
+  } catch (const std::exception& e) {
+    ReportException(this, e);
   }
 }
 
@@ -459,34 +286,12 @@ void MainWindow::UpdateStatus() {
 void MainWindow::ShowContextMenu(const QPoint& pos) {
   QMenu menu(this);
   menu.setObjectName(QStringLiteral("surfaceMenu"));
-  const auto selected = session_->SelectedComponents();
-  std::unique_ptr<TComponentEditor> editor;
-  if (selected.size() == 1) {
-    editor = session_->Registry().GetComponentEditor(selected[0], session_.get());
-    const auto call = [this, component = selected[0]](const char* member) {
-      return [this, component, member] { return session_->Registry().CallOf(*component, member); };
-    };
-    const int verbs = AskPackage(call("GetVerbCount"), 0, [&] { return editor->GetVerbCount(); });
-    for (int i = 0; i < verbs; ++i) {
-      const QString verb =
-          AskPackage(call("GetVerb"), QStringLiteral("-"), [&] { return editor->GetVerb(i); });
-      if (verb == QStringLiteral("-")) {
-        menu.addSeparator();
-        continue;
-      }
-      menu.addAction(verb, this, [&, i, verb] {
-        try {
-          session_->Run(QString(verb).remove(u'&'), selected,
-                        [&, run = session_->Registry().CallOf(*selected[0], "ExecuteVerb")] {
-                          PackageCall([&] { return run; }, [&] { editor->ExecuteVerb(i); });
-                        });
-        } catch (const std::exception& e) {
-          ReportException(this, e);
-        }
-      });
-    }
-    menu.addSeparator();
-  }
+  for (const Verb& verb : VerbsOfSelection(*session_))
+    if (verb.run)
+      menu.addAction(verb.text, this, [this, run = verb.run] { RunVerb(run); });
+    else
+      menu.addSeparator();
+  if (!menu.isEmpty()) menu.addSeparator();
   form_->AddTo(menu, {ActionGroup::Undo, ActionGroup::Clipboard, ActionGroup::Align, ActionGroup::Size,
                       ActionGroup::Spacing, ActionGroup::Order});
   menu.exec(pos);

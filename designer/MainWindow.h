@@ -1,20 +1,26 @@
 // The designer's main window: palette, structure, inspector and the surface of the open form.
 #pragma once
 #include <QMainWindow>
+#include <array>
 
 #include "ide/FormSession.h"
 #include "ide/PackageManager.h"
 
+class Desk;
 class DiskChanges;
 class FormActions;
 class FormSurface;
 class InspectorPane;
 class PalettePane;
-class QLabel;
-class QListWidget;
+class ProblemsList;
+class QDockWidget;
 class QShortcut;
+class StatusLine;
 class StructurePane;
+class WindowCommands;
 struct ActionRow;
+
+enum class WindowPane : std::uint8_t { Structure, Inspector, Problems };
 
 class MainWindow : public QMainWindow {
   Q_OBJECT
@@ -32,6 +38,20 @@ class MainWindow : public QMainWindow {
   bool SaveAs();
   // Asks when there are changes; false when the person wants to stay.
   bool MayClose();
+  bool HasUnsaved() const;
+  // As menus do it: what is not saved is asked for first.
+  void AskForNewForm();
+  void AskForForm();
+
+  double Zoom() const;
+  void SetZoom(double factor);
+  bool ShowsPane(WindowPane pane) const;
+  void ShowPane(WindowPane pane, bool shown);
+  void GoToFormOrInspector();
+  void GoToPalette();
+  // Everything that can be done, to be searched.
+  void ShowCommands();
+  void TellAbout();
 
   FormSession* Session() const { return session_.get(); }
   FormSurface& Surface() { return *surface_; }
@@ -48,17 +68,17 @@ class MainWindow : public QMainWindow {
   void PlaceOne(const TClass& cls);
   void Run(const ActionRow& row);
   void ShowTool();
-  void BuildActions();
   void BuildPanes();
+  void ConnectPanes();
+  void BuildMenus();
   void SetSession(std::unique_ptr<FormSession> session);
+  QString ShownName() const;
   void UpdateActions();
   void UpdateStatus();
   void UpdateProblems();
+  void RunVerb(const std::function<void()>& run);
   void ShowContextMenu(const QPoint& pos);
-  void SetZoom(double factor);
   bool SaveTo(const QString& fileName);
-  QAction* AddAction(QWidget* menu, const QString& text, const QString& icon, const QKeySequence& keys,
-                     const std::function<void()>& run, const char* name);
 
   PackageManager& packages_;
   std::unique_ptr<FormSession> session_;
@@ -67,14 +87,12 @@ class MainWindow : public QMainWindow {
   InspectorPane* inspector_ = nullptr;
   PalettePane* palette_ = nullptr;
   StructurePane* structure_ = nullptr;
-  QListWidget* problems_ = nullptr;
-  class QDockWidget* problemsDock_ = nullptr;
-  QLabel* selectionLabel_ = nullptr;
-  QLabel* boundsLabel_ = nullptr;
-  QLabel* zoomLabel_ = nullptr;
-  QLabel* modifiedLabel_ = nullptr;
+  ProblemsList* problems_ = nullptr;
+  std::array<QDockWidget*, 3> docks_{};  // by WindowPane
+  Desk* desk_ = nullptr;
+  StatusLine* status_ = nullptr;
   QShortcut* putDown_ = nullptr;
-  QAction* save_ = nullptr;
+  WindowCommands* commands_ = nullptr;
   FormActions* form_ = nullptr;
 };
 

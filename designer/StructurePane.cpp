@@ -24,10 +24,16 @@ StructurePane::StructurePane(QWidget* parent) : QWidget(parent) {
   tree_->setUniformRowHeights(true);
   tree_->setExpandsOnDoubleClick(false);
   tree_->setAccessibleName(tr("Structure"));
+  hidden_ = new QLabel;
+  hidden_->setObjectName(QStringLiteral("hiddenSelection"));
+  hidden_->setWordWrap(true);
+  hidden_->setForegroundRole(QPalette::PlaceholderText);
+  hidden_->hide();
   auto* box = new QVBoxLayout(this);
   box->setContentsMargins(6, 6, 6, 6);
   box->setSpacing(4);
   box->addWidget(tree_, 1);
+  box->addWidget(hidden_);
   box->addWidget(filter_);
   connect(filter_, &QLineEdit::textChanged, this, &StructurePane::ApplyFilter);
   connect(tree_->selectionModel(), &QItemSelectionModel::selectionChanged, this,
@@ -98,11 +104,22 @@ void StructurePane::ShowSelection() {
   const QScopedValueRollback guard(updating_, true);
   QItemSelection rows;
   QModelIndex first;
-  for (const TComponent* c : Session()->SelectedComponents()) {
+  const auto selected = Session()->SelectedComponents();
+  std::vector<const TComponent*> hidden;
+  for (const TComponent* c : selected) {
     const QModelIndex row = filtered_->mapFromSource(model_.IndexOf(*c));
-    if (row.isValid()) rows.select(row, row);
+    if (row.isValid())
+      rows.select(row, row);
+    else
+      hidden.push_back(c);
     if (!first.isValid()) first = row;
   }
+  hidden_->setVisible(!hidden.empty());
+  if (!hidden.empty())
+    hidden_->setText(hidden.size() == 1
+                         ? tr("%1 is selected, but the filter hides it.").arg(hidden.front()->Name())
+                         : tr("%n selected components are hidden by the filter.", nullptr,
+                              static_cast<int>(hidden.size())));
   tree_->selectionModel()->select(rows, QItemSelectionModel::ClearAndSelect);
   if (!first.isValid()) return;
   tree_->selectionModel()->setCurrentIndex(first, QItemSelectionModel::NoUpdate);

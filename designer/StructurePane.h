@@ -5,6 +5,7 @@
 
 #include "ide/ComponentModel.h"
 
+class QLabel;
 class QLineEdit;
 class QSortFilterProxyModel;
 class QTreeView;
@@ -29,6 +30,7 @@ class StructurePane : public QWidget {
   QSortFilterProxyModel* filtered_;
   QTreeView* tree_;
   QLineEdit* filter_;
+  QLabel* hidden_;        // says that the selection is not in sight
   QSet<QString> closed_;  // titles
   int scroll_ = 0;
   bool updating_ = false;

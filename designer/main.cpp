@@ -3,7 +3,7 @@
 
 #include "dclstd/StandardEditors.h"
 #include "designer/Application.h"
-#include "designer/FormColorsMenu.h"
+#include "designer/LookSettings.h"
 #include "designer/MainWindow.h"
 #include "designer/Pictures.h"
 #include "rtl/Exceptions.h"

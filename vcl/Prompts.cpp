@@ -1,5 +1,6 @@
 #include "vcl/Prompts.h"
 
+#include <QDir>
 #include <QFileDialog>
 #include <QMessageBox>
 #include <QPushButton>
@@ -53,18 +54,28 @@ class WidgetPrompts : public IPrompts {
   }
   QString OpenFileName(QWidget* parent, const QString& title, const QString& folder,
                        const QString& filter) override {
-    return QFileDialog::getOpenFileName(parent, title, folder, filter);
+    return QFileDialog::getOpenFileName(parent, title, InPromptFolder(folder), filter);
   }
   QString SaveFileName(QWidget* parent, const QString& title, const QString& file,
                        const QString& filter) override {
-    return QFileDialog::getSaveFileName(parent, title, file, filter);
+    return QFileDialog::getSaveFileName(parent, title, InPromptFolder(file), filter);
   }
 };
+QString& Folder() {
+  static QString folder;
+  return folder;
+}
 IPrompts*& Current() {
   static IPrompts* current = nullptr;
   return current;
 }
 }  // namespace
+
+void SetPromptFolder(const QString& folder) { Folder() = folder; }
+QString InPromptFolder(const QString& name) {
+  if (Folder().isEmpty()) return name;
+  return name.isEmpty() ? Folder() : QDir(Folder()).filePath(name);
+}
 
 IPrompts& Prompts() {
   static WidgetPrompts widgets;

@@ -26,6 +26,11 @@ class IPrompts {
                                const QString& filter) = 0;
 };
 
+// Where file dialogs start that are given no folder: beside the file that is worked on.
+void SetPromptFolder(const QString& folder);
+// A name without a folder is in that one; none is the folder itself.
+QString InPromptFolder(const QString& name);
+
 // The current one; message boxes and the platform's file dialogs unless replaced.
 IPrompts& Prompts();
 // Null restores the default. The caller keeps ownership.

@@ -124,6 +124,25 @@ TEST_F(DesignerTest, TheStructureFilterHidesWhatDoesNotFit) {
   EXPECT_FALSE(ItemOf(tree, QStringLiteral("Timer1")).isValid());
 }
 
+TEST_F(DesignerTest, TheStructureTellsThatItsFilterHidesTheSelection) {
+  const auto& hint = *window_->Structure().findChild<QLabel*>(QStringLiteral("hiddenSelection"));
+  auto& filter = *window_->Structure().findChild<QLineEdit*>();
+  Select("Button1");
+  EXPECT_FALSE(hint.isVisible());
+  QTest::keyClicks(&filter, QStringLiteral("inner"));
+  EXPECT_TRUE(hint.isVisible());
+  EXPECT_EQ(hint.text(), QStringLiteral("Button1 is selected, but the filter hides it."));
+  Session().Select({&Get("Inner"), &Get("Led"), &Get("Button2")});
+  EXPECT_TRUE(hint.text().startsWith(u'2')) << hint.text().toStdString();
+  Select("Inner");
+  EXPECT_FALSE(hint.isVisible());
+  Select("Led");
+  EXPECT_TRUE(hint.isVisible());
+  filter.clear();
+  EXPECT_FALSE(hint.isVisible());
+  EXPECT_EQ(Selected(), "Led");
+}
+
 TEST_F(DesignerTest, TheStructureKeepsClosedWhatWasClosed) {
   QTreeView& tree = window_->Structure().Tree();
   tree.setExpanded(ItemOf(tree, QStringLiteral("Panel1")), false);

@@ -137,16 +137,69 @@ TEST_F(DesignerTest, AResizeThatWasSmallOnTheWayKeepsTheChildren) {
   EXPECT_EQ(Bounds("Inner"), QRect(16, 48, 80, 24));
 }
 
-TEST_F(DesignerTest, DeletingDuringADragEndsTheDrag) {
+TEST_F(DesignerTest, DeleteDoesNothingToWhatIsBeingDragged) {
   const QPoint from = At("Button1");
   Press(from);
   MoveTo(from + QPoint(40, 40));
   Key(Qt::Key_Delete);
+  Action("delete").trigger();
+  EXPECT_TRUE(Session().IsLive());
+  ASSERT_TRUE(Session().GetComponent(QStringLiteral("Button1")));
   MoveTo(from + QPoint(80, 80));
   Release(from + QPoint(80, 80));
-  while (Session().CanUndo()) Session().Undo();
-  ExpectUntouched();
+  EXPECT_EQ(Bounds("Button1"), QRect(320, 96, 80, 24));
+  ExpectOneCommand();
+}
+
+// A design window may delete at any time.
+TEST_F(DesignerTest, WhatGoesInMidDragTakesTheDragWithIt) {
+  const QPoint from = At("Button1");
+  Press(from);
+  MoveTo(from + QPoint(40, 40));
+  Session().DeleteComponents({&Get("Button1")});
+  EXPECT_FALSE(Session().IsLive());
+  EXPECT_FALSE(Session().GetComponent(QStringLiteral("Button1")));
+  const QByteArray without = Session().Bytes();
+  MoveTo(from + QPoint(80, 80));
+  Release(from + QPoint(80, 80));
+  EXPECT_EQ(Session().Bytes(), without);
+  EXPECT_FALSE(Surface().IsDragging());
+  ExpectOneCommand();
+  Session().Undo();
   EXPECT_EQ(Bounds("Button1"), QRect(240, 16, 80, 24));
+}
+
+TEST_F(DesignerTest, ASurfaceHearsNothingOfAFormItNoLongerShows) {
+  const auto other = FormSession::FromBytes(Sample, {}, registry_);
+  FormSurface surface;
+  surface.SetSession(&Session());
+  surface.SetSession(other.get());
+  surface.resize(surface.sizeHint());
+  const QImage before = surface.grab().toImage();
+  const QSize size = surface.sizeHint();
+  Select("Led");
+  Session().Run(QStringLiteral("larger"), {}, [&] {
+    Session().Form().SetClientWidth(900);
+    Get("Button1").SetTag(7);
+  });
+  Session().DeleteSelection();
+  EXPECT_EQ(surface.sizeHint(), size);
+  EXPECT_EQ(surface.grab().toImage(), before);
+}
+
+TEST_F(DesignerTest, ASurfaceWhoseFormIsClosedIsEmpty) {
+  auto other = FormSession::FromBytes(Sample, {}, registry_);
+  FormSurface surface;
+  surface.SetSession(other.get());
+  surface.resize(surface.sizeHint());
+  surface.grab();
+  other.reset();
+  surface.grab();
+  QTest::mouseClick(&surface, Qt::LeftButton, {}, QPoint(60, 60));
+  QTest::keyClick(&surface, Qt::Key_Right);
+  EXPECT_EQ(surface.ComponentAt(QPoint(60, 60)), nullptr);
+  surface.SetSession(&Session());
+  EXPECT_EQ(surface.ComponentAt(surface.WidgetRect(Get("Button1")).center()), &Get("Button1"));
 }
 
 TEST_F(DesignerTest, ArrowsMoveByTheGridAndWithControlByAPixel) {

@@ -1,5 +1,5 @@
 // Files, undo, questions, errors and looks of the main window.
-#include "designer/FormColorsMenu.h"
+#include "designer/LookSettings.h"
 #include "designer/MessageBar.h"
 #include "rtl/Exceptions.h"
 #include "tests/designer/DesignerTest.h"
@@ -296,6 +296,17 @@ TEST_F(Window, TheThemeIsRemembered) {
   ApplyTheme(TTheme::Dark);
   RestoreTheme();
   EXPECT_FALSE(IsDarkTheme());
+}
+
+TEST_F(Window, FileDialogsStartBesideTheForm) {
+  EXPECT_EQ(InPromptFolder({}), QFileInfo(file_).absolutePath());
+  EXPECT_EQ(InPromptFolder(QStringLiteral("x.png")),
+            QFileInfo(file_).absolutePath() + QStringLiteral("/x.png"));
+  EXPECT_EQ(InPromptFolder(QStringLiteral("/tmp/x.png")), QStringLiteral("/tmp/x.png"));
+  ASSERT_TRUE(QDir(folder_.path()).mkdir(QStringLiteral("other")));
+  prompts_.fileName = folder_.filePath(QStringLiteral("other/copy.dfm"));
+  ASSERT_TRUE(window_->SaveAs());
+  EXPECT_EQ(InPromptFolder({}), folder_.filePath(QStringLiteral("other")));
 }
 
 TEST_F(Window, FormColoursAreOfTheFormAloneAndRemembered) {

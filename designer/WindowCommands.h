@@ -1,0 +1,45 @@
+// What the window itself can do, as one table: menus, tool bar, keys and the command palette read it. What is
+// done to the selection stands in ide/operations/Actions.
+#pragma once
+#include <QObject>
+
+#include "designer/CommandPalette.h"
+
+class MainWindow;
+class QMenu;
+class QToolBar;
+
+enum class WindowMenu : std::uint8_t { File, Commands, Panes, Go, Zoom, Theme, FormColors, Help };
+
+struct WindowCommand {
+  const char* id;
+  WindowMenu menu;  // what stands together
+  const char* text;
+  const char* keys;  // several with "; " between them
+  const char* icon;  // of the icon theme; empty for none
+  bool inToolBar;
+  void (*run)(MainWindow& window);
+  // Empty when it can be done now; else why not, and what to do. Null: it always can.
+  QString (*whyNot)(const MainWindow& window);
+  // Of what is on or off; null for all else.
+  bool (*isOn)(const MainWindow& window);
+
+  QString Text() const;
+  QString Title() const;  // "Form colours: Dark"
+};
+const std::vector<WindowCommand>& WindowCommandTable();
+
+class WindowCommands : public QObject {
+  Q_OBJECT
+ public:
+  explicit WindowCommands(MainWindow& window);
+  void AddTo(QMenu& menu, WindowMenu part) const;
+  void AddTo(QToolBar& bar, WindowMenu part) const;
+  // What can be done now, and what is on.
+  void Update();
+  void AddTo(std::vector<CommandEntry>& rows) const;
+
+ private:
+  MainWindow& window_;
+  std::vector<std::pair<const WindowCommand*, QAction*>> actions_;
+};
