@@ -5,7 +5,7 @@
 #include "dclstd/EditorDialog.h"
 #include "dclstd/SpinEdit.h"
 #include "vcl/ControlView.h"
-#include "vcl/StdCtrls.h"
+#include "vcl/Label.h"
 
 class QCheckBox;
 class QFontComboBox;
