@@ -7,7 +7,7 @@
 #include "dclstd/StandardEditors.h"
 #include "designer/FormSurface.h"
 #include "designer/MainWindow.h"
-#include "vcl/StdCtrls.h"
+#include "vcl/Button.h"
 
 namespace {
 // Until everything that follows has been done and painted.

@@ -3,7 +3,7 @@
 #pragma once
 #include "dclstd/ColorComboBox.h"
 #include "dclstd/EditorDialog.h"
-#include "vcl/StdCtrls.h"
+#include "vcl/Label.h"
 
 class QFontComboBox;
 

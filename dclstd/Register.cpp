@@ -1,11 +1,12 @@
-#include "dclstd/Icons.h"
 #include "dclstd/StandardEditors.h"
 #include "designintf/RegistrationTable.h"
 #include "rtl/ClassRegistry.h"
 #include "rtl/Strings.h"
-#include "vcl/ExtCtrls.h"
+#include "vcl/Button.h"
 #include "vcl/Form.h"
-#include "vcl/StdCtrls.h"
+#include "vcl/Label.h"
+#include "vcl/Panel.h"
+#include "vcl/Timer.h"
 
 using namespace registration;
 
@@ -40,7 +41,6 @@ const Row kRows[] = {
 }  // namespace
 
 void RegisterStandard(DesignRegistry& registry) {
-  RegisterStandardIcons();
   RegisterClass(TForm::StaticClass());
   PromiseTelling(TForm::StaticClass());
   const RegistrationScope scope(registry, nullptr, {});

@@ -8,6 +8,7 @@
 #include "designintf/CustomColors.h"
 #include "designintf/IdeTheme.h"
 #include "rtl/Class.h"
+#include "rtl/Persistent.h"
 
 namespace {
 void SetName(QWidget& widget, const char* name, const char* hint) {

@@ -54,12 +54,6 @@ TPropertyAttributes TNamedIntegerProperty::GetAttributes() const {
 }
 
 namespace {
-bool SameValues(const TPersistent& a, const TPersistent& b) {
-  return std::ranges::all_of(TFont::StaticClass().Properties(), [&](const TPropInfo* prop) {
-    return prop->Kind() == TTypeKind::tkString ? GetStrProp(a, *prop) == GetStrProp(b, *prop)
-                                               : GetOrdProp(a, *prop) == GetOrdProp(b, *prop);
-  });
-}
 // Every value of a small range that has a name.
 void NamesOf(const TTypeInfo& type, std::int64_t from, std::int64_t to, const TGetStrProc& proc) {
   const TIntegerConsts* consts = FindIntegerConsts(type);

@@ -21,7 +21,7 @@ void NoteUsed(const QString& id) {
 }
 }  // namespace
 
-CommandEntry RowOf(QAction& action, const QString& title) {
+CommandEntry EntryOf(QAction& action, const QString& title) {
   return {action.objectName(),
           title,
           action.shortcut().toString(QKeySequence::NativeText),

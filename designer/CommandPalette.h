@@ -17,7 +17,7 @@ struct CommandEntry {
   std::function<void()> run;
 };
 // The action must outlive the row. Its status tip is the reason.
-CommandEntry RowOf(QAction& action, const QString& title);
+CommandEntry EntryOf(QAction& action, const QString& title);
 
 class CommandPalette : public QFrame {
   Q_OBJECT

@@ -70,7 +70,7 @@ void FormActions::AddTo(QToolBar& bar) const {
 
 void FormActions::AddTo(std::vector<CommandEntry>& rows) const {
   for (const auto& [row, action] : actions_)
-    rows.push_back(RowOf(*action, row->object ? action->text().remove(u'&') : row->Title()));
+    rows.push_back(EntryOf(*action, row->object ? action->text().remove(u'&') : row->Title()));
 }
 
 void FormActions::Update(const FormSession* session) {

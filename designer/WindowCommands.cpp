@@ -152,5 +152,5 @@ void WindowCommands::Update() {
 
 void WindowCommands::AddTo(std::vector<CommandEntry>& rows) const {
   for (const auto& [row, action] : actions_)
-    if (row->menu != Menu::Commands) rows.push_back(RowOf(*action, row->Title()));
+    if (row->menu != Menu::Commands) rows.push_back(EntryOf(*action, row->Title()));
 }

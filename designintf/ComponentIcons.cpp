@@ -3,49 +3,121 @@
 #include <QApplication>
 #include <QIconEngine>
 #include <QPainter>
-#include <map>
 
 #include "vcl/Theme.h"
 
 namespace {
-std::map<const TClass*, TIconPainter>& Painters() {
-  static std::map<const TClass*, TIconPainter> painters;
-  return painters;
+// Two tones and the accent, readable on the current theme.
+struct Ink {
+  QColor line, fill, accent;
+};
+
+Ink InkOn(const QPalette& palette, QIcon::Mode mode) {
+  if (mode == QIcon::Selected) {  // on a ground of the accent
+    const QColor text = palette.color(QPalette::HighlightedText);
+    QColor fill = text;
+    fill.setAlpha(50);
+    return {text, fill, text};
+  }
+  const QColor accent = palette.color(QPalette::Highlight);
+  if (IsDark(palette)) return {QColor(0xC8, 0xCD, 0xD6), QColor(0x4A, 0x51, 0x5C), accent};
+  return {QColor(0x4A, 0x52, 0x5E), Qt::white, accent};
 }
 
-void DrawPlain(QPainter& p, const TIconInk& ink) {
-  p.setPen(QPen(ink.Line, 1.5));
-  p.setBrush(ink.Fill);
-  p.drawRoundedRect(QRectF(4, 4, 16, 16), 3, 3);
-  p.setPen(Qt::NoPen);
-  p.setBrush(ink.Accent);
-  p.drawEllipse(QRectF(9, 9, 6, 6));
-}
+// Reads a drawing and paints it, when there is a painter.
+class Drawing {
+ public:
+  Drawing(QByteArrayView text, const Ink& ink, QPainter* painter)
+      : words_(text.toByteArray().split(' ')), ink_(ink), p_(painter) {}
+
+  // The word where it ended; empty at the end.
+  QByteArray Run() {
+    while (at_ < words_.size())
+      if (!Step()) return words_[at_];
+    return {};
+  }
+
+ private:
+  bool Step() {
+    const QByteArray word = words_[at_++];
+    if (word == "pen") {
+      QPen pen(Color(), 1, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin);
+      if (const auto width = Numbers(1); !width.empty()) pen.setWidthF(width[0]);
+      if (at_ < words_.size() && words_[at_] == "dots") pen.setStyle(Qt::DotLine), ++at_;
+      if (p_) p_->setPen(pen.color().alpha() ? pen : QPen(Qt::NoPen));
+    } else if (word == "brush") {
+      const QColor color = Color();
+      if (p_) p_->setBrush(color.alpha() ? QBrush(color) : QBrush(Qt::NoBrush));
+    } else if (word == "box") {
+      if (const auto n = Numbers(5); p_ && n.size() == 5)
+        p_->drawRoundedRect(QRectF(n[0], n[1], n[2], n[3]), n[4], n[4]);
+    } else if (word == "oval") {
+      if (const auto n = Numbers(4); p_ && n.size() == 4) p_->drawEllipse(QRectF(n[0], n[1], n[2], n[3]));
+    } else if (word == "path" || word == "shape") {
+      const auto n = Numbers(words_.size());
+      QPolygonF points;
+      for (std::size_t i = 1; i < n.size(); i += 2) points << QPointF(n[i - 1], n[i]);
+      if (p_) word == "path" ? p_->drawPolyline(points) : p_->drawPolygon(points);
+    } else if (word == "text") {
+      const auto n = Numbers(3);
+      if (n.size() == 3 && at_ < words_.size()) Text({n[0], n[1]}, n[2], QString::fromLatin1(words_[at_++]));
+    } else {
+      --at_;
+      return false;
+    }
+    return true;
+  }
+
+  // As many as there are, up to a limit.
+  std::vector<qreal> Numbers(qsizetype most) {
+    std::vector<qreal> numbers;
+    for (bool number = true; at_ < words_.size() && static_cast<qsizetype>(numbers.size()) < most; ++at_) {
+      const qreal n = words_[at_].toDouble(&number);
+      if (!number) break;
+      numbers.push_back(n);
+    }
+    return numbers;
+  }
+
+  QColor Color() {
+    if (at_ >= words_.size()) return Qt::transparent;
+    const QByteArray word = words_[at_];
+    const qsizetype plus = word.indexOf('+');
+    const QByteArray name = plus < 0 ? word : word.first(plus);
+    QColor color = name == "line"     ? ink_.line
+                   : name == "fill"   ? ink_.fill
+                   : name == "accent" ? ink_.accent
+                   : name == "none"   ? QColor(Qt::transparent)
+                                      : QColor(QLatin1StringView(name));
+    if (!color.isValid()) return Qt::transparent;  // not taken: Run ends here
+    ++at_;
+    return plus < 0 ? color : color.lighter(100 + word.mid(plus + 1).toInt());
+  }
+
+  void Text(QPointF center, qreal size, const QString& text) {
+    if (!p_) return;
+    QFont font = p_->font();
+    font.setPixelSize(static_cast<int>(size));
+    font.setBold(true);
+    p_->setFont(font);
+    p_->drawText(QRectF(center - QPointF(12, 12), QSizeF(24, 24)), Qt::AlignCenter, text);
+  }
+
+  QByteArrayList words_;
+  Ink ink_;
+  QPainter* p_;
+  qsizetype at_ = 0;
+};
 
 void Draw(const TClass& cls, QPainter& painter, const QRectF& rect, const QPalette& palette,
           QIcon::Mode mode = QIcon::Normal) {
-  TIconInk ink;
-  const bool dark = IsDark(palette);
-  ink.Line = dark ? QColor(0xC8, 0xCD, 0xD6) : QColor(0x4A, 0x52, 0x5E);
-  ink.Fill = dark ? QColor(0x4A, 0x51, 0x5C) : QColor(0xFF, 0xFF, 0xFF);
-  ink.Accent = palette.color(QPalette::Highlight);
-  if (mode == QIcon::Selected) {
-    // On a ground of the accent.
-    ink.Line = ink.Accent = palette.color(QPalette::HighlightedText);
-    ink.Fill = ink.Line;
-    ink.Fill.setAlpha(50);
-  }
+  constexpr QByteArrayView plain =
+      "pen line 1.5 brush fill box 4 4 16 16 3 pen none brush accent oval 9 9 6 6";
   painter.save();
   painter.setRenderHint(QPainter::Antialiasing);
   painter.translate(rect.topLeft());
   painter.scale(rect.width() / 24, rect.height() / 24);
-  const TIconPainter* found = nullptr;
-  for (const TClass* c = &cls; c && !found; c = c->ClassParent())
-    if (const auto it = Painters().find(c); it != Painters().end()) found = &it->second;
-  if (found)
-    (*found)(painter, ink);
-  else
-    DrawPlain(painter, ink);
+  Drawing(cls.Icon().isEmpty() ? plain : cls.Icon(), InkOn(palette, mode), &painter).Run();
   painter.restore();
 }
 
@@ -70,8 +142,6 @@ class Engine : public QIconEngine {
 };
 }  // namespace
 
-void RegisterComponentIcon(const TClass& cls, TIconPainter painter) { Painters()[&cls] = std::move(painter); }
-
 QIcon ComponentIcon(const TClass& cls) { return QIcon(new Engine(cls)); }
 
 QPixmap ComponentPixmap(const TClass& cls, int pixels, qreal ratio, const QPalette& palette) {
@@ -82,3 +152,5 @@ QPixmap ComponentPixmap(const TClass& cls, int pixels, qreal ratio, const QPalet
   Draw(cls, p, QRectF(0, 0, pixels, pixels), palette);
   return pixmap;
 }
+
+QByteArray UnknownWordOf(QByteArrayView drawing) { return Drawing(drawing, InkOn(QPalette(), QIcon::Normal), nullptr).Run(); }

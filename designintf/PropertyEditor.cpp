@@ -14,40 +14,18 @@ void TPropertyEditor::SetValue(const QString& value) {
   ChangeAll([&](const TInstProp& p) { SetPropText(*p.Instance, *p.PropInfo, value); });
 }
 
-namespace {
-// What gives the property back the value it has now. A value object is all of one type and refuses at once.
-std::function<void()> Restorer(const TInstProp& p) {
-  TPersistent& instance = *p.Instance;
-  const TPropInfo& prop = *p.PropInfo;
-  switch (prop.Kind()) {
-    case TTypeKind::tkFloat:
-      return [&, v = GetFloatProp(instance, prop)] { SetFloatProp(instance, prop, v); };
-    case TTypeKind::tkString:
-      return [&, v = GetStrProp(instance, prop)] { SetStrProp(instance, prop, v); };
-    case TTypeKind::tkMethod:
-      return [&, v = GetMethodProp(instance, prop)] { SetMethodProp(instance, prop, v); };
-    case TTypeKind::tkClass:
-      if (!IsComponentRef(prop)) break;
-      return [&, v = GetObjectProp(instance, prop)] { SetObjectProp(instance, prop, v); };
-    case TTypeKind::tkUnknown:
-      break;
-    default:
-      return [&, v = GetOrdProp(instance, prop)] { SetOrdProp(instance, prop, v); };
-  }
-  return [] {};
-}
-}  // namespace
-
 void TPropertyEditor::ChangeAll(const std::function<void(const TInstProp&)>& change) {
-  std::vector<std::function<void()>> before;
+  std::vector<TPropValue> before;
   try {
     for (const TInstProp& p : props_) {
-      auto restore = Restorer(p);
+      TPropValue value = GetProp(*p.Instance, *p.PropInfo);
       change(p);
-      before.push_back(std::move(restore));
+      before.push_back(std::move(value));
     }
   } catch (...) {
-    for (const auto& restore : before) restore();
+    // A value object is all of one type and refuses at once.
+    for (std::size_t i = 0; i < before.size() && !GetPropInfo().IsPart(); ++i)
+      SetProp(*props_[i].Instance, *props_[i].PropInfo, before[i]);
     throw;
   }
   Modified();

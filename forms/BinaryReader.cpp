@@ -87,15 +87,15 @@ std::int64_t BinaryReader::TaggedInteger(ValueType type) {
   }
 }
 
-void BinaryReader::ReadDocument(Document& doc) {
+void BinaryReader::ReadDocument(FormTree& tree) {
   p_ += 4;  // the signature, checked by StreamOffset
-  doc.before_ = {0, static_cast<std::uint32_t>(Offset())};
-  doc.lclStream_ = lclStream_;
-  doc.root_ = ReadObject(doc, 0);
-  doc.trailer_ = {static_cast<std::uint32_t>(Offset()), static_cast<std::uint32_t>(end_ - begin_)};
+  tree.before = {0, static_cast<std::uint32_t>(Offset())};
+  tree.lclStream = lclStream_;
+  tree.root = ReadObject(tree, 0);
+  tree.trailer = {static_cast<std::uint32_t>(Offset()), static_cast<std::uint32_t>(end_ - begin_)};
 }
 
-std::unique_ptr<Object> BinaryReader::ReadObject(Document& doc, int depth) {
+std::unique_ptr<Object> BinaryReader::ReadObject(FormTree& tree, int depth) {
   if (depth > MaxDepth) Fail(QStringLiteral("Objects are nested more than %1 deep").arg(MaxDepth));
   Charge(cost::Object);
   auto object = std::make_unique<Object>();
@@ -130,7 +130,7 @@ std::unique_ptr<Object> BinaryReader::ReadObject(Document& doc, int depth) {
   properties.shrink_to_fit();
   object->properties = std::move(properties);
   while (p_ != end_ && *p_ != 0) {
-    auto child = ReadObject(doc, depth + 1);
+    auto child = ReadObject(tree, depth + 1);
     child->parent = object.get();
     object->children.push_back(std::move(child));
   }

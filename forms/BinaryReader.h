@@ -1,6 +1,6 @@
 // The binary form: a "TPF0" stream, bare or wrapped as a resource.
 #pragma once
-#include "forms/Document.h"
+#include "forms/FormTree.h"
 
 namespace forms {
 
@@ -9,7 +9,7 @@ class BinaryReader {
   // `lclStream`: code 21 is a UTF-16 string instead of a double.
   BinaryReader(QByteArrayView bytes, std::size_t at, bool lclStream);
 
-  void ReadDocument(Document& document);
+  void ReadDocument(FormTree& tree);
   void ReadValue(Value* out, int depth = 0);
   // Whether code 21 was met and read as a double.
   bool SawDouble() const { return sawDouble_; }
@@ -17,7 +17,7 @@ class BinaryReader {
   std::size_t Offset() const { return static_cast<std::size_t>(p_ - begin_); }
 
  private:
-  std::unique_ptr<Object> ReadObject(Document& document, int depth);
+  std::unique_ptr<Object> ReadObject(FormTree& tree, int depth);
   unsigned char Byte();
   QByteArrayView Take(std::size_t count, const char* what);
   QByteArrayView ShortString(const char* what);

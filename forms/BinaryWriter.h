@@ -1,6 +1,6 @@
 // Writes the binary form.
 #pragma once
-#include "forms/Document.h"
+#include "forms/FormTree.h"
 
 namespace forms {
 

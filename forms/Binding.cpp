@@ -5,6 +5,7 @@
 #include "forms/TextWriter.h"
 #include "rtl/Collection.h"
 #include "rtl/IntegerConsts.h"
+#include "rtl/OrdinalNames.h"
 #include "rtl/PropAccess.h"
 #include "rtl/PropText.h"
 #include "rtl/Strings.h"
@@ -27,7 +28,7 @@ PropertyTarget FindTarget(TPersistent& root, QByteArrayView path) {
     }
     const qsizetype dot = static_cast<const char*>(point) - path.data();
     const TPropInfo* prop = instance->ClassType().FindProp(path.first(dot));
-    if (!prop || prop->Kind() != TTypeKind::tkClass) return {};
+    if (!prop || !(prop->IsPart() || IsComponentRef(*prop))) return {};
     instance = GetObjectProp(*instance, *prop);
     if (!instance) return {};
     path = path.sliced(dot + 1).trimmed();
@@ -60,45 +61,39 @@ QString OneOf(const TTypeInfo& type) {
 
 }  // namespace
 
+namespace {
+std::int64_t SetBitsOf(const PropertyTarget& t, const Value& v) {
+  const TTypeInfo& type = *t.prop->PropType;
+  if (v.type != ValueType::Set) Refuse(t, v, QStringLiteral("a set like [a, b] is expected"));
+  std::int64_t bits = 0;
+  for (const QByteArray& element : v.elements) {
+    const int i = type.CompType->IndexOfElement(element);
+    if (i < 0)
+      throw EUnknownName(Refusal(t, v,
+                                 QStringLiteral("%1 is no element of %2 (%3)")
+                                     .arg(QString::fromUtf8(element), QString::fromLatin1(type.Name),
+                                          OneOf(*type.CompType))),
+                         type.CompType->Name, element);
+    bits |= std::int64_t{1} << i;
+  }
+  return bits;
+}
+}  // namespace
+
 std::int64_t OrdinalOf(const PropertyTarget& t, const Value& v) {
   const TTypeInfo& type = *t.prop->PropType;
   if (v.IsInteger()) return v.integer;
-  switch (type.Kind) {
-    case TTypeKind::tkSet: {
-      if (v.type != ValueType::Set) Refuse(t, v, QStringLiteral("a set like [a, b] is expected"));
-      std::int64_t bits = 0;
-      for (const QByteArray& element : v.elements) {
-        const int i = type.CompType->IndexOfElement(element);
-        if (i < 0)
-          throw EUnknownName(Refusal(t, v,
-                                     QStringLiteral("%1 is no element of %2 (%3)")
-                                         .arg(QString::fromUtf8(element), QString::fromLatin1(type.Name),
-                                              OneOf(*type.CompType))),
-                             type.CompType->Name, element);
-        bits |= std::int64_t{1} << i;
-      }
-      return bits;
-    }
-    case TTypeKind::tkEnumeration: {
-      const bool boolean = v.type == ValueType::True || v.type == ValueType::False;
-      if (boolean && &type == &TypeInfoOf<bool>::Get()) return v.type == ValueType::True;
-      const int i = v.type == ValueType::Ident ? type.IndexOfElement(v.bytes) : -1;
-      if (i >= 0) return i;
-      const QString expected =
-          QStringLiteral("a %1 is expected (%2)").arg(QString::fromLatin1(type.Name), OneOf(type));
-      if (v.type != ValueType::Ident) Refuse(t, v, expected);
-      throw EUnknownName(Refusal(t, v, expected), type.Name, v.bytes);
-    }
-    default: {
-      std::int64_t value = 0;
-      const TIntegerConsts* consts = v.type == ValueType::Ident ? FindIntegerConsts(type) : nullptr;
-      if (consts && consts->IdentToInt(v.bytes, value)) return value;
-      const QString expected =
-          QStringLiteral("a number or name of type %1 is expected").arg(QString::fromLatin1(type.Name));
-      if (!consts) Refuse(t, v, expected);
-      throw EUnknownName(Refusal(t, v, expected), type.Name, v.bytes);
-    }
-  }
+  if (type.CompType) return SetBitsOf(t, v);
+  if ((v.type == ValueType::True || v.type == ValueType::False) && &type == &TypeInfoOf<bool>::Get())
+    return v.type == ValueType::True;
+  const bool word = v.type == ValueType::Ident;
+  if (const auto named = word ? OrdinalOfName(type, v.bytes) : std::nullopt) return *named;
+  const bool enumeration = !type.Elements.isEmpty();
+  const QString name = QString::fromLatin1(type.Name);
+  const QString expected = enumeration ? QStringLiteral("a %1 is expected (%2)").arg(name, OneOf(type))
+                                       : QStringLiteral("a number or name of type %1 is expected").arg(name);
+  if (!word || !(enumeration || FindIntegerConsts(type))) Refuse(t, v, expected);
+  throw EUnknownName(Refusal(t, v, expected), type.Name, v.bytes);
 }
 
 namespace {
@@ -122,6 +117,13 @@ void ApplyCollection(const PropertyTarget& t, const Value& v, const Document& do
       ApplyValue(inner, p.value, doc, pending);
     }
   }
+}
+
+long double NumberOf(const PropertyTarget& t, const Value& v) {
+  if (v.type == ValueType::Currency) return static_cast<long double>(v.integer) / 10000.0L;
+  if (v.IsReal()) return v.real;
+  if (!v.IsInteger()) Refuse(t, v, QStringLiteral("a number is expected"));
+  return static_cast<long double>(v.integer);
 }
 
 // The refusals of pictures and regions do not know whose they are.
@@ -148,37 +150,33 @@ void ApplyValue(const PropertyTarget& t, const Value& v, const Document& doc,
     return;
   }
   const TPropInfo& prop = *t.prop;
-  switch (prop.Kind()) {
-    case TTypeKind::tkString:
-      if (!v.IsString()) Refuse(t, v, QStringLiteral("a string '...' is expected"));
-      return SetStrProp(*t.instance, prop, doc.Decode(v));
-    case TTypeKind::tkFloat:
-      if (v.type == ValueType::Currency)
-        return SetFloatProp(*t.instance, prop, static_cast<long double>(v.integer) / 10000.0L);
-      if (v.IsReal()) return SetFloatProp(*t.instance, prop, v.real);
-      if (v.IsInteger()) return SetFloatProp(*t.instance, prop, static_cast<long double>(v.integer));
-      Refuse(t, v, QStringLiteral("a number is expected"));
-    case TTypeKind::tkMethod:
-      if (v.type != ValueType::Nil && v.type != ValueType::Ident)
-        Refuse(t, v, QStringLiteral("the name of a handler is expected"));
-      return SetMethodProp(*t.instance, prop,
-                           v.type == ValueType::Nil ? QString() : QString::fromUtf8(v.bytes));
-    case TTypeKind::tkClass:
-      if (!IsComponentRef(prop)) return ApplyCollection(t, v, doc, pending);
-      if (v.type == ValueType::Nil) return SetObjectProp(*t.instance, prop, nullptr);
-      if (v.type != ValueType::Ident) Refuse(t, v, QStringLiteral("the name of a component is expected"));
-      pending.push_back({nullptr, t.instance, &prop,
-                         !pending.empty() && pending.back().target == v.bytes
-                             ? pending.back().target
-                             : QByteArray(v.bytes.constData(), v.bytes.size()),
-                         nullptr, nullptr});
-      return;
-    case TTypeKind::tkUnknown:
-      if (v.type != ValueType::Binary) Refuse(t, v, QStringLiteral("binary data {...} is expected"));
-      return ApplyBinary(t, v);
-    default:
-      return SetOrdProp(*t.instance, prop, OrdinalOf(t, v));
-  }
+  const auto apply = ForEach{
+      [&](std::int64_t) { SetOrdProp(*t.instance, prop, OrdinalOf(t, v)); },
+      [&](long double) { SetFloatProp(*t.instance, prop, NumberOf(t, v)); },
+      [&](const QString&) {
+        if (!v.IsString()) Refuse(t, v, QStringLiteral("a string '...' is expected"));
+        SetStrProp(*t.instance, prop, doc.Decode(v));
+      },
+      [&](const THandler&) {
+        if (v.type != ValueType::Nil && v.type != ValueType::Ident)
+          Refuse(t, v, QStringLiteral("the name of a handler is expected"));
+        SetMethodProp(*t.instance, prop, v.type == ValueType::Nil ? QString() : QString::fromUtf8(v.bytes));
+      },
+      [&](TReference) {
+        if (v.type == ValueType::Nil) return SetObjectProp(*t.instance, prop, nullptr);
+        if (v.type != ValueType::Ident) Refuse(t, v, QStringLiteral("the name of a component is expected"));
+        pending.push_back({nullptr, t.instance, &prop,
+                           !pending.empty() && pending.back().target == v.bytes
+                               ? pending.back().target
+                               : QByteArray(v.bytes.constData(), v.bytes.size()),
+                           nullptr, nullptr});
+      },
+      [&](TPart) { ApplyCollection(t, v, doc, pending); },
+      [&](const QByteArray&) {
+        if (v.type != ValueType::Binary) Refuse(t, v, QStringLiteral("binary data {...} is expected"));
+        ApplyBinary(t, v);
+      }};
+  std::visit(apply, prop.Access->Nothing());
 }
 
 namespace {
@@ -237,26 +235,12 @@ void ApplyNow(TComponent& root, const PropertyTarget& target, const Value& value
 
 namespace {
 Value OrdinalValue(const TTypeInfo& type, std::int64_t v) {
-  switch (type.Kind) {
-    case TTypeKind::tkEnumeration:
-      if (&type == &TypeInfoOf<bool>::Get()) return Value::Boolean(v != 0);
-      if (v >= 0 && v < type.Elements.size()) return Value::Identifier(type.Elements[v]);
-      break;
-    case TTypeKind::tkSet: {
-      QByteArrayList elements;
-      for (int i = 0; i < type.CompType->Elements.size(); ++i)
-        if (v >> i & 1) elements << type.CompType->Elements[i];
-      return Value::SetOf(elements);
-    }
-    default: {
-      QByteArray ident;
-      if (const TIntegerConsts* consts = FindIntegerConsts(type); consts && consts->IntToIdent(v, ident))
-        return Value::Identifier(ident);
-      // 32-bit properties are signed in form files, whatever they are in memory.
-      if (type.MinValue == INT32_MIN && v > INT32_MAX)
-        v = static_cast<std::int32_t>(static_cast<std::uint32_t>(v));
-    }
-  }
+  if (type.CompType) return Value::SetOf(ElementsOf(type, v));
+  if (&type == &TypeInfoOf<bool>::Get()) return Value::Boolean(v != 0);
+  if (const QByteArray name = NameOfOrdinal(type, v); !name.isEmpty()) return Value::Identifier(name);
+  // 32-bit properties are signed in form files, whatever they are in memory.
+  if (type.MinValue == INT32_MIN && v > INT32_MAX)
+    v = static_cast<std::int32_t>(static_cast<std::uint32_t>(v));
   return Value::Integer(v);
 }
 
@@ -284,10 +268,9 @@ void Collect(const TPersistent& instance, const Document& doc, bool all, bool ow
     }
   }
   for (const TPropInfo* prop : instance.ClassType().Properties()) {
-    const bool object = prop->Kind() == TTypeKind::tkClass && !IsComponentRef(*prop);
     const bool stored = ownerStored && IsStoredProp(instance, *prop);
     if (!stored && !all) continue;
-    if (object) {
+    if (prop->IsPart()) {
       TPersistent* value = GetObjectProp(instance, *prop);
       if (!value) continue;
       if (const auto* collection = As<TCollection>(value))
@@ -305,49 +288,48 @@ void Collect(const TPersistent& instance, const Document& doc, bool all, bool ow
 }
 }  // namespace
 
-std::optional<Value> ValueOf(const TPersistent& instance, const TPropInfo& prop, const Document& doc) {
-  switch (prop.Kind()) {
-    case TTypeKind::tkString:
-      return doc.MakeText(GetStrProp(instance, prop));
-    case TTypeKind::tkFloat: {
-      const long double v = GetFloatProp(instance, prop);
-      switch (prop.PropType->FloatType) {
-        case TFloatType::ftCurrency: {
-          Value c;
-          c.type = ValueType::Currency;
-          c.integer = static_cast<std::int64_t>(v * 10000.0L + (v < 0 ? -0.5L : 0.5L));
-          return c;
-        }
-        default:
-          return Value::Real(v);
-      }
-    }
-    case TTypeKind::tkMethod: {
-      const QString handler = GetMethodProp(instance, prop);
-      return handler.isEmpty() ? Value{} : Value::Identifier(handler.toUtf8());
-    }
-    case TTypeKind::tkClass: {
-      TPersistent* object = GetObjectProp(instance, prop);
-      if (!IsComponentRef(prop)) {
-        const auto* collection = As<TCollection>(object);
-        return collection ? std::optional(CollectionValue(*collection, doc)) : std::nullopt;
-      }
-      if (!object) return Value{};
-      const auto* component = static_cast<TComponent*>(object);
-      const TComponent* root = LookupRoot(instance);
-      QByteArray path = component->Name().toUtf8();
-      for (const TComponent* scope = component->Owner(); component != root && scope != root;
-           scope = scope->Owner()) {
-        if (!scope) return {};  // on another form
-        path.prepend(scope->Name().toUtf8() + '.');
-      }
-      return Value::Identifier(path);
-    }
-    case TTypeKind::tkUnknown:
-      return Value::Data(GetBinaryProp(instance, prop));
-    default:
-      return OrdinalValue(*prop.PropType, GetOrdProp(instance, prop));
+namespace {
+Value CurrencyValue(long double v) {
+  Value c;
+  c.type = ValueType::Currency;
+  c.integer = static_cast<std::int64_t>(v * 10000.0L + (v < 0 ? -0.5L : 0.5L));
+  return c;
+}
+
+// Nothing for a component of another form.
+std::optional<Value> ReferenceValue(const TPersistent& instance, const TPersistent* target) {
+  if (!target) return Value{};
+  const auto* component = static_cast<const TComponent*>(target);
+  const TComponent* root = LookupRoot(instance);
+  QByteArray path = component->Name().toUtf8();
+  for (const TComponent* scope = component->Owner(); component != root && scope != root;
+       scope = scope->Owner()) {
+    if (!scope) return {};
+    path.prepend(scope->Name().toUtf8() + '.');
   }
+  return Value::Identifier(path);
+}
+}  // namespace
+
+std::optional<Value> ValueOf(const TPersistent& instance, const TPropInfo& prop, const Document& doc) {
+  using Result = std::optional<Value>;
+  const TTypeInfo& type = *prop.PropType;
+  return std::visit(ForEach{[&](std::int64_t v) -> Result { return OrdinalValue(type, v); },
+                            [&](long double v) -> Result {
+                              return type.FloatType == TFloatType::ftCurrency ? CurrencyValue(v)
+                                                                              : Value::Real(v);
+                            },
+                            [&](const QString& v) -> Result { return doc.MakeText(v); },
+                            [](const THandler& v) -> Result {
+                              return v.Name.isEmpty() ? Value{} : Value::Identifier(v.Name.toUtf8());
+                            },
+                            [&](TReference v) -> Result { return ReferenceValue(instance, v.Object); },
+                            [&](TPart v) -> Result {
+                              const auto* collection = As<TCollection>(v.Object);
+                              return collection ? Result(CollectionValue(*collection, doc)) : std::nullopt;
+                            },
+                            [](const QByteArray& v) -> Result { return Value::Data(v); }},
+                    GetProp(instance, prop));
 }
 
 std::vector<StoredValue> PropertyValues(const TPersistent& instance, const Document& document, bool all) {

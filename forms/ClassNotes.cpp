@@ -31,25 +31,19 @@ bool KnownProperty::Apply(TPersistent& instance, QByteArrayView text) {
   if (text.isEmpty()) return false;
   if (ordinal_) return ApplyOrdinal(instance, text);
   const char *p = text.begin(), *end = text.end();
-  switch (prop_->Kind()) {
-    case TTypeKind::tkString: {
-      if (*p != '\'') return false;
-      const char* q = PlainRunEnd(++p, end);
-      if (q == end || !OnlyBlanks(q + 1, end)) return false;
-      SetStrProp(instance, *prop_, TextOf({p, q}));
-      return true;
-    }
-    case TTypeKind::tkMethod: {
-      if (!IsIdentStart(*p)) return false;
-      const char* q = PlainIdent(p, end, nullptr);
-      const QByteArrayView name(p, q ? q : p);
-      if (!q || !OnlyBlanks(q, end) || Is(name, "nil") || Is(name, "true") || Is(name, "false")) return false;
-      SetMethodProp(instance, *prop_, TextOf(name));
-      return true;
-    }
-    default:
-      return false;
+  if (prop_->Is<QString>()) {
+    if (*p != '\'') return false;
+    const char* q = PlainRunEnd(++p, end);
+    if (q == end || !OnlyBlanks(q + 1, end)) return false;
+    SetStrProp(instance, *prop_, TextOf({p, q}));
+    return true;
   }
+  if (!prop_->IsEvent() || !IsIdentStart(*p)) return false;
+  const char* q = PlainIdent(p, end, nullptr);
+  const QByteArrayView name(p, q ? q : p);
+  if (!q || !OnlyBlanks(q, end) || Is(name, "nil") || Is(name, "true") || Is(name, "false")) return false;
+  SetMethodProp(instance, *prop_, TextOf(name));
+  return true;
 }
 
 bool KnownProperty::ApplyOrdinal(TPersistent& instance, QByteArrayView text) {

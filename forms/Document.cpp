@@ -12,76 +12,6 @@
 
 namespace forms {
 
-Property::Property(QByteArrayView name, QByteArrayView node, const char* value) : name_(name.data()) {
-  const auto at = [](const char* p) { return reinterpret_cast<std::uintptr_t>(p); };
-  const std::uintptr_t lead = at(name.data()) - at(node.data());
-  const std::uintptr_t gap = at(value) - at(name.end());
-  const auto nameSize = static_cast<std::uint64_t>(name.size());
-  const auto valueSize = static_cast<std::uint64_t>(node.end() - value);
-  // A name outside of the node gives a lead or a gap that is far too large.
-  if (lead > 0xFFFFu || nameSize > 0xFFu || gap > 0xFFu || valueSize > 0x7FFFFFFFu)
-    Keep({name.size(), node, {value, node.end()}, nullptr});
-  else
-    rest_ = valueSize << 33 | std::uint64_t{gap} << 25 | nameSize << 17 | std::uint64_t{lead} << 1 | ShortBit;
-}
-
-Property::Property(QByteArrayView internedName, Value value, QByteArrayView lead)
-    : name_(internedName.data()) {
-  Keep({internedName.size(), lead, {}, std::make_unique<Value>(std::move(value))});
-}
-
-void Property::Keep(Parts parts) {
-  rest_ = reinterpret_cast<std::uintptr_t>(std::make_unique<Parts>(std::move(parts)).release());
-}
-
-void Property::Free() {
-  const std::unique_ptr<const Parts> parts(&Whole());
-  rest_ = ShortBit;
-}
-
-Property* Object::Find(QByteArrayView path) {
-  for (Property& p : properties)
-    if (p.Name().size() == path.size() && p.Name().compare(path, Qt::CaseInsensitive) == 0) return &p;
-  return nullptr;
-}
-const Property* Object::Find(QByteArrayView path) const { return const_cast<Object*>(this)->Find(path); }
-
-int Object::IndexInParent() const {
-  if (!parent) return -1;
-  for (std::size_t i = 0; i < parent->children.size(); ++i)
-    if (parent->children[i].get() == this) return static_cast<int>(i);
-  return -1;
-}
-
-int Object::Levels() const {
-  int below = 0;
-  for (const auto& child : children) below = std::max(below, child->Levels());
-  return below + 1;
-}
-
-Object& Object::AddChild(QByteArray childClass, QByteArray childName) {
-  auto child = std::make_unique<Object>();
-  child->className = std::move(childClass);
-  child->name = std::move(childName);
-  child->parent = this;
-  children.push_back(std::move(child));
-  return *children.back();
-}
-
-std::unique_ptr<Object> Object::Take(int childIndex) {
-  const auto it = children.begin() + childIndex;
-  auto child = std::move(*it);
-  children.erase(it);
-  child->parent = nullptr;
-  return child;
-}
-
-void Object::Insert(int childIndex, std::unique_ptr<Object> child) {
-  child->parent = this;
-  const auto at = std::min(static_cast<std::size_t>(std::max(childIndex, 0)), children.size());
-  children.insert(children.begin() + static_cast<std::ptrdiff_t>(at), std::move(child));
-}
-
 Document::Document() = default;
 Document::~Document() = default;
 Document::Document(Document&&) noexcept = default;
@@ -97,39 +27,39 @@ Document Document::Parse(QByteArray bytes, const Dialect& hint) {
   if (bytes.size() > MaxFileSize)
     throw EFormError(QStringLiteral("The form is larger than %1 MB").arg(MaxFileSize >> 20), {});
   Document doc;
-  doc.dialect_ = hint;
-  doc.format_ = Detect(bytes);
-  doc.source_ = std::move(bytes);
-  if (doc.format_ == Format::Text) {
-    TextReader reader(doc.source_);
+  doc.tree_.dialect = hint;
+  doc.tree_.format = Detect(bytes);
+  doc.tree_.source = std::move(bytes);
+  if (doc.tree_.format == Format::Text) {
+    TextReader reader(doc.tree_.source);
     try {
-      reader.ReadDocument(doc);
+      reader.ReadDocument(doc.tree_);
     } catch (const std::bad_alloc&) {
-      ThrowOutOfMemory(LocationOf(doc.source_, reader.Offset()));
+      ThrowOutOfMemory(LocationOf(doc.tree_.source, reader.Offset()));
     }
   } else {
-    const std::size_t at = StreamOffset(doc.source_);
+    const std::size_t at = StreamOffset(doc.tree_.source);
     // The two families of streams disagree about one code; the other reading may fit, too.
     const auto takeOther = [&](bool mustEndAlike) {
       Document other;
-      other.dialect_ = hint;
-      other.format_ = doc.format_;
-      other.source_ = doc.source_;
+      other.tree_.dialect = hint;
+      other.tree_.format = doc.tree_.format;
+      other.tree_.source = doc.tree_.source;
       try {
-        BinaryReader(other.source_, at, true).ReadDocument(other);
+        BinaryReader(other.tree_.source, at, true).ReadDocument(other.tree_);
       } catch (const EFormError&) {
         return false;
       }
-      if (mustEndAlike && other.trailer_.begin != doc.trailer_.begin) return false;
+      if (mustEndAlike && other.tree_.trailer.begin != doc.tree_.trailer.begin) return false;
       doc = std::move(other);
       return true;
     };
-    BinaryReader reader(doc.source_, at, false);
+    BinaryReader reader(doc.tree_.source, at, false);
     try {
-      reader.ReadDocument(doc);
+      reader.ReadDocument(doc.tree_);
     } catch (const EFormError&) {
       if (!takeOther(false)) throw;
-      reader = BinaryReader(doc.source_, at, true);
+      reader = BinaryReader(doc.tree_.source, at, true);
     } catch (const std::bad_alloc&) {
       ThrowOutOfMemory({reader.Offset(), 0, 0});
     }
@@ -144,52 +74,52 @@ Document Document::ParseObjects(QByteArray text) {
   if (text.size() > MaxFileSize)
     throw EFormError(QStringLiteral("The text is larger than %1 MB").arg(MaxFileSize >> 20), {});
   Document doc;
-  doc.source_ = std::move(text);
-  TextReader reader(doc.source_);
+  doc.tree_.source = std::move(text);
+  TextReader reader(doc.tree_.source);
   try {
-    reader.ReadObjects(doc);
+    reader.ReadObjects(doc.tree_);
   } catch (const std::bad_alloc&) {
-    ThrowOutOfMemory(LocationOf(doc.source_, reader.Offset()));
+    ThrowOutOfMemory(LocationOf(doc.tree_.source, reader.Offset()));
   }
   return doc;
 }
 
 Document Document::Create(QByteArray rootClass, QByteArray rootName, const Dialect& style) {
   Document doc;
-  doc.dialect_ = style;
-  doc.root_ = std::make_unique<Object>();
-  doc.root_->className = std::move(rootClass);
-  doc.root_->name = std::move(rootName);
+  doc.tree_.dialect = style;
+  doc.tree_.root = std::make_unique<Object>();
+  doc.tree_.root->className = std::move(rootClass);
+  doc.tree_.root->name = std::move(rootName);
   return doc;
 }
 
 void Document::DescribeCodePage() {
-  if (format_ == Format::Text && utf8_) return;
-  const Property* charset = root_->Find("Font.Charset");
+  if (tree_.format == Format::Text && tree_.utf8) return;
+  const Property* charset = tree_.root->Find("Font.Charset");
   if (!charset) return;
   const Value v = Read(*charset);
   if (v.type == ValueType::Ident) codePage_ = CodePageOfCharset(v.bytes);
 }
 
 QByteArrayView Document::Slice(Span span) const {
-  return QByteArrayView(source_).sliced(span.begin, span.end - span.begin);
+  return QByteArrayView(tree_.source).sliced(span.begin, span.end - span.begin);
 }
 
 void Document::Read(const Property& property, Value& out) const {
   if (const Value* edited = property.Edited()) {
     out = *edited;
-  } else if (format_ == Format::Text) {
+  } else if (tree_.format == Format::Text) {
     const QByteArrayView text = SourceText(property);
     if (!text.isEmpty() && PlainValue(text.begin(), text.end(), &out)) return;
-    const QByteArrayView whole(source_.constData(), text.end());
+    const QByteArrayView whole(tree_.source.constData(), text.end());
     TextReader(whole, OffsetOf(text)).ReadValue(&out);
   } else {
-    BinaryReader(source_, OffsetOf(property.SourceValue()), lclStream_).ReadValue(&out);
+    BinaryReader(tree_.source, OffsetOf(property.SourceValue()), tree_.lclStream).ReadValue(&out);
   }
 }
 
 QByteArrayView Document::SourceText(const Property& property) const {
-  return format_ == Format::Text && property.FromSource() ? property.SourceValue() : QByteArrayView();
+  return tree_.format == Format::Text && property.FromSource() ? property.SourceValue() : QByteArrayView();
 }
 
 Value Document::Read(const Property& property) const {
@@ -201,15 +131,15 @@ Value Document::Read(const Property& property) const {
 Location Document::Where(const Property& property) const {
   if (!property.FromSource()) return {};
   const std::size_t at = OffsetOf(property.SourceValue());
-  return format_ == Format::Text ? locator_.At(source_, at) : Location{at, 0, 0};
+  return tree_.format == Format::Text ? locator_.At(tree_.source, at) : Location{at, 0, 0};
 }
 
 Location Document::Where(const Object& object) const {
   if (!object.FromSource()) return {};
-  if (format_ != Format::Text) return {object.header.begin, 0, 0};
+  if (tree_.format != Format::Text) return {object.header.begin, 0, 0};
   std::size_t at = object.header.begin;
-  while (at < object.header.end && std::strchr(" \t\r\n", source_[static_cast<qsizetype>(at)])) ++at;
-  return locator_.At(source_, at);
+  while (at < object.header.end && std::strchr(" \t\r\n", tree_.source[static_cast<qsizetype>(at)])) ++at;
+  return locator_.At(tree_.source, at);
 }
 
 QString Document::Decode(const Value& value) const {
@@ -226,7 +156,7 @@ QString Document::Decode(const Value& value) const {
 
 Value Document::MakeText(const QString& text) const {
   Value v = Value::Text(text);
-  if (v.type == ValueType::WString && format_ == Format::Text && dialect_.literalHighBytes) {
+  if (v.type == ValueType::WString && tree_.format == Format::Text && tree_.dialect.literalHighBytes) {
     v.bytes = text.toUtf8();
     v.wide.clear();
     v.type = v.bytes.size() <= 255 ? ValueType::String : ValueType::LString;
@@ -234,16 +164,9 @@ Value Document::MakeText(const QString& text) const {
   return v;
 }
 
-QByteArrayView Document::Intern(QByteArrayView name) {
-  for (const QByteArray& known : interned_)
-    if (known == name) return known;
-  interned_.push_back(name.toByteArray());
-  return interned_.back();
-}
-
 Property Document::MakeProperty(QByteArrayView name, Value value, const Property* replaced) {
   QByteArrayView lead;
-  if (replaced && format_ == Format::Text) {
+  if (replaced && tree_.format == Format::Text) {
     lead = replaced->Node();
     if (replaced->FromSource()) {
       const QByteArrayView node = lead;
@@ -254,7 +177,7 @@ Property Document::MakeProperty(QByteArrayView name, Value value, const Property
       lead = node.first(newline + 1);
     }
   }
-  return Property(Intern(name), std::move(value), lead);
+  return Property(tree_.Intern(name), std::move(value), lead);
 }
 
 void Document::WriteTextObject(TextWriter& out, const Object& object, int level) const {
@@ -302,27 +225,29 @@ void Document::WriteBinaryObject(BinaryWriter& out, const Object& object, bool c
 }
 
 QByteArray Document::Write() const {
-  if (format_ == Format::Text) {
-    TextWriter out(dialect_);
-    out.Reserve(source_.size());
-    out.Copy(Slice(before_));
-    WriteTextObject(out, *root_, 0);
-    out.Raw(Slice(trailer_));
+  if (tree_.format == Format::Text) {
+    TextWriter out(tree_.dialect);
+    out.Reserve(tree_.source.size());
+    out.Copy(Slice(tree_.before));
+    WriteTextObject(out, *tree_.root, 0);
+    out.Raw(Slice(tree_.trailer));
     return std::move(out).Result();
   }
-  BinaryWriter out(lclStream_);
-  WriteBinaryObject(out, *root_, true);
+  BinaryWriter out(tree_.lclStream);
+  WriteBinaryObject(out, *tree_.root, true);
   const QByteArray stream = std::move(out).Result();
   // A renamed class renames the resource.
-  if (format_ == Format::Resource && root_->headerChanged)
-    return ResourceHeader(root_->className, static_cast<std::size_t>(stream.size()) + 4) + "TPF0" + stream;
-  QByteArray head = Slice(before_).toByteArray();
-  const auto before = static_cast<qsizetype>(before_.end);
-  if (format_ == Format::Resource && stream != Slice({before_.end, trailer_.begin})) {
-    const auto size = static_cast<std::size_t>(stream.size() + 4 + (source_.size() - trailer_.begin));
+  if (tree_.format == Format::Resource && tree_.root->headerChanged)
+    return ResourceHeader(tree_.root->className, static_cast<std::size_t>(stream.size()) + 4) + "TPF0" +
+           stream;
+  QByteArray head = Slice(tree_.before).toByteArray();
+  const auto before = static_cast<qsizetype>(tree_.before.end);
+  if (tree_.format == Format::Resource && stream != Slice({tree_.before.end, tree_.trailer.begin})) {
+    const auto size =
+        static_cast<std::size_t>(stream.size() + 4 + (tree_.source.size() - tree_.trailer.begin));
     for (int i = 0; i < 4; ++i) head[before - 8 + i] = static_cast<char>(size >> (8 * i));
   }
-  return head + stream + Slice(trailer_).toByteArray();
+  return head + stream + Slice(tree_.trailer).toByteArray();
 }
 
 namespace {
@@ -364,7 +289,7 @@ void WriteDecodedText(const Document& doc, TextWriter& out, const Object& object
 }  // namespace
 
 QByteArray Document::ObjectText(const Object& object) const {
-  TextWriter out(dialect_);
+  TextWriter out(tree_.dialect);
   WriteDecodedText(*this, out, object, 0);
   return std::move(out).Result();
 }
@@ -372,15 +297,15 @@ QByteArray Document::ObjectText(const Object& object) const {
 // What follows the root's end is kept by copying, which only the form's own kind of file can do. Padding and
 // the end mark of old text files are nothing.
 void Document::RequireOneRoot() const {
-  const QByteArrayView rest = Slice(trailer_);
+  const QByteArrayView rest = Slice(tree_.trailer);
   const std::string_view padding =
-      format_ == Format::Text ? std::string_view(" \t\r\n\0\x1A", 6) : std::string_view("\0", 1);
+      tree_.format == Format::Text ? std::string_view(" \t\r\n\0\x1A", 6) : std::string_view("\0", 1);
   const std::size_t skipped =
       std::string_view(rest.data(), static_cast<std::size_t>(rest.size())).find_first_not_of(padding);
   if (skipped == std::string_view::npos) return;
-  const std::size_t at = trailer_.begin + skipped;
+  const std::size_t at = tree_.trailer.begin + skipped;
   const QByteArrayView behind = rest.sliced(static_cast<qsizetype>(skipped));
-  if (format_ != Format::Text) {
+  if (tree_.format != Format::Text) {
     // Readers of streams stop after the root, so writers were free to leave anything there.
     if (behind.startsWith("TPF0"))
       throw EFormError(QStringLiteral("A second form stands behind the first; only one can be converted"),
@@ -393,20 +318,20 @@ void Document::RequireOneRoot() const {
   throw EFormError(
       object ? QStringLiteral("A second root object stands behind the first; only one can be converted")
              : QStringLiteral("Something stands behind the end of the form; it would be lost"),
-      locator_.At(source_, at));
+      locator_.At(tree_.source, at));
 }
 
 QByteArray Document::WriteAs(Format format) const {
-  if (format == format_) return Write();
-  if (template_)
+  if (format == tree_.format) return Write();
+  if (tree_.isTemplate)
     throw Exception(QStringLiteral("This is a form template with {$...} lines; it has no binary form."));
-  if (format == Format::Text) return ObjectText(*root_);
-  BinaryWriter out(lclStream_);
+  if (format == Format::Text) return ObjectText(*tree_.root);
+  BinaryWriter out(tree_.lclStream);
   out.Raw("TPF0");
-  WriteBinaryObject(out, *root_, format_ != Format::Text);
+  WriteBinaryObject(out, *tree_.root, tree_.format != Format::Text);
   const QByteArray stream = std::move(out).Result();
   if (format == Format::Binary) return stream;
-  return ResourceHeader(root_->className, static_cast<std::size_t>(stream.size())) + stream;
+  return ResourceHeader(tree_.root->className, static_cast<std::size_t>(stream.size())) + stream;
 }
 
 // Strings that mean something only with this document's code page, or that the other one writes in another

@@ -129,7 +129,7 @@ void FormReader::ReadProperties(Object& object, TComponent& component, bool repo
     } catch (const Exception& e) {
       Report(Severity::Error, document_.Where(p),
              QStringLiteral("%1: %2").arg(ObjectTitle(object), e.Message()));
-      findings_.back().refusedData = target.prop && target.prop->Kind() == TTypeKind::tkUnknown;
+      findings_.back().refusedData = target.prop && target.prop->Is<QByteArray>();
     }
     for (std::size_t i = before; i < pending_.size(); ++i) {
       pending_[i].holder = &component;

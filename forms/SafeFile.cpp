@@ -15,7 +15,7 @@
 #include <cstdio>
 #include <optional>
 
-#include "forms/FormFile.h"
+#include "forms/FileBytes.h"
 
 namespace forms {
 

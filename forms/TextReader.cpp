@@ -165,36 +165,36 @@ QByteArrayView TextReader::UsualName(QByteArrayView firstWord) {
   return {std::exchange(p_, q + 3), q};
 }
 
-void TextReader::ReadDocument(Document& doc) {
+void TextReader::ReadDocument(FormTree& tree) {
   if (end_ - begin_ >= 3 && std::memcmp(begin_, "\xEF\xBB\xBF", 3) == 0) {
     p_ += 3;
-    doc.before_ = {0, 3};
+    tree.before = {0, 3};
   }
   const std::size_t rootBegin = Offset();
   SkipBlanks();
-  doc.root_ = ReadObject(doc, rootBegin, 0);
-  doc.trailer_ = {static_cast<std::uint32_t>(Offset()), static_cast<std::uint32_t>(end_ - begin_)};
-  TakeStyle(doc);
+  tree.root = ReadObject(tree, rootBegin, 0);
+  tree.trailer = {static_cast<std::uint32_t>(Offset()), static_cast<std::uint32_t>(end_ - begin_)};
+  TakeStyle(tree);
 }
 
-void TextReader::ReadObjects(Document& doc) {
+void TextReader::ReadObjects(FormTree& tree) {
   if (QByteArrayView(p_, end_).startsWith("\xEF\xBB\xBF")) p_ += 3;
-  doc.root_ = std::make_unique<Object>();
+  tree.root = std::make_unique<Object>();
   do {
     const std::size_t nodeBegin = Offset();
     SkipBlanks();
-    auto child = ReadObject(doc, nodeBegin, 1);
-    child->parent = doc.root_.get();
-    doc.root_->children.push_back(std::move(child));
+    auto child = ReadObject(tree, nodeBegin, 1);
+    child->parent = tree.root.get();
+    tree.root->children.push_back(std::move(child));
     SkipBlanks();
   } while (p_ != end_);
-  TakeStyle(doc);
+  TakeStyle(tree);
 }
 
 // How the text writes what can be written in several ways.
-void TextReader::TakeStyle(Document& doc) const {
-  doc.template_ = directives_;
-  Dialect& d = doc.dialect_;
+void TextReader::TakeStyle(FormTree& tree) const {
+  tree.isTemplate = directives_;
+  Dialect& d = tree.dialect;
   const char* firstEnd =
       static_cast<const char*>(std::memchr(begin_, '\n', static_cast<size_t>(end_ - begin_)));
   if (firstEnd)
@@ -206,11 +206,11 @@ void TextReader::TakeStyle(Document& doc) const {
   if (vcl != lcl) d.lcl = lcl > vcl;
   d.foreignWords = d.foreignWords || d.lcl;
   d.fixedFloats = fixedFloats_ != shortFloats_ ? fixedFloats_ > shortFloats_ : !d.lcl;
-  doc.utf8_ = IsUtf8(QByteArrayView(begin_, end_));
-  d.literalHighBytes = doc.utf8_ && (highBytes_ > 0 || d.lcl);
+  tree.utf8 = IsUtf8(QByteArrayView(begin_, end_));
+  d.literalHighBytes = tree.utf8 && (highBytes_ > 0 || d.lcl);
 }
 
-std::unique_ptr<Object> TextReader::ReadObject(Document& doc, std::size_t nodeBegin, int depth) {
+std::unique_ptr<Object> TextReader::ReadObject(FormTree& tree, std::size_t nodeBegin, int depth) {
   if (depth > MaxDepth) Fail(QStringLiteral("Objects are nested more than %1 deep").arg(MaxDepth));
   Charge(cost::Object);
   auto object = std::make_unique<Object>();
@@ -246,7 +246,7 @@ std::unique_ptr<Object> TextReader::ReadObject(Document& doc, std::size_t nodeBe
   p_ = afterWord;
   object->header = {static_cast<std::uint32_t>(nodeBegin), static_cast<std::uint32_t>(NodeEnd())};
 
-  ReadProperties(doc, *object);
+  ReadProperties(tree, *object);
 
   for (;;) {
     const std::size_t childBegin = Offset();
@@ -266,14 +266,14 @@ std::unique_ptr<Object> TextReader::ReadObject(Document& doc, std::size_t nodeBe
                           : QStringLiteral("Property %1 stands behind a child object; properties come first")
                                 .arg(QString::fromLatin1(word)));
     }
-    auto child = ReadObject(doc, childBegin, depth + 1);
+    auto child = ReadObject(tree, childBegin, depth + 1);
     child->parent = object.get();
     object->children.push_back(std::move(child));
   }
 }
 
 // Properties are gathered in one scratch list and copied out at their exact number.
-void TextReader::ReadProperties(Document& doc, Object& object) {
+void TextReader::ReadProperties(FormTree& tree, Object& object) {
   scratch_.clear();
   for (;;) {
     const char* nodeStart = p_;
@@ -288,7 +288,7 @@ void TextReader::ReadProperties(Document& doc, Object& object) {
       name = PropertyPath(word);
       const auto foreign = [](char c) { return IsBlank(c) || c == '{'; };
       if (name.size() > word.size() && std::any_of(name.begin(), name.end(), foreign))
-        name = doc.Intern(WithoutBlanks(name));
+        name = tree.Intern(WithoutBlanks(name));
       Expect('=', "\"=\"");
       SkipBlanks();
     }

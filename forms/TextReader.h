@@ -1,6 +1,6 @@
 // The text form: one grammar for checking a whole file and for decoding one value.
 #pragma once
-#include "forms/Document.h"
+#include "forms/FormTree.h"
 #include "forms/TextChars.h"
 
 namespace forms {
@@ -9,10 +9,10 @@ class TextReader {
  public:
   explicit TextReader(QByteArrayView text, std::size_t at = 0);
 
-  // Reads the root object into `document`, whose source is this reader's text.
-  void ReadDocument(Document& document);
+  // Reads the root object into `tree`, whose source is this reader's text.
+  void ReadDocument(FormTree& tree);
   // Reads objects up to the end, as children of a root that is not in the text.
-  void ReadObjects(Document& document);
+  void ReadObjects(FormTree& tree);
   // Reads one value at the current place; with null it is only checked.
   void ReadValue(Value* out, int depth = 0);
   void SkipBlanks() {
@@ -27,9 +27,9 @@ class TextReader {
  private:
   using Scratch = std::vector<Property>;
 
-  void TakeStyle(Document& document) const;
-  std::unique_ptr<Object> ReadObject(Document& document, std::size_t nodeBegin, int depth);
-  void ReadProperties(Document& document, Object& object);
+  void TakeStyle(FormTree& tree) const;
+  std::unique_ptr<Object> ReadObject(FormTree& tree, std::size_t nodeBegin, int depth);
+  void ReadProperties(FormTree& tree, Object& object);
   void ReadNumber(Value* out);
   void ReadString(Value* out);
   void ReadIdent(Value* out);

@@ -1,6 +1,6 @@
 // Writes values and headers of the text form in the style of a file.
 #pragma once
-#include "forms/Document.h"
+#include "forms/FormTree.h"
 
 namespace forms {
 

@@ -133,7 +133,8 @@ void FormSession::GetMethods(const TTypeInfo& eventType, const TGetStrProc& proc
   for (const TComponent* c : AllComponents())
     for (const TPropInfo* p : c->ClassType().Properties())
       if (p->IsEvent() && p->PropType->Name == eventType.Name)
-        if (const QString handler = c->MethodName(*p); !handler.isEmpty() && !handlers.contains(handler))
+        if (const QString handler = c->MethodName(*p->Access);
+            !handler.isEmpty() && !handlers.contains(handler))
           handlers << handler;
   for (const QString& handler : handlers) proc(handler);
 }
@@ -141,7 +142,7 @@ void FormSession::GetMethods(const TTypeInfo& eventType, const TGetStrProc& proc
 bool FormSession::MethodExists(const QString& name) const {
   for (const TComponent* c : AllComponents())
     for (const TPropInfo* p : c->ClassType().Properties())
-      if (p->IsEvent() && c->MethodName(*p).compare(name, Qt::CaseInsensitive) == 0) return true;
+      if (p->IsEvent() && c->MethodName(*p->Access).compare(name, Qt::CaseInsensitive) == 0) return true;
   return false;
 }
 

@@ -2,35 +2,8 @@
 // common controls they resemble, and what the root of the file is.
 #pragma once
 #include "forms/Document.h"
+#include "ide/StandInLook.h"
 #include "vcl/Form.h"
-
-// What a stand-in looks like. Component: it is not a control.
-enum class TStandInLook : std::uint8_t {
-  Component,
-  Plain,
-  Panel,
-  Group,
-  Label,
-  Field,
-  Memo,
-  Combo,
-  Spin,
-  Button,
-  Check,
-  Radio,
-  RadioGroup,
-  CheckGroup,
-  List,
-  Grid,
-  Image,
-  Tabs,
-  Page,
-  ToolBar,
-  StatusBar,
-  Slider,
-  Progress,
-  Splitter
-};
 
 // By the end of the class name ("TJvDBComboBox" is a combo), else by what the file gives the object.
 TStandInLook LookOf(const forms::Object& object);

@@ -1,22 +1,7 @@
 // Stand-ins for classes that no loaded package has. They keep their place on the surface and look like the
 // common control that their class is named after; everything else about them stays in the document.
 #pragma once
-#include "ide/StandIns.h"
-
-// What the file says about the looks of a stand-in.
-struct TStandIn {
-  TStandInLook look = TStandInLook::Plain;
-  QString text;
-  QStringList items;
-  int index = -1;
-  int columns = 1;
-  bool checked = false;
-  std::optional<TColor> color;
-  QString activePage;
-  int activeIndex = 0;
-  TAlign usualAlign = TAlign::alNone;  // of a class that is aligned where the file says nothing
-  bool hasPlace = true;                // false: a page, which has its place from the control around it
-};
+#include "ide/StandInLook.h"
 
 class TUnknownControl : public TWinControl {
   VRX_CLASS(TUnknownControl)

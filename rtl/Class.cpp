@@ -19,27 +19,13 @@ bool SameName(QByteArrayView a, QByteArrayView b) {
   return size == 0 || std::memcmp(a.data(), b.data(), size) == 0 ||  // nearly always written as declared
          std::equal(a.begin(), a.end(), b.begin(), [](char x, char y) { return Fold(x) == Fold(y); });
 }
-
-struct TNoAccess final : TMethodAccess {};
 }  // namespace
-
-bool TPropInfo::IsOrdinal() const {
-  switch (PropType->Kind) {
-    case TTypeKind::tkInteger:
-    case TTypeKind::tkChar:
-    case TTypeKind::tkEnumeration:
-    case TTypeKind::tkSet:
-    case TTypeKind::tkInt64:
-      return true;
-    default:
-      return false;
-  }
-}
 
 TClass::TClass(TClassBuilder&& b)
     : name_(std::move(b.name_)),
       parent_(b.parent_),
       description_(std::move(b.description_)),
+      icon_(b.icon_),
       makeComponent_(b.makeComponent_),
       makePersistent_(b.makePersistent_),
       makeItem_(b.makeItem_),
@@ -75,6 +61,12 @@ void TClass::BuildTables() {
   }
 }
 
+QByteArrayView TClass::Icon() const {
+  const TClass* c = this;
+  while (!c->icon_ && c->parent_) c = c->parent_;
+  return c->icon_;
+}
+
 bool TClass::InheritsFrom(const TClass& other) const {
   for (const TClass* c = this; c; c = c->parent_)
     if (c == &other) return true;
@@ -101,26 +93,19 @@ const TPropInfo* TClass::FindAny(QByteArrayView name) const {
   return nullptr;
 }
 
-namespace {
-[[noreturn]] void RefuseAbstract(const QByteArray& name) {
+void TClass::RefuseToMake() const {
   throw EComponentError(
       QStringLiteral("%1 cannot be created here: it is an abstract class or of another kind.")
-          .arg(QString::fromLatin1(name)));
+          .arg(QString::fromLatin1(name_)));
 }
-}  // namespace
 
 TComponent* TClass::NewComponent(TComponent* owner) const {
-  if (!makeComponent_) RefuseAbstract(name_);
+  if (!makeComponent_) RefuseToMake();
   return makeComponent_(owner);
 }
 
-std::unique_ptr<TPersistent> TClass::NewPersistent() const {
-  if (!makePersistent_) RefuseAbstract(name_);
-  return std::unique_ptr<TPersistent>(makePersistent_());
-}
-
 TPersistent* TClass::NewItem(TCollection* collection) const {
-  if (!makeItem_) RefuseAbstract(name_);
+  if (!makeItem_) RefuseToMake();
   return makeItem_(collection);
 }
 
@@ -128,11 +113,6 @@ TClassBuilder::TClassBuilder(QByteArray name, const TClass* parent)
     : name_(std::move(name)), parent_(parent) {}
 TClassBuilder::TClassBuilder(TClassBuilder&&) noexcept = default;
 TClassBuilder::~TClassBuilder() = default;
-
-const TTypeInfo& TClassBuilder::BinaryType() {
-  static const TTypeInfo info{.Kind = TTypeKind::tkUnknown, .Name = "binary"};
-  return info;
-}
 
 void TClassBuilder::AddInfo(TPropVisibility visibility, const char* name, const TTypeInfo& type,
                             std::shared_ptr<const TPropAccess> access, bool readOnly,
@@ -157,13 +137,18 @@ const TTypeInfo& EventType(const char* name) {
 }
 }  // namespace
 
+void TClassBuilder::AddEvent(TPropVisibility visibility, const char* name, const char* type) {
+  if (!makeEvent_) qFatal("%s is no component and cannot have the event \"%s\"", name_.constData(), name);
+  AddInfo(visibility, name, EventType(type), makeEvent_(), false, {});
+}
+
 TClassBuilder&& TClassBuilder::Event(const char* name, const char* type) && {
-  AddInfo(TPropVisibility::Published, name, EventType(type), std::make_shared<TNoAccess>(), false, {});
+  AddEvent(TPropVisibility::Published, name, type);
   return std::move(*this);
 }
 
 TClassBuilder&& TClassBuilder::DeclaredEvent(const char* name, const char* type) && {
-  AddInfo(TPropVisibility::Declared, name, EventType(type), std::make_shared<TNoAccess>(), false, {});
+  AddEvent(TPropVisibility::Declared, name, type);
   return std::move(*this);
 }
 
@@ -196,7 +181,13 @@ TClassBuilder&& TClassBuilder::Doc(QString sentence) && {
   return std::move(*this);
 }
 
-TClassBuilder&& TClassBuilder::ClassDoc(QString sentence) && {
+TClassBuilder&& TClassBuilder::ClassDoc(QString sentence, const char* icon) && {
   description_ = std::move(sentence);
+  if (icon) icon_ = icon;
+  return std::move(*this);
+}
+
+TClassBuilder&& TClassBuilder::Icon(const char* drawing) && {
+  icon_ = drawing;
   return std::move(*this);
 }

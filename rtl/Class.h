@@ -10,14 +10,17 @@
 //   }
 #pragma once
 #include <concepts>
+#include <span>
 #include <vector>
 
-#include "rtl/Persistent.h"
 #include "rtl/PropInfo.h"
 
 class TComponent;
 class TCollection;
 class TClassBuilder;
+
+// Names of properties that many classes publish together.
+using TPropGroup = std::span<const char* const>;
 
 class TClass {
  public:
@@ -29,6 +32,8 @@ class TClass {
   const QByteArray& ClassName() const { return name_; }
   const TClass* ClassParent() const { return parent_; }
   const QString& Description() const { return description_; }
+  // The class's own drawing or its nearest ancestor's; empty when there is none.
+  QByteArrayView Icon() const;
   bool InheritsFrom(const TClass& other) const;
 
   // Published properties, ancestors' first, each class's in the order of its declaration; then the streamed
@@ -44,20 +49,27 @@ class TClass {
   bool IsAbstract() const { return !makeComponent_ && !makePersistent_ && !makeItem_; }
   // A new component owned by `owner`; with no owner, by the caller. Refuses abstract classes.
   TComponent* NewComponent(TComponent* owner) const;
-  // A new value object owned by the caller. Refuses abstract classes and components.
-  std::unique_ptr<TPersistent> NewPersistent() const;
+  // A new value object, with everything as it begins. Refuses abstract classes and components.
+  // (A template, because here nothing is known of what it makes.)
+  template <class P = TPersistent>
+  std::unique_ptr<P> NewPersistent() const {
+    if (!makePersistent_) RefuseToMake();
+    return makePersistent_();
+  }
   TPersistent* NewItem(TCollection* collection) const;
 
  private:
   friend class TClassBuilder;
+  [[noreturn]] void RefuseToMake() const;
   const TPropInfo* FindAny(QByteArrayView name) const;  // declared ones too
   void BuildTables();
 
   QByteArray name_;
   const TClass* parent_;
   QString description_;
+  const char* icon_ = nullptr;
   TComponent* (*makeComponent_)(TComponent*) = nullptr;
-  TPersistent* (*makePersistent_)() = nullptr;
+  std::unique_ptr<TPersistent> (*makePersistent_)() = nullptr;
   TPersistent* (*makeItem_)(TCollection*) = nullptr;
   bool isComponent_ = false;
   std::vector<std::unique_ptr<TPropInfo>> own_;
@@ -70,67 +82,80 @@ template <class T>
 using Bare = std::remove_cvref_t<T>;
 
 template <class T>
-std::int64_t ToOrd(const T& v) {
-  if constexpr (requires { v.Bits(); })
+constexpr bool IsObject = std::is_pointer_v<T>&& std::derived_from<std::remove_pointer_t<T>, TPersistent>;
+
+// The alternative of TPropValue that a C++ type travels as.
+template <class T>
+constexpr auto Alternative() {
+  if constexpr (IsObject<T>)
+    return std::conditional_t<std::is_base_of_v<TComponent, std::remove_pointer_t<T>>, TReference, TPart>();
+  else if constexpr (std::same_as<T, QString> || std::same_as<T, QByteArray>)
+    return T();
+  else if constexpr (std::is_floating_point_v<T> || std::same_as<T, TCurrency> || std::same_as<T, TDateTime>)
+    return 0.0L;
+  else
+    return std::int64_t{0};
+}
+template <class T>
+using Wire = decltype(Alternative<T>());
+
+template <class T>
+Wire<T> ToWire(const T& v) {
+  if constexpr (std::same_as<T, TCurrency>)
+    return static_cast<long double>(v.Scaled) / 10000.0L;
+  else if constexpr (std::same_as<T, TDateTime>)
+    return v.Days;
+  else if constexpr (IsObject<T>)
+    return {v};
+  else if constexpr (requires { v.Bits(); })
     return static_cast<std::int64_t>(v.Bits());
   else
-    return static_cast<std::int64_t>(v);
+    return static_cast<Wire<T>>(v);
 }
 template <class T>
-T FromOrd(std::int64_t v) {
-  if constexpr (requires { T::FromBits(0); })
-    return T::FromBits(static_cast<std::uint64_t>(v));
-  else
-    return static_cast<T>(v);
-}
-inline long double ToFloat(double v) { return v; }
-inline long double ToFloat(TCurrency v) { return static_cast<long double>(v.Scaled) / 10000.0L; }
-inline long double ToFloat(TDateTime v) { return v.Days; }
-template <class T>
-T FromFloat(long double v) {
+decltype(auto) FromWire(const Wire<T>& v) {
   if constexpr (std::same_as<T, TCurrency>)
     return TCurrency{static_cast<std::int64_t>(v < 0 ? v * 10000.0L - 0.5L : v * 10000.0L + 0.5L)};
   else if constexpr (std::same_as<T, TDateTime>)
     return TDateTime{static_cast<double>(v)};
+  else if constexpr (IsObject<T>)
+    return static_cast<T>(v.Object);
+  else if constexpr (requires { T::FromBits(0); })
+    return T::FromBits(static_cast<std::uint64_t>(v));
+  else if constexpr (std::same_as<T, Wire<T>>)
+    return (v);
   else
     return static_cast<T>(v);
 }
 
 // An accessor over a pair of members (functions or a field); the setter may be nullptr.
-template <class Base, class C, class T, class G, class S>
-struct Member;
+template <class C, class T, class G, class S>
+struct Member final : TAccess<Wire<T>> {
+  G getter;
+  S setter;
+  Member(G g, S s) : getter(g), setter(s) {}
+  Wire<T> Get(const TPersistent& p) const override {
+    return ToWire<T>(std::invoke(getter, static_cast<const C&>(p)));
+  }
+  void Set(TPersistent& p, typename TAccess<Wire<T>>::Arg v) const override {
+    if constexpr (std::is_member_object_pointer_v<S>)
+      std::invoke(setter, static_cast<C&>(p)) = FromWire<T>(v);
+    else if constexpr (!std::same_as<S, std::nullptr_t>)
+      std::invoke(setter, static_cast<C&>(p), FromWire<T>(v));
+    else if constexpr (std::same_as<Wire<T>, TPart>) {  // a part that is always there takes the content over
+      if (T own = std::invoke(getter, static_cast<C&>(p))) own->Assign(v.Object);
+    }
+  }
+};
 
-#define VRX_MEMBER_ACCESS(Base, Wire, ToWire, FromWire)             \
-  template <class C, class T, class G, class S>                     \
-  struct Member<Base, C, T, G, S> : Base {                          \
-    G getter;                                                       \
-    S setter;                                                       \
-    Member(G g, S s) : getter(g), setter(s) {}                      \
-    Wire Get(const TPersistent& p) const override {                 \
-      return ToWire(std::invoke(getter, static_cast<const C&>(p))); \
-    }                                                               \
-    void Set(TPersistent& p, SetArg<Wire> v) const override {       \
-      if constexpr (std::is_member_object_pointer_v<S>)             \
-        std::invoke(setter, static_cast<C&>(p)) = FromWire(v);      \
-      else if constexpr (!std::same_as<S, std::nullptr_t>)          \
-        std::invoke(setter, static_cast<C&>(p), FromWire(v));       \
-    }                                                               \
-  };
-
-template <class Wire>
-using SetArg = std::conditional_t<std::is_class_v<Wire>, const Wire&, Wire>;
-VRX_MEMBER_ACCESS(TOrdAccess, std::int64_t, ToOrd, FromOrd<T>)
-VRX_MEMBER_ACCESS(TFloatAccess, long double, ToFloat, FromFloat<T>)
-VRX_MEMBER_ACCESS(TStrAccess, QString, QString, QString)
-VRX_MEMBER_ACCESS(TObjectAccess, TPersistent*, static_cast<TPersistent*>, static_cast<T>)
-VRX_MEMBER_ACCESS(TBinaryAccess, QByteArray, QByteArray, QByteArray)
-#undef VRX_MEMBER_ACCESS
-
-template <class T>
-constexpr bool IsObject = std::is_pointer_v<T>&& std::derived_from<std::remove_pointer_t<T>, TPersistent>;
-template <class T>
-constexpr bool IsFloat =
-    std::is_floating_point_v<T> || std::same_as<T, TCurrency> || std::same_as<T, TDateTime>;
+// Handlers live in the component, keyed by this object.
+template <class C>
+struct EventAccess final : TAccess<THandler> {
+  THandler Get(const TPersistent& p) const override { return {static_cast<const C&>(p).MethodName(*this)}; }
+  void Set(TPersistent& p, const THandler& v) const override {
+    static_cast<C&>(p).SetMethodName(*this, v.Name);
+  }
+};
 
 template <class T>
 const TTypeInfo& TypeOf() {
@@ -165,7 +190,7 @@ class TClassBuilder {
     Add(TPropVisibility::Streamed, name, getter, setter, def...);
     return std::move(*this);
   }
-  // An event: a handler name, held by the component, that needs no accessors.
+  // An event of a component: a handler name that needs no accessors.
   TClassBuilder&& Event(const char* name, const char* type = "TNotifyEvent") &&;
   TClassBuilder&& DeclaredEvent(const char* name, const char* type = "TNotifyEvent") &&;
 
@@ -174,12 +199,13 @@ class TClassBuilder {
   TClassBuilder&& Publish(const char* name) &&;
   template <class D>
   TClassBuilder&& Publish(const char* name, D def) && {
-    RepublishWith(name, rtl_detail::ToOrd(def));
+    RepublishWith(name, rtl_detail::ToWire<D>(def));
     return std::move(*this);
   }
+  // Names and named groups of names.
   template <class... N>
-  TClassBuilder&& PublishAll(N... names) && {
-    (static_cast<void>(std::move(*this).Publish(names)), ...);
+  TClassBuilder&& PublishAll(const N&... names) && {
+    (PublishEach(names), ...);
     return std::move(*this);
   }
 
@@ -193,11 +219,18 @@ class TClassBuilder {
   TClassBuilder&& Type(const TTypeInfo& type) &&;  // another name for the same kind: TCaption for string
   TClassBuilder&& Doc(QString sentence) &&;
 
-  TClassBuilder&& ClassDoc(QString sentence) &&;
+  // What the class is for, in one sentence, and its icon as a drawing (designintf/ComponentIcons.h); without
+  // one it has its ancestor's.
+  TClassBuilder&& ClassDoc(QString sentence, const char* icon = nullptr) &&;
+  TClassBuilder&& Icon(const char* drawing) &&;
 
   template <class C>
   void SetFactory() {
     isComponent_ = std::is_base_of_v<TComponent, C>;
+    if constexpr (std::is_base_of_v<TComponent, C>)
+      makeEvent_ = []() -> std::shared_ptr<const TPropAccess> {
+        return std::make_shared<rtl_detail::EventAccess<C>>();
+      };
     if constexpr (std::is_abstract_v<C>) {
     } else if constexpr (std::is_base_of_v<TComponent, C>) {
       makeComponent_ = [](TComponent* o) -> TComponent* { return new C(o); };
@@ -207,7 +240,7 @@ class TClassBuilder {
                          }) {
       makeItem_ = [](TCollection* o) -> TPersistent* { return new C(o); };
     } else if constexpr (std::is_default_constructible_v<C>) {
-      makePersistent_ = []() -> TPersistent* { return new C(); };
+      makePersistent_ = []() -> std::unique_ptr<TPersistent> { return std::make_unique<C>(); };
     }
   }
 
@@ -216,7 +249,12 @@ class TClassBuilder {
   TPropInfo& Last() { return *own_.back(); }
   void AddInfo(TPropVisibility visibility, const char* name, const TTypeInfo& type,
                std::shared_ptr<const TPropAccess> access, bool readOnly, std::optional<std::int64_t> def);
+  void AddEvent(TPropVisibility visibility, const char* name, const char* type);
   void RepublishWith(const char* name, std::optional<std::int64_t> def);
+  void PublishEach(const char* name) { RepublishWith(name, {}); }
+  void PublishEach(TPropGroup group) {
+    for (const char* name : group) RepublishWith(name, {});
+  }
 
   template <class G>
   struct GetterClass;
@@ -234,36 +272,23 @@ class TClassBuilder {
   template <class G, class S, class... D>
   void Add(TPropVisibility visibility, const char* name, G getter, S setter, D... def) {
     using namespace rtl_detail;
-    using C = typename GetterClass<G>::Class;
     using T = typename GetterClass<G>::Result;
-    constexpr bool readOnly = std::same_as<S, std::nullptr_t>;
+    using Access = Member<typename GetterClass<G>::Class, T, G, S>;
+    static_assert(sizeof...(D) == 0 || std::same_as<Wire<T>, std::int64_t>, "only ordinals have defaults");
     std::optional<std::int64_t> d;
-    std::shared_ptr<const TPropAccess> access;
-    if constexpr (std::same_as<T, QByteArray>) {
-      access = std::make_shared<Member<TBinaryAccess, C, T, G, S>>(getter, setter);
-      AddInfo(visibility, name, BinaryType(), std::move(access), readOnly, d);
-      return;
-    } else if constexpr (IsObject<T>) {
-      access = std::make_shared<Member<TObjectAccess, C, T, G, S>>(getter, setter);
-    } else if constexpr (std::same_as<T, QString>) {
-      access = std::make_shared<Member<TStrAccess, C, T, G, S>>(getter, setter);
-    } else if constexpr (IsFloat<T>) {
-      access = std::make_shared<Member<TFloatAccess, C, T, G, S>>(getter, setter);
-    } else {
-      access = std::make_shared<Member<TOrdAccess, C, T, G, S>>(getter, setter);
-      if constexpr (sizeof...(D) == 1) ((d = ToOrd(static_cast<T>(def))), ...);
-    }
-    if constexpr (!std::same_as<T, QByteArray>)
-      AddInfo(visibility, name, TypeOf<T>(), std::move(access), readOnly, d);
+    if constexpr (sizeof...(D) == 1) ((d = ToWire<T>(static_cast<T>(def))), ...);
+    AddInfo(visibility, name, TypeOf<T>(), std::make_shared<Access>(getter, setter),
+            std::same_as<S, std::nullptr_t>, d);
   }
-  static const TTypeInfo& BinaryType();
 
   QByteArray name_;
   const TClass* parent_;
   QString description_;
+  const char* icon_ = nullptr;
   TComponent* (*makeComponent_)(TComponent*) = nullptr;
-  TPersistent* (*makePersistent_)() = nullptr;
+  std::unique_ptr<TPersistent> (*makePersistent_)() = nullptr;
   TPersistent* (*makeItem_)(TCollection*) = nullptr;
+  std::shared_ptr<const TPropAccess> (*makeEvent_)() = nullptr;
   bool isComponent_ = false;
   std::vector<std::unique_ptr<TPropInfo>> own_;
 };

@@ -173,19 +173,17 @@ void TComponent::Notification(TComponent* component, TOperation operation) {
       SetObjectProp(*this, *prop, nullptr);
 }
 
-QString TComponent::MethodName(const TPropInfo& event) const {
+QString TComponent::MethodName(const TPropAccess& event) const {
   for (const auto& [key, handler] : methods_)
-    if (key == event.Access.get()) return handler;
+    if (key == &event) return handler;
   return {};
 }
 
-bool TComponent::SetMethodName(const TPropInfo& event, const QString& handler) {
-  if (MethodName(event) == handler) return true;
+void TComponent::SetMethodName(const TPropAccess& event, const QString& handler) {
+  if (MethodName(event) == handler) return;
   Changing();
-  const TPropAccess* key = event.Access.get();
-  std::erase_if(methods_, [&](const auto& m) { return m.first == key; });
-  if (!handler.isEmpty()) methods_.emplace_back(key, handler);
-  return true;
+  std::erase_if(methods_, [&](const auto& m) { return m.first == &event; });
+  if (!handler.isEmpty()) methods_.emplace_back(&event, handler);
 }
 
 void TComponent::SetDesignLeft(int left) {

@@ -6,6 +6,7 @@
 
 #include "rtl/Class.h"
 #include "rtl/NotifyList.h"
+#include "rtl/Persistent.h"
 
 // Where a designer shows the icon of a component that is not a control: the design-time position word with
 // left in its low and top in its high 16 bits, both signed.
@@ -91,8 +92,9 @@ class TComponent : public TPersistent {
   // `component`, which asked or was asked for a free notification, is going: references to it are dropped.
   virtual void Notification(TComponent* component, TOperation operation);
 
-  QString MethodName(const TPropInfo& event) const override;
-  bool SetMethodName(const TPropInfo& event, const QString& handler) override;
+  // The name of the handler that an event has here.
+  QString MethodName(const TPropAccess& event) const;
+  void SetMethodName(const TPropAccess& event, const QString& handler);
 
  protected:
   bool AssignsProperty(const TPropInfo& prop) const override { return prop.Name != "Name"; }

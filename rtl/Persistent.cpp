@@ -2,7 +2,6 @@
 
 #include "rtl/Class.h"
 #include "rtl/Exceptions.h"
-#include "rtl/PropAccess.h"
 
 TPersistent::~TPersistent() = default;
 
@@ -19,6 +18,14 @@ const TTypeInfo& TPersistent::StaticTypeInfo() {
 
 bool TPersistent::InheritsFrom(const TClass& cls) const { return ClassType().InheritsFrom(cls); }
 
+// A descendant may have made the property read-only, or of another kind.
+void TPersistent::Take(const TPropInfo& prop, const TPropValue& value) {
+  const auto* part = std::get_if<TPart>(&value);
+  const bool absent = part && !part->Object;
+  if (prop.IsWritable() && prop.Access->Alternative() == value.index() && !absent)
+    prop.Access->Write(*this, value);
+}
+
 void TPersistent::Assign(const TPersistent* source) {
   if (source == this) return;
   const TClass& own = ClassType();
@@ -31,7 +38,7 @@ void TPersistent::Assign(const TPersistent* source) {
   const TClass& common = own.InheritsFrom(source->ClassType()) ? source->ClassType() : own;
   for (const TPropInfo* prop : common.Properties())
     if (const TPropInfo* target = own.FindProp(prop->Name); target && AssignsProperty(*target))
-      CopyProp(*source, *prop, *this, *target);
+      Take(*target, prop->Access->Read(*source));
 }
 
 void TPersistent::Changed() {
@@ -43,7 +50,9 @@ void TPersistent::Changed() {
 }
 
 void TPersistent::EndUpdate() {
-  if (--updateLock_ > 0 || !changePending_) return;
+  if (--updateLock_ > 0) return;
+  changeTold_ = false;
+  if (!changePending_) return;
   changePending_ = false;
   DoChanged();
 }

@@ -1,11 +1,11 @@
 // The root of everything that has published properties.
 #pragma once
 #include <memory>
+#include <utility>
 
-#include "rtl/TypeInfo.h"
+#include "rtl/PropInfo.h"
 
 class TClass;
-class TPropInfo;
 
 class TPersistent {
  public:
@@ -23,24 +23,20 @@ class TPersistent {
   // descendant of it; otherwise EConvertError, and nothing is changed. Null resets nothing and is refused.
   virtual void Assign(const TPersistent* source);
 
-  // The name of the handler that an event has here. Only components keep them; anything else refuses to.
-  virtual QString MethodName(const TPropInfo&) const { return {}; }
-  virtual bool SetMethodName(const TPropInfo&, const QString&) { return false; }
-
   // The object this one is a part of: the component of a value object, the collection of an item.
   virtual TPersistent* GetOwner() const { return nullptr; }
 
   // Tells the owner that a value here is about to change, while the old one can still be read. Every setter
-  // calls it first, as a rule through Change; whoever edits through properties need not.
+  // calls it first, as a rule through Change, and only when the value is another one.
+  // Between BeginUpdate and EndUpdate the calls are collected into one: the first.
   void Changing() {
-    if (!quiet_) DoChanging();
+    if (quiet_ || (updateLock_ > 0 && std::exchange(changeTold_, true))) return;
+    DoChanging();
   }
   // Tells the owner that a value here has changed. Setters call it after the value is in place; between
-  // BeginUpdate and EndUpdate the calls are collected into one.
+  // BeginUpdate and EndUpdate the calls are collected into one: at the end.
   void Changed();
-  void BeginUpdate() {
-    if (updateLock_++ == 0) Changing();
-  }
+  void BeginUpdate() { ++updateLock_; }
   void EndUpdate();
 
  protected:
@@ -65,7 +61,10 @@ class TPersistent {
   virtual void PartChanged(TPersistent& part);
 
  private:
+  void Take(const TPropInfo& prop, const TPropValue& value);
+
   short updateLock_ = 0;
+  bool changeTold_ = false;
   bool changePending_ = false;
   bool quiet_ = false;
 };

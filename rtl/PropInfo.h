@@ -4,37 +4,43 @@
 #include <memory>
 #include <optional>
 
+#include "rtl/PropValue.h"
 #include "rtl/TypeInfo.h"
 
-class TPersistent;
-
-// Type-erased accessors, one family per way a value travels. Set is only called with values that the type
-// information accepts.
-struct TPropAccess {
+// How a value is read from an instance and written to it, with the type erased. What is written must be of
+// the alternative that is read, and within what the type information accepts.
+class TPropAccess {
+ public:
   virtual ~TPropAccess() = default;
+  virtual TPropValue Read(const TPersistent& instance) const = 0;
+  virtual void Write(TPersistent& instance, const TPropValue& value) const = 0;
+  // Zero, empty or null.
+  virtual TPropValue Nothing() const = 0;
+  std::size_t Alternative() const { return alternative_; }
+
+ protected:
+  explicit TPropAccess(std::size_t alternative) : alternative_(alternative) {}
+
+ private:
+  std::size_t alternative_;
 };
-struct TOrdAccess : TPropAccess {  // integers, characters, enumerations, sets (as bits), 64-bit integers
-  virtual std::int64_t Get(const TPersistent& instance) const = 0;
-  virtual void Set(TPersistent& instance, std::int64_t value) const = 0;
+
+// The same with the type known, for those who ask for one: without a TPropValue in between.
+template <class T>
+class TAccess : public TPropAccess {
+ public:
+  using Arg = std::conditional_t<std::is_class_v<T>, const T&, T>;
+  virtual T Get(const TPersistent& instance) const = 0;
+  virtual void Set(TPersistent& instance, Arg value) const = 0;
+  TPropValue Read(const TPersistent& instance) const final { return Get(instance); }
+  void Write(TPersistent& instance, const TPropValue& value) const final {
+    Set(instance, std::get<T>(value));
+  }
+  TPropValue Nothing() const final { return T{}; }
+
+ protected:
+  TAccess() : TPropAccess(AlternativeOf<T>) {}
 };
-struct TFloatAccess : TPropAccess {  // currency travels as its value, not scaled
-  virtual long double Get(const TPersistent& instance) const = 0;
-  virtual void Set(TPersistent& instance, long double value) const = 0;
-};
-struct TStrAccess : TPropAccess {
-  virtual QString Get(const TPersistent& instance) const = 0;
-  virtual void Set(TPersistent& instance, const QString& value) const = 0;
-};
-struct TObjectAccess : TPropAccess {
-  virtual TPersistent* Get(const TPersistent& instance) const = 0;
-  virtual void Set(TPersistent& instance, TPersistent* value) const = 0;
-};
-// Binary data that is streamed under a name but shown nowhere ("Picture.Data").
-struct TBinaryAccess : TPropAccess {
-  virtual QByteArray Get(const TPersistent& instance) const = 0;
-  virtual void Set(TPersistent& instance, const QByteArray& value) const = 0;
-};
-struct TMethodAccess : TPropAccess {};  // handler names live in the component, keyed by the access object
 
 enum class TPropVisibility : std::uint8_t {
   Declared,   // known to the class and its descendants, not published
@@ -56,7 +62,15 @@ class TPropInfo {
   // A sentence for the inspector's description line; may be empty.
   QString Description;
 
+  // Kinds tell how a value is shown and edited; what it is is told by the alternative.
   TTypeKind Kind() const { return PropType->Kind; }
-  bool IsEvent() const { return PropType->Kind == TTypeKind::tkMethod; }
-  bool IsOrdinal() const;
+  template <class T>
+  bool Is() const {
+    return Access->Alternative() == AlternativeOf<T>;
+  }
+  bool IsOrdinal() const { return Is<std::int64_t>(); }
+  bool IsEvent() const { return Is<THandler>(); }
+  bool IsPart() const { return Is<TPart>(); }
+  // What can be given another value: parts are changed in themselves.
+  bool IsWritable() const { return !ReadOnly || IsPart(); }
 };

@@ -4,7 +4,7 @@
 
 #include "rtl/Component.h"
 #include "rtl/Exceptions.h"
-#include "rtl/IntegerConsts.h"
+#include "rtl/OrdinalNames.h"
 #include "rtl/PropAccess.h"
 
 namespace {
@@ -34,9 +34,6 @@ std::int64_t SetFromText(const TTypeInfo& type, const QString& text) {
 
 std::int64_t IntegerFromText(const TTypeInfo& type, const QString& text) {
   std::int64_t value = 0;
-  if (const TIntegerConsts* consts = FindIntegerConsts(type);
-      consts && consts->IdentToInt(text.toUtf8(), value))
-    return value;
   bool ok = false;
   if (!text.startsWith(u'$'))
     value = text.toLongLong(&ok, 10);
@@ -53,32 +50,17 @@ std::int64_t IntegerFromText(const TTypeInfo& type, const QString& text) {
 }  // namespace
 
 QString OrdToText(const TTypeInfo& type, std::int64_t value) {
-  switch (type.Kind) {
-    case TTypeKind::tkEnumeration:
-      if (value >= 0 && value < type.Elements.size()) return Latin(type.Elements[value]);
-      break;
-    case TTypeKind::tkSet: {
-      QStringList names;
-      for (int i = 0; i < type.CompType->Elements.size(); ++i)
-        if (value >> i & 1) names << Latin(type.CompType->Elements[i]);
-      return u'[' + names.join(u',') + u']';
-    }
-    default: {
-      QByteArray ident;
-      if (const TIntegerConsts* consts = FindIntegerConsts(type); consts && consts->IntToIdent(value, ident))
-        return Latin(ident);
-    }
-  }
-  return QString::number(value);
+  if (type.CompType) return u'[' + Latin(ElementsOf(type, value).join(',')) + u']';
+  const QByteArray name = NameOfOrdinal(type, value);
+  return name.isEmpty() ? QString::number(value) : Latin(name);
 }
 
 std::int64_t TextToOrd(const TTypeInfo& type, const QString& input) {
   const QString text = input.trimmed();
-  if (type.Kind == TTypeKind::tkSet) return SetFromText(type, text);
-  if (type.Kind != TTypeKind::tkEnumeration) return IntegerFromText(type, text);
-  const int index = type.IndexOfElement(text.toUtf8());
-  if (index < 0) Refuse(type, text, ExpectedElements(type));
-  return index;
+  if (type.CompType) return SetFromText(type, text);
+  if (const auto named = OrdinalOfName(type, text.toUtf8())) return *named;
+  if (!type.Elements.isEmpty()) Refuse(type, text, ExpectedElements(type));
+  return IntegerFromText(type, text);
 }
 
 QString FloatToText(const TTypeInfo& type, long double value) {
@@ -101,50 +83,45 @@ TComponent* LookupRoot(const TPersistent& instance) {
 }
 
 QString GetPropText(const TPersistent& instance, const TPropInfo& prop) {
-  switch (prop.Kind()) {
-    case TTypeKind::tkString:
-      return GetStrProp(instance, prop);
-    case TTypeKind::tkFloat:
-      return FloatToText(*prop.PropType, GetFloatProp(instance, prop));
-    case TTypeKind::tkMethod:
-      return GetMethodProp(instance, prop);
-    case TTypeKind::tkClass: {
-      TPersistent* object = GetObjectProp(instance, prop);
-      if (IsComponentRef(prop)) return object ? static_cast<TComponent*>(object)->Name() : QString();
-      return u'(' + Latin(prop.PropType->Name) + u')';
-    }
-    case TTypeKind::tkUnknown:
-      return QStringLiteral("(%1 bytes)").arg(GetBinaryProp(instance, prop).size());
-    default:
-      return OrdToText(*prop.PropType, GetOrdProp(instance, prop));
-  }
+  const TTypeInfo& type = *prop.PropType;
+  return std::visit(
+      ForEach{[&](std::int64_t v) { return OrdToText(type, v); },
+              [&](long double v) { return FloatToText(type, v); }, [](const QString& v) { return v; },
+              [](const THandler& v) { return v.Name; },
+              [](TReference v) { return v.Object ? static_cast<TComponent*>(v.Object)->Name() : QString(); },
+              [&](TPart) -> QString { return u'(' + Latin(type.Name) + u')'; },
+              [](const QByteArray& v) { return QStringLiteral("(%1 bytes)").arg(v.size()); }},
+      GetProp(instance, prop));
 }
 
-void SetPropText(TPersistent& instance, const TPropInfo& prop, const QString& text) {
-  switch (prop.Kind()) {
-    case TTypeKind::tkString:
-      return SetStrProp(instance, prop, text);
-    case TTypeKind::tkFloat:
-      return SetFloatProp(instance, prop, TextToFloat(*prop.PropType, text));
-    case TTypeKind::tkMethod:
-      if (!text.isEmpty() && !IsValidIdent(text))
-        Refuse(*prop.PropType, text, QStringLiteral("a handler's name is an identifier"));
-      return SetMethodProp(instance, prop, text);
-    case TTypeKind::tkClass: {
-      if (!IsComponentRef(prop)) break;
-      TComponent* root = LookupRoot(instance);
-      TComponent* target = nullptr;
-      if (!text.isEmpty()) {
-        target = root->Name().compare(text, Qt::CaseInsensitive) == 0 ? root : root->FindComponent(text);
-        if (!target) Refuse(*prop.PropType, text, QStringLiteral("no component of the form has this name"));
-      }
-      return SetObjectProp(instance, prop, target);
-    }
-    case TTypeKind::tkUnknown:
-      break;
-    default:
-      return SetOrdProp(instance, prop, TextToOrd(*prop.PropType, text));
-  }
+namespace {
+TReference ReferenceFromText(const TPersistent& instance, const TTypeInfo& type, const QString& text) {
+  if (text.isEmpty()) return {};
+  TComponent* root = LookupRoot(instance);
+  TComponent* target = nullptr;
+  if (root) target = root->Name().compare(text, Qt::CaseInsensitive) == 0 ? root : root->FindComponent(text);
+  if (!target) Refuse(type, text, QStringLiteral("no component of the form has this name"));
+  return {target};
+}
+
+[[noreturn]] void RefuseText(const TPersistent& instance, const TPropInfo& prop) {
   throw EPropertyError(QStringLiteral("%1.%2 cannot be given as text.")
                            .arg(Latin(instance.ClassType().ClassName()), Latin(prop.Name)));
+}
+}  // namespace
+
+void SetPropText(TPersistent& instance, const TPropInfo& prop, const QString& text) {
+  const TTypeInfo& type = *prop.PropType;
+  const auto value =
+      ForEach{[&](std::int64_t) -> TPropValue { return TextToOrd(type, text); },
+              [&](long double) -> TPropValue { return TextToFloat(type, text); },
+              [&](const QString&) -> TPropValue { return text; },
+              [&](const THandler&) -> TPropValue {
+                if (!text.isEmpty() && !IsValidIdent(text))
+                  Refuse(type, text, QStringLiteral("a handler's name is an identifier"));
+                return THandler{text};
+              },
+              [&](TReference) -> TPropValue { return ReferenceFromText(instance, type, text); },
+              [&](const auto&) -> TPropValue { RefuseText(instance, prop); }};
+  SetProp(instance, prop, std::visit(value, prop.Access->Nothing()));
 }

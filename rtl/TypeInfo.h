@@ -114,6 +114,7 @@ VRX_TYPE_INFO(float, FloatTypeInfo("Single", TFloatType::ftSingle))
 VRX_TYPE_INFO(TCurrency, FloatTypeInfo("Currency", TFloatType::ftCurrency))
 VRX_TYPE_INFO(TDateTime, FloatTypeInfo("TDateTime", TFloatType::ftDateTime))
 VRX_TYPE_INFO(QString, StringType("string"))
+VRX_TYPE_INFO(QByteArray, TTypeInfo{.Name = "binary"})
 
 template <>
 struct TypeInfoOf<std::int64_t> {

@@ -4,7 +4,6 @@
 
 #include "rtl/Exceptions.h"
 #include "rtl/IntegerConsts.h"
-#include "vcl/Layout.h"
 
 namespace {
 struct CursorRow {
@@ -40,6 +39,11 @@ const TTypeInfo& TypeInfoOf<TCursor>::Get() {
     return cursor;
   }();
   return info;
+}
+
+int AlignmentFlag(TAlignment alignment) {
+  static constexpr int flags[] = {Qt::AlignLeft, Qt::AlignRight, Qt::AlignHCenter};
+  return flags[static_cast<int>(alignment)];
 }
 
 const TTypeInfo& CaptionType() {
@@ -230,14 +234,15 @@ void TControl::NameChanged(const QString& oldName) {
   if (captionFollowsName_ && IsDesigning() && !IsLoading() && caption_ == oldName) SetCaption(Name());
 }
 
+// Who is given a look of its own stops taking it from the parent, even when it is the same one.
 void TControl::SetColor(TColor v) {
-  if (!takingParentLook_ && parentColor_) {
-    Changing();
-    parentColor_ = false;
+  const bool differs = color_ != v;
+  {
+    const TUpdateLock once(*this);
+    if (!takingParentLook_) Change(parentColor_, false);
+    Change(color_, v);
   }
-  if (color_ == v) return;
-  Change(color_, v);
-  LookChanged();
+  if (differs) LookChanged();
 }
 
 void TControl::SetParentColor(bool v) {
@@ -252,9 +257,11 @@ void TControl::SetParentFont(bool v) {
 
 void TControl::SetShowHint(bool v) {
   if (showHint_ == v) return;
-  Changing();
-  if (!takingParentLook_) parentShowHint_ = false;
-  Change(showHint_, v);
+  {
+    const TUpdateLock once(*this);
+    if (!takingParentLook_) Change(parentShowHint_, false);
+    Change(showHint_, v);
+  }
   LookChanged();
 }
 

@@ -6,27 +6,21 @@
 #include "rtl/Component.h"
 #include "vcl/Canvas.h"
 #include "vcl/Font.h"
+#include "vcl/Layout.h"
 
 class TWinControl;
 class TControl;
 
-enum class TAlign : std::uint8_t { alNone, alTop, alBottom, alLeft, alRight, alClient, alCustom };
-enum class TAnchorKind : std::uint8_t { akLeft, akTop, akRight, akBottom };
-using TAnchors = TSet<TAnchorKind>;
 enum class TAlignment : std::uint8_t { taLeftJustify, taRightJustify, taCenter };
 enum class TCursor : std::int16_t {};
 
-VRX_ENUM(TAlign, {"alNone", "alTop", "alBottom", "alLeft", "alRight", "alClient", "alCustom"})
-VRX_ENUM(TAnchorKind, {"akLeft", "akTop", "akRight", "akBottom"})
-VRX_SET(TAnchors, TAnchorKind)
 VRX_ENUM(TAlignment, {"taLeftJustify", "taRightJustify", "taCenter"})
 template <>
 struct TypeInfoOf<TCursor> {
   static const TTypeInfo& Get();
 };
-const TTypeInfo& CaptionType();  // "TCaption", a string shown on a control
-
-constexpr TAnchors DefaultAnchors{TAnchorKind::akLeft, TAnchorKind::akTop};
+int AlignmentFlag(TAlignment alignment);  // Qt::AlignmentFlag
+const TTypeInfo& CaptionType();           // "TCaption", a string shown on a control
 
 // Whoever shows a control: a view in a dialog, the designer's surface.
 class IControlHost {
@@ -216,6 +210,24 @@ class TWinControl : public TControl {
   std::vector<TControl*> controls_;
   int tabOrder_ = -1;
   bool layoutChanging_ = false;
+};
+
+// Stands around a change of a container or of what is in it: its size, or a child's bounds, alignment,
+// visibility, place in the order, coming and going. At the end everything is moved by the difference. Changes
+// inside of each other are one. Does nothing while the container is loaded, freed, or its layout frozen.
+class LayoutChange {
+ public:
+  explicit LayoutChange(TWinControl* container);
+  ~LayoutChange();
+  LayoutChange(const LayoutChange&) = delete;
+  LayoutChange& operator=(const LayoutChange&) = delete;
+
+ private:
+  Placements Arranged(const Placements* before) const;
+
+  TWinControl* container_ = nullptr;  // null: nothing to do
+  Placements before_;
+  int exceptions_ = 0;
 };
 
 // Paints a control and everything inside it; the painter's origin is the control's top left corner.

@@ -1,6 +1,5 @@
 #include "vcl/ControlView.h"
 
-#include <QMouseEvent>
 #include <QPainter>
 #include <QStyle>
 #include <utility>
@@ -61,8 +60,4 @@ void ControlView::paintEvent(QPaintEvent*) {
   painter.translate(Origin());
   painter.setClipRect(QRect(QPoint(0, 0), control_->BoundsRect().size()));
   PaintControl(*control_, painter);
-}
-
-void ControlView::mouseReleaseEvent(QMouseEvent* event) {
-  if (control_ && QRect(Origin(), control_->BoundsRect().size()).contains(event->pos())) emit Clicked();
 }

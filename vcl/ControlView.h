@@ -22,12 +22,8 @@ class ControlView : public QWidget, public IControlHost {
   // Never less than the whole control, so that it is scrolled to instead of being cut.
   QSize minimumSizeHint() const override { return sizeHint(); }
 
- signals:
-  void Clicked();
-
  protected:
   void paintEvent(QPaintEvent* event) override;
-  void mouseReleaseEvent(QMouseEvent* event) override;
   void resizeEvent(QResizeEvent* event) override;
   void showEvent(QShowEvent* event) override;
 

@@ -1,6 +1,6 @@
 #include "vcl/Form.h"
 
-#include "vcl/Layout.h"
+#include "vcl/PropertyGroups.h"
 
 const TClass& TForm::StaticClass() {
   static const TClass cls(
@@ -23,7 +23,7 @@ const TClass& TForm::StaticClass() {
           .Published("ClientWidth", &TForm::ClientWidth, &TForm::SetClientWidth)
           .StoredIf(&TForm::ClientWidthStored)
           .Doc(QStringLiteral("Width inside the frame."))
-          .PublishAll("Color", "Enabled", "Font")
+          .PublishAll(Look)
           .Published("FormStyle", &TForm::FormStyle, &TForm::SetFormStyle, TFormStyle::fsNormal)
           .Published("KeyPreview", &TForm::KeyPreview, &TForm::SetKeyPreview, false)
           .Doc(QStringLiteral("The form sees keys before its controls."))
@@ -42,11 +42,13 @@ const TClass& TForm::StaticClass() {
           .Event("OnDeactivate")
           .Event("OnDestroy")
           .Event("OnHide")
-          .PublishAll("OnKeyDown", "OnKeyPress", "OnKeyUp", "OnMouseDown", "OnMouseMove", "OnMouseUp")
+          .PublishAll(KeyEvents, MouseButtonEvents)
           .Event("OnPaint")
           .PublishAll("OnResize")
           .Event("OnShow")
-          .ClassDoc(QStringLiteral("A window of the application.")));
+          .ClassDoc(
+              QStringLiteral("A window of the application."),
+              "pen line 1.5 brush fill box 3 4 18 16 2 pen none brush accent box 3.75 4.75 16.5 3.5 0"));
   return cls;
 }
 

@@ -1,23 +1,13 @@
 #include "vcl/Layout.h"
 
+#include <QMargins>
 #include <algorithm>
-#include <exception>
-
-#include "vcl/Control.h"
 
 namespace {
-bool TakesPart(const TControl& c) { return c.Visible() || c.IsDesigning(); }
-
-bool IsAligned(const TControl& c) {
-  return c.Align() != TAlign::alNone && c.Align() != TAlign::alCustom && TakesPart(c);
-}
-
-bool FollowsNothing(const TControl& c) { return !IsAligned(c) && c.Anchors() == DefaultAnchors; }
-
 // How far along its axis a control stands from the edge it is aligned to. What only changed its size keeps
 // its place in the row.
-int Distance(const TControl& c, const QRect& r) {
-  switch (c.Align()) {
+int Distance(TAlign align, const QRect& r) {
+  switch (align) {
     case TAlign::alTop:
       return r.top();
     case TAlign::alBottom:
@@ -42,7 +32,7 @@ Span AnchoredSpan(bool near, bool far, int room) {
 }
 
 void PlaceAnchored(Placement& p, QSize room) {
-  const TAnchors a = p.control->Anchors();
+  const TAnchors a = p.anchors;
   const Span x =
       AnchoredSpan(a.Contains(TAnchorKind::akLeft), a.Contains(TAnchorKind::akRight), room.width());
   const Span y =
@@ -53,8 +43,8 @@ void PlaceAnchored(Placement& p, QSize room) {
 
 // Takes its strip from the room that is left.
 void PlaceAligned(Placement& p, int& left, int& top, int& right, int& bottom) {
-  const int width = p.control->Width(), height = p.control->Height();
-  const TAlign align = p.control->Align();
+  const int width = p.stands.width(), height = p.stands.height();
+  const TAlign align = p.align;
   p.ownsPlace = false;
   p.ownsWidth = align == TAlign::alLeft || align == TAlign::alRight;
   p.ownsHeight = align == TAlign::alTop || align == TAlign::alBottom;
@@ -68,50 +58,18 @@ void PlaceAligned(Placement& p, int& left, int& top, int& right, int& bottom) {
   if (align == TAlign::alLeft) left += width;
 }
 
-const Placement* Find(const std::vector<Placement>& all, const TControl* control) {
+// Lists are alike as a rule, so the same place is looked at first.
+const Placement* Find(const Placements& all, const TControl* control, std::size_t likely) {
+  if (likely < all.size() && all[likely].control == control) return &all[likely];
   const auto it =
       std::find_if(all.begin(), all.end(), [&](const Placement& p) { return p.control == control; });
   return it == all.end() ? nullptr : &*it;
 }
 
-// `before`: the placements before the change, which decide the order of what only changed its size.
-std::vector<Placement> Arrange(const TWinControl& container, const std::vector<Placement>* before) {
-  std::vector<Placement> all;
-  const auto& controls = container.Controls();
-  if (std::all_of(controls.begin(), controls.end(), [](const TControl* c) { return FollowsNothing(*c); }))
-    return all;
-  all.reserve(controls.size());
-  const QRect room = container.ClientRect();
-  std::vector<std::pair<int, std::size_t>> row;
-  for (std::size_t i = 0; i < controls.size(); ++i) {
-    all.push_back({.control = controls[i], .stands = controls[i]->BoundsRect()});
-    if (controls[i]->Align() == TAlign::alNone) PlaceAnchored(all.back(), room.size());
-  }
-  int left = room.left(), top = room.top(), right = left + room.width(), bottom = top + room.height();
-  for (const TAlign pass :
-       {TAlign::alTop, TAlign::alBottom, TAlign::alLeft, TAlign::alRight, TAlign::alClient}) {
-    row.clear();
-    for (std::size_t i = 0; i < all.size(); ++i) {
-      const TControl& c = *all[i].control;
-      if (c.Align() != pass || !TakesPart(c)) continue;
-      // Lists are alike as a rule, so the same place is looked at first.
-      const Placement* was = before && i < before->size() && (*before)[i].control == &c ? &(*before)[i]
-                             : before                                                   ? Find(*before, &c)
-                                                                                        : nullptr;
-      const bool resized = was && was->stands.size() != all[i].stands.size();
-      row.emplace_back(Distance(c, resized ? was->stands : all[i].stands), i);
-    }
-    std::stable_sort(row.begin(), row.end(), [](const auto& a, const auto& b) { return a.first < b.first; });
-    for (const auto& [distance, i] : row) PlaceAligned(all[i], left, top, right, bottom);
-  }
-  return all;
-}
-
 // By how much the file's edges differ from the computed ones, as aligned neighbours show; for what has just
 // been aligned.
-QMargins Discrepancy(const TWinControl& container, const std::vector<Placement>& before) {
+QMargins Discrepancy(const QRect& room, const Placements& before) {
   QMargins d;
-  const QRect room = container.ClientRect();
   for (const Placement& p : before) {
     if (p.ownsPlace) continue;
     if (p.width >= 0 && p.left == room.left()) d.setLeft(p.stands.left() - p.left);
@@ -125,7 +83,7 @@ QMargins Discrepancy(const TWinControl& container, const std::vector<Placement>&
 }
 
 QRect JustAligned(const Placement& now, const QMargins& d) {
-  const TAlign align = now.control->Align();
+  const TAlign align = now.align;
   int left = now.left + (align == TAlign::alRight ? d.right() : d.left());
   int top = now.top + (align == TAlign::alBottom ? d.bottom() : d.top());
   const int width = now.ownsWidth ? now.width : now.left + now.width + d.right() - left;
@@ -159,27 +117,30 @@ int MovedByDifference(int stands, int before, int after, bool size) {
   return std::max(stands == std::max(before, 0) ? after : stands + after - before, 0);
 }
 
-LayoutChange::LayoutChange(TWinControl* container) {
-  if (!container || container->layoutChanging_ || container->IsLoading() || container->IsDestroying() ||
-      container->IsLayoutFrozen())
-    return;
-  container_ = container;
-  container_->layoutChanging_ = true;
-  exceptions_ = std::uncaught_exceptions();
-  before_ = Arrange(*container, nullptr);
+void Arrange(Placements& all, const QRect& room, const Placements* before) {
+  std::vector<std::pair<int, std::size_t>> row;
+  for (Placement& p : all)
+    if (p.align == TAlign::alNone) PlaceAnchored(p, room.size());
+  int left = room.left(), top = room.top(), right = left + room.width(), bottom = top + room.height();
+  for (const TAlign pass :
+       {TAlign::alTop, TAlign::alBottom, TAlign::alLeft, TAlign::alRight, TAlign::alClient}) {
+    row.clear();
+    for (std::size_t i = 0; i < all.size(); ++i) {
+      const Placement& p = all[i];
+      if (p.align != pass || !p.takesPart) continue;
+      const Placement* was = before ? Find(*before, p.control, i) : nullptr;
+      const bool resized = was && was->stands.size() != p.stands.size();
+      row.emplace_back(Distance(p.align, resized ? was->stands : p.stands), i);
+    }
+    std::stable_sort(row.begin(), row.end(), [](const auto& a, const auto& b) { return a.first < b.first; });
+    for (const auto& [distance, i] : row) PlaceAligned(all[i], left, top, right, bottom);
+  }
 }
 
-LayoutChange::~LayoutChange() {
-  if (!container_) return;
-  if (std::uncaught_exceptions() == exceptions_ && !container_->IsDestroying()) {
-    const std::vector<Placement> after = Arrange(*container_, &before_);
-    const QMargins discrepancy = Discrepancy(*container_, before_);
-    for (std::size_t i = 0; i < after.size(); ++i) {
-      const Placement& now = after[i];
-      const Placement* was =
-          i < before_.size() && before_[i].control == now.control ? &before_[i] : Find(before_, now.control);
-      now.control->Follow(NewBounds(was, now, discrepancy));
-    }
-  }
-  container_->layoutChanging_ = false;
+std::vector<QRect> BoundsAfter(const Placements& before, const Placements& after, const QRect& room) {
+  const QMargins discrepancy = Discrepancy(room, before);
+  std::vector<QRect> bounds;
+  for (std::size_t i = 0; i < after.size(); ++i)
+    bounds.push_back(NewBounds(Find(before, after[i].control, i), after[i], discrepancy));
+  return bounds;
 }

@@ -9,35 +9,40 @@
 #include <QRect>
 #include <vector>
 
-class TControl;
-class TWinControl;
+#include "rtl/TypeInfo.h"
 
-// What the layout of a container wants for one of its children. Sizes may be negative when there is no room.
+class TControl;
+
+enum class TAlign : std::uint8_t { alNone, alTop, alBottom, alLeft, alRight, alClient, alCustom };
+enum class TAnchorKind : std::uint8_t { akLeft, akTop, akRight, akBottom };
+using TAnchors = TSet<TAnchorKind>;
+VRX_ENUM(TAlign, {"alNone", "alTop", "alBottom", "alLeft", "alRight", "alClient", "alCustom"})
+VRX_ENUM(TAnchorKind, {"akLeft", "akTop", "akRight", "akBottom"})
+VRX_SET(TAnchors, TAnchorKind)
+
+constexpr TAnchors DefaultAnchors{TAnchorKind::akLeft, TAnchorKind::akTop};
+
+// One of the controls in a container, and what the layout wants for it. Sizes may be negative when there is
+// no room.
 struct Placement {
-  TControl* control = nullptr;
-  QRect stands;  // where the control is
+  TControl* control = nullptr;  // only compared
+  QRect stands;                 // where the control is
+  TAlign align = TAlign::alNone;
+  TAnchors anchors = DefaultAnchors;
+  bool takesPart = true;  // what is not shown has no strip
   int left = 0, top = 0, width = 0, height = 0;
   // Whether the edge of the container decides the value; else the control's own stays, moved by what its
   // anchors say.
   bool ownsWidth = true, ownsHeight = true, ownsPlace = true;
   bool anchored = false;
 };
+using Placements = std::vector<Placement>;  // back to front
 
-// Stands around a change of a container or of what is in it: its size, or a child's bounds, alignment,
-// visibility, place in the order, coming and going. At the end everything is moved by the difference. Changes
-// inside of each other are one. Does nothing while the container is loaded, freed, or its layout frozen.
-class LayoutChange {
- public:
-  explicit LayoutChange(TWinControl* container);
-  ~LayoutChange();
-  LayoutChange(const LayoutChange&) = delete;
-  LayoutChange& operator=(const LayoutChange&) = delete;
-
- private:
-  TWinControl* container_ = nullptr;  // null: nothing to do
-  std::vector<Placement> before_;
-  int exceptions_ = 0;
-};
+// Computes what the layout wants in a container with that room. `before`: the placements before a change,
+// which decide the order of what only changed its size.
+void Arrange(Placements& all, const QRect& room, const Placements* before = nullptr);
+// The bounds of each of `after` when a change has led there from `before`.
+std::vector<QRect> BoundsAfter(const Placements& before, const Placements& after, const QRect& room);
 
 // A value computed before and after: moved by the difference, and exactly the new one where the old one stood
 // as computed. With `size` no result is below zero.

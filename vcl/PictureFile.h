@@ -5,6 +5,7 @@
 #pragma once
 #include "vcl/Bitmap.h"
 #include "vcl/PictureHead.h"
+#include "vcl/PixelPicture.h"
 
 // Any format of the list that the toolkit reads; the picture is turned upright when it says that it lies.
 // Only regular files are opened, and drawings that refer to anything outside are refused.
@@ -12,8 +13,6 @@ TBitmap LoadPicture(const QString& file);
 // A picture that a form keeps (BMP, PNG), as QImage::Format_ARGB32 or RGB32. Throws EInvalidPicture,
 // std::bad_alloc when memory is short.
 QImage ImageFromBytes(const QByteArray& bytes);
-// Any format but drawings. `what` names the picture at the start of a sentence.
-QImage PixelPictureFromBytes(const QByteArray& bytes, const QString& what);
 QByteArray PictureToBytes(const QImage& image, const char* format);
 // For file dialogs: all readable formats first, then every file.
 QString PictureFilter();

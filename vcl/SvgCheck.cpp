@@ -4,7 +4,8 @@
 
 #include <QXmlStreamReader>
 
-#include "vcl/PictureFile.h"
+#include "vcl/PictureHead.h"
+#include "vcl/PixelPicture.h"
 #include "vcl/SvgUses.h"
 
 namespace {

@@ -1,5 +1,6 @@
+#include <exception>
+
 #include "vcl/Control.h"
-#include "vcl/Layout.h"
 
 const TClass& TWinControl::StaticClass() {
   static const TTypeInfo tabOrder = OrdinalType("TTabOrder", -1, INT16_MAX);
@@ -124,4 +125,48 @@ void PaintControl(TControl& control, QPainter& painter) {
     PaintChildren(*container, painter);
     painter.restore();
   }
+}
+
+namespace {
+bool TakesPart(const TControl& c) { return c.Visible() || c.IsDesigning(); }
+
+bool FollowsNothing(const TControl* c) {
+  const bool aligned = c->Align() != TAlign::alNone && c->Align() != TAlign::alCustom && TakesPart(*c);
+  return !aligned && c->Anchors() == DefaultAnchors;
+}
+}  // namespace
+
+LayoutChange::LayoutChange(TWinControl* container) {
+  if (!container || container->layoutChanging_ || container->IsLoading() || container->IsDestroying() ||
+      container->IsLayoutFrozen())
+    return;
+  container_ = container;
+  container_->layoutChanging_ = true;
+  exceptions_ = std::uncaught_exceptions();
+  before_ = Arranged(nullptr);
+}
+
+LayoutChange::~LayoutChange() {
+  if (!container_) return;
+  if (std::uncaught_exceptions() == exceptions_ && !container_->IsDestroying()) {
+    const Placements after = Arranged(&before_);
+    const std::vector<QRect> bounds = BoundsAfter(before_, after, container_->ClientRect());
+    for (std::size_t i = 0; i < after.size(); ++i) after[i].control->Follow(bounds[i]);
+  }
+  container_->layoutChanging_ = false;
+}
+
+Placements LayoutChange::Arranged(const Placements* before) const {
+  Placements all;
+  const auto& controls = container_->Controls();
+  if (std::all_of(controls.begin(), controls.end(), FollowsNothing)) return all;
+  all.reserve(controls.size());
+  for (TControl* c : controls)
+    all.push_back({.control = c,
+                   .stands = c->BoundsRect(),
+                   .align = c->Align(),
+                   .anchors = c->Anchors(),
+                   .takesPart = TakesPart(*c)});
+  Arrange(all, container_->ClientRect(), before);
+  return all;
 }

@@ -1,8 +1,12 @@
 #include "library/controls/Button3D.h"
 
+#include "vcl/PropertyGroups.h"
+
 const TClass& TVRXCustom3DButton::StaticClass() {
   static const TClass cls(
       DescribeClass<TVRXCustom3DButton>("TVRXCustom3DButton", TGraphicControl::StaticClass())
+          .Icon("pen line 1.3 brush accent+50 box 3 5 18 14 2 pen #ffffff 1.4 path 5 16.5 5 7 18.5 7 "
+                "pen none brush accent oval 8.5 8.5 7 7")
           .Declared("ButtonFace", &TVRXCustom3DButton::ButtonFace, &TVRXCustom3DButton::SetButtonFace)
           .Doc(QStringLiteral("The pictures of the button: up, down and disabled."))
           .Declared("Down", &TVRXCustom3DButton::Down, &TVRXCustom3DButton::SetDown, false)
@@ -13,11 +17,10 @@ const TClass& TVRXCustom3DButton::StaticClass() {
 const TClass& TVRX3DEffectButton::StaticClass() {
   static const TClass cls(
       DescribeClass<TVRX3DEffectButton>("TVRX3DEffectButton", TVRXCustom3DButton::StaticClass())
-          .PublishAll("Align", "Anchors")
+          .PublishAll(Placing)
           .Publish("AutoSize", false)
-          .PublishAll("ButtonFace", "Caption", "Down", "Enabled", "Font", "ParentFont", "ParentShowHint",
-                      "ShowHint", "Visible", "OnClick", "OnDblClick", "OnMouseDown", "OnMouseEnter",
-                      "OnMouseLeave", "OnMouseMove", "OnMouseUp")
+          .PublishAll("ButtonFace", "Caption", "Down", "Enabled", "Font", "ParentFont", Hints, "Visible",
+                      MouseEvents)
           .ClassDoc(QStringLiteral("A button made of pictures with a 3D effect.")));
   return cls;
 }

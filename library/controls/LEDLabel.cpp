@@ -1,10 +1,16 @@
 #include "library/controls/LEDLabel.h"
 
 #include "library/values/LEDSegments.h"
+#include "vcl/PropertyGroups.h"
 
 const TClass& TVRXLEDCustomLabel::StaticClass() {
   static const TClass cls(
       DescribeClass<TVRXLEDCustomLabel>("TVRXLEDCustomLabel", TGraphicControl::StaticClass())
+          .Icon("pen line 1.3 brush #14181c box 2.5 4.5 19 15 2.5 "
+                "pen #2c343c 1.2 path 9.9 8.2 9.9 11 path 5.5 13 5.5 15.8 path 17.9 8.2 17.9 11 path 13.5 13 "
+                "13.5 15.8 "
+                "pen accent+25 1.4 path 9.7 7.2 5.5 7.2 5.5 12 9.9 12 9.9 16.8 5.7 16.8 "
+                "path 17.7 7.2 13.5 7.2 13.5 12 17.9 12 17.9 16.8 13.7 16.8")
           .Declared("Alignment", &TVRXLEDCustomLabel::Alignment, &TVRXLEDCustomLabel::SetAlignment,
                     TAlignment::taLeftJustify)
           .Declared("LED", &TVRXLEDCustomLabel::LED, &TVRXLEDCustomLabel::SetLED)
@@ -22,8 +28,7 @@ const TClass& TVRXLEDLabel::StaticClass() {
           .Publish("AutoSize", true)
           .PublishAll("Caption", "Color", "Enabled", "LED")
           .Publish("ParentColor", false)
-          .PublishAll("ParentShowHint", "ShowHint", "Transparent", "Visible", "OnClick", "OnDblClick",
-                      "OnMouseDown", "OnMouseEnter", "OnMouseLeave", "OnMouseMove", "OnMouseUp")
+          .PublishAll(Hints, "Transparent", "Visible", MouseEvents)
           .ClassDoc(QStringLiteral("A text in segment letters, as on a machine's display.")));
   return cls;
 }

@@ -1,20 +1,23 @@
 #include "library/controls/RegionControl.h"
 
 #include "library/values/TextDraw.h"
+#include "vcl/PropertyGroups.h"
 
 const TClass& TVRXRegion::StaticClass() {
-  static const TClass cls(DescribeClass<TVRXRegion>("TVRXRegion", TGraphicControl::StaticClass())
-                              .PublishAll("Align", "Anchors")
-                              .Publish("AutoSize", true)
-                              .Published("Down", &TVRXRegion::Down, &TVRXRegion::SetDown, false)
-                              .Doc(QStringLiteral("Shows the button pressed."))
-                              .Publish("Enabled")
-                              .Published("RegionMask", &TVRXRegion::RegionMask, &TVRXRegion::SetRegionMask)
-                              .Doc(QStringLiteral("The shape, and the pictures that are shown in it."))
-                              .PublishAll("ParentShowHint", "ShowHint", "Visible", "OnClick", "OnDblClick",
-                                          "OnMouseDown", "OnMouseEnter", "OnMouseLeave", "OnMouseMove",
-                                          "OnMouseUp")
-                              .ClassDoc(QStringLiteral("A picture cut out in the shape of a region.")));
+  static const TClass cls(
+      DescribeClass<TVRXRegion>("TVRXRegion", TGraphicControl::StaticClass())
+          .Icon(
+              "pen line 1 dots brush none box 3.5 3.5 17 17 0 pen line 1.3 brush accent "
+              "shape 12 5 14.2 9.8 19.2 10.3 15.4 13.7 16.6 18.8 12 16.1 7.4 18.8 8.6 13.7 4.8 10.3 9.8 9.8")
+          .PublishAll(Placing)
+          .Publish("AutoSize", true)
+          .Published("Down", &TVRXRegion::Down, &TVRXRegion::SetDown, false)
+          .Doc(QStringLiteral("Shows the button pressed."))
+          .Publish("Enabled")
+          .Published("RegionMask", &TVRXRegion::RegionMask, &TVRXRegion::SetRegionMask)
+          .Doc(QStringLiteral("The shape, and the pictures that are shown in it."))
+          .PublishAll(Hints, "Visible", MouseEvents)
+          .ClassDoc(QStringLiteral("A picture cut out in the shape of a region.")));
   return cls;
 }
 
@@ -54,7 +57,7 @@ const TClass& TVRXWndButtonShape::StaticClass() {
           .PublishAll("Caption", "Color", "Font")
           .Published("FontFX", &TVRXWndButtonShape::FontFX, &TVRXWndButtonShape::SetFontFX)
           .Doc(QStringLiteral("Direction, spacing and 3D effect of the letters."))
-          .PublishAll("ParentColor", "ParentFont")
+          .PublishAll(ParentLook)
           .Published("Transparent", &TVRXWndButtonShape::Transparent, &TVRXWndButtonShape::SetTransparent,
                      true)
           .Doc(QStringLiteral("Lets what is behind the button show around the shape."))

@@ -1,8 +1,11 @@
 #include "library/controls/ShapeControl.h"
 
+#include "vcl/PropertyGroups.h"
+
 const TClass& TVRXBaseShape::StaticClass() {
   static const TClass cls(
       DescribeClass<TVRXBaseShape>("TVRXBaseShape", TGraphicControl::StaticClass())
+          .Icon("pen line 1.3 brush accent+60 box 3.5 5.5 17 13 0 pen line 1.3 text 12 12 9 Ab")
           .Declared("BevelColor", &TVRXBaseShape::BevelColor, &TVRXBaseShape::SetBevelColor, clBlack)
           .Doc(QStringLiteral("Colour of the outline; clNone is none."))
           .Declared("Brush", &TVRXBaseShape::Brush, &TVRXBaseShape::SetBrush)
@@ -16,10 +19,8 @@ const TClass& TVRXBaseShape::StaticClass() {
 
 const TClass& TVRXShapeControl::StaticClass() {
   static const TClass cls(DescribeClass<TVRXShapeControl>("TVRXShapeControl", TVRXBaseShape::StaticClass())
-                              .PublishAll("Align", "Anchors", "BevelColor", "Brush", "Caption", "Enabled",
-                                          "ParentShowHint", "ShowHint", "Transparent", "Visible", "OnClick",
-                                          "OnDblClick", "OnMouseDown", "OnMouseEnter", "OnMouseLeave",
-                                          "OnMouseMove", "OnMouseUp")
+                              .PublishAll(Placing, "BevelColor", "Brush", "Caption", "Enabled", Hints,
+                                          "Transparent", "Visible", MouseEvents)
                               .ClassDoc(QStringLiteral("A filled area with an outline and a text.")));
   return cls;
 }

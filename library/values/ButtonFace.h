@@ -41,6 +41,7 @@ class TVRXButtonFace : public TOwnedPersistent {
   }
   template <int I>
   void SetBytes(const QByteArray& v) {
+    if (Bytes<I>() == v) return;
     Changing();
     pictures_[I].SetBytes(v);
     Changed();

@@ -29,11 +29,7 @@ TVRXCaption::~TVRXCaption() = default;
 
 bool TVRXCaption::FontStored() const {
   static const TFont plain;
-  for (const TPropInfo* prop : TFont::StaticClass().Properties())
-    if (prop->Kind() == TTypeKind::tkString ? GetStrProp(*font_, *prop) != GetStrProp(plain, *prop)
-                                            : GetOrdProp(*font_, *prop) != GetOrdProp(plain, *prop))
-      return true;
-  return false;
+  return !SameValues(*font_, plain);
 }
 
 bool TVRXCaption::ContentEmpty() const {

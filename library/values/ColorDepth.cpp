@@ -4,7 +4,6 @@
 #include <array>
 #include <cstring>
 
-#include "library/values/RegionMask.h"
 #include "vcl/PictureFile.h"
 
 namespace {

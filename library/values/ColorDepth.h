@@ -13,7 +13,11 @@
 #include <QByteArray>
 #include <QImage>
 
-enum class TVRXColorDepth : std::uint8_t;
+#include "rtl/TypeInfo.h"
+
+// How many colours the pictures are stored with; the names are those of pixel formats.
+enum class TVRXColorDepth : std::uint8_t { spfDefault, spfMono, spf4bit, spf8bit, spf16bit };
+VRX_ENUM(TVRXColorDepth, {"spfDefault", "spfMono", "spf4bit", "spf8bit", "spf16bit"})
 
 // As QImage::Format_RGB32 or ARGB32.
 QImage WithDepth(const QImage& image, TVRXColorDepth depth);

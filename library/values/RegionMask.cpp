@@ -24,8 +24,9 @@ void TVRXRegionMask::DoChanged() {
 
 void TVRXRegionMask::SetRegionData(const QByteArray& data) {
   if (data == regionData_) return;
+  TRegion region = data.isEmpty() ? TRegion() : TRegion::FromData(data);
   Changing();
-  region_ = data.isEmpty() ? TRegion() : TRegion::FromData(data);
+  region_ = std::move(region);
   regionData_ = data;
   Changed();
 }
@@ -51,19 +52,10 @@ void TVRXRegionMask::SetStatePicture(int state, const TBitmap& picture) {
   Changed();
 }
 
-void TVRXRegionMask::SetBorderBytes(const QByteArray& v) {
+void TVRXRegionMask::SetBytes(StoredPicture& picture, const QByteArray& v) {
+  if (picture.Bytes() == v) return;
   Changing();
-  border_.SetBytes(v);
-  Changed();
-}
-void TVRXRegionMask::SetFirstBytes(const QByteArray& v) {
-  Changing();
-  states_[0].SetBytes(v);
-  Changed();
-}
-void TVRXRegionMask::SetSecondBytes(const QByteArray& v) {
-  Changing();
-  states_[1].SetBytes(v);
+  picture.SetBytes(v);
   Changed();
 }
 

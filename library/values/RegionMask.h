@@ -1,13 +1,10 @@
 // The shape of a window or a button: a region, and the pictures that are shown in it.
 #pragma once
+#include "library/values/ColorDepth.h"
 #include "library/values/StoredPicture.h"
 #include "rtl/Persistent.h"
 #include "vcl/Bitmap.h"
 #include "vcl/Region.h"
-
-// How many colours the pictures are stored with; the names are those of pixel formats.
-enum class TVRXColorDepth : std::uint8_t { spfDefault, spfMono, spf4bit, spf8bit, spf16bit };
-VRX_ENUM(TVRXColorDepth, {"spfDefault", "spfMono", "spf4bit", "spf8bit", "spf16bit"})
 
 class TVRXRegionMask : public TOwnedPersistent {
   VRX_CLASS(TVRXRegionMask)
@@ -51,11 +48,12 @@ class TVRXRegionMask : public TOwnedPersistent {
 
  private:
   QByteArray BorderBytes() const { return border_.Bytes(); }
-  void SetBorderBytes(const QByteArray& v);
+  void SetBorderBytes(const QByteArray& v) { SetBytes(border_, v); }
   QByteArray FirstBytes() const { return states_[0].Bytes(); }
-  void SetFirstBytes(const QByteArray& v);
+  void SetFirstBytes(const QByteArray& v) { SetBytes(states_[0], v); }
   QByteArray SecondBytes() const { return states_[1].Bytes(); }
-  void SetSecondBytes(const QByteArray& v);
+  void SetSecondBytes(const QByteArray& v) { SetBytes(states_[1], v); }
+  void SetBytes(StoredPicture& picture, const QByteArray& v);
   void DoChanged() override;
   void StorageChanged();
 

@@ -52,7 +52,7 @@ void Collect(TPersistent& instance, const QByteArray& prefix, QByteArrayList& pa
   if (As<TStrings>(&instance)) paths << prefix + "Strings";
   for (const TPropInfo* prop : instance.ClassType().Properties()) {
     if (prop->Name == "Name" && prefix.isEmpty()) continue;
-    if (prop->Kind() != TTypeKind::tkClass || IsComponentRef(*prop)) {
+    if (!prop->IsPart()) {
       paths << prefix + prop->Name;
     } else if (TPersistent* part = GetObjectProp(instance, *prop)) {
       if (As<TCollection>(part))

@@ -6,6 +6,7 @@
 #include <random>
 
 #include "ClassWalk.h"
+#include "designintf/ComponentIcons.h"
 #include "forms/FormReader.h"
 #include "forms/Snapshot.h"
 #include "rtl/ClassRegistry.h"
@@ -136,19 +137,11 @@ class Listener : public IControlHost {
   QByteArray path_;
 };
 
-// Past the routines that tell of a change themselves, as an editor's own code does.
+// Past the routines that check the value, as an editor's own code does.
 void CallSetter(const forms::PropertyTarget& to, const forms::PropertyTarget& from) {
   const TPropAccess& access = *to.prop->Access;
-  if (const auto* ordinal = dynamic_cast<const TOrdAccess*>(&access))
-    ordinal->Set(*to.instance, GetOrdProp(*from.instance, *from.prop));
-  else if (const auto* number = dynamic_cast<const TFloatAccess*>(&access))
-    number->Set(*to.instance, GetFloatProp(*from.instance, *from.prop));
-  else if (const auto* text = dynamic_cast<const TStrAccess*>(&access))
-    text->Set(*to.instance, GetStrProp(*from.instance, *from.prop));
-  else if (const auto* bytes = dynamic_cast<const TBinaryAccess*>(&access))
-    bytes->Set(*to.instance, GetBinaryProp(*from.instance, *from.prop));
-  else if (const auto* object = dynamic_cast<const TObjectAccess*>(&access))
-    object->Set(*to.instance, nullptr);
+  access.Write(*to.instance,
+               IsComponentRef(*to.prop) ? access.Nothing() : GetProp(*from.instance, *from.prop));
 }
 }  // namespace
 
@@ -162,11 +155,8 @@ TEST_P(EveryClass, EverySetterTellsBeforeItChanges) {
     ASSERT_TRUE(SetAnother(source, path, 0));
     const forms::PropertyTarget from = forms::FindTarget(*source.subject, path);
     const forms::PropertyTarget to = forms::FindTarget(*target.subject, path);
-    if (!to.prop || to.prop->Kind() == TTypeKind::tkMethod) continue;
-    if (to.prop->Kind() == TTypeKind::tkClass) {
-      if (!IsComponentRef(*to.prop)) continue;
-      SetAnother(target, path, 0);  // so that there is a reference to drop
-    }
+    if (!to.prop || to.prop->IsPart()) continue;
+    if (IsComponentRef(*to.prop)) SetAnother(target, path, 0);  // so that there is one to drop
     const QByteArray before = ValueText(*target.subject, path);
     Listener listener(*target.subject, path);
     target.form->SetHost(&listener);
@@ -176,6 +166,64 @@ TEST_P(EveryClass, EverySetterTellsBeforeItChanges) {
     EXPECT_EQ(*listener.heard, before);
     EXPECT_NE(ValueText(*target.subject, path), before);
   }
+}
+
+namespace {
+// How often the subject told that it is about to change, and everything that reached the host at all.
+class Counter : public IControlHost {
+ public:
+  explicit Counter(TComponent& subject) : subject_(subject) {}
+  void ControlChanged(TControl&) override { ++anything; }
+  void BoundsChanging(TControl& control) override { ++anything, bounds += &control == &subject_; }
+  void ComponentChanging(TComponent& component) override { ++anything, changes += &component == &subject_; }
+  int changes = 0, bounds = 0, anything = 0;
+
+ private:
+  TComponent& subject_;
+};
+}  // namespace
+
+TEST_P(EveryClass, EveryChangeIsToldOnceAndTheSameValueToNobody) {
+  Stage paths(Class());
+  for (const QByteArray& path : ValuePaths(*paths.subject)) {
+    SCOPED_TRACE(path.toStdString());
+    if (IsReadOnly(*paths.subject, path)) continue;
+    Stage source(Class()), target(Class());
+    ASSERT_TRUE(SetAnother(source, path, 0));
+    const forms::PropertyTarget from = forms::FindTarget(*source.subject, path);
+    const forms::PropertyTarget to = forms::FindTarget(*target.subject, path);
+    if (!to.prop || to.prop->IsPart()) continue;
+    if (IsComponentRef(*to.prop)) SetAnother(target, path, 0);
+    Counter first(*target.subject);
+    target.form->SetHost(&first);
+    CallSetter(to, from);
+    // A place is told of as that; bounds may follow from another value, too: of a text, of an alignment.
+    EXPECT_EQ(first.changes > 0 ? first.changes : first.bounds, 1);
+    Counter again(*target.subject);
+    target.form->SetHost(&again);
+    CallSetter(to, from);
+    EXPECT_EQ(again.anything, 0);
+    target.form->SetHost(nullptr);
+  }
+}
+
+TEST_P(EveryClass, WhatHasNoDefaultIsAPlaceOrFollowsFromSomethingElse) {
+  // Ordinals that are stored whatever they are: places and sizes, what the parent decides about, and a
+  // font's.
+  static const QSet<QByteArray> always{"Left",        "Top",          "Width", "Height",
+                                       "ClientWidth", "ClientHeight", "Color", "PixelsPerInch",
+                                       "Charset",     "Size",         "Style"};
+  Stage stage(Class());
+  for (const QByteArray& path : ValuePaths(*stage.subject)) {
+    const forms::PropertyTarget t = forms::FindTarget(*stage.subject, path);
+    if (!t.prop || !t.prop->IsOrdinal() || t.prop->Default) continue;
+    EXPECT_TRUE(always.contains(t.prop->Name)) << path.constData();
+  }
+}
+
+TEST_P(EveryClass, HasAnIconThatCanBeRead) {
+  EXPECT_FALSE(Class().Icon().isEmpty());
+  EXPECT_EQ(UnknownWordOf(Class().Icon()), QByteArray());
 }
 
 TEST_P(EveryClass, ResettingAPartResetsAllOfIt) {

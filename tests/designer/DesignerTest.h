@@ -18,9 +18,11 @@
 #include "package/registration/VRX_RegMain.h"
 #include "tests/support/Modal.h"
 #include "tests/support/Waiting.h"
-#include "vcl/ExtCtrls.h"
+#include "vcl/Button.h"
+#include "vcl/Label.h"
+#include "vcl/Panel.h"
+#include "vcl/Timer.h"
 #include "vcl/Prompts.h"
-#include "vcl/StdCtrls.h"
 
 namespace designer {
 

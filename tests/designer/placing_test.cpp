@@ -1,6 +1,9 @@
 // Taking tools up and putting them down, and placing without pointing at a spot.
 #include "tests/designer/DesignerTest.h"
-#include "vcl/ExtCtrls.h"
+#include "vcl/Button.h"
+#include "vcl/Label.h"
+#include "vcl/Panel.h"
+#include "vcl/Timer.h"
 
 using namespace designer;
 

@@ -10,6 +10,7 @@ const TClass& TCone::StaticClass() {
 const TClass& TIce::StaticClass() {
   static const TClass cls(
       DescribeClass<TIce>("TIce", TComponent::StaticClass())
+          .Icon("pen none brush line shape 4 4 20 4 12 21")
           .Published("Scoops", &TIce::Scoops, &TIce::SetScoops, 1)
           .Published("Flavour", &TIce::Flavour, &TIce::SetFlavour, TFlavour::flSweet)
           .Published("Toppings", &TIce::Toppings, &TIce::SetToppings, TToppings{TTopping::tpCream})

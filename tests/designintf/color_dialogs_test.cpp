@@ -13,7 +13,7 @@
 #include "tests/support/Fields.h"
 #include "tests/support/Modal.h"
 #include "tests/support/Prompted.h"
-#include "vcl/StdCtrls.h"
+#include "vcl/Label.h"
 
 using namespace fields;
 

@@ -7,7 +7,7 @@
 #include "tests/designintf/DesignTest.h"
 #include "tests/support/Fields.h"
 #include "tests/support/Modal.h"
-#include "vcl/StdCtrls.h"
+#include "vcl/Label.h"
 
 using namespace fields;
 

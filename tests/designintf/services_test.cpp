@@ -204,15 +204,20 @@ TEST(PackageRecord, ReadsUnitsWithoutFlagsAndMissingParts) {
 
 TEST(ComponentIcons, AreTheNearestAncestors) {
   const auto picture = [](const TClass& cls) { return ComponentPixmap(cls, 24).toImage(); };
-  const QImage plain = picture(TBigIce::StaticClass());
+  const QImage plain = picture(TComponent::StaticClass());
   EXPECT_EQ(plain.size(), QSize(24, 24));
-  EXPECT_EQ(picture(TComponent::StaticClass()), plain);
-  RegisterComponentIcon(TIce::StaticClass(),
-                        [](QPainter& p, const TIconInk& ink) { p.fillRect(0, 0, 24, 24, ink.Line); });
   EXPECT_NE(picture(TBigIce::StaticClass()), plain);
   EXPECT_EQ(picture(TBigIce::StaticClass()), picture(TIce::StaticClass()));
-  EXPECT_EQ(picture(TComponent::StaticClass()), plain);
   EXPECT_EQ(ComponentIcon(TIce::StaticClass()).pixmap(48, 48).size(), QSize(48, 48));
+}
+
+TEST(ComponentIcons, ADrawingIsReadWordByWord) {
+  for (const char* right : {"", "pen line 1.5 path 1 1 2 2", "pen none brush accent+50 box 1 1 9 9 2",
+                            "pen #ff0000 1 dots oval 1 1 5 5", "text 12 12 9 Ab pen line shape 1 1 5 1 3 9"})
+    EXPECT_EQ(UnknownWordOf(right), QByteArray()) << right;
+  EXPECT_EQ(UnknownWordOf("pen line 1 circle 1 1 2"), "circle");
+  EXPECT_EQ(UnknownWordOf("pen nocolour box 1 1 2 2 0"), "nocolour");
+  EXPECT_EQ(UnknownWordOf("box 1 1 x"), "x");
 }
 
 TEST(ComponentIcons, AreReadableInSelectedRows) {

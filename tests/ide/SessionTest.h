@@ -14,8 +14,10 @@
 #include "package/property_editors/pVRXPeMain.h"
 #include "rtl/ClassRegistry.h"
 #include "rtl/Exceptions.h"
-#include "vcl/ExtCtrls.h"
-#include "vcl/StdCtrls.h"
+#include "vcl/Button.h"
+#include "vcl/Label.h"
+#include "vcl/Panel.h"
+#include "vcl/Timer.h"
 
 // Forms are shown as texts when they differ.
 inline void PrintTo(const QByteArray& bytes, std::ostream* out) { *out << bytes.toStdString(); }

@@ -125,3 +125,22 @@ TEST_F(Reading, RandomFormsAreReadLikeTheirStreams) {
     if (HasFatalFailure()) FAIL() << "seed " << seed;
   }
 }
+
+TEST_F(Reading, AReferenceLeadsToTheFormItselfButToNoWrongClass) {
+  const QByteArray text = Form(
+      "  object A: TLabel\n    FocusControl = F\n  end\n  object B: TLabel\n    FocusControl = A\n  end\n"
+      "  object C: TLabel\n    FocusControl = D\n  end\n  object D: TButton\n  end\n");
+  ExpectReadLikeItsStream(text);
+  const auto session = FormSession::FromBytes(text);
+  const auto focus = [&](const char* name) {
+    return As<TLabel>(session->GetComponent(QLatin1StringView(name)))->FocusControl();
+  };
+  EXPECT_EQ(focus("A"), session->GetRoot());
+  EXPECT_EQ(focus("B"), nullptr);
+  EXPECT_EQ(focus("C"), session->GetComponent(QStringLiteral("D")));
+  ASSERT_EQ(session->Findings().size(), 1u);
+  EXPECT_TRUE(session->Findings()[0].text.endsWith(
+      QStringLiteral("B.FocusControl refers to A, which is a TLabel and no TWinControl")))
+      << qPrintable(session->Findings()[0].text);
+  EXPECT_EQ(session->Bytes(), text);
+}

@@ -68,7 +68,7 @@ TEST_F(UnannouncedTest, AThrowTakesBackWhatNobodyAnnounced) {
 TEST_F(UnannouncedTest, HandlersAndReferencesAreFound) {
   session_->Run(QStringLiteral("verb"), {}, [&] {
     auto& button = Get<TButton>("Button1");
-    button.SetMethodName(button.ClassType().GetProp("OnClick"), QStringLiteral("OtherClick"));
+    SetMethodProp(button, button.ClassType().GetProp("OnClick"), QStringLiteral("OtherClick"));
     Get<TLabel>("InnerLabel").SetFocusControl(&button);
   });
   EXPECT_EQ(Changes(),

@@ -88,7 +88,8 @@ TEST(TransparentPicture, StaysSoInAButtonThatIsStoredAndReadAgain) {
   const TVRXMaskedPicture masked = VRXBmpCreateMasksExt(source, clLime);
   TVRXButtonFace made, read;
   made.SetPictures(masked, masked, masked);
-  for (const TPropInfo* prop : TVRXButtonFace::StaticClass().Properties()) CopyProp(made, *prop, read, *prop);
+  for (const TPropInfo* prop : TVRXButtonFace::StaticClass().Properties())
+    SetProp(read, *prop, GetProp(made, *prop));
   TVRX3DEffectButton button(nullptr);
   button.SetButtonFace(&read);
   button.SetBounds(0, 0, 13, 7);

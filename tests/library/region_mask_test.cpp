@@ -86,7 +86,7 @@ TEST(RegionMask, ItsBytesAreReadBackAndStayAsTheyAre) {
       mask.SetColorDepth(static_cast<TVRXColorDepth>(depth));
       Fill(mask, Block(TColor(0x3579BD)));
       for (const TPropInfo* prop : TVRXRegionMask::StaticClass().Properties())
-        CopyProp(mask, *prop, copy, *prop);
+        SetProp(copy, *prop, GetProp(mask, *prop));
       EXPECT_EQ(copy.BorderPicture(), mask.BorderPicture()) << compress << depth;
       const TPropInfo& picture = TVRXRegionMask::StaticClass().GetProp("BorderPicture");
       EXPECT_EQ(GetBinaryProp(copy, picture), GetBinaryProp(mask, picture));
@@ -141,7 +141,7 @@ TEST(RegionMask, EveryDepthStoresItsNumberOfBits) {
     EXPECT_TRUE(seen.insert(bytes).second) << d.bits;
     EXPECT_EQ(mask.RegionData(), region);
     for (const TPropInfo* prop : TVRXRegionMask::StaticClass().Properties())
-      CopyProp(mask, *prop, read, *prop);
+      SetProp(read, *prop, GetProp(mask, *prop));
     EXPECT_EQ(read.BorderPicture(), mask.BorderPicture()) << d.bits;
     EXPECT_EQ(read.BorderPicture().pixel(0, 0), qRgb(255, 255, 255)) << d.bits;
     EXPECT_EQ(BorderBytes(read), bytes);

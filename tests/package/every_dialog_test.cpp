@@ -17,7 +17,7 @@ namespace {
 QStringList TextsOf(const TPersistent& value) {
   QStringList texts;
   for (const TPropInfo* prop : value.ClassType().Properties()) {
-    if (IsBinary(*prop))
+    if (prop->Is<QByteArray>())
       texts << QString::fromLatin1(GetBinaryProp(value, *prop).toHex());
     else if (prop->Kind() == TTypeKind::tkClass)
       texts << TextsOf(*GetObjectProp(value, *prop));

@@ -23,7 +23,7 @@ class RegionReopen : public PictureDialogTest {
   void Reload() {
     TVRXRegionMask read;
     for (const TPropInfo* prop : TVRXRegionMask::StaticClass().Properties())
-      CopyProp(mask, *prop, read, *prop);
+      SetProp(read, *prop, GetProp(mask, *prop));
     mask.Assign(&read);
   }
   QByteArrayList Bytes() const {

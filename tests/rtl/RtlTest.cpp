@@ -9,9 +9,9 @@ const TClass& TPoint2::StaticClass() {
   return cls;
 }
 
-const TClass& TPart::StaticClass() {
-  static const TClass cls(DescribeClass<TPart>("TPart", TCollectionItem::StaticClass())
-                              .Published("Title", &TPart::Title, &TPart::SetTitle));
+const TClass& TPiece::StaticClass() {
+  static const TClass cls(DescribeClass<TPiece>("TPiece", TCollectionItem::StaticClass())
+                              .Published("Title", &TPiece::Title, &TPiece::SetTitle));
   return cls;
 }
 

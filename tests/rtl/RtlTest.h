@@ -41,8 +41,8 @@ class TPoint2 : public TOwnedPersistent {
   int y_ = 5;
 };
 
-class TPart : public TCollectionItem {
-  VRX_CLASS(TPart)
+class TPiece : public TCollectionItem {
+  VRX_CLASS(TPiece)
  public:
   using TCollectionItem::TCollectionItem;
   QString Title() const { return title_; }
@@ -57,7 +57,7 @@ class TEverything : public TComponent {
   VRX_CLASS(TEverything)
  public:
   explicit TEverything(TComponent* owner)
-      : TComponent(owner), point(this), lines(this), parts(TPart::StaticClass(), this) {}
+      : TComponent(owner), point(this), lines(this), parts(TPiece::StaticClass(), this) {}
 
   int changes = 0;
   bool keep = true;

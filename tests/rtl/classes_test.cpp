@@ -141,8 +141,8 @@ TEST(Class, CreatesComponentsValuesAndItemsOfItsKindOnly) {
   EXPECT_EQ(&made->ClassType(), &TDerived::StaticClass());
   EXPECT_EQ(made->Owner(), &root);
   EXPECT_EQ(&TPoint2::StaticClass().NewPersistent()->ClassType(), &TPoint2::StaticClass());
-  TCollection parts(TPart::StaticClass());
-  const TPersistent* item = TPart::StaticClass().NewItem(&parts);
+  TCollection parts(TPiece::StaticClass());
+  const TPersistent* item = TPiece::StaticClass().NewItem(&parts);
   EXPECT_EQ(item, parts.Item(0));
   EXPECT_TRUE(TAbstract::StaticClass().IsAbstract());
   EXPECT_FALSE(TDerived::StaticClass().IsAbstract());

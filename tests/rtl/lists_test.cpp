@@ -17,11 +17,11 @@ const TClass& TOtherPart::StaticClass() {
 }
 
 void Fill(TCollection& parts, const QStringList& titles) {
-  for (const QString& title : titles) static_cast<TPart*>(parts.Add())->SetTitle(title);
+  for (const QString& title : titles) static_cast<TPiece*>(parts.Add())->SetTitle(title);
 }
 QString Titles(const TCollection& parts) {
   QString all;
-  for (int i = 0; i < parts.Count(); ++i) all += static_cast<TPart*>(parts.Item(i))->Title();
+  for (int i = 0; i < parts.Count(); ++i) all += static_cast<TPiece*>(parts.Item(i))->Title();
   return all;
 }
 const QStringList Abcd{QStringLiteral("a"), QStringLiteral("b"), QStringLiteral("c"), QStringLiteral("d")};
@@ -37,8 +37,8 @@ TEST(Collection, ItemsKnowTheirPlaceAndOwner) {
     EXPECT_EQ(c.parts.Item(i)->Collection(), &c.parts);
   }
   EXPECT_EQ(c.parts.GetOwner(), &c);
-  EXPECT_EQ(c.parts.Item(0)->DisplayName(), QStringLiteral("TPart"));
-  EXPECT_THROW(TPart(nullptr), EComponentError);
+  EXPECT_EQ(c.parts.Item(0)->DisplayName(), QStringLiteral("TPiece"));
+  EXPECT_THROW(TPiece(nullptr), EComponentError);
 }
 
 TEST(Collection, DeletesAndClears) {
@@ -69,7 +69,7 @@ TEST(Collection, MovingAnItemKeepsTheOrderOfTheOthers) {
       EXPECT_EQ(c.changes, before + (from == to ? 0 : 1));
     }
   }
-  TCollection none(TPart::StaticClass());
+  TCollection none(TPiece::StaticClass());
   EXPECT_THROW(none.Move(0, 0), EComponentError);
 }
 
@@ -87,7 +87,7 @@ TEST(Collection, AssignReplacesTheItemsByCopies) {
 }
 
 TEST(Collection, AssignOfItemsOfAnotherClassIsRefusedAndChangesNothing) {
-  TCollection parts(TPart::StaticClass()), others(TOtherPart::StaticClass());
+  TCollection parts(TPiece::StaticClass()), others(TOtherPart::StaticClass());
   Fill(parts, Abcd);
   others.Add();
   EXPECT_THROW(parts.Assign(&others), EConvertError);

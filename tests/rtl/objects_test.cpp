@@ -21,7 +21,7 @@ TEST(StringProperty, IsReadWrittenResetAndDefaultWhenEmpty) {
 TEST(BinaryProperty, IsStreamedButHasNoText) {
   TEverything c(nullptr);
   const TPropInfo& p = Prop(c, "Data");
-  EXPECT_TRUE(IsBinary(p));
+  EXPECT_TRUE(p.Is<QByteArray>());
   EXPECT_EQ(p.Visibility, TPropVisibility::Streamed);
   EXPECT_FALSE(IsStoredProp(c, p));
   SetBinaryProp(c, p, QByteArray("\0\1", 2));
@@ -53,7 +53,6 @@ TEST(EventProperty, HoldsTheNameOfAHandler) {
   ResetProp(c, click);
   EXPECT_FALSE(IsStoredProp(c, click));
   EXPECT_THROW(SetMethodProp(c, Prop(c, "Int"), QStringLiteral("X")), EPropertyError);
-  EXPECT_THROW(SetMethodProp(c.point, click, QStringLiteral("X")), EPropertyError);
 }
 
 TEST(ReferenceProperty, IsSetByPointerAndByName) {
@@ -154,7 +153,7 @@ TEST(Property, AccessOfTheWrongKindIsRefused) {
     if (p->Kind() != TTypeKind::tkClass) {
       EXPECT_THROW(GetObjectProp(c, *p), EPropertyError) << p->Name.constData();
     }
-    if (!IsBinary(*p)) {
+    if (!p->Is<QByteArray>()) {
       EXPECT_THROW(GetBinaryProp(c, *p), EPropertyError) << p->Name.constData();
     }
   }
@@ -174,24 +173,69 @@ TEST(Property, EveryKindIsCopied) {
   a->data = "d";
   a->point.SetX(9);
   a->lines.SetText(QStringLiteral("1\n2"));
-  static_cast<TPart*>(a->parts.Add())->SetTitle(QStringLiteral("p"));
+  static_cast<TPiece*>(a->parts.Add())->SetTitle(QStringLiteral("p"));
   a->SetFriend(b);
   SetMethodProp(*a, Prop(*a, "OnClick"), QStringLiteral("H"));
-  for (const TPropInfo* p : a->ClassType().Properties())
-    if (p->Name != "Name") CopyProp(*a, *p, *b, *p);
+  b->Assign(a);
+  EXPECT_TRUE(b->Name().isEmpty()) << "a name is a component's own";
   for (const TPropInfo* p : a->ClassType().Properties())
     EXPECT_EQ(GetPropText(*a, *p), GetPropText(*b, *p)) << p->Name.constData();
   EXPECT_EQ(b->point.X(), 9);
   EXPECT_EQ(b->lines.Lines(), a->lines.Lines());
   ASSERT_EQ(b->parts.Count(), 1);
-  EXPECT_EQ(static_cast<TPart*>(b->parts.Item(0))->Title(), QStringLiteral("p"));
+  EXPECT_EQ(static_cast<TPiece*>(b->parts.Item(0))->Title(), QStringLiteral("p"));
   EXPECT_EQ(b->Friend(), b);
   EXPECT_EQ(b->data, "d");
 }
 
-TEST(Property, OfAnotherKindIsNotCopied) {
+TEST(Property, TakesAnyValueOfItsKindAndRefusesOthers) {
   TEverything a(nullptr), b(nullptr);
   a.integer = 99;
-  CopyProp(a, Prop(a, "Int"), b, Prop(b, "Text"));
-  EXPECT_TRUE(b.text.isEmpty());
+  a.money.Scaled = -12345;
+  a.text = QStringLiteral("t");
+  a.data = "d";
+  for (const TPropInfo* p : a.ClassType().Properties()) {
+    if (p->ReadOnly || p->Name == "Name") continue;
+    SetProp(b, *p, GetProp(a, *p));
+    EXPECT_EQ(GetProp(b, *p), GetProp(a, *p)) << p->Name.constData();
+    for (const char* other : {"Int", "Real", "Text", "OnClick", "Friend", "Data"}) {
+      const TPropInfo& q = Prop(a, other);
+      if (q.Access->Alternative() == p->Access->Alternative()) continue;
+      EXPECT_THROW(SetProp(b, *p, GetProp(a, q)), EPropertyError) << p->Name.constData() << " " << other;
+    }
+  }
+  EXPECT_EQ(b.integer, 99);
+  EXPECT_EQ(b.money.Scaled, -12345);
+  EXPECT_THROW(SetProp(b, Prop(b, "ReadOnly"), std::int64_t{1}), EPropertyError);
+  EXPECT_EQ(b.readOnly, 7);
+  EXPECT_THROW(SetProp(b, Prop(b, "Byte"), std::int64_t{256}), EPropertyError);
+}
+
+TEST(Values, AreTheSameWhenEveryPropertyIsAndThoseOfParts) {
+  TEverything a(nullptr), b(nullptr);
+  EXPECT_TRUE(SameValues(a, b));
+  a.point.SetX(1);
+  EXPECT_FALSE(SameValues(a, b));
+  b.point.SetX(1);
+  EXPECT_TRUE(SameValues(a, b));
+  b.text = QStringLiteral("t");
+  EXPECT_FALSE(SameValues(a, b));
+  a.text = b.text;
+  SetMethodProp(a, Prop(a, "OnClick"), QStringLiteral("H"));
+  EXPECT_FALSE(SameValues(a, b));
+}
+
+TEST(ReferenceProperty, TakesTheFormItselfAndRefusesAnotherClass) {
+  TEverything form(nullptr);
+  form.SetName(QStringLiteral("Form1"));
+  auto* a = new TEverything(&form);
+  auto* plain = new TComponent(&form);
+  plain->SetName(QStringLiteral("Plain"));
+  const TPropInfo& p = Prop(*a, "Friend");
+  SetPropText(*a, p, QStringLiteral("FORM1"));
+  EXPECT_EQ(a->Friend(), &form);
+  EXPECT_THROW(SetPropText(*a, p, QStringLiteral("Plain")), EPropertyError);
+  EXPECT_THROW(SetObjectProp(*a, p, plain), EPropertyError);
+  EXPECT_THROW(SetProp(*a, p, TReference{plain}), EPropertyError);
+  EXPECT_EQ(a->Friend(), &form) << "unchanged by a refusal";
 }

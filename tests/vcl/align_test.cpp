@@ -2,8 +2,8 @@
 #include <random>
 
 #include "VclTest.h"
-#include "vcl/ExtCtrls.h"
 #include "vcl/Form.h"
+#include "vcl/Panel.h"
 
 using enum TAlign;
 

@@ -1,8 +1,9 @@
 #include "VclTest.h"
 #include "rtl/Exceptions.h"
-#include "vcl/ExtCtrls.h"
 #include "vcl/Form.h"
-#include "vcl/StdCtrls.h"
+#include "vcl/Label.h"
+#include "vcl/Panel.h"
+#include "vcl/Timer.h"
 
 using enum TAnchorKind;
 

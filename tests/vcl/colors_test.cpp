@@ -10,7 +10,7 @@
 #include "vcl/Colors.h"
 #include "vcl/ControlView.h"
 #include "vcl/FormColors.h"
-#include "vcl/StdCtrls.h"
+#include "vcl/Label.h"
 
 TEST(Colors, EveryNameLeadsToItsValueAndBack) {
   std::set<std::string> names;

@@ -3,7 +3,7 @@
 #include "rtl/IntegerConsts.h"
 #include "rtl/PropAccess.h"
 #include "rtl/PropText.h"
-#include "vcl/StdCtrls.h"
+#include "vcl/Label.h"
 
 namespace {
 class Listener : public TPersistent {

@@ -1,9 +1,8 @@
 #include "VclTest.h"
 #include "rtl/PropAccess.h"
-#include "vcl/ExtCtrls.h"
 #include "vcl/FormColors.h"
 #include "vcl/FormFrame.h"
-#include "vcl/StdCtrls.h"
+#include "vcl/Panel.h"
 
 using enum TFormBorderStyle;
 

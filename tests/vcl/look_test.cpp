@@ -1,9 +1,10 @@
 // Colours and fonts handed down from the parent, texts that size their control, names and captions.
 #include "VclTest.h"
 #include "rtl/PropAccess.h"
-#include "vcl/ExtCtrls.h"
+#include "vcl/Button.h"
 #include "vcl/Form.h"
-#include "vcl/StdCtrls.h"
+#include "vcl/Label.h"
+#include "vcl/Panel.h"
 
 namespace {
 struct Nest {
@@ -36,6 +37,22 @@ TEST(ParentColor, AColorOfItsOwnEndsIt) {
   n.panel.SetParentColor(true);
   EXPECT_EQ(n.panel.Color(), clRed);
   EXPECT_EQ(n.label.Color(), clRed);
+}
+
+TEST(ParentColor, TheSameColorGivenOnPurposeEndsItToo) {
+  Nest n;
+  n.form.SetColor(clRed);
+  ASSERT_EQ(n.panel.Color(), clRed);
+  CountingHost host;
+  n.form.SetHost(&host);
+  n.panel.SetColor(clRed);
+  EXPECT_EQ(host.changes, 1);
+  n.panel.SetColor(clRed);
+  EXPECT_EQ(host.changes, 1) << "now nothing changes any more";
+  n.form.SetHost(nullptr);
+  EXPECT_FALSE(n.panel.ParentColor());
+  n.form.SetColor(clBlue);
+  EXPECT_EQ(n.panel.Color(), clRed);
 }
 
 TEST(ParentColor, IsTakenWhenTheParentChanges) {

@@ -1,9 +1,10 @@
 #include "VclTest.h"
 #include "tests/support/Waiting.h"
+#include "vcl/Button.h"
 #include "vcl/ControlView.h"
-#include "vcl/ExtCtrls.h"
 #include "vcl/FormColors.h"
-#include "vcl/StdCtrls.h"
+#include "vcl/Label.h"
+#include "vcl/Panel.h"
 
 namespace {
 const QColor Background(1, 254, 3);
@@ -276,17 +277,4 @@ TEST(ControlView, ShowsTheControlInItsSizeAtItsPlace) {
     view.resize(100, 100);
     EXPECT_EQ(CountPixels(view.grab().toImage(), Qt::red), 100 * 100) << "cut at the right and the bottom";
   }
-}
-
-TEST(ControlView, TellsOfAClickOnTheControl) {
-  TPanel panel(nullptr);
-  panel.SetBounds(0, 0, 50, 20);
-  ControlView view(&panel);
-  view.resize(200, 100);
-  int clicks = 0;
-  QObject::connect(&view, &ControlView::Clicked, [&] { ++clicks; });
-  QTest::mouseClick(&view, Qt::LeftButton, {}, {100, 50});
-  EXPECT_EQ(clicks, 1);
-  QTest::mouseClick(&view, Qt::LeftButton, {}, {5, 5});
-  EXPECT_EQ(clicks, 1) << "beside the control";
 }

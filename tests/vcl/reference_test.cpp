@@ -1,9 +1,10 @@
 #include "VclTest.h"
 #include "rtl/Exceptions.h"
 #include "rtl/PropAccess.h"
-#include "vcl/ExtCtrls.h"
+#include "vcl/Button.h"
 #include "vcl/Form.h"
-#include "vcl/StdCtrls.h"
+#include "vcl/Label.h"
+#include "vcl/Timer.h"
 
 namespace {
 // Two references, which may name the same component.

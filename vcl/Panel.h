@@ -1,4 +1,4 @@
-// Panels and timers.
+// A surface that groups other controls.
 #pragma once
 #include "vcl/Control.h"
 
@@ -28,18 +28,4 @@ class TPanel : public TWinControl {
   TAlignment alignment_ = TAlignment::taCenter;
   TBevelCut bevelInner_ = TBevelCut::bvNone, bevelOuter_ = TBevelCut::bvRaised;
   int bevelWidth_ = 1, borderWidth_ = 0;
-};
-
-class TTimer : public TComponent {
-  VRX_CLASS(TTimer)
- public:
-  using TComponent::TComponent;
-  bool Enabled() const { return enabled_; }
-  void SetEnabled(bool v) { Change(enabled_, v); }
-  unsigned Interval() const { return interval_; }  // milliseconds
-  void SetInterval(unsigned v) { Change(interval_, v); }
-
- private:
-  unsigned interval_ = 1000;
-  bool enabled_ = true;
 };

@@ -1,4 +1,6 @@
-#include "vcl/ExtCtrls.h"
+#include "vcl/Panel.h"
+
+#include "vcl/PropertyGroups.h"
 
 const TClass& TPanel::StaticClass() {
   static const TTypeInfo width = OrdinalType("TBevelWidth", 1, INT32_MAX);
@@ -14,10 +16,10 @@ const TClass& TPanel::StaticClass() {
           .Type(width)
           .Published("BorderWidth", &TPanel::BorderWidth, &TPanel::SetBorderWidth, 0)
           .Type(border)
-          .PublishAll("Caption", "Color", "Enabled", "Font", "ParentColor", "ParentFont", "ParentShowHint",
-                      "ShowHint", "TabOrder", "TabStop", "Visible", "OnClick", "OnDblClick", "OnEnter",
-                      "OnExit", "OnMouseDown", "OnMouseMove", "OnMouseUp", "OnResize")
-          .ClassDoc(QStringLiteral("A surface that groups other controls.")));
+          .PublishAll("Caption", Look, ParentLook, Hints, "TabOrder", "TabStop", "Visible", "OnClick",
+                      "OnDblClick", FocusEvents, MouseButtonEvents, "OnResize")
+          .ClassDoc(QStringLiteral("A surface that groups other controls."),
+                    "pen line 1.5 brush fill box 3.5 5.5 17 13 0 pen accent 1.5 path 6 16 6 8 18 8"));
   return cls;
 }
 
@@ -40,17 +42,5 @@ void TPanel::Paint(TCanvas& canvas) {
   bevel(bevelOuter_);
   inside.adjust(borderWidth_, borderWidth_, -borderWidth_, -borderWidth_);
   bevel(bevelInner_);
-  static constexpr int horizontal[] = {Qt::AlignLeft, Qt::AlignRight, Qt::AlignHCenter};
-  canvas.TextRect(inside, horizontal[static_cast<int>(alignment_)] | Qt::AlignVCenter, Caption(), *Font(),
-                  Enabled());
-}
-
-const TClass& TTimer::StaticClass() {
-  static const TClass cls(DescribeClass<TTimer>("TTimer", TComponent::StaticClass())
-                              .Published("Enabled", &TTimer::Enabled, &TTimer::SetEnabled, true)
-                              .Published("Interval", &TTimer::Interval, &TTimer::SetInterval, 1000)
-                              .Doc(QStringLiteral("Milliseconds between two events."))
-                              .Event("OnTimer")
-                              .ClassDoc(QStringLiteral("Raises an event at regular intervals.")));
-  return cls;
+  canvas.TextRect(inside, AlignmentFlag(alignment_) | Qt::AlignVCenter, Caption(), *Font(), Enabled());
 }

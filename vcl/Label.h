@@ -1,4 +1,4 @@
-// Labels and buttons.
+// A text on a form.
 #pragma once
 #include "vcl/Control.h"
 
@@ -45,23 +45,4 @@ class TLabel : public TGraphicControl {
   TAlignment alignment_ = TAlignment::taLeftJustify;
   TTextLayout layout_ = TTextLayout::tlTop;
   bool showAccelChar_ = true, transparent_ = true, wordWrap_ = false;
-};
-
-class TButton : public TWinControl {
-  VRX_CLASS(TButton)
- public:
-  explicit TButton(TComponent* owner);
-
-  bool Cancel() const { return cancel_; }
-  void SetCancel(bool v) { Change(cancel_, v); }
-  bool Default() const { return default_; }
-  void SetDefault(bool v) { Change(default_, v); }
-  int ModalResult() const { return modalResult_; }
-  void SetModalResult(int v) { Change(modalResult_, v); }
-
-  void Paint(TCanvas& canvas) override;
-
- private:
-  int modalResult_ = 0;
-  bool cancel_ = false, default_ = false;
 };

@@ -1,4 +1,0 @@
-// Icons of the standard components.
-#pragma once
-
-void RegisterStandardIcons();

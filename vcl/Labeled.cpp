@@ -1,0 +1,41 @@
+#include "vcl/Labeled.h"
+
+const TClass& TBoundLabel::StaticClass() {
+  static const TClass cls(
+      DescribeClass<TBoundLabel>("TBoundLabel", TPersistent::StaticClass())
+          .Published("Caption", &TBoundLabel::Caption, &TBoundLabel::SetCaption)
+          .Type(CaptionType())
+          .Published("Font", &TBoundLabel::Font, &TBoundLabel::SetFont)
+          .StoredIf(&TBoundLabel::FontStored)
+          .Published("ParentFont", &TBoundLabel::ParentFont, &TBoundLabel::SetParentFont, true));
+  return cls;
+}
+
+TBoundLabel::TBoundLabel(TControl* owner)
+    : TOwnedPersistent(owner), control_(*owner), font_(std::make_unique<TFont>(this)) {}
+
+QRect TBoundLabel::Bounds(TLabelPosition position, int spacing) const {
+  if (caption_.isEmpty()) return {};
+  const QSize size = TextExtent(caption_, ShownFont());
+  const int middle = (control_.Height() - size.height()) / 2;
+  switch (position) {
+    case TLabelPosition::lpAbove:
+      return {{0, -spacing - size.height()}, size};
+    case TLabelPosition::lpBelow:
+      return {{0, control_.Height() + spacing}, size};
+    case TLabelPosition::lpLeft:
+      return {{-spacing - size.width(), middle}, size};
+    case TLabelPosition::lpRight:
+      return {{control_.Width() + spacing, middle}, size};
+  }
+  return {};
+}
+
+void TBoundLabel::Paint(TCanvas& canvas, const QRect& bounds) const {
+  canvas.TextRect(bounds, Qt::AlignLeft | Qt::AlignVCenter, caption_, ShownFont(), control_.Enabled());
+}
+
+void TBoundLabel::PartChanged(TPersistent& part) {
+  parentFont_ = false;
+  TOwnedPersistent::PartChanged(part);
+}

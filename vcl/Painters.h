@@ -1,0 +1,47 @@
+// The parts that controls are made of, drawn in the current style with the colours of forms (FormColors). A
+// control says what it shows; how a style is set up is known here only. Nothing is painted outside of the
+// rectangle.
+#pragma once
+#include <QRect>
+
+#include "rtl/TypeInfo.h"
+
+class QString;
+class TCanvas;
+class TFont;
+
+enum class TPartState : std::uint8_t {
+  Disabled,
+  Down,      // pressed; of a tab or a header cell: the chosen one
+  Hot,       // the mouse is over it
+  Focused,   // has the keyboard
+  Default,   // the button that Enter presses
+  ReadOnly,  // a field that shows, but takes no text
+};
+using TPartStates = TSet<TPartState>;
+enum class TCheckBoxState : std::uint8_t { cbUnchecked, cbChecked, cbGrayed };
+
+void PaintButton(TCanvas& canvas, const QRect& rect, TPartStates states, const QString& text,
+                 const TFont* font);
+// The frame and ground of an edit; returns where the text is.
+QRect PaintEditFrame(TCanvas& canvas, const QRect& rect, TPartStates states);
+// The box or circle itself, in the middle of the rectangle, as large as the style has it.
+void PaintCheckMark(TCanvas& canvas, const QRect& rect, TPartStates states, TCheckBoxState state);
+void PaintRadioMark(TCanvas& canvas, const QRect& rect, TPartStates states, bool checked);
+QSize CheckMarkSize();
+// The button with an arrow that opens a list.
+void PaintDropButton(TCanvas& canvas, const QRect& rect, TPartStates states);
+void PaintHeaderCell(TCanvas& canvas, const QRect& rect, TPartStates states, const QString& text,
+                     const TFont& font);
+// A tab above its page.
+void PaintTab(TCanvas& canvas, const QRect& rect, TPartStates states, const QString& text, const TFont& font);
+// What a scroll bar shows, in the units of what is scrolled.
+struct TScrollRange {
+  int Min = 0, Max = 100, Position = 0, Page = 10;
+};
+void PaintScrollBar(TCanvas& canvas, const QRect& rect, TPartStates states, const TScrollRange& range,
+                    Qt::Orientation orientation);
+// The frame of a group with its title; returns the room inside.
+QRect PaintGroupFrame(TCanvas& canvas, const QRect& rect, TPartStates states, const QString& title,
+                      const TFont& font);
+void PaintFocus(TCanvas& canvas, const QRect& rect);

@@ -1,0 +1,70 @@
+#include "vcl/PixelPicture.h"
+
+#include <QBuffer>
+#include <QImageReader>
+
+#include "vcl/PictureHead.h"
+
+namespace {
+// How a file begins, and the decoder for it. None of these but the drawing can refer to anything.
+struct FormatRow {
+  QByteArrayView start;
+  const char* format;
+};
+const FormatRow Formats[] = {
+    {{"\x89PNG\r\n\x1a\n", 8}, "png"},
+    {{"BM", 2}, "bmp"},
+    {{"\xFF\xD8\xFF", 3}, "jpeg"},
+    {{"GIF8", 4}, "gif"},
+    {{"\0\0\1\0", 4}, "ico"},
+    {{"\0\0\2\0", 4}, "cur"},
+    {{"/* XPM", 6}, "xpm"},
+    {{"#define", 7}, "xbm"},
+    {{"P1", 2}, "pbm"},
+    {{"P4", 2}, "pbm"},
+    {{"P2", 2}, "pgm"},
+    {{"P5", 2}, "pgm"},
+    {{"P3", 2}, "ppm"},
+    {{"P6", 2}, "ppm"},
+};
+}  // namespace
+
+QStringList PictureEndings() {
+  static constexpr const char* all[] = {"bmp", "cur", "gif", "ico", "jpeg", "jpg", "pbm",
+                                        "pgm", "png", "ppm", "svg", "svgz", "xbm", "xpm"};
+  QStringList endings;
+  for (const char* ending : all)
+    if (QImageReader::supportedImageFormats().contains(ending)) endings << QString::fromLatin1(ending);
+  return endings;
+}
+
+QImage DecodedPicture(const QByteArray& bytes, const char* format, const QString& what) {
+  // Ours is the limit for formats that tell the size at once, the toolkit's, in megabytes, for the others.
+  static const bool limited = (QImageReader::setAllocationLimit(1024), true);
+  Q_UNUSED(limited)
+  QBuffer buffer;
+  buffer.setData(bytes);
+  buffer.open(QIODevice::ReadOnly);
+  QImageReader reader(&buffer, format);
+  reader.setAutoDetectImageFormat(false);
+  reader.setAutoTransform(true);
+  const QSize size = reader.size();
+  if (size.isValid()) {
+    RequirePictureSize(what, size.width(), size.height());
+    // The decoder would call a picture damaged that there is no memory for.
+    const QImage::Format pixels = reader.imageFormat();
+    if (QImage(size, pixels == QImage::Format_Invalid ? QImage::Format_ARGB32 : pixels).isNull())
+      throw std::bad_alloc();
+  }
+  QImage image = reader.read();
+  if (image.isNull())
+    throw EInvalidPicture(QStringLiteral("%1 is damaged or incomplete: %2.").arg(what, reader.errorString()));
+  return image;
+}
+
+QImage PixelPictureFromBytes(const QByteArray& bytes, const QString& what) {
+  for (const FormatRow& row : Formats)
+    if (bytes.startsWith(row.start)) return DecodedPicture(LeanPng(bytes), row.format, what);
+  throw EInvalidPicture(QStringLiteral("%1 is not a picture of a format that can be read (%2).")
+                            .arg(what, PictureEndings().join(QStringLiteral(", "))));
+}
