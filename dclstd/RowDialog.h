@@ -104,7 +104,9 @@ class RowDialog : public ModalDialog {
   // A quiet remark there.
   void Note(const char* text);
   // Parts that keep the colours they have.
-  void OwnColors(const std::vector<const QWidget*>& widgets) { own_ = widgets; }
+  void OwnColors(const std::vector<const QWidget*>& widgets) {
+    own_.insert(own_.end(), widgets.begin(), widgets.end());
+  }
   // The focus comes here after what has been added so far; rows and buttons do that themselves.
   void Follows(QWidget* widget) { order_.push_back(widget); }
   // To be called when all controls are there.
