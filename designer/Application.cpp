@@ -2,7 +2,7 @@
 
 #include <QIcon>
 
-#include "designer/MainWindow.h"
+#include "designer/ReportException.h"
 #include "designintf/PackageCall.h"
 #include "vcl/Theme.h"
 

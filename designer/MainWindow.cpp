@@ -12,6 +12,7 @@
 #include "designer/MessageBar.h"
 #include "designer/PalettePane.h"
 #include "designer/ProblemsList.h"
+#include "designer/ReportException.h"
 #include "designer/StatusLine.h"
 #include "designer/StructurePane.h"
 #include "designer/ValueEditor.h"
@@ -21,10 +22,6 @@
 #include "ide/Placing.h"
 #include "rtl/Exceptions.h"
 #include "vcl/Prompts.h"
-
-void ReportException(QWidget* parent, const std::exception& error) {
-  Prompts().Warn(parent, QCoreApplication::applicationName(), ExceptionMessage(error));
-}
 
 MainWindow::MainWindow(PackageManager& packages) : packages_(packages) {
   setWindowIcon(QIcon::fromTheme(QStringLiteral("document-edit")));
@@ -178,7 +175,7 @@ void MainWindow::BuildMenus() {
   insertToolBar(palette, tools);
   insertToolBarBreak(palette);
 
-  commands_ = new WindowCommands(*this);
+  commands_ = new WindowCommands(*this, *this);
   form_ = new FormActions(*this);
   connect(form_, &FormActions::Wanted, this, &MainWindow::Run);
   form_->WorkIn(*surface_);

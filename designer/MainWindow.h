@@ -3,6 +3,7 @@
 #include <QMainWindow>
 #include <array>
 
+#include "designer/DesignerWindow.h"
 #include "ide/FormSession.h"
 #include "ide/PackageManager.h"
 
@@ -20,9 +21,7 @@ class StructurePane;
 class WindowCommands;
 struct ActionRow;
 
-enum class WindowPane : std::uint8_t { Structure, Inspector, Problems };
-
-class MainWindow : public QMainWindow {
+class MainWindow : public QMainWindow, public IDesignerWindow {
   Q_OBJECT
  public:
   explicit MainWindow(PackageManager& packages);
@@ -33,27 +32,25 @@ class MainWindow : public QMainWindow {
   // The file once more, with the same selection; what was changed here is given up.
   bool Reload();
   void NewForm();
-  // False when the form was not written. A file that another program changed is replaced only on demand.
-  bool Save();
-  bool SaveAs();
+  bool Save() override;
+  bool SaveAs() override;
+  void Quit() override { close(); }
   // Asks when there are changes; false when the person wants to stay.
   bool MayClose();
-  bool HasUnsaved() const;
-  // As menus do it: what is not saved is asked for first.
-  void AskForNewForm();
-  void AskForForm();
+  bool HasUnsaved() const override;
+  void AskForNewForm() override;
+  void AskForForm() override;
 
-  double Zoom() const;
-  void SetZoom(double factor);
-  bool ShowsPane(WindowPane pane) const;
-  void ShowPane(WindowPane pane, bool shown);
-  void GoToFormOrInspector();
-  void GoToPalette();
-  // Everything that can be done, to be searched.
-  void ShowCommands();
-  void TellAbout();
+  double Zoom() const override;
+  void SetZoom(double factor) override;
+  bool ShowsPane(WindowPane pane) const override;
+  void ShowPane(WindowPane pane, bool shown) override;
+  void GoToFormOrInspector() override;
+  void GoToPalette() override;
+  void ShowCommands() override;
+  void TellAbout() override;
 
-  FormSession* Session() const { return session_.get(); }
+  FormSession* Session() const override { return session_.get(); }
   FormSurface& Surface() { return *surface_; }
   InspectorPane& Inspector() { return *inspector_; }
   PalettePane& Palette() { return *palette_; }
@@ -95,6 +92,3 @@ class MainWindow : public QMainWindow {
   WindowCommands* commands_ = nullptr;
   FormActions* form_ = nullptr;
 };
-
-// Shows what a handler threw; the process goes on.
-void ReportException(QWidget* parent, const std::exception& error);

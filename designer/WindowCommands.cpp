@@ -4,11 +4,11 @@
 
 #include "designer/Desk.h"
 #include "designer/LookSettings.h"
-#include "designer/MainWindow.h"
+#include "designer/ReportException.h"
 #include "rtl/Exceptions.h"
 
 namespace {
-using Window = MainWindow;
+using Window = IDesignerWindow;
 using Menu = WindowMenu;
 
 QString NeedsForm(const Window& w) {
@@ -44,7 +44,7 @@ void RunNew(Window& w) { w.AskForNewForm(); }
 void RunOpen(Window& w) { w.AskForForm(); }
 void RunSave(Window& w) { w.Save(); }
 void RunSaveAs(Window& w) { w.SaveAs(); }
-void RunQuit(Window& w) { w.close(); }
+void RunQuit(Window& w) { w.Quit(); }
 void RunCommands(Window& w) { w.ShowCommands(); }
 void RunFormOrInspector(Window& w) { w.GoToFormOrInspector(); }
 void RunFindComponent(Window& w) { w.GoToPalette(); }
@@ -110,10 +110,10 @@ QString WindowCommand::Title() const {
   return part.isEmpty() ? own : part + QStringLiteral(": ") + own;
 }
 
-WindowCommands::WindowCommands(MainWindow& window) : QObject(&window), window_(window) {
+WindowCommands::WindowCommands(IDesignerWindow& window, QWidget& parent) : QObject(&parent), window_(window) {
   for (const WindowCommand& row : WindowCommandTable()) {
     auto* action =
-        new QAction(*row.icon ? QIcon::fromTheme(QLatin1StringView(row.icon)) : QIcon(), row.Text(), &window);
+        new QAction(*row.icon ? QIcon::fromTheme(QLatin1StringView(row.icon)) : QIcon(), row.Text(), &parent);
     action->setObjectName(QLatin1StringView(row.id));
     if (*row.keys) action->setShortcuts(QKeySequence::listFromString(QLatin1StringView(row.keys)));
     action->setCheckable(row.isOn != nullptr);
@@ -121,7 +121,7 @@ WindowCommands::WindowCommands(MainWindow& window) : QObject(&window), window_(w
       try {
         row.run(window_);
       } catch (const std::exception& e) {
-        ReportException(&window_, e);
+        ReportException(qobject_cast<QWidget*>(this->parent()), e);
       }
       Update();
     });

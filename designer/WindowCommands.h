@@ -4,8 +4,8 @@
 #include <QObject>
 
 #include "designer/CommandPalette.h"
+#include "designer/DesignerWindow.h"
 
-class MainWindow;
 class QMenu;
 class QToolBar;
 
@@ -18,11 +18,11 @@ struct WindowCommand {
   const char* keys;  // several with "; " between them
   const char* icon;  // of the icon theme; empty for none
   bool inToolBar;
-  void (*run)(MainWindow& window);
+  void (*run)(IDesignerWindow& window);
   // Empty when it can be done now; else why not, and what to do. Null: it always can.
-  QString (*whyNot)(const MainWindow& window);
+  QString (*whyNot)(const IDesignerWindow& window);
   // Of what is on or off; null for all else.
-  bool (*isOn)(const MainWindow& window);
+  bool (*isOn)(const IDesignerWindow& window);
 
   QString Text() const;
   QString Title() const;  // "Form colours: Dark"
@@ -32,7 +32,7 @@ const std::vector<WindowCommand>& WindowCommandTable();
 class WindowCommands : public QObject {
   Q_OBJECT
  public:
-  explicit WindowCommands(MainWindow& window);
+  WindowCommands(IDesignerWindow& window, QWidget& parent);
   void AddTo(QMenu& menu, WindowMenu part) const;
   void AddTo(QToolBar& bar, WindowMenu part) const;
   // What can be done now, and what is on.
@@ -40,6 +40,6 @@ class WindowCommands : public QObject {
   void AddTo(std::vector<CommandEntry>& rows) const;
 
  private:
-  MainWindow& window_;
+  IDesignerWindow& window_;
   std::vector<std::pair<const WindowCommand*, QAction*>> actions_;
 };
