@@ -221,4 +221,7 @@ TEST(CommandSearch, BeginningsOfWordsComeBeforeInsidesAndScatteredLetters) {
   EXPECT_GT(misfit("Align: Left edges", "agge"), misfit("Align: Left edges", "alft"));
   EXPECT_EQ(misfit("Align: Left edges", "left zoom"), -1);
   EXPECT_EQ(misfit("Align: Left edges", "tfel"), -1);
+  // Wherever the inside is, and however late the word.
+  EXPECT_LT(Misfit(QStringLiteral("a b c d e save"), QStringLiteral("save")),
+            Misfit(QStringLiteral("Unsaved"), QStringLiteral("save")));
 }
