@@ -6,7 +6,7 @@
 #include "vcl/ControlView.h"
 
 namespace {
-// The first one that fits. What is not here only holds others together.
+// The first one that fits. What is not here and takes no keys only holds others together.
 constexpr std::pair<const char*, const char*> Kinds[] = {{"SpinEdit", "spin edit"},
                                                          {"ColorComboBox", "color combo box"},
                                                          {"QFontComboBox", "font combo box"},
@@ -16,7 +16,13 @@ constexpr std::pair<const char*, const char*> Kinds[] = {{"SpinEdit", "spin edit
                                                          {"QPushButton", "button"},
                                                          {"QLineEdit", "edit"},
                                                          {"QPlainTextEdit", "memo"},
-                                                         {"QListWidget", "list box"},
+                                                         {"QListView", "list box"},
+                                                         {"QTreeView", "tree"},
+                                                         {"QTableView", "table"},
+                                                         {"QRadioButton", "radio button"},
+                                                         {"QGroupBox", "group box"},
+                                                         {"QSlider", "slider"},
+                                                         {"QDateTimeEdit", "date edit"},
                                                          {"QTabWidget", "pages"},
                                                          {"QScrollArea", "scroll box"},
                                                          {"ControlView", "preview"},
@@ -28,7 +34,7 @@ constexpr std::pair<const char*, const char*> Kinds[] = {{"SpinEdit", "spin edit
 QString KindOf(const QWidget& widget) {
   for (const auto& [cls, kind] : Kinds)
     if (widget.inherits(cls)) return QString::fromLatin1(kind);
-  return {};
+  return (widget.focusPolicy() & Qt::TabFocus) != 0 ? QStringLiteral("control") : QString();
 }
 bool IsControl(const QWidget& widget) {
   const bool ofTabs = qobject_cast<const QTabBar*>(widget.parentWidget()) != nullptr;  // their arrows

@@ -66,6 +66,8 @@ class RowDialog : public ModalDialog {
 
   // What is edited: a copy, until somebody takes it from here.
   TPersistent& Value() const { return *value_; }
+  // Some edit what is no published value.
+  bool HasValue() const { return value_ != nullptr; }
   // Everything takes the IDE's theme but what has colours of its own.
   virtual bool NeedTheme(const QWidget& control) const;
   // The IDE's theme and custom colours. All lists of colours share these, and closing saves them.

@@ -140,7 +140,7 @@ void FormSurface::PaintDrag(QPainter& p) const {
   const QString text = !refusal_.isEmpty() ? refusal_
                        : target_           ? tr("%1 \u2192 %2").arg(place, target_->Name())
                                            : place;
-  const int width = std::min(p.fontMetrics().horizontalAdvance(text) + 12, this->width());
+  const int width = std::min(p.fontMetrics().horizontalAdvance(text) + 14, this->width());
   QRect label(current_ + QPoint(14, 16), QSize(width, p.fontMetrics().height() + 6));
   label.moveLeft(std::min(label.left(), this->width() - width));
   p.setPen(palette().color(QPalette::Mid));

@@ -1,5 +1,6 @@
 #include "designer/SearchField.h"
 
+#include <QKeyEvent>
 #include <QToolButton>
 
 SearchField::SearchField(const QString& placeholder, const QString& accessibleName, QWidget* parent)
@@ -8,4 +9,15 @@ SearchField::SearchField(const QString& placeholder, const QString& accessibleNa
   setAccessibleName(accessibleName);
   setClearButtonEnabled(true);
   for (QToolButton* button : findChildren<QToolButton*>()) button->setAccessibleName(tr("Clear"));
+}
+
+bool SearchField::event(QEvent* event) {
+  const bool pressed = event->type() == QEvent::KeyPress;
+  if ((pressed || event->type() == QEvent::ShortcutOverride) && !text().isEmpty() &&
+      static_cast<QKeyEvent*>(event)->key() == Qt::Key_Escape) {
+    if (pressed) clear();
+    event->accept();
+    return true;
+  }
+  return QLineEdit::event(event);
 }

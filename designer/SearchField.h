@@ -1,4 +1,4 @@
-// A field to search or filter by, with a button that empties it.
+// A field to search or filter by, with a button and Escape to empty it.
 #pragma once
 #include <QLineEdit>
 
@@ -6,4 +6,8 @@ class SearchField : public QLineEdit {
   Q_OBJECT
  public:
   SearchField(const QString& placeholder, const QString& accessibleName, QWidget* parent = nullptr);
+
+ protected:
+  // Escape empties the field; only an empty one leaves the key to others.
+  bool event(QEvent* event) override;
 };

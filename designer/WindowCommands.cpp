@@ -23,6 +23,10 @@ template <TTheme theme>
 void RunTheme(Window&) {
   ChooseTheme(theme);
 }
+template <TTheme theme>
+bool IsTheme(const Window&) {
+  return IsDarkTheme() == (theme == TTheme::Dark);
+}
 template <TFormColors colors>
 void RunFormColors(Window&) {
   ChooseFormColors(colors);
@@ -90,8 +94,8 @@ const std::vector<WindowCommand>& WindowCommandTable() {
       {"zoomIn",  Menu::Zoom, QT_TRANSLATE_NOOP("WindowCommands", "Zoom &in"),  "Ctrl++; Ctrl+=", "zoom-in",       true,  RunZoomIn,  nullptr, nullptr},
       {"zoom100", Menu::Zoom, QT_TRANSLATE_NOOP("WindowCommands", "&100 %"),    "Ctrl+0",         "zoom-original", false, RunZoom100, nullptr, nullptr},
 
-      {"light", Menu::Theme, QT_TRANSLATE_NOOP("WindowCommands", "&Light theme"), "", "", false, RunTheme<TTheme::Light>, nullptr, nullptr},
-      {"dark",  Menu::Theme, QT_TRANSLATE_NOOP("WindowCommands", "&Dark theme"),  "", "", false, RunTheme<TTheme::Dark>,  nullptr, nullptr},
+      {"light", Menu::Theme, QT_TRANSLATE_NOOP("WindowCommands", "&Light theme"), "", "", false, RunTheme<TTheme::Light>, nullptr, IsTheme<TTheme::Light>},
+      {"dark",  Menu::Theme, QT_TRANSLATE_NOOP("WindowCommands", "&Dark theme"),  "", "", false, RunTheme<TTheme::Dark>,  nullptr, IsTheme<TTheme::Dark>},
 
       {"formLight",    Menu::FormColors, QT_TRANSLATE_NOOP("WindowCommands", "&Light"),           "", "", false, RunFormColors<TFormColors::Light>,    nullptr, AreFormColors<TFormColors::Light>},
       {"formDark",     Menu::FormColors, QT_TRANSLATE_NOOP("WindowCommands", "&Dark"),            "", "", false, RunFormColors<TFormColors::Dark>,     nullptr, AreFormColors<TFormColors::Dark>},

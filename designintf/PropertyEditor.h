@@ -65,7 +65,6 @@ class TPropertyEditor {
   TPersistent* GetObjectValue() const { return GetObjectValueAt(0); }
   TPersistent* GetObjectValueAt(int index) const;
   void SetOrdValue(TPersistent* value);
-  long double GetFloatValue() const { return GetFloatValueAt(0); }
   long double GetFloatValueAt(int index) const;
   void SetFloatValue(long double value);
   QString GetStrValue() const { return GetStrValueAt(0); }

@@ -180,23 +180,26 @@ Property Document::MakeProperty(QByteArrayView name, Value value, const Property
   return Property(tree_.Intern(name), std::move(value), lead);
 }
 
-void Document::WriteTextObject(TextWriter& out, const Object& object, int level) const {
+// What has come to another depth is indented like its new neighbours.
+void Document::WriteTextObject(TextWriter& out, const Object& object, int level, int sourceLevel) const {
+  if (object.sourceLevel >= 0) sourceLevel = object.sourceLevel;
+  const int moved = object.FromSource() ? level - sourceLevel : 0;
   if (object.FromSource() && !object.headerChanged) {
-    out.Copy(Slice(object.header));
+    out.Copy(Slice(object.header), moved);
   } else {
     out.FreshLine();
     out.ObjectHeader(object, level);
   }
   for (const Property& p : object.properties) {
-    out.Copy(p.Node());
+    out.Copy(p.Node(), moved);
     if (const Value* edited = p.Edited()) {
       out.FreshLine();
       out.PropertyLine(p.Name(), *edited, level + 1);
     }
   }
-  for (const auto& child : object.children) WriteTextObject(out, *child, level + 1);
+  for (const auto& child : object.children) WriteTextObject(out, *child, level + 1, sourceLevel + 1);
   if (object.FromSource()) {
-    out.Copy(Slice(object.footer));
+    out.Copy(Slice(object.footer), moved);
   } else {
     out.FreshLine();
     out.ObjectFooter(level);
@@ -229,7 +232,7 @@ QByteArray Document::Write() const {
     TextWriter out(tree_.dialect);
     out.Reserve(tree_.source.size());
     out.Copy(Slice(tree_.before));
-    WriteTextObject(out, *tree_.root, 0);
+    WriteTextObject(out, *tree_.root, 0, 0);
     out.Raw(Slice(tree_.trailer));
     return std::move(out).Result();
   }

@@ -63,7 +63,7 @@ class Document {
 
  private:
   void CarryStrings(Value& value, const Document& target) const;
-  void WriteTextObject(class TextWriter& out, const Object& object, int level) const;
+  void WriteTextObject(class TextWriter& out, const Object& object, int level, int sourceLevel) const;
   void WriteBinaryObject(class BinaryWriter& out, const Object& object, bool copy) const;
   void DescribeCodePage();
   QByteArrayView Slice(Span span) const;

@@ -62,6 +62,7 @@ std::unique_ptr<Object> Object::Take(int childIndex) {
   const auto it = children.begin() + childIndex;
   auto child = std::move(*it);
   children.erase(it);
+  child->sourceLevel = static_cast<std::int16_t>(child->SourceLevel());
   child->parent = nullptr;
   return child;
 }

@@ -98,6 +98,8 @@ class Object {
   Span header;
   Span footer;
   bool headerChanged = false;
+  // How deep the source has it, once it has been taken from there; else -1, and it stands where it stood.
+  std::int16_t sourceLevel = -1;
 
   bool FromSource() const { return !header.Empty(); }
   // The property of that path (no regard to case), or null.
@@ -106,6 +108,7 @@ class Object {
   int IndexInParent() const;
   // Of nested objects, this one included.
   int Levels() const;
+  int SourceLevel() const { return sourceLevel >= 0 ? sourceLevel : parent ? parent->SourceLevel() + 1 : 0; }
   // A new last child.
   Object& AddChild(QByteArray childClass, QByteArray childName);
   std::unique_ptr<Object> Take(int childIndex);

@@ -90,11 +90,30 @@ void TextWriter::Reserve(qsizetype size) {
   PreferLargePages(out_.data(), static_cast<std::size_t>(size));
 }
 
-void TextWriter::Copy(QByteArrayView piece) {
+// No text runs over the end of a line, so that blanks at the start of one mean nothing.
+void TextWriter::RawIndented(QByteArrayView text, int more) {
+  const auto isEnd = [](char c) { return c == '\n' || c == '\r'; };
+  bool fresh = out_.isEmpty() || isEnd(out_.back());
+  for (qsizetype i = 0; i < text.size();) {
+    if (fresh && !isEnd(text[i])) {
+      qsizetype blanks = 0;
+      while (i + blanks < text.size() && text[i + blanks] == ' ') ++blanks;
+      const bool empty = i + blanks < text.size() && isEnd(text[i + blanks]);
+      out_.append(empty ? blanks : std::max<qsizetype>(blanks + more, 0), ' ');
+      i += blanks;
+      fresh = false;
+      continue;
+    }
+    fresh = isEnd(text[i]);
+    out_.append(text[i++]);
+  }
+}
+
+void TextWriter::Copy(QByteArrayView piece, int moreLevels) {
   if (piece.isEmpty()) return;
   const bool neighbours = piece.data() == copiedEnd_ && out_.size() == sizeThen_;
   if (!neighbours && IsIdentStart(piece[0])) FreshLine();
-  Raw(piece);
+  moreLevels == 0 ? Raw(piece) : RawIndented(piece, 2 * moreLevels);
   copiedEnd_ = piece.end();
   sizeThen_ = out_.size();
 }

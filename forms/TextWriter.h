@@ -15,8 +15,9 @@ class TextWriter {
   void WriteValue(const Value& value, int level);
   void Raw(QByteArrayView text) { out_.append(text); }
   void Reserve(qsizetype size);
-  // A piece of the source as it stands; on a new line where it would run into what now stands before it.
-  void Copy(QByteArrayView piece);
+  // A piece of the source as it stands; on a new line where it would run into what now stands before it. Its
+  // lines are indented by so many levels more.
+  void Copy(QByteArrayView piece, int moreLevels = 0);
   // Starts a new line unless the output is at the start of one.
   void FreshLine();
   bool Empty() const { return out_.isEmpty(); }
@@ -24,6 +25,7 @@ class TextWriter {
 
  private:
   void Indent(int level) { out_.append(2 * level, ' '); }
+  void RawIndented(QByteArrayView text, int more);
   void NewLine() { out_.append(style_.eol); }
   void WriteString(const Value& value, int level);
   void WriteUnits(const std::vector<char32_t>& units, bool highLiteral, int level);

@@ -83,6 +83,12 @@ void FormSession::DeleteComponents(const std::vector<TComponent*>& components) {
     doomed.push_back(c);
   }
   if (doomed.empty()) return;
+  // What is pasted next comes to where this stood.
+  TComponent* around = doomed[0]->GetParentComponent();
+  for (const TComponent* c : doomed)
+    if (c->GetParentComponent() != around) around = GetRoot();
+  const bool selected =
+      std::any_of(doomed.begin(), doomed.end(), [&](TComponent* c) { return IsSelected(*c); });
   Run(doomed.size() == 1 ? tr("Delete %1").arg(doomed[0]->Name())
                          : tr("Delete %n components", nullptr, static_cast<int>(doomed.size())),
       {}, [&] {
@@ -95,6 +101,7 @@ void FormSession::DeleteComponents(const std::vector<TComponent*>& components) {
         }
         for (TComponent* c : doomed) recorder_->Delete(*c);
       });
+  if (selected && around) Select({around});
   Select(selection_.Components());
 }
 

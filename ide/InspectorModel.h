@@ -25,7 +25,6 @@ class InspectorModel : public QAbstractItemModel {
 
   void SetSession(FormSession* session);
   void ShowEvents(bool events);
-  bool ShowsEvents() const { return events_; }
   void GroupByCategory(bool group);
   // Leaves the rows whose names hold the text, sub-properties too, and the rows above them; a text with a
   // dot is looked for in paths ("LED.Act"). A row that is found keeps all it opens into.

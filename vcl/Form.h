@@ -57,7 +57,6 @@ class TForm : public TWinControl {
   QSize OuterSize() const;
   // By how much Width and Height exceed the client area. Other makers' frames have other measures: where the
   // form file tells both sizes, or shows the client area by what is aligned in it, that holds.
-  QSize FrameExtra() const { return frameExtra_; }
   // In some form files Width and Height are the client area's. To be said before the form is loaded.
   void SetSizeIsClient(bool v);
   bool SizeIsClient() const { return sizeIsClient_; }

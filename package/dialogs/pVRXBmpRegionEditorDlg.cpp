@@ -117,7 +117,9 @@ QWidget* TVRXfrmRegionFromBMPdlg::BuildImagePage() {
   top->addWidget(LoadButton);
   top->addWidget(DimLabel, 1);
   auto* zoomTitle = new QHBoxLayout;
-  zoomTitle->addWidget(new QLabel(QStringLiteral("Zoom"), page), 1);
+  auto* zoomLabel = new QLabel(QStringLiteral("Zoom"), page);
+  zoomLabel->setBuddy(zoom);
+  zoomTitle->addWidget(zoomLabel, 1);
   zoomTitle->addWidget(ViewLabel);
   auto* side = new QVBoxLayout;
   side->setSpacing(6);

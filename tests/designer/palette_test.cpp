@@ -124,6 +124,13 @@ TEST_F(DesignerTest, TheStructureFilterHidesWhatDoesNotFit) {
   EXPECT_FALSE(ItemOf(tree, QStringLiteral("Timer1")).isValid());
 }
 
+TEST_F(DesignerTest, EscapeEmptiesTheFilterOfTheStructure) {
+  auto& filter = *window_->Structure().findChild<QLineEdit*>();
+  QTest::keyClicks(&filter, QStringLiteral("inner"));
+  QTest::keyClick(&filter, Qt::Key_Escape);
+  EXPECT_EQ(filter.text(), QString());
+}
+
 TEST_F(DesignerTest, TheStructureTellsThatItsFilterHidesTheSelection) {
   const auto& hint = *window_->Structure().findChild<QLabel*>(QStringLiteral("hiddenSelection"));
   auto& filter = *window_->Structure().findChild<QLineEdit*>();

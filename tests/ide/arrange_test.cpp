@@ -187,6 +187,69 @@ TEST_F(Arranging, AControlComesOutOfItsContainerAsItStands) {
   ExpectOneCommand();
 }
 
+TEST_F(Arranging, WhatComesToAnotherContainerIsIndentedThereLikeTheRest) {
+  Open(
+      "object Main: TMain\n"
+      "  Caption = 'x'\n"
+      "  ClientHeight = 300\n"
+      "  ClientWidth = 400\n"
+      "  object Box: TPanel\n"
+      "    Left = 100\n"
+      "    Top = 50\n"
+      "    Width = 200\n"
+      "    Height = 150\n"
+      "    object Inside: TPanel\n"
+      "      Left = 8\n"
+      "      Top = 8\n"
+      "      Width = 90\n"
+      "      Height = 90\n"
+      "      object Deep: TButton\n"
+      "        Left = 1\n"
+      "        Strange.Lines = (\n"
+      "          'one'\n"
+      "          'two')\n"
+      "        TabOrder = 0\n"
+      "      end\n"
+      "    end\n"
+      "  end\n"
+      "end\n");
+  MoveInto(*session_, {&Get("Inside")}, session_->Form());
+  EXPECT_EQ(session_->Bytes(),
+            "object Main: TMain\n"
+            "  Caption = 'x'\n"
+            "  ClientHeight = 300\n"
+            "  ClientWidth = 400\n"
+            "  object Box: TPanel\n"
+            "    Left = 100\n"
+            "    Top = 50\n"
+            "    Width = 200\n"
+            "    Height = 150\n"
+            "  end\n"
+            "  object Inside: TPanel\n"
+            "    Left = 108\n"
+            "    Top = 58\n"
+            "    Width = 90\n"
+            "    Height = 90\n"
+            "    object Deep: TButton\n"
+            "      Left = 1\n"
+            "      Strange.Lines = (\n"
+            "        'one'\n"
+            "        'two')\n"
+            "      TabOrder = 0\n"
+            "    end\n"
+            "  end\n"
+            "end\n");
+  ExpectOneCommand();
+  MoveInto(*session_, {&Get("Deep")}, As<TWinControl>("Box"));
+  MoveInto(*session_, {&Get("Inside")}, As<TWinControl>("Box"));
+  EXPECT_TRUE(session_->Bytes().contains(
+      "\n    object Deep: TButton\n      Left = 9\n      Top = 8\n      Strange.Lines = (\n        'one'\n"));
+  EXPECT_TRUE(session_->Bytes().contains("\n    object Inside: TPanel\n      Left = 8\n"));
+  EXPECT_TRUE(session_->Bytes().endsWith("\n      Height = 90\n    end\n  end\nend\n"));
+  while (session_->CanUndo()) session_->Undo();
+  EXPECT_EQ(session_->Bytes(), first_);
+}
+
 TEST_F(Arranging, AContainerNeverGoesIntoItselfAndNothingIntoAButton) {
   const auto why = [&](const char* control, const char* container) {
     return WhyNotInto(*session_, {&Get(control)}, As<TWinControl>(container)).toStdString();

@@ -297,3 +297,11 @@ TEST_F(OperationTest, APasteThatNestsTooDeepIsTakenBack) {
   clipboard_.text = QString::fromUtf8(deep);
   EXPECT_NE(Refusal("paste", {"Panel1"}).find("deep"), std::string::npos);
 }
+
+TEST_F(OperationTest, WhatIsCutComesBackToWhereItStood) {
+  Select({"Inner"});
+  CutSelection(*session_, clipboard_);
+  EXPECT_EQ(Selected(), "Panel1");
+  PasteInto(*session_, clipboard_, 8);
+  EXPECT_EQ(As<TControl>("Inner").Parent(), &Get("Panel1"));
+}

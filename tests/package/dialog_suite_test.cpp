@@ -209,7 +209,7 @@ TEST_F(DialogSuite, LoadingChangesNothing) {
     Listener listener;
     const bool showsIt = view && !qobject_cast<FontDialog*>(&dialog);  // that one shows another font
     if (showsIt) view->Control()->SetHost(&listener);
-    const bool hasValue = !dialog.inherits("TVRX3DEffectEditorDlg");
+    const bool hasValue = editor->HasValue();
     const QStringList before = hasValue ? TextsOf(editor->Value()) : QStringList();
     for (int i = 0; i < 2; ++i) dialog.SetLabels();
     EXPECT_EQ(listener.changes, 0);

@@ -1,11 +1,13 @@
 // Every dialog, opened on values that its controls can hardly show: the focus goes through all of it, the
 // wheel turns over every field, it is confirmed, and nothing has changed.
 #include "dclstd/ColorDialog.h"
+#include "dclstd/DialogRegistration.h"
 #include "dclstd/FontDialog.h"
 #include "dclstd/LinesDialog.h"
 #include "library_design/ColorDialogs.h"
 #include "library_design/FontDialogs.h"
 #include "package/property_editors/pVRXCPGetMain.h"
+#include "package/registration/VRX_RegMainEditors.h"
 #include "rtl/PropAccess.h"
 #include "rtl/PropText.h"
 #include "rtl/Strings.h"
@@ -104,6 +106,26 @@ TEST_F(EveryDialog, OfAValueKeepsIt) {
     EXPECT_EQ(TextsOf(mask), before);
     EXPECT_EQ(mask.BorderPicture(), picture);
   }
+}
+
+TEST_F(EveryDialog, ThatIsRegisteredKeepsWhatItsValueHas) {
+  DesignRegistry registry;
+  const RegistrationScope scope(registry, nullptr, {});
+  VRX_RegMainEditors::Register();
+  int values = 0;
+  for (const TDialogRegistration& entry : registry.Dialogs())
+    for (const End end : {End::Low, End::High}) {
+      SCOPED_TRACE(entry.Name.constData());
+      const std::unique_ptr<QDialog> opened = entry.Open();
+      auto& dialog = dynamic_cast<RowDialog&>(*opened);
+      if (!dialog.HasValue()) continue;
+      GoTo(end, dialog.Value());
+      const QStringList before = TextsOf(dialog.Value());
+      Confirm([&] { dialog.ShowModal(); });
+      EXPECT_EQ(TextsOf(dialog.Value()), before);
+      ++values;
+    }
+  EXPECT_GE(values, 6);
 }
 
 TEST_F(EveryDialog, ATracingOfThreeHundredStays) {
