@@ -5,8 +5,8 @@
 const TClass& TVRXCustom3DButton::StaticClass() {
   static const TClass cls(
       DescribeClass<TVRXCustom3DButton>("TVRXCustom3DButton", TGraphicControl::StaticClass())
-          .Icon("pen line 1.3 brush accent+50 box 3 5 18 14 2 pen #ffffff 1.4 path 5 16.5 5 7 18.5 7 "
-                "pen none brush accent oval 8.5 8.5 7 7")
+          .Icon("pen line 1.3 brush fill box 3 5 18 14 2 pen accent 1.6 path 5.5 16.5 5.5 7.5 18.5 7.5 "
+                "pen none brush accent oval 9 10 6.5 6")
           .Declared("ButtonFace", &TVRXCustom3DButton::ButtonFace, &TVRXCustom3DButton::SetButtonFace)
           .Doc(QStringLiteral("The pictures of the button: up, down and disabled."))
           .Declared("Down", &TVRXCustom3DButton::Down, &TVRXCustom3DButton::SetDown, false)

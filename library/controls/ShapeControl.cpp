@@ -5,7 +5,9 @@
 const TClass& TVRXBaseShape::StaticClass() {
   static const TClass cls(
       DescribeClass<TVRXBaseShape>("TVRXBaseShape", TGraphicControl::StaticClass())
-          .Icon("pen line 1.3 brush accent+60 box 3.5 5.5 17 13 0 pen line 1.3 text 12 12 9 Ab")
+          .Icon(
+              "pen line 1.3 brush fill shape 8 4.5 16 4.5 21 12 16 19.5 8 19.5 3 12 pen accent 1.8 path 8.5 "
+              "10.5 15.5 10.5 path 8.5 13.5 13.5 13.5")
           .Declared("BevelColor", &TVRXBaseShape::BevelColor, &TVRXBaseShape::SetBevelColor, clBlack)
           .Doc(QStringLiteral("Colour of the outline; clNone is none."))
           .Declared("Brush", &TVRXBaseShape::Brush, &TVRXBaseShape::SetBrush)
