@@ -3,8 +3,6 @@
 #include <QVariant>
 #include <QWidget>
 
-#include "designintf/CustomColors.h"
-
 // The environment sets the options for a process that cannot reach the variable before the packages are
 // loaded.
 unsigned char ORLENVOKITEDITOROPTIONS =
@@ -16,6 +14,3 @@ bool VRXEditorOption(TVRXEditorOption option) {
 
 void VRXSetThemeMode(QWidget& dialog, int mode) { dialog.setProperty("vrxThemeMode", mode); }
 int VRXThemeMode(const QWidget& dialog) { return dialog.property("vrxThemeMode").toInt(); }
-
-void VRXLoadCustomColors(QStringList& colors) { colors = LoadIDECustomColors(); }
-void VRXSaveCustomColors(const QStringList& colors) { SaveIDECustomColors(colors); }

@@ -1,6 +1,5 @@
 // What the library's design-time packages share.
 #pragma once
-#include <QStringList>
 
 class QWidget;
 
@@ -13,7 +12,3 @@ bool VRXEditorOption(TVRXEditorOption option);
 // Mode 1: the dialog and what is on it take part in theming. The mode is kept with the window.
 void VRXSetThemeMode(QWidget& dialog, int mode);
 int VRXThemeMode(const QWidget& dialog);
-
-// The IDE's custom colours, into and out of the list of a colour picker.
-void VRXLoadCustomColors(QStringList& colors);
-void VRXSaveCustomColors(const QStringList& colors);

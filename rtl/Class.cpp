@@ -29,7 +29,6 @@ TClass::TClass(TClassBuilder&& b)
       makeComponent_(b.makeComponent_),
       makePersistent_(b.makePersistent_),
       makeItem_(b.makeItem_),
-      isComponent_(b.isComponent_),
       own_(std::move(b.own_)) {
   BuildTables();
 }

@@ -44,8 +44,6 @@ class TClass {
   // The same, refusing with EPropertyError when there is none.
   const TPropInfo& GetProp(QByteArrayView name) const;
 
-  // Whether its objects are components: properties refer to them, and do not have them as a part.
-  bool IsComponent() const { return isComponent_; }
   bool IsAbstract() const { return !makeComponent_ && !makePersistent_ && !makeItem_; }
   // A new component owned by `owner`; with no owner, by the caller. Refuses abstract classes.
   TComponent* NewComponent(TComponent* owner) const;
@@ -71,7 +69,6 @@ class TClass {
   TComponent* (*makeComponent_)(TComponent*) = nullptr;
   std::unique_ptr<TPersistent> (*makePersistent_)() = nullptr;
   TPersistent* (*makeItem_)(TCollection*) = nullptr;
-  bool isComponent_ = false;
   std::vector<std::unique_ptr<TPropInfo>> own_;
   std::vector<const TPropInfo*> published_;
   std::vector<const TPropInfo*> hash_;  // open addressing, power-of-two size, names folded to lower case
@@ -226,7 +223,6 @@ class TClassBuilder {
 
   template <class C>
   void SetFactory() {
-    isComponent_ = std::is_base_of_v<TComponent, C>;
     if constexpr (std::is_base_of_v<TComponent, C>)
       makeEvent_ = []() -> std::shared_ptr<const TPropAccess> {
         return std::make_shared<rtl_detail::EventAccess<C>>();
@@ -289,7 +285,6 @@ class TClassBuilder {
   std::unique_ptr<TPersistent> (*makePersistent_)() = nullptr;
   TPersistent* (*makeItem_)(TCollection*) = nullptr;
   std::shared_ptr<const TPropAccess> (*makeEvent_)() = nullptr;
-  bool isComponent_ = false;
   std::vector<std::unique_ptr<TPropInfo>> own_;
 };
 

@@ -25,7 +25,6 @@ class TCollection : public TOwnedPersistent, public IStreamedContent {
   explicit TCollection(const TClass& itemClass, TPersistent* owner = nullptr);
   ~TCollection() override;
 
-  const TClass& ItemClass() const { return itemClass_; }
   int Count() const { return static_cast<int>(items_.size()); }
   TCollectionItem* Item(int index) const { return items_.at(static_cast<std::size_t>(index)).get(); }
   TCollectionItem* Add();

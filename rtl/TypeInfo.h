@@ -69,7 +69,6 @@ class TSet {
   }
   constexpr bool Contains(E e) const { return (bits_ & Bit(e)) != 0; }
   constexpr void Include(E e) { bits_ |= Bit(e); }
-  constexpr void Exclude(E e) { bits_ &= ~Bit(e); }
   constexpr std::uint64_t Bits() const { return bits_; }
   constexpr bool operator==(const TSet&) const = default;
 
