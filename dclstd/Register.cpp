@@ -1,11 +1,22 @@
 #include "dclstd/StandardEditors.h"
 #include "designintf/RegistrationTable.h"
-#include "rtl/ClassRegistry.h"
 #include "rtl/Strings.h"
+#include "vcl/Action.h"
 #include "vcl/Button.h"
+#include "vcl/CheckBox.h"
+#include "vcl/ComboBox.h"
+#include "vcl/Edit.h"
 #include "vcl/Form.h"
+#include "vcl/GlyphButton.h"
+#include "vcl/GroupBox.h"
+#include "vcl/Image.h"
 #include "vcl/Label.h"
+#include "vcl/ListBox.h"
+#include "vcl/Memo.h"
+#include "vcl/Menu.h"
 #include "vcl/Panel.h"
+#include "vcl/Shape.h"
+#include "vcl/StaticText.h"
 #include "vcl/Timer.h"
 
 using namespace registration;
@@ -17,8 +28,14 @@ const TTypeInfo& ComponentNameType() { return *TComponent::StaticClass().GetProp
 const TTypeInfo& ModalResultType() { return *TButton::StaticClass().GetProp("ModalResult").PropType; }
 
 const Row kRows[] = {
-    Page("Standard", TellingClasses<TLabel, TButton, TPanel>()),
-    Page("System", TellingClasses<TTimer>()),
+    Page("Standard",
+         TellingClasses<TMainMenu, TPopupMenu, TLabel, TEdit, TMemo, TButton, TCheckBox, TRadioButton,
+                        TListBox, TComboBox, TGroupBox, TRadioGroup, TPanel, TActionList>()),
+    Page("Additional",
+         TellingClasses<TBitBtn, TSpeedButton, TImage, TShape, TBevel, TCheckListBox, TStaticText>()),
+    Page("Common Controls", TellingClasses<TImageList>()),
+    Page("System", TellingClasses<TTimer, TPaintBox>()),
+    Unplaced(TellingClasses<TForm, TMenuItem, TAction>()),
 
     Property<TColor, TColorProperty>(),
     Property<TCursor, TCursorProperty>(),
@@ -41,8 +58,6 @@ const Row kRows[] = {
 }  // namespace
 
 void RegisterStandard(DesignRegistry& registry) {
-  RegisterClass(TForm::StaticClass());
-  PromiseTelling(TForm::StaticClass());
   const RegistrationScope scope(registry, nullptr, {});
   MakeCalls(kRows);
 }

@@ -22,6 +22,11 @@ void MakeCalls(std::span<const Row> rows) {
 Row Page(const char* name, ClassList classes) {
   return Row([=] { RegisterComponents(QString::fromLatin1(name), Described(classes)); });
 }
+Row Unplaced(ClassList classes) {
+  return Row([=] {
+    for (const TClass* cls : Described(classes)) RegisterClass(*cls);
+  });
+}
 Row Actions(const char* category, ClassList classes) {
   return Row([=] { RegisterActions(QString::fromLatin1(category), Described(classes), nullptr); });
 }

@@ -51,6 +51,8 @@ ClassList TellingClasses() {
   return {{&T::StaticClass...}, true};
 }
 Row Page(const char* name, ClassList classes);
+// Known to forms, but on no page.
+Row Unplaced(ClassList classes);
 Row Actions(const char* category, ClassList classes);
 
 namespace detail {

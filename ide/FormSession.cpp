@@ -6,6 +6,7 @@
 #include "designintf/DesignWindow.h"
 #include "forms/FormFile.h"
 #include "rtl/Exceptions.h"
+#include "rtl/PropAccess.h"
 
 FormSession::FormSession(forms::Document document, FileOnDisk file, DesignRegistry& registry)
     : form_(std::move(document), registry, *this), file_(std::move(file)) {}
@@ -133,7 +134,7 @@ void FormSession::GetMethods(const TTypeInfo& eventType, const TGetStrProc& proc
   for (const TComponent* c : AllComponents())
     for (const TPropInfo* p : c->ClassType().Properties())
       if (p->IsEvent() && p->PropType->Name == eventType.Name)
-        if (const QString handler = c->MethodName(*p->Access);
+        if (const QString handler = GetMethodProp(*c, *p);
             !handler.isEmpty() && !handlers.contains(handler))
           handlers << handler;
   for (const QString& handler : handlers) proc(handler);
@@ -142,7 +143,7 @@ void FormSession::GetMethods(const TTypeInfo& eventType, const TGetStrProc& proc
 bool FormSession::MethodExists(const QString& name) const {
   for (const TComponent* c : AllComponents())
     for (const TPropInfo* p : c->ClassType().Properties())
-      if (p->IsEvent() && c->MethodName(*p->Access).compare(name, Qt::CaseInsensitive) == 0) return true;
+      if (p->IsEvent() && GetMethodProp(*c, *p).compare(name, Qt::CaseInsensitive) == 0) return true;
   return false;
 }
 

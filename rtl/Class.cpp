@@ -137,8 +137,8 @@ const TTypeInfo& EventType(const char* name) {
 }  // namespace
 
 void TClassBuilder::AddEvent(TPropVisibility visibility, const char* name, const char* type) {
-  if (!makeEvent_) qFatal("%s is no component and cannot have the event \"%s\"", name_.constData(), name);
-  AddInfo(visibility, name, EventType(type), makeEvent_(), false, {});
+  if (!makeEvent_) qFatal("%s keeps nothing and cannot have the event \"%s\"", name_.constData(), name);
+  AddInfo(visibility, name, EventType(type), makeEvent_(name), false, {});
 }
 
 TClassBuilder&& TClassBuilder::Event(const char* name, const char* type) && {
@@ -162,6 +162,13 @@ void TClassBuilder::RepublishWith(const char* name, std::optional<std::int64_t> 
 
 TClassBuilder&& TClassBuilder::Publish(const char* name) && {
   RepublishWith(name, {});
+  return std::move(*this);
+}
+
+TClassBuilder&& TClassBuilder::Alphabetical() && {
+  std::stable_sort(own_.begin(), own_.end(), [](const auto& a, const auto& b) {
+    return a->IsEvent() != b->IsEvent() ? b->IsEvent() : a->Name.compare(b->Name, Qt::CaseInsensitive) < 0;
+  });
   return std::move(*this);
 }
 

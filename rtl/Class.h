@@ -14,8 +14,10 @@
 #include <vector>
 
 #include "rtl/PropInfo.h"
+#include "rtl/PropWire.h"
 
 class TComponent;
+class TKeeper;
 class TCollection;
 class TClassBuilder;
 
@@ -75,56 +77,6 @@ class TClass {
 };
 
 namespace rtl_detail {
-template <class T>
-using Bare = std::remove_cvref_t<T>;
-
-template <class T>
-constexpr bool IsObject = std::is_pointer_v<T>&& std::derived_from<std::remove_pointer_t<T>, TPersistent>;
-
-// The alternative of TPropValue that a C++ type travels as.
-template <class T>
-constexpr auto Alternative() {
-  if constexpr (IsObject<T>)
-    return std::conditional_t<std::is_base_of_v<TComponent, std::remove_pointer_t<T>>, TReference, TPart>();
-  else if constexpr (std::same_as<T, QString> || std::same_as<T, QByteArray>)
-    return T();
-  else if constexpr (std::is_floating_point_v<T> || std::same_as<T, TCurrency> || std::same_as<T, TDateTime>)
-    return 0.0L;
-  else
-    return std::int64_t{0};
-}
-template <class T>
-using Wire = decltype(Alternative<T>());
-
-template <class T>
-Wire<T> ToWire(const T& v) {
-  if constexpr (std::same_as<T, TCurrency>)
-    return static_cast<long double>(v.Scaled) / 10000.0L;
-  else if constexpr (std::same_as<T, TDateTime>)
-    return v.Days;
-  else if constexpr (IsObject<T>)
-    return {v};
-  else if constexpr (requires { v.Bits(); })
-    return static_cast<std::int64_t>(v.Bits());
-  else
-    return static_cast<Wire<T>>(v);
-}
-template <class T>
-decltype(auto) FromWire(const Wire<T>& v) {
-  if constexpr (std::same_as<T, TCurrency>)
-    return TCurrency{static_cast<std::int64_t>(v < 0 ? v * 10000.0L - 0.5L : v * 10000.0L + 0.5L)};
-  else if constexpr (std::same_as<T, TDateTime>)
-    return TDateTime{static_cast<double>(v)};
-  else if constexpr (IsObject<T>)
-    return static_cast<T>(v.Object);
-  else if constexpr (requires { T::FromBits(0); })
-    return T::FromBits(static_cast<std::uint64_t>(v));
-  else if constexpr (std::same_as<T, Wire<T>>)
-    return (v);
-  else
-    return static_cast<T>(v);
-}
-
 // An accessor over a pair of members (functions or a field); the setter may be nullptr.
 template <class C, class T, class G, class S>
 struct Member final : TAccess<Wire<T>> {
@@ -145,22 +97,28 @@ struct Member final : TAccess<Wire<T>> {
   }
 };
 
-// Handlers live in the component, keyed by this object.
-template <class C>
-struct EventAccess final : TAccess<THandler> {
-  THandler Get(const TPersistent& p) const override { return {static_cast<const C&>(p).MethodName(*this)}; }
-  void Set(TPersistent& p, const THandler& v) const override {
-    static_cast<C&>(p).SetMethodName(*this, v.Name);
+// A value that the object keeps by property (rtl/Kept.h).
+template <class T, class K = TKeeper>
+struct KeptAccess : TAccess<Wire<T>> {
+  explicit KeptAccess(const TKept<T>& property) : kept(property) {}
+  Wire<T> Get(const TPersistent& p) const override { return ToWire<T>(static_cast<const K&>(p).Get(kept)); }
+  void Set(TPersistent& p, typename TAccess<Wire<T>>::Arg v) const override {
+    if constexpr (std::same_as<Wire<T>, TPart>)
+      static_cast<K&>(p).Get(kept)->Assign(v.Object);
+    else
+      static_cast<K&>(p).Set(kept, FromWire<T>(v));
   }
+  bool IsUntouched(const TPersistent& p) const override {
+    return std::same_as<Wire<T>, TPart> && !static_cast<const K&>(p).IsKept(&kept);
+  }
+  const TKept<T>& kept;
 };
-
+// The same for what nothing but editors and form files ask for: the handlers of events, for one.
 template <class T>
-const TTypeInfo& TypeOf() {
-  if constexpr (IsObject<T>)
-    return std::remove_pointer_t<T>::StaticTypeInfo();
-  else
-    return TypeInfoOf<T>::Get();
-}
+struct PassiveAccess final : private TKept<T>, public KeptAccess<T> {
+  explicit PassiveAccess(const TKept<T>& property)
+      : TKept<T>(property), KeptAccess<T>(static_cast<const TKept<T>&>(*this)) {}
+};
 }  // namespace rtl_detail
 
 class TClassBuilder {
@@ -187,6 +145,50 @@ class TClassBuilder {
     Add(TPropVisibility::Streamed, name, getter, setter, def...);
     return std::move(*this);
   }
+  // Values that the object keeps.
+  template <class T>
+  TClassBuilder&& Published(const TKept<T>& property) && {
+    AddKept(TPropVisibility::Published, property, std::make_shared<rtl_detail::KeptAccess<T>>(property));
+    return std::move(*this);
+  }
+  template <class T>
+  TClassBuilder&& Declared(const TKept<T>& property) && {
+    AddKept(TPropVisibility::Declared, property, std::make_shared<rtl_detail::KeptAccess<T>>(property));
+    return std::move(*this);
+  }
+  template <class... T>
+  TClassBuilder&& PublishedAll(const TKept<T>&... properties) && {
+    (static_cast<void>(std::move(*this).Published(properties)), ...);
+    return std::move(*this);
+  }
+  template <class... T>
+  TClassBuilder&& DeclaredAll(const TKept<T>&... properties) && {
+    (static_cast<void>(std::move(*this).Declared(properties)), ...);
+    return std::move(*this);
+  }
+  // What no code asks for: it is kept, shown, edited and written.
+  template <class T>
+  TClassBuilder&& Passive(const char* name, T def) && {
+    AddPassive<T>(TPropVisibility::Published, {name, def});
+    return std::move(*this);
+  }
+  template <class T>
+  TClassBuilder&& Passive(const char* name) && {
+    AddPassive<T>(TPropVisibility::Published, {name});
+    return std::move(*this);
+  }
+  template <class T>
+  TClassBuilder&& DeclaredPassive(const char* name, T def) && {
+    AddPassive<T>(TPropVisibility::Declared, {name, def});
+    return std::move(*this);
+  }
+  template <class T>
+  TClassBuilder&& DeclaredPassive(const char* name) && {
+    AddPassive<T>(TPropVisibility::Declared, {name});
+    return std::move(*this);
+  }
+  // What has been added so far in the order of the alphabet, events last.
+  TClassBuilder&& Alphabetical() &&;
   // An event of a component: a handler name that needs no accessors.
   TClassBuilder&& Event(const char* name, const char* type = "TNotifyEvent") &&;
   TClassBuilder&& DeclaredEvent(const char* name, const char* type = "TNotifyEvent") &&;
@@ -223,9 +225,10 @@ class TClassBuilder {
 
   template <class C>
   void SetFactory() {
-    if constexpr (std::is_base_of_v<TComponent, C>)
-      makeEvent_ = []() -> std::shared_ptr<const TPropAccess> {
-        return std::make_shared<rtl_detail::EventAccess<C>>();
+    if constexpr (std::is_base_of_v<TKeeper, C>)
+      makeEvent_ = [](const char* name) -> std::shared_ptr<const TPropAccess> {
+        using Access = rtl_detail::PassiveAccess<std::conditional_t<true, THandler, C>>;
+        return std::make_shared<Access>(TKept<THandler>{name});
       };
     if constexpr (std::is_abstract_v<C>) {
     } else if constexpr (std::is_base_of_v<TComponent, C>) {
@@ -245,6 +248,18 @@ class TClassBuilder {
   TPropInfo& Last() { return *own_.back(); }
   void AddInfo(TPropVisibility visibility, const char* name, const TTypeInfo& type,
                std::shared_ptr<const TPropAccess> access, bool readOnly, std::optional<std::int64_t> def);
+  template <class T>
+  void AddKept(TPropVisibility visibility, const TKept<T>& property,
+               std::shared_ptr<const TPropAccess> access) {
+    using namespace rtl_detail;
+    std::optional<std::int64_t> def;
+    if constexpr (std::same_as<Wire<T>, std::int64_t>) def = ToWire<T>(property.Default);
+    AddInfo(visibility, property.Name, TypeOf<T>(), std::move(access), std::same_as<Wire<T>, TPart>, def);
+  }
+  template <class T>
+  void AddPassive(TPropVisibility visibility, TKept<T> property) {
+    AddKept(visibility, property, std::make_shared<rtl_detail::PassiveAccess<T>>(property));
+  }
   void AddEvent(TPropVisibility visibility, const char* name, const char* type);
   void RepublishWith(const char* name, std::optional<std::int64_t> def);
   void PublishEach(const char* name) { RepublishWith(name, {}); }
@@ -284,7 +299,7 @@ class TClassBuilder {
   TComponent* (*makeComponent_)(TComponent*) = nullptr;
   std::unique_ptr<TPersistent> (*makePersistent_)() = nullptr;
   TPersistent* (*makeItem_)(TCollection*) = nullptr;
-  std::shared_ptr<const TPropAccess> (*makeEvent_)() = nullptr;
+  std::shared_ptr<const TPropAccess> (*makeEvent_)(const char*) = nullptr;
   std::vector<std::unique_ptr<TPropInfo>> own_;
 };
 

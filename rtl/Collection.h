@@ -3,7 +3,7 @@
 #include "rtl/Component.h"
 #include "rtl/StreamedContent.h"
 
-class TCollectionItem : public TPersistent {
+class TCollectionItem : public TKeeper {
   VRX_CLASS(TCollectionItem)
  public:
   // Appends itself to the collection, which owns it from then on.

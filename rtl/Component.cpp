@@ -173,17 +173,10 @@ void TComponent::Notification(TComponent* component, TOperation operation) {
       SetObjectProp(*this, *prop, nullptr);
 }
 
-QString TComponent::MethodName(const TPropAccess& event) const {
-  for (const auto& [key, handler] : methods_)
-    if (key == &event) return handler;
-  return {};
-}
-
-void TComponent::SetMethodName(const TPropAccess& event, const QString& handler) {
-  if (MethodName(event) == handler) return;
-  Changing();
-  std::erase_if(methods_, [&](const auto& m) { return m.first == &event; });
-  if (!handler.isEmpty()) methods_.emplace_back(&event, handler);
+void TComponent::ReferenceChanged(TPersistent* before, TPersistent* after) {
+  auto *was = As<TComponent>(before), *now = As<TComponent>(after);
+  if (was && !RefersTo(*was) && !was->RefersTo(*this)) was->RemoveFreeNotification(this);
+  if (now) now->FreeNotification(this);
 }
 
 void TComponent::SetDesignLeft(int left) {

@@ -6,7 +6,7 @@
 
 #include "rtl/Class.h"
 #include "rtl/NotifyList.h"
-#include "rtl/Persistent.h"
+#include "rtl/Kept.h"
 
 // Where a designer shows the icon of a component that is not a control: the design-time position word with
 // left in its low and top in its high 16 bits, both signed.
@@ -36,7 +36,7 @@ struct TNameKey {
   }
 };
 
-class TComponent : public TPersistent {
+class TComponent : public TKeeper {
   VRX_CLASS(TComponent)
  public:
   explicit TComponent(TComponent* owner);
@@ -92,10 +92,6 @@ class TComponent : public TPersistent {
   // `component`, which asked or was asked for a free notification, is going: references to it are dropped.
   virtual void Notification(TComponent* component, TOperation operation);
 
-  // The name of the handler that an event has here.
-  QString MethodName(const TPropAccess& event) const;
-  void SetMethodName(const TPropAccess& event, const QString& handler);
-
  protected:
   bool AssignsProperty(const TPropInfo& prop) const override { return prop.Name != "Name"; }
   void DoChanging() override;
@@ -104,6 +100,8 @@ class TComponent : public TPersistent {
   // watches. `component` may be half made or half freed when it comes or goes.
   virtual void ComponentChanging(TComponent& component);
   virtual void ComponentListed(TComponent& component, TOperation operation);
+  // Keeps free notifications in step with the references that are kept.
+  void ReferenceChanged(TPersistent* before, TPersistent* after) override;
   // Called for derived classes after a new name is in place.
   virtual void NameChanged(const QString& oldName);
 
@@ -119,7 +117,6 @@ class TComponent : public TPersistent {
   TComponent* owner_ = nullptr;
   std::vector<TComponent*> components_;
   TNotifyList freeNotifies_;
-  std::vector<std::pair<const TPropAccess*, QString>> methods_;
   std::unique_ptr<QHash<TNameKey, TComponent*>> names_;  // of owned components; the keys are their names
   QString name_;
   std::int64_t tag_ = 0;

@@ -142,6 +142,7 @@ bool PartAtDefault(const TPersistent& part) {
 bool IsDefaultValue(const TPersistent& instance, const TPropInfo& prop) {
   if (prop.IsOrdinal()) return prop.Default && GetOrdProp(instance, prop) == *prop.Default;
   if (!prop.IsPart()) return GetProp(instance, prop) == prop.Access->Nothing();
+  if (prop.Access->IsUntouched(instance)) return true;
   const TPersistent* part = GetObjectProp(instance, prop);
   return !part || PartAtDefault(*part);
 }
@@ -156,7 +157,8 @@ void ResetProp(TPersistent& instance, const TPropInfo& prop) {
   if (!prop.IsWritable()) return;
   if (!prop.IsPart()) {
     if (const auto value = DefaultOf(prop)) SetProp(instance, prop, *value);
-  } else if (TPersistent* part = GetObjectProp(instance, prop)) {
+  } else if (TPersistent* part =
+                 prop.Access->IsUntouched(instance) ? nullptr : GetObjectProp(instance, prop)) {
     const TUpdateLock lock(*part);
     if (auto* content = As<IStreamedContent>(part)) content->ClearContent();
     for (const TPropInfo* p : part->ClassType().Properties()) ResetProp(*part, *p);
@@ -167,6 +169,7 @@ bool SameValues(const TPersistent& a, const TPersistent& b) {
   const auto& all = a.ClassType().Properties();
   return std::all_of(all.begin(), all.end(), [&](const TPropInfo* prop) {
     if (!prop->IsPart()) return GetProp(a, *prop) == GetProp(b, *prop);
+    if (prop->Access->IsUntouched(a) && prop->Access->IsUntouched(b)) return true;
     const TPersistent *first = GetObjectProp(a, *prop), *second = GetObjectProp(b, *prop);
     return first == second || (first && second && SameValues(*first, *second));
   });

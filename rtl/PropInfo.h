@@ -16,6 +16,8 @@ class TPropAccess {
   virtual void Write(TPersistent& instance, const TPropValue& value) const = 0;
   // Zero, empty or null.
   virtual TPropValue Nothing() const = 0;
+  // A part that nobody has asked this instance for yet; it is at its default.
+  virtual bool IsUntouched(const TPersistent&) const { return false; }
   std::size_t Alternative() const { return alternative_; }
 
  protected:

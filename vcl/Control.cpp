@@ -4,6 +4,8 @@
 
 #include "rtl/Exceptions.h"
 #include "rtl/IntegerConsts.h"
+#include "vcl/Action.h"
+#include "vcl/Menu.h"
 
 namespace {
 struct CursorRow {
@@ -91,6 +93,30 @@ const TClass& TControl::StaticClass() {
           .Doc(QStringLiteral("Whether the hint is shown."))
           .Declared("Visible", &TControl::Visible, &TControl::SetVisible, true)
           .Doc(QStringLiteral("Whether the control is shown when the program runs."))
+          .Declared(Action)
+          .Type(TBasicAction::StaticTypeInfo())
+          .Doc(QStringLiteral("The command that the control stands for; it gives text, picture and state."))
+          .Declared(AlignWithMargins)
+          .Doc(QStringLiteral("Keeps the margins when the control is aligned."))
+          .DeclaredPassive("BiDiMode", TBiDiMode::bdLeftToRight)
+          .Declared(Constraints)
+          .Doc(QStringLiteral("The smallest and largest size."))
+          .DeclaredPassive("DragCursor", TCursor{-12})
+          .DeclaredPassive("DragKind", TDragKind::dkDrag)
+          .DeclaredPassive("DragMode", TDragMode::dmManual)
+          .DeclaredPassive("HelpContext", 0)
+          .DeclaredPassive<QString>("HelpKeyword")
+          .DeclaredPassive("HelpType", THelpType::htContext)
+          .Declared(Margins)
+          .Doc(QStringLiteral("What the control keeps free around it."))
+          .DeclaredPassive("ParentBiDiMode", true)
+          .DeclaredPassive("ParentCustomHint", true)
+          .Declared(PopupMenu)
+          .Type(TPopupMenu::StaticTypeInfo())
+          .Doc(QStringLiteral("The menu that a right click opens."))
+          .DeclaredPassive("StyleElements", TStyleElements{TStyleElement::seFont, TStyleElement::seClient,
+                                                           TStyleElement::seBorder})
+          .DeclaredPassive<QString>("StyleName")
           .DeclaredEvent("OnClick")
           .DeclaredEvent("OnDblClick")
           .DeclaredEvent("OnMouseDown", "TMouseEvent")
@@ -98,7 +124,20 @@ const TClass& TControl::StaticClass() {
           .DeclaredEvent("OnMouseUp", "TMouseEvent")
           .DeclaredEvent("OnMouseEnter")
           .DeclaredEvent("OnMouseLeave")
-          .DeclaredEvent("OnResize"));
+          .DeclaredEvent("OnCanResize", "TCanResizeEvent")
+          .DeclaredEvent("OnConstrainedResize", "TConstrainedResizeEvent")
+          .DeclaredEvent("OnContextPopup", "TContextPopupEvent")
+          .DeclaredEvent("OnDragDrop", "TDragDropEvent")
+          .DeclaredEvent("OnDragOver", "TDragOverEvent")
+          .DeclaredEvent("OnEndDock", "TEndDragEvent")
+          .DeclaredEvent("OnEndDrag", "TEndDragEvent")
+          .DeclaredEvent("OnMouseActivate", "TMouseActivateEvent")
+          .DeclaredEvent("OnMouseWheel", "TMouseWheelEvent")
+          .DeclaredEvent("OnMouseWheelDown", "TMouseWheelUpDownEvent")
+          .DeclaredEvent("OnMouseWheelUp", "TMouseWheelUpDownEvent")
+          .DeclaredEvent("OnResize")
+          .DeclaredEvent("OnStartDock", "TStartDockEvent")
+          .DeclaredEvent("OnStartDrag", "TStartDragEvent"));
   return cls;
 }
 

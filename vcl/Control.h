@@ -5,20 +5,16 @@
 
 #include "rtl/Component.h"
 #include "vcl/Canvas.h"
+#include "vcl/Constraints.h"
+#include "vcl/ControlTypes.h"
 #include "vcl/Font.h"
 #include "vcl/Layout.h"
+#include "vcl/Margins.h"
+#include "vcl/Painters.h"
 
 class TWinControl;
 class TControl;
 
-enum class TAlignment : std::uint8_t { taLeftJustify, taRightJustify, taCenter };
-enum class TCursor : std::int16_t {};
-
-VRX_ENUM(TAlignment, {"taLeftJustify", "taRightJustify", "taCenter"})
-template <>
-struct TypeInfoOf<TCursor> {
-  static const TTypeInfo& Get();
-};
 int AlignmentFlag(TAlignment alignment);  // Qt::AlignmentFlag
 const TTypeInfo& CaptionType();           // "TCaption", a string shown on a control
 
@@ -104,6 +100,12 @@ class TControl : public TComponent {
   TCursor Cursor() const { return cursor_; }
   void SetCursor(TCursor v) { Change(cursor_, v); }
 
+  static constexpr TKept<TComponent*> Action{"Action"};
+  static constexpr TKept<bool> AlignWithMargins{"AlignWithMargins", false};
+  static constexpr TKept<TSizeConstraints*> Constraints{"Constraints"};
+  static constexpr TKept<TMargins*> Margins{"Margins"};
+  static constexpr TKept<TComponent*> PopupMenu{"PopupMenu"};
+
   // Whether a designer may place other controls inside.
   virtual bool AcceptsControls() const { return false; }
   virtual void Paint(TCanvas& canvas) = 0;
@@ -133,6 +135,13 @@ class TControl : public TComponent {
   void ComponentChanging(TComponent& component) override;
   void ComponentListed(TComponent& component, TOperation operation) override;
   void NameChanged(const QString& oldName) override;
+  // The colour that a control of this class has unless it is given another; for constructors.
+  void StartWith(TColor color) {
+    color_ = color;
+    parentColor_ = false;
+  }
+  // For painters: enabled or not.
+  TPartStates PartStates() const { return enabled_ ? TPartStates() : TPartStates{TPartState::Disabled}; }
   // The size the content asks for; the current one when the control does not size itself.
   virtual QSize AutoSizeHint() const { return {width_, height_}; }
   // The edge that stays when the content grows.
@@ -190,6 +199,14 @@ class TWinControl : public TControl {
   int ControlIndex(const TControl* control) const;
   void SetControlIndex(TControl* control, int index);
   std::vector<TComponent*> GetChildren() const override;
+
+  static constexpr TKept<TBevelEdges> BevelEdges{
+      "BevelEdges", {TBevelEdge::beLeft, TBevelEdge::beTop, TBevelEdge::beRight, TBevelEdge::beBottom}};
+  static constexpr TKept<TBevelCut> BevelInner{"BevelInner", TBevelCut::bvRaised};
+  static constexpr TKept<TBevelKind> BevelKind{"BevelKind", TBevelKind::bkNone};
+  static constexpr TKept<TBevelCut> BevelOuter{"BevelOuter", TBevelCut::bvLowered};
+  static constexpr TKept<int> BevelWidth{"BevelWidth", 1};
+  static constexpr TKept<TPadding*> Padding{"Padding"};
 
   int TabOrder() const { return tabOrder_; }
   void SetTabOrder(int v) { Change(tabOrder_, v); }

@@ -20,6 +20,7 @@ enum class TPartState : std::uint8_t {
 };
 using TPartStates = TSet<TPartState>;
 enum class TCheckBoxState : std::uint8_t { cbUnchecked, cbChecked, cbGrayed };
+VRX_ENUM(TCheckBoxState, {"cbUnchecked", "cbChecked", "cbGrayed"})
 
 void PaintButton(TCanvas& canvas, const QRect& rect, TPartStates states, const QString& text,
                  const TFont* font);

@@ -2,9 +2,6 @@
 #pragma once
 #include "vcl/Control.h"
 
-enum class TBevelCut : std::uint8_t { bvNone, bvLowered, bvRaised, bvSpace };
-VRX_ENUM(TBevelCut, {"bvNone", "bvLowered", "bvRaised", "bvSpace"})
-
 class TPanel : public TWinControl {
   VRX_CLASS(TPanel)
  public:

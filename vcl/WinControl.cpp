@@ -10,11 +10,26 @@ const TClass& TWinControl::StaticClass() {
                               .Doc(QStringLiteral("Place in the order in which Tab visits the controls."))
                               .Declared("TabStop", &TWinControl::TabStop, &TWinControl::SetTabStop, false)
                               .Doc(QStringLiteral("Whether Tab stops here."))
+                              .DeclaredAll(BevelEdges, BevelInner, BevelKind, BevelOuter, BevelWidth)
+                              .DeclaredPassive("Ctl3D", true)
+                              .DeclaredPassive("DockSite", false)
+                              .DeclaredPassive("DoubleBuffered", false)
+                              .DeclaredPassive("ImeMode", TImeMode::imDontCare)
+                              .DeclaredPassive<QString>("ImeName")
+                              .Declared(Padding)
+                              .DeclaredPassive("ParentBackground", true)
+                              .DeclaredPassive("ParentCtl3D", true)
+                              .DeclaredPassive("ParentDoubleBuffered", true)
+                              .DeclaredPassive("UseDockManager", false)
+                              .DeclaredEvent("OnDockDrop", "TDockDropEvent")
+                              .DeclaredEvent("OnDockOver", "TDockOverEvent")
                               .DeclaredEvent("OnEnter")
                               .DeclaredEvent("OnExit")
+                              .DeclaredEvent("OnGetSiteInfo", "TGetSiteInfoEvent")
                               .DeclaredEvent("OnKeyDown", "TKeyEvent")
                               .DeclaredEvent("OnKeyPress", "TKeyPressEvent")
-                              .DeclaredEvent("OnKeyUp", "TKeyEvent"));
+                              .DeclaredEvent("OnKeyUp", "TKeyEvent")
+                              .DeclaredEvent("OnUnDock", "TUnDockEvent"));
   return cls;
 }
 

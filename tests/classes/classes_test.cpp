@@ -307,11 +307,14 @@ TEST_P(EveryClass, AssignMakesTheValuesEqual) {
     Stage source(Class()), target(Class());
     const QByteArrayList changed = ChangeSome(source, random, 1 + seed % 6);
     target.subject->Assign(source.subject);
-    // A control that sizes itself has the size of its content, whatever somebody set it to for a moment.
+    // A control that sizes itself has the size of its content, whatever somebody set it to for a moment; with
+    // the size goes the place of what is aligned.
     const auto* control = dynamic_cast<const TControl*>(source.subject);
     const bool sizesItself = control && control->AutoSize();
+    const bool isPlaced = sizesItself && control->Align() != TAlign::alNone;
     for (const QByteArray& path : ValuePaths(*target.subject)) {
       if (sizesItself && (path == "Width" || path == "Height")) continue;
+      if (isPlaced && (path == "Left" || path == "Top")) continue;
       ASSERT_EQ(ValueText(*target.subject, path), ValueText(*source.subject, path))
           << path.constData() << " after changing " << Joined(changed);
     }

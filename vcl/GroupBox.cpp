@@ -1,0 +1,86 @@
+#include "vcl/GroupBox.h"
+
+#include "rtl/Class.h"
+#include "vcl/Painters.h"
+#include "vcl/PropertyGroups.h"
+
+const TClass& TCustomGroupBox::StaticClass() {
+  static const TClass cls(DescribeClass<TCustomGroupBox>("TCustomGroupBox", TWinControl::StaticClass()));
+  return cls;
+}
+
+TCustomGroupBox::TCustomGroupBox(TComponent* owner) : TWinControl(owner) {
+  captionFollowsName_ = true;
+  SetBounds(0, 0, 185, 105);
+}
+
+QRect TCustomGroupBox::PaintFrame(TCanvas& canvas) const {
+  canvas.FillRect(ClientRect(), Color());
+  return PaintGroupFrame(canvas, ClientRect(), PartStates(), Caption(), *Font());
+}
+
+void TCustomGroupBox::Paint(TCanvas& canvas) { PaintFrame(canvas); }
+
+const TClass& TGroupBox::StaticClass() {
+  static const TClass cls(
+      DescribeClass<TGroupBox>("TGroupBox", TCustomGroupBox::StaticClass())
+          .PublishAll(Placing, Look, ParentLook, Hints, Placement, Direction, Dragging, Windowed, Help,
+                      Styling, WheelEvents, Container, "AutoSize", "Caption", MouseEvents, FocusEvents,
+                      DragEvents)
+          .Alphabetical()
+          .ClassDoc(QStringLiteral("A frame with a title around controls that belong together."),
+                    "pen line 1.5 brush fill box 3 6.5 18 13 2 pen accent 2 path 6 6.5 13 6.5"));
+  return cls;
+}
+
+const TClass& TChoiceGroup::StaticClass() {
+  static const TTypeInfo columns = OrdinalType("TColumnCount", 1, 16);
+  static const TClass cls(DescribeClass<TChoiceGroup>("TChoiceGroup", TCustomGroupBox::StaticClass())
+                              .Declared(Columns)
+                              .Type(columns)
+                              .Declared(Items)
+                              .Declared(WordWrap));
+  return cls;
+}
+
+TChoiceGroup::TChoiceGroup(TComponent* owner) : TCustomGroupBox(owner) { tabStop_ = true; }
+
+void TChoiceGroup::Paint(TCanvas& canvas) {
+  const QRect inside = PaintFrame(canvas).adjusted(6, 0, -2, -2);
+  const QStringList& items = Get(Items)->Lines();
+  const int count = static_cast<int>(items.size());
+  if (count == 0) return;
+  const int columns = std::min(Get(Columns), count), rows = (count + columns - 1) / columns;
+  const int mark = CheckMarkSize().width();
+  for (int i = 0; i < count; ++i) {
+    const QRect cell(inside.left() + i / rows * inside.width() / columns,
+                     inside.top() + i % rows * inside.height() / rows, inside.width() / columns,
+                     inside.height() / rows);
+    PaintItemMark(canvas, QRect(cell.left(), cell.top(), mark, cell.height()), i);
+    canvas.TextRect(cell.adjusted(mark + 5, 0, 0, 0), Qt::AlignVCenter | Qt::AlignLeft, items[i], *Font(),
+                    Enabled());
+  }
+}
+
+const TClass& TCustomRadioGroup::StaticClass() {
+  static const TClass cls(
+      DescribeClass<TCustomRadioGroup>("TCustomRadioGroup", TChoiceGroup::StaticClass()).Declared(ItemIndex));
+  return cls;
+}
+
+void TCustomRadioGroup::PaintItemMark(TCanvas& canvas, const QRect& rect, int index) const {
+  PaintRadioMark(canvas, rect, PartStates(), index == Get(ItemIndex));
+}
+
+const TClass& TRadioGroup::StaticClass() {
+  static const TClass cls(
+      DescribeClass<TRadioGroup>("TRadioGroup", TCustomRadioGroup::StaticClass())
+          .PublishAll(Placing, Look, ParentLook, Hints, Placement, Direction, Dragging, Windowed, Help,
+                      Styling, WheelEvents, Container, "AutoSize", "Caption", "Columns", "ItemIndex", "Items",
+                      "WordWrap", "OnClick", FocusEvents, DragEvents)
+          .Publish("TabStop", true)
+          .Alphabetical()
+          .ClassDoc(QStringLiteral("Choices that exclude each other, in a frame."),
+                    "pen line 1.5 brush fill box 3 5.5 18 15 2 pen accent 2 path 6 5.5 12 5.5"));
+  return cls;
+}
