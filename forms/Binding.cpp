@@ -165,11 +165,7 @@ void ApplyValue(const PropertyTarget& t, const Value& v, const Document& doc,
       [&](TReference) {
         if (v.type == ValueType::Nil) return SetObjectProp(*t.instance, prop, nullptr);
         if (v.type != ValueType::Ident) Refuse(t, v, QStringLiteral("the name of a component is expected"));
-        pending.push_back({nullptr, t.instance, &prop,
-                           !pending.empty() && pending.back().target == v.bytes
-                               ? pending.back().target
-                               : QByteArray(v.bytes.constData(), v.bytes.size()),
-                           nullptr, nullptr});
+        AddReference(pending, t, v.bytes);
       },
       [&](TPart) { ApplyCollection(t, v, doc, pending); },
       [&](const QByteArray&) {
@@ -180,32 +176,49 @@ void ApplyValue(const PropertyTarget& t, const Value& v, const Document& doc,
 }
 
 namespace {
-TComponent* FindByPath(TComponent& scope, const QString& path) {
+TComponent* FindByPath(const TComponent& scope, const QString& path) {
   if (!path.contains(u'.')) return scope.FindComponent(path);
-  TComponent* at = &scope;
+  TComponent* at = nullptr;
   for (const QString& name : path.split(u'.')) {
-    at = at->FindComponent(name);
+    at = (at ? *at : scope).FindComponent(name);
     if (!at) return nullptr;
   }
   return at;
 }
 
+// The nearest around it that owns something, and so knows names.
+const TComponent* NameSpaceOf(const TPersistent* p) {
+  for (; p; p = p->GetOwner()) {
+    if (!p->InheritsFrom(TComponent::StaticClass())) continue;
+    const auto* component = static_cast<const TComponent*>(p);
+    if (!component->Components().empty()) return component;
+  }
+  return nullptr;
+}
+
 // The nearest enclosing name space that knows the name: a frame before the form.
-TComponent* FindReferenced(TComponent& root, const TPersistent& from, const QString& path) {
-  for (const TPersistent* p = &from; p; p = p->GetOwner())
-    if (auto* scope = As<TComponent>(const_cast<TPersistent*>(p)))
-      if (TComponent* found = FindByPath(*scope, path)) return found;
+TComponent* FindReferenced(TComponent& root, const TComponent* from, const QString& path) {
+  for (; from; from = NameSpaceOf(from->GetOwner()))
+    if (TComponent* found = FindByPath(*from, path)) return found;
   return root.Name().compare(path, Qt::CaseInsensitive) == 0 ? &root : nullptr;
 }
 }  // namespace
 
+void AddReference(std::vector<PendingReference>& pending, const PropertyTarget& target, QByteArrayView name) {
+  const bool same = !pending.empty() && pending.back().target == name;
+  pending.push_back({nullptr, target.instance, target.prop, same ? pending.back().target : name.toByteArray(),
+                     nullptr, nullptr});
+}
+
 std::vector<PendingReference> ResolveReferences(TComponent& root, std::vector<PendingReference> pending) {
-  // Many refer to the same one.
-  QByteArray last;
-  QString path;
+  // Many refer to the same one from the same place.
+  QByteArray path;
+  const TComponent* from = nullptr;
+  TComponent* target = nullptr;
   std::erase_if(pending, [&](PendingReference& p) {
-    if (path.isNull() || p.target != last) path = QString::fromUtf8(last = p.target);
-    TComponent* target = FindReferenced(root, *p.instance, path);
+    const TComponent* space = NameSpaceOf(p.instance);
+    if (path.isNull() || p.target != path || space != from)
+      target = FindReferenced(root, from = space, QString::fromUtf8(path = p.target));
     if (!target || !target->InheritsFrom(p.prop->PropType->ClassType())) {
       p.unfit = target;
       return false;

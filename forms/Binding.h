@@ -41,6 +41,8 @@ class EUnknownName : public EPropertyError {
  private:
   QByteArray type_, word_;
 };
+// Equal names in a row share their memory.
+void AddReference(std::vector<PendingReference>& pending, const PropertyTarget& target, QByteArrayView name);
 
 // The ordinal that a value stands for. Throws like ApplyValue.
 std::int64_t OrdinalOf(const PropertyTarget& target, const Value& value);

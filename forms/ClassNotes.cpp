@@ -10,6 +10,15 @@ bool Same(QByteArrayView a, QByteArrayView b) {
   return a.size() == b.size() && std::memcmp(a.data(), b.data(), static_cast<std::size_t>(a.size())) == 0;
 }
 bool OnlyBlanks(const char* p, const char* end) { return std::all_of(p, end, IsBlank); }
+// Empty for what is no name, or nothing but one.
+QByteArrayView PlainName(QByteArrayView text) {
+  const char *p = text.begin(), *end = text.end();
+  if (!IsIdentStart(*p)) return {};
+  const char* q = PlainIdent(p, end, nullptr);
+  const QByteArrayView name(p, q ? q : p);
+  if (!q || !OnlyBlanks(q, end) || Is(name, "nil") || Is(name, "true") || Is(name, "false")) return {};
+  return name;
+}
 // More different strings than this in a row, and the property hardly repeats any.
 constexpr int GiveUpAfter = 8;
 }  // namespace
@@ -38,12 +47,14 @@ bool KnownProperty::Apply(TPersistent& instance, QByteArrayView text) {
     SetStrProp(instance, *prop_, TextOf({p, q}));
     return true;
   }
-  if (!prop_->IsEvent() || !IsIdentStart(*p)) return false;
-  const char* q = PlainIdent(p, end, nullptr);
-  const QByteArrayView name(p, q ? q : p);
-  if (!q || !OnlyBlanks(q, end) || Is(name, "nil") || Is(name, "true") || Is(name, "false")) return false;
+  const QByteArrayView name = prop_->IsEvent() ? PlainName(text) : QByteArrayView();
+  if (name.isEmpty()) return false;
   SetMethodProp(instance, *prop_, TextOf(name));
   return true;
+}
+
+QByteArrayView KnownProperty::Referenced(QByteArrayView text) const {
+  return !text.isEmpty() && IsComponentRef(*prop_) ? PlainName(text) : QByteArrayView();
 }
 
 bool KnownProperty::ApplyOrdinal(TPersistent& instance, QByteArrayView text) {

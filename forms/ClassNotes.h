@@ -19,6 +19,9 @@ class KnownProperty {
   bool LeadsTo(const PropertyTarget& target) const { return target.prop == prop_; }
   // Gives the property a value by its text in the file. False when the general way must be taken.
   bool Apply(TPersistent& instance, QByteArrayView text);
+  // The name of the component that a reference is given by its text; empty when the general way must be
+  // taken.
+  QByteArrayView Referenced(QByteArrayView text) const;
   // The text stood for this ordinal.
   void Learn(QByteArrayView text, std::int64_t ordinal);
   bool IsOrdinal() const { return ordinal_; }

@@ -158,6 +158,9 @@ void FormReader::Apply(KnownProperty* known, const PropertyTarget& target, const
   if (known && !known->LeadsTo(target)) known = nullptr;
   const QByteArrayView text = known ? document_.SourceText(property) : QByteArrayView();
   if (known && known->Apply(*target.instance, text)) return;
+  if (known)
+    if (const QByteArrayView name = known->Referenced(text); !name.isEmpty())
+      return AddReference(pending_, target, name);
   document_.Read(property, value_);
   if (known && known->IsOrdinal()) {
     const std::int64_t ordinal = OrdinalOf(target, value_);

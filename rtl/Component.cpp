@@ -148,13 +148,12 @@ void TComponent::SetName(const QString& name) {
 void TComponent::NameChanged(const QString&) {}
 
 void TComponent::FreeNotification(TComponent* component) {
-  if (!freeNotifies_.Insert(component)) return;
   // Both sides know of each other, so that whoever goes first leaves no dangling pointer.
-  component->FreeNotification(this);
+  if (freeNotifies_.Insert(component)) component->freeNotifies_.Insert(this);
 }
 
 void TComponent::RemoveFreeNotification(TComponent* component) {
-  if (freeNotifies_.Remove(component)) component->RemoveFreeNotification(this);
+  if (freeNotifies_.Remove(component)) component->freeNotifies_.Remove(this);
 }
 
 bool TComponent::RefersTo(const TComponent& other) const {

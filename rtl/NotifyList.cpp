@@ -9,11 +9,17 @@ qsizetype TNotifyList::PlaceOf(const TComponent* component) const {
 }
 
 bool TNotifyList::Insert(TComponent* component) {
+  if (!places_.isEmpty()) {
+    const qsizetype before = places_.size();
+    qsizetype& place = places_[component];
+    if (places_.size() == before) return false;
+    place = std::ssize(items_);
+    items_.push_back(component);
+    return true;
+  }
   if (Contains(component)) return false;
   items_.push_back(component);
-  if (!places_.isEmpty()) {
-    places_.insert(component, std::ssize(items_) - 1);
-  } else if (items_.size() > Few) {
+  if (items_.size() > Few) {
     for (qsizetype i = 0; i < std::ssize(items_); ++i) places_.insert(items_[static_cast<std::size_t>(i)], i);
   }
   return true;
