@@ -74,6 +74,21 @@ void PatchObject(Object& object, Document& document, const Snapshot& after,
   }
 }
 
+std::optional<ValueChange> ExchangeNode(Object& object, QByteArrayView name, std::optional<Property> node) {
+  ValueChange change;
+  change.path = name.toByteArray();
+  change.index = IndexOf(object, name);
+  if (change.index < 0 && !node) return {};
+  if (change.index >= 0)
+    change.nodeBefore = Remove(object, change.index);
+  else
+    change.index = static_cast<int>(object.properties.size());
+  if (!node) return change;
+  Place(object, node, change.index);
+  change.nodeAfter.emplace();  // stands in the object now
+  return change;
+}
+
 void UnpatchObject(Object& object, std::vector<ValueChange>& changes) {
   for (auto it = changes.rbegin(); it != changes.rend(); ++it) {
     if (it->nodeAfter) it->nodeAfter = Remove(object, it->index);

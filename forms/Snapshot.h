@@ -29,6 +29,8 @@ std::vector<ValueChange> Difference(const Snapshot& before, const Snapshot& afte
 // inherited object, where leaving out means "as the ancestor has it"), new ones inserted in class order.
 void PatchObject(Object& object, Document& document, const Snapshot& after,
                  std::vector<ValueChange>& changes);
+// Puts a property, or none, in the place of the one of that name. Nothing when there is neither.
+std::optional<ValueChange> ExchangeNode(Object& object, QByteArrayView name, std::optional<Property> node);
 // Exchanges the nodes of a patched object with those from before, or back again.
 void UnpatchObject(Object& object, std::vector<ValueChange>& changes);
 void RepatchObject(Object& object, std::vector<ValueChange>& changes);

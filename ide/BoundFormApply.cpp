@@ -1,6 +1,7 @@
 // Undo and redo: a command's values and structure put into the document and its components.
 #include "ide/BoundForm.h"
 #include "ide/BoundsCheck.h"
+#include "ide/StandIns.h"
 #include "rtl/Exceptions.h"
 #include "rtl/PropAccess.h"
 
@@ -70,6 +71,7 @@ void BoundForm::ApplyValues(ComponentChange& change, bool redo) {
     forms::RepatchObject(*change.object, change.values);
   else
     forms::UnpatchObject(*change.object, change.values);
+  LookAgain(*component, document_, *change.object);
 }
 
 void BoundForm::ApplyStructure(StructureChange& s, bool redo) {

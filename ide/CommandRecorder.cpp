@@ -147,6 +147,14 @@ void CommandRecorder::Delete(TComponent& component) {
   structure_.push_back(std::move(s));
 }
 
+void CommandRecorder::PutStored(TComponent& component, QByteArrayView name,
+                                std::optional<forms::Property> property) {
+  Capture(component);
+  forms::Object& object = *form_.ObjectOf(component);
+  if (auto change = forms::ExchangeNode(object, name, std::move(property)))
+    stored_[&object].push_back(std::move(*change));
+}
+
 // A component that an editor made on its own, with everything inside it.
 void CommandRecorder::Adopt(TComponent& component) {
   component.SetDesigning(true);

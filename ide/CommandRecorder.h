@@ -1,6 +1,7 @@
 // Finds what a command changes while its action runs. Components tell of a change before it happens, so their
 // values from before can still be taken down; the cost follows what changes, not the size of the form.
 #pragma once
+#include <map>
 #include "ide/BoundForm.h"
 
 class CommandRecorder {
@@ -32,6 +33,8 @@ class CommandRecorder {
   // The `count` inserted last may refer to each other.
   void SettleInserted(std::size_t count);
   void Delete(TComponent& component);
+  // What the component's object says beyond its class; nothing takes the property out.
+  void PutStored(TComponent& component, QByteArrayView name, std::optional<forms::Property> property);
 
   // Every control back to where it was before the command.
   void RestoreBounds();
@@ -75,6 +78,7 @@ class CommandRecorder {
   std::vector<TComponent*> orphaned_;  // stood inside something that the action freed
   std::vector<TControl*> placed_;
   std::vector<StructureChange> structure_;
+  std::map<const forms::Object*, std::vector<forms::ValueChange>> stored_;
   QSet<const forms::Object*> created_;
   QSet<const forms::Object*> inserted_;
   bool modified_ = false;

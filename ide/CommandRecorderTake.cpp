@@ -1,5 +1,6 @@
 // The end of a command: what was noted on the way becomes differences of values and structure.
 #include "ide/CommandRecorder.h"
+#include "ide/StandIns.h"
 
 std::unique_ptr<Command> CommandRecorder::Take() {
   if (modified_) CaptureSilent();
@@ -122,6 +123,11 @@ std::optional<ComponentChange> CommandRecorder::TakeChange(Before& before) {
     form_.SetName(change, true);
   }
   forms::PatchObject(object, form_.Document(), after, change.values);
+  // These came first.
+  std::vector<forms::ValueChange> stored = std::exchange(stored_[&object], {});
+  if (!stored.empty()) LookAgain(*before.component, form_.Document(), object);
+  std::move(change.values.begin(), change.values.end(), std::back_inserter(stored));
+  change.values = std::move(stored);
   form_.TakeFingerprint(component, object);
   // It comes and goes with its object.
   if (inserted_.contains(&object) || (change.values.empty() && !renamed)) return {};

@@ -134,8 +134,7 @@ void FormSession::GetMethods(const TTypeInfo& eventType, const TGetStrProc& proc
   for (const TComponent* c : AllComponents())
     for (const TPropInfo* p : c->ClassType().Properties())
       if (p->IsEvent() && p->PropType->Name == eventType.Name)
-        if (const QString handler = GetMethodProp(*c, *p);
-            !handler.isEmpty() && !handlers.contains(handler))
+        if (const QString handler = GetMethodProp(*c, *p); !handler.isEmpty() && !handlers.contains(handler))
           handlers << handler;
   for (const QString& handler : handlers) proc(handler);
 }

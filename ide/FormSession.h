@@ -89,6 +89,11 @@ class FormSession : public QObject, public IDesigner, public IControlHost, priva
   void DeleteComponents(const std::vector<TComponent*>& components);
   void Rename(TComponent& component, const QString& name);
 
+  // What the file says of a component and no class knows, as form text on one line; empty when it says
+  // nothing. Setting it refuses (Exception) what is no value; an empty text leaves the property out.
+  QString StoredText(const TComponent& component, QByteArrayView name) const;
+  void SetStored(TComponent& component, const QByteArray& name, const QString& text);
+
   // Makes all components anew from the document, after classes came or went; while a command is under way,
   // when that has ended.
   void Rebuild();

@@ -2,6 +2,7 @@
 
 #include "ide/BoundsCheck.h"
 #include "ide/StandIns.h"
+#include "ide/StoredProperties.h"
 #include "rtl/Exceptions.h"
 
 using enum TPropertyAttribute;
@@ -115,6 +116,17 @@ bool InspectorModel::Belongs(const TPropertyEditor& editor) const {
   return std::any_of(properties.begin(), properties.end(), [](const TPropInfo* p) { return p->IsEvent(); });
 }
 
+QByteArrayList InspectorModel::StoredNow() const {
+  return session_ && !shown_.empty() ? StoredNames(*session_, *shown_.front()) : QByteArrayList();
+}
+
+InspectorModel::Node& InspectorModel::AddGroup(const QString& category) {
+  Node& group = root_->Add(nullptr);
+  group.category = category;
+  group.loaded = true;
+  return group;
+}
+
 void InspectorModel::Rebuild() {
   beginResetModel();
   if (running_ > 0) retired_.push_back(std::move(root_));
@@ -129,6 +141,10 @@ void InspectorModel::Rebuild() {
   };
   if (session_)
     session_->Registry().GetComponentProperties({shown_.begin(), shown_.end()}, session_, collect);
+  stored_ = StoredNow();
+  if (session_)
+    for (auto& e : StoredPropertyEditors(*session_, shown_))
+      if (IsStoredEvent(*e) == events_) editors.push_back(std::move(e));
   std::stable_sort(editors.begin(), editors.end(), [](const auto& a, const auto& b) {
     return NameOf(*a).compare(NameOf(*b), Qt::CaseInsensitive) < 0;
   });
@@ -137,21 +153,24 @@ void InspectorModel::Rebuild() {
   } else {
     // A property stands under every category it belongs to, each time with an editor of its own.
     std::map<QString, Node*> groups;
-    for (const auto& e : editors)
+    for (auto& e : editors) {
+      if (IsStored(*e)) {
+        Node*& group = groups[tr("Stored in the file")];
+        if (!group) group = &AddGroup(tr("Stored in the file"));
+        group->Add(std::move(e));
+        continue;
+      }
       for (const QString& category :
            session_->Registry().CategoriesOf(shown_.front()->ClassType(), e->GetPropInfo().Name)) {
         Node*& group = groups[category];
-        if (!group) {
-          group = &root_->Add(nullptr);
-          group->category = category;
-          group->loaded = true;
-        }
+        if (!group) group = &AddGroup(category);
         TInstProps props;
         for (int i = 0; i < e->PropCount(); ++i)
           props.push_back(
               {e->GetComponent(i), e->GetComponent(i)->ClassType().FindProp(e->GetPropInfo().Name)});
         group->Add(session_->Registry().CreatePropertyEditor(session_, std::move(props)));
       }
+    }
   }
   Filter(*root_, false);
   endResetModel();
@@ -215,7 +234,8 @@ bool InspectorModel::IsStale(const Node& node) const {
 }
 
 void InspectorModel::Refresh() {
-  if (!session_ || shown_ != session_->SelectedComponents() || IsStale(*root_)) return Rebuild();
+  if (!session_ || shown_ != session_->SelectedComponents() || IsStale(*root_) || StoredNow() != stored_)
+    return Rebuild();
   TellChanges({});
 }
 
@@ -277,15 +297,19 @@ TPropertyEditor* InspectorModel::EditorAt(const QModelIndex& index) const {
 }
 
 QModelIndex InspectorModel::IndexOfPath(const QString& path) const {
+  const auto find = [&](const QModelIndex& parent, const QString& name) {
+    for (int row = 0; row < rowCount(parent); ++row)
+      if (const QModelIndex i = index(row, 0, parent);
+          NodeAt(i)->Name().compare(name, Qt::CaseInsensitive) == 0)
+        return i;
+    return QModelIndex();
+  };
+  // What a file stores may have a name with dots.
+  if (const QModelIndex whole = find({}, path); whole.isValid()) return whole;
   QModelIndex at;
   for (const QString& name : path.split(u'.')) {
-    QModelIndex next;
-    for (int row = 0; row < rowCount(at) && !next.isValid(); ++row) {
-      const QModelIndex candidate = index(row, 0, at);
-      if (NodeAt(candidate)->Name().compare(name, Qt::CaseInsensitive) == 0) next = candidate;
-    }
-    if (!next.isValid()) return {};
-    at = next;
+    at = find(at, name);
+    if (!at.isValid()) return {};
   }
   return at;
 }

@@ -64,6 +64,8 @@ class InspectorModel : public QAbstractItemModel {
   bool Filter(Node& node, bool everything) const;
   bool Fits(const Node& node) const;
   bool IsStale(const Node& node) const;
+  QByteArrayList StoredNow() const;
+  Node& AddGroup(const QString& category);
   void Rebuild();
   void Refresh();
   void TellChanges(const QModelIndex& parent);
@@ -74,6 +76,7 @@ class InspectorModel : public QAbstractItemModel {
   QPointer<FormSession> session_;
   std::unique_ptr<Node> root_;
   std::vector<TComponent*> shown_;
+  QByteArrayList stored_;  // what the file says of the first of them beyond its class
   bool events_ = false;
   bool byCategory_ = false;
   QString filter_;

@@ -1,5 +1,6 @@
 // The looks of what stands in for a class that no loaded package has.
 #pragma once
+#include <QImage>
 #include <optional>
 
 #include "vcl/Control.h"
@@ -29,7 +30,15 @@ enum class TStandInLook : std::uint8_t {
   StatusBar,
   Slider,
   Progress,
-  Splitter
+  Splitter,
+  Divider,  // a line with its text
+  Buttons   // a row of buttons at the right
+};
+
+// A column of a list or grid, as the file has it.
+struct TStandInColumn {
+  QString text;
+  int width = 64;
 };
 
 // What the file says about the looks of a stand-in.
@@ -39,6 +48,8 @@ struct TStandIn {
   QStringList items;
   int index = -1;
   int columns = 1;
+  std::vector<TStandInColumn> headers;
+  QImage picture;
   bool checked = false;
   std::optional<TColor> color;
   QString activePage;

@@ -5,6 +5,7 @@
 
 #include "ide/Unknown.h"
 #include "rtl/ClassRegistry.h"
+#include "vcl/Picture.h"
 
 namespace {
 using enum TStandInLook;
@@ -60,11 +61,13 @@ constexpr NameRow NameRows[] = {
     {"Browser", Memo},
     {"MaskEdit", Field},
     {"Edit", Field},
+    {"Navigator", Buttons},
     {"DBText", Label},
     {"LinkLabel", Label},
     {"StaticText", Label},
     {"Label", Label},
-    {"ButtonPanel", Panel},
+    {"ButtonPanel", Buttons},
+    {"DividerBevel", Divider},
     {"Button", Button},
     {"BitBtn", Button},
     {"Btn", Button},
@@ -122,7 +125,7 @@ constexpr SizeRow SizeRows[] = {
     {Check, {97, 17}},     {Radio, {113, 17}},   {RadioGroup, {185, 105}}, {CheckGroup, {185, 105}},
     {List, {121, 97}},     {Grid, {320, 120}},   {Image, {105, 105}},      {Tabs, {289, 193}},
     {Page, {281, 165}},    {ToolBar, {150, 29}}, {StatusBar, {150, 19}},   {Slider, {150, 33}},
-    {Progress, {150, 17}}, {Splitter, {3, 3}},
+    {Progress, {150, 17}}, {Splitter, {3, 3}},   {Divider, {150, 17}},     {Buttons, {240, 34}},
 };
 
 constexpr const char* PlaceProperties[] = {"Left", "Top", "Width", "Height"};
@@ -259,6 +262,40 @@ class Reader {
     if (!v.IsInteger() || v.integer < INT16_MIN || v.integer > INT16_MAX) return {};
     return static_cast<int>(v.integer);
   }
+  // Captions and widths of a collection of columns, whichever framework wrote it.
+  std::vector<TStandInColumn> Columns(QByteArrayView name) const {
+    std::vector<TStandInColumn> columns;
+    const forms::Property* p = object_.Find(name);
+    if (!p) return columns;
+    for (const forms::CollectionItem& item : document_.Read(*p).collection) {
+      TStandInColumn column;
+      for (const forms::NamedValue& v : item.properties) {
+        const bool caption = v.path == "Caption" || v.path == "Title.Caption" || v.path == "Text";
+        if (caption || (v.path == "FieldName" && column.text.isEmpty()))
+          if (v.value.IsString()) column.text = document_.Decode(v.value);
+        if (v.path == "Width" && v.value.IsInteger())
+          column.width = static_cast<int>(std::clamp<std::int64_t>(v.value.integer, 0, INT16_MAX));
+      }
+      columns.push_back(std::move(column));
+    }
+    return columns;
+  }
+  QImage Picture(QByteArrayView name) const {
+    const forms::Property* p = object_.Find(name);
+    if (!p) return {};
+    const forms::Value v = document_.Read(*p);
+    if (v.type != forms::ValueType::Binary) return {};
+    TPicture picture;
+    picture.SetData(v.bytes);
+    return picture.Image();
+  }
+  QStringList Elements(QByteArrayView name, const QStringList& otherwise) const {
+    const forms::Property* p = object_.Find(name);
+    if (!p) return otherwise;
+    QStringList elements;
+    for (const QByteArray& e : document_.Read(*p).elements) elements << QString::fromUtf8(e);
+    return elements;
+  }
   bool True(QByteArrayView name) const {
     const forms::Property* p = object_.Find(name);
     return p && document_.Read(*p).type == forms::ValueType::True;
@@ -279,12 +316,74 @@ class Reader {
   const forms::Object& object_;
 };
 
+// The buttons of a row in their usual order.
+QStringList ShownButtons(const Reader& read) {
+  struct Row {
+    const char* element;
+    const char* caption;
+  };
+  static constexpr Row rows[] = {{"pbHelp", "Help"},     {"pbOK", "OK"},        {"pbClose", "Close"},
+                                 {"pbCancel", "Cancel"}, {"nbFirst", "\u23EE"}, {"nbPrior", "\u25C0"},
+                                 {"nbNext", "\u25B6"},   {"nbLast", "\u23ED"},  {"nbInsert", "+"},
+                                 {"nbDelete", "\u2212"}};
+  static const QStringList usual{QStringLiteral("pbHelp"), QStringLiteral("pbOK"), QStringLiteral("pbClose"),
+                                 QStringLiteral("pbCancel")};
+  static const QStringList browsing{QStringLiteral("nbFirst"),  QStringLiteral("nbPrior"),
+                                    QStringLiteral("nbNext"),   QStringLiteral("nbLast"),
+                                    QStringLiteral("nbInsert"), QStringLiteral("nbDelete")};
+  const QStringList shown = read.Elements(
+      "ShowButtons", read.Elements("VisibleButtons", read.Has("DataSource") ? browsing : usual));
+  QStringList captions;
+  for (const Row& row : rows)
+    if (shown.contains(QString::fromLatin1(row.element))) captions << QString::fromUtf8(row.caption);
+  return captions;
+}
+
 void ReadFont(const Reader& read, TFont& font) {
   if (const QString name = read.Text("Font.Name"); !name.isEmpty()) font.SetName(name);
   if (const auto height = read.Number("Font.Height"); height && *height) font.SetHeight(*height);
   if (const auto color = read.Color("Font.Color")) font.SetColor(*color);
 }
 }  // namespace
+
+namespace {
+// Everything that may change while the component stays.
+TStandIn ReadLook(const Reader& read, TStandInLook look) {
+  TStandIn what;
+  what.look = look;
+  what.text = read.Text("Text");
+  for (const char* lines : {"Lines.Strings", "SQL.Strings"})
+    if (what.text.isEmpty()) what.text = read.Lines(lines).join(u'\n');
+  for (const char* other : {"Title", "DataField", "FileName", "Directory"})
+    if (what.text.isEmpty() && look != Label) what.text = read.Text(other);
+  if (what.text.isEmpty() && read.Has("Value") && look == Spin)
+    what.text = QString::number(read.Number("Value").value_or(0));
+  what.items = read.Lines("Items.Strings");
+  if (what.items.isEmpty()) what.items = read.Lines("Tabs.Strings");
+  if (look == Buttons) what.items = ShownButtons(read);
+  what.index = read.Number("ItemIndex").value_or(-1);
+  what.checked = read.True("Checked") || read.Text("State") == QStringLiteral("cbChecked");
+  what.columns = std::max(1, read.Number("Columns").value_or(1));
+  for (const char* columns : {"Columns", "Header.Columns"})
+    if (what.headers.empty()) what.headers = read.Columns(columns);
+  for (const char* picture : {"Picture.Data", "Glyph.Data", "Bitmap.Data"})
+    if (what.picture.isNull()) what.picture = read.Picture(picture);
+  what.activePage = read.Text("ActivePage");
+  what.activeIndex = read.Number("PageIndex").value_or(read.Number("ActivePageIndex").value_or(0));
+  what.color = read.Color("Color");
+  return what;
+}
+}  // namespace
+
+void LookAgain(TComponent& component, const forms::Document& document, const forms::Object& object) {
+  auto* control = dynamic_cast<TUnknownControl*>(&component);
+  if (!control) return;
+  TStandIn what = ReadLook(Reader(document, object), control->StandIn().look);
+  what.hasPlace = control->StandIn().hasPlace;
+  what.usualAlign = control->StandIn().usualAlign;
+  control->SetStandIn(std::move(what));
+  control->Invalidate();
+}
 
 TComponent* MakeStandIn(const forms::Document& document, const forms::Object& object, TComponent* owner) {
   const QByteArray cls(object.className.constData(), object.className.size());
@@ -297,24 +396,11 @@ TComponent* MakeStandIn(const forms::Document& document, const forms::Object& ob
   const Reader read(document, object);
   auto* control = new TUnknownControl(owner);
   control->SetStreamClassName(cls);
-  TStandIn what;
-  what.look = look;
+  TStandIn what = ReadLook(read, look);
   what.hasPlace = look != Page || HasAny(object, PlaceProperties);
   for (const AlignRow& row : AlignRows)
     if (EndsWith(cls, row.ending) && object.kind != forms::ObjectKind::Inherited) what.usualAlign = row.align;
   control->SetAlign(what.usualAlign);
-  what.text = read.Text("Text");
-  if (what.text.isEmpty()) what.text = read.Lines("Lines.Strings").join(u'\n');
-  if (what.text.isEmpty() && read.Has("Value") && look == Spin)
-    what.text = QString::number(read.Number("Value").value_or(0));
-  what.items = read.Lines("Items.Strings");
-  if (what.items.isEmpty()) what.items = read.Lines("Tabs.Strings");
-  what.index = read.Number("ItemIndex").value_or(-1);
-  what.checked = read.True("Checked") || read.Text("State") == QStringLiteral("cbChecked");
-  what.columns = std::max(1, read.Number("Columns").value_or(1));
-  what.activePage = read.Text("ActivePage");
-  what.activeIndex = read.Number("PageIndex").value_or(read.Number("ActivePageIndex").value_or(0));
-  what.color = read.Color("Color");
   if (what.color) control->SetColor(*what.color);
   control->SetStandIn(std::move(what));
   if (read.Has("Font.Name") || read.Has("Font.Height") || read.Has("Font.Color"))

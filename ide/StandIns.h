@@ -17,3 +17,5 @@ TFormKind KindOfRoot(const forms::Object& root);
 
 // The component that takes the place of an object of an unknown class.
 TComponent* MakeStandIn(const forms::Document& document, const forms::Object& object, TComponent* owner);
+// The object says something else now; other components are let be.
+void LookAgain(TComponent& component, const forms::Document& document, const forms::Object& object);

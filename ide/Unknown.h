@@ -41,6 +41,9 @@ class TUnknownControl : public TWinControl {
   void PaintText(TCanvas& canvas, const QRect& area, int flags, const QString& text) const;
   void PaintQuiet(TCanvas& canvas) const;
   bool PaintSurface(TCanvas& canvas) const;
+  void PaintHeader(TCanvas& canvas) const;
+  void PaintButtons(TCanvas& canvas) const;
+  void PaintMark(TCanvas& canvas) const;
 
   QByteArray streamClass_;
   TStandIn standIn_;

@@ -10,6 +10,7 @@ namespace {
 using enum TStandInLook;
 
 constexpr int Mark = 13;  // side of a check box
+constexpr int HeaderHeight = 20;
 
 QColor Line() { return FormPalette().color(QPalette::Mid); }
 
@@ -165,15 +166,12 @@ bool TUnknownControl::PaintSurface(TCanvas& canvas) const {
     case List:
     case Grid: {
       Box(p, r, base);
-      if (standIn_.look == Grid) {
-        p.fillRect(QRect(1, 1, r.width() - 2, std::min(20, r.height() - 2)), palette.color(QPalette::Button));
-        p.setPen(Line());
-        for (int y = 20; y < std::min(r.height(), 61); y += 20) p.drawLine(0, y, r.right(), y);
-        for (int x = 64; x < r.width(); x += 64) p.drawLine(x, 0, x, std::min(r.height(), 61));
-      }
+      const bool headed = !standIn_.headers.empty();
+      if (headed || standIn_.look == Grid) PaintHeader(canvas);
       const QString lines = standIn_.look == List ? standIn_.items.join(u'\n') : text;
-      PaintText(canvas, r.adjusted(5, 3, -4, -3), Qt::AlignLeft | Qt::AlignTop, lines);
-      return !lines.isEmpty();
+      PaintText(canvas, r.adjusted(5, 3 + (headed ? HeaderHeight : 0), -4, -3), Qt::AlignLeft | Qt::AlignTop,
+                lines);
+      return headed || !lines.isEmpty();
     }
     case Group:
     case RadioGroup:
@@ -221,11 +219,25 @@ bool TUnknownControl::PaintSurface(TCanvas& canvas) const {
     case Splitter:
       p.fillRect(r, palette.color(QPalette::Midlight));
       return true;
+    case Divider: {
+      const int width = text.isEmpty() ? 0 : TextExtent(text, *Font()).width() + 6;
+      PaintText(canvas, r, Middle, text);
+      p.setPen(Line());
+      p.drawLine(r.left() + width, r.center().y(), r.right(), r.center().y());
+      return true;
+    }
+    case Buttons:
+      PaintButtons(canvas);
+      return true;
     case Panel:
     case Plain:
     case Image:
     case Component:
       break;
+  }
+  if (!standIn_.picture.isNull()) {
+    p.drawImage(r.topLeft(), standIn_.picture);
+    return true;
   }
   QColor fill = palette.color(QPalette::WindowText);
   fill.setAlpha(standIn_.look == Panel ? 0 : 10);
@@ -234,6 +246,59 @@ bool TUnknownControl::PaintSurface(TCanvas& canvas) const {
   return !text.isEmpty();
 }
 
+// The heads of the columns, and the first lines of a grid below.
+void TUnknownControl::PaintHeader(TCanvas& canvas) const {
+  QPainter& p = canvas.Painter();
+  const QRect r = ClientRect();
+  const bool grid = standIn_.look == Grid;
+  const int bottom = std::min(r.height() - 1, grid ? 3 * HeaderHeight : HeaderHeight);
+  p.fillRect(QRect(1, 1, r.width() - 2, std::min(HeaderHeight, r.height() - 2)),
+             FormPalette().color(QPalette::Button));
+  p.setPen(Line());
+  for (int y = HeaderHeight; y <= bottom; y += HeaderHeight) p.drawLine(0, y, r.right(), y);
+  int x = 0;
+  const auto column = [&](const QString& text, int width) {
+    PaintText(canvas, QRect(x + 5, 0, width - 6, HeaderHeight).intersected(r),
+              Qt::AlignLeft | Qt::AlignVCenter, text);
+    x += width;
+    p.setPen(Line());
+    if (x < r.width()) p.drawLine(x, 0, x, bottom);
+  };
+  for (const TStandInColumn& c : standIn_.headers) column(c.text, c.width);
+  constexpr int Usual = 64;
+  while (grid && standIn_.headers.empty() && x < r.width()) column({}, Usual);
+}
+
+void TUnknownControl::PaintButtons(TCanvas& canvas) const {
+  constexpr int Gap = 6, Most = 75, Tall = 25;
+  const QRect r = ClientRect();
+  const int count = static_cast<int>(standIn_.items.size());
+  if (count == 0) return;
+  const int width = std::min(Most, (r.width() - Gap) / count - Gap), height = std::min(Tall, r.height() - 2);
+  if (width < 4 || height < 4) return;
+  int x = r.right() + 1 - count * (width + Gap);
+  for (const QString& caption : standIn_.items) {
+    const QRect button(x, r.center().y() - height / 2, width, height);
+    Box(canvas.Painter(), button, FormPalette().color(QPalette::Button), 3);
+    PaintText(canvas, button, Qt::AlignCenter, caption);
+    x += width + Gap;
+  }
+}
+
+// A folded corner says that nobody knows the class.
+void TUnknownControl::PaintMark(TCanvas& canvas) const {
+  constexpr int Side = 6, Least = 3 * Side;
+  const QRect r = ClientRect();
+  if (r.width() < Least || r.height() < 2 * Side) return;
+  QPainter& p = canvas.Painter();
+  const QPoint corner(r.right() + 1, 0);
+  p.setRenderHint(QPainter::Antialiasing);
+  p.setPen(Qt::NoPen);
+  p.setBrush(FormPalette().color(QPalette::PlaceholderText));
+  p.drawPolygon(QPolygon{{corner - QPoint(Side, 0), corner, corner + QPoint(0, Side)}});
+}
+
 void TUnknownControl::Paint(TCanvas& canvas) {
   if (!PaintSurface(canvas)) PaintQuiet(canvas);
+  PaintMark(canvas);
 }

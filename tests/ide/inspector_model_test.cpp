@@ -484,10 +484,76 @@ TEST_F(InspectorTest, RowsFollowTheSelection) {
 TEST_F(InspectorTest, AnUnknownComponentShowsWhatIsKnown) {
   Show({"Mystery"});
   EXPECT_EQ(Text("Width"), "50");
-  EXPECT_FALSE(At("Items").isValid());
   EXPECT_EQ(Set("Left", "16"), QString());
   EXPECT_EQ(Changes(), "-Left = 240|+Left = 16");
   ExpectUndoable();
+}
+
+TEST_F(InspectorTest, WhatNoClassKnowsIsShownAsFormText) {
+  Show({"Mystery"});
+  EXPECT_EQ(Text("Link"), "Button1");
+  EXPECT_EQ(Text("Items"), "< item Text = 'one' end item Text = 'two' end>");
+  EXPECT_TRUE(At("Link").data(InspectorModel::NotDefaultRole).toBool());
+  Show({"Main"});
+  EXPECT_EQ(Text("Strange.Property"), "{00FF}");
+  Show({"Secret"});
+  EXPECT_EQ(Text("Deep"), "( 1 2.500000000000000000)");
+  // Of several, what all of them have.
+  Show({"Mystery", "Secret"});
+  EXPECT_FALSE(At("Link").isValid());
+  EXPECT_FALSE(At("Deep").isValid());
+}
+
+TEST_F(InspectorTest, WhatNoClassKnowsIsEditedAsFormText) {
+  Show({"Mystery"});
+  EXPECT_EQ(Set("Link", "Other"), QString());
+  EXPECT_EQ(Text("Link"), "Other");
+  EXPECT_EQ(Changes(), "-Link = Button1|+Link = Other");
+  ExpectUndoable();
+  session_->Undo();
+  EXPECT_EQ(Text("Link"), "Button1");
+  EXPECT_EQ(Set("Items", "<item Text = 'it''s' end>"), QString());
+  EXPECT_EQ(Text("Items"), "< item Text = 'it'#39's' end>");
+  session_->Undo();
+  EXPECT_EQ(session_->Bytes(), Sample);
+}
+
+TEST_F(InspectorTest, TheSameFormTextChangesNothing) {
+  Show({"Mystery"});
+  for (const char* name : {"Link", "Items"}) EXPECT_EQ(Set(name, Text(name).c_str()), QString());
+  EXPECT_EQ(session_->Bytes(), Sample);
+  EXPECT_FALSE(session_->CanUndo());
+}
+
+TEST_F(InspectorTest, WhatIsNoFormTextIsRefusedAndNothingIsAddedBesides) {
+  Show({"Mystery"});
+  for (const char* text : {"'open", "1\n  Foo = 2", "1\nend\nobject A: TA", "<item", "("}) {
+    const QString refusal = Set("Link", text);
+    EXPECT_TRUE(refusal.contains(QStringLiteral("is no value of a form file")))
+        << text << qPrintable(refusal);
+    EXPECT_EQ(session_->Bytes(), Sample) << text;
+  }
+}
+
+TEST_F(InspectorTest, ResetLeavesOutWhatNoClassKnowsAndUndoShowsItAgain) {
+  Show({"Mystery"});
+  EXPECT_EQ(model_.Reset(At("Link")), QString());
+  EXPECT_FALSE(At("Link").isValid());
+  EXPECT_EQ(Changes(), "-Link = Button1");
+  session_->Undo();
+  EXPECT_EQ(Text("Link"), "Button1");
+  EXPECT_EQ(session_->Bytes(), Sample);
+}
+
+TEST_F(InspectorTest, StoredEventsStandAmongTheEvents) {
+  session_ = FormSession::FromBytes(
+      "object Main: TMain\n  object X: TMystery\n    OnChange = XChange\n    Once = 1\n  end\nend\n");
+  Show({"X"});
+  EXPECT_FALSE(At("OnChange").isValid());
+  EXPECT_EQ(Text("Once"), "1");
+  model_.ShowEvents(true);
+  EXPECT_EQ(Text("OnChange"), "XChange");
+  EXPECT_FALSE(At("Once").isValid());
 }
 
 TEST(InspectorOfRoots, FramesAndDataModulesOfferOnlyWhatTheyHave) {

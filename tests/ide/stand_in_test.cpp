@@ -4,6 +4,7 @@
 #include "tests/ide/SessionTest.h"
 #include "vcl/FormColors.h"
 #include "vcl/FormFrame.h"
+#include "vcl/PictureFile.h"
 
 namespace {
 using namespace ide;
@@ -165,12 +166,65 @@ TEST(StandIn, ShowsItsCaptionAndNotItsName) {
             picture("Aaa", "    Caption = 'Text'\n"));
 }
 
+TEST(StandIn, ShowsColumnsPictureTextsAndButtonsThatTheFileStores) {
+  const auto picture = [](const char* cls, const QByteArray& extra) {
+    const auto session =
+        Open(OnForm("  object X: " + QByteArray(cls) +
+                    "\n    Left = 8\n    Top = 8\n    Width = 200\n    Height = 80\n" + extra + "  end\n"));
+    return RenderForm(session->Form(), 1);
+  };
+  const auto column = [](const char* caption) {
+    return "    Columns = <\n      item\n        " + QByteArray(caption) +
+           "\n        Width = 90\n      end>\n";
+  };
+  EXPECT_NE(picture("TXGrid", column("Title.Caption = 'One'")),
+            picture("TXGrid", column("Title.Caption = 'Two'")));
+  EXPECT_EQ(picture("TXGrid", column("Title.Caption = 'One'")), picture("TXGrid", column("Caption = 'One'")));
+  EXPECT_NE(picture("TXListView", column("Caption = 'One'")), picture("TXListView", ""));
+  EXPECT_EQ(picture("TXEdit", "    DataField = 'CITY'\n"), picture("TXEdit", "    Text = 'CITY'\n"));
+  EXPECT_NE(picture("TXButtonPanel", "    ShowButtons = [pbOK]\n"), picture("TXButtonPanel", ""));
+  EXPECT_EQ(picture("TXButtonPanel", "    ShowButtons = [pbHelp, pbOK, pbClose, pbCancel]\n"),
+            picture("TXButtonPanel", ""));
+  EXPECT_NE(picture("TXDividerBevel", "    Caption = 'One'\n"), picture("TXDividerBevel", ""));
+  QImage pixels(3, 2, QImage::Format_ARGB32);
+  pixels.fill(QColor(10, 200, 30, 128));
+  const QByteArray png = PictureToBytes(pixels, "PNG");
+  EXPECT_NE(picture("TXImage", "    Picture.Data = {" + png.toHex().toUpper() + "}\n"),
+            picture("TXImage", ""));
+}
+
+TEST(StandIn, LooksAsTheFileSaysAfterAnEditOfItAndAfterUndo) {
+  const auto session =
+      Open(OnForm("  object X: TXEdit\n    Left = 8\n    Top = 8\n    Width = 100\n    "
+                  "Height = 40\n    Text = 'One'\n  end\n"));
+  const QImage before = RenderForm(session->Form(), 1);
+  session->SetStored(Get(*session, "X"), "Text", QStringLiteral("'Two'"));
+  const QImage after = RenderForm(session->Form(), 1);
+  EXPECT_NE(after, before);
+  session->Undo();
+  EXPECT_EQ(RenderForm(session->Form(), 1), before);
+  session->Redo();
+  EXPECT_EQ(RenderForm(session->Form(), 1), after);
+}
+
+TEST(StandIn, ACornerMarksWhatNobodyKnows) {
+  const auto session =
+      Open(OnForm("  object X: TXPanel\n    Left = 0\n    Top = 0\n    Width = 60\n    "
+                  "Height = 40\n  end\n"));
+  QImage image(60, 40, QImage::Format_RGB32);
+  image.fill(Qt::red);
+  QPainter painter(&image);
+  PaintControl(Control(*session, "X"), painter);
+  EXPECT_NE(image.pixel(58, 1), image.pixel(2, 38));
+  EXPECT_NE(image.pixel(58, 1), image.pixel(30, 20));
+}
+
 TEST(StandIn, EveryLookIsPaintedInBothSchemesAndAnySize) {
   for (const char* cls :
-       {"TXPanel",    "TXGroupBox",    "TXLabel",    "TXEdit",        "TXMemo",       "TXComboBox",
-        "TXSpinEdit", "TXButton",      "TXCheckBox", "TXRadioButton", "TXRadioGroup", "TXCheckGroup",
-        "TXListBox",  "TXGrid",        "TXImage",    "TXPageControl", "TXToolBar",    "TXStatusBar",
-        "TXTrackBar", "TXProgressBar", "TXSplitter", "TNobody"})
+       {"TXPanel",    "TXGroupBox",    "TXLabel",    "TXEdit",         "TXMemo",        "TXComboBox",
+        "TXSpinEdit", "TXButton",      "TXCheckBox", "TXRadioButton",  "TXRadioGroup",  "TXCheckGroup",
+        "TXListBox",  "TXGrid",        "TXImage",    "TXPageControl",  "TXToolBar",     "TXStatusBar",
+        "TXTrackBar", "TXProgressBar", "TXSplitter", "TXDividerBevel", "TXButtonPanel", "TNobody"})
     for (const char* size : {"0", "1", "9", "120"}) {
       const QByteArray text =
           OnForm("  object X: " + QByteArray(cls) + "\n    Left = 8\n    Top = 8\n    Width = " + size +
