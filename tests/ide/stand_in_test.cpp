@@ -207,6 +207,17 @@ TEST(StandIn, LooksAsTheFileSaysAfterAnEditOfItAndAfterUndo) {
   EXPECT_EQ(RenderForm(session->Form(), 1), after);
 }
 
+TEST(StandIn, WhatIsStoredAnewStandsLast) {
+  const QByteArray text = OnForm("  object X: TNobody\n    Left = 8\n    Tab = 1\n  end\n");
+  const auto session = Open(text);
+  session->SetStored(Get(*session, "X"), "Fresh", QStringLiteral("[a, b]"));
+  EXPECT_EQ(session->Bytes(), QByteArray(text).replace("    Tab = 1\n", "    Tab = 1\n    Fresh = [a, b]\n"));
+  session->SetStored(Get(*session, "X"), "Fresh", QString());
+  EXPECT_EQ(session->Bytes(), text);
+  session->SetStored(Get(*session, "X"), "Absent", QString());
+  EXPECT_EQ(session->UndoText(), QStringLiteral("Change Fresh"));
+}
+
 TEST(StandIn, ACornerMarksWhatNobodyKnows) {
   const auto session =
       Open(OnForm("  object X: TXPanel\n    Left = 0\n    Top = 0\n    Width = 60\n    "
