@@ -6,6 +6,7 @@
 
 #include "bench/Generate.h"
 #include "bench/Measure.h"
+#include "bench/PaintTasks.h"
 #include "bench/PixelTasks.h"
 #include "bench/Tasks.h"
 #include "bench/WindowTasks.h"
@@ -16,7 +17,7 @@ const std::map<QString, void (*)(const QString&, const QString&)>& TaskTable() {
       {QStringLiteral("load-form"), MeasureFormLoad}, {QStringLiteral("load-ui"), MeasureUiLoad},
       {QStringLiteral("save-form"), MeasureFormSave}, {QStringLiteral("edit-form"), MeasureEdit},
       {QStringLiteral("modified"), MeasureModified},  {QStringLiteral("pixels"), MeasurePixels},
-      {QStringLiteral("window"), MeasureWindow},
+      {QStringLiteral("window"), MeasureWindow},      {QStringLiteral("paint"), MeasurePaint},
   };
   return table;
 }
@@ -74,6 +75,7 @@ class Bench {
       Modified();
       References();
       Window();
+      Paint();
     }
     Pixels();
   }
@@ -183,6 +185,14 @@ class Bench {
                      referring ? QStringLiteral(", all referring to one") : QString()),
             QString::fromLatin1(target), all[step]);
     }
+  }
+
+  void Paint() {
+    Pairs all;
+    for (int i = 0; i < 3; ++i)
+      all.Add(Results::RunApart({QStringLiteral("paint"), {}, {}}).ThePairs("paint"));
+    Row(QStringLiteral("Paint a form of 500 mixed standard controls / the same by plain calls of the style"),
+        QStringLiteral("at most 3"), all);
   }
 
   void Pixels() {
