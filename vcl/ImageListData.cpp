@@ -7,7 +7,7 @@
 #include "vcl/PictureFile.h"
 
 namespace {
-constexpr qsizetype PlainHead = 14, StripHead = 28, BmpHead = 54;
+constexpr qsizetype PlainHead = 14, BmpHead = 54;
 constexpr int PerRow = 4;            // pictures in a row of the strip
 constexpr std::uint16_t Masked = 1;  // a bit of the strip's flags
 constexpr std::uint16_t Colors32 = 0x20;
