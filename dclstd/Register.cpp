@@ -2,22 +2,32 @@
 #include "designintf/RegistrationTable.h"
 #include "rtl/Strings.h"
 #include "vcl/Action.h"
+#include "vcl/ApplicationEvents.h"
 #include "vcl/Button.h"
 #include "vcl/CheckBox.h"
+#include "vcl/ColorBox.h"
 #include "vcl/ComboBox.h"
+#include "vcl/Dialogs.h"
 #include "vcl/Edit.h"
 #include "vcl/Form.h"
 #include "vcl/GlyphButton.h"
+#include "vcl/Grid.h"
 #include "vcl/GroupBox.h"
 #include "vcl/Image.h"
 #include "vcl/Label.h"
+#include "vcl/LinkLabel.h"
 #include "vcl/ListBox.h"
+#include "vcl/ListView.h"
 #include "vcl/Memo.h"
 #include "vcl/Menu.h"
 #include "vcl/Panel.h"
+#include "vcl/RichEdit.h"
 #include "vcl/Shape.h"
+#include "vcl/StandardActions.h"
 #include "vcl/StaticText.h"
 #include "vcl/Timer.h"
+#include "vcl/TreeView.h"
+#include "vcl/VirtualImageList.h"
 
 using namespace registration;
 
@@ -32,10 +42,17 @@ const Row kRows[] = {
          TellingClasses<TMainMenu, TPopupMenu, TLabel, TEdit, TMemo, TButton, TCheckBox, TRadioButton,
                         TListBox, TComboBox, TGroupBox, TRadioGroup, TPanel, TActionList>()),
     Page("Additional",
-         TellingClasses<TBitBtn, TSpeedButton, TImage, TShape, TBevel, TCheckListBox, TStaticText>()),
-    Page("Common Controls", TellingClasses<TImageList>()),
+         TellingClasses<TBitBtn, TSpeedButton, TImage, TShape, TBevel, TCheckListBox, TStaticText, TMaskEdit,
+                        TStringGrid, TDrawGrid, TValueListEditor, TColorBox, TColorListBox,
+                        TApplicationEvents, TApplicationProperties, TTrayIcon, TLinkLabel>()),
+    Page("Common Controls",
+         TellingClasses<TImageList, TImageCollection, TVirtualImageList, TListView, TTreeView, TRichEdit>()),
     Page("System", TellingClasses<TTimer, TPaintBox>()),
+    Page("Dialogs", TellingClasses<TOpenDialog, TSaveDialog, TOpenPictureDialog, TSavePictureDialog,
+                                   TFontDialog, TColorDialog, TPrintDialog, TPrinterSetupDialog,
+                                   TPageSetupDialog, TFindDialog, TReplaceDialog>()),
     Unplaced(TellingClasses<TForm, TMenuItem, TAction>()),
+    Unplaced({StandardActionClasses(), true}),
 
     Property<TColor, TColorProperty>(),
     Property<TCursor, TCursorProperty>(),

@@ -9,6 +9,7 @@
 #include "rtl/PropAccess.h"
 #include "rtl/PropText.h"
 #include "rtl/Strings.h"
+#include "rtl/ValueList.h"
 
 namespace forms {
 
@@ -84,6 +85,9 @@ std::int64_t OrdinalOf(const PropertyTarget& t, const Value& v) {
   const TTypeInfo& type = *t.prop->PropType;
   if (v.IsInteger()) return v.integer;
   if (type.CompType) return SetBitsOf(t, v);
+  if (type.Kind == TTypeKind::tkChar && v.IsString())
+    if (const QString text = v.wide.isEmpty() ? QString::fromUtf8(v.bytes) : v.wide; text.size() == 1)
+      return text[0].unicode();
   if ((v.type == ValueType::True || v.type == ValueType::False) && &type == &TypeInfoOf<bool>::Get())
     return v.type == ValueType::True;
   const bool word = v.type == ValueType::Ident;
@@ -97,9 +101,23 @@ std::int64_t OrdinalOf(const PropertyTarget& t, const Value& v) {
 }
 
 namespace {
-void ApplyCollection(const PropertyTarget& t, const Value& v, const Document& doc,
-                     std::vector<PendingReference>& pending) {
-  auto* collection = As<TCollection>(GetObjectProp(*t.instance, *t.prop));
+void ApplyList(const PropertyTarget& t, TValueList& list, const Value& v, const Document& doc) {
+  if (v.type != ValueType::List) Refuse(t, v, QStringLiteral("a list (...) is expected"));
+  std::vector<TValueList::TItem> items;
+  items.reserve(v.items.size());
+  for (const Value& item : v.items) {
+    if (!item.IsInteger() && !item.IsString())
+      Refuse(t, v, QStringLiteral("every element must be a number or a string"));
+    items.push_back(item.IsInteger() ? TValueList::TItem(item.integer) : TValueList::TItem(doc.Decode(item)));
+  }
+  list.SetItems(std::move(items));
+}
+
+void ApplyPart(const PropertyTarget& t, const Value& v, const Document& doc,
+               std::vector<PendingReference>& pending) {
+  TPersistent* const part = GetObjectProp(*t.instance, *t.prop);
+  if (auto* list = As<TValueList>(part)) return ApplyList(t, *list, v, doc);
+  auto* collection = As<TCollection>(part);
   if (!collection || v.type != ValueType::Collection)
     Refuse(t, v,
            collection ? QStringLiteral("a collection <...> is expected")
@@ -167,7 +185,7 @@ void ApplyValue(const PropertyTarget& t, const Value& v, const Document& doc,
         if (v.type != ValueType::Ident) Refuse(t, v, QStringLiteral("the name of a component is expected"));
         AddReference(pending, t, v.bytes);
       },
-      [&](TPart) { ApplyCollection(t, v, doc, pending); },
+      [&](TPart) { ApplyPart(t, v, doc, pending); },
       [&](const QByteArray&) {
         if (v.type != ValueType::Binary) Refuse(t, v, QStringLiteral("binary data {...} is expected"));
         ApplyBinary(t, v);
@@ -176,6 +194,9 @@ void ApplyValue(const PropertyTarget& t, const Value& v, const Document& doc,
 }
 
 namespace {
+// How form files call the root that a component stands on, whatever its name is.
+constexpr char RootWord[] = "Owner";
+
 TComponent* FindByPath(const TComponent& scope, const QString& path) {
   if (!path.contains(u'.')) return scope.FindComponent(path);
   TComponent* at = nullptr;
@@ -200,7 +221,10 @@ const TComponent* NameSpaceOf(const TPersistent* p) {
 TComponent* FindReferenced(TComponent& root, const TComponent* from, const QString& path) {
   for (; from; from = NameSpaceOf(from->GetOwner()))
     if (TComponent* found = FindByPath(*from, path)) return found;
-  return root.Name().compare(path, Qt::CaseInsensitive) == 0 ? &root : nullptr;
+  return root.Name().compare(path, Qt::CaseInsensitive) == 0 ||
+                 path.compare(QLatin1String(RootWord), Qt::CaseInsensitive) == 0
+             ? &root
+             : nullptr;
 }
 }  // namespace
 
@@ -269,6 +293,23 @@ Value CollectionValue(const TCollection& collection, const Document& doc) {
   return v;
 }
 
+Value ListValue(const TValueList& list, const Document& doc) {
+  Value v;
+  v.type = ValueType::List;
+  for (const TValueList::TItem& item : list.Items())
+    v.items.push_back(std::visit(ForEach{[](std::int64_t number) { return Value::Integer(number); },
+                                         [&](const QString& text) { return doc.MakeText(text); }},
+                                 item));
+  return v;
+}
+
+// A part that is one value; others are a value for each property.
+std::optional<Value> PartValue(const TPersistent* part, const Document& doc) {
+  if (const auto* collection = As<TCollection>(part)) return CollectionValue(*collection, doc);
+  if (const auto* list = As<TValueList>(part)) return ListValue(*list, doc);
+  return {};
+}
+
 void Collect(const TPersistent& instance, const Document& doc, bool all, bool ownerStored,
              const QByteArray& prefix, std::vector<StoredValue>& out) {
   if (const auto* strings = As<TStrings>(&instance)) {
@@ -286,8 +327,8 @@ void Collect(const TPersistent& instance, const Document& doc, bool all, bool ow
     if (prop->IsPart()) {
       TPersistent* value = GetObjectProp(instance, *prop);
       if (!value) continue;
-      if (const auto* collection = As<TCollection>(value))
-        out.push_back({prefix + prop->Name, CollectionValue(*collection, doc), stored});
+      if (std::optional<Value> whole = PartValue(value, doc))
+        out.push_back({prefix + prop->Name, std::move(*whole), stored});
       else
         Collect(*value, doc, all, stored, prefix + prop->Name + '.', out);
       continue;
@@ -314,6 +355,7 @@ std::optional<Value> ReferenceValue(const TPersistent& instance, const TPersiste
   if (!target) return Value{};
   const auto* component = static_cast<const TComponent*>(target);
   const TComponent* root = LookupRoot(instance);
+  if (component == root) return Value::Identifier(RootWord);
   QByteArray path = component->Name().toUtf8();
   for (const TComponent* scope = component->Owner(); component != root && scope != root;
        scope = scope->Owner()) {
@@ -327,7 +369,11 @@ std::optional<Value> ReferenceValue(const TPersistent& instance, const TPersiste
 std::optional<Value> ValueOf(const TPersistent& instance, const TPropInfo& prop, const Document& doc) {
   using Result = std::optional<Value>;
   const TTypeInfo& type = *prop.PropType;
-  return std::visit(ForEach{[&](std::int64_t v) -> Result { return OrdinalValue(type, v); },
+  return std::visit(ForEach{[&](std::int64_t v) -> Result {
+                              if (type.Kind == TTypeKind::tkChar)
+                                return doc.MakeText(QString(QChar(static_cast<char16_t>(v))));
+                              return OrdinalValue(type, v);
+                            },
                             [&](long double v) -> Result {
                               return type.FloatType == TFloatType::ftCurrency ? CurrencyValue(v)
                                                                               : Value::Real(v);
@@ -337,10 +383,7 @@ std::optional<Value> ValueOf(const TPersistent& instance, const TPropInfo& prop,
                               return v.Name.isEmpty() ? Value{} : Value::Identifier(v.Name.toUtf8());
                             },
                             [&](TReference v) -> Result { return ReferenceValue(instance, v.Object); },
-                            [&](TPart v) -> Result {
-                              const auto* collection = As<TCollection>(v.Object);
-                              return collection ? Result(CollectionValue(*collection, doc)) : std::nullopt;
-                            },
+                            [&](TPart v) -> Result { return PartValue(v.Object, doc); },
                             [](const QByteArray& v) -> Result { return Value::Data(v); }},
                     GetProp(instance, prop));
 }

@@ -1,12 +1,14 @@
 #include "ide/PictureBudget.h"
 
 #include "rtl/ClassRegistry.h"
+#include "vcl/ImageListData.h"
+#include "vcl/Picture.h"
 #include "vcl/PictureHead.h"
 
 using namespace forms;
 
 namespace {
-constexpr qsizetype HeadSize = 64;
+constexpr qsizetype HeadSize = 128;          // of a picture, and what stands in front of it
 constexpr std::int64_t AnySize = INT64_MAX;  // whether the rest is there is the decoder's question
 
 int HexValue(char c) {
@@ -29,9 +31,19 @@ QByteArray HexHead(QByteArrayView text) {
   return head;
 }
 
+// Behind a class name, a length or both. Whether the length is right is the decoder's question.
+QByteArrayView PictureStart(QByteArrayView head) {
+  constexpr qsizetype Length = 4;
+  const QByteArrayView inside = PictureInside(head);
+  return !IsStoredPicture(inside) && inside.size() > Length ? inside.sliced(Length) : inside;
+}
+
+// A picture, or all pictures of a list.
 std::int64_t CostOfHead(QByteArrayView head) {
   try {
-    return IsStoredPicture(head) ? StoredPictureHead(head, AnySize).DecodedBytes() : 0;
+    const QByteArrayView inside = PictureStart(head);
+    return IsStoredPicture(inside) ? StoredPictureHead(inside, AnySize).DecodedBytes()
+                                   : ImageListDecodedBytes(head);
   } catch (const EInvalidPicture&) {
     return 0;  // it will not be decoded
   }

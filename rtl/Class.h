@@ -187,6 +187,21 @@ class TClassBuilder {
     AddPassive<T>(TPropVisibility::Declared, {name});
     return std::move(*this);
   }
+  template <class T>
+  TClassBuilder&& StreamedPassive(const char* name, T def) && {
+    AddPassive<T>(TPropVisibility::Streamed, {name, def});
+    return std::move(*this);
+  }
+  template <class T>
+  TClassBuilder&& StreamedPassive(const char* name) && {
+    AddPassive<T>(TPropVisibility::Streamed, {name});
+    return std::move(*this);
+  }
+  template <class T>
+  TClassBuilder&& Streamed(const TKept<T>& property) && {
+    AddKept(TPropVisibility::Streamed, property, std::make_shared<rtl_detail::KeptAccess<T>>(property));
+    return std::move(*this);
+  }
   // What has been added so far in the order of the alphabet, events last.
   TClassBuilder&& Alphabetical() &&;
   // An event of a component: a handler name that needs no accessors.

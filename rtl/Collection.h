@@ -37,6 +37,7 @@ class TCollection : public TOwnedPersistent, public IStreamedContent {
   void Assign(const TPersistent* source) override;
   bool ContentEmpty() const override { return items_.empty(); }
   void ClearContent() override { Clear(); }
+  TPersistent* ContentPart(int index) const override { return index < Count() ? Item(index) : nullptr; }
 
  private:
   friend class TCollectionItem;

@@ -2,6 +2,7 @@
 
 #include "rtl/Exceptions.h"
 #include "rtl/PropAccess.h"
+#include "rtl/StreamedContent.h"
 
 TDesignPoint DesignPointOf(std::int32_t word) {
   const auto bits = static_cast<std::uint32_t>(word);
@@ -156,10 +157,28 @@ void TComponent::RemoveFreeNotification(TComponent* component) {
   if (freeNotifies_.Remove(component)) component->freeNotifies_.Remove(this);
 }
 
+namespace {
+// Calls `visit(instance, property)` for every reference of the object and of its parts, until it says true.
+template <class Visit>
+bool VisitReferences(TPersistent& instance, const Visit& visit) {
+  for (const TPropInfo* prop : instance.ClassType().Properties()) {
+    if (IsComponentRef(*prop)) {
+      if (visit(instance, *prop)) return true;
+    } else if (prop->IsPart() && !prop->Access->IsUntouched(instance)) {
+      TPersistent* part = GetObjectProp(instance, *prop);
+      if (part && VisitReferences(*part, visit)) return true;
+    }
+  }
+  const auto* content = As<IStreamedContent>(&instance);
+  for (int i = 0; TPersistent* part = content ? content->ContentPart(i) : nullptr; ++i)
+    if (VisitReferences(*part, visit)) return true;
+  return false;
+}
+}  // namespace
+
 bool TComponent::RefersTo(const TComponent& other) const {
-  const auto& all = ClassType().Properties();
-  return std::any_of(all.begin(), all.end(), [&](const TPropInfo* prop) {
-    return IsComponentRef(*prop) && GetObjectProp(*this, *prop) == &other;
+  return VisitReferences(const_cast<TComponent&>(*this), [&](TPersistent& instance, const TPropInfo& prop) {
+    return GetObjectProp(instance, prop) == &other;
   });
 }
 
@@ -167,9 +186,10 @@ void TComponent::Notification(TComponent* component, TOperation operation) {
   if (operation != TOperation::opRemove) return;
   freeNotifies_.Remove(component);
   if (destroying_) return;
-  for (const TPropInfo* prop : ClassType().Properties())
-    if (IsComponentRef(*prop) && GetObjectProp(*this, *prop) == component)
-      SetObjectProp(*this, *prop, nullptr);
+  VisitReferences(*this, [&](TPersistent& instance, const TPropInfo& prop) {
+    if (GetObjectProp(instance, prop) == component) SetObjectProp(instance, prop, nullptr);
+    return false;
+  });
 }
 
 void TComponent::ReferenceChanged(TPersistent* before, TPersistent* after) {

@@ -87,7 +87,7 @@ class TComponent : public TKeeper {
   void FreeNotification(TComponent* component);
   void RemoveFreeNotification(TComponent* component);
   const TNotifyList& FreeNotifies() const { return freeNotifies_; }
-  // Whether a published reference of this component leads to the other one.
+  // Whether a published reference of this component or of one of its parts leads to the other one.
   bool RefersTo(const TComponent& other) const;
   // `component`, which asked or was asked for a free notification, is going: references to it are dropped.
   virtual void Notification(TComponent* component, TOperation operation);

@@ -37,4 +37,8 @@ void TKeeper::Keep(const void* property, TPropValue value, bool nothing) {
   Changed();
 }
 
-void TKeeper::ReferenceChanged(TPersistent*, TPersistent*) {}
+// What is part of a component refers in its name.
+void TKeeper::ReferenceChanged(TPersistent* before, TPersistent* after) {
+  for (TPersistent* p = GetOwner(); p; p = p->GetOwner())
+    if (auto* keeper = As<TKeeper>(p)) return keeper->ReferenceChanged(before, after);
+}

@@ -14,7 +14,7 @@
 #include "rtl/Persistent.h"
 #include "rtl/PropWire.h"
 
-// What keeps values by property: components and items of collections.
+// What keeps values by property: components, items of collections, and parts of these (TKeptPart).
 class TKeeper : public TPersistent {
  public:
   ~TKeeper() override;
@@ -54,10 +54,20 @@ class TKeeper : public TPersistent {
   const TPropValue* Find(const void* property) const;
   // Changes it, and tells so. With `nothing` it is no longer kept.
   void Keep(const void* property, TPropValue value, bool nothing);
-  // A reference of this object is about to lead to another component.
+  // A reference of this object or of a part of it leads to another component.
   virtual void ReferenceChanged(TPersistent* before, TPersistent* after);
 
  private:
   const TPropValue& Insert(const void* property, TPropValue value);
   std::vector<std::pair<const void*, TPropValue>> kept_;
+};
+
+// A part that keeps its values by property.
+class TKeptPart : public TKeeper {
+ public:
+  explicit TKeptPart(TPersistent* owner = nullptr) : owner_(owner) {}
+  TPersistent* GetOwner() const override { return owner_; }
+
+ private:
+  TPersistent* owner_;
 };

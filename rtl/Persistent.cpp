@@ -38,7 +38,8 @@ void TPersistent::Assign(const TPersistent* source) {
   const TClass& common = own.InheritsFrom(source->ClassType()) ? source->ClassType() : own;
   for (const TPropInfo* prop : common.Properties())
     if (const TPropInfo* target = own.FindProp(prop->Name); target && AssignsProperty(*target))
-      Take(*target, prop->Access->Read(*source));
+      if (!prop->Access->IsUntouched(*source) || !target->Access->IsUntouched(*this))
+        Take(*target, prop->Access->Read(*source));
 }
 
 void TPersistent::Changed() {

@@ -3,6 +3,7 @@
 #include <array>
 
 #include "rtl/IntegerConsts.h"
+#include "vcl/Menu.h"
 #include "vcl/Painters.h"
 #include "vcl/PropertyGroups.h"
 
@@ -44,9 +45,42 @@ const TClass& TButton::StaticClass() {
           .PublishAll("ParentFont", Hints, "TabOrder")
           .Publish("TabStop", true)
           .PublishAll("Visible", "OnClick", FocusEvents, KeyEvents, MouseButtonEvents)
+          .PublishAll(Placement, Direction, Dragging, Help, Styling, WheelEvents, DragEvents, "Action",
+                      "AutoSize", "Color", "DoubleBuffered", "ParentColor", "ParentDoubleBuffered",
+                      "PopupMenu", "OnMouseEnter", "OnMouseLeave")
+          .Passive<QString>("CommandLinkHint")
+          .Passive("DisabledImageIndex", -1)
+          .Passive<TPopupMenu*>("DropDownMenu")
+          .Passive("ElevationRequired", false)
+          .Passive("HotImageIndex", -1)
+          .Passive("ImageAlignment", TImageAlignment::iaLeft)
+          .Passive("ImageIndex", -1)
+          .Passive<TImageMargins*>("ImageMargins")
+          .Passive<QString>("ImageName")
+          .Passive<TCustomImageList*>("Images")
+          .Passive("PressedImageIndex", -1)
+          .Passive("SelectedImageIndex", -1)
+          .Passive("Style", TPushButtonStyle::bsPushButton)
+          .Passive("StylusHotImageIndex", -1)
+          .Passive("WordWrap", false)
+          .Event("OnDropDownClick")
           .ClassDoc(QStringLiteral("A push button."),
                     "pen line 1.5 brush fill box 2.5 6.5 19 11 3 pen accent 2 path 7 12 17 12"));
   return cls;
+}
+
+const TClass& TImageMargins::StaticClass() {
+  static const TClass cls(DescribeClass<TImageMargins>("TImageMargins", TPersistent::StaticClass())
+                              .Passive("Left", 0)
+                              .Passive("Top", 0)
+                              .Passive("Right", 0)
+                              .Passive("Bottom", 0));
+  return cls;
+}
+
+QSize TButton::AutoSizeHint() const {
+  const QSize text = TextExtent(Caption(), *Font());
+  return {text.width() + 20, text.height() + 10};
 }
 
 TButton::TButton(TComponent* owner) : TWinControl(owner) {

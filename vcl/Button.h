@@ -2,6 +2,19 @@
 #pragma once
 #include "vcl/Control.h"
 
+enum class TImageAlignment : std::uint8_t { iaLeft, iaRight, iaTop, iaBottom, iaCenter };
+VRX_ENUM(TImageAlignment, {"iaLeft", "iaRight", "iaTop", "iaBottom", "iaCenter"})
+enum class TPushButtonStyle : std::uint8_t { bsPushButton, bsCommandLink, bsSplitButton };
+VRX_TYPE_INFO(TPushButtonStyle,
+              EnumType("TPushButtonStyle", {"bsPushButton", "bsCommandLink", "bsSplitButton"}))
+
+// What the picture of a button keeps free around it.
+class TImageMargins : public TKeptPart {
+  VRX_CLASS(TImageMargins)
+ public:
+  using TKeptPart::TKeptPart;
+};
+
 class TButton : public TWinControl {
   VRX_CLASS(TButton)
  public:
@@ -15,6 +28,9 @@ class TButton : public TWinControl {
   void SetModalResult(int v) { Change(modalResult_, v); }
 
   void Paint(TCanvas& canvas) override;
+
+ protected:
+  QSize AutoSizeHint() const override;
 
  private:
   int modalResult_ = 0;

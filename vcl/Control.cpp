@@ -6,6 +6,7 @@
 #include "rtl/IntegerConsts.h"
 #include "vcl/Action.h"
 #include "vcl/Menu.h"
+#include "vcl/SideLayout.h"
 
 namespace {
 struct CursorRow {
@@ -137,7 +138,18 @@ const TClass& TControl::StaticClass() {
           .DeclaredEvent("OnMouseWheelUp", "TMouseWheelUpDownEvent")
           .DeclaredEvent("OnResize")
           .DeclaredEvent("OnStartDock", "TStartDockEvent")
-          .DeclaredEvent("OnStartDrag", "TStartDragEvent"));
+          .DeclaredEvent("OnStartDrag", "TStartDragEvent")
+          .DeclaredEvent("OnChangeBounds")
+          .StreamedPassive("ExplicitLeft", 0)
+          .StreamedPassive("ExplicitTop", 0)
+          .StreamedPassive("ExplicitWidth", 0)
+          .StreamedPassive("ExplicitHeight", 0)
+          .StreamedPassive("IsControl", false)
+          .StreamedPassive<TAnchorSide*>("AnchorSideLeft")
+          .StreamedPassive<TAnchorSide*>("AnchorSideTop")
+          .StreamedPassive<TAnchorSide*>("AnchorSideRight")
+          .StreamedPassive<TAnchorSide*>("AnchorSideBottom")
+          .StreamedPassive<TControlBorderSpacing*>("BorderSpacing"));
   return cls;
 }
 

@@ -224,7 +224,15 @@ class TWinControl : public TControl {
  private:
   friend class TControl;
   friend class LayoutChange;
+  int ToldClientWidth() const { return Width() + clientExtra_[0].value_or(0); }
+  int ToldClientHeight() const { return Height() + clientExtra_[1].value_or(0); }
+  void TellClientWidth(int v);
+  void TellClientHeight(int v);
+  bool ClientWidthTold() const { return clientExtra_[0].has_value(); }
+  bool ClientHeightTold() const { return clientExtra_[1].has_value(); }
+
   std::vector<TControl*> controls_;
+  std::optional<int> clientExtra_[2];  // by how much the client area that the form file tells is larger
   int tabOrder_ = -1;
   bool layoutChanging_ = false;
 };

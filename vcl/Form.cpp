@@ -2,6 +2,17 @@
 
 #include "vcl/PropertyGroups.h"
 
+const TClass& TGlassFrame::StaticClass() {
+  static const TClass cls(DescribeClass<TGlassFrame>("TGlassFrame", TPersistent::StaticClass())
+                              .Passive("Enabled", false)
+                              .Passive("Left", 0)
+                              .Passive("Top", 0)
+                              .Passive("Right", 0)
+                              .Passive("Bottom", 0)
+                              .Passive("SheetOfGlass", false));
+  return cls;
+}
+
 const TClass& TForm::StaticClass() {
   static const TClass cls(
       DescribeClass<TForm>("TForm", TWinControl::StaticClass())
@@ -46,6 +57,53 @@ const TClass& TForm::StaticClass() {
           .Event("OnPaint")
           .PublishAll("OnResize")
           .Event("OnShow")
+          .PublishAll(Placing, Placement, Direction, Dragging, Help, Styling, WheelEvents, Docking, Container,
+                      DragEvents, FocusEvents, "AutoSize", "Ctl3D", "DoubleBuffered", "ParentDoubleBuffered",
+                      "PopupMenu", "TabOrder", "TabStop", "OnCanResize", "OnChangeBounds",
+                      "OnConstrainedResize", "OnMouseEnter", "OnMouseLeave", "OnUTF8KeyPress")
+          .Passive("ParentColor", false)
+          .Passive("ParentFont", false)
+          .Passive("ParentShowHint", true)
+          .PublishedAll(ActiveControl, HorzScrollBar, Icon, LCLVersion, Menu, VertScrollBar)
+          .Passive("AllowDropFiles", false)
+          .Passive("AlphaBlend", false)
+          .Passive("AlphaBlendValue", std::uint8_t{255})
+          .Passive("AutoScroll", true)
+          .Passive("BorderWidth", 0)
+          .Passive("DefaultMonitor", TDefaultMonitor::dmActiveForm)
+          .Passive("DesignTimePPI", 96)
+          .Passive<TGlassFrame*>("GlassFrame")
+          .Passive<QString>("HelpFile")
+          .Passive<TMenuItem*>("ObjectMenuItem")
+          .Passive("OldCreateOrder", false)
+          .Passive("PopupMode", TPopupMode::pmNone)
+          .Passive<TComponent*>("PopupParent")
+          .Passive("PrintScale", TPrintScale::poProportional)
+          .Passive("RoundedCorners", TRoundedCorners::rcDefault)
+          .Passive("Scaled", true)
+          .Passive("ScreenSnap", false)
+          .Passive<QString>("SessionProperties")
+          .Passive("ShowInTaskBar", TShowInTaskBar::stDefault)
+          .Passive("SnapBuffer", 10)
+          .Passive("TransparentColor", false)
+          .Passive("TransparentColorValue", clBlack)
+          .Passive<TMenuItem*>("WindowMenu")
+          .Event("OnAfterMonitorDpiChanged", "TMonitorDpiChangedEvent")
+          .Event("OnAlignInsertBefore", "TAlignInsertBeforeEvent")
+          .Event("OnAlignPosition", "TAlignPositionEvent")
+          .Event("OnBeforeMonitorDpiChanged", "TMonitorDpiChangedEvent")
+          .Event("OnDropFiles", "TDropFilesEvent")
+          .Event("OnHelp", "THelpEvent")
+          .Event("OnShortCut", "TShortCutEvent")
+          .Event("OnShowHint", "TControlShowHintEvent")
+          .Event("OnWindowStateChange")
+          .StreamedPassive("DesignLeft", 0)
+          .StreamedPassive("DesignTop", 0)
+          .StreamedPassive("HorizontalOffset", 0)
+          .StreamedPassive("PPI", 96)
+          .StreamedPassive("TextHeight", 0)
+          .StreamedPassive("TextWidth", 0)
+          .StreamedPassive("VerticalOffset", 0)
           .ClassDoc(
               QStringLiteral("A window of the application."),
               "pen line 1.5 brush fill box 3 4 18 16 2 pen none brush accent box 3.75 4.75 16.5 3.5 0"));

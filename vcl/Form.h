@@ -4,6 +4,9 @@
 #include <functional>
 
 #include "vcl/Control.h"
+#include "vcl/ControlScrollBar.h"
+#include "vcl/Menu.h"
+#include "vcl/Picture.h"
 
 // What a root stands for. Only a form has a window frame; a data module holds no controls.
 enum class TFormKind : std::uint8_t { Form, Frame, DataModule };
@@ -38,10 +41,34 @@ VRX_ENUM(TPosition, {"poDesigned", "poDefault", "poDefaultPosOnly", "poDefaultSi
                      "poDesktopCenter", "poMainFormCenter", "poOwnerFormCenter"})
 VRX_ENUM(TWindowState, {"wsNormal", "wsMinimized", "wsMaximized"})
 
+enum class TDefaultMonitor : std::uint8_t { dmDesktop, dmPrimary, dmMainForm, dmActiveForm };
+VRX_ENUM(TDefaultMonitor, {"dmDesktop", "dmPrimary", "dmMainForm", "dmActiveForm"})
+enum class TPopupMode : std::uint8_t { pmNone, pmAuto, pmExplicit };
+VRX_ENUM(TPopupMode, {"pmNone", "pmAuto", "pmExplicit"})
+enum class TPrintScale : std::uint8_t { poNone, poProportional, poPrintToFit };
+VRX_ENUM(TPrintScale, {"poNone", "poProportional", "poPrintToFit"})
+enum class TRoundedCorners : std::uint8_t { rcDefault, rcOff, rcOn, rcSmall };
+VRX_ENUM(TRoundedCorners, {"rcDefault", "rcOff", "rcOn", "rcSmall"})
+enum class TShowInTaskBar : std::uint8_t { stDefault, stAlways, stNever };
+VRX_ENUM(TShowInTaskBar, {"stDefault", "stAlways", "stNever"})
+
+// How far the frame's glass reaches into the form.
+class TGlassFrame : public TKeptPart {
+  VRX_CLASS(TGlassFrame)
+ public:
+  using TKeptPart::TKeptPart;
+};
+
 class TForm : public TWinControl {
   VRX_CLASS(TForm)
  public:
   explicit TForm(TComponent* owner);
+  static constexpr TKept<TWinControl*> ActiveControl{"ActiveControl"};
+  static constexpr TKept<TControlScrollBar*> HorzScrollBar{"HorzScrollBar"};
+  static constexpr TKept<TIcon*> Icon{"Icon"};
+  static constexpr TKept<QString> LCLVersion{"LCLVersion"};
+  static constexpr TKept<TMainMenu*> Menu{"Menu"};
+  static constexpr TKept<TControlScrollBar*> VertScrollBar{"VertScrollBar"};
 
   // The form's own class, a descendant that only the form file names ("TControlPanel").
   QByteArray StreamClassName() const override;

@@ -47,13 +47,14 @@ const char* const KindCaptions[] = {"",       "OK",    "Cancel", "&Help",   "&Ye
 }  // namespace
 
 const TClass& TBitBtn::StaticClass() {
-  static const TTypeInfo glyphs = OrdinalType("TNumGlyphs", 1, 4);
+  static const TTypeInfo glyphs = OrdinalType("TNumGlyphs", 0, 4);
   static const TClass cls(
       DescribeClass<TBitBtn>("TBitBtn", TButton::StaticClass())
           .PublishedAll(DefaultCaption, Glyph, Kind, Layout, Margin)
           .Published(NumGlyphs)
           .Type(glyphs)
           .PublishedAll(Spacing, Style)
+          .Passive("GlyphShowMode", TGlyphShowMode::gsmApplication)
           .Alphabetical()
           .ClassDoc(QStringLiteral("A push button with a picture."),
                     "pen line 1.5 brush fill box 2.5 6.5 19 11 3 pen accent 2 path 5.5 12 7.5 14 10.5 10 pen "
@@ -78,11 +79,12 @@ void TBitBtn::Paint(TCanvas& canvas) {
 }
 
 const TClass& TSpeedButton::StaticClass() {
-  static const TTypeInfo glyphs = OrdinalType("TNumGlyphs", 1, 4);
+  static const TTypeInfo glyphs = OrdinalType("TNumGlyphs", 0, 4);
   static const TClass cls(
       DescribeClass<TSpeedButton>("TSpeedButton", TGraphicControl::StaticClass())
-          .PublishAll(Placing, Placement, Direction, Hints, Styling, "Action", "Caption", "Enabled", "Font",
-                      "ParentFont", "PopupMenu", "Visible", MouseEvents, WheelEvents)
+          .PublishAll(Placing, Placement, Direction, Hints, Styling, "Action", "AutoSize", "Caption", "Color",
+                      "Enabled", "Font", "ParentColor", "ParentFont", "PopupMenu", "Visible", MouseEvents,
+                      WheelEvents)
           .PublishedAll(AllowAllUp, Down, Flat, Glyph, GroupIndex, Layout, Margin)
           .Published(NumGlyphs)
           .Type(glyphs)

@@ -23,6 +23,9 @@ VRX_ENUM(TButtonLayout, {"blGlyphLeft", "blGlyphRight", "blGlyphTop", "blGlyphBo
 enum class TButtonStyle : std::uint8_t { bsAutoDetect, bsWin31, bsNew };
 VRX_ENUM(TButtonStyle, {"bsAutoDetect", "bsWin31", "bsNew"})
 
+enum class TGlyphShowMode : std::uint8_t { gsmAlways, gsmNever, gsmApplication, gsmSystem };
+VRX_ENUM(TGlyphShowMode, {"gsmAlways", "gsmNever", "gsmApplication", "gsmSystem"})
+
 // What stands on a button: as many pictures side by side as the button has states, one of them shown.
 struct TFace {
   QImage glyph;

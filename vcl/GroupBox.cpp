@@ -78,6 +78,7 @@ const TClass& TRadioGroup::StaticClass() {
           .PublishAll(Placing, Look, ParentLook, Hints, Placement, Direction, Dragging, Windowed, Help,
                       Styling, WheelEvents, Container, "AutoSize", "Caption", "Columns", "ItemIndex", "Items",
                       "WordWrap", "OnClick", FocusEvents, DragEvents)
+          .Passive("AutoFill", true)
           .Publish("TabStop", true)
           .Alphabetical()
           .ClassDoc(QStringLiteral("Choices that exclude each other, in a frame."),

@@ -21,7 +21,11 @@ const TClass& TLabel::StaticClass() {
           .Published("Layout", &TLabel::Layout, &TLabel::SetLayout, TTextLayout::tlTop)
           .Publish("Visible")
           .Published("WordWrap", &TLabel::WordWrap, &TLabel::SetWordWrap, false)
-          .PublishAll(MouseEvents)
+          .PublishAll(MouseEvents, Placement, Direction, Dragging, Styling, WheelEvents, DragEvents,
+                      "PopupMenu")
+          .Passive("EllipsisPosition", TEllipsisPosition::epNone)
+          .Passive("GlowSize", 0)
+          .Passive("OptimalFill", false)
           .ClassDoc(QStringLiteral("A text on the form."),
                     "pen line 2.2 path 5 19 12 4.5 19 19 pen accent 2.2 path 8 14 16 14"));
   return cls;

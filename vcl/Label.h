@@ -5,6 +5,9 @@
 enum class TTextLayout : std::uint8_t { tlTop, tlCenter, tlBottom };
 VRX_ENUM(TTextLayout, {"tlTop", "tlCenter", "tlBottom"})
 
+enum class TEllipsisPosition : std::uint8_t { epNone, epPathEllipsis, epEndEllipsis, epWordEllipsis };
+VRX_ENUM(TEllipsisPosition, {"epNone", "epPathEllipsis", "epEndEllipsis", "epWordEllipsis"})
+
 class TLabel : public TGraphicControl {
   VRX_CLASS(TLabel)
  public:

@@ -60,6 +60,11 @@ const TClass& TGlyph::StaticClass() {
   return cls;
 }
 
+const TClass& TIcon::StaticClass() {
+  static const TClass cls(DescribeClass<TIcon>("TIcon", TPicture::StaticClass()));
+  return cls;
+}
+
 void TPicture::SetData(const QByteArray& bytes) {
   if (bytes == data_) return;
   Changing();
@@ -94,6 +99,7 @@ void TPicture::SetFileBytes(const QByteArray& bytes) {
     SetData(Framed(row && row->start == "BM" ? bytes : PictureToBytes(image, "bmp")));
     return;
   }
+  if (framing_ == Framing::None) return SetData(bytes);
   if (!row) throw EInvalidPicture(QStringLiteral("Forms keep BMP, PNG, JPEG, GIF and ICO pictures only."));
   const QByteArray name(row->className);
   SetData(static_cast<char>(name.size()) + name + (row->length ? Framed(bytes) : bytes));

@@ -34,7 +34,7 @@ class TPicture : public TOwnedPersistent {
   void Assign(const TPersistent* source) override;
 
  protected:
-  enum class Framing : std::uint8_t { ClassName, Length };
+  enum class Framing : std::uint8_t { ClassName, Length, None };
   TPicture(TPersistent* owner, Framing framing) : TOwnedPersistent(owner), framing_(framing) {}
 
  private:
@@ -55,6 +55,13 @@ class TGlyph : public TPicture {
   explicit TGlyph(TPersistent* owner = nullptr) : TPicture(owner, Framing::Length) {}
   // Its lower left pixel says which colour is transparent, as buttons have it.
   QImage Transparent() const;
+};
+
+// The icon of a form: the file as it is, or the length and the file.
+class TIcon : public TPicture {
+  VRX_CLASS(TIcon)
+ public:
+  explicit TIcon(TPersistent* owner = nullptr) : TPicture(owner, Framing::None) {}
 };
 
 // The bytes of a picture inside of what a form keeps: behind a class name, a length or both, or nothing.

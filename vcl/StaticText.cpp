@@ -39,6 +39,7 @@ const TClass& TStaticText::StaticClass() {
                       Help, Input, Styling, WheelEvents, "Alignment", "BorderStyle", "Caption",
                       "FocusControl", "ShowAccelChar", "Transparent", MouseEvents, DragEvents)
           .Publish("AutoSize", true)
+          .Publish("TabStop")
           .Alphabetical()
           .ClassDoc(QStringLiteral("A text on the form that other controls cannot shine through."),
                     "pen line 1.5 brush fill box 3 5.5 18 13 1 pen accent 2 path 8.5 15 12 8.5 15.5 15 path "

@@ -1,36 +1,59 @@
 #include <exception>
 
+#include "rtl/ValueList.h"
 #include "vcl/Control.h"
+#include "vcl/SideLayout.h"
 
 const TClass& TWinControl::StaticClass() {
   static const TTypeInfo tabOrder = OrdinalType("TTabOrder", -1, INT16_MAX);
-  static const TClass cls(DescribeClass<TWinControl>("TWinControl", TControl::StaticClass())
-                              .Declared("TabOrder", &TWinControl::TabOrder, &TWinControl::SetTabOrder, -1)
-                              .Type(tabOrder)
-                              .Doc(QStringLiteral("Place in the order in which Tab visits the controls."))
-                              .Declared("TabStop", &TWinControl::TabStop, &TWinControl::SetTabStop, false)
-                              .Doc(QStringLiteral("Whether Tab stops here."))
-                              .DeclaredAll(BevelEdges, BevelInner, BevelKind, BevelOuter, BevelWidth)
-                              .DeclaredPassive("Ctl3D", true)
-                              .DeclaredPassive("DockSite", false)
-                              .DeclaredPassive("DoubleBuffered", false)
-                              .DeclaredPassive("ImeMode", TImeMode::imDontCare)
-                              .DeclaredPassive<QString>("ImeName")
-                              .Declared(Padding)
-                              .DeclaredPassive("ParentBackground", true)
-                              .DeclaredPassive("ParentCtl3D", true)
-                              .DeclaredPassive("ParentDoubleBuffered", true)
-                              .DeclaredPassive("UseDockManager", false)
-                              .DeclaredEvent("OnDockDrop", "TDockDropEvent")
-                              .DeclaredEvent("OnDockOver", "TDockOverEvent")
-                              .DeclaredEvent("OnEnter")
-                              .DeclaredEvent("OnExit")
-                              .DeclaredEvent("OnGetSiteInfo", "TGetSiteInfoEvent")
-                              .DeclaredEvent("OnKeyDown", "TKeyEvent")
-                              .DeclaredEvent("OnKeyPress", "TKeyPressEvent")
-                              .DeclaredEvent("OnKeyUp", "TKeyEvent")
-                              .DeclaredEvent("OnUnDock", "TUnDockEvent"));
+  static const TClass cls(
+      DescribeClass<TWinControl>("TWinControl", TControl::StaticClass())
+          .Declared("TabOrder", &TWinControl::TabOrder, &TWinControl::SetTabOrder, -1)
+          .Type(tabOrder)
+          .Doc(QStringLiteral("Place in the order in which Tab visits the controls."))
+          .Declared("TabStop", &TWinControl::TabStop, &TWinControl::SetTabStop, false)
+          .Doc(QStringLiteral("Whether Tab stops here."))
+          .DeclaredAll(BevelEdges, BevelInner, BevelKind, BevelOuter, BevelWidth)
+          .DeclaredPassive("Ctl3D", true)
+          .DeclaredPassive("DockSite", false)
+          .DeclaredPassive("DoubleBuffered", false)
+          .DeclaredPassive("ImeMode", TImeMode::imDontCare)
+          .DeclaredPassive<QString>("ImeName")
+          .Declared(Padding)
+          .DeclaredPassive("ParentBackground", true)
+          .DeclaredPassive("ParentCtl3D", true)
+          .DeclaredPassive("ParentDoubleBuffered", true)
+          .DeclaredPassive("UseDockManager", false)
+          .DeclaredEvent("OnDockDrop", "TDockDropEvent")
+          .DeclaredEvent("OnDockOver", "TDockOverEvent")
+          .DeclaredEvent("OnEnter")
+          .DeclaredEvent("OnExit")
+          .DeclaredEvent("OnGetSiteInfo", "TGetSiteInfoEvent")
+          .DeclaredEvent("OnKeyDown", "TKeyEvent")
+          .DeclaredEvent("OnKeyPress", "TKeyPressEvent")
+          .DeclaredEvent("OnKeyUp", "TKeyEvent")
+          .DeclaredEvent("OnUnDock", "TUnDockEvent")
+          .DeclaredEvent("OnUTF8KeyPress", "TUTF8KeyPressEvent")
+          .Streamed("ClientHeight", &TWinControl::ToldClientHeight, &TWinControl::TellClientHeight)
+          .StoredIf(&TWinControl::ClientHeightTold)
+          .Streamed("ClientWidth", &TWinControl::ToldClientWidth, &TWinControl::TellClientWidth)
+          .StoredIf(&TWinControl::ClientWidthTold)
+          .StreamedPassive<TControlChildSizing*>("ChildSizing")
+          .StreamedPassive<TValueList*>("DesignSize"));
   return cls;
+}
+
+// Some form files tell the client area, too. It follows the size as it stood to it; what the control shows,
+// and the size of one that sizes itself, have nothing to do with it.
+void TWinControl::TellClientWidth(int v) {
+  if (v == ToldClientWidth()) return;
+  TComponent::DoChanging();
+  clientExtra_[0] = v - Width();
+}
+void TWinControl::TellClientHeight(int v) {
+  if (v == ToldClientHeight()) return;
+  TComponent::DoChanging();
+  clientExtra_[1] = v - Height();
 }
 
 TWinControl::~TWinControl() {

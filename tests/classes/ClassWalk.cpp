@@ -9,6 +9,7 @@
 #include "rtl/PropAccess.h"
 #include "rtl/PropText.h"
 #include "rtl/Strings.h"
+#include "rtl/ValueList.h"
 #include "vcl/PictureFile.h"
 #include "vcl/Region.h"
 
@@ -55,7 +56,7 @@ void Collect(TPersistent& instance, const QByteArray& prefix, QByteArrayList& pa
     if (!prop->IsPart()) {
       paths << prefix + prop->Name;
     } else if (TPersistent* part = GetObjectProp(instance, *prop)) {
-      if (As<TCollection>(part))
+      if (As<TCollection>(part) || As<TValueList>(part))
         paths << prefix + prop->Name;
       else
         Collect(*part, prefix + prop->Name + '.', paths);
@@ -162,7 +163,10 @@ bool SetAnother(Stage& stage, const QByteArray& path, unsigned turn) {
       return SetAnotherBinary(instance, prop, turn);
     case TTypeKind::tkClass:
       if (IsComponentRef(prop)) return SetAnotherReference(stage, instance, prop);
-      static_cast<TCollection*>(GetObjectProp(instance, prop))->Add();
+      if (auto* list = As<TValueList>(GetObjectProp(instance, prop)))
+        list->SetItems({std::int64_t{turn % 1000}, QStringLiteral("it's a text")});
+      else
+        static_cast<TCollection*>(GetObjectProp(instance, prop))->Add();
       return true;
     default:
       return SetAnotherOrdinal(instance, prop, turn);

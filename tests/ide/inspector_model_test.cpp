@@ -236,7 +236,7 @@ TEST_F(InspectorTest, AReferenceOffersTheFormsComponents) {
 
 TEST_F(InspectorTest, TheFilterLeavesMatchingNames) {
   Show({"Button1"});
-  model_.SetFilter(QStringLiteral("ABLE"));
+  model_.SetFilter(QStringLiteral("NABLE"));
   EXPECT_EQ(Rows().join(u' '), QStringLiteral("Enabled"));
   model_.SetFilter(QStringLiteral("no such"));
   EXPECT_EQ(model_.rowCount(), 0);

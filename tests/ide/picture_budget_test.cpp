@@ -68,3 +68,58 @@ TEST(PictureBudget, TheFirstPictureTooManyIsNamedWithItsLine) {
     EXPECT_EQ(e.Where().line, 5 + 3 * 6);
   }
 }
+
+namespace {
+QByteArray LittleEndian(std::int32_t v) {
+  QByteArray bytes;
+  for (int i = 0; i < 4; ++i) bytes += static_cast<char>(v >> 8 * i);
+  return bytes;
+}
+
+// A form with so many components that each keep the bytes.
+QByteArray FormKeeping(int count, const QByteArray& component, const QByteArray& property,
+                       const QByteArray& bytes) {
+  QByteArray form = "object Main: TMain\n";
+  for (int i = 0; i < count; ++i)
+    form += "  object C" + QByteArray::number(i) + ": " + component + "\n    " + property + " = {\n      " +
+            bytes.toHex().toUpper() + "}\n  end\n";
+  return form + "end\n";
+}
+
+// The line at which the form is refused; 0 when it is opened.
+int LineRefused(const QByteArray& form) {
+  try {
+    FormSession::FromBytes(form);
+  } catch (const forms::EFormError& e) {
+    return e.Where().line;
+  }
+  return 0;
+}
+}  // namespace
+
+TEST(PictureBudget, PicturesBehindAClassNameOrALengthCount) {
+  RegisterRegion();
+  const QByteArray png = PngOf(8192, 8192, 1);
+  const QByteArray name = "\x09TPngImage", length = LittleEndian(static_cast<std::int32_t>(png.size()));
+  for (const QByteArray& bytes : {name + png, name + length + png, length + png}) {
+    EXPECT_EQ(LineRefused(FormKeeping(3, "TImage", "Picture.Data", bytes)), 0);
+    EXPECT_EQ(LineRefused(FormKeeping(4, "TImage", "Picture.Data", bytes)), 3 + 3 * 4);
+  }
+  EXPECT_EQ(LineRefused(FormKeeping(4, "TSpeedButton", "Glyph.Data", length + png)), 3 + 3 * 4);
+}
+
+TEST(PictureBudget, AllPicturesOfAnImageListCount) {
+  RegisterRegion();
+  // 4 pictures of 2048 x 8192, packed; whether the pixels are there is asked later.
+  const QByteArray list =
+      "Lz" + LittleEndian(4) + LittleEndian(2048) + LittleEndian(8192) + QByteArray(8, '\0');
+  EXPECT_EQ(LineRefused(FormKeeping(3, "TImageList", "Bitmap", list)), 0);
+  EXPECT_EQ(LineRefused(FormKeeping(4, "TImageList", "Bitmap", list)), 3 + 3 * 4);
+}
+
+TEST(PictureBudget, AnImageListThatIsRefusedAnywayCostsNothing) {
+  RegisterRegion();
+  const QByteArray list =
+      "Li" + LittleEndian(90000) + LittleEndian(8192) + LittleEndian(8192) + QByteArray(8, '\0');
+  EXPECT_EQ(LineRefused(FormKeeping(6, "TImageList", "Bitmap", list)), 0);
+}

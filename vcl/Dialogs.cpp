@@ -1,0 +1,179 @@
+#include "vcl/Dialogs.h"
+
+#include "rtl/Strings.h"
+#include "vcl/Font.h"
+
+const TClass& TCommonDialog::StaticClass() {
+  static const TClass cls(DescribeClass<TCommonDialog>("TCommonDialog", TComponent::StaticClass())
+                              .Passive("HelpContext", 0)
+                              .Event("OnClose")
+                              .Event("OnShow"));
+  return cls;
+}
+
+const TClass& TOpenDialog::StaticClass() {
+  using enum TOpenOption;
+  static const TClass cls(
+      DescribeClass<TOpenDialog>("TOpenDialog", TCommonDialog::StaticClass())
+          .Passive<QString>("DefaultExt")
+          .Doc(QStringLiteral("Added to a name that has no extension."))
+          .Passive<QString>("FileName")
+          .Passive<QString>("Filter")
+          .Doc(QStringLiteral("Pairs of name and pattern: \"Texts|*.txt|All files|*\"."))
+          .Passive("FilterIndex", 1)
+          .Passive<QString>("InitialDir")
+          .Passive("Options", TOpenOptions{ofHideReadOnly, ofEnableSizing})
+          .Passive("OptionsEx", TOpenOptionsEx{})
+          .Passive<QString>("Title")
+          .Event("OnCanClose", "TCloseQueryEvent")
+          .Event("OnFolderChange")
+          .Event("OnIncludeItem", "TIncludeItemEvent")
+          .Event("OnSelectionChange")
+          .Event("OnTypeChange")
+          .ClassDoc(QStringLiteral("Asks for a file to open."),
+                    "pen line 1.5 brush fill path 3.5 19.5 3.5 5.5 9 5.5 11 8 18.5 8 18.5 11 pen accent 1.8 "
+                    "brush none path 3.5 19.5 6.5 11 21 11 18 19.5 3.5 19.5"));
+  return cls;
+}
+
+const TClass& TSaveDialog::StaticClass() {
+  static const TClass cls(
+      DescribeClass<TSaveDialog>("TSaveDialog", TOpenDialog::StaticClass())
+          .ClassDoc(
+              QStringLiteral("Asks for the name of a file to save."),
+              "pen line 1.5 brush fill box 4 4 16 16 1 pen accent 1.8 brush none box 8 4 8 5 0 box 7 13 "
+              "10 7 0"));
+  return cls;
+}
+
+const TClass& TOpenPictureDialog::StaticClass() {
+  static const TClass cls(
+      DescribeClass<TOpenPictureDialog>("TOpenPictureDialog", TOpenDialog::StaticClass())
+          .ClassDoc(QStringLiteral("Asks for a picture to open, and shows it."),
+                    "pen line 1.5 brush fill path 3.5 19.5 3.5 5.5 9 5.5 11 8 20.5 8 20.5 19.5 3.5 19.5 pen "
+                    "accent 1.8 brush none path 6 17 10 12.5 13 15.5 15.5 13 18 16"));
+  return cls;
+}
+
+const TClass& TSavePictureDialog::StaticClass() {
+  static const TClass cls(
+      DescribeClass<TSavePictureDialog>("TSavePictureDialog", TOpenPictureDialog::StaticClass())
+          .ClassDoc(
+              QStringLiteral("Asks for the name of a picture to save."),
+              "pen line 1.5 brush fill box 4 4 16 16 1 box 8 4 8 4 0 pen accent 1.8 brush none path 6.5 "
+              "17.5 10 13 12.5 15.5 14.5 13.5 17.5 17"));
+  return cls;
+}
+
+const TClass& TColorDialog::StaticClass() {
+  static const TClass cls(
+      DescribeClass<TColorDialog>("TColorDialog", TCommonDialog::StaticClass())
+          .Passive("Color", clBlack)
+          .Passive<TStrings*>("CustomColors")
+          .Doc(QStringLiteral("Colours of one's own, as \"ColorA=FFFFFF\", to \"ColorP\"."))
+          .Passive("Options", TColorDialogOptions{})
+          .Passive<QString>("Title")
+          .ClassDoc(
+              QStringLiteral("Asks for a colour."),
+              "pen line 1.5 brush fill oval 3.5 4.5 17 15 pen none brush accent oval 6.5 10 3 3 oval 10 "
+              "6.5 3 3 oval 14.5 8 3 3 pen line 1.5 brush none oval 13.5 13 3.5 3"));
+  return cls;
+}
+
+const TClass& TFontDialog::StaticClass() {
+  static const TClass cls(
+      DescribeClass<TFontDialog>("TFontDialog", TCommonDialog::StaticClass())
+          .Passive("Device", TFontDialogDevice::fdScreen)
+          .Published("Font", &TFontDialog::Font, &TFontDialog::SetFont)
+          .Passive("MaxFontSize", 0)
+          .Passive("MinFontSize", 0)
+          .Passive("Options", TFontDialogOptions{TFontDialogOption::fdEffects})
+          .Passive<QString>("PreviewText")
+          .Passive<QString>("Title")
+          .Event("OnApply", "TFDApplyEvent")
+          .ClassDoc(
+              QStringLiteral("Asks for a font."),
+              "pen line 1.5 brush fill box 3.5 3.5 17 17 1 pen accent 2 brush none path 8 17 12 7 16 17 "
+              "path 9.5 13.5 14.5 13.5"));
+  return cls;
+}
+
+const TClass& TPrinterSetupDialog::StaticClass() {
+  static const TClass cls(
+      DescribeClass<TPrinterSetupDialog>("TPrinterSetupDialog", TCommonDialog::StaticClass())
+          .ClassDoc(QStringLiteral("Asks for a printer and how it is set up."),
+                    "pen line 1.5 brush fill box 3.5 9 17 8 1 box 7 3.5 10 5.5 0 pen accent 1.8 path 7 20.5 "
+                    "17 20.5 pen line 1.5 path 17 12 18 12"));
+  return cls;
+}
+
+const TClass& TPrintDialog::StaticClass() {
+  static const TClass cls(
+      DescribeClass<TPrintDialog>("TPrintDialog", TCommonDialog::StaticClass())
+          .Passive("Collate", false)
+          .Passive("Copies", 0)
+          .Passive("FromPage", 0)
+          .Passive("MaxPage", 0)
+          .Passive("MinPage", 0)
+          .Passive("Options", TPrintDialogOptions{})
+          .Passive("PrintRange", TPrintRange::prAllPages)
+          .Passive("PrintToFile", false)
+          .Passive<QString>("Title")
+          .Passive("ToPage", 0)
+          .ClassDoc(
+              QStringLiteral("Asks what to print, and how often."),
+              "pen line 1.5 brush fill box 3.5 9 17 7 1 box 7 3.5 10 5.5 0 pen accent 1.8 box 7 13.5 10 "
+              "7 0 path 9 17 15 17"));
+  return cls;
+}
+
+const TClass& TPageSetupDialog::StaticClass() {
+  static const TClass cls(
+      DescribeClass<TPageSetupDialog>("TPageSetupDialog", TCommonDialog::StaticClass())
+          .Passive("MarginBottom", 0)
+          .Passive("MarginLeft", 0)
+          .Passive("MarginRight", 0)
+          .Passive("MarginTop", 0)
+          .Passive("MinMarginBottom", 0)
+          .Passive("MinMarginLeft", 0)
+          .Passive("MinMarginRight", 0)
+          .Passive("MinMarginTop", 0)
+          .Passive("Options", TPageSetupDialogOptions{})
+          .Passive("PageHeight", 0)
+          .Passive("PageWidth", 0)
+          .Passive<QString>("Title")
+          .Passive("Units", TPageMeasureUnits::pmDefault)
+          .Event("OnDrawEnvelope", "TPaintPageEvent")
+          .Event("OnDrawFullPage", "TPaintPageEvent")
+          .Event("OnDrawGreekText", "TPaintPageEvent")
+          .Event("OnDrawMargin", "TPaintPageEvent")
+          .Event("OnDrawMinMargin", "TPaintPageEvent")
+          .Event("OnDrawRetAddress", "TPaintPageEvent")
+          .ClassDoc(QStringLiteral("Asks for paper and margins."),
+                    "pen line 1.5 brush fill box 5 3.5 14 17 0 pen accent 1.5 brush none box 8 6.5 8 11 0"));
+  return cls;
+}
+
+const TClass& TFindDialog::StaticClass() {
+  static const TClass cls(
+      DescribeClass<TFindDialog>("TFindDialog", TCommonDialog::StaticClass())
+          .Passive<QString>("FindText")
+          .Passive("Options", TFindOptions{TFindOption::frDown})
+          .Passive<QString>("Title")
+          .Event("OnFind")
+          .ClassDoc(QStringLiteral("Asks for a text to look for."),
+                    "pen line 1.5 brush fill oval 4 4 11 11 pen accent 2.4 path 14 14 20 20"));
+  return cls;
+}
+
+const TClass& TReplaceDialog::StaticClass() {
+  static const TClass cls(
+      DescribeClass<TReplaceDialog>("TReplaceDialog", TFindDialog::StaticClass())
+          .Passive<QString>("ReplaceText")
+          .Event("OnReplace")
+          .ClassDoc(
+              QStringLiteral("Asks for a text to look for and one to put in its place."),
+              "pen line 1.5 brush fill oval 3.5 3.5 9 9 pen line 2 path 11.5 11.5 14.5 14.5 pen accent 2 "
+              "path 6 20 20 20 path 17 17 20 20 17 22.5"));
+  return cls;
+}
