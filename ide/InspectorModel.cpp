@@ -77,7 +77,7 @@ void InspectorModel::SetSession(FormSession* session) {
   if (session_) {
     // A selection that is told again changes no row.
     connect(session_, &FormSession::SelectionChanged, this, [this] {
-      if (shown_ != session_->SelectedComponents()) Rebuild();
+      if (IsOther()) Rebuild();
     });
     connect(session_, &FormSession::Changed, this, [this](const FormChange& change) {
       if (change.structure) Rebuild();
@@ -115,20 +115,25 @@ bool InspectorModel::Belongs(const TPropertyEditor& editor) const {
   return std::any_of(properties.begin(), properties.end(), [](const TPropInfo* p) { return p->IsEvent(); });
 }
 
+// Whether something else is selected than what the rows are of.
+bool InspectorModel::IsOther() const {
+  return shown_ != session_->SelectedComponents() || inspected_ != session_->GetSelections();
+}
+
 void InspectorModel::Rebuild() {
   beginResetModel();
   if (running_ > 0) retired_.push_back(std::move(root_));
   root_ = std::make_unique<Node>();
   root_->loaded = true;
   shown_ = session_ ? session_->SelectedComponents() : std::vector<TComponent*>();
+  inspected_ = session_ ? session_->GetSelections() : TDesignerSelections();
   std::vector<std::unique_ptr<TPropertyEditor>> editors;
   const auto collect = [&](std::unique_ptr<TPropertyEditor> e) {
-    const bool root = shown_.front() == session_->GetRoot();
+    const bool root = inspected_.front() == session_->GetRoot();
     if (Belongs(*e) && !(root && !RootHasProperty(session_->Form().Kind(), e->GetPropInfo().Name)))
       editors.push_back(std::move(e));
   };
-  if (session_)
-    session_->Registry().GetComponentProperties({shown_.begin(), shown_.end()}, session_, collect);
+  if (session_) session_->Registry().GetComponentProperties(inspected_, session_, collect);
   std::stable_sort(editors.begin(), editors.end(), [](const auto& a, const auto& b) {
     return NameOf(*a).compare(NameOf(*b), Qt::CaseInsensitive) < 0;
   });
@@ -139,7 +144,7 @@ void InspectorModel::Rebuild() {
     std::map<QString, Node*> groups;
     for (const auto& e : editors)
       for (const QString& category :
-           session_->Registry().CategoriesOf(shown_.front()->ClassType(), e->GetPropInfo().Name)) {
+           session_->Registry().CategoriesOf(inspected_.front()->ClassType(), e->GetPropInfo().Name)) {
         Node*& group = groups[category];
         if (!group) {
           group = &root_->Add(nullptr);
@@ -215,7 +220,7 @@ bool InspectorModel::IsStale(const Node& node) const {
 }
 
 void InspectorModel::Refresh() {
-  if (!session_ || shown_ != session_->SelectedComponents() || IsStale(*root_)) return Rebuild();
+  if (!session_ || IsOther() || IsStale(*root_)) return Rebuild();
   TellChanges({});
 }
 

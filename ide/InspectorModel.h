@@ -64,6 +64,7 @@ class InspectorModel : public QAbstractItemModel {
   bool Filter(Node& node, bool everything) const;
   bool Fits(const Node& node) const;
   bool IsStale(const Node& node) const;
+  bool IsOther() const;
   void Rebuild();
   void Refresh();
   void TellChanges(const QModelIndex& parent);
@@ -74,6 +75,7 @@ class InspectorModel : public QAbstractItemModel {
   QPointer<FormSession> session_;
   std::unique_ptr<Node> root_;
   std::vector<TComponent*> shown_;
+  TDesignerSelections inspected_;  // the same, or parts of them in their place
   bool events_ = false;
   bool byCategory_ = false;
   QString filter_;

@@ -4,6 +4,7 @@
 #include <functional>
 
 #include "vcl/Control.h"
+#include "vcl/Menu.h"
 
 // What a root stands for. Only a form has a window frame; a data module holds no controls.
 enum class TFormKind : std::uint8_t { Form, Frame, DataModule };
@@ -51,7 +52,13 @@ class TForm : public TWinControl {
   // Keeps the client area.
   void SetKind(TFormKind v);
 
-  // The frame as it is drawn: title bar and borders, in pixels.
+  static constexpr TKept<TMainMenu*> Menu{"Menu"};
+  // The menu that the form shows below its title bar; null for none.
+  TMainMenu* ShownMenu() const;
+  // How much of the frame's top is its bar.
+  int MenuBarHeight() const;
+
+  // The frame as it is drawn: title bar, menu bar and borders, in pixels.
   QMargins FrameMargins() const;
   // The client area with the frame around it.
   QSize OuterSize() const;
@@ -112,7 +119,8 @@ class TForm : public TWinControl {
   int FrameHeight() const { return Height(); }
   void SetFrameWidth(int v);
   void SetFrameHeight(int v);
-  // The measures of the drawn frame.
+  // Without the menu bar, which is added outside of the sizes that the form file gives.
+  QMargins WindowFrame() const;
   QSize OwnFrame() const;
   QSize ShownFrame() const;
   void TakeLoadedSize();
