@@ -48,12 +48,15 @@ int DescribeCommand(const QStringList& list, Console& console) {
   if (!args.Has(QStringLiteral("--dialogs")))
     throw UsageError{QStringLiteral("what is to be described? --dialogs")};
   if (args.values.size() > 1) throw UsageError{QStringLiteral("one PACKAGE is expected, not several")};
-  const QString package = LoadClasses(console, false, args.values.value(0));
+  // The designer's own dialogs belong to no package.
+  const bool own = args.values.value(0) == QStringLiteral("standard");
+  const QString package = LoadClasses(console, false, own ? QString() : args.values.value(0));
   const bool json = args.Has(QStringLiteral("--json"));
   QJsonArray dialogs;
   bool failed = false;
   for (const TDialogRegistration& entry : Host().Dialogs()) {
-    if (Host().PackageName(entry.Package) != package) continue;
+    if (own ? entry.Package != nullptr : !entry.Package || Host().PackageName(entry.Package) != package)
+      continue;
     try {
       const std::unique_ptr<QDialog> dialog = Host().Open(entry);
       const QString caption = dialog->windowTitle();

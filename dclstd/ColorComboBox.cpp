@@ -31,17 +31,17 @@ void ColorComboBox::Add(TColor color) {
 void ColorComboBox::Fill() {
   const QSignalBlocker block(this);
   clear();
-  if (styles_.Contains(TColorBoxStyle::csAnyColor)) addItem(tr("Custom..."));
+  if (styles_.Contains(TColorChoice::csAnyColor)) addItem(tr("Custom..."));
   for (const TColorEntry& e : NamedColors())
-    if (styles_.Contains(e.System ? TColorBoxStyle::csSystemColors : TColorBoxStyle::csDefaultColors))
+    if (styles_.Contains(e.System ? TColorChoice::csSystemColors : TColorChoice::csDefaultColors))
       Add(e.Value);
-  if (styles_.Contains(TColorBoxStyle::csCustomColors))
+  if (styles_.Contains(TColorChoice::csCustomColors))
     for (const TColor c : CustomColorValues(customColors_)) Add(c);
   listed_ = count();
   SetSelected(selected_);
 }
 
-void ColorComboBox::SetStyles(TColorBoxStyles styles) {
+void ColorComboBox::SetStyles(TColorChoices styles) {
   styles_ = styles;
   Fill();
 }
@@ -87,7 +87,7 @@ class ColorComboBox::WithoutCustom {
 
  private:
   void Enable(bool on) {
-    if (combo_.styles_.Contains(TColorBoxStyle::csAnyColor))
+    if (combo_.styles_.Contains(TColorChoice::csAnyColor))
       static_cast<QStandardItemModel*>(combo_.model())->item(0)->setEnabled(on);
   }
   ColorComboBox& combo_;

@@ -4,10 +4,10 @@
 
 #include "vcl/ColorSwatch.h"
 
-enum class TColorBoxStyle : std::uint8_t { csDefaultColors, csSystemColors, csCustomColors, csAnyColor };
-using TColorBoxStyles = TSet<TColorBoxStyle>;
-constexpr TColorBoxStyles AllColors{TColorBoxStyle::csDefaultColors, TColorBoxStyle::csSystemColors,
-                                    TColorBoxStyle::csCustomColors, TColorBoxStyle::csAnyColor};
+enum class TColorChoice : std::uint8_t { csDefaultColors, csSystemColors, csCustomColors, csAnyColor };
+using TColorChoices = TSet<TColorChoice>;
+constexpr TColorChoices AllColors{TColorChoice::csDefaultColors, TColorChoice::csSystemColors,
+                                    TColorChoice::csCustomColors, TColorChoice::csAnyColor};
 
 class QToolButton;
 
@@ -17,8 +17,8 @@ class ColorComboBox : public QComboBox {
   explicit ColorComboBox(QWidget* parent = nullptr);
 
   // Which colours are listed; all at first.
-  TColorBoxStyles Styles() const { return styles_; }
-  void SetStyles(TColorBoxStyles styles);
+  TColorChoices Styles() const { return styles_; }
+  void SetStyles(TColorChoices styles);
   TColor Selected() const { return selected_; }
   // Shows the colour, in an entry of its own while it is selected when the list does not hold it. Does not
   // emit Change.
@@ -48,7 +48,7 @@ class ColorComboBox : public QComboBox {
   // While it lives, the entry that opens the dialog is passed over.
   class WithoutCustom;
 
-  TColorBoxStyles styles_ = AllColors;
+  TColorChoices styles_ = AllColors;
   TColor selected_ = clBlack;
   QStringList customColors_;
   int listed_ = 0;  // entries of the list proper; behind them at most the selected colour

@@ -1,5 +1,15 @@
+#include "dclstd/DateTimeDialog.h"
+#include "dclstd/DialogRegistration.h"
+#include "dclstd/FilterDialog.h"
+#include "dclstd/ImageListDialog.h"
+#include "dclstd/LinesDialog.h"
+#include "dclstd/PictureEditor.h"
+#include "dclstd/ShortCutDialog.h"
 #include "dclstd/StandardEditors.h"
+#include "dclstd/StandardVerbs.h"
+#include "dclstd/ValueEditors.h"
 #include "designintf/RegistrationTable.h"
+#include "rtl/Collection.h"
 #include "rtl/Strings.h"
 #include "vcl/Action.h"
 #include "vcl/ApplicationEvents.h"
@@ -59,10 +69,22 @@ const Row kRows[] = {
     Property<TFontCharset, TFontCharsetProperty>(),
     Property<TFont, TFontProperty>(),
     Property<TStrings, TStringListProperty>(),
+    Property<TCollection, TCollectionProperty>(),
+    Property<TPicture, TPictureProperty>(),
+    Property<TShortCut, TShortCutProperty>(),
+    Property<TDateTime, TDateTimeProperty>(),
+    Property<QString, TFilterProperty, TComponent>("Filter"),
     Property<CaptionType, TCaptionProperty>(),
     Property<FontNameType, TFontNameProperty>(),
     Property<ComponentNameType, TComponentNameProperty>(),
     Property<ModalResultType, TModalResultProperty>(),
+
+    Dialogs<LinesDialog, PictureEditorDialog, ImageListDialog, ShortCutDialog, FilterDialog,
+            DateTimeDialog>(),
+    Component<TComponent, TStandardEditor>(),
+    Component<TMenu, TMenuEditor>(),
+    Component<TActionList, TActionListEditor>(),
+    Component<TCustomImageList, TImageListEditor>(),
 
     Category<TControl>(TResString::sLayoutCategoryName,
                        {"Left", "Top", "Width", "Height", "Align", "Anchors", "AutoSize", "Alignment",

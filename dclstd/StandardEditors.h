@@ -26,6 +26,7 @@ class TCursorProperty : public TNamedIntegerProperty {
  public:
   using TNamedIntegerProperty::TNamedIntegerProperty;
   void GetValues(const TGetStrProc& proc) const override;
+  QIcon GetValueIcon(const QString& value) const override;
 };
 class TFontCharsetProperty : public TNamedIntegerProperty {
  public:
@@ -59,6 +60,24 @@ class TStringListProperty : public TClassProperty {
  public:
   using TClassProperty::TClassProperty;
   TPropertyAttributes GetAttributes() const override;
+  void Edit() override;
+};
+
+// The items in a window of their own.
+class TCollectionProperty : public TClassProperty {
+ public:
+  using TClassProperty::TClassProperty;
+  TPropertyAttributes GetAttributes() const override;
+  void Edit() override;
+};
+
+class TPictureProperty : public TClassProperty {
+ public:
+  using TClassProperty::TClassProperty;
+  TPropertyAttributes GetAttributes() const override;
+  // "(TBitmap)", or "(None)".
+  QString GetValue() const override;
+  bool AllEqual() const override;
   void Edit() override;
 };
 

@@ -28,6 +28,7 @@ void FormSurface::SetSession(FormSession* session) {
     connect(session_, &FormSession::Changed, this, &FormSurface::TakeChange);
     connect(session_, &FormSession::SelectionChanged, this, [this] {
       for (const TComponent* c : session_->SelectedComponents()) RevealPages(*c);
+      if (menuOpen_ || SelectedInMenu().Level) update();
       UpdateFrames();
     });
     connect(session_, &QObject::destroyed, this, [this] { SetSession(nullptr); });
@@ -126,6 +127,10 @@ QRect FormSurface::FormRectOf(const TComponent& c) const {
   const TForm& form = session_->Form();
   const QMargins m = form.FrameMargins();
   if (&c == &form) return QRect({-m.left(), -m.top()}, form.OuterSize());
+  if (auto* item = As<TMenuItem>(const_cast<TComponent*>(&c)))
+    if (const auto menu = OpenMenu())
+      if (const QRect cell = menu->RectOf({item->Around(), item}); !cell.isNull())
+        return cell.translated(MenuOrigin());
   return FormPlaceOf(ShownFor(*session_, c));
 }
 
@@ -156,6 +161,8 @@ TControl* FormSurface::DeepestAt(QPoint p) const {
 TComponent* FormSurface::ComponentAt(QPoint widgetPoint) const {
   if (!session_) return nullptr;
   const QPoint p = ToForm(widgetPoint);
+  if (const auto menu = OpenMenu())
+    if (TMenuItem* item = menu->At(p - MenuOrigin()).Item) return item;
   for (auto it = icons_.rbegin(); it != icons_.rend(); ++it)
     if (PlaceOf(**it).contains(p)) return *it;
   const TForm& form = session_->Form();

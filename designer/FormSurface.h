@@ -7,6 +7,7 @@
 
 #include "designintf/ComponentTile.h"
 #include "ide/Tiles.h"
+#include "vcl/MenuLook.h"
 
 class FormSurface : public QWidget {
   Q_OBJECT
@@ -81,6 +82,12 @@ class FormSurface : public QWidget {
   void PaintGrid(QPainter& p, const QRect& sight) const;
   void PaintIcons(QPainter& p, const QRect& sight) const;
   void PaintSelection(QPainter& p);
+  // The form's menu, open down to the selected item; its origin in client coordinates is above the client
+  // area.
+  std::optional<TMenuLook> OpenMenu() const;
+  TMenuLook::Place SelectedInMenu() const;
+  QPoint MenuOrigin() const;
+  void PaintMenu(QPainter& p) const;
   void PaintDrag(QPainter& p) const;
   void UpdateSize();
   void TakeChange(const FormChange& change);
@@ -103,4 +110,5 @@ class FormSurface : public QWidget {
   QString refusal_;                 // why it cannot
   std::vector<TComponent*> icons_;  // what has a tile
   QRegion frames_;                  // where the selection is painted
+  bool menuOpen_ = false;           // as it was painted
 };

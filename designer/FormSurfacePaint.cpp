@@ -23,9 +23,40 @@ void FormSurface::paintEvent(QPaintEvent* event) {
   const QRect sight = p.clipBoundingRect().toAlignedRect();
   PaintGrid(p, sight & session_->Form().ClientRect());
   PaintIcons(p, sight);  // an icon beyond the edge is still to be found
+  PaintMenu(p);
   p.restore();
   p.resetTransform();
+  menuOpen_ = SelectedInMenu().Level != nullptr;
   PaintSelection(p);
+}
+
+// --- The menu bar of the form
+
+QPoint FormSurface::MenuOrigin() const { return {0, -session_->Form().MenuBarHeight()}; }
+
+TMenuLook::Place FormSurface::SelectedInMenu() const {
+  if (!session_ || !session_->Form().ShownMenu() || session_->SelectedComponents().size() != 1) return {};
+  auto* item = As<TMenuItem>(session_->SelectedComponents().front());
+  if (!item || MenuOf(*item) != session_->Form().ShownMenu()) return {};
+  return {item->Around(), item};
+}
+
+std::optional<TMenuLook> FormSurface::OpenMenu() const {
+  const TForm& form = session_->Form();
+  if (form.MenuBarHeight() == 0) return {};
+  TMenuLook look(*form.ShownMenu(), form.ClientWidth());
+  if (const auto place = SelectedInMenu(); place.Level) look.Open(place);
+  return look;
+}
+
+void FormSurface::PaintMenu(QPainter& p) const {
+  const auto place = SelectedInMenu();
+  const auto look = place.Level ? OpenMenu() : std::nullopt;
+  if (!look) return;
+  p.save();
+  p.translate(MenuOrigin());
+  look->Paint(p, place);
+  p.restore();
 }
 
 void FormSurface::PaintGrid(QPainter& p, const QRect& sight) const {

@@ -109,48 +109,56 @@ class Drawing {
   qsizetype at_ = 0;
 };
 
-void Draw(const TClass& cls, QPainter& painter, const QRectF& rect, const QPalette& palette,
-          QIcon::Mode mode = QIcon::Normal) {
+QByteArrayView DrawingOf(const TClass& cls) {
   constexpr QByteArrayView plain =
       "pen line 1.5 brush fill box 4 4 16 16 3 pen none brush accent oval 9 9 6 6";
+  return cls.Icon().isEmpty() ? plain : QByteArrayView(cls.Icon());
+}
+
+void Draw(QByteArrayView drawing, QPainter& painter, const QRectF& rect, const QPalette& palette,
+          QIcon::Mode mode = QIcon::Normal) {
   painter.save();
+  if (mode == QIcon::Disabled) painter.setOpacity(0.35);
   painter.setRenderHint(QPainter::Antialiasing);
   painter.translate(rect.topLeft());
   painter.scale(rect.width() / 24, rect.height() / 24);
-  Drawing(cls.Icon().isEmpty() ? plain : cls.Icon(), InkOn(palette, mode), &painter).Run();
+  Drawing(drawing, InkOn(palette, mode), &painter).Run();
   painter.restore();
 }
 
 // Draws when it is shown, so that a change of theme needs no new icons.
 class Engine : public QIconEngine {
  public:
-  explicit Engine(const TClass& cls) : cls_(cls) {}
+  explicit Engine(QByteArrayView drawing) : drawing_(drawing) {}
   void paint(QPainter* painter, const QRect& rect, QIcon::Mode mode, QIcon::State) override {
-    Draw(cls_, *painter, rect, QApplication::palette(), mode);
+    Draw(drawing_, *painter, rect, QApplication::palette(), mode);
   }
   QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State) override {
     QPixmap pixmap(size);
     pixmap.fill(Qt::transparent);
     QPainter p(&pixmap);
-    Draw(cls_, p, QRectF(QPointF(0, 0), size), QApplication::palette(), mode);
+    Draw(drawing_, p, QRectF(QPointF(0, 0), size), QApplication::palette(), mode);
     return pixmap;
   }
-  QIconEngine* clone() const override { return new Engine(cls_); }
+  QIconEngine* clone() const override { return new Engine(drawing_); }
 
  private:
-  const TClass& cls_;
+  QByteArrayView drawing_;
 };
 }  // namespace
 
-QIcon ComponentIcon(const TClass& cls) { return QIcon(new Engine(cls)); }
+QIcon ComponentIcon(const TClass& cls) { return QIcon(new Engine(DrawingOf(cls))); }
+QIcon DrawnIcon(QByteArrayView drawing) { return QIcon(new Engine(drawing)); }
 
 QPixmap ComponentPixmap(const TClass& cls, int pixels, qreal ratio, const QPalette& palette) {
   QPixmap pixmap(QSize(pixels, pixels) * ratio);
   pixmap.setDevicePixelRatio(ratio);
   pixmap.fill(Qt::transparent);
   QPainter p(&pixmap);
-  Draw(cls, p, QRectF(0, 0, pixels, pixels), palette);
+  Draw(DrawingOf(cls), p, QRectF(0, 0, pixels, pixels), palette);
   return pixmap;
 }
 
-QByteArray UnknownWordOf(QByteArrayView drawing) { return Drawing(drawing, InkOn(QPalette(), QIcon::Normal), nullptr).Run(); }
+QByteArray UnknownWordOf(QByteArrayView drawing) {
+  return Drawing(drawing, InkOn(QPalette(), QIcon::Normal), nullptr).Run();
+}

@@ -16,6 +16,8 @@
 
 // The icon of the class or its nearest ancestor; a plain component symbol when none has one.
 QIcon ComponentIcon(const TClass& cls);
+// Of a drawing that outlives the icon.
+QIcon DrawnIcon(QByteArrayView drawing);
 // The same as a picture of `pixels` by `pixels`, readable on what `palette` paints.
 QPixmap ComponentPixmap(const TClass& cls, int pixels, qreal devicePixelRatio = 1,
                         const QPalette& palette = QGuiApplication::palette());

@@ -3,6 +3,7 @@
 #include "ide/PictureBudget.h"
 #include "ide/StandIns.h"
 #include "rtl/ClassRegistry.h"
+#include "vcl/Nested.h"
 
 namespace {
 TComponent* MakeRoot(const forms::Object& object, bool sizeIsClient, TComponent* owner) {
@@ -104,12 +105,21 @@ int BoundForm::NewChildIndex(const forms::Object& parent, bool control) const {
   return index;
 }
 
-// How many controls stand before the child.
-int BoundForm::PlaceAmong(const forms::Object& parent, int index) const {
+// How many of the family stand before the child.
+int BoundForm::PlaceAmong(const forms::Object& parent, int index, const TClass& family) const {
   int place = 0;
-  for (int i = 0; i < index; ++i)
-    if (As<TControl>(map_.ComponentOf(*parent.children[static_cast<std::size_t>(i)]))) ++place;
+  for (int i = 0; i < index; ++i) {
+    const TComponent* c = map_.ComponentOf(*parent.children[static_cast<std::size_t>(i)]);
+    if (c && c->InheritsFrom(family)) ++place;
+  }
   return place;
+}
+
+void BoundForm::PutInPlace(TComponent& component, const forms::Object& parent, int index) const {
+  if (auto* control = As<TControl>(&component); control && control->Parent())
+    control->Parent()->SetControlIndex(control, PlaceAmong(parent, index, TControl::StaticClass()));
+  if (auto* nested = As<TNestedComponent>(&component))
+    nested->SetNestedIndex(PlaceAmong(parent, index, TNestedComponent::StaticClass()));
 }
 
 // --- Coming and going
@@ -119,9 +129,7 @@ TComponent* BoundForm::MakeComponents(const StructureChange& s) {
   TComponent* c = reader.ReadChild(*s.object, *root_, *map_.ComponentOf(*s.parent));
   NoteDangling(reader.Findings());
   if (!c) return nullptr;
-  // Back to its place among the siblings.
-  if (auto* control = As<TControl>(c); control && control->Parent())
-    control->Parent()->SetControlIndex(control, PlaceAmong(*s.parent, s.index));
+  PutInPlace(*c, *s.parent, s.index);
   TakeFingerprints(*s.object);
   watcher_.Came(*c);
   return c;
@@ -137,10 +145,10 @@ void BoundForm::MoveObject(StructureChange& s, bool redo) {
   std::unique_ptr<forms::Object> node = s.object->parent->Take(s.object->IndexInParent());
   const int index = redo ? s.newIndex : s.index;
   to->Insert(index, std::move(node));
-  auto* control = As<TControl>(map_.ComponentOf(*s.object));
-  if (!control) return;
-  control->SetParentComponent(map_.ComponentOf(*to));
-  if (control->Parent()) control->Parent()->SetControlIndex(control, PlaceAmong(*to, index));
+  TComponent* component = map_.ComponentOf(*s.object);
+  if (!component) return;
+  component->SetParentComponent(map_.ComponentOf(*to));
+  PutInPlace(*component, *to, index);
 }
 
 void BoundForm::TakeObject(StructureChange& s) {

@@ -85,7 +85,9 @@ class BoundForm {
  private:
   forms::FormReader MakeReader(forms::Document& document, forms::ObjectMap& map);
   void NoteDangling(const std::vector<forms::Finding>& findings);
-  int PlaceAmong(const forms::Object& parent, int index) const;
+  int PlaceAmong(const forms::Object& parent, int index, const TClass& family) const;
+  // Among its siblings where its object stands.
+  void PutInPlace(TComponent& component, const forms::Object& parent, int index) const;
   void RemoveWithChildren(TComponent& component);
   void InsertObject(StructureChange& change);
   void MoveObject(StructureChange& change, bool redo);

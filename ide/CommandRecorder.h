@@ -60,7 +60,10 @@ class CommandRecorder {
   void CaptureSilent();
   void TakeArrivals();
   void TakePlaces();
-  void TakePlace(TControl& control, const QSet<const TControl*>& moving, int rank);
+  void TakeNestedPlaces();
+  // Puts the object behind the sibling that its component now follows.
+  void TakePlace(TComponent& component, TComponent& parent, const std::vector<TComponent*>& siblings,
+                 const QSet<const TComponent*>& moving);
   void TakeBounds();
   void MarkFollowing(std::vector<forms::ValueChange>& values, const TControl& control);
   std::optional<ComponentChange> TakeChange(Before& before);

@@ -1,11 +1,13 @@
 // The end of a command: what was noted on the way becomes differences of values and structure.
 #include "ide/CommandRecorder.h"
 #include "ide/StandIns.h"
+#include "vcl/Nested.h"
 
 std::unique_ptr<Command> CommandRecorder::Take() {
   if (modified_) CaptureSilent();
   TakeArrivals();
   TakePlaces();
+  TakeNestedPlaces();
   TakeBounds();
   auto command = std::make_unique<Command>();
   command->selectionBefore = std::move(selectionBefore_);
@@ -43,7 +45,7 @@ void CommandRecorder::TakeArrivals() {
 void CommandRecorder::TakePlaces() {
   std::vector<TControl*> placed = std::exchange(placed_, {});
   if (placed.empty()) return;
-  const QSet<const TControl*> moving(placed.begin(), placed.end());
+  const QSet<const TComponent*> moving(placed.begin(), placed.end());
   std::erase_if(placed, [&](const TControl* c) {
     const forms::Object* object = form_.ObjectOf(*c);
     return !object || created_.contains(object) || !c->Parent() || !form_.ObjectOf(*c->Parent());
@@ -53,19 +55,52 @@ void CommandRecorder::TakePlaces() {
   for (const TControl* c : placed) ranks.insert(c, c->Parent()->ControlIndex(c));
   std::stable_sort(placed.begin(), placed.end(),
                    [&](const TControl* a, const TControl* b) { return ranks.value(a) < ranks.value(b); });
-  for (TControl* control : placed) TakePlace(*control, moving, ranks.value(control));
+  for (TControl* c : placed) {
+    const auto& siblings = c->Parent()->Controls();
+    TakePlace(*c, *c->Parent(), {siblings.begin(), siblings.end()}, moving);
+  }
+}
+
+// Parts of menus and lists of actions tell of their moves like of any other change.
+void CommandRecorder::TakeNestedPlaces() {
+  std::vector<TNestedComponent*> candidates;
+  QSet<const TComponent*> moving;
+  const auto add = [&](TComponent* c) {
+    auto* nested = As<TNestedComponent>(c);
+    if (!nested || moving.contains(nested)) return;
+    candidates.push_back(nested);
+    moving.insert(nested);
+  };
+  for (const Before& b : captured_)
+    if (form_.ObjectOf(*b.component) == b.object) add(b.component);
+  for (const forms::Object* o : created_)
+    if (TComponent* c = form_.ComponentOf(*o)) add(c);
+  std::stable_sort(candidates.begin(), candidates.end(),
+                   [](const auto* a, const auto* b) { return a->NestedIndex() < b->NestedIndex(); });
+  for (TNestedComponent* c : candidates) {
+    TComponent* parent = c->GetParentComponent();
+    if (!parent || !form_.ObjectOf(*parent)) continue;
+    if (const TNestedComponent* around = c->Around())
+      TakePlace(*c, *parent, {around->Nested().begin(), around->Nested().end()}, moving);
+    else if (const auto* was = form_.ObjectOf(*c)->parent;
+             was && As<TNestedComponent>(form_.ComponentOf(*was)))
+      TakePlace(*c, *parent, {}, moving);
+  }
 }
 
 // Behind the sibling it now follows, before the next that stands still.
-void CommandRecorder::TakePlace(TControl& control, const QSet<const TControl*>& moving, int rank) {
-  forms::Object* object = form_.ObjectOf(control);
-  forms::Object* parent = form_.ObjectOf(*control.Parent());
-  const auto& siblings = control.Parent()->Controls();
+void CommandRecorder::TakePlace(TComponent& component, TComponent& container,
+                                const std::vector<TComponent*>& siblings,
+                                const QSet<const TComponent*>& moving) {
+  forms::Object* object = form_.ObjectOf(component);
+  forms::Object* parent = form_.ObjectOf(container);
+  const auto here = std::find(siblings.begin(), siblings.end(), &component);
   const forms::Object* previous =
-      rank > 0 ? form_.ObjectOf(*siblings[static_cast<std::size_t>(rank - 1)]) : nullptr;
-  const auto still = std::find_if(siblings.begin() + rank + 1, siblings.end(), [&](const TControl* c) {
-    return !moving.contains(c) && form_.ObjectOf(*c);
-  });
+      here == siblings.begin() || here == siblings.end() ? nullptr : form_.ObjectOf(**(here - 1));
+  const auto still =
+      here == siblings.end() ? here : std::find_if(here + 1, siblings.end(), [&](const TComponent* c) {
+        return !moving.contains(c) && form_.ObjectOf(*c);
+      });
   const forms::Object* next = still == siblings.end() ? nullptr : form_.ObjectOf(**still);
   const int at = object->IndexInParent();
   if (parent == object->parent && (!previous || previous->IndexInParent() < at) &&
@@ -80,7 +115,7 @@ void CommandRecorder::TakePlace(TControl& control, const QSet<const TControl*>& 
   s.newParent = parent;
   s.newIndex = previous ? previous->IndexInParent() + 1
                : next   ? next->IndexInParent()
-                        : form_.NewChildIndex(*parent, true);
+                        : form_.NewChildIndex(*parent, As<TControl>(&component) != nullptr);
   parent->Insert(s.newIndex, std::move(node));
   structure_.push_back(std::move(s));
 }

@@ -101,6 +101,10 @@ void FormSession::Saved() {
 
 void FormSession::Select(const std::vector<TComponent*>& components) {
   selection_.Set(components, Form());
+  TellSelection();
+}
+
+void FormSession::TellSelection() {
   emit SelectionChanged();
   const TDesignerSelections list = GetSelections();
   NotifyDesign([&](IDesignNotification& n) { n.SelectionChanged(this, list); });
@@ -109,15 +113,8 @@ void FormSession::Select(const std::vector<TComponent*>& components) {
 void FormSession::SelectComponent(TPersistent* instance) { SetSelections({instance}); }
 
 void FormSession::SetSelections(const TDesignerSelections& list) {
-  std::vector<TComponent*> components;
-  for (TPersistent* p : list)
-    if (auto* c = As<TComponent>(p)) components.push_back(c);
-  Select(components);
-}
-
-TDesignerSelections FormSession::GetSelections() const {
-  const auto& selected = selection_.Components();
-  return {selected.begin(), selected.end()};
+  selection_.SetParts(list, Form());
+  TellSelection();
 }
 
 // --- Names and methods

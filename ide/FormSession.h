@@ -105,6 +105,7 @@ class FormSession : public QObject, public IDesigner, public IControlHost, priva
 
   // --- IDesigner
   void Modified() override;
+  void Perform(const QString& text, const std::function<void()>& action) override { Run(text, {}, action); }
   TComponent* GetRoot() const override { return form_.RootOrNull(); }
   QString GetRootClassName() const override;
   QString UniqueName(const QString& baseName) const override { return form_.UniqueName(baseName); }
@@ -113,7 +114,7 @@ class FormSession : public QObject, public IDesigner, public IControlHost, priva
   void GetComponentNames(const TClass& cls, const TGetStrProc& proc) const override;
   void SelectComponent(TPersistent* instance) override;
   void SetSelections(const TDesignerSelections& list) override;
-  TDesignerSelections GetSelections() const override;
+  TDesignerSelections GetSelections() const override { return selection_.Inspected(); }
   void DeleteSelection() override;
   void Edit(TComponent& component) override;
   bool MethodExists(const QString& name) const override;
@@ -162,6 +163,7 @@ class FormSession : public QObject, public IDesigner, public IControlHost, priva
   void TakeIntoLayout(TComponent& component);
   TWinControl& ContainerFor(TComponent* wanted) const;
   void Announce(const FormChange& change);
+  void TellSelection();
   FormChange ChangeOf(const Command& command) const;
 
   BoundForm form_;

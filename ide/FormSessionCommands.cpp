@@ -177,9 +177,11 @@ void FormSession::Ended() {
 
 void FormSession::Step(Command& command, bool redo) {
   form_.Apply(command, redo);
-  selection_.Set(form_.ComponentsOf(redo ? command.selectionAfter : command.selectionBefore), Form());
+  std::vector<TComponent*> selected =
+      form_.ComponentsOf(redo ? command.selectionAfter : command.selectionBefore);
+  if (selected != selection_.Components()) selection_.Set(std::move(selected), Form());
   Announce(ChangeOf(command));
-  Select(selection_.Components());
+  TellSelection();
 }
 
 void FormSession::Undo() {

@@ -2,6 +2,7 @@
 #include "ide/FormSession.h"
 #include "ide/StandIns.h"
 #include "rtl/Exceptions.h"
+#include "vcl/Nested.h"
 
 namespace {
 void RequireDepth(const forms::Object& object, const forms::Object& parent) {
@@ -48,10 +49,15 @@ TComponent* FormSession::CreateComponent(const TClass& cls, TComponent* parent, 
     component = form_.NewComponent(cls);
     component->SetDesigning(true);
     auto* control = As<TControl>(component);
-    TWinControl& container = ContainerFor(control ? parent : nullptr);
-    recorder_->Enter(*component, *ObjectOf(container));
-    if (control) {
-      control->SetParent(&container);
+    auto* nested = As<TNestedComponent>(component);
+    auto* around = nested && parent && ObjectOf(*parent) ? As<TNestedComponent>(parent) : nullptr;
+    TComponent* container = around;
+    if (!around) container = &ContainerFor(control ? parent : nullptr);
+    recorder_->Enter(*component, *ObjectOf(*container));
+    if (around) {
+      nested->SetAround(around);
+    } else if (control) {
+      control->SetParent(As<TWinControl>(container));
       control->SetCaption(control->Caption().isEmpty() ? control->Name() : control->Caption());
       const bool sized = bounds.width() > 1 && bounds.height() > 1;
       control->SetBounds(bounds.left(), bounds.top(), sized ? bounds.width() : control->Width(),

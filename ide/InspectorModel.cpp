@@ -78,7 +78,7 @@ void InspectorModel::SetSession(FormSession* session) {
   if (session_) {
     // A selection that is told again changes no row.
     connect(session_, &FormSession::SelectionChanged, this, [this] {
-      if (shown_ != session_->SelectedComponents()) Rebuild();
+      if (IsOther()) Rebuild();
     });
     connect(session_, &FormSession::Changed, this, [this](const FormChange& change) {
       if (change.structure) Rebuild();
@@ -117,7 +117,8 @@ bool InspectorModel::Belongs(const TPropertyEditor& editor) const {
 }
 
 QByteArrayList InspectorModel::StoredNow() const {
-  return session_ && !shown_.empty() ? StoredNames(*session_, *shown_.front()) : QByteArrayList();
+  const bool parts = inspected_.empty() || inspected_.front() != shown_.front();
+  return session_ && !parts ? StoredNames(*session_, *shown_.front()) : QByteArrayList();
 }
 
 InspectorModel::Node& InspectorModel::AddGroup(const QString& category) {
@@ -127,22 +128,27 @@ InspectorModel::Node& InspectorModel::AddGroup(const QString& category) {
   return group;
 }
 
+// Whether something else is selected than what the rows are of.
+bool InspectorModel::IsOther() const {
+  return shown_ != session_->SelectedComponents() || inspected_ != session_->GetSelections();
+}
+
 void InspectorModel::Rebuild() {
   beginResetModel();
   if (running_ > 0) retired_.push_back(std::move(root_));
   root_ = std::make_unique<Node>();
   root_->loaded = true;
   shown_ = session_ ? session_->SelectedComponents() : std::vector<TComponent*>();
+  inspected_ = session_ ? session_->GetSelections() : TDesignerSelections();
   std::vector<std::unique_ptr<TPropertyEditor>> editors;
   const auto collect = [&](std::unique_ptr<TPropertyEditor> e) {
-    const bool root = shown_.front() == session_->GetRoot();
+    const bool root = inspected_.front() == session_->GetRoot();
     if (Belongs(*e) && !(root && !RootHasProperty(session_->Form().Kind(), e->GetPropInfo().Name)))
       editors.push_back(std::move(e));
   };
-  if (session_)
-    session_->Registry().GetComponentProperties({shown_.begin(), shown_.end()}, session_, collect);
+  if (session_) session_->Registry().GetComponentProperties(inspected_, session_, collect);
   stored_ = StoredNow();
-  if (session_)
+  if (!stored_.isEmpty())
     for (auto& e : StoredPropertyEditors(*session_, shown_))
       if (IsStoredEvent(*e) == events_) editors.push_back(std::move(e));
   std::stable_sort(editors.begin(), editors.end(), [](const auto& a, const auto& b) {
@@ -161,7 +167,7 @@ void InspectorModel::Rebuild() {
         continue;
       }
       for (const QString& category :
-           session_->Registry().CategoriesOf(shown_.front()->ClassType(), e->GetPropInfo().Name)) {
+           session_->Registry().CategoriesOf(inspected_.front()->ClassType(), e->GetPropInfo().Name)) {
         Node*& group = groups[category];
         if (!group) group = &AddGroup(category);
         TInstProps props;
@@ -234,8 +240,7 @@ bool InspectorModel::IsStale(const Node& node) const {
 }
 
 void InspectorModel::Refresh() {
-  if (!session_ || shown_ != session_->SelectedComponents() || IsStale(*root_) || StoredNow() != stored_)
-    return Rebuild();
+  if (!session_ || IsOther() || IsStale(*root_) || StoredNow() != stored_) return Rebuild();
   TellChanges({});
 }
 

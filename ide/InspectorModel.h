@@ -66,6 +66,7 @@ class InspectorModel : public QAbstractItemModel {
   bool IsStale(const Node& node) const;
   QByteArrayList StoredNow() const;
   Node& AddGroup(const QString& category);
+  bool IsOther() const;
   void Rebuild();
   void Refresh();
   void TellChanges(const QModelIndex& parent);
@@ -77,6 +78,7 @@ class InspectorModel : public QAbstractItemModel {
   std::unique_ptr<Node> root_;
   std::vector<TComponent*> shown_;
   QByteArrayList stored_;  // what the file says of the first of them beyond its class
+  TDesignerSelections inspected_;  // the same, or parts of them in their place
   bool events_ = false;
   bool byCategory_ = false;
   QString filter_;

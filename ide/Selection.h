@@ -1,6 +1,7 @@
 // The selected components of a form. Something is always selected, and the form itself only alone.
 #pragma once
-#include "rtl/Component.h"
+#include "designintf/Designer.h"
+#include "designintf/PartPath.h"
 
 class Selection {
  public:
@@ -13,6 +14,13 @@ class Selection {
   // For the time in which there are no components.
   void Clear() { components_.clear(); }
 
+  // Parts of a component (items of its collections) in place of the component, which is selected with them.
+  // They are kept by their places: undo makes them anew.
+  void SetParts(const TDesignerSelections& parts, TComponent& form);
+  // The parts that are there, else the components.
+  TDesignerSelections Inspected() const;
+
  private:
   std::vector<TComponent*> components_;
+  std::vector<PartPath> parts_;
 };

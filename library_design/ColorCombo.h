@@ -2,8 +2,8 @@
 #pragma once
 #include "dclstd/ColorComboBox.h"
 
-using TVRXColorStyle = TColorBoxStyle;
-using TVRXColorStyles = TColorBoxStyles;
+using TVRXColorStyle = TColorChoice;
+using TVRXColorStyles = TColorChoices;
 
 class TVRXColorComboBox : public ColorComboBox {
   Q_OBJECT

@@ -1,5 +1,6 @@
 #include "vcl/Form.h"
 
+#include "vcl/MenuLook.h"
 #include "vcl/PropertyGroups.h"
 
 const TClass& TGlassFrame::StaticClass() {
@@ -41,6 +42,8 @@ const TClass& TForm::StaticClass() {
           .Published("PixelsPerInch", &TForm::PixelsPerInch, &TForm::SetPixelsPerInch)
           .Published("Position", &TForm::Position, &TForm::SetPosition, TPosition::poDesigned)
           .Doc(QStringLiteral("Where the form appears on the screen."))
+          .Published(Menu)
+          .Doc(QStringLiteral("The menu below the title bar."))
           .PublishAll("ShowHint")
           .Publish("Visible", false)
           .Published("WindowState", &TForm::WindowState, &TForm::SetWindowState, TWindowState::wsNormal)
@@ -64,7 +67,7 @@ const TClass& TForm::StaticClass() {
           .Passive("ParentColor", false)
           .Passive("ParentFont", false)
           .Passive("ParentShowHint", true)
-          .PublishedAll(ActiveControl, HorzScrollBar, Icon, LCLVersion, Menu, VertScrollBar)
+          .PublishedAll(ActiveControl, HorzScrollBar, Icon, LCLVersion, VertScrollBar)
           .Passive("AllowDropFiles", false)
           .Passive("AlphaBlend", false)
           .Passive("AlphaBlendValue", std::uint8_t{255})
@@ -122,7 +125,16 @@ QByteArray TForm::StreamClassName() const {
   return streamClass_.isEmpty() ? ClassType().ClassName() : streamClass_;
 }
 
-QMargins TForm::FrameMargins() const {
+TMainMenu* TForm::ShownMenu() const { return kind_ == TFormKind::Form ? Get(Menu) : nullptr; }
+
+int TForm::MenuBarHeight() const {
+  const TMainMenu* menu = ShownMenu();
+  return menu ? ::MenuBarHeight(*menu, ClientWidth()) : 0;
+}
+
+QMargins TForm::FrameMargins() const { return WindowFrame() + QMargins(0, MenuBarHeight(), 0, 0); }
+
+QMargins TForm::WindowFrame() const {
   if (kind_ != TFormKind::Form || borderStyle_ == TFormBorderStyle::bsNone) return {};
   const bool small =
       borderStyle_ == TFormBorderStyle::bsToolWindow || borderStyle_ == TFormBorderStyle::bsSizeToolWin;
@@ -130,11 +142,13 @@ QMargins TForm::FrameMargins() const {
 }
 
 QSize TForm::OwnFrame() const {
-  const QMargins m = FrameMargins();
+  const QMargins m = WindowFrame();
   return {m.left() + m.right(), m.top() + m.bottom()};
 }
 
-QSize TForm::OuterSize() const { return QSize(ClientWidth(), ClientHeight()) + OwnFrame(); }
+QSize TForm::OuterSize() const {
+  return QSize(ClientWidth(), ClientHeight()) + OwnFrame() + QSize(0, MenuBarHeight());
+}
 
 int TForm::ClientWidth() const { return std::max(0, Width() - frameExtra_.width()); }
 int TForm::ClientHeight() const { return std::max(0, Height() - frameExtra_.height()); }

@@ -78,7 +78,12 @@ class TForm : public TWinControl {
   // Keeps the client area.
   void SetKind(TFormKind v);
 
-  // The frame as it is drawn: title bar and borders, in pixels.
+  // The menu that the form shows below its title bar; null for none.
+  TMainMenu* ShownMenu() const;
+  // How much of the frame's top is its bar.
+  int MenuBarHeight() const;
+
+  // The frame as it is drawn: title bar, menu bar and borders, in pixels.
   QMargins FrameMargins() const;
   // The client area with the frame around it.
   QSize OuterSize() const;
@@ -139,7 +144,8 @@ class TForm : public TWinControl {
   int FrameHeight() const { return Height(); }
   void SetFrameWidth(int v);
   void SetFrameHeight(int v);
-  // The measures of the drawn frame.
+  // Without the menu bar, which is added outside of the sizes that the form file gives.
+  QMargins WindowFrame() const;
   QSize OwnFrame() const;
   QSize ShownFrame() const;
   void TakeLoadedSize();

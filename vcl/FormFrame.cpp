@@ -4,12 +4,15 @@
 #include <QPainterPath>
 
 #include "vcl/FormColors.h"
+#include "vcl/MenuLook.h"
 #include "vcl/ShownText.h"
 #include "vcl/Theme.h"
 
 namespace {
 void PaintTitleBar(const TForm& form, QPainter& p, bool active) {
-  const QMargins m = form.FrameMargins();
+  QMargins m = form.FrameMargins();
+  m.setTop(m.top() - form.MenuBarHeight());
+  if (m.isNull()) return;  // a menu only
   const QRect outer(QPoint(0, 0), form.OuterSize());
   const QPalette palette = FormPalette();
   const QColor edge = palette.color(QPalette::Mid);
@@ -58,6 +61,17 @@ void PaintTitleBar(const TForm& form, QPainter& p, bool active) {
   p.drawText(text, Qt::AlignVCenter | Qt::AlignLeft,
              p.fontMetrics().elidedText(ShownText(form.Caption()), Qt::ElideRight, text.width()));
 }
+
+void PaintMenuBar(const TForm& form, QPainter& painter) {
+  const TMainMenu* menu = form.ShownMenu();
+  if (!menu || form.MenuBarHeight() == 0) return;
+  const QMargins m = form.FrameMargins();
+  painter.save();
+  painter.translate(m.left(), m.top() - form.MenuBarHeight());
+  TMenuLook look(*menu, form.ClientWidth());
+  look.Paint(painter, {});
+  painter.restore();
+}
 }  // namespace
 
 void PaintFormWindow(TForm& form, QPainter& painter, bool active) {
@@ -68,6 +82,7 @@ void PaintFormWindow(TForm& form, QPainter& painter, bool active) {
     PaintTitleBar(form, painter, active);
   }
   painter.restore();
+  PaintMenuBar(form, painter);
   painter.save();
   const QMargins m = form.FrameMargins();
   painter.translate(m.left(), m.top());

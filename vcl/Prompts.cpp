@@ -56,6 +56,10 @@ class WidgetPrompts : public IPrompts {
                        const QString& filter) override {
     return QFileDialog::getOpenFileName(parent, title, InPromptFolder(folder), filter);
   }
+  QStringList OpenFileNames(QWidget* parent, const QString& title, const QString& folder,
+                            const QString& filter) override {
+    return QFileDialog::getOpenFileNames(parent, title, InPromptFolder(folder), filter);
+  }
   QString SaveFileName(QWidget* parent, const QString& title, const QString& file,
                        const QString& filter) override {
     return QFileDialog::getSaveFileName(parent, title, InPromptFolder(file), filter);

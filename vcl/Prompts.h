@@ -1,6 +1,6 @@
 // Questions to the person at the screen, behind one interface that tests and batch tools answer themselves.
 #pragma once
-#include <QString>
+#include <QStringList>
 
 class QWidget;
 
@@ -22,6 +22,11 @@ class IPrompts {
   // Empty when cancelled.
   virtual QString OpenFileName(QWidget* parent, const QString& title, const QString& folder,
                                const QString& filter) = 0;
+  virtual QStringList OpenFileNames(QWidget* parent, const QString& title, const QString& folder,
+                                    const QString& filter) {
+    const QString name = OpenFileName(parent, title, folder, filter);
+    return name.isEmpty() ? QStringList() : QStringList{name};
+  }
   virtual QString SaveFileName(QWidget* parent, const QString& title, const QString& file,
                                const QString& filter) = 0;
 };

@@ -44,7 +44,7 @@ TVRX3DEffectEditorDlg::TVRX3DEffectEditorDlg(QWidget* owner)
       .Changes(&D::spindChange);
   const auto color = [this](TVRXColorComboBox*& combo, const char* name, QToolButton*& button,
                             const char* buttonName, const char* label, const char* hint) {
-    using enum TColorBoxStyle;
+    using enum TColorChoice;
     Row(combo, name, "", label, hint)
         .WithButton(button, buttonName, &D::dlgBClick, hint)
         .Changes(&D::cmbBChange);

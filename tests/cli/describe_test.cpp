@@ -37,6 +37,16 @@ TEST_F(DescribeCli, TextsOfTheDialogsAreAsTheyShouldBe) {
     ASSERT_EQ(lines.value(i).toStdString(), expected.value(i).toStdString()) << "line " << i + 1;
 }
 
+TEST_F(DescribeCli, TheDesignersOwnDialogsAreThereWhenAskedFor) {
+  const Result r = Vrx({QStringLiteral("describe"), QStringLiteral("--dialogs"), QStringLiteral("standard")});
+  EXPECT_EQ(r.code, 0);
+  EXPECT_TRUE(r.out.startsWith(QStringLiteral("LinesDialog \"String List Editor\"\n")))
+      << r.out.toStdString();
+  EXPECT_TRUE(r.out.contains(QStringLiteral("ImageListDialog \"Image List Editor\"\n")));
+  EXPECT_TRUE(r.out.contains(QStringLiteral("  keys: edit, label \"&Press the keys:\", tab 0\n")));
+  EXPECT_FALSE(r.out.contains(QStringLiteral("TVRXLEDEditorDlg")));
+}
+
 TEST_F(DescribeCli, JsonHasTheSameKeysForEveryControl) {
   const QStringList keys{QStringLiteral("enabled"), QStringLiteral("hint"),   QStringLiteral("items"),
                          QStringLiteral("kind"),    QStringLiteral("label"),  QStringLiteral("maximum"),

@@ -1,0 +1,45 @@
+// The items of a collection as a list: added, deleted, moved; what is selected in it is what the inspector
+// shows.
+#pragma once
+#include "dclstd/ComponentWindow.h"
+#include "designintf/PartPath.h"
+
+class QListWidget;
+class TCollection;
+
+class CollectionWindow : public ComponentWindow {
+  Q_OBJECT
+ public:
+  CollectionWindow(IDesigner& designer, TComponent& component, const PartPath& place);
+  bool IsAbout(const IDesigner& designer, const TComponent& component, const PartPath& place) const {
+    return ComponentWindow::IsAbout(designer, component) && place_ == place;
+  }
+
+  // Null when it is no longer there.
+  TCollection* Collection() const;
+  void AddItem();
+  void DeleteItems();
+  void MoveItems(int by);
+  void SelectionChanged(IDesigner* designer, const TDesignerSelections& list) override;
+  TEditStates GetEditState() const override;
+  void EditAction(TEditAction action) override;
+
+  QListWidget* items;
+  QToolButton *add, *remove, *up, *down;
+
+ protected:
+  void Load() override;
+  bool Rebound() override;
+  bool eventFilter(QObject* watched, QEvent* event) override;
+
+ private:
+  std::vector<int> Selected() const;
+  void Select(const std::vector<int>& rows);
+  void TellSelection();
+  void EnableButtons();
+  PartPath place_;
+  bool loading_ = false;
+};
+
+// The window of the collection; nothing for one that no property of a component leads to.
+void EditCollection(IDesigner& designer, TCollection& collection);

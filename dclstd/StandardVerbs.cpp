@@ -1,0 +1,83 @@
+#include "dclstd/StandardVerbs.h"
+
+#include "dclstd/ActionListWindow.h"
+#include "dclstd/ImageListDialog.h"
+#include "dclstd/MenuWindow.h"
+#include "designintf/EditorSource.h"
+#include "rtl/Collection.h"
+#include "rtl/Strings.h"
+#include "vcl/Picture.h"
+
+namespace {
+bool Is(const TPropInfo& property, const TClass& cls) {
+  return property.IsPart() && property.PropType->ClassType().InheritsFrom(cls);
+}
+const TPropInfo* PictureOf(const TPersistent& component) {
+  const TPropInfo* property = component.ClassType().FindProp("Picture");
+  return property && Is(*property, TPicture::StaticClass()) ? property : nullptr;
+}
+}  // namespace
+
+std::vector<const TPropInfo*> TStandardEditor::Listed() const {
+  std::vector<const TPropInfo*> listed;
+  for (const TPropInfo* p : GetComponent()->ClassType().Properties())
+    if (p->Visibility == TPropVisibility::Published && Is(*p, TCollection::StaticClass()))
+      listed.push_back(p);
+  for (const char* name : {"Items", "Lines", "Tabs"})
+    if (const TPropInfo* p = GetComponent()->ClassType().FindProp(name); p && Is(*p, TStrings::StaticClass()))
+      listed.push_back(p);
+  return listed;
+}
+
+QString TStandardEditor::GetVerb(int index) const {
+  const auto listed = Listed();
+  if (index < 0 || index >= static_cast<int>(listed.size())) return {};
+  const TPropInfo& property = *listed[static_cast<std::size_t>(index)];
+  const QString name = QString::fromLatin1(property.Name);
+  return Is(property, TCollection::StaticClass()) ? QObject::tr("%1 Editor...").arg(name)
+                                                  : QObject::tr("Edit %1...").arg(name);
+}
+
+void TStandardEditor::ExecuteVerb(int index) {
+  const auto listed = Listed();
+  if (index >= 0 && index < static_cast<int>(listed.size()))
+    EditProperty(*listed[static_cast<std::size_t>(index)]);
+}
+
+// By whatever editor the property has.
+void TStandardEditor::EditProperty(const TPropInfo& property) {
+  if (!Source()) return;
+  std::unique_ptr<TPropertyEditor> editor;
+  Source()->GetComponentProperties({GetComponent()}, GetDesigner(), [&](std::unique_ptr<TPropertyEditor> e) {
+    if (e->GetPropInfo().Name == property.Name) editor = std::move(e);
+  });
+  if (!editor) return;
+  PackageCall([call = CallOf(*editor, "Edit")] { return call; }, [&] { editor->Edit(); });
+}
+
+void TStandardEditor::Edit() {
+  const auto listed = Listed();
+  if (!listed.empty() && Is(*listed.front(), TCollection::StaticClass()))
+    return EditProperty(*listed.front());
+  if (const TPropInfo* picture = PictureOf(*GetComponent())) return EditProperty(*picture);
+  TDefaultEditor::Edit();
+}
+
+void TOneVerbEditor::ExecuteVerb(int index) {
+  if (index == 0 && GetDesigner()) Run(*GetDesigner());
+}
+
+QString TMenuEditor::Verb() const { return QObject::tr("Menu Designer..."); }
+void TMenuEditor::Run(IDesigner& designer) {
+  if (auto* menu = As<TMenu>(GetComponent())) ComponentWindow::Show<MenuWindow>(designer, *menu);
+}
+
+QString TActionListEditor::Verb() const { return QObject::tr("Action List Editor..."); }
+void TActionListEditor::Run(IDesigner& designer) {
+  if (auto* list = As<TActionList>(GetComponent())) ComponentWindow::Show<ActionListWindow>(designer, *list);
+}
+
+QString TImageListEditor::Verb() const { return QObject::tr("Image List Editor..."); }
+void TImageListEditor::Run(IDesigner& designer) {
+  if (auto* list = As<TCustomImageList>(GetComponent()); list && EditImageList(*list)) designer.Modified();
+}

@@ -1,0 +1,9 @@
+// Files that a person names in a dialog of an editor.
+#pragma once
+#include <QByteArray>
+#include <QString>
+
+// Throw Exception with what is wrong. Only regular files are read.
+QByteArray ReadUserFile(const QString& file);
+// A file that is there already is replaced as a whole or stays.
+void WriteUserFile(const QString& file, const QByteArray& bytes);

@@ -1,0 +1,77 @@
+#include "dclstd/ValueEditors.h"
+
+#include "dclstd/DateTimeDialog.h"
+#include "dclstd/FilterDialog.h"
+#include "dclstd/ShortCutDialog.h"
+#include "rtl/Exceptions.h"
+
+using enum TPropertyAttribute;
+
+namespace {
+const QString& NoKey() {
+  static const QString text = QStringLiteral("(None)");
+  return text;
+}
+}  // namespace
+
+TPropertyAttributes TShortCutProperty::GetAttributes() const {
+  return {paMultiSelect, paValueList, paRevertable, paDialog, paValueEditable};
+}
+QString TShortCutProperty::GetValue() const {
+  const auto keys = static_cast<TShortCut>(GetOrdValue());
+  if (keys == TShortCut{}) return NoKey();
+  const QString text = ShortCutToText(keys);
+  return text.isEmpty() ? QString::number(GetOrdValue()) : text;
+}
+void TShortCutProperty::SetValue(const QString& value) {
+  const QString text = value.trimmed();
+  if (text.isEmpty() || text.compare(NoKey(), Qt::CaseInsensitive) == 0) return SetOrdValue(std::int64_t{0});
+  if (const TShortCut keys = TextToShortCut(text); keys != TShortCut{})
+    return SetOrdValue(static_cast<std::int64_t>(keys));
+  bool number = false;
+  const uint code = text.toUInt(&number);
+  if (!number || code > UINT16_MAX)
+    throw EPropertyError(
+        QStringLiteral("%1 is no shortcut. Write the keys as in Ctrl+Shift+F4, or %2.").arg(value, NoKey()));
+  SetOrdValue(std::int64_t{code});
+}
+void TShortCutProperty::GetValues(const TGetStrProc& proc) const {
+  proc(NoKey());
+  for (const QString& text : ShortCutTexts()) proc(text);
+}
+void TShortCutProperty::Edit() {
+  auto keys = static_cast<TShortCut>(GetOrdValue());
+  if (EditShortCut(keys) && static_cast<std::int64_t>(keys) != GetOrdValue())
+    SetOrdValue(static_cast<std::int64_t>(keys));
+}
+
+TPropertyAttributes TDateTimeProperty::GetAttributes() const {
+  return {paMultiSelect, paRevertable, paDialog};
+}
+QString TDateTimeProperty::GetValue() const {
+  return DateTimeToText({static_cast<double>(GetFloatValueAt(0))});
+}
+void TDateTimeProperty::SetValue(const QString& value) {
+  // The text is shorter than the value may be.
+  if (value == GetValue() && AllEqual()) return;
+  const auto date = TextToDateTime(value);
+  if (!date)
+    throw EPropertyError(
+        QStringLiteral("%1 is neither date nor time. Write it as in 2024-03-09 13:05:00.").arg(value));
+  SetFloatValue(static_cast<long double>(date->Days));
+}
+void TDateTimeProperty::Edit() {
+  TDateTime date{static_cast<double>(GetFloatValueAt(0))};
+  if (EditDateTime(date)) SetFloatValue(static_cast<long double>(date.Days));
+}
+
+// What filters records or views has no list of filters to choose from.
+TPropertyAttributes TFilterProperty::GetAttributes() const {
+  const bool ofFiles = GetComponent(0)->ClassType().FindProp("FilterIndex") != nullptr;
+  return ofFiles ? TPropertyAttributes{paMultiSelect, paRevertable, paDialog}
+                 : TPropertyAttributes{paMultiSelect, paRevertable};
+}
+void TFilterProperty::Edit() {
+  QString filter = GetStrValue();
+  if (EditFilter(filter)) SetStrValue(filter);
+}

@@ -1,0 +1,597 @@
+// The dialogs of the framework's own value types: what they take over, and that they take nothing else.
+#include "dclstd/DateTimeDialog.h"
+#include "dclstd/DialogDescription.h"
+#include "dclstd/FilterDialog.h"
+#include "dclstd/ImageListDialog.h"
+#include "dclstd/LinesDialog.h"
+#include "dclstd/PictureEditor.h"
+#include "dclstd/ShortCutDialog.h"
+#include "dclstd/StandardEditors.h"
+#include "designintf/CustomColors.h"
+#include "designintf/IdeTheme.h"
+#include "rtl/Strings.h"
+#include "tests/designintf/DesignTest.h"
+#include "tests/support/Fields.h"
+#include "tests/support/Modal.h"
+#include "tests/support/Prompted.h"
+#include "vcl/GlyphButton.h"
+#include "vcl/Image.h"
+#include "vcl/Menu.h"
+#include "vcl/PictureFile.h"
+#include "vcl/Theme.h"
+
+using namespace fields;
+
+namespace {
+// Not square, and not opaque: a ring on nothing.
+QImage Ring(int width, int height, QColor color) {
+  QImage image(width, height, QImage::Format_ARGB32);
+  image.fill(Qt::transparent);
+  QPainter p(&image);
+  p.setPen(QPen(color, 2));
+  p.drawRect(2, 2, width - 5, height - 5);
+  return image;
+}
+// Opaque, with a ground of fuchsia.
+QImage OnFuchsia(int width, int height, QColor color) {
+  QImage image(width, height, QImage::Format_RGB32);
+  image.fill(QColor(255, 0, 255));
+  QPainter p(&image);
+  p.fillRect(1, 1, width / 2, height / 2, color);
+  return image;
+}
+
+class Answers : public ScriptedPrompts {
+ public:
+  bool Confirm(QWidget*, const QString&, const QString& text) override {
+    questions << text;
+    return confirm;
+  }
+  QString SaveFileName(QWidget*, const QString&, const QString&, const QString&) override { return saveAs; }
+  QStringList OpenFileNames(QWidget*, const QString&, const QString&, const QString&) override {
+    return files;
+  }
+  QStringList questions, files;
+  bool confirm = true;
+  QString saveAs;
+};
+
+class StandardDialogs : public testing::Test {
+ protected:
+  StandardDialogs() { RegisterStandard(registry); }
+  void SetUp() override { SaveIDECustomColors({}); }
+  void TearDown() override { ApplyTheme(TTheme::Light); }
+  std::unique_ptr<TPropertyEditor> Of(std::vector<TPersistent*> instances, const char* name) {
+    TInstProps props;
+    for (TPersistent* p : instances) props.push_back({p, &p->ClassType().GetProp(name)});
+    return registry.CreatePropertyEditor(&designer, std::move(props));
+  }
+  QString FileOf(const QImage& image, const char* name) {
+    const QString file = folder.filePath(QString::fromLatin1(name));
+    EXPECT_TRUE(image.save(file));
+    return file;
+  }
+  QString FileWith(const QByteArray& bytes, const char* name) {
+    QFile file(folder.filePath(QString::fromLatin1(name)));
+    EXPECT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write(bytes);
+    return file.fileName();
+  }
+  static QByteArray Read(const QString& name) {
+    QFile file(name);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("no file");
+  }
+  DesignRegistry registry;
+  FakeDesigner designer;
+  Answers prompts;
+  QTemporaryDir folder;
+};
+void Click(QAbstractButton* button) { QTest::mouseClick(button, Qt::LeftButton); }
+}  // namespace
+
+// --- All of them
+
+TEST_F(StandardDialogs, AreRegisteredAndEveryControlHasAName) {
+  QStringList names;
+  for (const TDialogRegistration& entry : registry.Dialogs()) {
+    SCOPED_TRACE(entry.Name.constData());
+    names << QString::fromLatin1(entry.Name);
+    const auto dialog = registry.Open(entry);
+    EXPECT_FALSE(dialog->isVisible());
+    EXPECT_TRUE(IsIDEThemed(*dialog));
+    QStringList controls;
+    int tabs = 0;
+    for (const ControlDescription& control : DescribeControls(*dialog)) {
+      controls << control.name;
+      if (control.tab) ++tabs;
+    }
+    EXPECT_EQ(controls.removeDuplicates(), 0) << controls.join(u' ').toStdString();
+    EXPECT_GE(tabs, 5);
+    QStringList defaults;
+    for (const QPushButton* button : dialog->findChildren<QPushButton*>()) {
+      if (button->isDefault()) defaults << button->text();
+      EXPECT_FALSE(button->autoDefault()) << button->objectName().toStdString();
+    }
+    EXPECT_EQ(defaults, QStringList{QStringLiteral("OK")});
+  }
+  EXPECT_EQ(names.join(u' ').toStdString(),
+            "LinesDialog PictureEditorDialog ImageListDialog ShortCutDialog FilterDialog DateTimeDialog");
+}
+
+TEST_F(StandardDialogs, TextsFitInBothThemes) {
+  for (const TTheme theme : {TTheme::Light, TTheme::Dark}) {
+    ApplyTheme(theme);
+    for (const TDialogRegistration& entry : registry.Dialogs()) {
+      SCOPED_TRACE(entry.Name.constData());
+      const auto dialog = registry.Open(entry);
+      ShowActive(*dialog);
+      EXPECT_EQ(qGray(dialog->grab().toImage().pixel(2, dialog->height() - 3)) < 128, theme == TTheme::Dark);
+      for (const auto* button : dialog->findChildren<QAbstractButton*>()) {
+        if (!button->isVisible() || button->text().isEmpty() || button->objectName().startsWith(u"qt_"))
+          continue;
+        EXPECT_GE(button->width(), button->sizeHint().width()) << button->text().toStdString();
+        EXPECT_TRUE(dialog->rect().contains(QRect(button->mapTo(dialog.get(), QPoint()), button->size())));
+      }
+    }
+  }
+}
+
+// --- Lines
+
+class LinesEditor : public StandardDialogs {
+ protected:
+  bool Run(TStrings& lines, std::function<void(LinesDialog&)> act) {
+    modal::NextOf<LinesDialog>([act = std::move(act)](LinesDialog& dialog) {
+      act(dialog);
+      if (dialog.isVisible()) dialog.ok->click();
+    });
+    return EditLines(lines);
+  }
+};
+
+TEST_F(LinesEditor, CountsTheLines) {
+  TStrings lines;
+  EXPECT_TRUE(Run(lines, [](LinesDialog& dialog) {
+    EXPECT_EQ(dialog.count->text(), QStringLiteral("0 lines"));
+    QTest::keyClicks(dialog.text, QStringLiteral("one"));
+    EXPECT_EQ(dialog.count->text(), QStringLiteral("1 line"));
+    QTest::keyClick(dialog.text, Qt::Key_Return);
+    QTest::keyClick(dialog.text, Qt::Key_Return);
+    EXPECT_EQ(dialog.count->text(), QStringLiteral("3 lines"));
+  }));
+  EXPECT_EQ(lines.Lines(), (QStringList{QStringLiteral("one"), QString(), QString()}));
+}
+
+TEST_F(LinesEditor, ControlReturnConfirmsAndCancelKeeps) {
+  TStrings lines;
+  lines.SetLines({QStringLiteral("a")});
+  EXPECT_TRUE(Run(lines, [](LinesDialog& dialog) {
+    EXPECT_FALSE(dialog.monospaced->isChecked());
+    QTest::keyClicks(dialog.text, QStringLiteral("b"));
+    QTest::keyClick(dialog.text, Qt::Key_Return, Qt::ControlModifier);
+    EXPECT_FALSE(dialog.isVisible());
+  }));
+  EXPECT_EQ(lines.Text(), QStringLiteral("ba"));
+  EXPECT_FALSE(Run(lines, [](LinesDialog& dialog) {
+    QTest::keyClicks(dialog.text, QStringLiteral("c"));
+    dialog.cancel->click();
+  }));
+  EXPECT_EQ(lines.Text(), QStringLiteral("ba"));
+}
+
+TEST_F(LinesEditor, FindsOnFromTheCursorAndFromTheStartAgain) {
+  TStrings lines;
+  lines.SetLines({QStringLiteral("red pear"), QStringLiteral("plum"), QStringLiteral("green Pear")});
+  EXPECT_FALSE(Run(lines, [](LinesDialog& dialog) {
+    QTest::keyClick(dialog.text, Qt::Key_F, Qt::ControlModifier);
+    EXPECT_EQ(dialog.focusWidget(), dialog.find);
+    QTest::keyClicks(dialog.find, QStringLiteral("pear"));
+    const auto line = [&] { return dialog.text->textCursor().blockNumber(); };
+    QTest::keyClick(dialog.find, Qt::Key_Return);
+    EXPECT_TRUE(dialog.isVisible()) << "Return finds here";
+    EXPECT_EQ(dialog.text->textCursor().selectedText(), QStringLiteral("pear"));
+    EXPECT_EQ(line(), 0);
+    QTest::keyClick(dialog.find, Qt::Key_F3);
+    EXPECT_EQ(line(), 2);
+    Click(dialog.next);
+    EXPECT_EQ(line(), 0);
+    dialog.find->setText(QStringLiteral("fig"));
+    Click(dialog.next);
+    EXPECT_EQ(line(), 0) << "the cursor stays";
+    EXPECT_EQ(dialog.count->text(), QStringLiteral("Not found: fig"));
+  })) << "looking for something is no change";
+}
+
+TEST_F(LinesEditor, LoadsAndSavesFiles) {
+  TStrings lines;
+  lines.SetLines({QStringLiteral("old")});
+  prompts.file = FileWith("caf\xC3\xA9\r\n\r\nend\r\n", "in.txt");
+  prompts.saveAs = folder.filePath(QStringLiteral("out.txt"));
+  EXPECT_TRUE(Run(lines, [](LinesDialog& dialog) {
+    Click(dialog.load);
+    EXPECT_EQ(dialog.count->text(), QStringLiteral("3 lines"));
+    Click(dialog.save);
+  }));
+  EXPECT_EQ(lines.Lines(), (QStringList{QStringLiteral("caf\u00E9"), QString(), QStringLiteral("end")}));
+  EXPECT_EQ(Read(prompts.saveAs), "caf\xC3\xA9\n\nend\n");
+  prompts.file = FileWith("caf\xE9", "latin.txt");
+  EXPECT_TRUE(Run(lines, [](LinesDialog& dialog) { Click(dialog.load); }));
+  EXPECT_EQ(lines.Lines(), QStringList{QStringLiteral("caf\u00E9")});
+  prompts.file = folder.filePath(QStringLiteral("missing.txt"));
+  EXPECT_FALSE(Run(lines, [](LinesDialog& dialog) { Click(dialog.load); }));
+  ASSERT_EQ(prompts.warned.size(), 1);
+  EXPECT_TRUE(prompts.warned[0].contains(QStringLiteral("missing.txt"))) << prompts.warned[0].toStdString();
+  EXPECT_EQ(lines.Lines(), QStringList{QStringLiteral("caf\u00E9")});
+}
+
+// --- Pictures
+
+class PictureEditor : public StandardDialogs {
+ protected:
+  void Run(TPropertyEditor& editor, std::function<void(PictureEditorDialog&)> act) {
+    modal::NextOf<PictureEditorDialog>([act = std::move(act)](PictureEditorDialog& dialog) {
+      act(dialog);
+      if (dialog.isVisible()) dialog.ok->click();
+    });
+    editor.Edit();
+  }
+  TImage image{nullptr}, other{nullptr};
+};
+
+TEST_F(PictureEditor, TakesThePictureOfAFileAsItIs) {
+  const auto editor = Of({&image, &other}, "Picture");
+  EXPECT_EQ(editor->GetValue(), QStringLiteral("(None)"));
+  prompts.file = FileOf(Ring(20, 12, Qt::darkGreen), "ring.png");
+  Run(*editor, [](PictureEditorDialog& dialog) {
+    EXPECT_FALSE(dialog.save->isEnabled());
+    Click(dialog.load);
+    EXPECT_TRUE(dialog.facts->text().startsWith(QStringLiteral("20 x 12, PNG, ")));
+    EXPECT_EQ(dialog.view->Image().size(), QSize(20, 12));
+    EXPECT_FALSE(dialog.transparent->isVisible());
+  });
+  EXPECT_EQ(image.Get(TImage::Picture)->FileBytes(), Read(prompts.file));
+  EXPECT_EQ(other.Get(TImage::Picture)->FileBytes(), Read(prompts.file));
+  EXPECT_EQ(editor->GetValue(), QStringLiteral("(TPngImage)"));
+  EXPECT_EQ(designer.modified, 1);
+}
+
+TEST_F(PictureEditor, CancelAndOkWithoutATouchChangeNothing) {
+  image.Get(TImage::Picture)->SetFileBytes(PictureToBytes(Ring(20, 12, Qt::red), "png"));
+  const QByteArray before = image.Get(TImage::Picture)->Data();
+  const auto editor = Of({&image}, "Picture");
+  Run(*editor, [](PictureEditorDialog&) {});
+  Run(*editor, [](PictureEditorDialog& dialog) {
+    Click(dialog.clear);
+    EXPECT_EQ(dialog.facts->text(), QStringLiteral("No picture"));
+    dialog.cancel->click();
+  });
+  EXPECT_EQ(image.Get(TImage::Picture)->Data(), before);
+  EXPECT_EQ(designer.modified, 0);
+  Run(*editor, [](PictureEditorDialog& dialog) { Click(dialog.clear); });
+  EXPECT_TRUE(image.Get(TImage::Picture)->Empty());
+}
+
+TEST_F(PictureEditor, CopiesPastesAndSaves) {
+  const QImage ring = Ring(20, 12, Qt::blue);
+  image.Get(TImage::Picture)->SetFileBytes(PictureToBytes(ring, "png"));
+  prompts.saveAs = folder.filePath(QStringLiteral("saved.png"));
+  Run(*Of({&image}, "Picture"), [](PictureEditorDialog& dialog) {
+    Click(dialog.save);
+    QTest::keyClick(&dialog, Qt::Key_C, Qt::ControlModifier);
+  });
+  EXPECT_EQ(designer.modified, 0);
+  EXPECT_EQ(Read(prompts.saveAs), image.Get(TImage::Picture)->FileBytes());
+  Run(*Of({&other}, "Picture"), [](PictureEditorDialog& dialog) { Click(dialog.paste); });
+  EXPECT_EQ(other.Get(TImage::Picture)->Image().convertToFormat(QImage::Format_ARGB32), ring);
+}
+
+TEST_F(PictureEditor, AFileThatIsNoPictureIsToldOf) {
+  prompts.file = FileWith("no picture at all", "text.png");
+  Run(*Of({&image}, "Picture"), [](PictureEditorDialog& dialog) { Click(dialog.load); });
+  EXPECT_EQ(prompts.warned.size(), 1);
+  EXPECT_TRUE(image.Get(TImage::Picture)->Empty());
+}
+
+TEST_F(PictureEditor, OfAGlyphTellsWhatIsTransparent) {
+  TSpeedButton button(nullptr);
+  prompts.file = FileOf(OnFuchsia(18, 10, Qt::yellow), "glyph.bmp");
+  Run(*Of({&button}, "Glyph"), [](PictureEditorDialog& dialog) {
+    EXPECT_FALSE(dialog.transparent->isVisible());
+    Click(dialog.load);
+    EXPECT_TRUE(dialog.transparent->isVisible());
+    EXPECT_EQ(dialog.transparent->text(), QStringLiteral("Transparent: clFuchsia"));
+    EXPECT_EQ(dialog.view->Image().pixelColor(17, 9).alpha(), 0);
+    EXPECT_EQ(dialog.view->Image().pixelColor(2, 2), QColor(Qt::yellow));
+  });
+  EXPECT_EQ(button.Get(TSpeedButton::Glyph)->FileBytes(), Read(prompts.file));
+}
+
+TEST_F(PictureEditor, AFileIsDroppedIn) {
+  const QString file = FileOf(Ring(9, 21, Qt::red), "drop.png");
+  Run(*Of({&image}, "Picture"), [&](PictureEditorDialog& dialog) {
+    QMimeData mime;
+    mime.setUrls({QUrl::fromLocalFile(file)});
+    QDragEnterEvent enter({5, 5}, Qt::CopyAction, &mime, Qt::LeftButton, {});
+    QCoreApplication::sendEvent(&dialog, &enter);
+    EXPECT_TRUE(enter.isAccepted());
+    QDropEvent drop(QPointF(5, 5), Qt::CopyAction, &mime, Qt::LeftButton, {});
+    QCoreApplication::sendEvent(&dialog, &drop);
+  });
+  EXPECT_EQ(image.Get(TImage::Picture)->Image().size(), QSize(9, 21));
+}
+
+// --- Image lists
+
+class ImageListEditor : public StandardDialogs {
+ protected:
+  ImageListEditor() {
+    list.Set(TCustomImageList::Width, 12);
+    list.Set(TCustomImageList::Height, 8);
+    list.SetPictures({Ring(12, 8, Qt::red), Ring(12, 8, Qt::green), Ring(12, 8, Qt::blue)});
+  }
+  // As the component's verb does it.
+  void Run(std::function<void(ImageListDialog&)> act) {
+    modal::NextOf<ImageListDialog>([act = std::move(act)](ImageListDialog& dialog) {
+      act(dialog);
+      if (dialog.isVisible()) dialog.ok->click();
+    });
+    const auto editor = registry.GetComponentEditor(&list, &designer);
+    EXPECT_EQ(editor->GetVerb(0), QStringLiteral("Image List Editor..."));
+    editor->Edit();
+  }
+  static void Pick(ImageListDialog& dialog, std::initializer_list<int> rows) {
+    dialog.strip->clearSelection();
+    for (const int row : rows) dialog.strip->item(row)->setSelected(true);
+  }
+  // The colour of each, at the ring.
+  std::string Colors() {
+    QStringList colors;
+    for (int i = 0; i < list.Count(); ++i) colors << list.Image(i).pixelColor(2, 3).name();
+    return colors.join(u' ').toStdString();
+  }
+  TImageList list{nullptr};
+};
+
+TEST_F(ImageListEditor, UntouchedAndCancelledItChangesNothing) {
+  const QByteArray before = list.Data();
+  Run([](ImageListDialog& dialog) {
+    EXPECT_EQ(dialog.strip->count(), 3);
+    EXPECT_EQ(dialog.facts->text(), QStringLiteral("3 pictures of 12 x 8"));
+    Pick(dialog, {1});
+  });
+  Run([](ImageListDialog& dialog) {
+    Click(dialog.clear);
+    EXPECT_EQ(dialog.strip->count(), 0);
+    dialog.cancel->click();
+  });
+  EXPECT_EQ(list.Data(), before);
+  EXPECT_EQ(designer.modified, 0);
+}
+
+TEST_F(ImageListEditor, AddsManyFilesBehindTheSelectedOne) {
+  prompts.files = {FileOf(Ring(12, 8, Qt::cyan), "a.png"), FileOf(OnFuchsia(12, 8, Qt::yellow), "b.bmp")};
+  Run([](ImageListDialog& dialog) {
+    Pick(dialog, {0});
+    Click(dialog.add);
+    EXPECT_EQ(dialog.strip->count(), 5);
+    EXPECT_TRUE(dialog.strip->item(1)->isSelected());
+    EXPECT_TRUE(dialog.strip->item(2)->isSelected());
+  });
+  EXPECT_EQ(Colors(), "#ff0000 #00ffff #ffff00 #00ff00 #0000ff");
+  EXPECT_EQ(list.Image(2).pixelColor(11, 7).alpha(), 0) << "the lower left colour is transparent";
+  EXPECT_TRUE(prompts.questions.isEmpty());
+  EXPECT_EQ(designer.modified, 1);
+}
+
+TEST_F(ImageListEditor, ALargerPictureIsCutOrMadeSmaller) {
+  QImage wide(24, 8, QImage::Format_ARGB32);
+  wide.fill(Qt::red);
+  QPainter(&wide).fillRect(12, 0, 12, 8, Qt::blue);
+  prompts.files = {FileOf(wide, "wide.png")};
+  Run([](ImageListDialog& dialog) {
+    Click(dialog.clear);
+    Click(dialog.add);
+    EXPECT_EQ(dialog.strip->count(), 2);
+  });
+  ASSERT_EQ(prompts.questions.size(), 1);
+  EXPECT_EQ(Colors(), "#ff0000 #0000ff");
+  prompts.confirm = false;
+  Run([](ImageListDialog& dialog) {
+    Click(dialog.clear);
+    Click(dialog.add);
+  });
+  ASSERT_EQ(list.Count(), 1);
+  EXPECT_EQ(list.Image(0).size(), QSize(12, 8));
+  EXPECT_EQ(list.Image(0).pixelColor(10, 4), QColor(Qt::blue));
+}
+
+TEST_F(ImageListEditor, MovesDeletesAndReplaces) {
+  prompts.file = FileOf(Ring(12, 8, Qt::black), "black.png");
+  Run([](ImageListDialog& dialog) {
+    Pick(dialog, {1, 2});
+    EXPECT_FALSE(dialog.on->isEnabled());
+    EXPECT_FALSE(dialog.replace->isEnabled());
+    QTest::keyClick(dialog.strip, Qt::Key_Left, Qt::ControlModifier);
+  });
+  EXPECT_EQ(Colors(), "#00ff00 #0000ff #ff0000");
+  Run([](ImageListDialog& dialog) {
+    Pick(dialog, {0});
+    QTest::keyClick(dialog.strip, Qt::Key_Delete);
+    EXPECT_TRUE(dialog.strip->item(0)->isSelected()) << "the next one";
+    Click(dialog.replace);
+  });
+  EXPECT_EQ(Colors(), "#000000 #ff0000");
+}
+
+TEST_F(ImageListEditor, SizeAndTransparentColourCanBeChanged) {
+  prompts.files = {FileOf(OnFuchsia(12, 8, Qt::yellow), "b.bmp")};
+  Run([](ImageListDialog& dialog) {
+    Click(dialog.clear);
+    EXPECT_FALSE(dialog.transparent->isEnabled());
+    Click(dialog.add);
+    EXPECT_EQ(dialog.transparent->Selected(), clFuchsia);
+    dialog.transparent->SetSelected(clYellow);
+    emit dialog.transparent->Change();
+    EXPECT_EQ(dialog.Images()[0].pixelColor(2, 2).alpha(), 0);
+    EXPECT_EQ(dialog.Images()[0].pixelColor(11, 7), QColor(255, 0, 255));
+    dialog.width->setValue(24);
+    dialog.height->setValue(20);
+  });
+  EXPECT_EQ(list.Get(TCustomImageList::Width), 24);
+  EXPECT_EQ(list.Get(TCustomImageList::Height), 20);
+  ASSERT_EQ(list.Count(), 1);
+  EXPECT_EQ(list.Image(0).size(), QSize(24, 20));
+}
+
+TEST_F(ImageListEditor, ExportsAllSideBySide) {
+  prompts.saveAs = folder.filePath(QStringLiteral("all.png"));
+  Run([](ImageListDialog& dialog) { Click(dialog.exportAll); });
+  const QImage all(prompts.saveAs);
+  EXPECT_EQ(all.size(), QSize(36, 8));
+  EXPECT_EQ(all.pixelColor(26, 3), QColor(Qt::blue));
+  EXPECT_EQ(all.pixelColor(0, 0).alpha(), 0);
+  EXPECT_EQ(designer.modified, 0);
+}
+
+// --- Keys, dates, filters
+
+TEST_F(StandardDialogs, AShortCutIsWrittenChosenOrPressed) {
+  TMenuItem item(nullptr), other(nullptr);
+  const auto editor = Of({&item, &other}, "ShortCut");
+  EXPECT_EQ(editor->GetValue(), QStringLiteral("(None)"));
+  EXPECT_TRUE(ValuesOf(*editor).contains(QStringLiteral("Ctrl+C")));
+  editor->SetValue(QStringLiteral("ctrl+shift+f4"));
+  EXPECT_EQ(editor->GetValue(), QStringLiteral("Shift+Ctrl+F4"));
+  EXPECT_EQ(other.Get(TMenuItem::ShortCut), item.Get(TMenuItem::ShortCut));
+  EXPECT_THROW(editor->SetValue(QStringLiteral("Ctrl+Nothing")), EPropertyError);
+  EXPECT_EQ(editor->GetValue(), QStringLiteral("Shift+Ctrl+F4"));
+  const auto run = [&](std::function<void(ShortCutDialog&)> act) {
+    modal::NextOf<ShortCutDialog>([act](ShortCutDialog& dialog) {
+      act(dialog);
+      if (dialog.isVisible()) dialog.ok->click();
+    });
+    editor->Edit();
+  };
+  const int before = designer.modified;
+  run([](ShortCutDialog& dialog) { EXPECT_EQ(dialog.keys->text(), QStringLiteral("Shift+Ctrl+F4")); });
+  run([](ShortCutDialog& dialog) {
+    QTest::keyClick(dialog.keys, Qt::Key_K, Qt::AltModifier);
+    dialog.cancel->click();
+  });
+  EXPECT_EQ(designer.modified, before);
+  run([](ShortCutDialog& dialog) {
+    QTest::keyClick(dialog.keys, Qt::Key_Control, Qt::ControlModifier);
+    QTest::keyClick(dialog.keys, Qt::Key_K, Qt::ControlModifier);
+    EXPECT_EQ(dialog.usual->currentText(), QStringLiteral("Ctrl+K"));
+  });
+  EXPECT_EQ(editor->GetValue(), QStringLiteral("Ctrl+K"));
+  run([](ShortCutDialog& dialog) {
+    dialog.usual->setCurrentIndex(dialog.usual->findText(QStringLiteral("F6")));
+    EXPECT_EQ(dialog.keys->text(), QStringLiteral("F6"));
+  });
+  EXPECT_EQ(editor->GetValue(), QStringLiteral("F6"));
+  run([](ShortCutDialog& dialog) { QTest::keyClick(dialog.keys, Qt::Key_Backspace); });
+  EXPECT_EQ(editor->GetValue(), QStringLiteral("(None)"));
+  EXPECT_TRUE(editor->IsDefault());
+}
+
+TEST_F(StandardDialogs, DatesAreWrittenTheSameEverywhere) {
+  const std::pair<double, const char*> rows[] = {{0, ""},
+                                                 {45360, "2024-03-09"},
+                                                 {0.5, "12:00:00"},
+                                                 {45360.75, "2024-03-09 18:00:00"},
+                                                 {-1.25, "1899-12-29 06:00:00"},
+                                                 {1.0 / 86400 / 8, "00:00:00.125"}};
+  for (const auto& [days, text] : rows) {
+    EXPECT_EQ(DateTimeToText({days}).toStdString(), text);
+    const auto back = TextToDateTime(QString::fromLatin1(text));
+    ASSERT_TRUE(back) << text;
+    EXPECT_NEAR(back->Days, days, 1e-9) << text;
+  }
+  for (const char* wrong : {"tomorrow", "2024-13-01", "25:00:00", "2024-03-09 18:00:00 CET", "9.3.2024"})
+    EXPECT_FALSE(TextToDateTime(QString::fromLatin1(wrong))) << wrong;
+  EXPECT_EQ(TextToDateTime(QStringLiteral("45360.5"))->Days, 45360.5);
+}
+
+TEST_F(StandardDialogs, ADateIsTakenOnlyWhenOneIsChosen) {
+  const auto run = [&](TDateTime& value, std::function<void(DateTimeDialog&)> act) {
+    modal::NextOf<DateTimeDialog>([act](DateTimeDialog& dialog) {
+      act(dialog);
+      if (dialog.isVisible()) dialog.ok->click();
+    });
+    return EditDateTime(value);
+  };
+  TDateTime value{45360.123456789};
+  EXPECT_FALSE(run(
+      value, [](DateTimeDialog& dialog) { EXPECT_EQ(dialog.calendar->selectedDate(), QDate(2024, 3, 9)); }));
+  EXPECT_EQ(value.Days, 45360.123456789);
+  EXPECT_TRUE(run(value, [](DateTimeDialog& dialog) {
+    dialog.calendar->setSelectedDate(QDate(2024, 3, 10));
+    dialog.time->setTime(QTime(6, 0));
+  }));
+  EXPECT_EQ(value.Days, 45361.25);
+  EXPECT_FALSE(run(value, [](DateTimeDialog& dialog) {
+    Click(dialog.clear);
+    dialog.cancel->click();
+  }));
+  EXPECT_TRUE(run(value, [](DateTimeDialog& dialog) { Click(dialog.clear); }));
+  EXPECT_EQ(value.Days, 0);
+}
+
+TEST_F(StandardDialogs, AFilterIsATable) {
+  const auto run = [&](QString& filter, std::function<void(FilterDialog&)> act) {
+    modal::NextOf<FilterDialog>([act](FilterDialog& dialog) {
+      act(dialog);
+      if (dialog.isVisible()) dialog.ok->click();
+    });
+    return EditFilter(filter);
+  };
+  const auto texts = [](const FilterDialog& dialog) {
+    QStringList all;
+    for (int row = 0; row < dialog.table->rowCount(); ++row)
+      for (int column = 0; column < 2; ++column) all << dialog.table->item(row, column)->text();
+    return all.join(u'/').toStdString();
+  };
+  QString filter = QStringLiteral("Texts|*.txt;*.log|All");
+  EXPECT_FALSE(
+      run(filter, [&](FilterDialog& dialog) { EXPECT_EQ(texts(dialog), "Texts/*.txt;*.log/All///"); }));
+  EXPECT_EQ(filter, QStringLiteral("Texts|*.txt;*.log|All")) << "as it was, odd as it is";
+  EXPECT_TRUE(run(filter, [&](FilterDialog& dialog) {
+    dialog.table->item(1, 1)->setText(QStringLiteral("*"));
+    dialog.table->item(2, 0)->setText(QStringLiteral("Pictures"));
+    dialog.table->item(2, 1)->setText(QStringLiteral("*.png"));
+    EXPECT_EQ(dialog.table->rowCount(), 4) << "there is room for the next one";
+    dialog.table->setCurrentCell(2, 0);
+    Click(dialog.up);
+  }));
+  EXPECT_EQ(filter, QStringLiteral("Texts|*.txt;*.log|Pictures|*.png|All|*"));
+  EXPECT_TRUE(run(filter, [&](FilterDialog& dialog) {
+    dialog.table->setCurrentCell(0, 1);
+    Click(dialog.remove);
+  }));
+  EXPECT_EQ(filter, QStringLiteral("Pictures|*.png|All|*"));
+  EXPECT_FALSE(run(filter, [&](FilterDialog& dialog) {
+    dialog.table->item(0, 0)->setText(QStringLiteral("no"));
+    dialog.cancel->click();
+  }));
+  EXPECT_EQ(filter, QStringLiteral("Pictures|*.png|All|*"));
+}
+
+TEST_F(StandardDialogs, CursorsHaveAPicture) {
+  TImage image(nullptr);
+  const auto editor = Of({&image}, "Cursor");
+  QSet<QByteArray> pictures;
+  for (const QString& name : ValuesOf(*editor)) {
+    const QImage picture = editor->GetValueIcon(name).pixmap(24, 24).toImage();
+    if (name == QStringLiteral("crNone")) continue;
+    EXPECT_FALSE(picture.isNull()) << name.toStdString();
+    bool any = false;
+    for (int y = 0; y < picture.height(); ++y)
+      for (int x = 0; x < picture.width(); ++x) any = any || qAlpha(picture.pixel(x, y)) > 128;
+    EXPECT_TRUE(any) << name.toStdString();
+    pictures.insert(QCryptographicHash::hash(
+        QByteArrayView(reinterpret_cast<const char*>(picture.constBits()), picture.sizeInBytes()),
+        QCryptographicHash::Md5));
+  }
+  EXPECT_GE(pictures.size(), 14);
+}
