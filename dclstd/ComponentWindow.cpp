@@ -59,18 +59,22 @@ void ComponentWindow::DesignerClosed(IDesigner* designer) {
   if (Designer() == designer) Leave();
 }
 
-bool ComponentWindow::Find() {
+// When all are made anew, another one may come to stand at the old address: the name goes first.
+TComponent* ComponentWindow::Present(const TComponent* known, const QString& name) const {
   TComponent* root = Designer()->GetRoot();
-  if (!root) return false;
+  if (!root) return nullptr;
+  if (TComponent* named = name.isEmpty() ? nullptr : Designer()->GetComponent(name)) return named;
+  if (known == root) return root;
   const auto& all = root->Components();
-  if (component_ == root || std::find(all.begin(), all.end(), component_) != all.end()) {
-    name_ = component_->Name();
-    return true;
-  }
-  TComponent* other = Designer()->GetComponent(name_);
-  if (!other) return false;
-  component_ = other;
-  return Rebound();
+  const auto it = std::find(all.begin(), all.end(), known);
+  return it == all.end() ? nullptr : *it;
+}
+
+bool ComponentWindow::Find() {
+  TComponent* present = Present(component_, name_);
+  if (!present) return false;
+  name_ = present->Name();
+  return std::exchange(component_, present) == present || Rebound();
 }
 
 void ComponentWindow::ItemsModified(IDesigner* designer) {

@@ -37,6 +37,9 @@ class ComponentWindow : public TDesignWindow {
  protected:
   // Shows what is there now.
   virtual void Load() = 0;
+  // What is now the component that was known by that name: itself, renamed or not, or the one that was made
+  // in its place. Null for none. `known` may be gone.
+  TComponent* Present(const TComponent* known, const QString& name) const;
   // The component was made anew. False: what the window is about is no longer there.
   virtual bool Rebound() { return true; }
   // A small button of the window with its icon, a drawing of words (ComponentIcons.h).

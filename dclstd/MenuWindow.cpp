@@ -53,17 +53,23 @@ MenuWindow::MenuWindow(IDesigner& designer, TMenu& menu)
 
 TMenu& MenuWindow::Menu() const { return *As<TMenu>(&Component()); }
 
-bool MenuWindow::Rebound() {
-  auto* menu = As<TMenu>(&Component());
-  current_ = {menu, nullptr};
-  return menu != nullptr;
+bool MenuWindow::Rebound() { return As<TMenu>(&Component()) != nullptr; }
+
+void MenuWindow::SetCurrent(const Place& place) {
+  current_ = place;
+  itemName_ = place.Item ? place.Item->Name() : QString();
+  levelName_ = place.Level->Name();
 }
 
 void MenuWindow::Load() {
   setWindowTitle(tr("Editing %1").arg(Component().Name()));
-  // What it stood in may have gone, or moved to another level.
-  if (current_.Item && current_.Item->Around() != current_.Level) current_.Level = current_.Item->Around();
+  // They may have gone, moved to another level, or been made anew.
+  if (current_.Item) current_.Item = As<TMenuItem>(Present(current_.Item, itemName_));
+  current_.Level =
+      current_.Item ? current_.Item->Around() : As<TNestedComponent>(Present(current_.Level, levelName_));
   if (!current_.Level || MenuOf(*current_.Level) != &Menu()) current_ = {&Menu(), nullptr};
+  itemName_ = current_.Item ? current_.Item->Name() : QString();
+  levelName_ = current_.Level->Name();
   canvas->setMinimumSize(canvas->sizeHint());
   canvas->update();
   EnableButtons();
@@ -75,7 +81,7 @@ void MenuWindow::ItemDeleted(IDesigner* designer, TPersistent* item) {
     for (TNestedComponent* c = current_.Item ? current_.Item : current_.Level; c; c = c->Around()) {
       if (c != item) continue;
       TNestedComponent* around = c->Around();
-      current_ = {around ? around : &Menu(), nullptr};
+      SetCurrent({around ? around : &Menu(), nullptr});
       if (typing_) EndCaption(false);
       break;
     }
@@ -87,14 +93,14 @@ void MenuWindow::SelectionChanged(IDesigner* designer, const TDesignerSelections
   if (telling_ || designer != Designer() || list.size() != 1) return;
   auto* item = As<TMenuItem>(list.front());
   if (!item || item == current_.Item || MenuOf(*item) != &Menu()) return;
-  current_ = {item->Around(), item};
+  SetCurrent({item->Around(), item});
   Load();
 }
 
 void MenuWindow::GoTo(const Place& place) {
   if (typing_) EndCaption(true);
   if (!Designer()) return;
-  current_ = place;
+  SetCurrent(place);
   Load();
   Tell();
 }
@@ -178,7 +184,7 @@ void MenuWindow::EndCaption(bool keep) {
         current_.Item ? current_.Item->NestedIndex() : static_cast<int>(current_.Level->Nested().size());
     TMenuItem* made = nullptr;
     Do(tr("Add %1").arg(text), [&] { made = &AddItem(text, index); });
-    if (made) current_ = {made->Around(), made};
+    if (made) SetCurrent({made->Around(), made});
   }
   Load();
 }

@@ -41,6 +41,7 @@ class MenuWindow : public ComponentWindow {
 
  private:
   friend class MenuCanvas;
+  void SetCurrent(const Place& place);
   void Tell();
   bool CanvasKey(int key, bool control, const QString& text);
   void Walk(int key);
@@ -54,6 +55,7 @@ class MenuWindow : public ComponentWindow {
   Place current_;
   bool inserting_ = false;  // the caption is that of a new item in front of the current one
   bool typing_ = false;
+  QString itemName_, levelName_;  // of the current place
   bool telling_ = false;
 };
 

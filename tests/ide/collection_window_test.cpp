@@ -210,8 +210,10 @@ TEST_F(CollectionWindowTest, SurvivesThatAllComponentsAreMadeAnew) {
 }
 
 TEST_F(CollectionWindowTest, GoesWithItsComponentAndWithTheForm) {
-  session_->DeleteComponents({&Get()});
-  EXPECT_TRUE(ComponentWindow::All().isEmpty());
+  session_->Run(QStringLiteral("delete"), {}, [&] {
+    session_->DeleteComponents({&Get()});
+    EXPECT_TRUE(ComponentWindow::All().isEmpty()) << "at once, not when the command is over";
+  });
   QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
   EXPECT_TRUE(window_.isNull());
   session_->Undo();
