@@ -19,6 +19,7 @@
 #include "vcl/ComboBox.h"
 #include "vcl/Dialogs.h"
 #include "vcl/Edit.h"
+#include "vcl/EditButton.h"
 #include "vcl/Form.h"
 #include "vcl/GlyphButton.h"
 #include "vcl/Grid.h"
@@ -51,10 +52,10 @@ const Row kRows[] = {
     Page("Standard",
          TellingClasses<TMainMenu, TPopupMenu, TLabel, TEdit, TMemo, TButton, TCheckBox, TRadioButton,
                         TListBox, TComboBox, TGroupBox, TRadioGroup, TPanel, TActionList>()),
-    Page("Additional",
-         TellingClasses<TBitBtn, TSpeedButton, TImage, TShape, TBevel, TCheckListBox, TStaticText, TMaskEdit,
-                        TStringGrid, TDrawGrid, TValueListEditor, TColorBox, TColorListBox,
-                        TApplicationEvents, TApplicationProperties, TTrayIcon, TLinkLabel>()),
+    Page("Additional", TellingClasses<TBitBtn, TSpeedButton, TImage, TShape, TBevel, TCheckListBox,
+                                      TStaticText, TMaskEdit, TStringGrid, TDrawGrid, TValueListEditor,
+                                      TColorBox, TColorListBox, TApplicationEvents, TApplicationProperties,
+                                      TTrayIcon, TEditButton, TFileNameEdit, TDirectoryEdit, TLinkLabel>()),
     Page("Common Controls",
          TellingClasses<TImageList, TImageCollection, TVirtualImageList, TListView, TTreeView, TRichEdit>()),
     Page("System", TellingClasses<TTimer, TPaintBox>()),
