@@ -5,6 +5,7 @@
 
 #include "ide/Unknown.h"
 #include "rtl/ClassRegistry.h"
+#include "vcl/PageControl.h"
 
 namespace {
 using enum TStandInLook;
@@ -285,6 +286,12 @@ void ReadFont(const Reader& read, TFont& font) {
   if (const auto color = read.Color("Font.Color")) font.SetColor(*color);
 }
 }  // namespace
+
+bool NeedsStandIn(const TClass& cls, const forms::Object& object) {
+  if (!cls.InheritsFrom(TTabSheet::StaticClass())) return false;
+  const TClass* book = object.parent ? FindClass(object.parent->className) : nullptr;
+  return !book || !book->InheritsFrom(TPageControl::StaticClass());
+}
 
 TComponent* MakeStandIn(const forms::Document& document, const forms::Object& object, TComponent* owner) {
   const QByteArray cls(object.className.constData(), object.className.size());

@@ -15,5 +15,7 @@ bool IsVisual(const forms::Object& object);
 bool RootHasProperty(TFormKind kind, QByteArrayView property);
 TFormKind KindOfRoot(const forms::Object& root);
 
+// A page of a book that is not known needs a stand-in, though its own class is known.
+bool NeedsStandIn(const TClass& cls, const forms::Object& object);
 // The component that takes the place of an object of an unknown class.
 TComponent* MakeStandIn(const forms::Document& document, const forms::Object& object, TComponent* owner);

@@ -10,6 +10,7 @@
 #include "forms/FormReader.h"
 #include "forms/Snapshot.h"
 #include "rtl/ClassRegistry.h"
+#include "rtl/Collection.h"
 #include "rtl/Exceptions.h"
 #include "rtl/PropAccess.h"
 #include "rtl/PropText.h"
@@ -174,7 +175,9 @@ class Counter : public IControlHost {
  public:
   explicit Counter(TComponent& subject) : subject_(subject) {}
   void ControlChanged(TControl&) override { ++anything; }
-  void BoundsChanging(TControl& control) override { ++anything, bounds += &control == &subject_; }
+  void BoundsChanging(TControl& control) override {
+    ++anything, bounds += &control == &subject_ && !control.IsFollowing();
+  }
   void ComponentChanging(TComponent& component) override { ++anything, changes += &component == &subject_; }
   int changes = 0, bounds = 0, anything = 0;
 
@@ -233,6 +236,7 @@ TEST_P(EveryClass, ResettingAPartResetsAllOfIt) {
     const bool atDefault = IsDefaultValue(*stage.subject, *prop);
     for (const QByteArray& path : ValuePaths(*stage.subject))
       if (path.startsWith(prop->Name + '.')) SetAnother(stage, path, 0);
+    if (auto* items = As<TCollection>(GetObjectProp(*stage.subject, *prop))) items->Add();
     EXPECT_FALSE(IsDefaultValue(*stage.subject, *prop)) << prop->Name.constData();
     ResetProp(*stage.subject, *prop);
     EXPECT_EQ(IsDefaultValue(*stage.subject, *prop), atDefault) << prop->Name.constData();
