@@ -54,8 +54,8 @@ const Row kRows[] = {
     Page("Common Controls",
          TellingClasses<TTabControl, TPageControl, TImageList, TTrackBar, TProgressBar, TUpDown,
                         TDateTimePicker, TMonthCalendar, THeaderControl, TStatusBar, TToolBar>()),
-    Page("Samples", TellingClasses<TSpinEdit, TFloatSpinEdit>()),
     Page("System", TellingClasses<TTimer, TPaintBox>()),
+    Page("Samples", TellingClasses<TSpinEdit, TFloatSpinEdit>()),
     Unplaced(TellingClasses<TForm, TMenuItem, TAction, TTabSheet, TToolButton>()),
 
     Property<TColor, TColorProperty>(),

@@ -1,11 +1,9 @@
 #include "vcl/Calendar.h"
 
-#include <QDateTime>
 #include <QLocale>
 #include <cmath>
 
 #include "rtl/Class.h"
-#include "rtl/Clock.h"
 #include "vcl/PropertyGroups.h"
 
 const TTypeInfo& DateType() {
@@ -18,7 +16,7 @@ const TTypeInfo& TimeType() {
 }
 
 namespace {
-QDate Today() { return QDateTime::fromMSecsSinceEpoch(ClockMilliseconds()).date(); }
+QDate Today() { return QDate::currentDate(); }
 }  // namespace
 
 QDate DayOf(TDateTime value) {

@@ -182,34 +182,29 @@ void PaintTab(TCanvas& canvas, const QRect& rect, TPartStates states, const QStr
   const int overlap = Style().pixelMetric(QStyle::PM_TabBarBaseOverlap);
   option.shape = QTabBar::RoundedNorth;
   option.position = QStyleOptionTab::OnlyOneTab;  // others reach over to the next
-  SetText(option, canvas, text, font, states);
-  if (!image.isNull()) {
-    option.icon = QIcon(QPixmap::fromImage(image));
-    option.iconSize = image.size() / image.devicePixelRatio();
-  }
   QPainter& painter = canvas.Painter();
-  const bool upright = edge == Qt::LeftEdge || edge == Qt::RightEdge;
-  if (upright) option.rect = option.rect.transposed();
+  if (edge == Qt::LeftEdge || edge == Qt::RightEdge) option.rect = option.rect.transposed();
+  if (edge == Qt::LeftEdge) painter.setTransform(QTransform(0, -1, 1, 0, 0, rect.height()), true);
+  if (edge == Qt::RightEdge) painter.setTransform(QTransform(0, 1, -1, 0, rect.width(), 0), true);
+  const QRect face = option.rect.adjusted(2, 0, -2, 0);
   option.rect.setHeight(option.rect.height() - overlap);
-  if (edge == Qt::TopEdge) {
-    Style().drawControl(QStyle::CE_TabBarTab, &option, p);
-    return;
-  }
   // The tab of the upper edge, turned or mirrored; what stands on it is not mirrored.
-  if (edge == Qt::BottomEdge) {
-    painter.save();
-    painter.setTransform(QTransform(1, 0, 0, -1, 0, rect.height()), true);
-    Style().drawControl(QStyle::CE_TabBarTabShape, &option, p);
-    painter.restore();
-    option.rect.translate(0, overlap);
-  } else {
-    if (edge == Qt::LeftEdge)
-      painter.setTransform(QTransform(0, -1, 1, 0, 0, rect.height()), true);
-    else
-      painter.setTransform(QTransform(0, 1, -1, 0, rect.width(), 0), true);
-    Style().drawControl(QStyle::CE_TabBarTabShape, &option, p);
+  painter.save();
+  if (edge == Qt::BottomEdge) painter.setTransform(QTransform(1, 0, 0, -1, 0, rect.height()), true);
+  Style().drawControl(QStyle::CE_TabBarTabShape, &option, p);
+  painter.restore();
+  const QSize size = image.isNull() ? QSize(0, 0) : image.size() / image.devicePixelRatio();
+  constexpr int gap = 4;
+  const int length = TextExtent(text, font).width() + (image.isNull() ? 0 : size.width() + gap);
+  QRect label(face.left() + std::max((face.width() - length) / 2, 0), face.top(), length, face.height());
+  label = label.intersected(face);
+  if (!image.isNull()) {
+    painter.drawImage(QRect(QPoint(label.left(), face.top() + (face.height() - size.height()) / 2), size),
+                      image);
+    label.setLeft(label.left() + size.width() + gap);
   }
-  Style().drawControl(QStyle::CE_TabBarTabLabel, &option, p);
+  if (label.isValid())
+    canvas.TextRect(label, Qt::AlignLeft | Qt::AlignVCenter, text, font, !states.Contains(Disabled));
 }
 
 void PaintTabPane(TCanvas& canvas, const QRect& rect, TPartStates states) {

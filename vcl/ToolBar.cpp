@@ -162,12 +162,13 @@ TToolBar::TToolBar(TComponent* owner) : TWinControl(owner) {
 }
 
 void TToolBar::Loaded() {
-  TWinControl::Loaded();
+  // While nothing is arranged yet.
   for (TControl* c : Controls())
-    if (auto* button = dynamic_cast<TToolButton*>(c))
+    if (auto* button = dynamic_cast<TToolButton*>(c); button && button->IsLoading())
       button->SetBounds(button->Left(), button->Top(),
                         button->widthRead_ ? button->Width() : Get(ButtonWidth),
                         button->heightRead_ ? button->Height() : Get(ButtonHeight));
+  TWinControl::Loaded();
 }
 
 QMargins TToolBar::Insets() const {

@@ -1,5 +1,6 @@
 // What each kind of container does with what stands in it, and that it does it by difference.
 #include "VclTest.h"
+#include "rtl/PropAccess.h"
 #include "vcl/Button.h"
 #include "vcl/FlowPanel.h"
 #include "vcl/Form.h"
@@ -225,6 +226,24 @@ TEST(ToolBarLayout, APlaceFromTheFileStaysAndMovesByTheDifference) {
   s.box->Set(TToolBar::Indent, 5);
   EXPECT_EQ(a.Left(), 9);
   EXPECT_EQ(b.Left(), 32);
+}
+
+TEST(ToolBarLayout, ButtonsWithoutAWidthInTheFileHaveThatOfTheBar) {
+  Scene<TToolBar> s;
+  auto& given = s.Add<TToolButton>({0, 0, 23, 22});
+  auto& usual = s.Add<TToolButton>({0, 0, 23, 22});
+  for (TComponent* c :
+       {static_cast<TComponent*>(s.box), static_cast<TComponent*>(&given), static_cast<TComponent*>(&usual)})
+    c->BeginLoading();
+  s.box->Set(TToolBar::ButtonWidth, 60);
+  SetOrdProp(given, TToolButton::StaticClass().GetProp("Width"), 40);
+  for (TComponent* c :
+       {static_cast<TComponent*>(s.box), static_cast<TComponent*>(&given), static_cast<TComponent*>(&usual)})
+    c->Loaded();
+  EXPECT_EQ(given.Width(), 40);
+  EXPECT_EQ(usual.Width(), 60);
+  EXPECT_TRUE(IsStoredProp(given, TToolButton::StaticClass().GetProp("Width")));
+  EXPECT_FALSE(IsStoredProp(usual, TToolButton::StaticClass().GetProp("Width")));
 }
 
 TEST(FlowLayout, ControlsFollowEachOtherAndWrap) {
