@@ -14,30 +14,47 @@
 #include "vcl/Action.h"
 #include "vcl/ApplicationEvents.h"
 #include "vcl/Button.h"
+#include "vcl/Calendar.h"
 #include "vcl/CheckBox.h"
 #include "vcl/ColorBox.h"
 #include "vcl/ComboBox.h"
+#include "vcl/ControlBar.h"
+#include "vcl/DateTimePicker.h"
 #include "vcl/Dialogs.h"
 #include "vcl/Edit.h"
 #include "vcl/EditButton.h"
+#include "vcl/FlowPanel.h"
 #include "vcl/Form.h"
 #include "vcl/GlyphButton.h"
 #include "vcl/Grid.h"
+#include "vcl/GridPanel.h"
 #include "vcl/GroupBox.h"
+#include "vcl/HeaderControl.h"
 #include "vcl/Image.h"
 #include "vcl/Label.h"
+#include "vcl/LabeledEdit.h"
 #include "vcl/LinkLabel.h"
 #include "vcl/ListBox.h"
 #include "vcl/ListView.h"
 #include "vcl/Memo.h"
 #include "vcl/Menu.h"
+#include "vcl/PageControl.h"
 #include "vcl/Panel.h"
+#include "vcl/ProgressBar.h"
 #include "vcl/RichEdit.h"
+#include "vcl/ScrollBar.h"
+#include "vcl/ScrollBox.h"
 #include "vcl/Shape.h"
+#include "vcl/SpinEdit.h"
+#include "vcl/Splitter.h"
 #include "vcl/StandardActions.h"
 #include "vcl/StaticText.h"
+#include "vcl/StatusBar.h"
 #include "vcl/Timer.h"
+#include "vcl/ToolBar.h"
+#include "vcl/TrackBar.h"
 #include "vcl/TreeView.h"
+#include "vcl/UpDown.h"
 #include "vcl/VirtualImageList.h"
 
 using namespace registration;
@@ -51,18 +68,23 @@ const TTypeInfo& ModalResultType() { return *TButton::StaticClass().GetProp("Mod
 const Row kRows[] = {
     Page("Standard",
          TellingClasses<TMainMenu, TPopupMenu, TLabel, TEdit, TMemo, TButton, TCheckBox, TRadioButton,
-                        TListBox, TComboBox, TGroupBox, TRadioGroup, TPanel, TActionList>()),
-    Page("Additional", TellingClasses<TBitBtn, TSpeedButton, TImage, TShape, TBevel, TCheckListBox,
-                                      TStaticText, TMaskEdit, TStringGrid, TDrawGrid, TValueListEditor,
-                                      TColorBox, TColorListBox, TApplicationEvents, TApplicationProperties,
-                                      TTrayIcon, TEditButton, TFileNameEdit, TDirectoryEdit, TLinkLabel>()),
+                        TListBox, TComboBox, TScrollBar, TGroupBox, TRadioGroup, TPanel, TActionList>()),
+    Page("Additional",
+         TellingClasses<TBitBtn, TSpeedButton, TMaskEdit, TStringGrid, TDrawGrid, TImage, TShape, TBevel,
+                        TScrollBox, TCheckListBox, TSplitter, TStaticText, TControlBar, TLabeledEdit,
+                        TValueListEditor, TColorBox, TColorListBox, TFlowPanel, TGridPanel, TLinkLabel,
+                        TEditButton, TFileNameEdit, TDirectoryEdit, TApplicationEvents,
+                        TApplicationProperties, TTrayIcon>()),
     Page("Common Controls",
-         TellingClasses<TImageList, TImageCollection, TVirtualImageList, TListView, TTreeView, TRichEdit>()),
+         TellingClasses<TTabControl, TPageControl, TImageList, TImageCollection, TVirtualImageList, TRichEdit,
+                        TTrackBar, TProgressBar, TUpDown, TDateTimePicker, TMonthCalendar, TTreeView,
+                        TListView, THeaderControl, TStatusBar, TToolBar>()),
     Page("System", TellingClasses<TTimer, TPaintBox>()),
     Page("Dialogs", TellingClasses<TOpenDialog, TSaveDialog, TOpenPictureDialog, TSavePictureDialog,
                                    TFontDialog, TColorDialog, TPrintDialog, TPrinterSetupDialog,
                                    TPageSetupDialog, TFindDialog, TReplaceDialog>()),
-    Unplaced(TellingClasses<TForm, TMenuItem, TAction>()),
+    Page("Samples", TellingClasses<TSpinEdit, TFloatSpinEdit>()),
+    Unplaced(TellingClasses<TForm, TMenuItem, TAction, TTabSheet, TToolButton>()),
     Unplaced({StandardActionClasses(), true}),
 
     Property<TColor, TColorProperty>(),

@@ -4,9 +4,9 @@
 
 #include "ide/BoundsCheck.h"
 #include "ide/Tiles.h"
-#include "ide/Unknown.h"
 #include "ide/operations/Places.h"
 #include "rtl/Exceptions.h"
+#include "vcl/Book.h"
 #include "vcl/FormFrame.h"
 #include "vcl/Theme.h"
 

@@ -68,6 +68,7 @@ class FormSurface : public QWidget {
   int HandleAt(QPoint widgetPoint) const;
   std::vector<QRect> Handles() const;
   void Drag(QPoint widgetPoint, bool fine);
+  void TakeTab(TComponent& hit, QPoint formPoint);
   void FinishDrag();
   bool FinishOverContainer();
   void FindTarget(QPoint widgetPoint);

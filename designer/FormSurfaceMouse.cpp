@@ -3,8 +3,9 @@
 
 #include "designer/FormSurface.h"
 #include "ide/BoundsCheck.h"
-#include "ide/Unknown.h"
 #include "ide/operations/Containers.h"
+#include "vcl/Book.h"
+#include "vcl/TabControl.h"
 
 namespace {
 int Snap(int v, int grid) { return static_cast<int>(std::lround(static_cast<double>(v) / grid)) * grid; }
@@ -48,10 +49,20 @@ void FormSurface::mousePressEvent(QMouseEvent* event) {
     return session_->Select(selected);
   }
   if (!session_->IsSelected(*hit)) session_->Select({hit});
-  if (auto* book = dynamic_cast<TUnknownControl*>(hit))
-    if (const auto* page = book->PageAt(p - FormRectOf(*book).topLeft())) book->ShowPage(*page);
+  TakeTab(*hit, p);
   grabbed_ = hit;
   action_ = Action::Press;
+}
+
+// A click on a tab brings its page to the front: where the class is known, that is a value of the form.
+void FormSurface::TakeTab(TComponent& hit, QPoint p) {
+  const QPoint at = p - FormRectOf(hit).topLeft();
+  if (auto* tabs = As<TCustomTabControl>(&hit)) {
+    if (const int tab = tabs->TabAt(at); tab >= 0 && tab != tabs->FrontTab())
+      Guarded([&] { session_->Run(tr("Show page"), {tabs}, [&] { tabs->ChooseTab(tab); }); });
+  } else if (auto* book = dynamic_cast<IBook*>(&hit)) {
+    if (const TControl* page = book->PageAt(at)) book->ShowPage(*page);
+  }
 }
 
 // What stands in another one that moves goes along.
@@ -184,7 +195,7 @@ void FormSurface::FinishDrag() {
   const QPoint delta = current_ - pressed_;
   const auto stayed = std::find_if(starts_.begin(), starts_.end(), [&](const Start& s) {
     const auto* control = As<TControl>(s.component);
-    return control && control->Align() != TAlign::alNone && control->BoundsRect() == s.rect;
+    return control && DecidesBounds(*control) && control->BoundsRect() == s.rect;
   });
   const bool inVain = stayed != starts_.end() && delta.manhattanLength() >= Grid;
   Guarded([&] { session_->EndLive(resize ? tr("Resize") : tr("Move"), true); });

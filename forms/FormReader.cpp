@@ -28,7 +28,9 @@ TComponent* FormReader::Create(Object& object, TComponent* owner) {
   const TClass* cls = *it;
   standIn_ = !cls || cls->IsAbstract();
   if (!standIn_) try {
-      return create_ ? create_(*cls, owner) : cls->NewComponent(owner);
+      if (TComponent* made = create_ ? create_(*cls, object, owner) : cls->NewComponent(owner)) return made;
+      standIn_ = true;
+      return makeUnknown_(object, owner);
     } catch (const Exception& e) {
       if (!makeUnknown_) throw;
       standIn_ = true;

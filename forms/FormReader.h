@@ -51,8 +51,9 @@ class FormReader {
   FormReader(Document& document, ObjectMap& map) : document_(document), map_(map) {}
   void SetRootMaker(Maker maker) { makeRoot_ = std::move(maker); }
   void SetUnknownMaker(Maker maker) { makeUnknown_ = std::move(maker); }
-  // Makes the components of registered classes; what throws is reported, and another stands in for it.
-  using Creator = std::function<TComponent*(const TClass&, TComponent* owner)>;
+  // Makes the components of registered classes; what throws is reported, and another stands in for it. Null
+  // where the object needs a stand-in all the same.
+  using Creator = std::function<TComponent*(const TClass&, const Object&, TComponent* owner)>;
   void SetCreator(Creator creator) { create_ = std::move(creator); }
   void SetDesigning(bool designing) { designing_ = designing; }
 

@@ -40,9 +40,15 @@ forms::FormReader BoundForm::MakeReader(forms::Document& document, forms::Object
   reader.SetRootMaker([lcl = document.Style().lcl](const forms::Object& object, TComponent* owner) {
     return MakeRoot(object, lcl, owner);
   });
-  reader.SetCreator([this](const TClass& cls, TComponent* owner) {
+  reader.SetCreator([this](const TClass& cls, const forms::Object& object, TComponent* owner) -> TComponent* {
+    if (NeedsStandIn(cls, object)) return nullptr;
     silent_ = silent_ || !PromisesTelling(cls);
-    return PackageCall([&] { return registry_.ConstructorOf(cls); }, [&] { return cls.NewComponent(owner); });
+    TComponent* made =
+        PackageCall([&] { return registry_.ConstructorOf(cls); }, [&] { return cls.NewComponent(owner); });
+    // How the ancestor aligns it nobody knows.
+    if (auto* control = As<TControl>(made); control && object.kind == forms::ObjectKind::Inherited)
+      control->SetAlign(TAlign::alNone);
+    return made;
   });
   reader.SetUnknownMaker([&document](const forms::Object& object, TComponent* owner) {
     return MakeStandIn(document, object, owner);

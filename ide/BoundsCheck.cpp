@@ -9,7 +9,13 @@ namespace {
 QString Translated(const char* text) { return QCoreApplication::translate("BoundsCheck", text); }
 }  // namespace
 
+bool DecidesBounds(const TControl& control) {
+  return control.Align() != TAlign::alNone || (control.Parent() && control.Parent()->PlacesControls());
+}
+
 QString WhatDecidesBounds(const TControl& control) {
+  if (control.Parent() && control.Parent()->PlacesControls())
+    return Translated("%1 decides the place of what stands in it.").arg(control.Parent()->Name());
   static const QHash<TAlign, const char*> parts{{TAlign::alTop, "place and width"},
                                                 {TAlign::alBottom, "place and width"},
                                                 {TAlign::alLeft, "place and height"},
@@ -41,9 +47,14 @@ void RequireBoundsTaken(const TPersistent& instance, const TPropInfo& prop, std:
     throw EPropertyError(
         Translated("%1 of %2 cannot be set: %2 fills %3.")
             .arg(QString::fromLatin1(prop.Name), control->Name(), control->Parent()->Name()));
-  if (control->Align() == TAlign::alNone) return;
+  if (!DecidesBounds(*control)) return;
   const std::int64_t is = GetOrdProp(instance, prop);
   if (is == wanted) return;
+  if (control->Parent()->PlacesControls())
+    throw EPropertyError(Translated("%1 stays %2. %3")
+                             .arg(QString::fromLatin1(prop.Name))
+                             .arg(is)
+                             .arg(WhatDecidesBounds(*control)));
   throw EPropertyError(Translated("%1 stays %2. %3 Change Align first.")
                            .arg(QString::fromLatin1(prop.Name))
                            .arg(is)

@@ -9,5 +9,7 @@ void RequireBoundsTaken(const TPersistent& instance, const TPropInfo& prop, std:
 // Whether a control's property of that name is one of its places and sizes.
 bool IsBoundsProperty(QByteArrayView name);
 
+// Whether something else decides where the control stands: an alignment, or a container that places all.
+bool DecidesBounds(const TControl& control);
 // "Panel1 is aligned (Align = alTop): Form1 decides its place and width."
 QString WhatDecidesBounds(const TControl& control);

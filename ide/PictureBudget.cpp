@@ -1,5 +1,6 @@
 #include "ide/PictureBudget.h"
 
+#include "ide/StandIns.h"
 #include "rtl/ClassRegistry.h"
 #include "vcl/ImageListData.h"
 #include "vcl/Picture.h"
@@ -75,9 +76,10 @@ class PictureSum {
  public:
   explicit PictureSum(const Document& document) : document_(document) {}
   void Add(const Object& object) {
-    // What no class knows is kept and never decoded.
-    if (IsKnown(object.className))
-      for (const Property& p : object.properties) {
+    // What no class knows is kept and, but for what stand-ins show, never decoded.
+    const bool known = IsKnown(object.className);
+    for (const Property& p : object.properties)
+      if (known || StandInShowsPicture(p.Name())) {
         sum_ += CostOf(document_, p);
         if (sum_ > MaxFormPictureBytes)
           throw EFormError(

@@ -1,9 +1,10 @@
 // The looks of what stands in for a class that no loaded package has.
 #pragma once
-#include <QImage>
+#include <memory>
 #include <optional>
 
 #include "vcl/Control.h"
+#include "vcl/Picture.h"
 
 // What a stand-in looks like. Component: it is not a control.
 enum class TStandInLook : std::uint8_t {
@@ -49,7 +50,7 @@ struct TStandIn {
   int index = -1;
   int columns = 1;
   std::vector<TStandInColumn> headers;
-  QImage picture;
+  std::shared_ptr<const TPicture> picture;  // decoded when it is painted
   bool checked = false;
   std::optional<TColor> color;
   QString activePage;

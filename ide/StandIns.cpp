@@ -5,6 +5,7 @@
 
 #include "ide/Unknown.h"
 #include "rtl/ClassRegistry.h"
+#include "vcl/PageControl.h"
 #include "vcl/Picture.h"
 
 namespace {
@@ -128,6 +129,7 @@ constexpr SizeRow SizeRows[] = {
     {Progress, {150, 17}}, {Splitter, {3, 3}},   {Divider, {150, 17}},     {Buttons, {240, 34}},
 };
 
+constexpr const char* StandInPictures[] = {"Picture.Data", "Glyph.Data", "Bitmap.Data"};
 constexpr const char* PlaceProperties[] = {"Left", "Top", "Width", "Height"};
 // Only controls have these, whatever their class.
 constexpr const char* ControlProperties[] = {"TabOrder",         "TabStop",          "Align",
@@ -280,14 +282,15 @@ class Reader {
     }
     return columns;
   }
-  QImage Picture(QByteArrayView name) const {
+  std::shared_ptr<const TPicture> Picture(QByteArrayView name) const {
     const forms::Property* p = object_.Find(name);
     if (!p) return {};
-    const forms::Value v = document_.Read(*p);
+    forms::Value v = document_.Read(*p);
     if (v.type != forms::ValueType::Binary) return {};
-    TPicture picture;
-    picture.SetData(v.bytes);
-    return picture.Image();
+    v.Own();
+    auto picture = std::make_shared<TPicture>();
+    picture->SetData(v.bytes);
+    return picture;
   }
   QStringList Elements(QByteArrayView name, const QStringList& otherwise) const {
     const forms::Property* p = object_.Find(name);
@@ -346,6 +349,11 @@ void ReadFont(const Reader& read, TFont& font) {
 }
 }  // namespace
 
+bool StandInShowsPicture(QByteArrayView property) {
+  return std::any_of(std::begin(StandInPictures), std::end(StandInPictures),
+                     [&](const char* name) { return property == name; });
+}
+
 namespace {
 // Everything that may change while the component stays.
 TStandIn ReadLook(const Reader& read, TStandInLook look) {
@@ -366,8 +374,8 @@ TStandIn ReadLook(const Reader& read, TStandInLook look) {
   what.columns = std::max(1, read.Number("Columns").value_or(1));
   for (const char* columns : {"Columns", "Header.Columns"})
     if (what.headers.empty()) what.headers = read.Columns(columns);
-  for (const char* picture : {"Picture.Data", "Glyph.Data", "Bitmap.Data"})
-    if (what.picture.isNull()) what.picture = read.Picture(picture);
+  for (const char* picture : StandInPictures)
+    if (!what.picture) what.picture = read.Picture(picture);
   what.activePage = read.Text("ActivePage");
   what.activeIndex = read.Number("PageIndex").value_or(read.Number("ActivePageIndex").value_or(0));
   what.color = read.Color("Color");
@@ -383,6 +391,12 @@ void LookAgain(TComponent& component, const forms::Document& document, const for
   what.usualAlign = control->StandIn().usualAlign;
   control->SetStandIn(std::move(what));
   control->Invalidate();
+}
+
+bool NeedsStandIn(const TClass& cls, const forms::Object& object) {
+  if (!cls.InheritsFrom(TTabSheet::StaticClass())) return false;
+  const TClass* book = object.parent ? FindClass(object.parent->className) : nullptr;
+  return !book || !book->InheritsFrom(TPageControl::StaticClass());
 }
 
 TComponent* MakeStandIn(const forms::Document& document, const forms::Object& object, TComponent* owner) {

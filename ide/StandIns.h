@@ -15,6 +15,10 @@ bool IsVisual(const forms::Object& object);
 bool RootHasProperty(TFormKind kind, QByteArrayView property);
 TFormKind KindOfRoot(const forms::Object& root);
 
+// A page of a book that is not known needs a stand-in, though its own class is known.
+bool NeedsStandIn(const TClass& cls, const forms::Object& object);
+// Whether a stand-in shows the picture that a property of that name holds.
+bool StandInShowsPicture(QByteArrayView property);
 // The component that takes the place of an object of an unknown class.
 TComponent* MakeStandIn(const forms::Document& document, const forms::Object& object, TComponent* owner);
 // The object says something else now; other components are let be.

@@ -1,8 +1,9 @@
 #include "ide/Unknown.h"
 
+#include <algorithm>
+
 namespace {
 constexpr int PageBorder = 4;
-constexpr int OutOfSight = -30000;
 }  // namespace
 
 const TClass& TUnknownControl::StaticClass() {
@@ -55,7 +56,12 @@ TUnknownControl* TUnknownControl::FrontPage() const {
   return pages[index < pages.size() ? index : 0];
 }
 
-void TUnknownControl::ShowPage(const TUnknownControl& page) {
+bool TUnknownControl::HasPage(const TControl& control) const {
+  const auto pages = Pages();
+  return std::find(pages.begin(), pages.end(), &control) != pages.end();
+}
+
+void TUnknownControl::ShowPage(const TControl& page) {
   if (FrontPage() == &page) return;
   front_ = &page;
   PlacePages();
@@ -90,18 +96,4 @@ QRect TUnknownControl::PageArea() const {
   const int border = standIn_.look == TStandInLook::Tabs ? PageBorder : 0;
   return {border, tabs + border, std::max(0, Width() - 2 * border),
           std::max(0, Height() - tabs - 2 * border)};
-}
-
-void ArrangePages(TWinControl& root) {
-  for (TControl* c : root.Controls()) {
-    if (auto* book = dynamic_cast<TUnknownControl*>(c)) book->PlacePages();
-    if (auto* container = dynamic_cast<TWinControl*>(c)) ArrangePages(*container);
-  }
-}
-
-void RevealPages(const TComponent& component) {
-  for (const auto* c = As<TControl>(&component); c; c = c->Parent())
-    if (auto* book = dynamic_cast<TUnknownControl*>(c->Parent()))
-      for (const TUnknownControl* page : book->Pages())
-        if (page == c) book->ShowPage(*page);
 }

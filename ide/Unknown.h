@@ -2,8 +2,9 @@
 // common control that their class is named after; everything else about them stays in the document.
 #pragma once
 #include "ide/StandInLook.h"
+#include "vcl/Book.h"
 
-class TUnknownControl : public TWinControl {
+class TUnknownControl : public TWinControl, public IBook {
   VRX_CLASS(TUnknownControl)
  public:
   explicit TUnknownControl(TComponent* owner);
@@ -15,13 +16,14 @@ class TUnknownControl : public TWinControl {
   // What looks like a container holds controls, and what holds some in the file.
   bool AcceptsControls() const override;
 
-  // The children that are pages, in order, and the one in front; null when there is none.
+  // The children that are pages, in order.
   std::vector<TUnknownControl*> Pages() const;
-  TUnknownControl* FrontPage() const;
-  void ShowPage(const TUnknownControl& page);
-  // The page whose tab is there, or null.
-  TUnknownControl* PageAt(QPoint point) const;
-  void PlacePages();
+  bool HasPage(const TControl& control) const override;
+  TUnknownControl* FrontPage() const override;
+  void ShowPage(const TControl& page) override;
+  TUnknownControl* PageAt(QPoint point) const override;
+  void PlacePages() override;
+  bool HasOwnPlace() const override { return standIn_.hasPlace; }
 
   // Its caption or text, else its name and class where there is room.
   void Paint(TCanvas& canvas) override;
@@ -47,7 +49,7 @@ class TUnknownControl : public TWinControl {
 
   QByteArray streamClass_;
   TStandIn standIn_;
-  const TUnknownControl* front_ = nullptr;  // compared only
+  const TControl* front_ = nullptr;  // compared only
 };
 
 class TUnknownComponent : public TComponent {
@@ -60,8 +62,3 @@ class TUnknownComponent : public TComponent {
  private:
   QByteArray streamClass_;
 };
-
-// Pages anew into their places, after some came or went.
-void ArrangePages(TWinControl& root);
-// Brings every page that the component stands on to the front.
-void RevealPages(const TComponent& component);

@@ -235,8 +235,8 @@ bool TUnknownControl::PaintSurface(TCanvas& canvas) const {
     case Component:
       break;
   }
-  if (!standIn_.picture.isNull()) {
-    p.drawImage(r.topLeft(), standIn_.picture);
+  if (standIn_.picture && !standIn_.picture->Image().isNull()) {
+    p.drawImage(r.topLeft(), standIn_.picture->Image());
     return true;
   }
   QColor fill = palette.color(QPalette::WindowText);

@@ -6,6 +6,7 @@
 #include "rtl/IntegerConsts.h"
 #include "vcl/Action.h"
 #include "vcl/Menu.h"
+#include "vcl/Placed.h"
 #include "vcl/SideLayout.h"
 
 namespace {
@@ -164,12 +165,26 @@ QHash<const TControl*, QSize>& HintsBefore() {
   static QHash<const TControl*, QSize> hints;
   return hints;
 }
+// And what they kept free around them, on which their parent's layout may depend.
+QHash<const TControl*, QMargins>& MarginsBefore() {
+  static QHash<const TControl*, QMargins> margins;
+  return margins;
+}
+// In a parent that places all it holds the layout may depend on any value.
+QHash<const TControl*, Placements>& PlacesBefore() {
+  static QHash<const TControl*, Placements> places;
+  return places;
+}
+// The control that takes the bounds of another one as they are.
+const TControl* exact = nullptr;
 }  // namespace
 
 TControl::TControl(TComponent* owner) : TComponent(owner), font_(std::make_unique<TFont>(this)) {}
 
 TControl::~TControl() {
   HintsBefore().remove(this);
+  MarginsBefore().remove(this);
+  PlacesBefore().remove(this);
   host_ = nullptr;
   if (parent_) parent_->RemoveControl(this);
 }
@@ -191,10 +206,11 @@ void TControl::SetParentComponent(TComponent* parent) {
 }
 
 void TControl::SetBounds(int left, int top, int width, int height) {
-  width = std::max(width, 0);
-  height = std::max(height, 0);
+  const QSize limited = Limited({std::max(width, 0), std::max(height, 0)});
+  width = limited.width();
+  height = limited.height();
   if (QRect(left, top, width, height) == BoundsRect()) return;
-  const LayoutChange among(align_ != TAlign::alNone ? parent_ : nullptr);
+  const LayoutChange among(LaidOutBy());
   // What is being loaded nobody has seen yet.
   if (IControlHost* host = IsLoading() ? nullptr : FindHost()) {
     host->ControlChanged(*this);
@@ -209,6 +225,25 @@ void TControl::SetBounds(int left, int top, int width, int height) {
   Invalidate();
 }
 
+TWinControl* TControl::LaidOutBy() const {
+  return exact != this && parent_ && parent_->LaysOut(*this) ? parent_ : nullptr;
+}
+
+// What stands beyond its limits already was put there by the form file.
+QSize TControl::Limited(QSize size) const {
+  if (exact == this || !IsKept(&Constraints) || IsLoading() || IsLayoutFrozen()) return size;
+  const TSizeConstraints& limits = *Get(Constraints);
+  const QSize stands(width_, height_), limited = limits.Limit(size), allowed = limits.Limit(stands);
+  return {stands.width() == allowed.width() ? limited.width() : size.width(),
+          stands.height() == allowed.height() ? limited.height() : size.height()};
+}
+
+QMargins TControl::OwnMargins() const {
+  if (!Get(AlignWithMargins)) return {};
+  constexpr int usual = 3;
+  return IsKept(&Margins) ? Get(Margins)->ToQMargins() : QMargins(usual, usual, usual, usual);
+}
+
 void TControl::Follow(const QRect& bounds) {
   following_ = true;
   SetBounds(bounds.left(), bounds.top(), bounds.width(), bounds.height());
@@ -219,6 +254,9 @@ void TControl::SetAlign(TAlign v) {
   if (align_ == v) return;
   const LayoutChange among(parent_);
   Change(align_, v);
+  // This layout has regard to them.
+  if (const auto margins = MarginsBefore().find(this); margins != MarginsBefore().end())
+    *margins = OwnMargins();
 }
 
 void TControl::SetAutoSize(bool v) {
@@ -235,6 +273,10 @@ void TControl::DoChanging() {
       HintsBefore().remove(this);
     else if (!HintsBefore().contains(this))
       HintsBefore().insert(this, AutoSizeHint());
+  }
+  if (parent_ && !IsLoading() && !IsDestroying() && !IsLayoutFrozen() && !MarginsBefore().contains(this)) {
+    MarginsBefore().insert(this, OwnMargins());
+    if (parent_->PlacesControls()) PlacesBefore().insert(this, Placed(*parent_, nullptr));
   }
   // What follows from the parent is no edit of this control.
   if (!takingParentLook_) TComponent::DoChanging();
@@ -255,13 +297,30 @@ void TControl::DoChanged() {
       Follow({GrowsToTheLeft() ? left_ + width_ - width : left_, top_, width, height});
     }
   }
+  if (const auto found = MarginsBefore().constFind(this); found != MarginsBefore().cend()) {
+    const QMargins before = *found;
+    MarginsBefore().erase(found);
+    const auto places = PlacesBefore().take(this);
+    if (parent_ && parent_->PlacesControls()) {
+      const LayoutChange change(parent_, places);
+    } else if (TWinControl* container = LaidOutBy(); container && before != OwnMargins()) {
+      container->MarginsChanged(*this, before);
+    }
+  }
   Invalidate();
 }
 
 void TControl::Assign(const TPersistent* source) {
-  const TUpdateLock lock(*this);
-  TComponent::Assign(source);
-  HintsBefore().remove(this);
+  {
+    const TUpdateLock lock(*this);
+    TComponent::Assign(source);
+    HintsBefore().remove(this);
+  }
+  if (const auto* other = As<TControl>(source)) {
+    const TControl* const before = std::exchange(exact, this);
+    SetBounds(other->left_, other->top_, other->width_, other->height_);
+    exact = before;
+  }
 }
 
 void TControl::ComponentChanging(TComponent& component) {
@@ -332,6 +391,10 @@ void TControl::ParentLookChanged() {
 
 void TControl::PartChanged(TPersistent& part) {
   if (&part == font_.get() && !takingParentLook_) parentFont_ = false;
+  if (IsKept(&Constraints) && &part == Get(Constraints) && !IsLoading() && !IsLayoutFrozen()) {
+    const QSize size = Get(Constraints)->Limit({width_, height_});
+    Follow({left_, top_, size.width(), size.height()});
+  }
   Changed();
   if (&part == font_.get()) LookChanged();
 }
@@ -340,7 +403,7 @@ void TControl::SetEnabled(bool v) { Change(enabled_, v); }
 
 void TControl::SetVisible(bool v) {
   if (visible_ == v) return;
-  const LayoutChange among(align_ != TAlign::alNone ? parent_ : nullptr);
+  const LayoutChange among(LaidOutBy());
   Change(visible_, v);
 }
 

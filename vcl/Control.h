@@ -68,6 +68,10 @@ class TControl : public TComponent {
     SetBounds(left_, top_, width_, v);
   }
   virtual QRect ClientRect() const { return {0, 0, width_, height_}; }
+  // Whether the control has a place of its own; a page has that of its book.
+  virtual bool HasOwnPlace() const { return true; }
+  // What it keeps free around it where it is aligned.
+  QMargins OwnMargins() const;
   // While the bounds change because something else did: the layout around, the text inside.
   bool IsFollowing() const { return following_; }
 
@@ -156,6 +160,9 @@ class TControl : public TComponent {
  private:
   friend class TWinControl;
   friend class LayoutChange;
+  // The container whose layout depends on this control's place and size; null when none does.
+  TWinControl* LaidOutBy() const;
+  QSize Limited(QSize size) const;
   void Follow(const QRect& bounds);
   bool ColorStored() const { return !parentColor_; }
   bool FontStored() const { return !parentFont_; }
@@ -217,8 +224,22 @@ class TWinControl : public TControl {
   // The topmost child that is shown at a point of the client area, or null.
   TControl* ControlAt(QPoint point) const;
 
+  // What the container leaves free around what is aligned in it: padding, bevels, a title.
+  virtual QMargins Insets() const;
+  // Whether every control in it stands where the container places it, whatever its alignment.
+  virtual bool PlacesControls() const { return false; }
+  // Computes what the container's layout wants for all that stands in it.
+  virtual void ArrangeControls(Placements& all, const QRect& client, const QMargins& insets,
+                               const Placements* before) const;
+
  protected:
+  void DoChanging() override;
+  void DoChanged() override;
   void LookChanged() override;
+  // Controls came, went, or changed their order.
+  virtual void ControlsListed() {}
+  // The size that holds what stands inside, for AutoSizeHint; the present one when nothing does.
+  QSize ContentExtent() const;
   bool tabStop_ = false;
 
  private:
@@ -231,6 +252,8 @@ class TWinControl : public TControl {
   bool ClientWidthTold() const { return clientExtra_[0].has_value(); }
   bool ClientHeightTold() const { return clientExtra_[1].has_value(); }
 
+  bool LaysOut(const TControl& control) const;
+  void MarginsChanged(const TControl& control, const QMargins& before);
   std::vector<TControl*> controls_;
   std::optional<int> clientExtra_[2];  // by how much the client area that the form file tells is larger
   int tabOrder_ = -1;
@@ -242,16 +265,22 @@ class TWinControl : public TControl {
 // inside of each other are one. Does nothing while the container is loaded, freed, or its layout frozen.
 class LayoutChange {
  public:
-  explicit LayoutChange(TWinControl* container);
+  // `resizes`: the change is that of the container's own size, which then is not taken from the content.
+  explicit LayoutChange(TWinControl* container, bool resizes = false);
+  // The change has happened already and left every control where it was.
+  LayoutChange(TWinControl* container, Placements before);
   ~LayoutChange();
   LayoutChange(const LayoutChange&) = delete;
   LayoutChange& operator=(const LayoutChange&) = delete;
 
  private:
-  Placements Arranged(const Placements* before) const;
+  void Begin(TWinControl* container, bool resizes);
+  void FitContainer();
 
   TWinControl* container_ = nullptr;  // null: nothing to do
   Placements before_;
+  QSize hint_;
+  bool fits_ = false;
   int exceptions_ = 0;
 };
 

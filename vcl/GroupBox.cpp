@@ -14,6 +14,12 @@ TCustomGroupBox::TCustomGroupBox(TComponent* owner) : TWinControl(owner) {
   SetBounds(0, 0, 185, 105);
 }
 
+QMargins TCustomGroupBox::Insets() const {
+  constexpr int frame = 2;
+  return TWinControl::Insets() +
+         QMargins(frame, TextExtent(QStringLiteral("0"), *Font()).height() + frame, frame, frame);
+}
+
 QRect TCustomGroupBox::PaintFrame(TCanvas& canvas) const {
   canvas.FillRect(ClientRect(), Color());
   return PaintGroupFrame(canvas, ClientRect(), PartStates(), Caption(), *Font());
@@ -25,8 +31,10 @@ const TClass& TGroupBox::StaticClass() {
   static const TClass cls(
       DescribeClass<TGroupBox>("TGroupBox", TCustomGroupBox::StaticClass())
           .PublishAll(Placing, Look, ParentLook, Hints, Placement, Direction, Dragging, Windowed, Help,
-                      Styling, WheelEvents, Container, "AutoSize", "Caption", MouseEvents, FocusEvents,
-                      DragEvents)
+                      Styling, WheelEvents, Container, Docking, ResizeEvents, "AutoSize", "Caption",
+                      "ParentCustomHint", "TabStop", MouseEvents, KeyEvents, FocusEvents, DragEvents)
+          .Passive("DefaultHeadingFont", true)
+          .Passive("ShowFrame", true)
           .Alphabetical()
           .ClassDoc(QStringLiteral("A frame with a title around controls that belong together."),
                     "pen line 1.5 brush fill box 3 6.5 18 13 2 pen accent 2 path 6 6.5 13 6.5"));

@@ -9,9 +9,12 @@ class TCustomGroupBox : public TWinControl {
  public:
   explicit TCustomGroupBox(TComponent* owner);
   bool AcceptsControls() const override { return true; }
+  // Below the title and inside of the frame.
+  QMargins Insets() const override;
   void Paint(TCanvas& canvas) override;
 
  protected:
+  QSize AutoSizeHint() const override { return ContentExtent(); }
   // Frame and title; what is left inside.
   QRect PaintFrame(TCanvas& canvas) const;
 };

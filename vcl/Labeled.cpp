@@ -35,6 +35,13 @@ void TBoundLabel::Paint(TCanvas& canvas, const QRect& bounds) const {
   canvas.TextRect(bounds, Qt::AlignLeft | Qt::AlignVCenter, caption_, ShownFont(), control_.Enabled());
 }
 
+void TBoundLabel::SetParentFont(bool v) {
+  if (v == parentFont_) return;
+  const TUpdateLock once(*this);
+  if (v) font_->Assign(std::make_unique<TFont>().get());
+  Change(parentFont_, v);
+}
+
 void TBoundLabel::PartChanged(TPersistent& part) {
   parentFont_ = false;
   TOwnedPersistent::PartChanged(part);

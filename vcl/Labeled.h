@@ -21,7 +21,8 @@ class TBoundLabel : public TOwnedPersistent {
   TFont* Font() const { return font_.get(); }
   void SetFont(const TFont* v) { font_->Assign(v); }
   bool ParentFont() const { return parentFont_; }
-  void SetParentFont(bool v) { Change(parentFont_, v); }
+  // A font of its own that it has had is gone.
+  void SetParentFont(bool v);
 
   const TFont& ShownFont() const { return parentFont_ ? *control_.Font() : *font_; }
   // Where it stands, relative to the control.

@@ -1,6 +1,5 @@
 #include "vcl/Layout.h"
 
-#include <QMargins>
 #include <algorithm>
 
 namespace {
@@ -44,18 +43,20 @@ void PlaceAnchored(Placement& p, QSize room) {
 // Takes its strip from the room that is left.
 void PlaceAligned(Placement& p, int& left, int& top, int& right, int& bottom) {
   const int width = p.stands.width(), height = p.stands.height();
+  const QMargins& m = p.margins;
+  const int across = m.left() + m.right(), down = m.top() + m.bottom();
   const TAlign align = p.align;
   p.ownsPlace = false;
   p.ownsWidth = align == TAlign::alLeft || align == TAlign::alRight;
   p.ownsHeight = align == TAlign::alTop || align == TAlign::alBottom;
-  if (align == TAlign::alBottom) bottom -= height;
-  if (align == TAlign::alRight) right -= width;
-  p.left = align == TAlign::alRight ? right : left;
-  p.top = align == TAlign::alBottom ? bottom : top;
-  p.width = p.ownsWidth ? width : right - left;
-  p.height = p.ownsHeight ? height : bottom - top;
-  if (align == TAlign::alTop) top += height;
-  if (align == TAlign::alLeft) left += width;
+  if (align == TAlign::alBottom) bottom -= height + down;
+  if (align == TAlign::alRight) right -= width + across;
+  p.left = (align == TAlign::alRight ? right : left) + m.left();
+  p.top = (align == TAlign::alBottom ? bottom : top) + m.top();
+  p.width = p.ownsWidth ? width : right - left - across;
+  p.height = p.ownsHeight ? height : bottom - top - down;
+  if (align == TAlign::alTop) top += height + down;
+  if (align == TAlign::alLeft) left += width + across;
 }
 
 // Lists are alike as a rule, so the same place is looked at first.
@@ -72,11 +73,12 @@ QMargins Discrepancy(const QRect& room, const Placements& before) {
   QMargins d;
   for (const Placement& p : before) {
     if (p.ownsPlace) continue;
-    if (p.width >= 0 && p.left == room.left()) d.setLeft(p.stands.left() - p.left);
-    if (p.height >= 0 && p.top == room.top()) d.setTop(p.stands.top() - p.top);
-    if (p.width >= 0 && p.left + p.width == room.left() + room.width())
+    const QMargins& m = p.margins;
+    if (p.width >= 0 && p.left - m.left() == room.left()) d.setLeft(p.stands.left() - p.left);
+    if (p.height >= 0 && p.top - m.top() == room.top()) d.setTop(p.stands.top() - p.top);
+    if (p.width >= 0 && p.left + p.width + m.right() == room.left() + room.width())
       d.setRight(p.stands.left() + p.stands.width() - p.left - p.width);
-    if (p.height >= 0 && p.top + p.height == room.top() + room.height())
+    if (p.height >= 0 && p.top + p.height + m.bottom() == room.top() + room.height())
       d.setBottom(p.stands.top() + p.stands.height() - p.top - p.height);
   }
   return d;
@@ -117,11 +119,19 @@ int MovedByDifference(int stands, int before, int after, bool size) {
   return std::max(stands == std::max(before, 0) ? after : stands + after - before, 0);
 }
 
-void Arrange(Placements& all, const QRect& room, const Placements* before) {
+void PlaceAt(Placement& p, QPoint place) {
+  p.ownsPlace = false;
+  p.ownsWidth = p.ownsHeight = true;
+  p.left = place.x(), p.top = place.y(), p.width = p.stands.width(), p.height = p.stands.height();
+}
+
+void Arrange(Placements& all, const QRect& client, const QMargins& insets, const Placements* before) {
   std::vector<std::pair<int, std::size_t>> row;
   for (Placement& p : all)
-    if (p.align == TAlign::alNone) PlaceAnchored(p, room.size());
-  int left = room.left(), top = room.top(), right = left + room.width(), bottom = top + room.height();
+    if (p.align == TAlign::alNone) PlaceAnchored(p, client.size());
+  int left = client.left() + insets.left(), top = client.top() + insets.top();
+  int right = client.left() + client.width() - insets.right();
+  int bottom = client.top() + client.height() - insets.bottom();
   for (const TAlign pass :
        {TAlign::alTop, TAlign::alBottom, TAlign::alLeft, TAlign::alRight, TAlign::alClient}) {
     row.clear();

@@ -6,6 +6,7 @@
 // an edit moves a control by what the layout after it differs from the layout before it, both computed here.
 // Where a control stands exactly as computed, that is the ordinary layout.
 #pragma once
+#include <QMargins>
 #include <QRect>
 #include <vector>
 
@@ -30,6 +31,7 @@ struct Placement {
   TAlign align = TAlign::alNone;
   TAnchors anchors = DefaultAnchors;
   bool takesPart = true;  // what is not shown has no strip
+  QMargins margins;       // kept free around what is aligned
   int left = 0, top = 0, width = 0, height = 0;
   // Whether the edge of the container decides the value; else the control's own stays, moved by what its
   // anchors say.
@@ -38,9 +40,13 @@ struct Placement {
 };
 using Placements = std::vector<Placement>;  // back to front
 
-// Computes what the layout wants in a container with that room. `before`: the placements before a change,
-// which decide the order of what only changed its size.
-void Arrange(Placements& all, const QRect& room, const Placements* before = nullptr);
+// Computes what the layout wants in a container with that client area, of which what is aligned leaves the
+// insets free. `before`: the placements before a change, which decide the order of what only changed its
+// size.
+void Arrange(Placements& all, const QRect& client, const QMargins& insets = {},
+             const Placements* before = nullptr);
+// A control that its container stands at a place of its own choice, with the size it has.
+void PlaceAt(Placement& p, QPoint place);
 // The bounds of each of `after` when a change has led there from `before`.
 std::vector<QRect> BoundsAfter(const Placements& before, const Placements& after, const QRect& room);
 

@@ -1,8 +1,10 @@
 #include "vcl/Painters.h"
 
 #include <QApplication>
+#include <QSlider>
 #include <QStyle>
 #include <QStyleOption>
+#include <QTabBar>
 
 #include "vcl/Canvas.h"
 #include "vcl/FormColors.h"
@@ -114,15 +116,48 @@ void PaintRadioMark(TCanvas& canvas, const QRect& rect, TPartStates states, bool
             checked ? QStyle::State_On : QStyle::State_Off);
 }
 
-void PaintDropButton(TCanvas& canvas, const QRect& rect, TPartStates states) {
+void PaintArrowButton(TCanvas& canvas, const QRect& rect, TPartStates states, Qt::ArrowType arrow) {
+  static constexpr QStyle::PrimitiveElement arrows[] = {
+      QStyle::PE_IndicatorArrowUp, QStyle::PE_IndicatorArrowUp, QStyle::PE_IndicatorArrowDown,
+      QStyle::PE_IndicatorArrowLeft, QStyle::PE_IndicatorArrowRight};
   PaintButton(canvas, rect, states, {}, nullptr);
   Inside p(canvas, rect);
-  const QSize arrow = QSize(10, 10).boundedTo(rect.size() - QSize(4, 4));
-  if (arrow.isEmpty()) return;
+  constexpr int largest = 10;
+  const int side = std::min({largest, rect.width() - 4, rect.height() - 1});
+  if (side <= 0) return;
   auto option = OptionFor<QStyleOption>(rect, states);
-  option.rect = QRect(QPoint(0, 0), arrow);
+  option.rect = QRect(0, 0, side, side);
   option.rect.moveCenter(Local(rect).center());
-  Style().drawPrimitive(QStyle::PE_IndicatorArrowDown, &option, p);
+  Style().drawPrimitive(arrows[arrow], &option, p);
+}
+
+void PaintDropButton(TCanvas& canvas, const QRect& rect, TPartStates states) {
+  PaintArrowButton(canvas, rect, states, Qt::DownArrow);
+}
+
+void PaintSpinButtons(TCanvas& canvas, const QRect& rect, TPartStates states, Qt::Orientation orientation) {
+  const bool upright = orientation == Qt::Vertical;
+  QRect up = rect, down = rect;
+  if (upright) {
+    up.setHeight(rect.height() / 2);
+    down.setTop(up.top() + up.height());
+  } else {
+    down.setWidth(rect.width() / 2);
+    up.setLeft(down.left() + down.width());
+  }
+  PaintArrowButton(canvas, up, states, upright ? Qt::UpArrow : Qt::RightArrow);
+  PaintArrowButton(canvas, down, states, upright ? Qt::DownArrow : Qt::LeftArrow);
+}
+
+void PaintSizeGrip(TCanvas& canvas, const QRect& rect) {
+  Inside p(canvas, rect);
+  auto option = OptionFor<QStyleOptionSizeGrip>(rect, {});
+  option.corner = Qt::BottomRightCorner;
+  const QColor dots = option.palette.color(QPalette::Dark);
+  for (int row = 0; row < 3; ++row)
+    for (int i = 0; i <= row; ++i)
+      canvas.Painter().fillRect(
+          QRect(option.rect.right() - 2 - i * 4, option.rect.bottom() - 10 + row * 4, 2, 2), dots);
 }
 
 void PaintHeaderCell(TCanvas& canvas, const QRect& rect, TPartStates states, const QString& text,
@@ -139,16 +174,109 @@ void PaintHeaderCell(TCanvas& canvas, const QRect& rect, TPartStates states, con
   Style().drawControl(QStyle::CE_Header, &option, p);
 }
 
-void PaintTab(TCanvas& canvas, const QRect& rect, TPartStates states, const QString& text,
-              const TFont& font) {
+void PaintTab(TCanvas& canvas, const QRect& rect, TPartStates states, const QString& text, const TFont& font,
+              Qt::Edge edge, const QImage& image) {
   Inside p(canvas, rect);
   auto option = OptionFor<QStyleOptionTab>(rect, states);
   if (states.Contains(Down)) option.state |= QStyle::State_Selected;
+  const int overlap = Style().pixelMetric(QStyle::PM_TabBarBaseOverlap);
   option.shape = QTabBar::RoundedNorth;
-  option.rect.setHeight(rect.height() - Style().pixelMetric(QStyle::PM_TabBarBaseOverlap));
   option.position = QStyleOptionTab::OnlyOneTab;  // others reach over to the next
-  SetText(option, canvas, text, font, states);
-  Style().drawControl(QStyle::CE_TabBarTab, &option, p);
+  QPainter& painter = canvas.Painter();
+  if (edge == Qt::LeftEdge || edge == Qt::RightEdge) option.rect = option.rect.transposed();
+  if (edge == Qt::LeftEdge) painter.setTransform(QTransform(0, -1, 1, 0, 0, rect.height()), true);
+  if (edge == Qt::RightEdge) painter.setTransform(QTransform(0, 1, -1, 0, rect.width(), 0), true);
+  const QRect face = option.rect.adjusted(2, 0, -2, 0);
+  option.rect.setHeight(option.rect.height() - overlap);
+  // The tab of the upper edge, turned or mirrored; what stands on it is not mirrored.
+  painter.save();
+  if (edge == Qt::BottomEdge) painter.setTransform(QTransform(1, 0, 0, -1, 0, rect.height()), true);
+  Style().drawControl(QStyle::CE_TabBarTabShape, &option, p);
+  painter.restore();
+  const QSize size = image.isNull() ? QSize(0, 0) : image.size() / image.devicePixelRatio();
+  constexpr int gap = 4;
+  const int length = TextExtent(text, font).width() + (image.isNull() ? 0 : size.width() + gap);
+  QRect label(face.left() + std::max((face.width() - length) / 2, 0), face.top(), length, face.height());
+  label = label.intersected(face);
+  if (!image.isNull()) {
+    painter.drawImage(QRect(QPoint(label.left(), face.top() + (face.height() - size.height()) / 2), size),
+                      image);
+    label.setLeft(label.left() + size.width() + gap);
+  }
+  if (label.isValid())
+    canvas.TextRect(label, Qt::AlignLeft | Qt::AlignVCenter, text, font, !states.Contains(Disabled));
+}
+
+void PaintTabPane(TCanvas& canvas, const QRect& rect, TPartStates states) {
+  Inside p(canvas, rect);
+  const auto option = OptionFor<QStyleOption>(rect, states);
+  QPainter& painter = canvas.Painter();
+  painter.fillRect(option.rect, option.palette.window());
+  painter.setPen(option.palette.color(QPalette::Mid));
+  painter.setBrush(Qt::NoBrush);
+  if (rect.width() > 1 && rect.height() > 1) painter.drawRect(option.rect.adjusted(0, 0, -1, -1));
+}
+
+void PaintProgress(TCanvas& canvas, const QRect& rect, TPartStates states, const TScrollRange& range,
+                   Qt::Orientation orientation, const QString& text) {
+  Inside p(canvas, rect);
+  auto option = OptionFor<QStyleOptionProgressBar>(rect, states);
+  if (orientation == Qt::Horizontal) option.state |= QStyle::State_Horizontal;
+  option.bottomToTop = true;
+  option.minimum = range.Min;
+  option.maximum = std::max(range.Max, range.Min + 1);
+  option.progress = std::clamp(range.Position, option.minimum, option.maximum);
+  option.text = text;
+  option.textVisible = !text.isEmpty();
+  option.textAlignment = Qt::AlignCenter;
+  constexpr int least = 6;
+  if (std::min(rect.width(), rect.height()) < least)
+    return canvas.Painter().fillRect(option.rect, option.palette.button());
+  Style().drawControl(QStyle::CE_ProgressBar, &option, p);
+}
+
+void PaintSlider(TCanvas& canvas, const QRect& rect, TPartStates states, const TScrollRange& range,
+                 Qt::Orientation orientation, const TTicks& ticks) {
+  Inside p(canvas, rect);
+  auto option = OptionFor<QStyleOptionSlider>(rect, states);
+  option.orientation = orientation;
+  if (orientation == Qt::Horizontal) option.state |= QStyle::State_Horizontal;
+  option.minimum = range.Min;
+  option.maximum = std::max(range.Max, range.Min);
+  option.sliderPosition = option.sliderValue = std::clamp(range.Position, option.minimum, option.maximum);
+  option.pageStep = range.Page;
+  // More ticks than pixels are no ticks.
+  const std::int64_t length = std::int64_t{option.maximum} - option.minimum;
+  const int room = std::max(1, (orientation == Qt::Horizontal ? rect.width() : rect.height()) / 3);
+  const std::int64_t apart = std::max<std::int64_t>({ticks.Frequency, length / room, 1});
+  option.tickInterval = static_cast<int>(std::min<std::int64_t>(apart, INT32_MAX / 4));
+  option.tickPosition = ticks.Near && ticks.Far ? QSlider::TicksBothSides
+                        : ticks.Near            ? QSlider::TicksAbove
+                        : ticks.Far             ? QSlider::TicksBelow
+                                                : QSlider::NoTicks;
+  option.subControls = QStyle::SC_SliderGroove | QStyle::SC_SliderHandle;
+  if (states.Contains(Down)) option.state |= QStyle::State_Sunken;
+  if (states.Contains(Down) || states.Contains(Hot)) option.activeSubControls = QStyle::SC_SliderHandle;
+  constexpr int least = 6;
+  if (std::min(rect.width(), rect.height()) < least)
+    return canvas.Painter().fillRect(option.rect, option.palette.mid());
+  if (states.Contains(Disabled)) canvas.Painter().setOpacity(0.5);  // not every style shows it
+  Style().drawComplexControl(QStyle::CC_Slider, &option, p);
+  if (option.tickPosition == QSlider::NoTicks || length <= 0) return;
+  // Styles take their colour from elsewhere.
+  const bool across = orientation == Qt::Horizontal;
+  const int handle = Style().pixelMetric(QStyle::PM_SliderLength, &option);
+  const int extent = across ? rect.width() : rect.height(), side = across ? rect.height() : rect.width();
+  const QColor ink = option.palette.color(QPalette::Dark);
+  constexpr int tick = 4;
+  for (std::int64_t v = 0; v <= length; v += option.tickInterval) {
+    const int at = handle / 2 + static_cast<int>(v * std::max(extent - handle, 0) / length);
+    const auto draw = [&](int from) {
+      canvas.Painter().fillRect(across ? QRect(at, from, 1, tick) : QRect(from, at, tick, 1), ink);
+    };
+    if (ticks.Near) draw(0);
+    if (ticks.Far) draw(side - tick);
+  }
 }
 
 void PaintScrollBar(TCanvas& canvas, const QRect& rect, TPartStates states, const TScrollRange& range,

@@ -1,28 +1,38 @@
-// A surface that groups other controls.
+// Surfaces that group other controls.
 #pragma once
-#include "vcl/Control.h"
+#include "vcl/Edit.h"
 
-class TPanel : public TWinControl {
-  VRX_CLASS(TPanel)
+enum class TVerticalAlignment : std::uint8_t { taAlignTop, taAlignBottom, taVerticalCenter };
+VRX_ENUM(TVerticalAlignment, {"taAlignTop", "taAlignBottom", "taVerticalCenter"})
+
+class TCustomPanel : public TWinControl {
+  VRX_CLASS(TCustomPanel)
  public:
-  explicit TPanel(TComponent* owner);
-
-  TAlignment Alignment() const { return alignment_; }
-  void SetAlignment(TAlignment v) { Change(alignment_, v); }
-  TBevelCut BevelInner() const { return bevelInner_; }
-  void SetBevelInner(TBevelCut v) { Change(bevelInner_, v); }
-  TBevelCut BevelOuter() const { return bevelOuter_; }
-  void SetBevelOuter(TBevelCut v) { Change(bevelOuter_, v); }
-  int BevelWidth() const { return bevelWidth_; }
-  void SetBevelWidth(int v) { Change(bevelWidth_, v); }
-  int BorderWidth() const { return borderWidth_; }
-  void SetBorderWidth(int v) { Change(borderWidth_, v); }
+  explicit TCustomPanel(TComponent* owner);
+  static constexpr TKept<TAlignment> Alignment{"Alignment", TAlignment::taCenter};
+  static constexpr TKept<TBevelCut> BevelInner{"BevelInner", TBevelCut::bvNone};
+  static constexpr TKept<TBevelCut> BevelOuter{"BevelOuter", TBevelCut::bvRaised};
+  static constexpr TKept<TBorderStyle> BorderStyle{"BorderStyle", TBorderStyle::bsNone};
+  static constexpr TKept<int> BorderWidth{"BorderWidth", 0};
+  static constexpr TKept<bool> ShowCaption{"ShowCaption", true};
+  static constexpr TKept<TVerticalAlignment> VerticalAlignment{"VerticalAlignment",
+                                                               TVerticalAlignment::taVerticalCenter};
 
   bool AcceptsControls() const override { return true; }
+  // Without what lies outside of the surface: a border, and edges of a kind.
+  QRect ClientRect() const override;
+  QMargins Insets() const override;
   void Paint(TCanvas& canvas) override;
 
+ protected:
+  QSize AutoSizeHint() const override { return ContentExtent(); }
+
  private:
-  TAlignment alignment_ = TAlignment::taCenter;
-  TBevelCut bevelInner_ = TBevelCut::bvNone, bevelOuter_ = TBevelCut::bvRaised;
-  int bevelWidth_ = 1, borderWidth_ = 0;
+  QMargins Frame() const;
+};
+
+class TPanel : public TCustomPanel {
+  VRX_CLASS(TPanel)
+ public:
+  using TCustomPanel::TCustomPanel;
 };

@@ -28,4 +28,5 @@ inline constexpr const char* Bevels[] = {"BevelEdges", "BevelInner", "BevelKind"
 inline constexpr const char* Input[] = {"ImeMode", "ImeName"};
 inline constexpr const char* Docking[] = {"DockSite",   "UseDockManager", "OnDockDrop",
                                           "OnDockOver", "OnGetSiteInfo",  "OnUnDock"};
+inline constexpr const char* ResizeEvents[] = {"OnCanResize", "OnConstrainedResize", "OnResize"};
 inline constexpr const char* Container[] = {"Padding", "ParentBackground"};

@@ -4,6 +4,8 @@
 #include "vcl/Control.h"
 #include "vcl/SideLayout.h"
 
+#include "vcl/Placed.h"
+
 const TClass& TWinControl::StaticClass() {
   static const TTypeInfo tabOrder = OrdinalType("TTabOrder", -1, INT16_MAX);
   static const TClass cls(
@@ -56,18 +58,35 @@ void TWinControl::TellClientHeight(int v) {
   clientExtra_[1] = v - Height();
 }
 
+namespace {
+// The room for what is aligned in a container.
+struct Surroundings {
+  QMargins insets;
+  QRect client;
+  QSize outer;
+  Placements placed;  // of a container that places its controls
+};
+// What they were before the change that is going on.
+QHash<const TWinControl*, Surroundings>& SurroundingsBefore() {
+  static QHash<const TWinControl*, Surroundings> all;
+  return all;
+}
+}  // namespace
+
 TWinControl::~TWinControl() {
+  SurroundingsBefore().remove(this);
   // Children that somebody else owns stay alive, without a parent.
   for (TControl* c : std::exchange(controls_, {})) c->parent_ = nullptr;
 }
 
 void TWinControl::InsertControl(TControl* control) {
   {
-    const LayoutChange among(control->Align() != TAlign::alNone ? this : nullptr);
+    const LayoutChange among(LaysOut(*control) ? this : nullptr);
     controls_.push_back(control);
     control->parent_ = this;
   }
   control->ParentLookChanged();
+  ControlsListed();
   control->Invalidate();
   if (IControlHost* host = FindHost()) host->ControlPlaced(*control);
 }
@@ -75,10 +94,13 @@ void TWinControl::InsertControl(TControl* control) {
 void TWinControl::RemoveControl(TControl* control) {
   const auto it = std::find(controls_.rbegin(), controls_.rend(), control);
   if (it == controls_.rend()) return;
-  const LayoutChange among(control->Align() != TAlign::alNone ? this : nullptr);
-  control->Invalidate();
-  controls_.erase(std::next(it).base());
-  control->parent_ = nullptr;
+  {
+    const LayoutChange among(LaysOut(*control) ? this : nullptr);
+    control->Invalidate();
+    controls_.erase(std::next(it).base());
+    control->parent_ = nullptr;
+  }
+  ControlsListed();
 }
 
 int TWinControl::ControlIndex(const TControl* control) const {
@@ -89,9 +111,12 @@ int TWinControl::ControlIndex(const TControl* control) const {
 void TWinControl::SetControlIndex(TControl* control, int index) {
   const int from = ControlIndex(control);
   if (from < 0 || index < 0 || index >= static_cast<int>(controls_.size()) || from == index) return;
-  const LayoutChange among(control->Align() != TAlign::alNone ? this : nullptr);
-  controls_.erase(controls_.begin() + from);
-  controls_.insert(controls_.begin() + index, control);
+  {
+    const LayoutChange among(LaysOut(*control) ? this : nullptr);
+    controls_.erase(controls_.begin() + from);
+    controls_.insert(controls_.begin() + index, control);
+  }
+  ControlsListed();
   Invalidate();
   if (IControlHost* host = FindHost()) host->ControlPlaced(*control);
 }
@@ -108,7 +133,7 @@ void TWinControl::LookChanged() {
 }
 
 void TWinControl::SetBounds(int left, int top, int width, int height) {
-  const LayoutChange inside(QSize(width, height) == BoundsRect().size() ? nullptr : this);
+  const LayoutChange inside(QSize(width, height) == BoundsRect().size() ? nullptr : this, true);
   TControl::SetBounds(left, top, width, height);
 }
 
@@ -172,39 +197,140 @@ bool FollowsNothing(const TControl* c) {
   const bool aligned = c->Align() != TAlign::alNone && c->Align() != TAlign::alCustom && TakesPart(*c);
   return !aligned && c->Anchors() == DefaultAnchors;
 }
-}  // namespace
-
-LayoutChange::LayoutChange(TWinControl* container) {
-  if (!container || container->layoutChanging_ || container->IsLoading() || container->IsDestroying() ||
-      container->IsLayoutFrozen())
-    return;
-  container_ = container;
-  container_->layoutChanging_ = true;
-  exceptions_ = std::uncaught_exceptions();
-  before_ = Arranged(nullptr);
-}
-
-LayoutChange::~LayoutChange() {
-  if (!container_) return;
-  if (std::uncaught_exceptions() == exceptions_ && !container_->IsDestroying()) {
-    const Placements after = Arranged(&before_);
-    const std::vector<QRect> bounds = BoundsAfter(before_, after, container_->ClientRect());
-    for (std::size_t i = 0; i < after.size(); ++i) after[i].control->Follow(bounds[i]);
-  }
-  container_->layoutChanging_ = false;
-}
-
-Placements LayoutChange::Arranged(const Placements* before) const {
+Placements Placed(const TWinControl& container, const QRect& client, const QMargins& insets,
+                  const Placements* before) {
   Placements all;
-  const auto& controls = container_->Controls();
-  if (std::all_of(controls.begin(), controls.end(), FollowsNothing)) return all;
+  const auto& controls = container.Controls();
+  if (!container.PlacesControls() && std::all_of(controls.begin(), controls.end(), FollowsNothing))
+    return all;
   all.reserve(controls.size());
   for (TControl* c : controls)
     all.push_back({.control = c,
                    .stands = c->BoundsRect(),
                    .align = c->Align(),
                    .anchors = c->Anchors(),
-                   .takesPart = TakesPart(*c)});
-  Arrange(all, container_->ClientRect(), before);
+                   .takesPart = TakesPart(*c),
+                   .margins = c->OwnMargins()});
+  // Places are counted from the corner of the client area.
+  container.ArrangeControls(all, {QPoint(0, 0), client.size()}, insets, before);
   return all;
+}
+}  // namespace
+
+Placements Placed(const TWinControl& container, const Placements* before) {
+  if (container.Controls().empty()) return {};
+  return Placed(container, container.ClientRect(), container.Insets(), before);
+}
+
+namespace {
+Surroundings SurroundingsOf(const TWinControl& container) {
+  return {container.Insets(), container.ClientRect(), container.BoundsRect().size(),
+          container.PlacesControls() ? Placed(container, nullptr) : Placements()};
+}
+}  // namespace
+
+bool TWinControl::LaysOut(const TControl& control) const {
+  return control.Align() != TAlign::alNone || PlacesControls() || AutoSize();
+}
+
+QMargins TWinControl::Insets() const { return IsKept(&Padding) ? Get(Padding)->ToQMargins() : QMargins(); }
+
+void TWinControl::ArrangeControls(Placements& all, const QRect& client, const QMargins& insets,
+                                  const Placements* before) const {
+  Arrange(all, client, insets, before);
+}
+
+void TWinControl::MarginsChanged(const TControl& control, const QMargins& before) {
+  Placements was = Placed(*this, nullptr);
+  for (Placement& p : was)
+    if (p.control == &control) p.margins = before;
+  ArrangeControls(was, {QPoint(0, 0), ClientRect().size()}, Insets(), nullptr);
+  const LayoutChange change(this, std::move(was));
+}
+
+QSize TWinControl::ContentExtent() const {
+  const QRect client = ClientRect();
+  const QMargins insets = Insets();
+  int right = -1, bottom = -1;
+  for (const TControl* c : controls_) {
+    if (!TakesPart(*c)) continue;
+    const TAlign align = c->Align();
+    const QMargins m = c->OwnMargins();
+    const bool across = align == TAlign::alNone || align == TAlign::alLeft || align == TAlign::alCustom;
+    const bool down = align == TAlign::alNone || align == TAlign::alTop || align == TAlign::alCustom;
+    // What follows an edge says nothing of where the edge should be.
+    if (across && !c->Anchors().Contains(TAnchorKind::akRight))
+      right = std::max(right, c->Left() + c->Width() + m.right());
+    if (down && !c->Anchors().Contains(TAnchorKind::akBottom))
+      bottom = std::max(bottom, c->Top() + c->Height() + m.bottom());
+  }
+  return {right < 0 ? Width() : Width() - client.width() + right + insets.right(),
+          bottom < 0 ? Height() : Height() - client.height() + bottom + insets.bottom()};
+}
+
+void TWinControl::DoChanging() {
+  if (!controls_.empty() && !IsLoading() && !IsDestroying() && !layoutChanging_ && !IsLayoutFrozen() &&
+      !SurroundingsBefore().contains(this))
+    SurroundingsBefore().insert(this, SurroundingsOf(*this));
+  TControl::DoChanging();
+}
+
+void TWinControl::DoChanged() {
+  if (const auto found = SurroundingsBefore().constFind(this); found != SurroundingsBefore().cend()) {
+    const Surroundings before = *found;
+    SurroundingsBefore().erase(found);
+    // Another size has been the matter of SetBounds.
+    const QRect client = before.outer == BoundsRect().size() ? before.client : ClientRect();
+    if (PlacesControls())
+      const LayoutChange change(this, before.placed);
+    else if (client.size() != ClientRect().size() || before.insets != Insets())
+      const LayoutChange change(this, Placed(*this, client, before.insets, nullptr));
+  }
+  TControl::DoChanged();
+}
+
+void LayoutChange::Begin(TWinControl* container, bool resizes) {
+  if (!container || container->layoutChanging_ || container->IsLoading() || container->IsDestroying() ||
+      container->IsLayoutFrozen())
+    return;
+  container_ = container;
+  container_->layoutChanging_ = true;
+  exceptions_ = std::uncaught_exceptions();
+  fits_ = !resizes && container_->AutoSize();
+  if (fits_) hint_ = container_->AutoSizeHint();
+}
+
+LayoutChange::LayoutChange(TWinControl* container, bool resizes) {
+  Begin(container, resizes);
+  if (container_) before_ = Placed(*container_, nullptr);
+}
+
+LayoutChange::LayoutChange(TWinControl* container, Placements before) : before_(std::move(before)) {
+  Begin(container, false);
+}
+
+LayoutChange::~LayoutChange() {
+  if (!container_) return;
+  const bool done = std::uncaught_exceptions() == exceptions_ && !container_->IsDestroying();
+  if (done) {
+    const Placements after = Placed(*container_, &before_);
+    if (!after.empty()) {
+      const QRect room(QPoint(0, 0), container_->ClientRect().size());
+      const std::vector<QRect> bounds =
+          BoundsAfter(before_, after, room.marginsRemoved(container_->Insets()));
+      for (std::size_t i = 0; i < after.size(); ++i) after[i].control->Follow(bounds[i]);
+    }
+  }
+  container_->layoutChanging_ = false;
+  if (done && fits_) FitContainer();
+}
+
+// A container that sizes itself grows with what stands in it.
+void LayoutChange::FitContainer() {
+  const QSize after = container_->AutoSizeHint();
+  if (after == hint_) return;
+  const QRect stands = container_->BoundsRect();
+  container_->Follow({stands.left(), stands.top(),
+                      MovedByDifference(stands.width(), hint_.width(), after.width(), true),
+                      MovedByDifference(stands.height(), hint_.height(), after.height(), true)});
 }

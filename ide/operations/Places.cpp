@@ -4,7 +4,6 @@
 
 #include "ide/BoundsCheck.h"
 #include "ide/Tiles.h"
-#include "ide/Unknown.h"
 #include "rtl/Exceptions.h"
 
 QString OperationText(const char* text, int n) {
@@ -13,8 +12,8 @@ QString OperationText(const char* text, int n) {
 
 bool HasPlace(const FormSession& session, const TComponent& c) {
   if (&c == session.GetRoot()) return false;
-  if (const auto* stand = dynamic_cast<const TUnknownControl*>(&c)) return stand->StandIn().hasPlace;
-  return As<TControl>(&c) || HasTile(session, c);
+  const auto* control = As<TControl>(&c);
+  return control ? control->HasOwnPlace() : HasTile(session, c);
 }
 
 QRect PlaceOf(const TComponent& c) {
@@ -44,6 +43,8 @@ QRect FormPlaceOf(const TComponent& c) {
 namespace {
 QString WhyNotThere(const TComponent& c) {
   const auto* control = As<TControl>(&c);
+  if (control && DecidesBounds(*control) && control->Align() == TAlign::alNone)
+    return WhatDecidesBounds(*control);
   if (control && control->Align() != TAlign::alNone)
     return WhatDecidesBounds(*control) + u' ' + OperationText("Change Align first.");
   return OperationText("%1 does not take that place: it follows from something else.").arg(c.Name());

@@ -84,6 +84,13 @@ QByteArray ValueText(TComponent& subject, const QByteArray& path) {
 }
 
 bool IsReadOnly(TComponent& subject, const QByteArray& path) {
+  static const QHash<TAlign, QByteArrayList> decided{{TAlign::alTop, {"Left", "Top", "Width"}},
+                                                     {TAlign::alBottom, {"Left", "Top", "Width"}},
+                                                     {TAlign::alLeft, {"Left", "Top", "Height"}},
+                                                     {TAlign::alRight, {"Left", "Top", "Height"}},
+                                                     {TAlign::alClient, {"Left", "Top", "Width", "Height"}}};
+  if (const auto* control = As<TControl>(&subject); control && decided.value(control->Align()).contains(path))
+    return true;
   const forms::PropertyTarget target = forms::FindTarget(subject, path);
   return target.prop && target.prop->ReadOnly;
 }

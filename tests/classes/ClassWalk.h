@@ -22,6 +22,7 @@ struct Stage {
 QByteArrayList ValuePaths(TPersistent& instance);
 // The value of a path as form text.
 QByteArray ValueText(TComponent& subject, const QByteArray& path);
+// Also a place that an alignment decides.
 bool IsReadOnly(TComponent& subject, const QByteArray& path);
 // Gives the value another one that the property accepts; `turn` chooses among several. False when there is
 // none.

@@ -131,7 +131,7 @@ TEST_F(Inspecting, ADropDownChoiceIsApplied) {
     QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, list->visualItemRect(items[0]).center());
   });
   QTest::mouseClick(Editor().DropButton(), Qt::LeftButton);
-  EXPECT_EQ(dynamic_cast<TPanel&>(Get("Panel1")).BevelOuter(), TBevelCut::bvLowered);
+  EXPECT_EQ(dynamic_cast<TPanel&>(Get("Panel1")).Get(TPanel::BevelOuter), TBevelCut::bvLowered);
   ExpectOneCommand();
 }
 

@@ -1,6 +1,7 @@
 // Mouse and keyboard on the form.
 #include "ide/Unknown.h"
 #include "tests/designer/DesignerTest.h"
+#include "vcl/PageControl.h"
 
 using namespace designer;
 
@@ -332,12 +333,12 @@ TEST_F(DesignerTest, AClickOnTheTabOfAForeignBookShowsItsPage) {
   Caption = 'Main'
   ClientHeight = 300
   ClientWidth = 400
-  object Book: TPageControl
+  object Book: TStrangePageControl
     Left = 8
     Top = 8
     Width = 300
     Height = 200
-    object First: TTabSheet
+    object First: TStrangeTabSheet
       Caption = 'One'
       object InFirst: TButton
         Left = 8
@@ -347,7 +348,7 @@ TEST_F(DesignerTest, AClickOnTheTabOfAForeignBookShowsItsPage) {
         TabOrder = 0
       end
     end
-    object Second: TTabSheet
+    object Second: TStrangeTabSheet
       Caption = 'Two'
       object InSecond: TButton
         Left = 8
@@ -393,6 +394,39 @@ end
   Key(Qt::Key_Right);
   EXPECT_FALSE(Session().CanUndo());
   EXPECT_EQ(Session().Bytes().toStdString(), text.toStdString());
+}
+
+TEST_F(DesignerTest, AClickOnATabMakesItsPageTheActiveOneAsOneCommand) {
+  const QString name = folder_.filePath(QStringLiteral("pages.dfm"));
+  const QByteArray text =
+      "object Main: TMain\n  ClientHeight = 300\n  ClientWidth = 400\n  object Book: TPageControl\n    Left "
+      "= "
+      "8\n    Top = 8\n    Width = 300\n    Height = 200\n    ActivePage = First\n    TabOrder = 0\n    "
+      "object "
+      "First: TTabSheet\n      Caption = 'One'\n    end\n    object Second: TTabSheet\n      Caption = "
+      "'Two'\n  "
+      "    object InSecond: TButton\n        Left = 8\n        Top = 8\n        Width = 80\n        Height = "
+      "24\n      end\n    end\n  end\nend\n";
+  Write(name, text);
+  ASSERT_TRUE(window_->OpenForm(name));
+  const auto& book = dynamic_cast<TPageControl&>(Get("Book"));
+  const QPoint tab = Surface().WidgetRect(book).topLeft() + book.TabRects()[1].center();
+  Click(tab);
+  EXPECT_EQ(Selected(), "Book");
+  EXPECT_EQ(book.FrontPage(), &Get("Second"));
+  EXPECT_EQ(Session().Bytes().toStdString(),
+            QByteArray(text).replace("ActivePage = First", "ActivePage = Second").toStdString());
+  Click(tab);
+  Session().Undo();
+  EXPECT_EQ(Session().Bytes().toStdString(), text.toStdString());
+  EXPECT_FALSE(Session().CanUndo()) << "a click on the tab in front is no command";
+  // Whoever selects something on a page sees it, and no value changes.
+  Select("InSecond");
+  EXPECT_EQ(book.FrontPage(), &Get("Second"));
+  EXPECT_FALSE(Session().CanUndo());
+  Select("Second");
+  Key(Qt::Key_Right);
+  EXPECT_FALSE(Session().CanUndo()) << "a page has no place of its own";
 }
 
 TEST_F(DesignerTest, TilesBeyondTheEdgeOfADataModuleCanBeReached) {

@@ -59,6 +59,19 @@ TEST(PictureBudget, WhatNoClassDecodesDoesNotCount) {
   EXPECT_EQ(FormSession::FromBytes(form + "end\n")->Bytes(), form + "end\n");
 }
 
+TEST(PictureBudget, WhatAStandInShowsCounts) {
+  RegisterRegion();
+  const QByteArray hex = PngOf(8192, 8192, 1).toHex().toUpper();
+  const auto form = [&](int pictures) {
+    QByteArray text = "object Main: TMain\n";
+    for (int i = 0; i < pictures; ++i)
+      text += "  object TStrangeImage\n    Picture.Data = {\n      " + hex + "}\n  end\n";
+    return text + "end\n";
+  };
+  EXPECT_EQ(FormSession::FromBytes(form(1))->Bytes(), form(1));
+  EXPECT_THROW(FormSession::FromBytes(form(6)), Exception);
+}
+
 TEST(PictureBudget, TheFirstPictureTooManyIsNamedWithItsLine) {
   RegisterRegion();
   try {

@@ -25,13 +25,13 @@ QByteArray OnForm(const QByteArray& children) {
   return "object Form1: TForm1\n  Caption = 'Form1'\n  ClientHeight = 300\n  ClientWidth = 400\n" + children +
          "end\n";
 }
-const QByteArray Book = OnForm(R"(  object Book: TPageControl
+const QByteArray Book = OnForm(R"(  object Book: TStrangePageControl
     Left = 8
     Top = 8
     Width = 300
     Height = 200
     ActivePage = Second
-    object First: TTabSheet
+    object First: TStrangeTabSheet
       Caption = 'One'
       object Inner: TButton
         Left = 8
@@ -43,7 +43,7 @@ const QByteArray Book = OnForm(R"(  object Book: TPageControl
         TabOrder = 0
       end
     end
-    object Second: TTabSheet
+    object Second: TStrangeTabSheet
       Caption = 'Two'
     end
   end

@@ -119,6 +119,7 @@ TEST(Align, EveryOrderOfTheFiveGivesTheSamePicture) {
   do {
     ++orders;
     TPanel parent(nullptr);
+    parent.Set(TPanel::BevelOuter, TBevelCut::bvNone);
     parent.SetBounds(0, 0, 200, 100);
     std::map<TAlign, TPanel*> panels;
     for (const TAlign a : order) {
@@ -146,6 +147,7 @@ TEST(Align, EveryOrderOfTheFiveGivesTheSamePicture) {
 
 TEST(Align, WhoIsNearerToTheEdgeStaysNearer) {
   TPanel parent(nullptr);
+  parent.Set(TPanel::BevelOuter, TBevelCut::bvNone);
   parent.SetBounds(0, 0, 200, 200);
   TPanel a(&parent), b(&parent);
   for (TPanel* p : {&a, &b}) {
@@ -182,6 +184,7 @@ TEST(Align, AnInvisibleControlTakesNoRoomUnlessDesigning) {
 
 TEST(Align, FreeingAndMovingAwayGiveTheRoomBack) {
   TPanel parent(nullptr);
+  parent.Set(TPanel::BevelOuter, TBevelCut::bvNone);
   parent.SetBounds(0, 0, 200, 100);
   auto* top = new TPanel(&parent);
   auto* left = new TPanel(&parent);
@@ -203,6 +206,7 @@ TEST_P(AlignCase, MatchesTheModel) {
   std::mt19937 random(static_cast<unsigned>(GetParam()));
   const auto roll = [&](int from, int to) { return std::uniform_int_distribution(from, to)(random); };
   TPanel parent(nullptr);
+  parent.Set(TPanel::BevelOuter, TBevelCut::bvNone);
   Model model;
   model.width = roll(0, 400);
   model.height = roll(0, 300);

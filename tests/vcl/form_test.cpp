@@ -126,7 +126,7 @@ TEST(RenderForm, ChildrenLieInsideTheFrame) {
   form.SetColor(clWhite);
   TPanel panel(&form);
   panel.SetParent(&form);
-  panel.SetBevelOuter(TBevelCut::bvNone);
+  panel.Set(TPanel::BevelOuter, TBevelCut::bvNone);
   panel.SetColor(clRed);
   panel.SetBounds(0, 0, 10, 10);
   const QMargins m = form.FrameMargins();

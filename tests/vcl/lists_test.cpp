@@ -265,7 +265,7 @@ TEST(ColorBox, ShowsTheChosenColor) {
 }
 
 TEST(ColorBox, OffersWhatItsStyleSays) {
-  using enum TColorChoices;
+  using enum TColorBoxStyles;
   const auto offered = OfferedColors({cbStandardColors, cbPrettyNames});
   EXPECT_EQ(offered.size(), 16u);
   EXPECT_EQ(offered.front().text, QStringLiteral("Black"));

@@ -117,7 +117,7 @@ TEST(PaintPanel, BevelsAreLitFromTheTopLeft) {
   TPanel panel(nullptr);
   panel.SetBounds(0, 0, 40, 30);
   panel.SetColor(clRed);
-  panel.SetBevelWidth(3);
+  panel.Set(TPanel::BevelWidth, 3);
   const QColor light = ToQColor(clBtnHighlight), shadow = ToQColor(clBtnShadow);
   ASSERT_NE(light, shadow);
   QImage image = Draw(panel);
@@ -128,18 +128,18 @@ TEST(PaintPanel, BevelsAreLitFromTheTopLeft) {
     EXPECT_EQ(image.pixelColor(20, 29 - i), shadow);
   }
   EXPECT_EQ(CountPixels(image, Qt::red), 34 * 24);
-  panel.SetBevelOuter(TBevelCut::bvLowered);
+  panel.Set(TPanel::BevelOuter, TBevelCut::bvLowered);
   image = Draw(panel);
   EXPECT_EQ(image.pixelColor(0, 15), shadow);
   EXPECT_EQ(image.pixelColor(39, 15), light);
-  panel.SetBorderWidth(4);
-  panel.SetBevelInner(TBevelCut::bvRaised);
+  panel.Set(TPanel::BorderWidth, 4);
+  panel.Set(TPanel::BevelInner, TBevelCut::bvRaised);
   image = Draw(panel);
   EXPECT_EQ(image.pixelColor(4, 15), QColor(Qt::red)) << "the border between the bevels";
   EXPECT_EQ(image.pixelColor(7, 15), light);
   EXPECT_EQ(image.pixelColor(32, 15), shadow);
-  panel.SetBevelOuter(TBevelCut::bvNone);
-  panel.SetBevelInner(TBevelCut::bvNone);
+  panel.Set(TPanel::BevelOuter, TBevelCut::bvNone);
+  panel.Set(TPanel::BevelInner, TBevelCut::bvNone);
   EXPECT_EQ(CountPixels(Draw(panel), Qt::red), 40 * 30);
 }
 
@@ -153,7 +153,7 @@ TEST(PaintButton, TheDefaultButtonStandsOut) {
 TEST(PaintChildren, WindowedControlsCoverGraphicOnes) {
   TPanel parent(nullptr);
   parent.SetBounds(0, 0, 40, 40);
-  parent.SetBevelOuter(TBevelCut::bvNone);
+  parent.Set(TPanel::BevelOuter, TBevelCut::bvNone);
   TPanel window(&parent);
   TLabel label(&parent);
   for (TControl* c : {static_cast<TControl*>(&window), static_cast<TControl*>(&label)}) {
@@ -161,7 +161,7 @@ TEST(PaintChildren, WindowedControlsCoverGraphicOnes) {
     c->SetAutoSize(false);
     c->SetBounds(10, 10, 20, 20);
   }
-  window.SetBevelOuter(TBevelCut::bvNone);
+  window.Set(TPanel::BevelOuter, TBevelCut::bvNone);
   window.SetColor(clBlue);
   label.SetTransparent(false);
   label.SetColor(clRed);
@@ -176,11 +176,11 @@ TEST(PaintChildren, WindowedControlsCoverGraphicOnes) {
 TEST(PaintChildren, AreCutAtTheirParent) {
   TPanel parent(nullptr);
   parent.SetBounds(0, 0, 40, 40);
-  parent.SetBevelOuter(TBevelCut::bvNone);
+  parent.Set(TPanel::BevelOuter, TBevelCut::bvNone);
   TPanel inner(&parent), deep(&parent);
   inner.SetParent(&parent);
   deep.SetParent(&inner);
-  for (TPanel* p : {&inner, &deep}) p->SetBevelOuter(TBevelCut::bvNone);
+  for (TPanel* p : {&inner, &deep}) p->Set(TPanel::BevelOuter, TBevelCut::bvNone);
   inner.SetBounds(5, 5, 10, 10);
   deep.SetBounds(5, 5, 100, 100);
   deep.SetColor(clRed);
@@ -202,7 +202,7 @@ TEST(ControlView, RepaintsWhenSomethingInsideChanges) {
   TPanel panel(nullptr);
   TLabel label(nullptr);
   label.SetParent(&panel);
-  panel.SetBevelOuter(TBevelCut::bvNone);
+  panel.Set(TPanel::BevelOuter, TBevelCut::bvNone);
   ControlView view(&panel);
   PaintCounter counter;
   view.installEventFilter(&counter);
@@ -260,7 +260,7 @@ TEST(ControlView, LetsGoOfItsControl) {
 TEST(ControlView, ShowsTheControlInItsSizeAtItsPlace) {
   TPanel panel(nullptr);
   panel.SetBounds(0, 0, 400, 100);
-  panel.SetBevelOuter(TBevelCut::bvNone);
+  panel.Set(TPanel::BevelOuter, TBevelCut::bvNone);
   panel.SetColor(clRed);
   ControlView view(&panel);
   EXPECT_EQ(view.sizeHint(), QSize(400, 100));

@@ -45,6 +45,12 @@ std::vector<Part> Parts() {
        Looks([=](auto& c, auto& r, auto s) { PaintTab(c, r, s, text, Face()); }, {{}, {Down}, {Disabled}})},
       {"group",
        Looks([=](auto& c, auto& r, auto s) { PaintGroupFrame(c, r, s, text, Face()); }, {{}, {Disabled}})},
+      {"pane", Looks([](auto& c, auto& r, auto s) { PaintTabPane(c, r, s); }, {{}})},
+      {"arrow button", Looks([](auto& c, auto& r, auto s) { PaintArrowButton(c, r, s, Qt::LeftArrow); },
+                             {{}, {Down}, {Disabled}})},
+      {"spin buttons",
+       Looks([](auto& c, auto& r, auto s) { PaintSpinButtons(c, r, s); }, {{}, {Down}, {Disabled}})},
+      {"size grip", Looks([](auto& c, auto& r, auto) { PaintSizeGrip(c, r); }, {{}})},
       {"focus", Looks([](auto& c, auto& r, auto) { PaintFocus(c, r); }, {{}})},
   };
   for (const auto state : {TCheckBoxState::cbChecked, TCheckBoxState::cbGrayed})
@@ -61,6 +67,31 @@ std::vector<Part> Parts() {
     PaintScrollBar(c, r, {Down}, {0, 100, 0, 10}, Qt::Horizontal);
   });
   parts.push_back(std::move(bar));
+  for (const Qt::Edge edge : {Qt::LeftEdge, Qt::RightEdge, Qt::BottomEdge})
+    parts[6].looks.push_back([=](TCanvas& c, const QRect& r) { PaintTab(c, r, {}, text, Face(), edge, {}); });
+  parts[4].looks.push_back([](TCanvas& c, const QRect& r) { PaintArrowButton(c, r, {}, Qt::RightArrow); });
+  Part progress{"progress", {}};
+  for (const int position : {0, 30, 60})
+    progress.looks.push_back([=](TCanvas& c, const QRect& r) {
+      PaintProgress(c, r, {}, {0, 100, position, 0}, Qt::Horizontal);
+    });
+  progress.looks.push_back([](TCanvas& c, const QRect& r) {
+    PaintProgress(c, r, {}, {0, 100, 30, 0}, Qt::Vertical, QStringLiteral("30"));
+  });
+  parts.push_back(std::move(progress));
+  Part slider{"slider", {}};
+  for (const TTicks ticks : {TTicks{}, TTicks{true, false, 1}, TTicks{false, true, 40}})
+    for (const int position : {0, 60})
+      slider.looks.push_back([=](TCanvas& c, const QRect& r) {
+        PaintSlider(c, r, {}, {0, 100, position, 0}, Qt::Horizontal, ticks);
+      });
+  slider.looks.push_back([](TCanvas& c, const QRect& r) {
+    PaintSlider(c, r, {}, {0, 100, 0, 0}, Qt::Vertical, {});
+  });
+  slider.looks.push_back([](TCanvas& c, const QRect& r) {
+    PaintSlider(c, r, {Disabled}, {0, 100, 0, 0}, Qt::Horizontal, {});
+  });
+  parts.push_back(std::move(slider));
   return parts;
 }
 

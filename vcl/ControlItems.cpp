@@ -1,0 +1,42 @@
+#include "vcl/ControlItems.h"
+
+#include <algorithm>
+
+const TClass& TControlItem::StaticClass() {
+  static const TClass cls(DescribeClass<TControlItem>("TControlItem", TCollectionItem::StaticClass())
+                              .Published(Control)
+                              .Type(TControl::StaticTypeInfo()));
+  return cls;
+}
+
+QString TControlItem::DisplayName() const {
+  const TControl* control = Get(Control);
+  return control ? control->Name() : TCollectionItem::DisplayName();
+}
+
+void TControlItem::ReferenceChanged(TPersistent*, TPersistent* after) {
+  TPersistent* holder = Collection();
+  while (holder && !As<TComponent>(holder)) holder = holder->GetOwner();
+  if (auto* component = As<TComponent>(after); component && holder)
+    component->FreeNotification(As<TComponent>(holder));
+}
+
+TControlItem* TControlItems::ItemOf(const TControl& control) const {
+  for (int i = 0; i < Count(); ++i)
+    if (auto* item = static_cast<TControlItem*>(Item(i)); item->Get(TControlItem::Control) == &control)
+      return item;
+  return nullptr;
+}
+
+// By address alone: nothing else is left of it.
+void TControlItems::Forget(const TComponent* component) {
+  for (int i = Count(); i-- > 0;)
+    if (static_cast<TControlItem*>(Item(i))->Get(TControlItem::Control) == component) Delete(i);
+}
+
+void TControlItems::Keep(const std::vector<TControl*>& controls) {
+  for (int i = Count(); i-- > 0;)
+    if (std::find(controls.begin(), controls.end(),
+                  static_cast<TControlItem*>(Item(i))->Get(TControlItem::Control)) == controls.end())
+      Delete(i);
+}
