@@ -321,6 +321,10 @@ void TControl::Assign(const TPersistent* source) {
     SetBounds(other->left_, other->top_, other->width_, other->height_);
     exact = before;
   }
+  // What the client area is told to be counts from the size, which is the source's only now.
+  auto* window = As<TWinControl>(this);
+  if (const auto* other = As<TWinControl>(source); window && other)
+    std::copy(std::begin(other->clientExtra_), std::end(other->clientExtra_), window->clientExtra_);
 }
 
 void TControl::ComponentChanging(TComponent& component) {

@@ -98,7 +98,7 @@ void TFlowPanel::ArrangeControls(Placements& all, const QRect& client, const QMa
 }
 
 void TFlowPanel::Notification(TComponent* component, TOperation operation) {
+  // Before its references are dropped: an item that refers to nobody is not found any more.
+  if (operation == TOperation::opRemove && IsKept(&ControlList) && !IsDestroying()) Get(ControlList)->Forget(component);
   TCustomPanel::Notification(component, operation);
-  if (operation != TOperation::opRemove || !IsKept(&ControlList) || IsDestroying()) return;
-  Get(ControlList)->Forget(component);
 }

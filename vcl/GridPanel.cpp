@@ -200,9 +200,9 @@ void TGridPanel::ControlsListed() {
 }
 
 void TGridPanel::Notification(TComponent* component, TOperation operation) {
+  // Before its references are dropped: an item that refers to nobody is not found any more.
+  if (operation == TOperation::opRemove && IsKept(&ControlCollection) && !IsDestroying()) Get(ControlCollection)->Forget(component);
   TCustomPanel::Notification(component, operation);
-  if (operation != TOperation::opRemove || !IsKept(&ControlCollection) || IsDestroying()) return;
-  Get(ControlCollection)->Forget(component);
 }
 
 void TGridPanel::Paint(TCanvas& canvas) {

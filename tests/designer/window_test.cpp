@@ -345,12 +345,17 @@ TEST_F(Window, ThePackageThatGoesLeavesTheOpenFormWhole) {
   Write(name, bytes);
   ASSERT_TRUE(window_->OpenForm(name));
   Select("Gauge1");
-  ASSERT_TRUE(Inspector().ShowProperty(QStringLiteral("Level")));
+  const auto typeOfLevel = [this] {
+    InspectorModel& model = Inspector().Model();
+    const TPropertyEditor* editor = model.EditorAt(model.IndexOfPath(QStringLiteral("Level")));
+    return editor ? editor->GetPropType().Name : QByteArray();
+  };
+  ASSERT_EQ(typeOfLevel(), "Integer");
   packages_.Unload(QStringLiteral("testsample"));
-  EXPECT_FALSE(Inspector().ShowProperty(QStringLiteral("Level")));
+  EXPECT_EQ(typeOfLevel(), "FormText") << "the file still says it";
   EXPECT_EQ(Selected(), "Gauge1");
   packages_.Load(QStringLiteral("testsample"));
-  EXPECT_TRUE(Inspector().ShowProperty(QStringLiteral("Level")));
+  EXPECT_EQ(typeOfLevel(), "Integer");
   EXPECT_EQ(Session().Bytes(), bytes);
 }
 
