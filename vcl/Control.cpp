@@ -320,6 +320,7 @@ void TControl::Assign(const TPersistent* source) {
     const TControl* const before = std::exchange(exact, this);
     SetBounds(other->left_, other->top_, other->width_, other->height_);
     exact = before;
+    SetCursor(other->cursor_);  // some follow the alignment
   }
   // What the client area is told to be counts from the size, which is the source's only now.
   auto* window = As<TWinControl>(this);
