@@ -326,8 +326,8 @@ QStringList ShownButtons(const Reader& read) {
     const char* caption;
   };
   static constexpr Row rows[] = {{"pbHelp", "Help"},     {"pbOK", "OK"},        {"pbClose", "Close"},
-                                 {"pbCancel", "Cancel"}, {"nbFirst", "\u23EE"}, {"nbPrior", "\u25C0"},
-                                 {"nbNext", "\u25B6"},   {"nbLast", "\u23ED"},  {"nbInsert", "+"},
+                                 {"pbCancel", "Cancel"}, {"nbFirst", "|\u25C0"}, {"nbPrior", "\u25C0"},
+                                 {"nbNext", "\u25B6"},   {"nbLast", "\u25B6|"},  {"nbInsert", "+"},
                                  {"nbDelete", "\u2212"}};
   static const QStringList usual{QStringLiteral("pbHelp"), QStringLiteral("pbOK"), QStringLiteral("pbClose"),
                                  QStringLiteral("pbCancel")};
