@@ -54,7 +54,9 @@ const TClass& TChoiceGroup::StaticClass() {
 TChoiceGroup::TChoiceGroup(TComponent* owner) : TCustomGroupBox(owner) { tabStop_ = true; }
 
 void TChoiceGroup::Paint(TCanvas& canvas) {
-  const QRect inside = PaintFrame(canvas).adjusted(6, 0, -2, -2);
+  QRect inside = PaintFrame(canvas).adjusted(6, 0, -2, -2);
+  // Below the frame's line, title or not.
+  inside.setTop(std::max(inside.top(), TextExtent(QStringLiteral("Wg"), *Font()).height()));
   const QStringList& items = Get(Items)->Lines();
   const int count = static_cast<int>(items.size());
   if (count == 0) return;
