@@ -19,8 +19,8 @@ class ActionListWindow : public ComponentWindow {
   void SelectionChanged(IDesigner* designer, const TDesignerSelections& list) override;
   void ItemDeleted(IDesigner* designer, TPersistent* item) override;
 
-  QListWidget *categories, *actions;
-  QToolButton *add, *remove, *up, *down;
+  QListWidget *categories = nullptr, *actions = nullptr;
+  QToolButton *add = nullptr, *remove = nullptr, *up = nullptr, *down = nullptr;
 
  protected:
   void Load() override;

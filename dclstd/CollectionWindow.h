@@ -24,8 +24,8 @@ class CollectionWindow : public ComponentWindow {
   TEditStates GetEditState() const override;
   void EditAction(TEditAction action) override;
 
-  QListWidget* items;
-  QToolButton *add, *remove, *up, *down;
+  QListWidget* items = nullptr;
+  QToolButton *add = nullptr, *remove = nullptr, *up = nullptr, *down = nullptr;
 
  protected:
   void Load() override;

@@ -7,7 +7,7 @@
 enum class TColorChoice : std::uint8_t { csDefaultColors, csSystemColors, csCustomColors, csAnyColor };
 using TColorChoices = TSet<TColorChoice>;
 constexpr TColorChoices AllColors{TColorChoice::csDefaultColors, TColorChoice::csSystemColors,
-                                    TColorChoice::csCustomColors, TColorChoice::csAnyColor};
+                                  TColorChoice::csCustomColors, TColorChoice::csAnyColor};
 
 class QToolButton;
 

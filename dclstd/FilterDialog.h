@@ -15,8 +15,8 @@ class FilterDialog : public RowDialog {
   QString Filter() const;
   bool Changed() const { return changed_; }
 
-  QTableWidget* table;
-  QPushButton *remove, *up, *down, *ok, *cancel;
+  QTableWidget* table = nullptr;
+  QPushButton *remove = nullptr, *up = nullptr, *down = nullptr, *ok = nullptr, *cancel = nullptr;
 
  protected:
   bool eventFilter(QObject* watched, QEvent* event) override;

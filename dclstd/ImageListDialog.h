@@ -23,11 +23,12 @@ class ImageListDialog : public RowDialog {
   // Throws EInvalidPicture and adds nothing when one of the files is no picture.
   void AddFiles(const QStringList& files);
 
-  QListWidget* strip;
-  QLabel* facts;
-  SpinEdit *width, *height;
+  QListWidget* strip = nullptr;
+  QLabel* facts = nullptr;
+  SpinEdit *width = nullptr, *height = nullptr;
   ColorComboBox* transparent;
-  QPushButton *add, *replace, *remove, *clear, *back, *on, *exportAll, *ok, *cancel;
+  QPushButton *add = nullptr, *replace = nullptr, *remove = nullptr, *clear = nullptr, *back = nullptr,
+              *on = nullptr, *exportAll = nullptr, *ok = nullptr, *cancel = nullptr;
 
  protected:
   void LoadControls() override;

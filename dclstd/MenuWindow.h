@@ -30,9 +30,9 @@ class MenuWindow : public ComponentWindow {
   void SelectionChanged(IDesigner* designer, const TDesignerSelections& list) override;
   void ItemDeleted(IDesigner* designer, TPersistent* item) override;
 
-  MenuCanvas* canvas;
-  QLineEdit* caption;  // over the place that is typed into
-  QToolButton *insert, *remove, *submenu, *up, *down;
+  MenuCanvas* canvas = nullptr;
+  QLineEdit* caption = nullptr;  // over the place that is typed into
+  QToolButton *insert = nullptr, *remove = nullptr, *submenu = nullptr, *up = nullptr, *down = nullptr;
 
  protected:
   void Load() override;
