@@ -101,7 +101,7 @@ struct Member final : TAccess<Wire<T>> {
 template <class T, class K = TKeeper>
 struct KeptAccess : TAccess<Wire<T>> {
   explicit KeptAccess(const TKept<T>& property) : kept(property) {}
-  Wire<T> Get(const TPersistent& p) const override { return ToWire<T>(static_cast<const K&>(p).Get(kept)); }
+  Wire<T> Get(const TPersistent& p) const override { return static_cast<const K&>(p).GetWire(kept); }
   void Set(TPersistent& p, typename TAccess<Wire<T>>::Arg v) const override {
     if constexpr (std::same_as<Wire<T>, TPart>)
       static_cast<K&>(p).Get(kept)->Assign(v.Object);

@@ -21,6 +21,12 @@ class TKeeper : public TPersistent {
 
   template <class T>
   T Get(const TKept<T>& property) const {
+    return rtl_detail::FromWire<T>(GetWire(property));
+  }
+  // The value as it travels. A reference is told as it is kept, whatever is left of what it leads to: a
+  // component that is being freed is no longer of its class.
+  template <class T>
+  rtl_detail::Wire<T> GetWire(const TKept<T>& property) const {
     using namespace rtl_detail;
     const TPropValue* value = Find(&property);
     if constexpr (std::same_as<Wire<T>, TPart>) {
@@ -28,9 +34,9 @@ class TKeeper : public TPersistent {
         value = &const_cast<TKeeper*>(this)->Insert(
             &property, TPart{new std::remove_pointer_t<T>(const_cast<TKeeper*>(this))});
     }
-    if (value) return FromWire<T>(std::get<Wire<T>>(*value));
+    if (value) return std::get<Wire<T>>(*value);
     if constexpr (requires { property.Default; })
-      return property.Default;
+      return ToWire<T>(property.Default);
     else
       return {};
   }
@@ -38,13 +44,14 @@ class TKeeper : public TPersistent {
   void Set(const TKept<T>& property, const std::type_identity_t<T>& value) {
     using namespace rtl_detail;
     static_assert(!std::same_as<Wire<T>, TPart>, "parts are changed in themselves");
-    if (Get(property) == value) return;
+    Wire<T> wire = ToWire<T>(value);
+    if (GetWire(property) == wire) return;
     bool nothing = false;
     if constexpr (requires { property.Default; })
       nothing = value == property.Default;
     else
       nothing = value == T{};
-    Keep(&property, ToWire<T>(value), nothing);
+    Keep(&property, std::move(wire), nothing);
   }
   // Whether anything but the default is kept, or the part has been made.
   bool IsKept(const void* property) const { return Find(property) != nullptr; }
