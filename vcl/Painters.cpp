@@ -9,6 +9,7 @@
 #include "vcl/Canvas.h"
 #include "vcl/FormColors.h"
 #include "vcl/ShownText.h"
+#include "vcl/Theme.h"
 
 using enum TPartState;
 
@@ -36,6 +37,14 @@ Option OptionFor(const QRect& rect, TPartStates states) {
   option.palette.setCurrentColorGroup(states.Contains(Disabled) ? QPalette::Disabled : QPalette::Active);
   option.state = StateOf(states);
   return option;
+}
+
+// Seen on light and on dark ground, without calling for attention.
+QColor FaintInk(const QPalette& palette) {
+  QColor ink = palette.color(QPalette::WindowText);
+  constexpr int alpha = 130;
+  ink.setAlpha(alpha);
+  return ink;
 }
 
 template <class Option>
@@ -98,6 +107,10 @@ void PaintMark(TCanvas& canvas, const QRect& rect, TPartStates states, QStyle::P
   option.rect.moveCenter(Local(rect).center());
   option.state |= state;
   if (states.Contains(Down)) option.state |= QStyle::State_Sunken;
+  // The style draws the outline a little darker than the ground, which hardly anybody sees.
+  option.palette.setColor(QPalette::Window, IsDark(option.palette)
+                                                ? option.palette.color(QPalette::WindowText).darker(140)
+                                                : option.palette.color(QPalette::Window).darker(130));
   Style().drawPrimitive(mark, &option, p);
 }
 }  // namespace
@@ -153,7 +166,7 @@ void PaintSizeGrip(TCanvas& canvas, const QRect& rect) {
   Inside p(canvas, rect);
   auto option = OptionFor<QStyleOptionSizeGrip>(rect, {});
   option.corner = Qt::BottomRightCorner;
-  const QColor dots = option.palette.color(QPalette::Dark);
+  const QColor dots = FaintInk(option.palette);
   for (int row = 0; row < 3; ++row)
     for (int i = 0; i <= row; ++i)
       canvas.Painter().fillRect(
@@ -260,15 +273,19 @@ void PaintSlider(TCanvas& canvas, const QRect& rect, TPartStates states, const T
   constexpr int least = 6;
   if (std::min(rect.width(), rect.height()) < least)
     return canvas.Painter().fillRect(option.rect, option.palette.mid());
+  // Ticks stand at the handle, however much room there is.
+  constexpr int tick = 4;
+  const bool across = orientation == Qt::Horizontal;
+  const int extent = across ? rect.width() : rect.height();
+  const int side = std::min(across ? rect.height() : rect.width(),
+                            Style().pixelMetric(QStyle::PM_SliderThickness, &option) + 4 * tick);
+  option.rect.setSize(across ? QSize(extent, side) : QSize(side, extent));
   if (states.Contains(Disabled)) canvas.Painter().setOpacity(0.5);  // not every style shows it
   Style().drawComplexControl(QStyle::CC_Slider, &option, p);
   if (option.tickPosition == QSlider::NoTicks || length <= 0) return;
   // Styles take their colour from elsewhere.
-  const bool across = orientation == Qt::Horizontal;
   const int handle = Style().pixelMetric(QStyle::PM_SliderLength, &option);
-  const int extent = across ? rect.width() : rect.height(), side = across ? rect.height() : rect.width();
-  const QColor ink = option.palette.color(QPalette::Dark);
-  constexpr int tick = 4;
+  const QColor ink = FaintInk(option.palette);
   for (std::int64_t v = 0; v <= length; v += option.tickInterval) {
     const int at = handle / 2 + static_cast<int>(v * std::max(extent - handle, 0) / length);
     const auto draw = [&](int from) {

@@ -109,6 +109,16 @@ QImage Painted(const std::function<void(TCanvas&, const QRect&)>& look, qreal sc
   return image;
 }
 
+// Contrast of two colours as accessibility guidelines reckon it: 1 for none, 21 for black on white.
+double Contrast(const QColor& a, const QColor& b) {
+  const auto light = [](const QColor& c) {
+    const auto part = [](double v) { return v <= 0.03928 ? v / 12.92 : std::pow((v + 0.055) / 1.055, 2.4); };
+    return 0.2126 * part(c.redF()) + 0.7152 * part(c.greenF()) + 0.0722 * part(c.blueF());
+  };
+  const double x = light(a) + 0.05, y = light(b) + 0.05;
+  return std::max(x, y) / std::min(x, y);
+}
+
 class Painters : public testing::Test {
  protected:
   ThemeScope theme_{TTheme::Light};  // whatever the designer looks like
@@ -193,4 +203,49 @@ TEST_F(Painters, TellTheRoomInside) {
   const QRect room = PaintGroupFrame(canvas, QRect(0, 0, 90, 40), {}, QStringLiteral("Title"), Face());
   EXPECT_GT(room.top(), 8) << "below the title";
   EXPECT_TRUE(QRect(0, 0, 90, 40).contains(room));
+}
+
+TEST_F(Painters, MarksAndTicksStandOutFromLightAndDarkGround) {
+  for (const auto colors : {TFormColors::Light, TFormColors::Dark}) {
+    const FormColorScope scope(colors);
+    const QColor ground = FormPalette().color(QPalette::Window);
+    const auto strongest = [&](const auto& paint) {
+      QImage image(97, 41, QImage::Format_ARGB32_Premultiplied);
+      image.fill(ground);
+      QPainter painter(&image);
+      TCanvas canvas(painter);
+      paint(canvas);
+      double most = 1;
+      for (int y = 0; y < image.height(); ++y)
+        for (int x = 0; x < image.width(); ++x)
+          most = std::max(most, Contrast(image.pixelColor(x, y), ground));
+      return most;
+    };
+    constexpr double clear = 2;
+    const int dark = colors == TFormColors::Dark;
+    EXPECT_GT(strongest([](TCanvas& c) { PaintSizeGrip(c, Place); }), clear) << dark;
+    EXPECT_GT(strongest([](TCanvas& c) { PaintCheckMark(c, Place, {}, TCheckBoxState::cbUnchecked); }), clear)
+        << dark;
+    EXPECT_GT(strongest([](TCanvas& c) { PaintRadioMark(c, Place, {}, false); }), clear) << dark;
+  }
+}
+
+TEST_F(Painters, TicksStandAtTheHandleHoweverTallTheSliderIs) {
+  constexpr QRect tall(10, 5, 61, 120);  // more than the picture shows
+  const auto lowest = [&](bool ticks) {
+    const QImage picture = Painted(
+        [=](TCanvas& c, const QRect& r) {
+          PaintSlider(c, r, {}, {0, 100, 0, 1}, Qt::Horizontal, {false, ticks, 50});
+        },
+        1, tall);
+    int last = 0;
+    for (int y = 0; y < picture.height(); ++y)
+      for (int x = 0; x < picture.width(); ++x)
+        if (picture.pixelColor(x, y) != Ground) last = y;
+    return last;
+  };
+  const int handle = lowest(false);
+  EXPECT_LT(handle, 36);
+  EXPECT_GT(lowest(true), handle - 12);
+  EXPECT_LT(lowest(true), handle + 12);
 }
