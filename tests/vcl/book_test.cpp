@@ -51,6 +51,19 @@ TEST(PageControl, ThePlaceOfAPageIsNoValueOfIt) {
   EXPECT_EQ(b.pages[1]->BoundsRect(), QRect(50, 50, 20, 20)) << "anywhere else it is a control like others";
 }
 
+TEST(PageControl, WhatIsNoPageIsRevealedByNoPage) {
+  Book b;
+  auto* button = new TButton(&b.form);
+  button->SetParent(b.book);
+  b.book->ShowPage(*b.pages[1]);
+  RevealPages(*button);
+  EXPECT_EQ(b.book->FrontPage(), b.pages[1]);
+  auto* inside = new TButton(&b.form);
+  inside->SetParent(b.pages[2]);
+  RevealPages(*inside);
+  EXPECT_EQ(b.book->FrontPage(), b.pages[2]);
+}
+
 TEST(PageControl, ShowingAPageChangesNoValueAndChoosingOneDoes) {
   Book b;
   b.book->SetActivePage(b.pages[0]);

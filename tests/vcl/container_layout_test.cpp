@@ -270,6 +270,16 @@ TEST(FlowLayout, ControlsFollowEachOtherAndWrap) {
   EXPECT_EQ(b.Left(), 100);
 }
 
+TEST(FlowLayout, WhatJustFitsStaysInItsRow) {
+  Scene<TFlowPanel> s;
+  s.box->Set(TCustomPanel::BevelOuter, TBevelCut::bvNone);
+  s.Add({0, 0, 90, 20});
+  auto& b = s.Add({0, 0, 110, 30});
+  EXPECT_EQ(R(b), QRect(90, 0, 110, 30));
+  b.SetWidth(111);
+  EXPECT_EQ(R(b), QRect(0, 20, 111, 30));
+}
+
 TEST(FlowLayout, ARowEndsWhereTheListSaysSo) {
   Scene<TFlowPanel> s;
   s.box->Set(TCustomPanel::BevelOuter, TBevelCut::bvNone);

@@ -94,6 +94,37 @@ TEST(ListView, SubitemsStandInTheColumnsOfAReportOnly) {
   EXPECT_GT(Differences(with, without, QRect(122, 0, 90, 160)), 10);
 }
 
+TEST(ListView, EachColumnShowsItsOwnSubitem) {
+  PicturedList p;
+  AddColumn(p.list, "Third", 60);
+  p.list.Set(TListView::ViewStyle, TViewStyle::vsReport);
+  const auto shown = [&](const char* second) {
+    p.list.Get(TListView::Items)
+        ->SetItems({{.Caption = QStringLiteral("first"),
+                     .SubItems = {QStringLiteral("same"), QString::fromLatin1(second)}}});
+    return Draw(p.list);
+  };
+  const QImage one = shown("one"), other = shown("WWWW");
+  EXPECT_EQ(Differences(one, other, QRect(0, 0, 211, 160)), 0);
+  EXPECT_GT(Differences(one, other, QRect(212, 0, 60, 160)), 10);
+}
+
+TEST(ListView, TheMarkOfAnItemIsItsState) {
+  PicturedList p;
+  p.list.Set(TListView::ViewStyle, TViewStyle::vsReport);
+  p.list.Set(TListView::Checkboxes, true);
+  const auto ink = [&](int state) {
+    p.list.Get(TListView::Items)->SetItems({{.Caption = QStringLiteral("x"), .StateIndex = state}});
+    const QImage image = Draw(p.list).copy(0, 0, 18, 60);
+    int dark = 0;
+    for (int y = 0; y < image.height(); ++y)
+      for (int x = 0; x < image.width(); ++x) dark += qGray(image.pixel(x, y)) < 100;
+    return dark;
+  };
+  EXPECT_GT(ink(1), ink(0));
+  EXPECT_EQ(ink(-1), ink(0));
+}
+
 TEST(ListView, AColumnKeepsToItsLimitsAndAHiddenOneTakesNoRoom) {
   PicturedList p;
   TListColumn* name = p.list.Get(TListView::Columns)->Column(0);
@@ -226,6 +257,29 @@ TEST(Grid, WidthsAndHeightsAreThoseOfTheFormOrTheDefault) {
   EXPECT_EQ(image.pixelColor(2 + 10, 2 + 50), QColor(Qt::cyan)) << "a fixed column";
   EXPECT_EQ(image.pixelColor(2 + 35, 2 + 8), QColor(Qt::cyan)) << "a fixed row";
   EXPECT_EQ(image.pixelColor(2 + 35, 2 + 25), QColor(Qt::yellow));
+}
+
+TEST(Grid, FixedCellsAndOthersHaveTheLinesThatTheOptionsAskFor) {
+  using enum TGridOption;
+  TDrawGrid grid(nullptr);
+  grid.SetColor(clYellow);
+  grid.Set(TDrawGrid::FixedColor, clAqua);
+  const auto lines = [&](TGridOptions options) {
+    grid.Set(TDrawGrid::Options, options);
+    const QImage image = Draw(grid);
+    const auto line = [&](int x, int y) {
+      const QColor at = image.pixelColor(x, y);
+      return at != QColor(Qt::yellow) && at != QColor(Qt::cyan);
+    };
+    // Right of and below a fixed cell, right of and below another one.
+    const int in = 2, wide = 65, high = 25;
+    return std::array{line(in + wide - 1, in + 10), line(in + 10, in + high - 1),
+                      line(in + 2 * wide - 1, in + high + 10), line(in + wide + 10, in + 2 * high - 1)};
+  };
+  EXPECT_EQ(lines({goFixedVertLine}), (std::array{true, false, false, false}));
+  EXPECT_EQ(lines({goFixedHorzLine}), (std::array{false, true, false, false}));
+  EXPECT_EQ(lines({goVertLine}), (std::array{false, false, true, false}));
+  EXPECT_EQ(lines({goHorzLine}), (std::array{false, false, false, true}));
 }
 
 TEST(Grid, DescribedColumnsStandBehindTheFixedOnesWithTheirTitles) {

@@ -2,6 +2,7 @@
 // forms.
 #include "vcl/Painters.h"
 #include "VclTest.h"
+#include "tests/support/Contrast.h"
 #include "vcl/FormColors.h"
 
 namespace {
@@ -109,16 +110,6 @@ QImage Painted(const std::function<void(TCanvas&, const QRect&)>& look, qreal sc
   return image;
 }
 
-// Contrast of two colours as accessibility guidelines reckon it: 1 for none, 21 for black on white.
-double Contrast(const QColor& a, const QColor& b) {
-  const auto light = [](const QColor& c) {
-    const auto part = [](double v) { return v <= 0.03928 ? v / 12.92 : std::pow((v + 0.055) / 1.055, 2.4); };
-    return 0.2126 * part(c.redF()) + 0.7152 * part(c.greenF()) + 0.0722 * part(c.blueF());
-  };
-  const double x = light(a) + 0.05, y = light(b) + 0.05;
-  return std::max(x, y) / std::min(x, y);
-}
-
 class Painters : public testing::Test {
  protected:
   ThemeScope theme_{TTheme::Light};  // whatever the designer looks like
@@ -215,11 +206,7 @@ TEST_F(Painters, MarksAndTicksStandOutFromLightAndDarkGround) {
       QPainter painter(&image);
       TCanvas canvas(painter);
       paint(canvas);
-      double most = 1;
-      for (int y = 0; y < image.height(); ++y)
-        for (int x = 0; x < image.width(); ++x)
-          most = std::max(most, Contrast(image.pixelColor(x, y), ground));
-      return most;
+      return Contrast(image);
     };
     constexpr double clear = 2;
     const int dark = colors == TFormColors::Dark;
