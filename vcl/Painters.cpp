@@ -9,7 +9,6 @@
 #include "vcl/Canvas.h"
 #include "vcl/FormColors.h"
 #include "vcl/ShownText.h"
-#include "vcl/Theme.h"
 
 using enum TPartState;
 
@@ -107,10 +106,6 @@ void PaintMark(TCanvas& canvas, const QRect& rect, TPartStates states, QStyle::P
   option.rect.moveCenter(Local(rect).center());
   option.state |= state;
   if (states.Contains(Down)) option.state |= QStyle::State_Sunken;
-  // The style draws the outline a little darker than the ground, which hardly anybody sees.
-  option.palette.setColor(QPalette::Window, IsDark(option.palette)
-                                                ? option.palette.color(QPalette::WindowText).darker(140)
-                                                : option.palette.color(QPalette::Window).darker(130));
   Style().drawPrimitive(mark, &option, p);
 }
 }  // namespace

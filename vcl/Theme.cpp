@@ -8,13 +8,13 @@
 
 namespace {
 struct Shades {
-  const char *window, *text, *base, *alternate, *button, *mid, *dark, *light, *disabled, *highlight, *tip,
-      *link;
+  const char *window, *text, *base, *alternate, *button, *mid, *dark, *light, *disabled, *quiet, *highlight,
+      *tip, *link;
 };
-constexpr Shades LightShades{"#f3f4f6", "#1e2227", "#ffffff", "#f7f8fa", "#eceef1", "#c3c8cf",
-                             "#9aa1ab", "#ffffff", "#9aa1ab", "#2f6fd6", "#fffbe6", "#1d5dc4"};
-constexpr Shades DarkShades{"#2b2e33", "#e4e6ea", "#1f2226", "#26292e", "#363a40", "#4a4f57",
-                            "#17191c", "#4d535c", "#7d838d", "#4a86e8", "#3a3d43", "#78a9f5"};
+constexpr Shades LightShades{"#f3f4f6", "#1e2227", "#ffffff", "#f7f8fa", "#eceef1", "#c3c8cf", "#9aa1ab",
+                             "#ffffff", "#9aa1ab", "#5f6672", "#2f6fd6", "#fffbe6", "#1d5dc4"};
+constexpr Shades DarkShades{"#2b2e33", "#e4e6ea", "#1f2226", "#26292e", "#363a40", "#4a4f57", "#17191c",
+                            "#4d535c", "#7d838d", "#a3a9b3", "#3a72cf", "#3a3d43", "#78a9f5"};
 
 QPalette Palette(const Shades& s) {
   QPalette p;
@@ -38,29 +38,39 @@ QPalette Palette(const Shades& s) {
   set(QPalette::HighlightedText, "#ffffff");
   set(QPalette::ToolTipBase, s.tip);
   set(QPalette::ToolTipText, s.text);
-  set(QPalette::PlaceholderText, s.disabled);
+  set(QPalette::PlaceholderText, s.quiet);
   set(QPalette::Link, s.link);
   for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
     p.setColor(QPalette::Disabled, role, QColor(QLatin1StringView(s.disabled)));
   p.setColor(QPalette::Disabled, QPalette::Highlight, QColor(QLatin1StringView(s.mid)));
   return p;
 }
-// Fusion draws the outlines of boxes and fields darker than the window, which disappears in a dark theme.
-// There they are drawn as if the window were lighter.
+// Fusion draws the outlines of boxes and fields a little darker than the window. They disappear in a dark
+// theme, and those of check marks are faint in any: there they are drawn as if the window had another shade.
+// The default button of a dark theme would be too light for its text.
 class OutlinedFusion : public QProxyStyle {
  public:
   OutlinedFusion() : QProxyStyle(QStringLiteral("Fusion")) { setObjectName(QStringLiteral("orlenvo")); }
 
   void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
                      const QWidget* widget) const override {
-    const bool outlined =
-        element == PE_IndicatorCheckBox || element == PE_IndicatorRadioButton || element == PE_FrameLineEdit;
-    const Lightened with(outlined ? option : nullptr);
+    const bool dark = option && IsDark(option->palette);
+    const bool mark = element == PE_IndicatorCheckBox || element == PE_IndicatorRadioButton;
+    const Recolored outline(mark || (dark && element == PE_FrameLineEdit) ? option : nullptr,
+                            QPalette::Window, [&](const QPalette& p) {
+                              return !dark  ? p.color(QPalette::Window).darker(130)
+                                     : mark ? p.color(QPalette::WindowText).darker(140)
+                                            : p.color(QPalette::Window).lighter(230);
+                            });
+    const Recolored face(dark && element == PE_PanelButtonCommand ? option : nullptr, QPalette::Highlight,
+                         [](const QPalette& p) { return p.color(QPalette::Highlight).darker(150); });
     QProxyStyle::drawPrimitive(element, option, painter, widget);
   }
   void drawComplexControl(ComplexControl control, const QStyleOptionComplex* option, QPainter* painter,
                           const QWidget* widget) const override {
-    const Lightened with(control == CC_SpinBox || control == CC_ComboBox ? option : nullptr);
+    const bool field = control == CC_SpinBox || control == CC_ComboBox;
+    const Recolored outline(field && IsDark(option->palette) ? option : nullptr, QPalette::Window,
+                            [](const QPalette& p) { return p.color(QPalette::Window).lighter(230); });
     QProxyStyle::drawComplexControl(control, option, painter, widget);
   }
   // Drop-down lists open below their field and keep to the number of rows they are given.
@@ -70,22 +80,21 @@ class OutlinedFusion : public QProxyStyle {
   }
 
  private:
-  // Changes the option's palette while it lives.
-  class Lightened {
+  // Another colour for a role of the option's palette while it lives; nothing without an option.
+  class Recolored {
    public:
-    explicit Lightened(const QStyleOption* option)
-        : option_(option && option->palette.color(QPalette::Window).lightness() < 128
-                      ? const_cast<QStyleOption*>(option)
-                      : nullptr) {
+    template <class F>
+    Recolored(const QStyleOption* option, QPalette::ColorRole role, F color)
+        : option_(const_cast<QStyleOption*>(option)) {
       if (!option_) return;
       before_ = option_->palette;
-      option_->palette.setColor(QPalette::Window, before_.color(QPalette::Window).lighter(230));
+      option_->palette.setColor(role, color(before_));
     }
-    ~Lightened() {
+    ~Recolored() {
       if (option_) option_->palette = before_;
     }
-    Lightened(const Lightened&) = delete;
-    Lightened& operator=(const Lightened&) = delete;
+    Recolored(const Recolored&) = delete;
+    Recolored& operator=(const Recolored&) = delete;
 
    private:
     QStyleOption* option_;

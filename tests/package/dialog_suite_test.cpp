@@ -12,6 +12,7 @@
 #include "rtl/Exceptions.h"
 #include "rtl/PropText.h"
 #include "tests/package/PixelDialogTest.h"
+#include "tests/support/Contrast.h"
 #include "tests/support/Fields.h"
 #include "vcl/Theme.h"
 
@@ -194,6 +195,12 @@ TEST_F(DialogSuite, TextsFitAndCanBeReadWithEveryFontAndTheme) {
           const QColor under = palette.color(child->backgroundRole());
           const QColor text = palette.color(QPalette::Active, child->foregroundRole());
           EXPECT_GE(std::abs(Lightness(text, under) - qGray(under.rgb())), 60);
+          // Strokes thinner than a pixel never have the whole colour of their letters.
+          constexpr int wholePixels = 9;
+          constexpr double readable = 4.5;
+          if (child->isEnabled() && points >= wholePixels && (button || !label->text().isEmpty())) {
+            EXPECT_GE(Contrast(const_cast<QWidget*>(child)->grab().toImage()), readable);
+          }
         }
       });
     }
