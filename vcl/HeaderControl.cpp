@@ -3,7 +3,7 @@
 #include <algorithm>
 
 #include "rtl/Class.h"
-#include "vcl/Painters.h"
+#include "vcl/ItemPainting.h"
 #include "vcl/PropertyGroups.h"
 
 const TClass& THeaderSection::StaticClass() {
@@ -117,8 +117,7 @@ void THeaderControl::Paint(TCanvas& canvas) {
       canvas.Painter().drawImage(text.left(), (Height() - image.height()) / 2, image);
       text.setLeft(text.left() + image.width() + 3);
     }
-    if (text.width() > 0)
-      canvas.TextRect(text, AlignmentFlag(section.Get(THeaderSection::Alignment)) | Qt::AlignVCenter,
-                      section.Get(THeaderSection::Text), *Font(), Enabled());
+    PaintPlainText(canvas, text, AlignmentFlag(section.Get(THeaderSection::Alignment)),
+                   section.Get(THeaderSection::Text), *Font(), Enabled());
   }
 }

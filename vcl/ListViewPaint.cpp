@@ -76,6 +76,10 @@ void TCustomListView::PaintReport(TCanvas& canvas, QRect inside) const {
     shown.push_back({c, i, across, c->ShownWidth()});
     across += std::min(c->ShownWidth(), 0x7FFF);
   }
+  // The captions of the items stand left whatever their column says.
+  const auto alignmentOf = [](const Shown& s) {
+    return AlignmentFlag(s.text == 0 ? TAlignment::taLeftJustify : s.column->Get(TListColumn::Alignment));
+  };
   const QList<TListViewItem>& items = Get(Items)->Items();
   const int line = LineHeight(), head = Get(ShowColumnHeaders) ? line + 4 : 0;
   const auto count = static_cast<int>(std::min<qsizetype>(items.size(), 0xFFFF));
@@ -84,8 +88,11 @@ void TCustomListView::PaintReport(TCanvas& canvas, QRect inside) const {
   if (head > 0) {
     const QRect bar(inside.left(), inside.top(), inside.width(), head);
     for (const Shown& s : shown)
-      if (const QRect cell(bar.left() + s.left, bar.top(), s.width, head); cell.intersects(bar))
-        PaintHeaderCell(canvas, cell & bar, PartStates(), s.column->Get(TListColumn::Caption), *Font());
+      if (const QRect cell(bar.left() + s.left, bar.top(), s.width, head); cell.intersects(bar)) {
+        PaintHeaderCell(canvas, cell & bar, PartStates(), {}, *Font());
+        PaintPlainText(canvas, cell.adjusted(Gap, 0, -Gap, 0), alignmentOf(s),
+                       s.column->Get(TListColumn::Caption), *Font(), Enabled());
+      }
     if (across < bar.width())
       PaintHeaderCell(canvas, bar.adjusted(across, 0, 0, 0), PartStates(), {}, *Font());
   }
@@ -100,10 +107,7 @@ void TCustomListView::PaintReport(TCanvas& canvas, QRect inside) const {
       const QString text = s.text == 0                          ? items[i].Caption
                            : s.text <= items[i].SubItems.size() ? items[i].SubItems[s.text - 1]
                                                                 : QString();
-      const TAlignment alignment =
-          s.text == 0 ? TAlignment::taLeftJustify : s.column->Get(TListColumn::Alignment);
-      PaintPlainText(canvas, cell.adjusted(Gap, 0, -Gap, 0), AlignmentFlag(alignment), text, *Font(),
-                     Enabled());
+      PaintPlainText(canvas, cell.adjusted(Gap, 0, -Gap, 0), alignmentOf(s), text, *Font(), Enabled());
     }
   }
   if (!Get(GridLines)) return;

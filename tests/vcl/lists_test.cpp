@@ -82,6 +82,32 @@ TEST(ListView, EachStylePlacesItemsItsOwnWay) {
   EXPECT_EQ(p.Place(Qt::red).y(), list1.y());
 }
 
+TEST(ListView, TitlesAreAlignedLikeTheirColumnsAndEndWithAnEllipsis) {
+  PicturedList p;
+  p.list.Set(TListView::ViewStyle, TViewStyle::vsReport);
+  TListColumn* column = p.list.Get(TListView::Columns)->Column(1);
+  column->Set(TListColumn::Caption, {});
+  const QImage empty = Draw(p.list);
+  column->Set(TListColumn::Caption, QStringLiteral("M"));
+  const int left = 121, width = column->ShownWidth();
+  const QRect head(left, 3, width, 14), left3(left, 3, width / 3, 14),
+      right3(left + width - width / 3, 3, width / 3, 14);
+  const auto ink = [&](const QRect& r) { return Differences(empty, Draw(p.list), r); };
+  EXPECT_GT(ink(left3), 0);
+  EXPECT_EQ(ink(right3), 0);
+  column->Set(TListColumn::Alignment, TAlignment::taRightJustify);
+  EXPECT_EQ(ink(left3), 0);
+  EXPECT_GT(ink(right3), 0);
+  column->Set(TListColumn::Alignment, TAlignment::taCenter);
+  EXPECT_EQ(ink(left3) + ink(right3), 0);
+  EXPECT_GT(ink(head), 0);
+  column->Set(TListColumn::Alignment, TAlignment::taLeftJustify);
+  column->Set(TListColumn::Caption, QString(40, u'M'));
+  EXPECT_GT(ink(left3), 0);
+  EXPECT_EQ(ink({left + width - 9, 3, 9, 6}), 0) << "at the end are dots, with nothing above them";
+  EXPECT_GT(ink({left + width - 18, 3, 15, 14}), 0);
+}
+
 TEST(ListView, SubitemsStandInTheColumnsOfAReportOnly) {
   PicturedList p;
   p.list.Set(TListView::ViewStyle, TViewStyle::vsReport);
