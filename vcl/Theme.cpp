@@ -73,10 +73,14 @@ class OutlinedFusion : public QProxyStyle {
                             [](const QPalette& p) { return p.color(QPalette::Window).lighter(230); });
     QProxyStyle::drawComplexControl(control, option, painter, widget);
   }
-  // Drop-down lists open below their field and keep to the number of rows they are given.
+  // Drop-down lists open below their field and keep to the number of rows they are given. The lines of a
+  // table are darker than the window, which a dark table hides.
   int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
                 QStyleHintReturn* data) const override {
-    return hint == SH_ComboBox_Popup ? 0 : QProxyStyle::styleHint(hint, option, widget, data);
+    if (hint == SH_ComboBox_Popup) return 0;
+    if (hint == SH_Table_GridLineColor && option && IsDark(option->palette))
+      return static_cast<int>(option->palette.color(QPalette::Mid).rgb());
+    return QProxyStyle::styleHint(hint, option, widget, data);
   }
 
  private:

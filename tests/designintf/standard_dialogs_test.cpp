@@ -7,6 +7,7 @@
 #include "designintf/IdeTheme.h"
 #include "rtl/Strings.h"
 #include "tests/designintf/StandardDialogTest.h"
+#include "tests/support/Contrast.h"
 #include "vcl/Image.h"
 #include "vcl/Menu.h"
 
@@ -269,6 +270,21 @@ TEST_F(StandardDialogs, AFilterIsATable) {
     dialog.cancel->click();
   }));
   EXPECT_EQ(filter, QStringLiteral("Pictures|*.png|All|*"));
+}
+
+TEST_F(StandardDialogs, TheLinesOfATableCanBeSeenInBothThemes) {
+  for (const TTheme theme : {TTheme::Light, TTheme::Dark}) {
+    ApplyTheme(theme);
+    FilterDialog dialog(nullptr);
+    dialog.SetFilter(QStringLiteral("Texts|*.txt"));
+    dialog.resize(460, 280);
+    const QImage table = dialog.table->viewport()->grab().toImage();
+    const int line = dialog.table->rowHeight(0) + dialog.table->rowHeight(1) - 1;
+    const double contrast =
+        Contrast(table.pixelColor(table.width() / 4, line), table.pixelColor(table.width() / 4, line + 4));
+    EXPECT_GT(contrast, 1.3);
+    EXPECT_LT(contrast, 4) << "quiet all the same";
+  }
 }
 
 TEST_F(StandardDialogs, CursorsHaveAPicture) {
