@@ -7,6 +7,7 @@
 #include <QMimeData>
 #include <QPainter>
 
+#include "dclstd/CheckedGround.h"
 #include "dclstd/EditValue.h"
 #include "dclstd/UserFile.h"
 #include "vcl/PictureFile.h"
@@ -113,13 +114,22 @@ void ImageListDialog::SetImages(const QList<QImage>& images, QSize size) {
   changed_ = false;
   stripStale_ = true;
   SetLabels();
+  if (entries_.isEmpty()) return;
+  Select({0});
+  SetLabels();
 }
 
+// Whole and undistorted, in the middle of what it leaves free.
 QImage ImageListDialog::Shown(const Entry& entry) const {
   const QImage image = WithoutColor(entry.original, entry.transparent);
   if (image.size() == size_) return image;
-  return image.scaled(size_, Qt::IgnoreAspectRatio, Qt::SmoothTransformation)
-      .convertToFormat(QImage::Format_ARGB32);
+  const QImage scaled = image.scaled(size_, Qt::KeepAspectRatio, Qt::SmoothTransformation);
+  QImage fitted(size_, QImage::Format_ARGB32);
+  fitted.fill(Qt::transparent);
+  QPainter p(&fitted);
+  p.setCompositionMode(QPainter::CompositionMode_Source);
+  p.drawImage((size_.width() - scaled.width()) / 2, (size_.height() - scaled.height()) / 2, scaled);
+  return fitted;
 }
 QList<QImage> ImageListDialog::Images() const {
   QList<QImage> images;
@@ -133,8 +143,8 @@ QIcon ImageListDialog::IconOf(const Entry& entry) const {
   const QImage image = Shown(entry);
   const int factor = std::max(1, 32 / std::max(size_.width(), size_.height()));
   QPixmap pixmap(size_ * factor);
-  pixmap.fill(Qt::transparent);
   QPainter p(&pixmap);
+  PaintCheckedGround(p, pixmap.rect(), 4);
   p.drawImage(QRect(QPoint(0, 0), pixmap.size()), image);
   p.end();
   QIcon icon(pixmap);

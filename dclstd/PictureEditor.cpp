@@ -8,6 +8,7 @@
 #include <QMimeData>
 #include <QPainter>
 
+#include "dclstd/CheckedGround.h"
 #include "dclstd/EditValue.h"
 #include "dclstd/UserFile.h"
 #include "vcl/ColorSwatch.h"
@@ -39,7 +40,6 @@ void PicturePreview::SetImage(const QImage& image) {
 
 void PicturePreview::paintEvent(QPaintEvent*) {
   QPainter p(this);
-  constexpr int Check = 8;
   QSize size = image_.size();
   if (size.width() > width() || size.height() > height()) size.scale(this->size(), Qt::KeepAspectRatio);
   const QRect place(QPoint((width() - size.width()) / 2, (height() - size.height()) / 2), size);
@@ -47,12 +47,7 @@ void PicturePreview::paintEvent(QPaintEvent*) {
     p.setPen(palette().color(QPalette::PlaceholderText));
     return p.drawText(rect(), Qt::AlignCenter, tr("(None)"));
   }
-  p.setClipRect(place);
-  for (int y = place.top(); y <= place.bottom(); y += Check)
-    for (int x = place.left(); x <= place.right(); x += Check) {
-      const bool dark = ((x - place.left()) / Check + (y - place.top()) / Check) % 2 != 0;
-      p.fillRect(QRect(x, y, Check, Check), dark ? QColor(0xC8, 0xC8, 0xC8) : QColor(0xF4, 0xF4, 0xF4));
-    }
+  PaintCheckedGround(p, place, 8);
   p.setRenderHint(QPainter::SmoothPixmapTransform, size != image_.size());
   p.drawImage(place, image_);
 }

@@ -227,6 +227,46 @@ TEST_F(ImageListEditor, SizeAndTransparentColourCanBeChanged) {
   EXPECT_EQ(list.Image(0).size(), QSize(24, 20));
 }
 
+TEST_F(ImageListEditor, PicturesKeepTheirShape) {
+  QImage tall(6, 16, QImage::Format_ARGB32);
+  tall.fill(QColor(200, 100, 0, 128));
+  prompts.files = {FileOf(tall, "tall.png")};
+  Run([](ImageListDialog& dialog) {
+    Click(dialog.clear);
+    Click(dialog.add);
+  });
+  ASSERT_EQ(list.Count(), 1);
+  const QImage half = list.Image(0);  // 3 x 8 in 12 x 8
+  EXPECT_EQ(half.pixelColor(5, 0).alpha(), 128);
+  EXPECT_EQ(half.pixelColor(5, 7).alpha(), 128);
+  EXPECT_EQ(half.pixelColor(3, 4).alpha(), 0);
+  EXPECT_EQ(half.pixelColor(7, 4).alpha(), 0);
+  Run([](ImageListDialog& dialog) { dialog.width->setValue(30); });
+  const QImage wide = list.Image(0);  // what was 12 x 8 in 30 x 8
+  ASSERT_EQ(wide.size(), QSize(30, 8));
+  EXPECT_EQ(wide.pixelColor(14, 4).alpha(), 128);
+  EXPECT_EQ(wide.pixelColor(12, 4).alpha(), 0);
+  EXPECT_EQ(wide.pixelColor(16, 4).alpha(), 0);
+}
+
+TEST_F(ImageListEditor, OpensOnTheFirstPictureOnQuietGroundInBothThemes) {
+  for (const TTheme theme : {TTheme::Light, TTheme::Dark}) {
+    ApplyTheme(theme);
+    Run([](ImageListDialog& dialog) {
+      EXPECT_TRUE(dialog.strip->item(0)->isSelected());
+      EXPECT_EQ(dialog.strip->selectedItems().size(), 1);
+      EXPECT_TRUE(dialog.remove->isEnabled());
+      const QImage icon = dialog.strip->item(1)->icon().pixmap(dialog.strip->iconSize()).toImage();
+      QSet<QRgb> ground;
+      for (int x = 0; x < icon.width(); ++x) {
+        EXPECT_GT(icon.pixelColor(x, 0).lightness(), 150);
+        ground.insert(icon.pixel(x, 0));
+      }
+      EXPECT_EQ(ground.size(), 2) << "where the picture is transparent";
+    });
+  }
+}
+
 TEST_F(ImageListEditor, ExportsAllSideBySide) {
   prompts.saveAs = folder.filePath(QStringLiteral("all.png"));
   Run([](ImageListDialog& dialog) { Click(dialog.exportAll); });
