@@ -57,6 +57,7 @@ class CommandRecorder {
     void Settle(const QRect& now);
   };
   void Adopt(TComponent& component);
+  void KeepLostActions();
   void CaptureSilent();
   void TakeArrivals();
   void TakePlaces();

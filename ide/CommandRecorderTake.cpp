@@ -1,10 +1,21 @@
 // The end of a command: what was noted on the way becomes differences of values and structure.
 #include "ide/CommandRecorder.h"
+#include "ide/LostAction.h"
 #include "ide/StandIns.h"
 #include "vcl/Nested.h"
 
+namespace {
+const forms::Object* Named(const forms::Object& object, const QByteArray& name) {
+  if (object.name.compare(name, Qt::CaseInsensitive) == 0) return &object;
+  for (const auto& child : object.children)
+    if (const forms::Object* found = Named(*child, name)) return found;
+  return nullptr;
+}
+}  // namespace
+
 std::unique_ptr<Command> CommandRecorder::Take() {
   if (modified_) CaptureSilent();
+  KeepLostActions();
   TakeArrivals();
   TakePlaces();
   TakeNestedPlaces();
@@ -18,6 +29,23 @@ std::unique_ptr<Command> CommandRecorder::Take() {
       DescribeNew(*s.object);
   command->structure = std::move(structure_);
   return command;
+}
+
+// Before anything else is looked at: what a client keeps may move others.
+void CommandRecorder::KeepLostActions() {
+  std::vector<std::pair<TComponent*, const forms::Object*>> lost;
+  for (const Before& b : captured_) {
+    if (form_.ObjectOf(*b.component) != b.object) continue;
+    const QString name = LostAction(*b.component, b.values);
+    if (name.isEmpty()) continue;
+    const TComponent* there = form_.FindComponent(name);
+    const forms::Object* action = there ? form_.ObjectOf(*there) : nullptr;
+    for (const StructureChange& s : structure_)
+      if (!action && s.held) action = Named(*s.held, name.toUtf8());
+    if (action) lost.emplace_back(b.component, action);
+  }
+  for (const auto& [client, action] : lost)
+    KeepActionValues(*client, *form_.ObjectOf(*client), *action, form_.Document(), form_.Root());
 }
 
 // Nobody told of these, but they are not what they were.
