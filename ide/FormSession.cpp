@@ -110,6 +110,15 @@ void FormSession::TellSelection() {
   NotifyDesign([&](IDesignNotification& n) { n.SelectionChanged(this, list); });
 }
 
+QString FormSession::SelectedPartsText() const {
+  const std::vector<PartPath> parts = selection_.Parts();
+  if (parts.empty()) return {};
+  if (parts.size() > 1)
+    return tr("%n items of %1", nullptr, static_cast<int>(parts.size())).arg(parts[0].Component()->Name());
+  return QStringLiteral("%1: %2").arg(parts[0].Text(),
+                                      QString::fromUtf8(parts[0].Find()->ClassType().ClassName()));
+}
+
 void FormSession::SelectComponent(TPersistent* instance) { SetSelections({instance}); }
 
 void FormSession::SetSelections(const TDesignerSelections& list) {

@@ -102,6 +102,10 @@ class FormSession : public QObject, public IDesigner, public IControlHost, priva
   std::vector<TComponent*> SelectedComponents() const { return selection_.Components(); }
   void Select(const std::vector<TComponent*>& components);
   bool IsSelected(const TComponent& component) const { return selection_.Contains(component); }
+  // Whether items inside of the selected components stand in their place, and which:
+  // "ListView1.Columns[1]: TListColumn".
+  bool HasSelectedParts() const { return !selection_.Parts().empty(); }
+  QString SelectedPartsText() const;
 
   // --- IDesigner
   void Modified() override;
@@ -162,6 +166,7 @@ class FormSession : public QObject, public IDesigner, public IControlHost, priva
                       std::vector<std::unique_ptr<forms::Object>>& objects, qsizetype data);
   void TakeIntoLayout(TComponent& component);
   TWinControl& ContainerFor(TComponent* wanted) const;
+  void ShowFirstMenu(TMainMenu& menu);
   void Announce(const FormChange& change);
   void TellSelection();
   FormChange ChangeOf(const Command& command) const;

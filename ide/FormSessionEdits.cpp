@@ -70,9 +70,18 @@ TComponent* FormSession::CreateComponent(const TClass& cls, TComponent* parent, 
     }
     selection_.Set({component}, Form());
     Came(*component);
+    if (auto* menu = As<TMainMenu>(component)) ShowFirstMenu(*menu);
   });
   Select(selection_.Components());
   return component;
+}
+
+// What menu an ancestor of the form has nobody knows here.
+void FormSession::ShowFirstMenu(TMainMenu& menu) {
+  TForm& form = Form();
+  if (form.Kind() == TFormKind::Form && !form.Get(TForm::Menu) &&
+      ObjectOf(form)->kind != forms::ObjectKind::Inherited && !ObjectOf(form)->Find("Menu"))
+    form.Set(TForm::Menu, &menu);
 }
 
 void FormSession::DeleteComponents(const std::vector<TComponent*>& components) {

@@ -39,10 +39,16 @@ void Selection::SetParts(const TDesignerSelections& list, TComponent& form) {
   if (parts.size() == list.size()) parts_ = std::move(parts);
 }
 
+std::vector<PartPath> Selection::Parts() const {
+  std::vector<PartPath> found;
+  std::copy_if(parts_.begin(), parts_.end(), std::back_inserter(found),
+               [](const PartPath& part) { return part.Find(); });
+  return found;
+}
+
 TDesignerSelections Selection::Inspected() const {
   TDesignerSelections found;
-  for (const PartPath& part : parts_)
-    if (TPersistent* object = part.Find()) found.push_back(object);
+  for (const PartPath& part : Parts()) found.push_back(part.Find());
   if (found.empty()) found.assign(components_.begin(), components_.end());
   return found;
 }

@@ -17,6 +17,8 @@ class Selection {
   // Parts of a component (items of its collections) in place of the component, which is selected with them.
   // They are kept by their places: undo makes them anew.
   void SetParts(const TDesignerSelections& parts, TComponent& form);
+  // Those that are there; none when the components themselves are selected.
+  std::vector<PartPath> Parts() const;
   // The parts that are there, else the components.
   TDesignerSelections Inspected() const;
 
