@@ -49,6 +49,16 @@ MenuWindow::MenuWindow(IDesigner& designer, TMenu& menu)
   box->addWidget(help);
   resize(480, 320);
   canvas->setFocus();
+  GoToStart();
+}
+
+// The item that is selected already, else the first.
+void MenuWindow::GoToStart() {
+  const TDesignerSelections list = Designer()->GetSelections();
+  auto* item = list.size() == 1 ? As<TMenuItem>(list.front()) : nullptr;
+  if (!item || MenuOf(*item) != &Menu())
+    item = Menu().Nested().empty() ? nullptr : As<TMenuItem>(Menu().Nested().front());
+  if (item) GoTo({item->Around(), item});
 }
 
 TMenu& MenuWindow::Menu() const { return *As<TMenu>(&Component()); }

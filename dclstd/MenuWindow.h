@@ -42,6 +42,7 @@ class MenuWindow : public ComponentWindow {
  private:
   friend class MenuCanvas;
   void SetCurrent(const Place& place);
+  void GoToStart();
   void Tell();
   bool CanvasKey(int key, bool control, const QString& text);
   void Walk(int key);
