@@ -33,6 +33,7 @@ CollectionWindow::CollectionWindow(IDesigner& designer, TComponent& component, c
   box->addLayout(buttons);
   box->addWidget(items);
   resize(280, 320);
+  items->setFocus();
 }
 
 TCollection* CollectionWindow::Collection() const {
@@ -148,6 +149,12 @@ void CollectionWindow::MoveItems(int by) {
   });
   std::sort(to.begin(), to.end());
   Select(to);
+}
+
+// Items that nobody sees do not stay selected.
+void CollectionWindow::closeEvent(QCloseEvent* event) {
+  if (Designer() && !Selected().empty()) Designer()->SelectComponent(&Component());
+  ComponentWindow::closeEvent(event);
 }
 
 bool CollectionWindow::eventFilter(QObject*, QEvent* event) {

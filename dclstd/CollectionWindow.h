@@ -31,6 +31,7 @@ class CollectionWindow : public ComponentWindow {
   void Load() override;
   bool Rebound() override;
   bool eventFilter(QObject* watched, QEvent* event) override;
+  void closeEvent(QCloseEvent* event) override;
 
  private:
   std::vector<int> Selected() const;

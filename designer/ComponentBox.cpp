@@ -20,13 +20,16 @@ void ComponentBox::SetSession(FormSession* session) {
   if (session) connect(session, &FormSession::SelectionChanged, this, &ComponentBox::ShowSelection);
 }
 
-// Several components are no entry of the list.
+// Several components are no entry of the list, and neither are items inside of one.
 void ComponentBox::ShowSelection() {
   const FormSession* session = components_.Session();
   const auto selected = session ? session->SelectedComponents() : std::vector<TComponent*>();
-  setPlaceholderText(selected.size() > 1 ? tr("%n components", nullptr, static_cast<int>(selected.size()))
-                                         : QString());
-  setCurrentIndex(selected.size() == 1 ? components_.IndexOf(*selected[0]).row() : -1);
+  QString text = session ? session->SelectedPartsText() : QString();
+  const bool listed = selected.size() == 1 && text.isEmpty();
+  if (text.isEmpty() && selected.size() > 1)
+    text = tr("%n components", nullptr, static_cast<int>(selected.size()));
+  setPlaceholderText(text);
+  setCurrentIndex(listed ? components_.IndexOf(*selected[0]).row() : -1);
 }
 
 // The wheel changes only what has the focus.

@@ -48,7 +48,10 @@ void FormSurface::mousePressEvent(QMouseEvent* event) {
       selected.push_back(hit);
     return session_->Select(selected);
   }
-  if (!session_->IsSelected(*hit)) session_->Select({hit});
+  if (!session_->IsSelected(*hit))
+    session_->Select({hit});
+  else if (session_->HasSelectedParts())
+    session_->Select(selected);
   TakeTab(*hit, p);
   grabbed_ = hit;
   action_ = Action::Press;

@@ -18,7 +18,9 @@ void StatusLine::Show(const FormSession* session, double zoom) {
   const auto selected = session->SelectedComponents();
   const TComponent& c = *selected.front();
   const auto* control = selected.size() == 1 ? As<TControl>(&c) : nullptr;
-  selection_->setText(selected.size() > 1
+  const QString parts = session->SelectedPartsText();
+  selection_->setText(!parts.isEmpty() ? parts
+                      : selected.size() > 1
                           ? tr("%n selected", nullptr, static_cast<int>(selected.size()))
                           : QStringLiteral("%1: %2").arg(c.Name(), QString::fromUtf8(c.StreamClassName())));
   bounds_->setText(control ? QStringLiteral("%1, %2   %3 x %4")

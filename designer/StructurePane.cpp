@@ -38,6 +38,10 @@ StructurePane::StructurePane(QWidget* parent) : QWidget(parent) {
   connect(filter_, &QLineEdit::textChanged, this, &StructurePane::ApplyFilter);
   connect(tree_->selectionModel(), &QItemSelectionModel::selectionChanged, this,
           &StructurePane::TakeSelection);
+  // A row that is selected already: the component in place of what is selected inside of it.
+  connect(tree_, &QTreeView::clicked, this, [this] {
+    if (Session() && Session()->HasSelectedParts()) TakeSelection();
+  });
   connect(tree_, &QTreeView::doubleClicked, this, [this](const QModelIndex& row) {
     try {
       if (TComponent* c = ComponentAt(row)) Session()->Edit(*c);
