@@ -55,6 +55,13 @@ InspectorPane::InspectorPane(QWidget* parent) : QWidget(parent) {
   description_->setMargin(6);
   description_->setAlignment(Qt::AlignTop | Qt::AlignLeft);
   description_->setForegroundRole(QPalette::WindowText);
+  nothing_ = new QLabel;
+  nothing_->setObjectName(QStringLiteral("nothingFits"));
+  nothing_->setAccessibleName(tr("No match"));
+  nothing_->setWordWrap(true);
+  nothing_->setMargin(6);
+  nothing_->setTextInteractionFlags(Qt::LinksAccessibleByMouse | Qt::LinksAccessibleByKeyboard);
+  nothing_->hide();
   editor_ = new ValueEditor(view_->viewport());
   editor_->hide();
   BuildLayout(grouped);
@@ -63,6 +70,10 @@ InspectorPane::InspectorPane(QWidget* parent) : QWidget(parent) {
     o->installEventFilter(this);
   connect(tabs_, &QTabBar::currentChanged, this, &InspectorPane::ShowPage);
   connect(filter_, &QLineEdit::textChanged, &model_, &InspectorModel::SetFilter);
+  connect(nothing_, &QLabel::linkActivated, this, [this] {
+    filter_->clear();
+    filter_->setFocus();
+  });
   connect(grouped, &QToolButton::toggled, this, [this, grouped](bool on) { Group(*grouped, on); });
   ConnectRows();
 }
@@ -78,9 +89,10 @@ void InspectorPane::BuildLayout(QToolButton* grouped) {
   box->addWidget(components_);
   box->addLayout(top);
   box->addWidget(filter_);
+  box->addWidget(nothing_);
   box->addWidget(view_, 1);
   box->addWidget(description_);
-  QWidget* order[] = {components_, tabs_, grouped, filter_, view_};
+  QWidget* order[] = {components_, tabs_, grouped, filter_, nothing_, view_};
   for (std::size_t i = 1; i < std::size(order); ++i) setTabOrder(order[i - 1], order[i]);
 }
 
@@ -167,7 +179,18 @@ void InspectorPane::OpenHits(const QModelIndex& parent) {
   }
 }
 
+void InspectorPane::TellWhenNothingFits() {
+  const bool nothing = !filter_->text().isEmpty() && model_.rowCount() == 0 && !model_.Components().empty();
+  nothing_->setVisible(nothing);
+  if (!nothing) return;
+  const QString text =
+      (tabs_->currentIndex() == 0 ? tr("No property matches \"%1\".") : tr("No event matches \"%1\"."));
+  nothing_->setText(text.arg(filter_->text().toHtmlEscaped()) +
+                    QStringLiteral(" <a href=\"clear\">%1</a>").arg(tr("Clear the filter")));
+}
+
 void InspectorPane::RestoreRows() {
+  TellWhenNothingFits();
   for (const QString& path : std::as_const(expanded_))
     if (const QModelIndex i = model_.IndexOfPath(path); i.isValid()) view_->setExpanded(i, true);
   // Categories are open unless somebody closed them.

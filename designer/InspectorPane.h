@@ -66,6 +66,7 @@ class InspectorPane : public QWidget {
   void RestoreRows();
   void RestoreUnfinished();
   void OpenHits(const QModelIndex& parent);
+  void TellWhenNothingFits();
   void Closed(const QModelIndex& row);
   void Walk(int rows);
   void OpenRow(bool open);
@@ -81,6 +82,7 @@ class InspectorPane : public QWidget {
   ComponentBox* components_;
   QTabBar* tabs_;
   QLineEdit* filter_;
+  QLabel* nothing_;  // that the filter leaves no row
   QTreeView* view_;
   ValueEditor* editor_;
   QLabel* description_;

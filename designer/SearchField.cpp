@@ -12,6 +12,13 @@ SearchField::SearchField(const QString& placeholder, const QString& accessibleNa
 }
 
 bool SearchField::event(QEvent* event) {
+  if (event->type() == QEvent::ShortcutOverride && text().isEmpty())
+    if (const auto* key = static_cast<QKeyEvent*>(event); key->matches(QKeySequence::Undo) ||
+                                                          key->matches(QKeySequence::Redo) ||
+                                                          key->keyCombination() == (Qt::CTRL | Qt::Key_Y)) {
+      event->ignore();
+      return true;
+    }
   const bool pressed = event->type() == QEvent::KeyPress;
   if ((pressed || event->type() == QEvent::ShortcutOverride) && !text().isEmpty() &&
       static_cast<QKeyEvent*>(event)->key() == Qt::Key_Escape) {

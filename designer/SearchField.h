@@ -8,6 +8,6 @@ class SearchField : public QLineEdit {
   SearchField(const QString& placeholder, const QString& accessibleName, QWidget* parent = nullptr);
 
  protected:
-  // Escape empties the field; only an empty one leaves the key to others.
+  // Escape empties the field; only an empty one leaves the key to others, and undo and redo with it.
   bool event(QEvent* event) override;
 };

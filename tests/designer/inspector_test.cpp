@@ -214,6 +214,40 @@ TEST_F(Inspecting, TheFilterShowsMatchingRowsOnly) {
   EXPECT_EQ(Inspector().Model().index(0, 0).data().toString(), QStringLiteral("Caption"));
 }
 
+TEST_F(Inspecting, AFilterThatFitsNothingSaysSoAndCanBeCleared) {
+  Select("Button1");
+  auto& told = *Inspector().findChild<QLabel*>(QStringLiteral("nothingFits"));
+  EXPECT_TRUE(told.isHidden());
+  QTest::keyClicks(&Inspector().FilterField(), QStringLiteral("<zz>"));
+  ASSERT_TRUE(told.isVisible());
+  EXPECT_TRUE(told.text().startsWith(QStringLiteral("No property matches \"&lt;zz&gt;\".")))
+      << told.text().toStdString();
+  told.setFocus();
+  QTest::keyClick(&told, Qt::Key_Tab);  // to the link
+  Inspector().findChild<QTabBar*>()->setCurrentIndex(1);
+  EXPECT_TRUE(told.text().startsWith(QStringLiteral("No event matches")));
+  emit told.linkActivated(QStringLiteral("clear"));
+  EXPECT_TRUE(told.isHidden());
+  EXPECT_EQ(Inspector().FilterField().text(), QString());
+  EXPECT_TRUE(Inspector().FilterField().hasFocus());
+  EXPECT_GT(Inspector().Model().rowCount(), 0);
+}
+
+TEST_F(Inspecting, AnEmptyFilterLeavesUndoAndRedoToTheForm) {
+  dynamic_cast<TControl&>(Get("Button1")).SetCaption(QStringLiteral("Other"));
+  QCoreApplication::processEvents();
+  ASSERT_TRUE(Session().CanUndo());
+  Inspector().FilterField().setFocus();
+  PressUndo();
+  EXPECT_EQ(Caption("Button1"), QStringLiteral("One"));
+  Press(Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
+  EXPECT_EQ(Caption("Button1"), QStringLiteral("Other"));
+  QTest::keyClicks(&Inspector().FilterField(), QStringLiteral("cap"));
+  PressUndo();
+  EXPECT_EQ(Caption("Button1"), QStringLiteral("Other")) << "what is typed is undone first";
+  EXPECT_EQ(Inspector().FilterField().text(), QString());
+}
+
 TEST_F(Inspecting, TheFilterOpensTheObjectOfAHitAndClosesItWithTheText) {
   Select("Led");
   QLineEdit& filter = Inspector().FilterField();
