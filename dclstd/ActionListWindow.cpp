@@ -55,6 +55,7 @@ ActionListWindow::ActionListWindow(IDesigner& designer, TActionList& list) : Com
   box->addLayout(buttons);
   box->addLayout(grid, 1);
   resize(380, 320);
+  actions->setFocus();
 }
 
 // The classes of actions that packages have registered.
@@ -111,15 +112,21 @@ void ActionListWindow::Load() {
   const auto list = Designer() ? Designer()->GetSelections() : TDesignerSelections();
   actions->clear();
   shown_.clear();
+  // Without a picture a row keeps the room for one.
+  const TCustomImageList* images = List().Get(TActionList::Images);
+  QPixmap none;
+  if (images) {
+    none = QPixmap(images->Get(TCustomImageList::Width), images->Get(TCustomImageList::Height));
+    none.fill(Qt::transparent);
+    actions->setIconSize(none.size());
+  }
   for (TContainedAction* action : All()) {
     if (!IsShown(*action)) continue;
     shown_.push_back(action);
     auto* item = new QListWidgetItem(action->Name(), actions);
     const auto* custom = As<TCustomAction>(action);
-    const TCustomImageList* images = List().Get(TActionList::Images);
-    if (custom && images)
-      if (const QImage image = images->Image(custom->Get(TCustomAction::ImageIndex)); !image.isNull())
-        item->setIcon(QPixmap::fromImage(image));
+    const QImage image = custom && images ? images->Image(custom->Get(TCustomAction::ImageIndex)) : QImage();
+    if (images) item->setIcon(image.isNull() ? none : QPixmap::fromImage(image));
     item->setSelected(std::find(list.begin(), list.end(), action) != list.end());
   }
   EnableButtons();

@@ -136,6 +136,33 @@ TEST_F(ActionListWindowTest, MovesPastTheNeighbourThatIsShown) {
   ExpectSteps(2);
 }
 
+TEST_F(ActionListWindowTest, RowsStandAlikeWithAndWithoutAPicture) {
+  TImageList images(nullptr);
+  images.Set(TCustomImageList::Width, 40);
+  images.Set(TCustomImageList::Height, 28);
+  QImage picture(40, 28, QImage::Format_ARGB32);
+  picture.fill(Qt::transparent);
+  picture.setPixelColor(0, 0, Qt::red);
+  images.SetPictures({picture});
+  session_->Run(QStringLiteral("pictures"), {}, [&] {
+    window_->List().Set(TActionList::Images, &images);
+    dynamic_cast<TAction&>(Get("CopyAction")).Set(TAction::ImageIndex, 0);
+  });
+  const QListWidget& list = *window_->actions;
+  for (int i = 0; i < list.count(); ++i) {
+    EXPECT_EQ(list.visualItemRect(list.item(i)).height(), list.visualItemRect(list.item(1)).height()) << i;
+    EXPECT_GE(list.visualItemRect(list.item(i)).height(), 28) << i;
+    const QPixmap shown = list.item(i)->icon().pixmap(40, 28);
+    EXPECT_EQ(shown.size(), QSize(40, 28)) << i;
+    EXPECT_EQ(shown.toImage().pixelColor(0, 0).alpha(), i == 1 ? 255 : 0) << i;
+  }
+  session_->Run(QStringLiteral("none"), {}, [&] {
+    window_->List().Set(TActionList::Images, nullptr);
+    dynamic_cast<TAction&>(Get("CopyAction")).Set(TAction::ImageIndex, 1);
+  });
+  EXPECT_TRUE(list.item(1)->icon().isNull()) << "without a list of pictures there is no room for any";
+}
+
 TEST_F(ActionListWindowTest, FollowsUndoAndOthersAndGoesWithTheList) {
   session_->DeleteComponents({&Get("CopyAction")});
   EXPECT_EQ(Actions(), "OpenAction|SaveAction|LooseAction");
