@@ -1,6 +1,9 @@
 #include "dclstd/ComponentWindow.h"
 
 #include <QApplication>
+#include <QMainWindow>
+#include <QScreen>
+#include <QStyle>
 
 #include "designintf/ComponentIcons.h"
 #include "designintf/IdeTheme.h"
@@ -36,16 +39,40 @@ QToolButton* ComponentWindow::NewButton(const char* name, const QString& text, c
   return button;
 }
 
+// On the screen and clear of the panes: right of the main window where there is room, else at the right edge
+// of what it has in its middle. Several stand one below the other.
+void ComponentWindow::PlaceBeside() {
+  const QWidget* owner = parentWidget();
+  while (owner && owner->parentWidget()) owner = owner->parentWidget()->window();
+  const auto* main = qobject_cast<const QMainWindow*>(owner);
+  if (!main || !main->centralWidget()) return;
+  constexpr int edge = 12, step = 28;
+  const int title = style()->pixelMetric(QStyle::PM_TitleBarHeight);
+  const QRect screen = main->screen()->availableGeometry();
+  const QRect middle(main->centralWidget()->mapToGlobal(QPoint()), main->centralWidget()->size());
+  QPoint at(main->frameGeometry().right() + edge, middle.top() + title + edge);
+  if (at.x() + width() + edge > screen.right()) at.setX(middle.right() - width() - edge);
+  at.ry() += step * static_cast<int>(std::ranges::count_if(
+                        All(), [this](const QWidget* w) { return w != this && w->isVisible(); }));
+  at.setX(std::max(screen.left(), std::min(at.x(), screen.right() - width() - edge)));
+  at.setY(std::max(screen.top() + title, std::min(at.y(), screen.bottom() - height() - edge)));
+  move(at.x(), at.y() - title);
+}
+
 void ComponentWindow::ToFront() {
+  if (!isVisible()) PlaceBeside();
   ApplyIDETheme(*this);
   show();
   raise();
   activateWindow();
 }
 
-void ComponentWindow::Leave() { close(); }
-
 // Nothing is asked of the form any more, which may be gone before the window is.
+void ComponentWindow::Leave() {
+  SetDesigner(nullptr);
+  close();
+}
+
 void ComponentWindow::closeEvent(QCloseEvent* event) {
   SetDesigner(nullptr);
   TDesignWindow::closeEvent(event);

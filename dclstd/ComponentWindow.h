@@ -59,6 +59,7 @@ class ComponentWindow : public TDesignWindow {
  private:
   QToolButton* NewButton(const char* name, const QString& text, const QString& hint, QByteArrayView drawing);
   void ToFront();
+  void PlaceBeside();
   // Whether the component is still on the form, the same or one in its place.
   bool Find();
   TComponent* component_;

@@ -211,6 +211,7 @@ void MainWindow::ShowPane(WindowPane pane, bool shown) {
 }
 
 void MainWindow::GoToFormOrInspector() {
+  activateWindow();  // the key may come from a window beside the form
   if (!inspector_->isAncestorOf(QApplication::focusWidget()))
     inspector_->FocusValue();
   else if (CommitTyping())
@@ -218,6 +219,7 @@ void MainWindow::GoToFormOrInspector() {
 }
 
 void MainWindow::GoToPalette() {
+  activateWindow();
   palette_->Search().setFocus();
   palette_->Search().selectAll();
 }
