@@ -103,6 +103,19 @@ void FormReader::ReadInto(Object& object, TComponent& component, TComponent* own
   for (const auto& child : object.children) ReadChild(*child, scope ? component : *owner, component);
 }
 
+template <class F>
+void FormReader::Guarded(const Property& property, const Object& object, F read, bool data) {
+  try {
+    read();
+  } catch (const EUnknownName& e) {
+    ReportName(e, property, object);
+  } catch (const Exception& e) {
+    Report(Severity::Error, document_.Where(property),
+           QStringLiteral("%1: %2").arg(ObjectTitle(object), e.Message()));
+    findings_.back().refusedData = data;
+  }
+}
+
 void FormReader::ReadProperties(Object& object, TComponent& component, bool reportUnknown) {
   ClassNotes& notes = notes_[&component.ClassType()];
   notes.Begin();
@@ -116,28 +129,34 @@ void FormReader::ReadProperties(Object& object, TComponent& component, bool repo
     atProperty_ = &p;
     if (!target.Found()) {
       if (!reportUnknown) continue;
-      Report(Severity::Note, document_.Where(p),
-             QStringLiteral("%1 of %2 is unknown; it is kept as it is")
-                 .arg(QString::fromUtf8(p.Name()), ObjectTitle(object)),
-             true);
+      ReportUnknown(p.Name(), p, object);
       continue;
     }
     target.path = p.Name();
     const std::size_t before = pending_.size();
-    try {
-      Apply(known, target, p);
-    } catch (const EUnknownName& e) {
-      ReportName(e, p, object);
-    } catch (const Exception& e) {
-      Report(Severity::Error, document_.Where(p),
-             QStringLiteral("%1: %2").arg(ObjectTitle(object), e.Message()));
-      findings_.back().refusedData = target.prop && target.prop->Is<QByteArray>();
-    }
+    Guarded(
+        p, object, [&] { Apply(known, target, p); }, target.prop && target.prop->Is<QByteArray>());
+    if (target.prop && target.prop->IsPart()) ReportUnread(target, p, object);
     for (std::size_t i = before; i < pending_.size(); ++i) {
       pending_[i].holder = &component;
       pending_[i].source = &p;
     }
   }
+}
+
+void FormReader::ReportUnknown(QByteArrayView name, const Property& property, const Object& object) {
+  Report(Severity::Note, document_.Where(property),
+         QStringLiteral("%1 of %2 is unknown; it is kept as it is")
+             .arg(QString::fromUtf8(name), ObjectTitle(object)),
+         true);
+}
+
+void FormReader::ReportUnread(const PropertyTarget& target, const Property& property, const Object& object) {
+  for (const UnreadValue& unread : UnreadValues(target))
+    if (unread.refused)
+      Guarded(property, object, [&] { std::rethrow_exception(unread.refused); });
+    else
+      ReportUnknown(unread.path, property, object);
 }
 
 // A name that another framework gives to a value is no mistake in a file of that framework.

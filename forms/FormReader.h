@@ -69,6 +69,11 @@ class FormReader {
   TComponent* Create(Object& object, TComponent* owner);
   void ReadInto(Object& object, TComponent& component, TComponent* owner);
   void ReadProperties(Object& object, TComponent& component, bool reportUnknown);
+  void ReportUnknown(QByteArrayView name, const Property& property, const Object& object);
+  void ReportUnread(const PropertyTarget& target, const Property& property, const Object& object);
+  // Reads, and tells of what is refused. `data`: what is refused then is data.
+  template <class F>
+  void Guarded(const Property& property, const Object& object, F read, bool data = false);
   void ReportName(const EUnknownName& error, const Property& property, const Object& object);
   void Apply(KnownProperty* known, const PropertyTarget& target, const Property& property);
   void Finish(TComponent& root);
