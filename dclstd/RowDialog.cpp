@@ -122,6 +122,22 @@ QStringList RowDialog::NamesOf(const TTypeInfo& enumeration) {
   return names;
 }
 
+void RowDialog::FinishBeside(QLayout* content, const std::vector<QPushButton*>& buttons,
+                             const std::vector<QPushButton*>& ends, QSize size) {
+  auto* column = new QVBoxLayout;
+  column->setSpacing(8);
+  for (QPushButton* button : buttons) column->addWidget(button);
+  column->addStretch(1);
+  for (QPushButton* button : ends) column->addWidget(button);
+  auto* all = new QHBoxLayout(this);
+  all->addLayout(content, 1);
+  all->addLayout(column);
+  SetTabSequence();
+  FormCreate();
+  setSizeGripEnabled(true);
+  resize(size.expandedTo(minimumSizeHint()));
+}
+
 void RowDialog::ShowRow(QWidget* control, bool visible) {
   control->setVisible(visible);
   for (QLabel* label : findChildren<QLabel*>())

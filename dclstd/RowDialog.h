@@ -113,6 +113,10 @@ class RowDialog : public ModalDialog {
   void Follows(QWidget* widget) { order_.push_back(widget); }
   // To be called when all controls are there.
   void SetTabSequence();
+  // The same, for a dialog that can be made larger: the content, beside it a column of buttons, and at the
+  // end of that those that end the dialog.
+  void FinishBeside(QLayout* content, const std::vector<QPushButton*>& buttons,
+                    const std::vector<QPushButton*>& ends, QSize size);
 
   // The control with its label.
   void ShowRow(QWidget* control, bool visible);

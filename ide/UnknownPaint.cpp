@@ -45,7 +45,11 @@ void CheckMark(QPainter& p, const QRectF& r, bool round, bool set) {
 }  // namespace
 
 void TUnknownControl::PaintText(TCanvas& canvas, const QRect& area, int flags, const QString& text) const {
-  if (area.width() > 0 && area.height() > 0) canvas.TextRect(area, flags, text, *Font(), Enabled());
+  if (area.width() <= 0 || area.height() <= 0) return;
+  // What a field or a list holds has no marks.
+  static constexpr auto Holders = {Field, Combo, Spin, Memo, List, Grid};
+  const bool holds = std::find(Holders.begin(), Holders.end(), standIn_.look) != Holders.end();
+  canvas.TextRect(area, flags | (holds ? 0 : Qt::TextShowMnemonic), text, *Font(), Enabled());
 }
 
 // Name and class, when there is nothing else to tell the control by and they fit.
@@ -220,7 +224,7 @@ bool TUnknownControl::PaintSurface(TCanvas& canvas) const {
       p.fillRect(r, palette.color(QPalette::Midlight));
       return true;
     case Divider: {
-      const int width = text.isEmpty() ? 0 : TextExtent(text, *Font()).width() + 6;
+      const int width = text.isEmpty() ? 0 : TextExtent(text, *Font(), Qt::TextShowMnemonic).width() + 6;
       PaintText(canvas, r, Middle, text);
       p.setPen(Line());
       p.drawLine(r.left() + width, r.center().y(), r.right(), r.center().y());

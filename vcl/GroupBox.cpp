@@ -67,8 +67,8 @@ void TChoiceGroup::Paint(TCanvas& canvas) {
                      inside.top() + i % rows * inside.height() / rows, inside.width() / columns,
                      inside.height() / rows);
     PaintItemMark(canvas, QRect(cell.left(), cell.top(), mark, cell.height()), i);
-    canvas.TextRect(cell.adjusted(mark + 5, 0, 0, 0), Qt::AlignVCenter | Qt::AlignLeft, items[i], *Font(),
-                    Enabled());
+    canvas.TextRect(cell.adjusted(mark + 5, 0, 0, 0), Qt::AlignVCenter | Qt::AlignLeft | Qt::TextShowMnemonic,
+                    items[i], *Font(), Enabled());
   }
 }
 

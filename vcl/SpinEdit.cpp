@@ -59,7 +59,8 @@ const TClass& TFloatSpinEdit::StaticClass() {
   static const TClass cls(
       DescribeSpinEdit<TFloatSpinEdit>("TFloatSpinEdit")
           .PublishedAll(DecimalPlaces, Value)
-          .Passive<double>("Increment")
+          .Published("Increment", &TFloatSpinEdit::Increment, &TFloatSpinEdit::SetIncrement)
+          .StoredIf(&TFloatSpinEdit::HasOwnIncrement)
           .Doc(QStringLiteral("How far a step of the arrows goes; 0 counts as 1."))
           .Passive<double>("MaxValue")
           .Passive<double>("MinValue")

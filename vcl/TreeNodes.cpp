@@ -53,7 +53,7 @@ class NodeReader {
     node.StateIndex = in_.Number();
     node.OverlayIndex = in_.Number();
     if (layout_.expandedImage) node.ExpandedImageIndex = in_.Number();
-    in_.Skip(layout_.data);
+    node.Data = in_.Bits(layout_.data);
     const std::int32_t children = in_.Number();
     if (lcl) {
       node.Height = in_.Number();
@@ -79,7 +79,7 @@ void WriteNode(TItemWriter& out, const TTreeNodesLayout& layout, const TTreeNode
   for (const int index : {node.ImageIndex, node.SelectedIndex, node.StateIndex, node.OverlayIndex})
     out.Number(index);
   if (layout.expandedImage) out.Number(node.ExpandedImageIndex);
-  out.Fill(layout.data);
+  out.Bits(layout.data, node.Data);
   out.Number(static_cast<std::int32_t>(node.Children.size()));
   if (lcl) {
     out.Number(node.Height);
