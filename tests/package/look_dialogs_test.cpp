@@ -225,9 +225,10 @@ TEST_F(LookDialogs, AllThreeColoursOfABevelShareOneListOfCustomColours) {
         Click(dlg.dlgl);
         EXPECT_EQ(dlg.test->Bevel()->Get(TVRXSimpleBevel::LightColor), clYellow);
         for (QToolButton* button : {dlg.dlgs, dlg.dlgn}) {
-          modal::NextOf<ColorEnhDialog>([](auto& colors) {
+          const int red = button == dlg.dlgs ? 17 : 23;
+          modal::NextOf<ColorEnhDialog>([red](auto& colors) {
             const auto numbers = colors.template findChildren<QSpinBox*>();
-            numbers[0]->setValue(17);
+            numbers[0]->setValue(red);
             Click(colors.template findChild<QPushButton*>(QStringLiteral("addCustom")));
             colors.accept();
           });
@@ -235,7 +236,7 @@ TEST_F(LookDialogs, AllThreeColoursOfABevelShareOneListOfCustomColours) {
           Click(button);
           EXPECT_NE(dlg.cmbL->CustomColors(), before);
         }
-        EXPECT_EQ(ToQColor(dlg.test->Bevel()->Get(TVRXSimpleBevel::NormalColor)).red(), 17);
+        EXPECT_EQ(ToQColor(dlg.test->Bevel()->Get(TVRXSimpleBevel::NormalColor)).red(), 23);
         EXPECT_EQ(ToQColor(dlg.test->Bevel()->Get(TVRXSimpleBevel::ShadowColor)).red(), 17);
       });
 }
