@@ -87,6 +87,8 @@ TEST(TeethOutline, BySizeIsAsManyAsFitBest) {
   teeth.Set(TVRXTeeth::Width, 14);
   teeth.Set(TVRXTeeth::Height, 6);
   EXPECT_EQ(Teeth(teeth), "10,20 44,20 50,27.5 44,35 50,42.5 44,50 10,50");
+  teeth.Set(TVRXTeeth::Width, 11);
+  EXPECT_EQ(teeth.Outline({10, 20, 40, 30}).size(), 2 * 3 + 1 + 2) << "three of 10 rather than two of 15";
   teeth.Set(TVRXTeeth::Width, 100);
   EXPECT_EQ(Teeth(teeth), "10,20 44,20 50,35 44,50 10,50");
   teeth.Set(TVRXTeeth::Height, 100);

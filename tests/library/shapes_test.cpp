@@ -192,6 +192,7 @@ TEST_F(ShapeDrawing, AGradientRunsWhereItsDirectionSays) {
   Apply("ShapeFill.Direction=gdRadial");
   EXPECT_LT(At(30, 20).red(), 15);
   EXPECT_GT(At(0, 0).red(), 240);
+  EXPECT_LT(At(59, 20).red(), 230) << "it ends at the corners";
 }
 
 TEST_F(ShapeDrawing, AGradientOfManyColoursHasThemAtEqualDistances) {
