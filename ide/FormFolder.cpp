@@ -2,7 +2,6 @@
 
 #include <QDir>
 #include <QFile>
-#include <algorithm>
 
 #include "forms/Document.h"
 
@@ -64,13 +63,10 @@ FormFolder::FormFolder(const QString& formFile) {
   const QFileInfo form(formFile);
   const QDir dir = form.absoluteDir();
   folder_ = dir.path();
-  QFileInfoList files = dir.entryInfoList(
-      {QStringLiteral("*.dfm"), QStringLiteral("*.lfm"), QStringLiteral("*.pas"), QStringLiteral("*.pp")},
-      QDir::Files, QDir::Name);
-  const auto alike = [&](const QFileInfo& f) {
-    return f.suffix().compare(form.suffix(), Qt::CaseInsensitive) == 0;
-  };
-  std::stable_partition(files.begin(), files.end(), alike);
+  // Files with another ending are another framework's, and may be another program's.
+  const QFileInfoList files = dir.entryInfoList(
+      {QStringLiteral("*.") + form.suffix(), QStringLiteral("*.pas"), QStringLiteral("*.pp")}, QDir::Files,
+      QDir::Name);
   int read = 0;
   for (const QFileInfo& f : files) {
     const QString suffix = f.suffix().toLower();

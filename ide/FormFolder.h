@@ -9,7 +9,7 @@ QByteArray RootClassOf(QByteArrayView head);
 
 class FormFolder {
  public:
-  // That of a form; files with the ending of the form come before others.
+  // That of a form; only files with the same ending belong to it.
   explicit FormFolder(const QString& formFile);
   const QString& Name() const { return folder_; }
   // The file whose root is of that class (no regard to case); empty when there is none.
