@@ -462,6 +462,13 @@ TEST_F(AncestorTest, FormsWithoutAFileLookForNothing) {
   EXPECT_EQ(session->AllComponents().size(), 4u);
 }
 
+TEST_F(AncestorTest, FilesWithAnotherEndingAreAnotherFrameworks) {
+  QFile::rename(Path("Head.dfm"), Path("Head.lfm"));
+  const auto session = Open("Host.dfm");
+  EXPECT_EQ(Texts(*session).size(), 1);
+  EXPECT_EQ(session->AllComponents().size(), 4u);
+}
+
 TEST_F(AncestorTest, CirclesAreTold) {
   Write("Head.dfm",
         QByteArray(Frame).replace("end\nend\n", "end\n  inline Deep1: TDeep\n    Left = 1\n  end\nend\n"));
