@@ -18,7 +18,9 @@ qsizetype CountObjects(const Object& object) {
 }
 }  // namespace
 
+// What is wrong with an origin is told where that is opened.
 void FormReader::Report(Severity severity, Location where, QString text, bool unknownName) {
+  if (from_ != &document_) return;
   findings_.push_back({severity, where, std::move(text), unknownName});
 }
 
@@ -38,10 +40,12 @@ TComponent* FormReader::Create(Object& object, TComponent* owner) {
              QStringLiteral("%1 cannot be made: %2").arg(ObjectTitle(object), e.Message()));
       return makeUnknown_(object, owner);
     }
-  Report(Severity::Note, document_.Where(object),
-         QStringLiteral("class %1 is unknown; %2 is kept as it is")
-             .arg(QString::fromUtf8(object.className), ObjectTitle(object)),
-         true);
+  // What comes from another file is told where that is opened, and the class of a frame is known by its file.
+  if (!object.implied && !(object.origin && object.IsFrame()))
+    Report(Severity::Note, document_.Where(object),
+           QStringLiteral("class %1 is unknown; %2 is kept as it is")
+               .arg(QString::fromUtf8(object.className), ObjectTitle(object)),
+           true);
   return makeUnknown_ ? makeUnknown_(object, owner) : nullptr;
 }
 
@@ -97,26 +101,38 @@ void FormReader::ReadInto(Object& object, TComponent& component, TComponent* own
   } catch (const Exception& e) {
     Report(Severity::Error, document_.Where(object), e.Message());
   }
+  ReadOrigins(object, component);
   ReadProperties(object, component, reportUnknown);
   // What stands inside an inline object has names of its own: a frame owns its components.
-  const bool scope = object.kind == ObjectKind::Inline && object.parent;
+  const bool scope = object.IsFrame() && object.parent;
   for (const auto& child : object.children) ReadChild(*child, scope ? component : *owner, component);
 }
 
 template <class F>
 void FormReader::Guarded(const Property& property, const Object& object, F read, bool data) {
+  const bool own = from_ == &document_;  // nothing is told of an origin
   try {
     read();
   } catch (const EUnknownName& e) {
-    ReportName(e, property, object);
+    if (own) ReportName(e, property, object);
   } catch (const Exception& e) {
+    if (!own) return;
     Report(Severity::Error, document_.Where(property),
            QStringLiteral("%1: %2").arg(ObjectTitle(object), e.Message()));
     findings_.back().refusedData = data;
   }
 }
 
-void FormReader::ReadProperties(Object& object, TComponent& component, bool reportUnknown) {
+void FormReader::ReadOrigins(const Object& object, TComponent& component) {
+  for (const Origin* origin : object.Origins()) {
+    from_ = origin->document;
+    ReadProperties(*origin->object, component, false);
+  }
+  from_ = &document_;
+}
+
+void FormReader::ReadProperties(const Object& object, TComponent& component, bool reportUnknown) {
+  const bool own = from_ == &document_;
   ClassNotes& notes = notes_[&component.ClassType()];
   notes.Begin();
   for (const Property& p : object.properties) {
@@ -126,9 +142,9 @@ void FormReader::ReadProperties(Object& object, TComponent& component, bool repo
       target = FindTarget(component, p.Name());
       if (target.Found() && !known) known = notes.Add(p.Name(), component, target);
     }
-    atProperty_ = &p;
+    if (own) atProperty_ = &p;
     if (!target.Found()) {
-      if (!reportUnknown) continue;
+      if (!reportUnknown) continue;  // nothing of an origin, either
       ReportUnknown(p.Name(), p, object);
       continue;
     }
@@ -136,10 +152,10 @@ void FormReader::ReadProperties(Object& object, TComponent& component, bool repo
     const std::size_t before = pending_.size();
     Guarded(
         p, object, [&] { Apply(known, target, p); }, target.prop && target.prop->Is<QByteArray>());
-    if (target.prop && target.prop->IsPart()) ReportUnread(target, p, object);
+    if (own && target.prop && target.prop->IsPart()) ReportUnread(target, p, object);
     for (std::size_t i = before; i < pending_.size(); ++i) {
       pending_[i].holder = &component;
-      pending_[i].source = &p;
+      pending_[i].source = own ? &p : nullptr;
     }
   }
 }
@@ -177,28 +193,27 @@ void FormReader::ReportName(const EUnknownName& e, const Property& property, con
 void FormReader::Apply(KnownProperty* known, const PropertyTarget& target, const Property& property) {
   // A part of another class than the one noted has its own properties.
   if (known && !known->LeadsTo(target)) known = nullptr;
-  const QByteArrayView text = known ? document_.SourceText(property) : QByteArrayView();
+  const QByteArrayView text = known ? from_->SourceText(property) : QByteArrayView();
   if (known && known->Apply(*target.instance, text)) return;
   if (known)
     if (const QByteArrayView name = known->Referenced(text); !name.isEmpty())
       return AddReference(pending_, target, name);
-  document_.Read(property, value_);
+  from_->Read(property, value_);
   if (known && known->IsOrdinal()) {
     const std::int64_t ordinal = OrdinalOf(target, value_);
     SetOrdProp(*target.instance, *target.prop, ordinal);
     known->Learn(text, ordinal);
   } else {
-    ApplyValue(target, value_, document_, pending_);
+    ApplyValue(target, value_, *from_, pending_);
   }
 }
 
 void FormReader::Finish(TComponent& root) {
   for (const PendingReference& p : ResolveReferences(root, std::exchange(pending_, {})))
-    Report(Severity::Warning, p.source ? document_.Where(*p.source) : Location{},
-           QStringLiteral("%1.%2 refers to %3")
-               .arg(p.holder->Name(),
-                    p.source ? QString::fromUtf8(p.source->Name()) : QString::fromLatin1(p.prop->Name),
-                    WhyUnresolved(p)));
+    if (p.source)
+      Report(Severity::Warning, document_.Where(*p.source),
+             QStringLiteral("%1.%2 refers to %3")
+                 .arg(p.holder->Name(), QString::fromUtf8(p.source->Name()), WhyUnresolved(p)));
   for (TComponent* c : std::exchange(loading_, {})) c->Loaded();
 }
 
