@@ -102,9 +102,9 @@ void RowDialog::PutBeside(QWidget& control, QWidget& other) {
   for (int i = 0; i < line->count(); ++i) line->setStretch(i, 1);
 }
 
-void RowDialog::Note(const char* text) {
+void RowDialog::Note(const char* text, const char* name) {
   auto* note = new QLabel(QString::fromLatin1(text), this);
-  note->setObjectName(QStringLiteral("note"));
+  note->setObjectName(QString::fromLatin1(name));
   note->setForegroundRole(QPalette::PlaceholderText);
   note->setWordWrap(true);
   Wide({note});

@@ -104,7 +104,7 @@ class RowDialog : public ModalDialog {
   // Something between the rows, under the controls.
   void Wide(const std::vector<QWidget*>& beside);
   // A quiet remark there.
-  void Note(const char* text);
+  void Note(const char* text, const char* name = "note");
   // Parts that keep the colours they have.
   void OwnColors(const std::vector<const QWidget*>& widgets) {
     own_.insert(own_.end(), widgets.begin(), widgets.end());

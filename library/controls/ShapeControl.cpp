@@ -85,27 +85,24 @@ void TVRXBaseShape::PaintFigure(TCanvas& canvas, const QRect& place) {
   QPolygonF outline = Outline(place);
   if (outline.size() < 3) return;
   const QPainterPath figure = PathOf(outline);
+  const QRectF size = figure.boundingRect();
+  const bool outlined = Get(BevelColor) != clNone && size.width() > 1 && size.height() > 1;
   QPainter& p = canvas.Painter();
   p.setRenderHint(QPainter::Antialiasing);
   Shadow()->Draw(canvas, figure);
-  FillFigure(canvas, figure);
-  int edge = 0;
-  if (const QRectF size = outline.boundingRect();
-      Get(BevelColor) != clNone && size.width() > 1 && size.height() > 1) {
+  // To the middle of the outline, so that no light shines through at its edge.
+  FillFigure(canvas, outlined ? PathOf(InsetOutline(outline, 0.5)) : figure);
+  if (outlined) {
     const TEdgeStrip strip = StripInside(outline, 1);
-    p.save();
-    p.setClipPath(figure, Qt::IntersectClip);
     QPainterPath whole = strip.Shaded;
     whole.addPath(strip.Lit);
     p.fillPath(whole, ToQColor(Get(BevelColor)));
-    p.restore();
     outline = InsetOutline(outline, 1);
-    edge = 1;
   }
   Bevel()->Draw(canvas, outline);
   constexpr int Padding = 2;
-  edge += Bevel()->Room() + Padding;
-  const QRect room = figure.boundingRect().toAlignedRect();
+  const int edge = outlined + Bevel()->Room() + Padding;
+  const QRect room = size.toAlignedRect();
   p.save();
   p.setClipRect(room, Qt::IntersectClip);
   Caption()->Draw(canvas, room.adjusted(edge, edge, -edge, -edge), Enabled(), Brush()->Color());

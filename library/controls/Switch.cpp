@@ -27,13 +27,14 @@ const TClass& TVRXCustomSwitch::StaticClass() {
 namespace {
 constexpr const char* TwoStates[] = {"Bevel",       "CaptionChecked", "CaptionUnChecked", "Checked",
                                      "Color",       "ColorChecked",   "ColorUnChecked",   "Enabled",
-                                     "ParentColor", "TabOrder",       "TabStop",          "Transparent",
-                                     "Visible"};
+                                     "ParentColor", "TabOrder",       "Transparent",      "Visible"};
 }  // namespace
 
 const TClass& TVRXSwitch::StaticClass() {
   static const TClass cls(DescribeClass<TVRXSwitch>("TVRXSwitch", TVRXCustomSwitch::StaticClass())
-                              .PublishAll(Placing, TwoStates, Hints, MouseEvents, KeyEvents, FocusEvents)
+                              .PublishAll(Placing, TwoStates, Hints)
+                              .Publish("TabStop", true)
+                              .PublishAll(MouseEvents, KeyEvents, FocusEvents)
                               .ClassDoc(QStringLiteral("A knob that slides to switch something on.")));
   return cls;
 }
@@ -41,7 +42,9 @@ const TClass& TVRXSwitch::StaticClass() {
 const TClass& TVRXWSwitch::StaticClass() {
   static const TClass cls(
       DescribeClass<TVRXWSwitch>("TVRXWSwitch", TVRXCustomSwitch::StaticClass())
-          .PublishAll(Placing, TwoStates, Hints, MouseEvents, KeyEvents, FocusEvents)
+          .PublishAll(Placing, TwoStates, Hints)
+          .Publish("TabStop", true)
+          .PublishAll(MouseEvents, KeyEvents, FocusEvents)
           .ClassDoc(QStringLiteral("A lever that leans to one of two states."),
                     "pen line 1.5 brush fill box 2.5 12 19 8 2 pen line 2.4 path 12 15 16.5 6.5 pen none "
                     "brush accent oval 13.5 2.5 6 6"));

@@ -11,12 +11,16 @@ const TClass& TVRXTechnicalLine::StaticClass() {
           .Publish("Enabled")
           .Published(LineEnding)
           .Doc(QStringLiteral("The sign at the right or lower end."))
+          .Published(LineColor)
+          .Doc(QStringLiteral("Colour of the line and its signs."))
           .Published(LineStart)
           .Doc(QStringLiteral("The sign at the left or upper end."))
+          .Published(LineStyle)
+          .Doc(QStringLiteral("Whether the line is solid, or how it is broken."))
           .Published(LineType)
           .Doc(QStringLiteral("Where the line runs."))
-          .Published(PenPart)
-          .Doc(QStringLiteral("Colour, width and style of the line."))
+          .Published(LineWidth)
+          .Doc(QStringLiteral("Width of the line, in pixels."))
           .PublishAll(Hints)
           .Published(ShadowColor)
           .Doc(QStringLiteral("Colour of the shadow."))
@@ -39,7 +43,7 @@ TVRXTechnicalLine::TVRXTechnicalLine(TComponent* owner) : TGraphicControl(owner)
 
 // Signs and thick lines stay inside; whole pixels keep straight lines sharp.
 QLineF TVRXTechnicalLine::Line() const {
-  const int thick = std::clamp(Pen()->Width(), 1, 1000), sign = Get(Arrowed) ? Get(SignSize) : 0;
+  const int thick = std::clamp(Get(LineWidth), 1, 1000), sign = Get(Arrowed) ? Get(SignSize) : 0;
   const double margin = std::min<double>(std::max(thick, sign) / 2.0, std::min(Width(), Height()) / 2.0);
   const double sharp = thick % 2 == 0 ? 0 : 0.5;
   const QRectF r = QRectF(ClientRect()).adjusted(margin, margin, -margin, -margin);
@@ -121,7 +125,10 @@ void TVRXTechnicalLine::PaintLine(QPainter& p, const QColor& color) const {
     if (across == 0 && line.length() > size)
       end += (atStart ? 1 : -1) * QPointF(line.dx(), line.dy()) * (size / 2 / line.length());
   }
-  QPen pen = ToQPen(*Pen());
+  TPen kind;
+  kind.SetStyle(Get(LineStyle));
+  kind.SetWidth(Get(LineWidth));
+  QPen pen = ToQPen(kind);
   pen.setColor(color);
   pen.setCapStyle(Qt::FlatCap);
   p.setPen(pen);
@@ -141,6 +148,6 @@ void TVRXTechnicalLine::Paint(TCanvas& canvas) {
     PaintLine(p, ToQColor(Get(ShadowColor)));
     p.translate(-Get(ShadowDepth), -Get(ShadowDepth));
   }
-  PaintLine(p, ToQColor(Enabled() ? Pen()->Color() : clGrayText));
+  PaintLine(p, ToQColor(Enabled() ? Get(LineColor) : clGrayText));
   p.restore();
 }

@@ -31,13 +31,14 @@ class TVRXTechnicalLine : public TGraphicControl {
   static constexpr TKept<TVRXLineSign> LineEnding{"LineEnding", TVRXLineSign::lsArrowRight};
   static constexpr TKept<TVRXLineSign> LineStart{"LineStart", TVRXLineSign::lsArrowLeft};
   static constexpr TKept<TVRXLineType> LineType{"LineType", TVRXLineType::ltHorizontal};
-  static constexpr TKept<TPen*> PenPart{"Pen"};
+  static constexpr TKept<TColor> LineColor{"LineColor", clWindowText};
+  static constexpr TKept<TPenStyle> LineStyle{"LineStyle", TPenStyle::psSolid};
+  static constexpr TKept<int> LineWidth{"LineWidth", 1};
   static constexpr TKept<TColor> ShadowColor{"ShadowColor", clBtnShadow};
   static constexpr TKept<std::int8_t> ShadowDepth{"ShadowDepth", 2};
   static constexpr TKept<bool> ShadowVisible{"ShadowVisible", false};
   static constexpr TKept<TVRXSignPlaces> SignPlaces{"SignPlaces", TVRXSignPlaces::spEnd};
   static constexpr TKept<std::uint8_t> SignSize{"SignSize", 8};
-  TPen* Pen() const { return Get(PenPart); }
 
   // From its left or upper end to the other one.
   QLineF Line() const;

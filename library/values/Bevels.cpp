@@ -33,7 +33,9 @@ void TVRXSimpleBevel::Draw(TCanvas& canvas, const QPolygonF& outline) const {
   QPainter& p = canvas.Painter();
   p.save();
   p.setRenderHint(QPainter::Antialiasing);
-  p.setClipPath(PathOf(outline), Qt::IntersectClip);
+  // Clipping leaves edges rough; only a strip that is too wide needs it.
+  const QSizeF size = outline.boundingRect().size();
+  if (4 * Room() > std::min(size.width(), size.height())) p.setClipPath(PathOf(outline), Qt::IntersectClip);
   p.fillPath(strip.Shaded, ToQColor(shaded));
   p.fillPath(strip.Lit, ToQColor(lit));
   p.restore();

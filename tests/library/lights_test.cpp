@@ -56,16 +56,16 @@ TEST(EveryProperty, OfATechnicalLineIsSeen) {
                                          {"", "LineEnding=lsCircle"},
                                          {"SignPlaces=spStart", "LineStart=lsDiamond"},
                                          {"", "LineType=ltDiagonalUp"},
-                                         {"", "Pen.Color=clRed"},
-                                         {"", "Pen.Width=3"},
-                                         {"", "Pen.Style=psDot"},
+                                         {"", "LineColor=clRed"},
+                                         {"", "LineWidth=3"},
+                                         {"", "LineStyle=psDot"},
                                          {"", "ShadowVisible=True"},
                                          {"ShadowVisible=True", "ShadowColor=clRed"},
                                          {"ShadowVisible=True", "ShadowDepth=-3"},
                                          {"", "SignPlaces=spBoth"},
                                          {"", "SignSize=14"},
                                          {"", "Enabled=False"}},
-                                        {101, 31}, {QStringLiteral("Pen.Mode")});
+                                        {101, 31}, {});
 }
 
 TEST(Light, OfEverySchemeIsBrightWhenItIsOnAndDarkWhenItIsOff) {
@@ -151,12 +151,12 @@ TEST(Switch, ColoursByStateAreTheProperties) {
 TEST(TechnicalLine, WithoutSignsIsOneSharpLine) {
   TVRXTechnicalLine line(nullptr);
   line.SetBounds(0, 0, 70, 21);
-  visible::Apply(line, QStringLiteral("Arrowed=False Pen.Color=clRed"));
+  visible::Apply(line, QStringLiteral("Arrowed=False LineColor=clRed"));
   EXPECT_EQ(InkOf(line), QRect(0, 10, 70, 1));
   EXPECT_EQ(CountPixels(Draw(line, Qt::white), Qt::red), 70);
-  visible::Apply(line, QStringLiteral("Pen.Width=4"));
+  visible::Apply(line, QStringLiteral("LineWidth=4"));
   EXPECT_EQ(InkOf(line), QRect(0, 8, 70, 4));
-  visible::Apply(line, QStringLiteral("LineType=ltVertical Pen.Width=1"));
+  visible::Apply(line, QStringLiteral("LineType=ltVertical LineWidth=1"));
   EXPECT_EQ(InkOf(line), QRect(35, 0, 1, 21));
 }
 
@@ -222,7 +222,7 @@ TEST(TechnicalLine, AnOutwardArrowFollowsTheLine) {
 TEST(TechnicalLine, CastsItsShadowBehindIt) {
   TVRXTechnicalLine line(nullptr);
   line.SetBounds(0, 0, 70, 21);
-  visible::Apply(line, QStringLiteral("Arrowed=False Pen.Color=clRed ShadowVisible=True ShadowColor=clBlue "
+  visible::Apply(line, QStringLiteral("Arrowed=False LineColor=clRed ShadowVisible=True ShadowColor=clBlue "
                                       "ShadowDepth=3"));
   const QImage image = Draw(line, Qt::white);
   EXPECT_EQ(image.pixelColor(30, 10), QColor(Qt::red));
