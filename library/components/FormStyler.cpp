@@ -1,5 +1,7 @@
 #include "library/components/FormStyler.h"
 
+#include "rtl/PropAccess.h"
+
 const TClass& TVRXFormStyler::StaticClass() {
   static const TClass cls(
       DescribeClass<TVRXFormStyler>("TVRXFormStyler", TFormDecor::StaticClass())
@@ -10,7 +12,8 @@ const TClass& TVRXFormStyler::StaticClass() {
           .Doc(QStringLiteral("Whether it changes the title bar."))
           .Published(EndColor)
           .Doc(QStringLiteral("Colour of the title bar's end while the form is active."))
-          .Published(FontPart)
+          .Published("Font", &TVRXFormStyler::Font, &TVRXFormStyler::SetFont)
+          .StoredIf(&TVRXFormStyler::FontStored)
           .Published(Font3DPart)
           .Doc(QStringLiteral("Light and shadow of the caption's letters."))
           .Published(InactiveColor)
@@ -29,7 +32,12 @@ const TClass& TVRXFormStyler::StaticClass() {
   return cls;
 }
 
-TVRXFormStyler::TVRXFormStyler(TComponent* owner) : TFormDecor(owner) {}
+TVRXFormStyler::TVRXFormStyler(TComponent* owner) : TFormDecor(owner), font_(std::make_unique<TFont>(this)) {}
+
+bool TVRXFormStyler::FontStored() const {
+  static const TFont plain;
+  return !SameValues(*font_, plain);
+}
 
 void TVRXFormStyler::PaintTitle(TCanvas& canvas, const QPainterPath& bar, bool active) const {
   if (!Get(Enabled)) return;

@@ -25,13 +25,13 @@ class TVRXFormStyler : public TFormDecor {
   static constexpr TKept<QString> Caption{"Caption"};
   static constexpr TKept<bool> Enabled{"Enabled", true};
   static constexpr TKept<TColor> EndColor{"EndColor", clBtnFace};
-  static constexpr TKept<TFont*> FontPart{"Font"};
   static constexpr TKept<TVRXFont3D*> Font3DPart{"Font3D"};
   static constexpr TKept<TColor> InactiveColor{"InactiveColor", clInactiveCaption};
-  static constexpr TKept<TColor> InactiveEndColor{"InactiveEndColor", clBtnFace};
+  static constexpr TKept<TColor> InactiveEndColor{"InactiveEndColor", cl3DLight};
   static constexpr TKept<TColor> StartColor{"StartColor", clActiveCaption};
 
-  TFont* Font() const { return Get(FontPart); }
+  TFont* Font() const { return font_.get(); }
+  void SetFont(const TFont* v) { font_->Assign(v); }
   TVRXFont3D* Font3D() const { return Get(Font3DPart); }
   TVRXFormStylerOptions Options() const { return options_; }
   void SetOptions(TVRXFormStylerOptions v) { Change(options_, v); }
@@ -41,7 +41,9 @@ class TVRXFormStyler : public TFormDecor {
                     bool active) const override;
 
  private:
+  bool FontStored() const;
   bool Has(TVRXFormStylerOption option) const { return options_.Contains(option); }
+  std::unique_ptr<TFont> font_;
   TVRXFormStylerOptions options_ = DefaultOptions;
   static constexpr TVRXFormStylerOptions DefaultOptions{
       TVRXFormStylerOption::foAdjustRect, TVRXFormStylerOption::foActiveGradient,

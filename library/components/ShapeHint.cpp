@@ -1,5 +1,7 @@
 #include "library/components/ShapeHint.h"
 
+#include "rtl/PropAccess.h"
+
 const TClass& TVRXCustomShapeHint::StaticClass() {
   static const TClass cls(DescribeClass<TVRXCustomShapeHint>("TVRXCustomShapeHint", TComponent::StaticClass())
                               .Declared(BorderColor)
@@ -8,13 +10,22 @@ const TClass& TVRXCustomShapeHint::StaticClass() {
                               .Doc(QStringLiteral("Colour of the ground."))
                               .Declared(Enabled)
                               .Doc(QStringLiteral("Whether hints look like this."))
-                              .Declared(FontPart)
+                              .Declared("Font", &TVRXCustomShapeHint::Font, &TVRXCustomShapeHint::SetFont)
+                              .StoredIf(&TVRXCustomShapeHint::FontStored)
                               .Declared(Font3DPart)
                               .Doc(QStringLiteral("Light and shadow of the letters."))
                               .Declared(ShadowPart)
                               .Doc(QStringLiteral("The shadow of the hint.")));
   return cls;
 }
+TVRXCustomShapeHint::TVRXCustomShapeHint(TComponent* owner)
+    : TComponent(owner), font_(std::make_unique<TFont>(this)) {}
+
+bool TVRXCustomShapeHint::FontStored() const {
+  static const TFont plain;
+  return !SameValues(*font_, plain);
+}
+
 const TClass& TVRXShapeHint::StaticClass() {
   static const TClass cls(
       DescribeClass<TVRXShapeHint>("TVRXShapeHint", TVRXCustomShapeHint::StaticClass())

@@ -18,6 +18,8 @@ const TClass& TVRXClock::StaticClass() {
           .Doc(QStringLiteral("What the segment letters show, as dd, mm, hh, nn, ss; empty for the time."))
           .Published(DigitalPart)
           .Doc(QStringLiteral("Size and colours of the segment letters."))
+          .Published(DigitalColor)
+          .Doc(QStringLiteral("Colour behind the segment letters; clNone is none."))
           .Published(DigitalOnly)
           .Doc(QStringLiteral("Shows the segment letters alone."))
           .PublishAll("Enabled")
@@ -97,6 +99,7 @@ void TVRXClock::PaintDigital(TCanvas& canvas, const QRect& rect) const {
   QPainter& p = canvas.Painter();
   p.save();
   p.setClipRect(rect, Qt::IntersectClip);
+  canvas.FillRect(rect, Get(DigitalColor));
   DrawLEDText(canvas,
               rect.topLeft() + QPoint((rect.width() - size.width()) / 2, (rect.height() - size.height()) / 2),
               text, *Digital(), Enabled() || !Digital()->DisabledDigits());

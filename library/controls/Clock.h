@@ -19,6 +19,8 @@ class TVRXClock : public TGraphicControl {
   static constexpr TKept<TVRXLED*> DigitalPart{"Digital"};
   // Without the hands.
   static constexpr TKept<bool> DigitalOnly{"DigitalOnly", false};
+  // Behind the segment letters; clNone is what is behind the clock.
+  static constexpr TKept<TColor> DigitalColor{"DigitalColor", clBlack};
   static constexpr TKept<TColor> FaceColor{"FaceColor", clWindow};
   static constexpr TKept<TColor> HourColor{"HourColor", clWindowText};
   static constexpr TKept<TColor> MarkColor{"MarkColor", clGrayText};

@@ -124,6 +124,7 @@ TEST_F(Moving, EveryPropertyOfAClockIsSeen) {
   visible::ExpectAll<TVRXClock>(
       {{"", "DigitalOnly=True"},
        {"", "FaceColor=clYellow"},
+       {"", "DigitalColor=clYellow"},
        {"", "HourColor=clRed"},
        {"", "MinuteColor=clRed"},
        {"", "SecondColor=clBlue"},
