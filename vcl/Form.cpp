@@ -1,5 +1,6 @@
 #include "vcl/Form.h"
 
+#include "vcl/FormDecor.h"
 #include "vcl/MenuLook.h"
 #include "vcl/PropertyGroups.h"
 
@@ -264,5 +265,7 @@ void TForm::Loaded() {
 }
 
 void TForm::Paint(TCanvas& canvas) {
+  for (const TFormDecor* decor : TFormDecor::Of(*this))
+    if (decor->PaintGround(canvas, ClientRect())) return;
   canvas.FillRect(ClientRect(), kind_ == TFormKind::DataModule ? clWindow : Color());
 }

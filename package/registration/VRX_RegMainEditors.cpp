@@ -1,10 +1,13 @@
 #include "package/registration/VRX_RegMainEditors.h"
 
 #include "dclstd/DialogRegistration.h"
+#include "library/controls/Clock.h"
 #include "library/values/ButtonFace.h"
 #include "library/values/Caption.h"
+#include "library/values/DateTimeFormat.h"
 #include "library/values/RegionMask.h"
 #include "library/values/ShapeType.h"
+#include "library_design/pVRXPeCore.h"
 #include "package/dialogs/pVRX3DEffectEditorDlg.h"
 #include "package/dialogs/pVRXBmpRegionEditorDlg.h"
 #include "package/dialogs/pVRXCaptionEditorDlg.h"
@@ -22,6 +25,7 @@ namespace {
 const Row kRows[] = {
     Property<TVRXShadow, TVRXShadowProperty>(),
     Property<TVRXShapeFill, TVRXShapeFillProperty>(),
+    Property<TVRXDateTimeFormat, TVRXDateTimeFormatProperty, TVRXClock>("CustomDateTimeFormat"),
     Property<TVRXCaption, TVRXCaptionProperty>(),
     Property<TVRXRegionMask, TVRXRegionMaskProperty>(),
     Property<TVRXButtonFace, TVRXButtonFaceProperty>(),

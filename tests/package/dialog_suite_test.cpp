@@ -4,9 +4,13 @@
 #include "dclstd/FontDialog.h"
 #include "designintf/IdeTheme.h"
 #include "library_design/ColorDialogs.h"
+#include "library_design/DateTimeFormatDialog.h"
 #include "library_design/FillDialog.h"
+#include "library_design/Font3DDialog.h"
 #include "library_design/FontDialogs.h"
+#include "library_design/ImageListDialogs.h"
 #include "library_design/LookDialogs.h"
+#include "library_design/ValueDialogs.h"
 #include "package/dialogs/pVRXCaptionEditorDlg.h"
 #include "package/dialogs/pVRXLEDEditorDlg.h"
 #include "package/dialogs/pVRXShadowEditorDlg.h"
@@ -50,6 +54,11 @@ constexpr TabRow TabRows[] = {
     {"TVRXBevelEditorDlg", 0,
      "cmbouter cmbinner edwidth cmbL dlgl cmbs dlgs edborder cmbb dlgb ok cancel reset"},
     {"TVRXBrushEditorDlg", 0, "cmbstyle cmbcolor dlgc ok cancel reset"},
+    {"TVRXFont3DEditorDlg", 0, "cmbstyle edlight cmbL edshadow cmbs edx edy ok cancel reset"},
+    {"TVRXDateTimeFormatDlg", 0, "edformat usual ok cancel"},
+    {"TVRXImageListDlg", 0, "lists images ok cancel"},
+    {"TVRXSelectValueDlg", 0, "names ok cancel"},
+    {"TVRXTextDlg", 0, "text ok cancel"},
 };
 
 std::vector<TDialogRegistration> AllDialogs() {
@@ -57,7 +66,8 @@ std::vector<TDialogRegistration> AllDialogs() {
   const RegistrationScope scope(registry, nullptr, {});
   VRX_RegMainEditors::Register();
   registration::Dialogs<TVRXFontFxEditorDlg, FontDialog, TVRXFillEditorDlg, TVRXBevelEditorDlg,
-                        TVRXBrushEditorDlg>()
+                        TVRXBrushEditorDlg, TVRXFont3DEditorDlg, TVRXDateTimeFormatDlg, TVRXImageListDlg,
+                        TVRXSelectValueDlg, TVRXTextDlg>()
       .Call();
   return registry.Dialogs();
 }
@@ -264,7 +274,7 @@ TEST_F(DialogSuite, NothingBeyondItsLimitsCanBeTypedIntoASpinEdit) {
       ++edits;
     }
   });
-  EXPECT_EQ(edits, 10 + 1 + 1 + 3 + 1 + 2);
+  EXPECT_EQ(edits, 10 + 1 + 1 + 3 + 1 + 2 + 4);
 }
 
 TEST_F(DialogSuite, AllColoursOfADialogShareTheirCustomColours) {
@@ -283,7 +293,7 @@ TEST_F(DialogSuite, AllColoursOfADialogShareTheirCustomColours) {
     dialog.reject();
     EXPECT_EQ(LoadIDECustomColors(), colors);
   });
-  EXPECT_EQ(shared, 2 + 1 + 3 + 4 + 2 + 1 + 2 + 3 + 1);
+  EXPECT_EQ(shared, 2 + 1 + 3 + 4 + 2 + 1 + 2 + 3 + 1 + 2);
 }
 
 TEST_F(DialogSuite, TheExtendedColourDialogKeepsTheLastSixteenCustomColours) {

@@ -5,6 +5,7 @@
 #include "dclstd/FontDialog.h"
 #include "dclstd/LinesDialog.h"
 #include "library_design/ColorDialogs.h"
+#include "library_design/Font3DDialog.h"
 #include "library_design/FontDialogs.h"
 #include "library_design/LookDialogs.h"
 #include "package/property_editors/pVRXCPGetMain.h"
@@ -100,6 +101,7 @@ TEST_F(EveryDialog, OfAValueKeepsIt) {
   ExpectKept<TVRXShapeFill>([](TVRXShapeFill& v) { return VRXCPGetShapeFill(v); }, "shape fill");
   ExpectKept<TVRXBevel>(VRXCPGetBevel, "bevel");
   ExpectKept<TBrush>(VRXCPGetBrush, "brush");
+  ExpectKept<TVRXFont3D>(VRXCPGetFont3D, "light and shadow");
   ExpectKept<TFont>(VRXCPGetFont, "font");
   ExpectKept<TFont>(EditFont, "font of the inspector");
   for (const bool window : {true, false}) {
