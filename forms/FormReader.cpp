@@ -78,6 +78,7 @@ TComponent* FormReader::ReadChild(Object& object, TComponent& owner, TComponent&
   TComponent* component = Create(object, &owner);
   if (!component) return nullptr;
   component->BeginLoading();
+  TakeFamilyDefaults(*component);
   component->SetParentComponent(&parent);
   ReadInto(object, *component, &owner);
   if (!object.parent || object.parent == map_.ObjectOf(parent)) {

@@ -192,6 +192,10 @@ void TForm::SetBounds(int left, int top, int width, int height) {
   TWinControl::SetBounds(left, top, width, height);
 }
 
+bool TForm::IsOfOtherFamily() const {
+  return sizeIsClient_ || !Get(LCLVersion).isEmpty() || TWinControl::IsOfOtherFamily();
+}
+
 void TForm::SetSizeIsClient(bool v) {
   sizeIsClient_ = v;
   const QSize client(ClientWidth(), ClientHeight());

@@ -1,7 +1,6 @@
 #include "vcl/ListItems.h"
 
 #include "rtl/Class.h"
-#include "vcl/FormFamily.h"
 #include "vcl/ItemStream.h"
 
 namespace {
@@ -177,7 +176,7 @@ void TListItems::SetItems(const QList<TListViewItem>& items) {
   Decode();
   if (items == read_.items) return;
   TListItemsLayout layout = read_.layout;
-  if (bytes_.isEmpty() && StandsOnClientSizedForm(*this))
+  if (bytes_.isEmpty() && IsOfOtherFamily())
     layout = {TListItemsKey::LazData, 0, true, false, 0, 0, 4};
   if (layout.key == TListItemsKey::Data && !IsPlain(items)) layout = {};
   if (layout.images == 0 && HasImages(items)) layout.images = layout.key == TListItemsKey::ItemData ? 2 : 4;

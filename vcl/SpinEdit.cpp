@@ -45,7 +45,9 @@ TClassBuilder DescribeSpinEdit(const char* name) {
 const TClass& TSpinEdit::StaticClass() {
   static const TClass cls(
       DescribeSpinEdit<TSpinEdit>("TSpinEdit")
-          .PublishedAll(Increment, MaxValue, MinValue, Value)
+          .PublishedAll(Increment, MinValue, Value)
+          .Published(MaxValue)
+          .OtherDefault(100)
           .Alphabetical()
           .ClassDoc(
               QStringLiteral("A field for a whole number, with arrows that count it up and down."),

@@ -2,7 +2,6 @@
 
 #include "rtl/Class.h"
 #include "rtl/Exceptions.h"
-#include "vcl/FormFamily.h"
 #include "vcl/ItemStream.h"
 
 namespace {
@@ -189,7 +188,7 @@ void TTreeNodes::SetNodes(const TTreeNodeList& nodes) {
   if (DepthOf(nodes) > DeepestNode)
     throw EComponentError(QStringLiteral("A tree cannot be deeper than %1 levels.").arg(DeepestNode));
   TTreeNodesLayout layout = read_.layout;
-  if (bytes_.isEmpty() && StandsOnClientSizedForm(*this)) layout = {LclData, 2, false, 0, false};
+  if (bytes_.isEmpty() && IsOfOtherFamily()) layout = {LclData, 2, false, 0, false};
   if (layout.key == TTreeNodesKey::Data && !IsPlain(nodes)) layout = {};
   Keep(layout.key, WriteTreeNodes(layout, nodes));
 }
