@@ -57,12 +57,11 @@ QPainterPath LettersOf(const QString& caption, const QFont& font, const QRect& r
 }  // namespace
 
 void TVRXCustomLabelFill::PaintText(TCanvas& canvas, const QRect& rect) {
-  // The effect lies behind the letters, which are filled instead of being drawn.
-  Font3D()->Draw(canvas, rect, TextFlags(), Caption(), *Font(), Enabled(), Color());
+  if (!Enabled()) return TVRXCustomLabel::PaintText(canvas, rect);
+  Font3D()->DrawEffect(canvas, rect, TextFlags(), Caption(), *Font());
   const QPainterPath letters =
       LettersOf(Caption(), ToQFont(*Font()), rect.marginsRemoved(Font3D()->Room()), TextFlags());
   if (letters.isEmpty()) return;
-  if (!Enabled()) return;
   if (Get(BrushBackColor) == clNone || FillObject()->Get(TVRXFillObject::Kind) != TVRXFillKind::fkHatch)
     return FillObject()->Draw(canvas, letters, Get(ImageList));
   TVRXFillObject fill;

@@ -43,16 +43,17 @@ QMargins TVRXFont3D::Room() const {
   return room;
 }
 
-void TVRXFont3D::Draw(TCanvas& canvas, const QRect& rect, int flags, const QString& text, const TFont& font,
-                      bool enabled, TColor behind) const {
+void TVRXFont3D::DrawLayers(TCanvas& canvas, const QRect& rect, int flags, const QString& text,
+                            const TFont& font, bool enabled, TColor behind, bool withLetters) const {
   const QRect room = rect.marginsRemoved(Room());
+  const TColor own = font.Color() == clDefault ? clWindowText : font.Color();
+  auto layers = LayersOf(*this, ToQColor(enabled ? own : clGrayText), ToQColor(behind));
+  if (!withLetters) layers.pop_back();
   QPainter& p = canvas.Painter();
   p.save();
   p.setFont(ToQFont(font));
-  const TColor own = font.Color() == clDefault ? clWindowText : font.Color();
-  const TColor letters = enabled ? own : clGrayText;
   const QString shown = ShownText(text);
-  for (const TVRXTextLayer& layer : LayersOf(*this, ToQColor(letters), ToQColor(behind))) {
+  for (const TVRXTextLayer& layer : layers) {
     if (layer.Color.alpha() == 0) continue;
     p.setPen(layer.Color);
     p.drawText(room.translated(layer.Offset), flags | Qt::TextDontClip, shown);

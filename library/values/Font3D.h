@@ -24,5 +24,16 @@ class TVRXFont3D : public TKeptPart {
   // Draws the text and its effect into the rectangle; `flags` are Qt::AlignmentFlag and Qt::TextFlag.
   // `behind` is the colour that the text stands on.
   void Draw(TCanvas& canvas, const QRect& rect, int flags, const QString& text, const TFont& font,
-            bool enabled, TColor behind) const;
+            bool enabled, TColor behind) const {
+    DrawLayers(canvas, rect, flags, text, font, enabled, behind, true);
+  }
+  // The effect alone, for letters that are drawn in another way.
+  void DrawEffect(TCanvas& canvas, const QRect& rect, int flags, const QString& text,
+                  const TFont& font) const {
+    DrawLayers(canvas, rect, flags, text, font, true, clNone, false);
+  }
+
+ private:
+  void DrawLayers(TCanvas& canvas, const QRect& rect, int flags, const QString& text, const TFont& font,
+                  bool enabled, TColor behind, bool withLetters) const;
 };

@@ -98,6 +98,9 @@ TEST(LabelFill, TheLettersHaveTheColoursOfTheFill) {
   const auto solid = Texted<TVRXLabelFill>("FillObject.Kind=fkSolid FillObject.Color=clRed Font.Color=clRed");
   const QImage red = Draw(*solid, Qt::white);
   EXPECT_GT(CountPixels(red, Qt::red), 60);
+  const auto inFont =
+      Texted<TVRXLabelFill>("FillObject.Kind=fkSolid FillObject.Color=clRed Font.Color=clBlue");
+  EXPECT_EQ(Draw(*inFont, Qt::white), red) << "nothing of the font's colour shows at their edges";
   const auto hatch = Texted<TVRXLabelFill>(
       "FillObject.Kind=fkHatch FillObject.Color=clRed FillObject.EndColor=clBlue Font.Height=-40");
   EXPECT_GT(CountPixels(Draw(*hatch, Qt::white), Qt::blue), 40);
