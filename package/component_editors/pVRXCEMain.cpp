@@ -3,6 +3,7 @@
 #include "designintf/CustomColors.h"
 #include "library_design/ColorDialogs.h"
 #include "library_design/LookDialogs.h"
+#include "library_design/ValueDialogs.h"
 #include "package/property_editors/pVRXCPGetMain.h"
 
 bool VRXCPGetColorCP(TColor& color) {
@@ -13,6 +14,16 @@ bool VRXCPGetColorCP(TColor& color) {
 }
 
 const TVRXLEDLabelComponentEditor::Verbs TVRXLEDLabelComponentEditor::Table = {
+    Verb("Caption",
+         [](TVRXLEDCustomLabel& label) {
+           QString caption = label.Caption();
+           if (!VRXCPGetCaption(caption)) return false;
+           label.SetCaption(caption);
+           return true;
+         })
+        .DataAware("[DB] No caption available"),
+    Flag("AutoSize"),
+    {"Bevel", Launch(&TVRXLEDCustomLabel::Bevel, VRXCPGetBevel)},
     {"LED", Launch(&TVRXLEDCustomLabel::LED, VRXCPGetLED)},
 };
 bool TVRXLEDLabelComponentEditor::EditProperty(const TPropertyEditor& property) const {

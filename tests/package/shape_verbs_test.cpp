@@ -8,8 +8,10 @@
 #include "library_design/ColorDialogs.h"
 #include "library_design/FillDialog.h"
 #include "library_design/LookDialogs.h"
+#include "library_design/ValueDialogs.h"
 #include "package/component_editors/pVRXCEMain.h"
 #include "package/dialogs/pVRXCaptionEditorDlg.h"
+#include "package/dialogs/pVRXLEDEditorDlg.h"
 #include "package/dialogs/pVRXLightEditorDlg.h"
 #include "package/dialogs/pVRXShadowEditorDlg.h"
 #include "package/dialogs/pVRXShapeEditorDlg.h"
@@ -57,6 +59,17 @@ class TVRXDBSwitch : public TVRXSwitch {
 };
 const TClass& TVRXDBSwitch::StaticClass() {
   static const TClass cls(DescribeClass<TVRXDBSwitch>("TVRXDBSwitch", TVRXSwitch::StaticClass()));
+  return cls;
+}
+
+class TVRXDBLEDLabel : public TVRXLEDCustomLabel {
+  VRX_CLASS(TVRXDBLEDLabel)
+ public:
+  using TVRXLEDCustomLabel::TVRXLEDCustomLabel;
+};
+const TClass& TVRXDBLEDLabel::StaticClass() {
+  static const TClass cls(DescribeClass<TVRXDBLEDLabel>("TVRXDBLEDLabel", TVRXLEDCustomLabel::StaticClass())
+                              .Publish("AutoSize", true));
   return cls;
 }
 
@@ -261,4 +274,46 @@ TEST_F(ShapeVerbs, PresetsOfATechnicalLineSetWhatTheySayAndNothingElse) {
     EXPECT_EQ(static_cast<int>(line.Get(T::LineEnding)), wanted("lineEnding", 6));
   }
   EXPECT_EQ(verb, 6);
+}
+
+TEST_F(ShapeVerbs, OfALedLabelAreFourAndADataAwareOneHasNoCaption) {
+  for (const QJsonValue& c : Cases("ledLabel")) {
+    const QJsonObject state = c[QStringLiteral("state")].toObject();
+    std::unique_ptr<TVRXLEDCustomLabel> label;
+    if (state[QStringLiteral("class")].toString().contains(QStringLiteral("TVRXDB")))
+      label = std::make_unique<TVRXDBLEDLabel>(nullptr);
+    else
+      label = std::make_unique<TVRXLEDLabel>(nullptr);
+    label->SetAutoSize(state[QStringLiteral("autoSize")].toBool());
+    ExpectMenu(TVRXLEDLabelComponentEditor(label.get(), &designer), c[QStringLiteral("verbs")]);
+  }
+  TVRXDBLEDLabel bound(nullptr);
+  bound.SetCaption(QStringLiteral("7"));
+  TVRXLEDLabelComponentEditor(&bound, &designer).ExecuteVerb(0);
+  EXPECT_EQ(bound.Caption(), QStringLiteral("7"));
+  EXPECT_EQ(designer.modified, 0);
+}
+
+TEST_F(ShapeVerbs, OfALedLabelGiveItsCaptionBevelAndLook) {
+  TVRXLEDLabel label(nullptr);
+  TVRXLEDLabelComponentEditor editor(&label, &designer);
+  ExpectDialog<TVRXTextDlg>(editor, 0, [](auto& d) { d.text->setText(QStringLiteral("12:34")); });
+  EXPECT_EQ(label.Caption(), QStringLiteral("12:34"));
+  Run(editor, 1);
+  EXPECT_FALSE(label.AutoSize());
+  ExpectDialog<TVRXBevelEditorDlg>(editor, 2, [](auto& d) { d.edwidth->setValue(4); });
+  EXPECT_EQ(label.Bevel()->Get(TVRXBevel::Width), 4);
+  ExpectDialog<TVRXLEDEditorDlg>(editor, 3, [](auto& d) { d.edhs->setValue(11); });
+  EXPECT_EQ(label.LED()->HorzSize(), 11);
+}
+
+TEST_F(ShapeVerbs, TheBevelOfALedLabelStandsAroundItsLetters) {
+  TVRXLEDLabel label(nullptr);
+  label.SetCaption(QStringLiteral("8"));
+  const QSize plain = label.BoundsRect().size();
+  label.Bevel()->Set(TVRXBevel::Outer, TBevelCut::bvRaised);
+  label.Bevel()->Set(TVRXBevel::Width, 5);
+  label.SetCaption(QStringLiteral("88"));
+  label.SetCaption(QStringLiteral("8"));
+  EXPECT_EQ(label.BoundsRect().size(), plain + QSize(10, 10));
 }
