@@ -184,6 +184,10 @@ int SetCommand(const QStringList& list, Console& console) {
                                  QString::fromUtf8(a.path)));
       try {
         ApplyNow(session->Form(), target, a.value, session->Document());
+        if (const auto unread = UnreadValues(target); !unread.empty()) {
+          if (unread[0].refused) std::rethrow_exception(unread[0].refused);
+          throw Exception(QStringLiteral("there is no property %1").arg(QString::fromUtf8(unread[0].path)));
+        }
         if (target.prop && a.value.IsInteger())
           RequireBoundsTaken(*target.instance, *target.prop, a.value.integer);
       } catch (const Exception& e) {

@@ -24,6 +24,7 @@ CollectionWindow::CollectionWindow(IDesigner& designer, TComponent& component, c
   items->setUniformItemSizes(true);
   items->installEventFilter(this);
   connect(items, &QListWidget::itemSelectionChanged, this, &CollectionWindow::TellSelection);
+  new RowDrag(*items, [this](const RowDrag::Target& target) { MoveItemsTo(target.Row(items->count())); });
   auto* buttons = new QHBoxLayout;
   buttons->setSpacing(2);
   for (QToolButton* button : {add, remove, up, down}) buttons->addWidget(button);
@@ -132,23 +133,16 @@ void CollectionWindow::DeleteItems() {
   Select(next < 0 ? std::vector<int>() : std::vector<int>{next});
 }
 
-void CollectionWindow::MoveItems(int by) {
+void CollectionWindow::MoveItems(int by) { Move(MovesBy(Selected(), by, items->count())); }
+void CollectionWindow::MoveItemsTo(int row) { Move(MovesTo(Selected(), row)); }
+
+void CollectionWindow::Move(const RowMoves& moves) {
   TCollection* collection = Collection();
-  std::vector<int> rows = Selected();
-  if (!collection || rows.empty()) return;
-  if (by > 0) std::reverse(rows.begin(), rows.end());
-  int limit = by < 0 ? 0 : collection->Count() - 1;
-  std::vector<int> to;
-  for (const int row : rows) {
-    to.push_back(row == limit ? row : row + by);
-    limit = to.back() - by;
-  }
-  if (to == rows) return;
+  if (!collection || !MovesAny(moves)) return;
   Do(tr("Move items of %1").arg(place_.Text()), [&] {
-    for (std::size_t i = 0; i < rows.size(); ++i) collection->Move(rows[i], to[i]);
+    for (const RowMove& move : moves) collection->Move(move.from, move.to);
   });
-  std::sort(to.begin(), to.end());
-  Select(to);
+  Select(Landed(moves));
 }
 
 // Items that nobody sees do not stay selected.

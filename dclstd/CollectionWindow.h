@@ -2,6 +2,7 @@
 // shows.
 #pragma once
 #include "dclstd/ComponentWindow.h"
+#include "dclstd/RowDrag.h"
 #include "designintf/PartPath.h"
 
 class QListWidget;
@@ -20,6 +21,8 @@ class CollectionWindow : public ComponentWindow {
   void AddItem();
   void DeleteItems();
   void MoveItems(int by);
+  // In front of the row that stands there.
+  void MoveItemsTo(int row);
   void SelectionChanged(IDesigner* designer, const TDesignerSelections& list) override;
   TEditStates GetEditState() const override;
   void EditAction(TEditAction action) override;
@@ -38,6 +41,7 @@ class CollectionWindow : public ComponentWindow {
   void Select(const std::vector<int>& rows);
   void TellSelection();
   void EnableButtons();
+  void Move(const RowMoves& moves);
   PartPath place_;
   bool loading_ = false;
 };

@@ -27,6 +27,19 @@ TDateTime Joined(const QDateTime& value) {
 }
 }  // namespace
 
+TDateTime WithPart(TDateTime value, TDateTime from, TDateTimePart part) {
+  if (part == TDateTimePart::Both) return from;
+  const TDateTime& day = part == TDateTimePart::Date ? from : value;
+  const TDateTime& clock = part == TDateTimePart::Time ? from : value;
+  const double days = std::trunc(day.Days), rest = std::abs(clock.Days - std::trunc(clock.Days));
+  return {days < 0 ? days - rest : days + rest};
+}
+
+QString DateTimeToText(TDateTime value, TDateTimePart part) {
+  const QString text = DateTimeToText(part == TDateTimePart::Both ? value : WithPart({}, value, part));
+  return text.isEmpty() && part == TDateTimePart::Time ? QStringLiteral("00:00:00") : text;
+}
+
 QString DateTimeToText(TDateTime value) {
   if (value.Days == 0) return {};
   // Beyond the calendar the number says it.
@@ -66,8 +79,8 @@ DateTimeDialog::DateTimeDialog(QWidget* owner) : RowDialog(tr("Date and Time"), 
   time = new QTimeEdit(this);
   time->setObjectName(QStringLiteral("time"));
   time->setDisplayFormat(QStringLiteral("HH:mm:ss"));
-  auto* label = new QLabel(tr("&Time:"), this);
-  label->setBuddy(time);
+  timeLabel = new QLabel(tr("&Time:"), this);
+  timeLabel->setBuddy(time);
   Follows(calendar);
   Follows(time);
   Button(now, "now", "&Now", &DateTimeDialog::nowClick, "The present date and time");
@@ -75,7 +88,7 @@ DateTimeDialog::DateTimeDialog(QWidget* owner) : RowDialog(tr("Date and Time"), 
   OkButton(ok, "ok");
   CancelButton(cancel, "cancel");
   auto* line = new QHBoxLayout;
-  line->addWidget(label);
+  line->addWidget(timeLabel);
   line->addWidget(time);
   line->addStretch(1);
   line->addWidget(now);
@@ -98,6 +111,13 @@ DateTimeDialog::DateTimeDialog(QWidget* owner) : RowDialog(tr("Date and Time"), 
   SetTabSequence();
   FormCreate();
   setFixedSize(QSize(340, 300).expandedTo(minimumSizeHint()));
+}
+
+void DateTimeDialog::ShowPart(TDateTimePart part) {
+  calendar->setVisible(part != TDateTimePart::Time);
+  for (QWidget* widget : {static_cast<QWidget*>(timeLabel), static_cast<QWidget*>(time)})
+    widget->setVisible(part != TDateTimePart::Date);
+  if (part == TDateTimePart::Time) setFixedSize(QSize(340, 0).expandedTo(minimumSizeHint()));
 }
 
 void DateTimeDialog::Show(const QDateTime& value) {
@@ -128,10 +148,11 @@ void DateTimeDialog::clearClick() {
   changed_ = none_ = true;
 }
 
-bool EditDateTime(TDateTime& value) {
+bool EditDateTime(TDateTime& value, TDateTimePart part) {
   DateTimeDialog dialog(ApplicationOwner());
+  dialog.ShowPart(part);
   dialog.SetDateTime(value);
   if (dialog.ShowModal() != mrOk || !dialog.Changed()) return false;
-  value = dialog.DateTime();
+  value = WithPart(value, dialog.DateTime(), part);
   return true;
 }

@@ -88,23 +88,15 @@ ImageListDialog::ImageListDialog(QWidget* owner) : RowDialog(tr("Image List Edit
   OkButton(ok, "ok");
   CancelButton(cancel, "cancel");
 
-  auto* buttons = new QVBoxLayout;
-  buttons->setSpacing(8);
-  for (QPushButton* button : {add, replace, remove, clear, back, on, exportAll}) buttons->addWidget(button);
-  buttons->addStretch(1);
-  for (QPushButton* button : {ok, cancel}) buttons->addWidget(button);
   auto* left = new QVBoxLayout;
   left->addWidget(strip, 1);
   left->addWidget(facts);
   left->addLayout(grid);
-  auto* all = new QHBoxLayout(this);
-  all->addLayout(left, 1);
-  all->addLayout(buttons);
   connect(strip, &QListWidget::itemSelectionChanged, this, &ImageListDialog::SetLabels);
-  SetTabSequence();
-  FormCreate();
-  setSizeGripEnabled(true);
-  resize(QSize(480, 380).expandedTo(minimumSizeHint()));
+  new RowDrag(*strip, [this](const RowDrag::Target& target) {
+    Guarded([&] { Move(MovesTo(Selected(), target.Row(static_cast<int>(entries_.size())))); });
+  });
+  FinishBeside(left, {add, replace, remove, clear, back, on, exportAll}, {ok, cancel}, {480, 380});
 }
 
 void ImageListDialog::SetImages(const QList<QImage>& images, QSize size) {
@@ -296,30 +288,23 @@ void ImageListDialog::clearClick() {
   Change({});
 }
 
-// Those at the end already stay there; the others close up.
-void ImageListDialog::Move(int by) {
-  std::vector<int> rows = Selected();
-  if (by > 0) std::reverse(rows.begin(), rows.end());
-  int limit = by < 0 ? 0 : static_cast<int>(entries_.size()) - 1;
-  std::vector<int> to;
-  for (const int row : rows) {
-    to.push_back(row == limit ? row : row + by);
-    limit = to.back() - by;
-  }
-  if (to == rows) return;
-  for (std::size_t i = 0; i < rows.size(); ++i) entries_.move(rows[i], to[i]);
-  Change(to);
+void ImageListDialog::Move(const RowMoves& moves) {
+  if (!MovesAny(moves)) return;
+  for (const RowMove& move : moves) entries_.move(move.from, move.to);
+  Change(Landed(moves));
 }
 
 bool ImageListDialog::eventFilter(QObject* watched, QEvent* event) {
   if (event->type() != QEvent::KeyPress) return RowDialog::eventFilter(watched, event);
   const auto* key = static_cast<QKeyEvent*>(event);
   const bool control = key->modifiers() == Qt::ControlModifier;
-  QPushButton* button = key->key() == Qt::Key_Insert             ? add
-                        : key->key() == Qt::Key_Delete           ? remove
-                        : control && key->key() == Qt::Key_Left  ? back
-                        : control && key->key() == Qt::Key_Right ? on
-                                                                 : nullptr;
+  const bool towardsFirst = key->key() == Qt::Key_Left || key->key() == Qt::Key_Up;
+  const bool towardsLast = key->key() == Qt::Key_Right || key->key() == Qt::Key_Down;
+  QPushButton* button = key->key() == Qt::Key_Insert   ? add
+                        : key->key() == Qt::Key_Delete ? remove
+                        : control && towardsFirst      ? back
+                        : control && towardsLast       ? on
+                                                       : nullptr;
   if (!button) return false;
   button->click();
   return true;

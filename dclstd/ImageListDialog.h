@@ -2,6 +2,7 @@
 #pragma once
 #include "dclstd/ColorComboBox.h"
 #include "dclstd/RowDialog.h"
+#include "dclstd/RowDrag.h"
 #include "vcl/ImageList.h"
 
 class QListWidget;
@@ -47,10 +48,10 @@ class ImageListDialog : public RowDialog {
   void replaceClick();
   void removeClick();
   void clearClick();
-  void backClick() { Move(-1); }
-  void onClick() { Move(1); }
+  void backClick() { Move(MovesBy(Selected(), -1, static_cast<int>(entries_.size()))); }
+  void onClick() { Move(MovesBy(Selected(), 1, static_cast<int>(entries_.size()))); }
   void exportClick();
-  void Move(int by);
+  void Move(const RowMoves& moves);
   // Pieces of the list's size, or the whole.
   QList<Entry> EntriesOf(const QString& file);
   QImage Shown(const Entry& entry) const;

@@ -16,12 +16,6 @@ const QString& Filter() {
   static const QString filter = QObject::tr("Text files (*.txt);;All files (*)");
   return filter;
 }
-// What is no UTF-8 was written with one byte a letter.
-QString TextOf(QByteArray bytes) {
-  if (bytes.startsWith("\xEF\xBB\xBF")) bytes.remove(0, 3);
-  const QString text = QString::fromUtf8(bytes);
-  return text.toUtf8() == bytes ? text : QString::fromLatin1(bytes);
-}
 }  // namespace
 
 LinesDialog::LinesDialog(QWidget* owner) : RowDialog(tr("String List Editor"), owner) {
@@ -113,8 +107,7 @@ void LinesDialog::nextClick() {
 void LinesDialog::loadClick() {
   const QString file = Prompts().OpenFileName(this, tr("Load lines"), {}, Filter());
   if (file.isEmpty()) return;
-  QString loaded = TextOf(ReadUserFile(file));
-  loaded.replace(QStringLiteral("\r\n"), QStringLiteral("\n"));
+  QString loaded = ReadUserText(file);
   if (loaded.endsWith(u'\n')) loaded.chop(1);
   // As if it were typed, so that it can be undone.
   text->selectAll();

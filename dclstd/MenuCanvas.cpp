@@ -19,7 +19,7 @@ MenuCanvas::MenuCanvas(MenuWindow& window) : QWidget(&window), window_(window) {
 }
 
 TMenuLook MenuCanvas::Look() const {
-  TMenuLook look = TMenuLook::Designed(window_.Menu(), std::max(200, width() - 2 * Margin));
+  TMenuLook look = TMenuLook::Designed(window_.Menu(), std::max(200, width() - 2 * Margin), window_.Gap());
   look.Open(window_.Current());
   return look;
 }

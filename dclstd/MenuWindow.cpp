@@ -140,8 +140,11 @@ void MenuWindow::EnableButtons() {
 
 void MenuWindow::BeginCaption(const QString& text) {
   typing_ = true;
-  QRect place = canvas->RectOf(current_).adjusted(1, 1, -1, -1);
-  place.setWidth(std::max(place.width(), 120));
+  canvas->setMinimumSize(canvas->sizeHint());
+  canvas->update();
+  const Place at = inserting_ ? Place{current_.Level, nullptr} : current_;
+  QRect place = canvas->RectOf(at).adjusted(1, 1, -1, -1);
+  place.setWidth(std::max(place.width(), TMenuLook::LeastTyped));
   caption->setGeometry(place);
   caption->setText(text);
   caption->show();
@@ -182,6 +185,7 @@ void MenuWindow::EndCaption(bool keep) {
   const bool inserting = std::exchange(inserting_, false);
   const QString text = caption->text();
   caption->hide();
+  canvas->update();
   canvas->setFocus();
   if (!keep || !Designer()) return;
   const QScopedValueRollback telling(telling_, true);

@@ -15,6 +15,8 @@ class MenuWindow : public ComponentWindow {
   TMenu& Menu() const;
   // Where typing goes: an item, or the place behind the last one of a level.
   const Place& Current() const { return current_; }
+  // The item that makes room while one in front of it is typed.
+  Place Gap() const { return inserting_ ? current_ : Place{}; }
   void GoTo(const Place& place);
   // Begins a caption: of the current item, or of a new one at the current place.
   void BeginCaption(const QString& text);

@@ -80,11 +80,6 @@ PictureEditorDialog::PictureEditorDialog(QWidget* owner, const TPicture& picture
   frame->setFrameShape(QFrame::StyledPanel);
   auto* inside = new QVBoxLayout(frame);
   inside->addWidget(view);
-  auto* buttons = new QVBoxLayout;
-  buttons->setSpacing(8);
-  for (QPushButton* button : {load, save, clear, copy, paste}) buttons->addWidget(button);
-  buttons->addStretch(1);
-  for (QPushButton* button : {ok, cancel}) buttons->addWidget(button);
   auto* below = new QHBoxLayout;
   below->addWidget(facts, 1);
   below->addWidget(transparent);
@@ -92,14 +87,8 @@ PictureEditorDialog::PictureEditorDialog(QWidget* owner, const TPicture& picture
   auto* left = new QVBoxLayout;
   left->addWidget(frame, 1);
   left->addLayout(below);
-  auto* all = new QHBoxLayout(this);
-  all->addLayout(left, 1);
-  all->addLayout(buttons);
   OwnColors({view});
-  SetTabSequence();
-  FormCreate();
-  setSizeGripEnabled(true);
-  resize(QSize(440, 300).expandedTo(minimumSizeHint()));
+  FinishBeside(left, {load, save, clear, copy, paste}, {ok, cancel}, {440, 300});
   SetLabels();
 }
 

@@ -1,8 +1,12 @@
+#include "dclstd/CellsDialog.h"
 #include "dclstd/DateTimeDialog.h"
 #include "dclstd/DialogRegistration.h"
+#include "dclstd/EditMaskDialog.h"
 #include "dclstd/FilterDialog.h"
 #include "dclstd/ImageListDialog.h"
+#include "dclstd/ItemsDialog.h"
 #include "dclstd/LinesDialog.h"
+#include "dclstd/PageVerbs.h"
 #include "dclstd/PictureEditor.h"
 #include "dclstd/ShortCutDialog.h"
 #include "dclstd/StandardEditors.h"
@@ -14,6 +18,7 @@
 #include "vcl/Action.h"
 #include "vcl/ApplicationEvents.h"
 #include "vcl/Button.h"
+#include "vcl/ButtonPanel.h"
 #include "vcl/Calendar.h"
 #include "vcl/CheckBox.h"
 #include "vcl/ColorBox.h"
@@ -73,7 +78,7 @@ const Row kRows[] = {
          TellingClasses<TBitBtn, TSpeedButton, TMaskEdit, TStringGrid, TDrawGrid, TImage, TShape, TBevel,
                         TScrollBox, TCheckListBox, TSplitter, TStaticText, TControlBar, TLabeledEdit,
                         TValueListEditor, TColorBox, TColorListBox, TFlowPanel, TGridPanel, TLinkLabel,
-                        TEditButton, TFileNameEdit, TDirectoryEdit, TApplicationEvents,
+                        TButtonPanel, TEditButton, TFileNameEdit, TDirectoryEdit, TApplicationEvents,
                         TApplicationProperties, TTrayIcon>()),
     Page("Common Controls",
          TellingClasses<TTabControl, TPageControl, TImageList, TImageCollection, TVirtualImageList, TRichEdit,
@@ -96,15 +101,23 @@ const Row kRows[] = {
     Property<TPicture, TPictureProperty>(),
     Property<TShortCut, TShortCutProperty>(),
     Property<TDateTime, TDateTimeProperty>(),
+    Property<DateType, TDateProperty>(),
+    Property<TimeType, TTimeProperty>(),
+    Property<TTreeNodes, TTreeNodesProperty>(),
+    Property<TListItems, TListItemsProperty>(),
+    Property<QString, TEditMaskProperty, TPersistent>("EditMask"),
     Property<QString, TFilterProperty, TComponent>("Filter"),
     Property<CaptionType, TCaptionProperty>(),
     Property<FontNameType, TFontNameProperty>(),
     Property<ComponentNameType, TComponentNameProperty>(),
     Property<ModalResultType, TModalResultProperty>(),
 
-    Dialogs<LinesDialog, PictureEditorDialog, ImageListDialog, ShortCutDialog, FilterDialog,
-            DateTimeDialog>(),
+    Dialogs<LinesDialog, PictureEditorDialog, ImageListDialog, ShortCutDialog, FilterDialog, DateTimeDialog,
+            TreeItemsDialog, ListItemsDialog, CellsDialog, EditMaskDialog>(),
     Component<TComponent, TStandardEditor>(),
+    Component<TStringGrid, TStringGridEditor>(),
+    Component<TPageControl, TPageControlEditor>(),
+    Component<TTabSheet, TPageControlEditor>(),
     Component<TMenu, TMenuEditor>(),
     Component<TActionList, TActionListEditor>(),
     Component<TCustomImageList, TImageListEditor>(),

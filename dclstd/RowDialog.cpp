@@ -102,9 +102,9 @@ void RowDialog::PutBeside(QWidget& control, QWidget& other) {
   for (int i = 0; i < line->count(); ++i) line->setStretch(i, 1);
 }
 
-void RowDialog::Note(const char* text) {
+void RowDialog::Note(const char* text, const char* name) {
   auto* note = new QLabel(QString::fromLatin1(text), this);
-  note->setObjectName(QStringLiteral("note"));
+  note->setObjectName(QString::fromLatin1(name));
   note->setForegroundRole(QPalette::PlaceholderText);
   note->setWordWrap(true);
   Wide({note});
@@ -120,6 +120,22 @@ QStringList RowDialog::NamesOf(const TTypeInfo& enumeration) {
   QStringList names;
   for (const QByteArray& name : enumeration.Elements) names << QString::fromLatin1(name);
   return names;
+}
+
+void RowDialog::FinishBeside(QLayout* content, const std::vector<QPushButton*>& buttons,
+                             const std::vector<QPushButton*>& ends, QSize size) {
+  auto* column = new QVBoxLayout;
+  column->setSpacing(8);
+  for (QPushButton* button : buttons) column->addWidget(button);
+  column->addStretch(1);
+  for (QPushButton* button : ends) column->addWidget(button);
+  auto* all = new QHBoxLayout(this);
+  all->addLayout(content, 1);
+  all->addLayout(column);
+  SetTabSequence();
+  FormCreate();
+  setSizeGripEnabled(true);
+  resize(size.expandedTo(minimumSizeHint()));
 }
 
 void RowDialog::ShowRow(QWidget* control, bool visible) {

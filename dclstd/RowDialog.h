@@ -104,7 +104,7 @@ class RowDialog : public ModalDialog {
   // Something between the rows, under the controls.
   void Wide(const std::vector<QWidget*>& beside);
   // A quiet remark there.
-  void Note(const char* text);
+  void Note(const char* text, const char* name = "note");
   // Parts that keep the colours they have.
   void OwnColors(const std::vector<const QWidget*>& widgets) {
     own_.insert(own_.end(), widgets.begin(), widgets.end());
@@ -113,6 +113,10 @@ class RowDialog : public ModalDialog {
   void Follows(QWidget* widget) { order_.push_back(widget); }
   // To be called when all controls are there.
   void SetTabSequence();
+  // The same, for a dialog that can be made larger: the content, beside it a column of buttons, and at the
+  // end of that those that end the dialog.
+  void FinishBeside(QLayout* content, const std::vector<QPushButton*>& buttons,
+                    const std::vector<QPushButton*>& ends, QSize size);
 
   // The control with its label.
   void ShowRow(QWidget* control, bool visible);

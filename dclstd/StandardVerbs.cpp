@@ -1,16 +1,24 @@
 #include "dclstd/StandardVerbs.h"
 
 #include "dclstd/ActionListWindow.h"
+#include "dclstd/CellsDialog.h"
 #include "dclstd/ImageListDialog.h"
 #include "dclstd/MenuWindow.h"
 #include "designintf/EditorSource.h"
 #include "rtl/Collection.h"
 #include "rtl/Strings.h"
+#include "vcl/Grid.h"
+#include "vcl/ListItems.h"
 #include "vcl/Picture.h"
+#include "vcl/TreeNodes.h"
 
 namespace {
 bool Is(const TPropInfo& property, const TClass& cls) {
   return property.IsPart() && property.PropType->ClassType().InheritsFrom(cls);
+}
+bool IsItems(const TPropInfo& property) {
+  return Is(property, TCollection::StaticClass()) || Is(property, TTreeNodes::StaticClass()) ||
+         Is(property, TListItems::StaticClass());
 }
 const TPropInfo* PictureOf(const TPersistent& component) {
   const TPropInfo* property = component.ClassType().FindProp("Picture");
@@ -24,7 +32,8 @@ std::vector<const TPropInfo*> TStandardEditor::Listed() const {
     if (p->Visibility == TPropVisibility::Published && Is(*p, TCollection::StaticClass()))
       listed.push_back(p);
   for (const char* name : {"Items", "Lines", "Tabs"})
-    if (const TPropInfo* p = GetComponent()->ClassType().FindProp(name); p && Is(*p, TStrings::StaticClass()))
+    if (const TPropInfo* p = GetComponent()->ClassType().FindProp(name);
+        p && (Is(*p, TStrings::StaticClass()) || IsItems(*p)))
       listed.push_back(p);
   return listed;
 }
@@ -34,8 +43,7 @@ QString TStandardEditor::GetVerb(int index) const {
   if (index < 0 || index >= static_cast<int>(listed.size())) return {};
   const TPropInfo& property = *listed[static_cast<std::size_t>(index)];
   const QString name = QString::fromLatin1(property.Name);
-  return Is(property, TCollection::StaticClass()) ? QObject::tr("%1 Editor...").arg(name)
-                                                  : QObject::tr("Edit %1...").arg(name);
+  return IsItems(property) ? QObject::tr("%1 Editor...").arg(name) : QObject::tr("Edit %1...").arg(name);
 }
 
 void TStandardEditor::ExecuteVerb(int index) {
@@ -57,10 +65,18 @@ void TStandardEditor::EditProperty(const TPropInfo& property) {
 
 void TStandardEditor::Edit() {
   const auto listed = Listed();
-  if (!listed.empty() && Is(*listed.front(), TCollection::StaticClass()))
-    return EditProperty(*listed.front());
+  if (!listed.empty() && IsItems(*listed.front())) return EditProperty(*listed.front());
   if (const TPropInfo* picture = PictureOf(*GetComponent())) return EditProperty(*picture);
   TDefaultEditor::Edit();
+}
+
+QString TStringGridEditor::GetVerb(int index) const {
+  return index == GetVerbCount() - 1 ? QObject::tr("Edit Cells...") : TStandardEditor::GetVerb(index);
+}
+void TStringGridEditor::ExecuteVerb(int index) {
+  if (index != GetVerbCount() - 1) return TStandardEditor::ExecuteVerb(index);
+  if (auto* grid = As<TStringGrid>(GetComponent()); grid && GetDesigner() && EditCells(*grid))
+    GetDesigner()->Modified();
 }
 
 void TOneVerbEditor::ExecuteVerb(int index) {

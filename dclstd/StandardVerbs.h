@@ -31,6 +31,15 @@ class TOneVerbEditor : public TComponentEditor {
   virtual void Run(IDesigner& designer) = 0;
 };
 
+// Behind the other verbs the texts of the cells, which are in no inspector.
+class TStringGridEditor : public TStandardEditor {
+ public:
+  using TStandardEditor::TStandardEditor;
+  void ExecuteVerb(int index) override;
+  QString GetVerb(int index) const override;
+  int GetVerbCount() const override { return TStandardEditor::GetVerbCount() + 1; }
+};
+
 class TMenuEditor : public TOneVerbEditor {
  public:
   using TOneVerbEditor::TOneVerbEditor;

@@ -19,6 +19,14 @@ QByteArray ReadUserFile(const QString& file) {
   return source.readAll();
 }
 
+QString ReadUserText(const QString& file) {
+  QByteArray bytes = ReadUserFile(file);
+  if (bytes.startsWith("\xEF\xBB\xBF")) bytes.remove(0, 3);
+  QString text = QString::fromUtf8(bytes);
+  if (text.toUtf8() != bytes) text = QString::fromLatin1(bytes);
+  return text.replace(QStringLiteral("\r\n"), QStringLiteral("\n"));
+}
+
 void WriteUserFile(const QString& file, const QByteArray& bytes) {
   QSaveFile target(file);
   if (!target.open(QIODevice::WriteOnly) || target.write(bytes) != bytes.size() || !target.commit())

@@ -5,5 +5,7 @@
 
 // Throw Exception with what is wrong. Only regular files are read.
 QByteArray ReadUserFile(const QString& file);
+// What is no UTF-8 was written with one byte a letter. Lines end with a line feed.
+QString ReadUserText(const QString& file);
 // A file that is there already is replaced as a whole or stays.
 void WriteUserFile(const QString& file, const QByteArray& bytes);

@@ -1,5 +1,6 @@
 // Editors of values that are written in a way of their own: keys, dates, filters.
 #pragma once
+#include "dclstd/DateTimeDialog.h"
 #include "designintf/BasicEditors.h"
 
 class TShortCutProperty : public TOrdinalProperty {
@@ -19,6 +20,54 @@ class TDateTimeProperty : public TFloatProperty {
   TPropertyAttributes GetAttributes() const override;
   QString GetValue() const override;
   void SetValue(const QString& value) override;
+  void Edit() override;
+};
+// One part of such a value; the other part stays as it is.
+class TDatePartProperty : public TFloatProperty {
+ public:
+  TDatePartProperty(TDateTimePart part, IDesigner* designer, TInstProps props)
+      : TFloatProperty(designer, std::move(props)), part_(part) {}
+  TPropertyAttributes GetAttributes() const override;
+  QString GetValue() const override;
+  void SetValue(const QString& value) override;
+  void Edit() override;
+  bool AllEqual() const override;
+
+ private:
+  QString TextAt(int index) const;
+  void Take(TDateTime value);
+  TDateTimePart part_;
+};
+class TDateProperty : public TDatePartProperty {
+ public:
+  TDateProperty(IDesigner* designer, TInstProps props)
+      : TDatePartProperty(TDateTimePart::Date, designer, std::move(props)) {}
+};
+class TTimeProperty : public TDatePartProperty {
+ public:
+  TTimeProperty(IDesigner* designer, TInstProps props)
+      : TDatePartProperty(TDateTimePart::Time, designer, std::move(props)) {}
+};
+
+// The items of a tree view and of a list view in a dialog.
+class TTreeNodesProperty : public TClassProperty {
+ public:
+  using TClassProperty::TClassProperty;
+  TPropertyAttributes GetAttributes() const override;
+  void Edit() override;
+};
+class TListItemsProperty : public TClassProperty {
+ public:
+  using TClassProperty::TClassProperty;
+  TPropertyAttributes GetAttributes() const override;
+  void Edit() override;
+};
+
+// What a masked field takes.
+class TEditMaskProperty : public TStringProperty {
+ public:
+  using TStringProperty::TStringProperty;
+  TPropertyAttributes GetAttributes() const override;
   void Edit() override;
 };
 

@@ -153,6 +153,7 @@ TControl* FormSurface::DeepestAt(QPoint p) const {
     TControl* next = container->ControlAt(inside);
     if (!next) break;
     inside -= next->BoundsRect().topLeft();
+    if (const auto* inner = As<TWinControl>(next)) inside -= inner->ClientRect().topLeft();
     at = next;
   }
   return at;

@@ -241,7 +241,7 @@ void MainWindow::ShowCommands() {
              QStringLiteral("%1: %2").arg(c.Name(), text),
              {},
              ComponentIcon(c.ClassType()),
-             {},
+             verb.problem,
              [this, run = verb.run] { RunVerb(run); }});
       }
   form_->AddTo(rows);
@@ -286,10 +286,13 @@ void MainWindow::ShowContextMenu(const QPoint& pos) {
   QMenu menu(this);
   menu.setObjectName(QStringLiteral("surfaceMenu"));
   for (const Verb& verb : VerbsOfSelection(*session_))
-    if (verb.run)
-      menu.addAction(verb.text, this, [this, run = verb.run] { RunVerb(run); });
-    else
+    if (verb.run) {
+      QAction* action = menu.addAction(verb.text, this, [this, run = verb.run] { RunVerb(run); });
+      action->setEnabled(verb.problem.isEmpty());
+      action->setStatusTip(verb.problem);
+    } else {
       menu.addSeparator();
+    }
   if (!menu.isEmpty()) menu.addSeparator();
   form_->AddTo(menu, {ActionGroup::Undo, ActionGroup::Clipboard, ActionGroup::Align, ActionGroup::Size,
                       ActionGroup::Spacing, ActionGroup::Order});

@@ -20,7 +20,9 @@ std::vector<Verb> VerbsOfSelection(FormSession& session) {
       verbs.push_back({});
       continue;
     }
-    verbs.push_back({text, [&session, &component, editor, i, text, call = callOf("ExecuteVerb")] {
+    const QString problem =
+        AskPackage(callOf("GetVerbProblem"), QString(), [&] { return editor->GetVerbProblem(i); });
+    verbs.push_back({text, problem, [&session, &component, editor, i, text, call = callOf("ExecuteVerb")] {
                        session.Run(QString(text).remove(u'&'), {&component}, [&, where = call()] {
                          PackageCall([&] { return where; }, [&] { editor->ExecuteVerb(i); });
                        });

@@ -7,6 +7,7 @@
 
 struct Verb {
   QString text;               // with the key of a menu
+  QString problem;            // why it cannot be run just now; empty: it can
   std::function<void()> run;  // one command, or none; throws like FormSession::Run. Null: a separator
 };
 // None where not exactly one component is selected. A verb can be run as long as the selection is the same.

@@ -69,13 +69,14 @@ bool TSetElementProperty::AllEqual() const {
 }
 bool TSetElementProperty::IsDefault() const {
   for (int i = 0; i < PropCount(); ++i) {
-    const auto def = Props()[static_cast<std::size_t>(i)].PropInfo->Default;
+    const auto& p = Props()[static_cast<std::size_t>(i)];
+    const auto def = DefaultOrdinal(*p.Instance, *p.PropInfo);
     if (!def || Has(i) != ((*def >> element_ & 1) != 0)) return false;
   }
   return true;
 }
 void TSetElementProperty::Revert() {
-  if (const auto def = GetPropInfo().Default) Set((*def >> element_ & 1) != 0);
+  if (const auto def = DefaultOrdinal(*Props()[0].Instance, GetPropInfo())) Set((*def >> element_ & 1) != 0);
 }
 
 TPropertyAttributes TClassProperty::GetAttributes() const {

@@ -15,6 +15,8 @@ class TComponentEditor {
   // Empty for an index outside the table; "-" is a separator; "&" marks the accelerator.
   virtual QString GetVerb(int index) const;
   virtual int GetVerbCount() const { return 0; }
+  // Why the verb cannot be run just now; empty when it can.
+  virtual QString GetVerbProblem(int) const { return {}; }
 
   TComponent* GetComponent() const { return component_; }
   IDesigner* GetDesigner() const { return designer_; }

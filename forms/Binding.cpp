@@ -113,6 +113,36 @@ void ApplyList(const PropertyTarget& t, TValueList& list, const Value& v, const 
   list.SetItems(std::move(items));
 }
 
+struct KeptValue {
+  std::size_t index;  // its place among the item's properties
+  NamedValue property;
+  std::exception_ptr refused;
+};
+using KeptValues = std::vector<KeptValue>;
+
+const KeptValues& KeptBy(const TCollectionItem& item) {
+  static const KeptValues none;
+  return item.Unread() ? *static_cast<const KeptValues*>(item.Unread().get()) : none;
+}
+
+// What the item does not take stays with it: nothing of a file is lost because something in it is unknown.
+void ApplyItem(TCollectionItem& target, const CollectionItem& item, const Document& doc,
+               std::vector<PendingReference>& pending) {
+  KeptValues kept;
+  for (std::size_t i = 0; i < item.properties.size(); ++i) {
+    const NamedValue& p = item.properties[i];
+    const PropertyTarget inner = FindTarget(target, p.path);
+    std::exception_ptr refused;
+    try {
+      if (inner.Found()) ApplyValue(inner, p.value, doc, pending);
+    } catch (const Exception&) {
+      refused = std::current_exception();
+    }
+    if (!inner.Found() || refused) kept.push_back({i, p, refused});
+  }
+  if (!kept.empty()) target.SetUnread(std::make_shared<const KeptValues>(std::move(kept)));
+}
+
 void ApplyPart(const PropertyTarget& t, const Value& v, const Document& doc,
                std::vector<PendingReference>& pending) {
   TPersistent* const part = GetObjectProp(*t.instance, *t.prop);
@@ -124,16 +154,18 @@ void ApplyPart(const PropertyTarget& t, const Value& v, const Document& doc,
                       : QStringLiteral("its parts are set one by one"));
   const TUpdateLock lock(*collection);
   collection->Clear();
-  for (const CollectionItem& item : v.collection) {
-    TCollectionItem* target = collection->Add();
-    for (const NamedValue& p : item.properties) {
-      const PropertyTarget inner = FindTarget(*target, p.path);
-      if (!inner.Found())
-        throw EPropertyError(
-            QStringLiteral("%1 has no property %2.")
-                .arg(QString::fromLatin1(target->ClassType().ClassName()), QString::fromUtf8(p.path)));
-      ApplyValue(inner, p.value, doc, pending);
-    }
+  for (const CollectionItem& item : v.collection) ApplyItem(*collection->Add(), item, doc, pending);
+}
+
+void CollectUnread(const TCollection& collection, const QByteArray& path, std::vector<UnreadValue>& out) {
+  for (int i = 0; i < collection.Count(); ++i) {
+    const TCollectionItem& item = *collection.Item(i);
+    const QByteArray inside = path + '[' + QByteArray::number(i) + "].";
+    for (const KeptValue& kept : KeptBy(item)) out.push_back({inside + kept.property.path, kept.refused});
+    for (const TPropInfo* prop : item.ClassType().Properties())
+      if (prop->IsPart() && !prop->Access->IsUntouched(item))
+        if (const auto* inner = As<TCollection>(GetObjectProp(item, *prop)))
+          CollectUnread(*inner, inside + prop->Name, out);
   }
 }
 
@@ -191,6 +223,15 @@ void ApplyValue(const PropertyTarget& t, const Value& v, const Document& doc,
         ApplyBinary(t, v);
       }};
   std::visit(apply, prop.Access->Nothing());
+}
+
+std::vector<UnreadValue> UnreadValues(const PropertyTarget& target) {
+  std::vector<UnreadValue> all;
+  const TPersistent* part =
+      target.prop && target.prop->IsPart() ? GetObjectProp(*target.instance, *target.prop) : nullptr;
+  if (const auto* collection = As<TCollection>(part))
+    CollectUnread(*collection, target.path.isEmpty() ? target.prop->Name : target.path.toByteArray(), all);
+  return all;
 }
 
 namespace {
@@ -288,6 +329,10 @@ Value CollectionValue(const TCollection& collection, const Document& doc) {
     CollectionItem item;
     for (StoredValue& p : PropertyValues(*collection.Item(i), doc, false))
       item.properties.push_back({p.path, std::move(p.value)});
+    for (const KeptValue& kept : KeptBy(*collection.Item(i))) {
+      const auto index = std::min(kept.index, item.properties.size());
+      item.properties.insert(item.properties.begin() + static_cast<std::ptrdiff_t>(index), kept.property);
+    }
     v.collection.push_back(std::move(item));
   }
   return v;

@@ -1,5 +1,6 @@
 // Between values of a form file and published properties.
 #pragma once
+#include <exception>
 #include <functional>
 
 #include "forms/Document.h"
@@ -50,6 +51,14 @@ std::int64_t OrdinalOf(const PropertyTarget& target, const Value& value);
 // not fit, saying what was expected; the property is then unchanged.
 void ApplyValue(const PropertyTarget& target, const Value& value, const Document& document,
                 std::vector<PendingReference>& pending);
+// A value inside a collection that its item did not take. The item keeps it, and it is written again where it
+// stood.
+struct UnreadValue {
+  QByteArray path;             // "Columns[1].Foreign"
+  std::exception_ptr refused;  // none: the item has no such property
+};
+// All of a property's collection, and of those inside of its items.
+std::vector<UnreadValue> UnreadValues(const PropertyTarget& target);
 // Looks the references up among the root's components; those that cannot be found are returned.
 std::vector<PendingReference> ResolveReferences(TComponent& root, std::vector<PendingReference> pending);
 // One property from its text in a form file, references included. Throws like ApplyValue.

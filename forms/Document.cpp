@@ -197,7 +197,8 @@ void Document::WriteTextObject(TextWriter& out, const Object& object, int level,
       out.PropertyLine(p.Name(), *edited, level + 1);
     }
   }
-  for (const auto& child : object.children) WriteTextObject(out, *child, level + 1, sourceLevel + 1);
+  for (const auto& child : object.children)
+    if (child->IsWritten()) WriteTextObject(out, *child, level + 1, sourceLevel + 1);
   if (object.FromSource()) {
     out.Copy(Slice(object.footer), moved);
   } else {
@@ -223,7 +224,8 @@ void Document::WriteBinaryObject(BinaryWriter& out, const Object& object, bool c
     out.WriteValue(v);
   }
   out.Byte(0);
-  for (const auto& child : object.children) WriteBinaryObject(out, *child, copy);
+  for (const auto& child : object.children)
+    if (child->IsWritten()) WriteBinaryObject(out, *child, copy);
   out.Byte(0);
 }
 
@@ -286,7 +288,8 @@ void WriteDecodedText(const Document& doc, TextWriter& out, const Object& object
     CheckValue(v, doc.Where(p));
     out.PropertyLine(p.Name(), v, level + 1);
   }
-  for (const auto& child : object.children) WriteDecodedText(doc, out, *child, level + 1);
+  for (const auto& child : object.children)
+    if (child->IsWritten()) WriteDecodedText(doc, out, *child, level + 1);
   out.ObjectFooter(level);
 }
 }  // namespace
@@ -364,6 +367,7 @@ std::unique_ptr<Object> Document::Detached(const Object& object, Document& targe
     copy->properties.push_back(target.MakeProperty(p.Name(), std::move(value)));
   }
   for (const auto& child : object.children) {
+    if (!child->IsWritten()) continue;
     copy->children.push_back(Detached(*child, target));
     copy->children.back()->parent = copy.get();
   }

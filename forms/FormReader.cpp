@@ -18,7 +18,9 @@ qsizetype CountObjects(const Object& object) {
 }
 }  // namespace
 
+// What is wrong with an origin is told where that is opened.
 void FormReader::Report(Severity severity, Location where, QString text, bool unknownName) {
+  if (from_ != &document_) return;
   findings_.push_back({severity, where, std::move(text), unknownName});
 }
 
@@ -38,10 +40,12 @@ TComponent* FormReader::Create(Object& object, TComponent* owner) {
              QStringLiteral("%1 cannot be made: %2").arg(ObjectTitle(object), e.Message()));
       return makeUnknown_(object, owner);
     }
-  Report(Severity::Note, document_.Where(object),
-         QStringLiteral("class %1 is unknown; %2 is kept as it is")
-             .arg(QString::fromUtf8(object.className), ObjectTitle(object)),
-         true);
+  // What comes from another file is told where that is opened, and the class of a frame is known by its file.
+  if (!object.implied && !(object.origin && object.IsFrame()))
+    Report(Severity::Note, document_.Where(object),
+           QStringLiteral("class %1 is unknown; %2 is kept as it is")
+               .arg(QString::fromUtf8(object.className), ObjectTitle(object)),
+           true);
   return makeUnknown_ ? makeUnknown_(object, owner) : nullptr;
 }
 
@@ -74,6 +78,7 @@ TComponent* FormReader::ReadChild(Object& object, TComponent& owner, TComponent&
   TComponent* component = Create(object, &owner);
   if (!component) return nullptr;
   component->BeginLoading();
+  TakeFamilyDefaults(*component);
   component->SetParentComponent(&parent);
   ReadInto(object, *component, &owner);
   if (!object.parent || object.parent == map_.ObjectOf(parent)) {
@@ -97,13 +102,38 @@ void FormReader::ReadInto(Object& object, TComponent& component, TComponent* own
   } catch (const Exception& e) {
     Report(Severity::Error, document_.Where(object), e.Message());
   }
+  ReadOrigins(object, component);
   ReadProperties(object, component, reportUnknown);
   // What stands inside an inline object has names of its own: a frame owns its components.
-  const bool scope = object.kind == ObjectKind::Inline && object.parent;
+  const bool scope = object.IsFrame() && object.parent;
   for (const auto& child : object.children) ReadChild(*child, scope ? component : *owner, component);
 }
 
-void FormReader::ReadProperties(Object& object, TComponent& component, bool reportUnknown) {
+template <class F>
+void FormReader::Guarded(const Property& property, const Object& object, F read, bool data) {
+  const bool own = from_ == &document_;  // nothing is told of an origin
+  try {
+    read();
+  } catch (const EUnknownName& e) {
+    if (own) ReportName(e, property, object);
+  } catch (const Exception& e) {
+    if (!own) return;
+    Report(Severity::Error, document_.Where(property),
+           QStringLiteral("%1: %2").arg(ObjectTitle(object), e.Message()));
+    findings_.back().refusedData = data;
+  }
+}
+
+void FormReader::ReadOrigins(const Object& object, TComponent& component) {
+  for (const Origin* origin : object.Origins()) {
+    from_ = origin->document;
+    ReadProperties(*origin->object, component, false);
+  }
+  from_ = &document_;
+}
+
+void FormReader::ReadProperties(const Object& object, TComponent& component, bool reportUnknown) {
+  const bool own = from_ == &document_;
   ClassNotes& notes = notes_[&component.ClassType()];
   notes.Begin();
   for (const Property& p : object.properties) {
@@ -113,31 +143,37 @@ void FormReader::ReadProperties(Object& object, TComponent& component, bool repo
       target = FindTarget(component, p.Name());
       if (target.Found() && !known) known = notes.Add(p.Name(), component, target);
     }
-    atProperty_ = &p;
+    if (own) atProperty_ = &p;
     if (!target.Found()) {
-      if (!reportUnknown) continue;
-      Report(Severity::Note, document_.Where(p),
-             QStringLiteral("%1 of %2 is unknown; it is kept as it is")
-                 .arg(QString::fromUtf8(p.Name()), ObjectTitle(object)),
-             true);
+      if (!reportUnknown) continue;  // nothing of an origin, either
+      ReportUnknown(p.Name(), p, object);
       continue;
     }
     target.path = p.Name();
     const std::size_t before = pending_.size();
-    try {
-      Apply(known, target, p);
-    } catch (const EUnknownName& e) {
-      ReportName(e, p, object);
-    } catch (const Exception& e) {
-      Report(Severity::Error, document_.Where(p),
-             QStringLiteral("%1: %2").arg(ObjectTitle(object), e.Message()));
-      findings_.back().refusedData = target.prop && target.prop->Is<QByteArray>();
-    }
+    Guarded(
+        p, object, [&] { Apply(known, target, p); }, target.prop && target.prop->Is<QByteArray>());
+    if (own && target.prop && target.prop->IsPart()) ReportUnread(target, p, object);
     for (std::size_t i = before; i < pending_.size(); ++i) {
       pending_[i].holder = &component;
-      pending_[i].source = &p;
+      pending_[i].source = own ? &p : nullptr;
     }
   }
+}
+
+void FormReader::ReportUnknown(QByteArrayView name, const Property& property, const Object& object) {
+  Report(Severity::Note, document_.Where(property),
+         QStringLiteral("%1 of %2 is unknown; it is kept as it is")
+             .arg(QString::fromUtf8(name), ObjectTitle(object)),
+         true);
+}
+
+void FormReader::ReportUnread(const PropertyTarget& target, const Property& property, const Object& object) {
+  for (const UnreadValue& unread : UnreadValues(target))
+    if (unread.refused)
+      Guarded(property, object, [&] { std::rethrow_exception(unread.refused); });
+    else
+      ReportUnknown(unread.path, property, object);
 }
 
 // A name that another framework gives to a value is no mistake in a file of that framework.
@@ -158,28 +194,27 @@ void FormReader::ReportName(const EUnknownName& e, const Property& property, con
 void FormReader::Apply(KnownProperty* known, const PropertyTarget& target, const Property& property) {
   // A part of another class than the one noted has its own properties.
   if (known && !known->LeadsTo(target)) known = nullptr;
-  const QByteArrayView text = known ? document_.SourceText(property) : QByteArrayView();
+  const QByteArrayView text = known ? from_->SourceText(property) : QByteArrayView();
   if (known && known->Apply(*target.instance, text)) return;
   if (known)
     if (const QByteArrayView name = known->Referenced(text); !name.isEmpty())
       return AddReference(pending_, target, name);
-  document_.Read(property, value_);
+  from_->Read(property, value_);
   if (known && known->IsOrdinal()) {
     const std::int64_t ordinal = OrdinalOf(target, value_);
     SetOrdProp(*target.instance, *target.prop, ordinal);
     known->Learn(text, ordinal);
   } else {
-    ApplyValue(target, value_, document_, pending_);
+    ApplyValue(target, value_, *from_, pending_);
   }
 }
 
 void FormReader::Finish(TComponent& root) {
   for (const PendingReference& p : ResolveReferences(root, std::exchange(pending_, {})))
-    Report(Severity::Warning, p.source ? document_.Where(*p.source) : Location{},
-           QStringLiteral("%1.%2 refers to %3")
-               .arg(p.holder->Name(),
-                    p.source ? QString::fromUtf8(p.source->Name()) : QString::fromLatin1(p.prop->Name),
-                    WhyUnresolved(p)));
+    if (p.source)
+      Report(Severity::Warning, document_.Where(*p.source),
+             QStringLiteral("%1.%2 refers to %3")
+                 .arg(p.holder->Name(), QString::fromUtf8(p.source->Name()), WhyUnresolved(p)));
   for (TComponent* c : std::exchange(loading_, {})) c->Loaded();
 }
 

@@ -1,5 +1,6 @@
-// Makes components from a document. Whatever is not understood is left in the document, reported as a
-// finding, and written back untouched when the form is saved.
+// Makes components from a document; what is inherited has what its origins say, and then what the document
+// says. Whatever is not understood is left in the document, reported as a finding, and written back untouched
+// when the form is saved.
 #pragma once
 #include <unordered_map>
 
@@ -15,6 +16,7 @@ struct Finding {
   QString text;
   bool unknownName = false;  // a class, property or event that no loaded package has
   bool refusedData = false;  // a picture or other binary data that its class does not take
+  bool missingFile = false;  // of an ancestor or a frame
 };
 
 // Which component stands for which object of the document.
@@ -68,13 +70,20 @@ class FormReader {
   std::unique_ptr<TComponent> MakeRoot(Object& object);
   TComponent* Create(Object& object, TComponent* owner);
   void ReadInto(Object& object, TComponent& component, TComponent* owner);
-  void ReadProperties(Object& object, TComponent& component, bool reportUnknown);
+  void ReadOrigins(const Object& object, TComponent& component);
+  void ReadProperties(const Object& object, TComponent& component, bool reportUnknown);
+  void ReportUnknown(QByteArrayView name, const Property& property, const Object& object);
+  void ReportUnread(const PropertyTarget& target, const Property& property, const Object& object);
+  // Reads, and tells of what is refused. `data`: what is refused then is data.
+  template <class F>
+  void Guarded(const Property& property, const Object& object, F read, bool data = false);
   void ReportName(const EUnknownName& error, const Property& property, const Object& object);
   void Apply(KnownProperty* known, const PropertyTarget& target, const Property& property);
   void Finish(TComponent& root);
   void Report(Severity severity, Location where, QString text, bool unknownName = false);
 
   Document& document_;
+  const Document* from_ = &document_;  // the one that is read now: an origin's or its own
   ObjectMap& map_;
   Maker makeRoot_;
   Maker makeUnknown_;

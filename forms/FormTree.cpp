@@ -1,5 +1,7 @@
 #include "forms/FormTree.h"
 
+#include <algorithm>
+
 namespace forms {
 
 Property::Property(QByteArrayView name, QByteArrayView node, const char* value) : name_(name.data()) {
@@ -35,6 +37,20 @@ Property* Object::Find(QByteArrayView path) {
   return nullptr;
 }
 const Property* Object::Find(QByteArrayView path) const { return const_cast<Object*>(this)->Find(path); }
+
+bool Object::IsWritten() const {
+  return !implied || !properties.empty() ||
+         std::any_of(children.begin(), children.end(), [](const auto& child) { return child->IsWritten(); });
+}
+
+std::vector<const Origin*> Object::Origins() const {
+  std::vector<const Origin*> origins;
+  for (const Origin* o = origin.get(); o; o = o->object->origin.get()) origins.push_back(o);
+  std::reverse(origins.begin(), origins.end());
+  return origins;
+}
+
+bool Object::Says(QByteArrayView path) const { return Find(path) || (origin && origin->object->Says(path)); }
 
 int Object::IndexInParent() const {
   if (!parent) return -1;

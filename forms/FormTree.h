@@ -84,6 +84,14 @@ class Property {
 
 enum class ObjectKind : std::uint8_t { Object, Inherited, Inline };
 
+class Document;
+class Object;
+// What an inherited object or a frame is by the file that it comes from, which outlives it.
+struct Origin {
+  const Document* document = nullptr;
+  const Object* object = nullptr;
+};
+
 class Object {
  public:
   ObjectKind kind = ObjectKind::Object;
@@ -100,6 +108,17 @@ class Object {
   bool headerChanged = false;
   // How deep the source has it, once it has been taken from there; else -1, and it stands where it stood.
   std::int16_t sourceLevel = -1;
+
+  std::unique_ptr<Origin> origin;  // none when nobody knows it
+  // It is there because its origin is; it is written once something in it differs from that.
+  bool implied = false;
+  bool IsWritten() const;
+  // The origins, the first ancestor first.
+  std::vector<const Origin*> Origins() const;
+  // Whether it or one of its origins has the property.
+  bool Says(QByteArrayView path) const;
+  // What stands in a frame has names of its own.
+  bool IsFrame() const { return kind == ObjectKind::Inline || (origin && origin->object->IsFrame()); }
 
   bool FromSource() const { return !header.Empty(); }
   // The property of that path (no regard to case), or null.

@@ -1,5 +1,7 @@
 #include "forms/Snapshot.h"
 
+#include <algorithm>
+
 namespace forms {
 
 Snapshot TakeSnapshot(const TComponent& component, const Document& document) {
@@ -56,13 +58,24 @@ std::optional<Property> Remove(Object& object, int index) {
 }
 }  // namespace
 
-void PatchObject(Object& object, Document& document, const Snapshot& after,
-                 std::vector<ValueChange>& changes) {
+namespace {
+// Whether leaving the value out would mean another one.
+bool Differs(const Object& object, const ValueChange& change, const Snapshot* inherited) {
+  if (!inherited)
+    return change.storedAfter || (object.kind == ObjectKind::Inherited && !(change.before == change.after));
+  const auto was = std::find_if(inherited->begin(), inherited->end(),
+                                [&](const StoredValue& v) { return v.path == change.path; });
+  if (was == inherited->end()) return change.storedAfter;
+  if (change.storedAfter && !was->stored) return true;
+  return was->stored && !(change.after == was->value);
+}
+}  // namespace
+
+void PatchObject(Object& object, Document& document, const Snapshot& after, std::vector<ValueChange>& changes,
+                 const Snapshot* inherited) {
   for (ValueChange& change : changes) {
     const int at = IndexOf(object, change.path);
-    const bool written =
-        (change.storedAfter || (object.kind == ObjectKind::Inherited && !(change.before == change.after))) &&
-        !(change.follows && at < 0);
+    const bool written = Differs(object, change, inherited) && !(change.follows && at < 0);
     change.index = at;
     if (at >= 0) change.nodeBefore = Remove(object, at);
     if (!written) continue;

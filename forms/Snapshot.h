@@ -25,10 +25,11 @@ struct ValueChange {
 
 std::vector<ValueChange> Difference(const Snapshot& before, const Snapshot& after);
 
-// Puts the new values into the object: changed lines are replaced, those at default removed (but kept in an
-// inherited object, where leaving out means "as the ancestor has it"), new ones inserted in class order.
-void PatchObject(Object& object, Document& document, const Snapshot& after,
-                 std::vector<ValueChange>& changes);
+// Puts the new values into the object: changed lines are replaced, those at default removed, new ones
+// inserted in class order. Leaving out means "as the ancestor has it" in an inherited object: `inherited` are
+// the values that it has from there; where nobody knows them every change is kept.
+void PatchObject(Object& object, Document& document, const Snapshot& after, std::vector<ValueChange>& changes,
+                 const Snapshot* inherited = nullptr);
 // Puts a property, or none, in the place of the one of that name. Nothing when there is neither.
 std::optional<ValueChange> ExchangeNode(Object& object, QByteArrayView name, std::optional<Property> node);
 // Exchanges the nodes of a patched object with those from before, or back again.

@@ -4,32 +4,47 @@
 #include "ide/StandIns.h"
 #include "rtl/ClassRegistry.h"
 #include "vcl/Nested.h"
+#include "vcl/SidePlaces.h"
 
 namespace {
 TComponent* MakeRoot(const forms::Object& object, bool sizeIsClient, TComponent* owner) {
   auto* form = new TForm(owner);
   form->SetKind(KindOfRoot(object));
   form->SetSizeIsClient(sizeIsClient);
-  form->SetSizeInherited(object.kind == forms::ObjectKind::Inherited);
+  form->SetSizeInherited(object.kind == forms::ObjectKind::Inherited && !object.origin);
   form->SetStreamClassName(QByteArray(object.className.constData(), object.className.size()));
   return form;
 }
+
+// The object at the same place of a copy of the document, which may have what is implied in another order.
+const forms::Object* Twin(const forms::Object& child, std::size_t at, const forms::Object& parent) {
+  if (at < parent.children.size() && parent.children[at]->name == child.name)
+    return parent.children[at].get();
+  const auto it = std::find_if(parent.children.begin(), parent.children.end(),
+                               [&](const auto& other) { return other->name == child.name; });
+  return it == parent.children.end() ? nullptr : it->get();
+}
 }  // namespace
 
-BoundForm::BoundForm(forms::Document document, DesignRegistry& registry, IFormWatcher& watcher)
-    : registry_(registry), watcher_(watcher), document_(std::move(document)) {}
+BoundForm::BoundForm(forms::Document document, const QString& fileName, DesignRegistry& registry,
+                     IFormWatcher& watcher)
+    : registry_(registry), watcher_(watcher), ancestors_(fileName), document_(std::move(document)) {}
 
 BoundForm::~BoundForm() = default;
 
 void BoundForm::Make(bool edited) {
-  RequirePictureBudget(document_, edited);
+  const std::vector<forms::Finding> missing = ancestors_.Complete(document_);
+  RequirePictureBudget(document_, edited || ancestors_.Any());
+  inherited_.clear();
   if (root_) root_->SetHost(nullptr);
   root_.reset();
   map_.Clear();
   prints_.Clear();
   forms::FormReader reader = MakeReader(document_, map_);
   root_.reset(static_cast<TForm*>(reader.ReadRoot().release()));
+  PlaceBySides(*root_);
   findings_ = reader.Findings();
+  findings_.insert(findings_.end(), missing.begin(), missing.end());
   NoteDangling(findings_);
   TakeFingerprints(document_.Root());
 }
@@ -45,8 +60,9 @@ forms::FormReader BoundForm::MakeReader(forms::Document& document, forms::Object
     silent_ = silent_ || !PromisesTelling(cls);
     TComponent* made =
         PackageCall([&] { return registry_.ConstructorOf(cls); }, [&] { return cls.NewComponent(owner); });
-    // How the ancestor aligns it nobody knows.
-    if (auto* control = As<TControl>(made); control && object.kind == forms::ObjectKind::Inherited)
+    // How an ancestor that is not there aligns it nobody knows.
+    if (auto* control = As<TControl>(made);
+        control && object.kind == forms::ObjectKind::Inherited && !object.origin)
       control->SetAlign(TAlign::alNone);
     return made;
   });
@@ -136,6 +152,7 @@ TComponent* BoundForm::MakeComponents(const StructureChange& s) {
   NoteDangling(reader.Findings());
   if (!c) return nullptr;
   PutInPlace(*c, *s.parent, s.index);
+  if (const auto* control = As<TControl>(c); control && control->Parent()) PlaceBySides(*control->Parent());
   TakeFingerprints(*s.object);
   watcher_.Came(*c);
   return c;
@@ -193,21 +210,46 @@ bool BoundForm::ChangedSilently(const TComponent& component, const forms::Object
   return prints_.Differs(component, object, document_);
 }
 
-// The whole form is read once more: what an object's values mean depends on what it stands in and refers to.
 std::vector<BoundForm::Described> BoundForm::AsDocumented(const std::vector<const forms::Object*>& objects) {
+  return ReadAgain(objects, true);
+}
+
+void BoundForm::LearnInherited(const std::vector<const forms::Object*>& objects) {
+  std::vector<const forms::Object*> unknown;
+  for (const forms::Object* o : objects)
+    if (o->origin && !inherited_.contains(o->origin->object)) unknown.push_back(o);
+  for (auto& d : ReadAgain(unknown, false)) inherited_.insert(d.object->origin->object, std::move(d.values));
+}
+
+const forms::Snapshot* BoundForm::InheritedValues(const forms::Object& object) const {
+  const auto found = object.origin ? inherited_.constFind(object.origin->object) : inherited_.cend();
+  return found == inherited_.cend() ? nullptr : &*found;
+}
+
+// The whole form is read once more: what an object's values mean depends on what it stands in and refers to.
+std::vector<BoundForm::Described> BoundForm::ReadAgain(const std::vector<const forms::Object*>& objects,
+                                                       bool own) {
   std::vector<Described> described;
   if (objects.empty()) return described;
   const QSet<const forms::Object*> wanted(objects.begin(), objects.end());
   forms::Document copy = forms::Document::Parse(document_.Write(), document_.Style());
+  ancestors_.Complete(copy);
+  std::vector<std::pair<forms::Object*, const forms::Object*>> twins;
+  const std::function<void(const forms::Object&, const forms::Object&)> pair = [&](const forms::Object& was,
+                                                                                   const forms::Object& is) {
+    if (wanted.contains(&is)) twins.emplace_back(const_cast<forms::Object*>(&was), &is);
+    for (std::size_t i = 0; i < is.children.size(); ++i)
+      if (const forms::Object* twin = Twin(*is.children[i], i, was)) pair(*twin, *is.children[i]);
+  };
+  pair(copy.Root(), document_.Root());
+  if (!own)
+    for (const auto& [was, is] : twins) was->properties.clear();
   forms::ObjectMap copies;
   forms::FormReader reader = MakeReader(copy, copies);
   const auto root = reader.ReadRoot();
-  const std::function<void(const forms::Object&, const forms::Object&)> walk = [&](const forms::Object& was,
-                                                                                   const forms::Object& is) {
-    if (const TComponent* old = copies.ComponentOf(was); old && wanted.contains(&is))
-      described.push_back({&is, old->Name(), forms::TakeSnapshot(*old, copy)});
-    for (std::size_t i = 0; i < is.children.size(); ++i) walk(*was.children[i], *is.children[i]);
-  };
-  walk(copy.Root(), document_.Root());
+  PlaceBySides(*As<TWinControl>(root.get()));
+  for (const auto& [was, is] : twins)
+    if (const TComponent* old = copies.ComponentOf(*was))
+      described.push_back({is, old->Name(), forms::TakeSnapshot(*old, copy)});
   return described;
 }

@@ -4,6 +4,7 @@
 #include <QScopedValueRollback>
 
 #include "designintf/DesignRegistry.h"
+#include "ide/Ancestors.h"
 #include "ide/Command.h"
 #include "ide/Fingerprints.h"
 #include "vcl/Form.h"
@@ -18,8 +19,9 @@ class IFormWatcher {
 
 class BoundForm {
  public:
-  // The registry and the watcher outlive the form.
-  BoundForm(forms::Document document, DesignRegistry& registry, IFormWatcher& watcher);
+  // The registry and the watcher outlive the form. What it inherits is looked for beside the file.
+  BoundForm(forms::Document document, const QString& fileName, DesignRegistry& registry,
+            IFormWatcher& watcher);
   ~BoundForm();
 
   // All components, made anew. Throws EFormError before anything is made when pictures would take too much;
@@ -55,6 +57,8 @@ class BoundForm {
   // The component has this object from now on.
   void Bind(TComponent& component, forms::Object& object) { map_.Add(component, object); }
   void Unbind(TComponent& component) { map_.Remove(component); }
+  // The object has come from elsewhere: what its frames hold comes with it.
+  void Complete(forms::Object& object) { ancestors_.Complete(document_, object); }
   // Makes the components of an object that stands in the document already.
   TComponent* MakeComponents(const StructureChange& change);
   // Frees the component of the object, and everything inside.
@@ -81,9 +85,15 @@ class BoundForm {
     forms::Snapshot values;
   };
   std::vector<Described> AsDocumented(const std::vector<const forms::Object*>& objects);
+  // What these would be if the form said nothing of them. Those without an origin are left out.
+  void LearnInherited(const std::vector<const forms::Object*>& objects);
+  // As learned; null for others.
+  const forms::Snapshot* InheritedValues(const forms::Object& object) const;
 
  private:
   forms::FormReader MakeReader(forms::Document& document, forms::ObjectMap& map);
+  // `own`: with what the document itself says of them.
+  std::vector<Described> ReadAgain(const std::vector<const forms::Object*>& objects, bool own);
   void NoteDangling(const std::vector<forms::Finding>& findings);
   int PlaceAmong(const forms::Object& parent, int index, const TClass& family) const;
   // Among its siblings where its object stands.
@@ -97,9 +107,12 @@ class BoundForm {
 
   DesignRegistry& registry_;
   IFormWatcher& watcher_;
+  Ancestors ancestors_;  // outlive the document that stands on them
   forms::Document document_;
   forms::ObjectMap map_;
   Fingerprints prints_;
+  // What edited components inherit, by their origins: the same whoever inherits it.
+  QHash<const forms::Object*, forms::Snapshot> inherited_;
   std::unique_ptr<TForm> root_;
   std::vector<forms::Finding> findings_;
   bool frozen_ = false;

@@ -1,5 +1,9 @@
 #include "ide/CommandRecorder.h"
 
+#include <QCoreApplication>
+
+#include "rtl/Exceptions.h"
+
 namespace {
 // Puts other bounds into the values of a control that was only moved.
 void PutBounds(forms::Snapshot& values, const TControl& control, const QRect& bounds) {
@@ -35,6 +39,15 @@ void CommandRecorder::ByHand::Settle(const QRect& now) {
   width |= now.width() != from->width();
   height |= now.height() != from->height();
   from.reset();
+}
+
+void CommandRecorder::RequireOwnNames() const {
+  for (const Before& b : captured_)
+    if (form_.ObjectOf(*b.component) == b.object && b.object->parent &&
+        b.object->kind == forms::ObjectKind::Inherited && b.component->Name() != b.name)
+      throw EComponentError(QCoreApplication::translate(
+                                "FormSession", "%1 comes from the ancestor form and cannot be renamed here.")
+                                .arg(b.name));
 }
 
 std::vector<TComponent*> CommandRecorder::Captured() const {
@@ -125,6 +138,7 @@ TComponent* CommandRecorder::Insert(std::unique_ptr<forms::Object> object, forms
   s.parent = &parent;
   s.index = index;
   parent.Insert(index, std::move(object));
+  form_.Complete(*s.object);
   CollectObjects(*s.object, inserted_);
   structure_.push_back(std::move(s));
   const auto building = form_.Build();

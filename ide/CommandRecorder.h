@@ -36,6 +36,8 @@ class CommandRecorder {
   // What the component's object says beyond its class; nothing takes the property out.
   void PutStored(TComponent& component, QByteArrayView name, std::optional<forms::Property> property);
 
+  // Throws when an inherited component was renamed: its name is what ties it to its ancestor.
+  void RequireOwnNames() const;
   // Every control back to where it was before the command.
   void RestoreBounds();
   // What the action changed so far, with the document patched accordingly; ends the recording.
@@ -59,6 +61,7 @@ class CommandRecorder {
   void Adopt(TComponent& component);
   void KeepLostActions();
   void CaptureSilent();
+  void LearnInherited();
   void TakeArrivals();
   void TakePlaces();
   void TakeNestedPlaces();

@@ -22,6 +22,7 @@ std::unique_ptr<Command> CommandRecorder::Take() {
   TakeBounds();
   auto command = std::make_unique<Command>();
   command->selectionBefore = std::move(selectionBefore_);
+  LearnInherited();
   for (Before& before : captured_)
     if (auto change = TakeChange(before)) command->components.push_back(std::move(*change));
   for (const StructureChange& s : structure_)
@@ -59,6 +60,16 @@ void CommandRecorder::CaptureSilent() {
     index_.insert(component);
     captured_.push_back({component, form_.ObjectOf(*component), d.name, std::move(d.values)});
   }
+}
+
+// What was only looked at is not asked for.
+void CommandRecorder::LearnInherited() {
+  std::vector<const forms::Object*> inherited;
+  for (const Before& b : captured_)
+    if (b.object->origin && form_.ObjectOf(*b.component) == b.object &&
+        !forms::Difference(b.values, forms::TakeSnapshot(*b.component, form_.Document())).empty())
+      inherited.push_back(b.object);
+  form_.LearnInherited(inherited);
 }
 
 // What stood inside something that was freed goes with it; what was given another parent first has moved.
@@ -164,6 +175,17 @@ void CommandRecorder::MarkFollowing(std::vector<forms::ValueChange>& values, con
                 (v.path == "Width" && !hand.width) || (v.path == "Height" && !hand.height);
 }
 
+namespace {
+// An inherited object that has lost its last difference is no longer written, nor are those that were there
+// for its sake.
+void LeaveOutEmpty(forms::Object& object, const std::vector<forms::ValueChange>& values) {
+  const bool lost = std::any_of(values.begin(), values.end(),
+                                [](const forms::ValueChange& v) { return v.nodeBefore && !v.nodeAfter; });
+  for (forms::Object* o = &object; lost && o->origin && o->parent && o->properties.empty(); o = o->parent)
+    if (o->kind == forms::ObjectKind::Inherited) o->implied = true;
+}
+}  // namespace
+
 std::optional<ComponentChange> CommandRecorder::TakeChange(Before& before) {
   // A new component may stand at the address of a deleted one; the object tells them apart.
   if (form_.ObjectOf(*before.component) != before.object) return {};
@@ -185,7 +207,8 @@ std::optional<ComponentChange> CommandRecorder::TakeChange(Before& before) {
       change.classAfter = "T" + change.nameAfter.toUtf8();
     form_.SetName(change, true);
   }
-  forms::PatchObject(object, form_.Document(), after, change.values);
+  forms::PatchObject(object, form_.Document(), after, change.values, form_.InheritedValues(object));
+  LeaveOutEmpty(object, change.values);
   // These came first.
   std::vector<forms::ValueChange> stored = std::exchange(stored_[&object], {});
   if (!stored.empty()) LookAgain(*before.component, form_.Document(), object);

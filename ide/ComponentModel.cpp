@@ -1,5 +1,8 @@
 #include "ide/ComponentModel.h"
 
+#include <QGuiApplication>
+#include <QPalette>
+
 #include "designintf/ComponentIcons.h"
 
 ComponentModel::ComponentModel(Shape shape, QObject* parent) : QAbstractItemModel(parent), shape_(shape) {}
@@ -70,6 +73,10 @@ QVariant ComponentModel::data(const QModelIndex& index, int role) const {
   const TComponent* c = ComponentAt(index);
   if (!c) return {};
   if (role == Qt::DecorationRole) return ComponentIcon(c->ClassType());
+  if (const forms::Object* o = ObjectAt(index); o->parent && o->kind == forms::ObjectKind::Inherited) {
+    if (role == Qt::ForegroundRole) return QGuiApplication::palette().brush(QPalette::PlaceholderText);
+    if (role == Qt::ToolTipRole || role == Qt::AccessibleDescriptionRole) return tr("inherited");
+  }
   if (role != Qt::DisplayRole) return {};
   const QString cls = QString::fromUtf8(c->StreamClassName());
   return c->Name().isEmpty() ? cls : QStringLiteral("%1: %2").arg(c->Name(), cls);

@@ -9,7 +9,7 @@
 #include "rtl/PropAccess.h"
 
 FormSession::FormSession(forms::Document document, FileOnDisk file, DesignRegistry& registry)
-    : form_(std::move(document), registry, *this), file_(std::move(file)) {}
+    : form_(std::move(document), file.Name(), registry, *this), file_(std::move(file)) {}
 
 FormSession::~FormSession() {
   if (!GetRoot()) return;

@@ -88,6 +88,7 @@ void FormSession::Run(const QString& text, const std::vector<TComponent*>& touch
   if (!outer) return action();
   try {
     action();
+    recorder_->RequireOwnNames();
   } catch (...) {
     Rollback();
     throw;

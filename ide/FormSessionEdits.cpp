@@ -1,6 +1,7 @@
 // Components that a command makes, pastes, deletes and renames.
 #include "ide/FormSession.h"
 #include "ide/StandIns.h"
+#include "rtl/PropAccess.h"
 #include "rtl/Exceptions.h"
 #include "vcl/Nested.h"
 
@@ -48,6 +49,7 @@ TComponent* FormSession::CreateComponent(const TClass& cls, TComponent* parent, 
   Run(tr("Add %1").arg(QString::fromLatin1(cls.ClassName())), {}, [&] {
     component = form_.NewComponent(cls);
     component->SetDesigning(true);
+    TakeFamilyDefaults(*component);
     auto* control = As<TControl>(component);
     auto* nested = As<TNestedComponent>(component);
     auto* around = nested && parent && ObjectOf(*parent) ? As<TNestedComponent>(parent) : nullptr;

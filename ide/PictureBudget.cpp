@@ -78,20 +78,25 @@ class PictureSum {
   void Add(const Object& object) {
     // What no class knows is kept and, but for what stand-ins show, never decoded.
     const bool known = IsKnown(object.className);
-    for (const Property& p : object.properties)
-      if (known || StandInShowsPicture(p.Name())) {
-        sum_ += CostOf(document_, p);
-        if (sum_ > MaxFormPictureBytes)
-          throw EFormError(
-              QStringLiteral("The pictures of the form up to here would take more than %1 MB of memory; "
-                             "that is not read. Use fewer or smaller pictures")
-                  .arg(MaxFormPictureBytes >> 20),
-              document_.Where(p));
-      }
+    for (const Origin* origin : object.Origins())
+      for (const Property& p : origin->object->properties)
+        Add(known, *origin->document, p, [&] { return document_.Where(object); });
+    for (const Property& p : object.properties) Add(known, document_, p, [&] { return document_.Where(p); });
     for (const auto& child : object.children) Add(*child);
   }
 
  private:
+  template <class F>
+  void Add(bool known, const Document& document, const Property& p, const F& where) {
+    if (!known && !StandInShowsPicture(p.Name())) return;
+    sum_ += CostOf(document, p);
+    if (sum_ > MaxFormPictureBytes)
+      throw EFormError(
+          QStringLiteral("The pictures of the form up to here would take more than %1 MB of memory; "
+                         "that is not read. Use fewer or smaller pictures")
+              .arg(MaxFormPictureBytes >> 20),
+          where());
+  }
   bool IsKnown(const QByteArray& className) {
     auto it = known_.find(className);
     if (it == known_.end()) it = known_.insert(className, FindClass(className) != nullptr);

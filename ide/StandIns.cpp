@@ -153,7 +153,7 @@ constexpr const char* ModuleProperties[] = {
     "HorizontalOffset", "VerticalOffset", "PixelsPerInch", "PPI",  "Tag", "LCLVersion"};
 
 bool HasAny(const forms::Object& object, std::span<const char* const> names) {
-  return std::any_of(names.begin(), names.end(), [&](const char* n) { return object.Find(n) != nullptr; });
+  return std::any_of(names.begin(), names.end(), [&](const char* n) { return object.Says(n); });
 }
 bool EndsWith(QByteArrayView name, QByteArrayView ending) {
   return name.size() >= ending.size() && name.last(ending.size()).compare(ending, Qt::CaseInsensitive) == 0;
@@ -172,7 +172,7 @@ bool HasVisualChild(const forms::Object& object) {
   return std::any_of(object.children.begin(), object.children.end(),
                      [](const auto& child) { return IsVisual(*child); });
 }
-bool HasSize(const forms::Object& object) { return object.Find("Width") && object.Find("Height"); }
+bool HasSize(const forms::Object& object) { return object.Says("Width") && object.Says("Height"); }
 
 // A part of a larger control that the file gives no place of its own: the pages of wizards and the like.
 bool FillsItsParent(const forms::Object& object) {
@@ -192,11 +192,11 @@ TStandInLook LookOf(const forms::Object& object) {
   const NameRow* row = RowOf(object.className);
   if (row && row->look == Page) return object.parent && object.parent->parent ? Page : Panel;
   if (row && row->look != Component) return row->look;
-  const bool control = object.kind == forms::ObjectKind::Inline || HasAny(object, ControlProperties) ||
+  const bool control = object.IsFrame() || HasAny(object, ControlProperties) ||
                        (!row && (HasSize(object) || HasVisualChild(object)));
   if (!control) return Component;
   if (FillsItsParent(object)) return Page;
-  return object.kind == forms::ObjectKind::Inline || HasVisualChild(object) ? Panel : Plain;
+  return object.IsFrame() || HasVisualChild(object) ? Panel : Plain;
 }
 
 bool IsVisual(const forms::Object& object) {
@@ -218,6 +218,7 @@ bool RootHasProperty(TFormKind kind, QByteArrayView property) {
 }
 
 TFormKind KindOfRoot(const forms::Object& root) {
+  if (root.origin) return KindOfRoot(*root.origin->object);
   if (HasAny(root, FormProperties)) return TFormKind::Form;
   if (HasAny(root, FrameProperties)) return TFormKind::Frame;
   if (HasVisualChild(root))
@@ -243,38 +244,33 @@ class Reader {
       : document_(document), object_(object) {}
 
   QString Text(QByteArrayView name) const {
-    const forms::Property* p = object_.Find(name);
-    if (!p) return {};
-    const forms::Value v = document_.Read(*p);
-    return v.IsString()                        ? document_.Decode(v)
+    const auto [v, document] = Read(name);
+    return v.IsString()                        ? document->Decode(v)
            : v.type == forms::ValueType::Ident ? QString::fromUtf8(v.bytes)
                                                : QString();
   }
   QStringList Lines(QByteArrayView name) const {
     QStringList lines;
-    if (const forms::Property* p = object_.Find(name))
-      for (const forms::Value& v : document_.Read(*p).items)
-        if (v.IsString()) lines << document_.Decode(v);
+    const auto [value, document] = Read(name);
+    for (const forms::Value& v : value.items)
+      if (v.IsString()) lines << document->Decode(v);
     return lines;
   }
   std::optional<int> Number(QByteArrayView name) const {
-    const forms::Property* p = object_.Find(name);
-    if (!p) return {};
-    const forms::Value v = document_.Read(*p);
+    const forms::Value v = Read(name).value;
     if (!v.IsInteger() || v.integer < INT16_MIN || v.integer > INT16_MAX) return {};
     return static_cast<int>(v.integer);
   }
   // Captions and widths of a collection of columns, whichever framework wrote it.
   std::vector<TStandInColumn> Columns(QByteArrayView name) const {
     std::vector<TStandInColumn> columns;
-    const forms::Property* p = object_.Find(name);
-    if (!p) return columns;
-    for (const forms::CollectionItem& item : document_.Read(*p).collection) {
+    const auto [value, document] = Read(name);
+    for (const forms::CollectionItem& item : value.collection) {
       TStandInColumn column;
       for (const forms::NamedValue& v : item.properties) {
         const bool caption = v.path == "Caption" || v.path == "Title.Caption" || v.path == "Text";
         if (caption || (v.path == "FieldName" && column.text.isEmpty()))
-          if (v.value.IsString()) column.text = document_.Decode(v.value);
+          if (v.value.IsString()) column.text = document->Decode(v.value);
         if (v.path == "Width" && v.value.IsInteger())
           column.width = static_cast<int>(std::clamp<std::int64_t>(v.value.integer, 0, INT16_MAX));
       }
@@ -283,9 +279,7 @@ class Reader {
     return columns;
   }
   std::shared_ptr<const TPicture> Picture(QByteArrayView name) const {
-    const forms::Property* p = object_.Find(name);
-    if (!p) return {};
-    forms::Value v = document_.Read(*p);
+    forms::Value v = Read(name).value;
     if (v.type != forms::ValueType::Binary) return {};
     v.Own();
     auto picture = std::make_shared<TPicture>();
@@ -293,28 +287,37 @@ class Reader {
     return picture;
   }
   QStringList Elements(QByteArrayView name, const QStringList& otherwise) const {
-    const forms::Property* p = object_.Find(name);
-    if (!p) return otherwise;
+    if (!Has(name)) return otherwise;
     QStringList elements;
-    for (const QByteArray& e : document_.Read(*p).elements) elements << QString::fromUtf8(e);
+    const forms::Value v = Read(name).value;
+    for (const QByteArray& e : v.elements) elements << QString::fromUtf8(e);
     return elements;
   }
-  bool True(QByteArrayView name) const {
-    const forms::Property* p = object_.Find(name);
-    return p && document_.Read(*p).type == forms::ValueType::True;
-  }
+  bool True(QByteArrayView name) const { return Read(name).value.type == forms::ValueType::True; }
   std::optional<TColor> Color(QByteArrayView name) const {
-    const forms::Property* p = object_.Find(name);
-    if (!p) return {};
-    const forms::Value v = document_.Read(*p);
+    if (!Has(name)) return {};
+    const forms::Value v = Read(name).value;
     std::int64_t color = v.integer;
     if (!v.IsInteger() && !(v.type == forms::ValueType::Ident && IdentToColor(v.bytes, color))) return {};
     const TColor result{static_cast<std::uint32_t>(color)};
     return result == clDefault || result == clNone ? std::nullopt : std::optional(result);
   }
-  bool Has(QByteArrayView name) const { return object_.Find(name) != nullptr; }
+  bool Has(QByteArrayView name) const { return object_.Says(name); }
 
  private:
+  struct Said {
+    forms::Value value;  // of no kind when nobody says it
+    const forms::Document* document = nullptr;
+  };
+  // What the object says, or else the nearest of its origins.
+  Said Read(QByteArrayView name) const {
+    const forms::Document* document = &document_;
+    for (const forms::Object* o = &object_; o; o = o->origin ? o->origin->object : nullptr) {
+      if (const forms::Property* p = o->Find(name)) return {document->Read(*p), document};
+      if (o->origin) document = o->origin->document;
+    }
+    return {};
+  }
   const forms::Document& document_;
   const forms::Object& object_;
 };
@@ -325,7 +328,7 @@ QStringList ShownButtons(const Reader& read) {
     const char* element;
     const char* caption;
   };
-  static constexpr Row rows[] = {{"pbHelp", "Help"},     {"pbOK", "OK"},        {"pbClose", "Close"},
+  static constexpr Row rows[] = {{"pbHelp", "Help"},     {"pbOK", "OK"},         {"pbClose", "Close"},
                                  {"pbCancel", "Cancel"}, {"nbFirst", "|\u25C0"}, {"nbPrior", "\u25C0"},
                                  {"nbNext", "\u25B6"},   {"nbLast", "\u25B6|"},  {"nbInsert", "+"},
                                  {"nbDelete", "\u2212"}};
@@ -413,7 +416,8 @@ TComponent* MakeStandIn(const forms::Document& document, const forms::Object& ob
   TStandIn what = ReadLook(read, look);
   what.hasPlace = look != Page || HasAny(object, PlaceProperties);
   for (const AlignRow& row : AlignRows)
-    if (EndsWith(cls, row.ending) && object.kind != forms::ObjectKind::Inherited) what.usualAlign = row.align;
+    if (EndsWith(cls, row.ending) && (object.origin || object.kind != forms::ObjectKind::Inherited))
+      what.usualAlign = row.align;
   control->SetAlign(what.usualAlign);
   if (what.color) control->SetColor(*what.color);
   control->SetStandIn(std::move(what));

@@ -30,6 +30,11 @@ const TClass& TUnknownComponent::StaticClass() {
 
 TUnknownControl::TUnknownControl(TComponent* owner) : TWinControl(owner) {}
 
+QRect TUnknownControl::ClientRect() const {
+  const QRect all = TWinControl::ClientRect();
+  return standIn_.look == TStandInLook::Group ? ToldClientRect().value_or(all) : all;
+}
+
 bool TUnknownControl::AcceptsControls() const {
   using enum TStandInLook;
   const bool container = standIn_.look == Panel || standIn_.look == Group || standIn_.look == Page;

@@ -13,6 +13,8 @@ class TUnknownControl : public TWinControl, public IBook {
   const TStandIn& StandIn() const { return standIn_; }
   void SetStandIn(TStandIn standIn) { standIn_ = std::move(standIn); }
 
+  // That of a group box, as that of known ones.
+  QRect ClientRect() const override;
   // What looks like a container holds controls, and what holds some in the file.
   bool AcceptsControls() const override;
 

@@ -45,7 +45,11 @@ void CheckMark(QPainter& p, const QRectF& r, bool round, bool set) {
 }  // namespace
 
 void TUnknownControl::PaintText(TCanvas& canvas, const QRect& area, int flags, const QString& text) const {
-  if (area.width() > 0 && area.height() > 0) canvas.TextRect(area, flags, text, *Font(), Enabled());
+  if (area.width() <= 0 || area.height() <= 0) return;
+  // What a field or a list holds has no marks.
+  static constexpr auto Holders = {Field, Combo, Spin, Memo, List, Grid};
+  const bool holds = std::find(Holders.begin(), Holders.end(), standIn_.look) != Holders.end();
+  canvas.TextRect(area, flags | (holds ? 0 : Qt::TextShowMnemonic), text, *Font(), Enabled());
 }
 
 // Name and class, when there is nothing else to tell the control by and they fit.
@@ -56,7 +60,7 @@ void TUnknownControl::PaintQuiet(TCanvas& canvas) const {
   font.setPixelSize(std::min(font.pixelSize(), 12));
   p.setFont(font);
   p.setPen(FormPalette().color(QPalette::PlaceholderText));
-  const QRect room = ClientRect().adjusted(5, 2, -5, -2);
+  const QRect room = PaintExtent().adjusted(5, 2, -5, -2);
   const QString cls = QString::fromUtf8(streamClass_);
   for (const QString& text : {Name().isEmpty() ? cls : QStringLiteral("%1: %2").arg(Name(), cls), cls})
     if (p.fontMetrics().horizontalAdvance(text) <= room.width() &&
@@ -94,7 +98,7 @@ TUnknownControl* TUnknownControl::PageAt(QPoint point) const {
 void TUnknownControl::PaintTabs(TCanvas& canvas) const {
   const QPalette palette = FormPalette();
   QPainter& p = canvas.Painter();
-  Box(p, QRectF(ClientRect()).adjusted(0, TabHeight - 1, 0, 0), palette.color(QPalette::Window), 0);
+  Box(p, QRectF(PaintExtent()).adjusted(0, TabHeight - 1, 0, 0), palette.color(QPalette::Window), 0);
   const auto pages = Pages();
   const auto rects = TabRects();
   for (std::size_t i = 0; i < rects.size(); ++i) {
@@ -130,7 +134,7 @@ void TUnknownControl::PaintChoices(TCanvas& canvas, const QRect& area, bool excl
 bool TUnknownControl::PaintSurface(TCanvas& canvas) const {
   const QPalette palette = FormPalette();
   QPainter& p = canvas.Painter();
-  const QRect r = ClientRect();
+  const QRect r = PaintExtent();
   const QString text = Caption().isEmpty() ? standIn_.text : Caption();
   const QColor base = standIn_.color ? ToQColor(*standIn_.color) : palette.color(QPalette::Base);
   const bool tall = r.height() > 2 * QFontMetrics(ToQFont(*Font())).height() + 4;
@@ -220,7 +224,7 @@ bool TUnknownControl::PaintSurface(TCanvas& canvas) const {
       p.fillRect(r, palette.color(QPalette::Midlight));
       return true;
     case Divider: {
-      const int width = text.isEmpty() ? 0 : TextExtent(text, *Font()).width() + 6;
+      const int width = text.isEmpty() ? 0 : TextExtent(text, *Font(), Qt::TextShowMnemonic).width() + 6;
       PaintText(canvas, r, Middle, text);
       p.setPen(Line());
       p.drawLine(r.left() + width, r.center().y(), r.right(), r.center().y());
@@ -249,7 +253,7 @@ bool TUnknownControl::PaintSurface(TCanvas& canvas) const {
 // The heads of the columns, and the first lines of a grid below.
 void TUnknownControl::PaintHeader(TCanvas& canvas) const {
   QPainter& p = canvas.Painter();
-  const QRect r = ClientRect();
+  const QRect r = PaintExtent();
   const bool grid = standIn_.look == Grid;
   const int bottom = std::min(r.height() - 1, grid ? 3 * HeaderHeight : HeaderHeight);
   p.fillRect(QRect(1, 1, r.width() - 2, std::min(HeaderHeight, r.height() - 2)),
@@ -271,7 +275,7 @@ void TUnknownControl::PaintHeader(TCanvas& canvas) const {
 
 void TUnknownControl::PaintButtons(TCanvas& canvas) const {
   constexpr int Gap = 6, Most = 75, Tall = 25;
-  const QRect r = ClientRect();
+  const QRect r = PaintExtent();
   const int count = static_cast<int>(standIn_.items.size());
   if (count == 0) return;
   const int width = std::min(Most, (r.width() - Gap) / count - Gap), height = std::min(Tall, r.height() - 2);
@@ -288,7 +292,7 @@ void TUnknownControl::PaintButtons(TCanvas& canvas) const {
 // A folded corner says that nobody knows the class.
 void TUnknownControl::PaintMark(TCanvas& canvas) const {
   constexpr int Side = 6, Least = 3 * Side;
-  const QRect r = ClientRect();
+  const QRect r = PaintExtent();
   if (r.width() < Least || r.height() < 2 * Side) return;
   QPainter& p = canvas.Painter();
   const QPoint corner(r.right() + 1, 0);

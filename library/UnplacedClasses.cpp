@@ -1,11 +1,16 @@
 // Components that are on no palette page but in forms: known from the moment the library is in memory.
+#include "library/components/ShapeHint.h"
+#include "library/controls/FillControl.h"
 #include "library/controls/RegionControl.h"
 #include "rtl/ClassRegistry.h"
 
 namespace {
 [[maybe_unused]] const bool Registered = [] {
-  RegisterClass(TVRXRegion::StaticClass());
-  PromiseTelling(TVRXRegion::StaticClass());
+  for (const TClass* cls :
+       {&TVRXRegion::StaticClass(), &TVRXFill::StaticClass(), &TVRXShapeHint::StaticClass()}) {
+    RegisterClass(*cls);
+    PromiseTelling(*cls);
+  }
   return true;
 }();
 }  // namespace

@@ -2,6 +2,7 @@
 
 #include <QtWidgets>
 
+#include "dclstd/EditValue.h"
 #include "designintf/CustomColors.h"
 #include "rtl/Exceptions.h"
 #include "vcl/ColorSwatch.h"
@@ -12,6 +13,10 @@ bool ChooseColorEnh(QWidget* parent, TColor& color, QStringList& customColors) {
   customColors = dialog.CustomColors();
   if (chosen) color = dialog.Color();
   return chosen;
+}
+
+bool VRXCPGetColor(TColor& color, QStringList& customColors) {
+  return ChooseColorEnh(ApplicationOwner(), color, customColors);
 }
 
 namespace {

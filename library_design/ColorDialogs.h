@@ -10,6 +10,8 @@ class QListWidget;
 class QSpinBox;
 
 bool ChooseColorEnh(QWidget* parent, TColor& color, QStringList& customColors);
+// The same over the window that the user is in.
+bool VRXCPGetColor(TColor& color, QStringList& customColors);
 
 class ColorEnhDialog : public ModalDialog {
   Q_OBJECT

@@ -10,7 +10,7 @@ TVRXFontFxEditorDlg::TVRXFontFxEditorDlg(QWidget* owner)
     : EditorDialog(QStringLiteral("FontFX Editor"), QSize(533, 318), owner) {
   Preview(test, "Shows the current settings.");
   test->Brush()->SetColor(clBtnFace);
-  test->SetBevelColor(clBtnShadow);
+  test->Set(TVRXBaseShape::BevelColor, clBtnShadow);
   test->Caption()->SetCaption(QStringLiteral("Preview"));
   test->Caption()->Font()->SetHeight(-28);
   test->Caption()->Font()->SetStyle({TFontStyle::fsBold});

@@ -156,7 +156,10 @@ void TClassBuilder::RepublishWith(const char* name, std::optional<std::int64_t> 
   if (!inherited) qFatal("%s publishes \"%s\", which no ancestor declares", name_.constData(), name);
   auto info = std::make_unique<TPropInfo>(*inherited);
   info->Visibility = TPropVisibility::Published;
-  if (def) info->Default = def;
+  if (def) {
+    info->Default = def;
+    info->OtherDefault.reset();
+  }
   own_.push_back(std::move(info));
 }
 

@@ -145,6 +145,12 @@ class TClassBuilder {
     Add(TPropVisibility::Streamed, name, getter, setter, def...);
     return std::move(*this);
   }
+  // The default of the last one on forms of the other family of frameworks.
+  template <class T>
+  TClassBuilder&& OtherDefault(T def) && {
+    Last().OtherDefault = rtl_detail::ToWire<T>(def);
+    return std::move(*this);
+  }
   // Values that the object keeps.
   template <class T>
   TClassBuilder&& Published(const TKept<T>& property) && {

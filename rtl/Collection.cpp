@@ -27,6 +27,11 @@ int TCollectionItem::Index() const {
 
 QString TCollectionItem::DisplayName() const { return QString::fromLatin1(ClassType().ClassName()); }
 
+void TCollectionItem::Assign(const TPersistent* source) {
+  TKeeper::Assign(source);
+  if (const auto* item = As<TCollectionItem>(source)) unread_ = item->unread_;
+}
+
 TCollection::TCollection(const TClass& itemClass, TPersistent* owner)
     : TOwnedPersistent(owner), itemClass_(itemClass) {}
 TCollection::~TCollection() = default;

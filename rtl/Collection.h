@@ -14,9 +14,16 @@ class TCollectionItem : public TKeeper {
   // A short text that tells the item from its neighbours in editors.
   virtual QString DisplayName() const;
 
+  void Assign(const TPersistent* source) override;
+  // What a file says about the item and no property of it takes. Whoever read it knows what it is and writes
+  // it again; null for nothing.
+  const std::shared_ptr<const void>& Unread() const { return unread_; }
+  void SetUnread(std::shared_ptr<const void> unread) { unread_ = std::move(unread); }
+
  private:
   friend class TCollection;
   TCollection* collection_;
+  std::shared_ptr<const void> unread_;
 };
 
 class TCollection : public TOwnedPersistent, public IStreamedContent {

@@ -26,6 +26,10 @@ class TPersistent {
   // The object this one is a part of: the component of a value object, the collection of an item.
   virtual TPersistent* GetOwner() const { return nullptr; }
 
+  // Two families of frameworks keep the same thing in different ways; what stands on a form is of the form's.
+  // The other family is the one whose Width and Height of a form are the client area's.
+  virtual bool IsOfOtherFamily() const { return GetOwner() && GetOwner()->IsOfOtherFamily(); }
+
   // Tells the owner that a value here is about to change, while the old one can still be read. Every setter
   // calls it first, as a rule through Change, and only when the value is another one.
   // Between BeginUpdate and EndUpdate the calls are collected into one: the first.

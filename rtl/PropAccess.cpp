@@ -125,11 +125,21 @@ void SetBinaryProp(TPersistent& instance, const TPropInfo& prop, const QByteArra
   Store(instance, prop, value);
 }
 
+std::optional<std::int64_t> DefaultOrdinal(const TPersistent& instance, const TPropInfo& prop) {
+  return prop.OtherDefault && instance.IsOfOtherFamily() ? prop.OtherDefault : prop.Default;
+}
+
+void TakeFamilyDefaults(TPersistent& instance) {
+  for (const TPropInfo* prop : instance.ClassType().Properties())
+    if (prop->OtherDefault && instance.IsOfOtherFamily()) SetOrdProp(instance, *prop, *prop->OtherDefault);
+}
+
 namespace {
 // What the property has when nothing is said about it; nothing for ordinals that are always said.
-std::optional<TPropValue> DefaultOf(const TPropInfo& prop) {
+std::optional<TPropValue> DefaultOf(const TPersistent& instance, const TPropInfo& prop) {
   if (!prop.IsOrdinal()) return prop.Access->Nothing();
-  return prop.Default ? std::optional<TPropValue>(*prop.Default) : std::nullopt;
+  const auto ordinal = DefaultOrdinal(instance, prop);
+  return ordinal ? std::optional<TPropValue>(*ordinal) : std::nullopt;
 }
 
 bool PartAtDefault(const TPersistent& part) {
@@ -140,7 +150,10 @@ bool PartAtDefault(const TPersistent& part) {
 }  // namespace
 
 bool IsDefaultValue(const TPersistent& instance, const TPropInfo& prop) {
-  if (prop.IsOrdinal()) return prop.Default && GetOrdProp(instance, prop) == *prop.Default;
+  if (prop.IsOrdinal()) {
+    const auto ordinal = DefaultOrdinal(instance, prop);
+    return ordinal && GetOrdProp(instance, prop) == *ordinal;
+  }
   if (!prop.IsPart()) return GetProp(instance, prop) == prop.Access->Nothing();
   if (prop.Access->IsUntouched(instance)) return true;
   const TPersistent* part = GetObjectProp(instance, prop);
@@ -156,7 +169,7 @@ bool IsStoredProp(const TPersistent& instance, const TPropInfo& prop) {
 void ResetProp(TPersistent& instance, const TPropInfo& prop) {
   if (!prop.IsWritable()) return;
   if (!prop.IsPart()) {
-    if (const auto value = DefaultOf(prop)) SetProp(instance, prop, *value);
+    if (const auto value = DefaultOf(instance, prop)) SetProp(instance, prop, *value);
   } else if (TPersistent* part =
                  prop.Access->IsUntouched(instance) ? nullptr : GetObjectProp(instance, prop)) {
     const TUpdateLock lock(*part);

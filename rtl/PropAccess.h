@@ -27,6 +27,11 @@ void SetBinaryProp(TPersistent& instance, const TPropInfo& prop, const QByteArra
 // Whether the property holds a component reference rather than a value object of its own.
 inline bool IsComponentRef(const TPropInfo& prop) { return prop.Is<TReference>(); }
 
+// The default of an ordinal property where the instance stands; nothing when it is always stored.
+std::optional<std::int64_t> DefaultOrdinal(const TPersistent& instance, const TPropInfo& prop);
+// Gives properties whose default is another one there the default of the family that the instance stands
+// with; for objects that are new or about to be read.
+void TakeFamilyDefaults(TPersistent& instance);
 // Whether the value equals the default. Value objects are at default when all their properties are.
 bool IsDefaultValue(const TPersistent& instance, const TPropInfo& prop);
 // Whether a form file holds the property: not default and the stored rule agrees.

@@ -59,6 +59,8 @@ class TPropInfo {
   bool ReadOnly = false;
   // Ordinal default; a property equal to it is not stored. None: always stored.
   std::optional<std::int64_t> Default;
+  // The default that holds on forms of the other family of frameworks, where it is another one.
+  std::optional<std::int64_t> OtherDefault;
   // Extra rule that can keep the property out of the form file; empty means no extra rule.
   std::function<bool(const TPersistent&)> Stored;
   // A sentence for the inspector's description line; may be empty.

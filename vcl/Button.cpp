@@ -79,7 +79,7 @@ const TClass& TImageMargins::StaticClass() {
 }
 
 QSize TButton::AutoSizeHint() const {
-  const QSize text = TextExtent(Caption(), *Font());
+  const QSize text = TextExtent(Caption(), *Font(), Qt::TextShowMnemonic);
   return {text.width() + 20, text.height() + 10};
 }
 

@@ -34,13 +34,10 @@ void TCanvas::TextRect(const QRect& rect, int flags, const QString& text, const 
   painter_.setFont(ToQFont(font));
   const TColor color = font.Color() == clDefault ? clWindowText : font.Color();
   painter_.setPen(ToQColor(enabled ? color : clGrayText));
-  painter_.drawText(rect, flags | Qt::TextShowMnemonic, ShownText(text));
+  painter_.drawText(rect, flags, ShownText(text));
 }
 
 QSize TextExtent(const QString& text, const TFont& font, int flags, int width) {
   const QFontMetrics metrics(ToQFont(font));
-  return metrics
-      .boundingRect(QRect(0, 0, width > 0 ? width : 32000, 32000), flags | Qt::TextShowMnemonic,
-                    ShownText(text))
-      .size();
+  return metrics.boundingRect(QRect(0, 0, width > 0 ? width : 32000, 32000), flags, ShownText(text)).size();
 }

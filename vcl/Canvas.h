@@ -13,7 +13,7 @@ class TCanvas {
   void Polygon(const QPolygonF& points, TColor color);
   // A frame of `width` pixels inside the rectangle, lit from the top left; returns what is left inside.
   QRect Frame3D(QRect rect, TColor topLeft, TColor bottomRight, int width);
-  // Text with "&" accelerators underlined; `flags` are Qt::AlignmentFlag and Qt::TextFlag.
+  // `flags` are Qt::AlignmentFlag and Qt::TextFlag: "&" is a mark with Qt::TextShowMnemonic only.
   void TextRect(const QRect& rect, int flags, const QString& text, const TFont& font, bool enabled = true);
 
  private:

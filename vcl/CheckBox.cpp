@@ -21,7 +21,7 @@ TMarkControl::TMarkControl(TComponent* owner) : TWinControl(owner) {
 }
 
 QSize TMarkControl::AutoSizeHint() const {
-  const QSize text = TextExtent(Caption(), *Font());
+  const QSize text = TextExtent(Caption(), *Font(), Qt::TextShowMnemonic);
   return {MarkSide() + Gap + text.width() + 2, std::max(MarkSide(), text.height()) + 2};
 }
 
@@ -36,8 +36,9 @@ void TMarkControl::Paint(TCanvas& canvas) {
     text.setRight(mark.left() - Gap);
   }
   PaintMark(canvas, mark);
-  canvas.TextRect(text, Qt::AlignLeft | Qt::AlignVCenter | (Get(WordWrap) ? Qt::TextWordWrap : 0), Caption(),
-                  *Font(), Enabled());
+  canvas.TextRect(
+      text, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextShowMnemonic | (Get(WordWrap) ? Qt::TextWordWrap : 0),
+      Caption(), *Font(), Enabled());
 }
 
 const TClass& TCustomCheckBox::StaticClass() {

@@ -146,11 +146,11 @@ const TClass& TControl::StaticClass() {
           .StreamedPassive("ExplicitWidth", 0)
           .StreamedPassive("ExplicitHeight", 0)
           .StreamedPassive("IsControl", false)
-          .StreamedPassive<TAnchorSide*>("AnchorSideLeft")
-          .StreamedPassive<TAnchorSide*>("AnchorSideTop")
-          .StreamedPassive<TAnchorSide*>("AnchorSideRight")
-          .StreamedPassive<TAnchorSide*>("AnchorSideBottom")
-          .StreamedPassive<TControlBorderSpacing*>("BorderSpacing"));
+          .Streamed(AnchorSideLeft)
+          .Streamed(AnchorSideTop)
+          .Streamed(AnchorSideRight)
+          .Streamed(AnchorSideBottom)
+          .Streamed(BorderSpacing));
   return cls;
 }
 
@@ -292,8 +292,8 @@ void TControl::DoChanged() {
       const auto size = [](bool given, int stands, int was, int now) {
         return given ? MovedByDifference(stands, was, now, true) : now;
       };
-      const int width = size(widthGiven_, width_, before.width(), after.width());
-      const int height = size(heightGiven_, height_, before.height(), after.height());
+      const int width = size(given_.width, width_, before.width(), after.width());
+      const int height = size(given_.height, height_, before.height(), after.height());
       Follow({GrowsToTheLeft() ? left_ + width_ - width : left_, top_, width, height});
     }
   }
@@ -442,4 +442,16 @@ void TControl::Loaded() {
   const bool sizesItself = std::exchange(autoSize_, false);
   ParentLookChanged();
   autoSize_ = sizesItself;
+  if (autoSize_) TakeUngivenSize();
+}
+
+// A size that the file leaves out is that of the content. Nothing else moves: what the file says of the
+// others goes with it.
+void TControl::TakeUngivenSize() {
+  const auto* container = As<TWinControl>(this);
+  if (!parent_ || align_ != TAlign::alNone || (container && !container->Controls().empty())) return;
+  const QSize size = AutoSizeHint();
+  if (size.isEmpty()) return;
+  if (!given_.width) width_ = size.width();
+  if (!given_.height) height_ = size.height();
 }

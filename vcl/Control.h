@@ -12,8 +12,11 @@
 #include "vcl/Margins.h"
 #include "vcl/Painters.h"
 
-class TWinControl;
+class TAnchorSide;
 class TControl;
+class TControlBorderSpacing;
+class TControlChildSizing;
+class TWinControl;
 
 int AlignmentFlag(TAlignment alignment);  // Qt::AlignmentFlag
 const TTypeInfo& CaptionType();           // "TCaption", a string shown on a control
@@ -57,14 +60,20 @@ class TControl : public TComponent {
   int Top() const { return top_; }
   int Width() const { return width_; }
   int Height() const { return height_; }
-  void SetLeft(int v) { SetBounds(v, top_, width_, height_); }
-  void SetTop(int v) { SetBounds(left_, v, width_, height_); }
+  void SetLeft(int v) {
+    given_.left = true;
+    SetBounds(v, top_, width_, height_);
+  }
+  void SetTop(int v) {
+    given_.top = true;
+    SetBounds(left_, v, width_, height_);
+  }
   void SetWidth(int v) {
-    widthGiven_ = true;
+    given_.width = true;
     SetBounds(left_, top_, v, height_);
   }
   void SetHeight(int v) {
-    heightGiven_ = true;
+    given_.height = true;
     SetBounds(left_, top_, width_, v);
   }
   virtual QRect ClientRect() const { return {0, 0, width_, height_}; }
@@ -106,6 +115,11 @@ class TControl : public TComponent {
 
   static constexpr TKept<TComponent*> Action{"Action"};
   static constexpr TKept<bool> AlignWithMargins{"AlignWithMargins", false};
+  static constexpr TKept<TAnchorSide*> AnchorSideBottom{"AnchorSideBottom"};
+  static constexpr TKept<TAnchorSide*> AnchorSideLeft{"AnchorSideLeft"};
+  static constexpr TKept<TAnchorSide*> AnchorSideRight{"AnchorSideRight"};
+  static constexpr TKept<TAnchorSide*> AnchorSideTop{"AnchorSideTop"};
+  static constexpr TKept<TControlBorderSpacing*> BorderSpacing{"BorderSpacing"};
   static constexpr TKept<TSizeConstraints*> Constraints{"Constraints"};
   static constexpr TKept<TMargins*> Margins{"Margins"};
   static constexpr TKept<TComponent*> PopupMenu{"PopupMenu"};
@@ -160,10 +174,12 @@ class TControl : public TComponent {
  private:
   friend class TWinControl;
   friend class LayoutChange;
+  friend class SidePlaces;
   // The container whose layout depends on this control's place and size; null when none does.
   TWinControl* LaidOutBy() const;
   QSize Limited(QSize size) const;
   void Follow(const QRect& bounds);
+  void TakeUngivenSize();
   bool ColorStored() const { return !parentColor_; }
   bool FontStored() const { return !parentFont_; }
   bool ShowHintStored() const { return !parentShowHint_; }
@@ -183,7 +199,11 @@ class TControl : public TComponent {
   bool parentFont_ = true, parentShowHint_ = true;
   bool takingParentLook_ = false;
   bool following_ = false;
-  bool widthGiven_ = false, heightGiven_ = false;  // by a form file or a person, not by the content
+  // By a form file or a person, not by the content or by what the sides are tied to.
+  struct Given {
+    bool left = false, top = false, width = false, height = false;
+  };
+  Given given_;
 };
 
 class TGraphicControl : public TControl {
@@ -213,6 +233,7 @@ class TWinControl : public TControl {
   static constexpr TKept<TBevelKind> BevelKind{"BevelKind", TBevelKind::bkNone};
   static constexpr TKept<TBevelCut> BevelOuter{"BevelOuter", TBevelCut::bvLowered};
   static constexpr TKept<int> BevelWidth{"BevelWidth", 1};
+  static constexpr TKept<TControlChildSizing*> ChildSizing{"ChildSizing"};
   static constexpr TKept<TPadding*> Padding{"Padding"};
 
   int TabOrder() const { return tabOrder_; }
@@ -240,6 +261,9 @@ class TWinControl : public TControl {
   virtual void ControlsListed() {}
   // The size that holds what stands inside, for AutoSizeHint; the present one when nothing does.
   QSize ContentExtent() const;
+  // The client area of a container with a frame and a title, where the form file tells how large it is: the
+  // frame is as thick below as at the sides.
+  std::optional<QRect> ToldClientRect() const;
   bool tabStop_ = false;
 
  private:

@@ -23,6 +23,7 @@ const TClass& TOpenDialog::StaticClass() {
           .Passive("FilterIndex", 1)
           .Passive<QString>("InitialDir")
           .Passive("Options", TOpenOptions{ofHideReadOnly, ofEnableSizing})
+          .OtherDefault(TOpenOptions{ofEnableSizing, ofViewDetail})
           .Passive("OptionsEx", TOpenOptionsEx{})
           .Passive<QString>("Title")
           .Event("OnCanClose", "TCloseQueryEvent")

@@ -1,5 +1,6 @@
 #include "vcl/Form.h"
 
+#include "vcl/FormDecor.h"
 #include "vcl/MenuLook.h"
 #include "vcl/PropertyGroups.h"
 
@@ -191,6 +192,10 @@ void TForm::SetBounds(int left, int top, int width, int height) {
   TWinControl::SetBounds(left, top, width, height);
 }
 
+bool TForm::IsOfOtherFamily() const {
+  return sizeIsClient_ || !Get(LCLVersion).isEmpty() || TWinControl::IsOfOtherFamily();
+}
+
 void TForm::SetSizeIsClient(bool v) {
   sizeIsClient_ = v;
   const QSize client(ClientWidth(), ClientHeight());
@@ -264,5 +269,7 @@ void TForm::Loaded() {
 }
 
 void TForm::Paint(TCanvas& canvas) {
+  for (const TFormDecor* decor : TFormDecor::Of(*this))
+    if (decor->PaintGround(canvas, ClientRect())) return;
   canvas.FillRect(ClientRect(), kind_ == TFormKind::DataModule ? clWindow : Color());
 }

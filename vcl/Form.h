@@ -92,6 +92,7 @@ class TForm : public TWinControl {
   // In some form files Width and Height are the client area's. To be said before the form is loaded.
   void SetSizeIsClient(bool v);
   bool SizeIsClient() const { return sizeIsClient_; }
+  bool IsOfOtherFamily() const override;
   // A size that the form file does not give is the ancestor's, which nobody knows: the first one that is
   // given moves nothing. To be said before the form is loaded.
   void SetSizeInherited(bool v) { sizeInherited_ = v; }

@@ -4,12 +4,15 @@
 #include <QPainterPath>
 
 #include "vcl/FormColors.h"
+#include "vcl/FormDecor.h"
 #include "vcl/MenuLook.h"
 #include "vcl/ShownText.h"
 #include "vcl/Theme.h"
 
 namespace {
-void PaintTitleBar(const TForm& form, QPainter& p, bool active) {
+using Decors = std::vector<TFormDecor*>;
+
+void PaintTitleBar(const TForm& form, const Decors& decors, QPainter& p, bool active) {
   QMargins m = form.FrameMargins();
   m.setTop(m.top() - form.MenuBarHeight());
   if (m.isNull()) return;  // a menu only
@@ -21,10 +24,16 @@ void PaintTitleBar(const TForm& form, QPainter& p, bool active) {
   QPainterPath shape;
   shape.addRoundedRect(QRectF(outer).adjusted(0.5, 0.5, -0.5, 6), 6, 6);
   p.setRenderHint(QPainter::Antialiasing);
-  p.setClipRect(outer);
+  p.setClipRect(outer, Qt::IntersectClip);
   p.setPen(edge);
   p.setBrush(bar);
   p.drawPath(shape);
+  TCanvas canvas(p);
+  QPainterPath barOnly;
+  barOnly.addRect(0, 0, outer.width(), m.top());
+  for (const TFormDecor* decor : decors) decor->PaintTitle(canvas, shape & barOnly, active);
+  p.setPen(edge);
+  p.setBrush(bar);
   p.setRenderHint(QPainter::Antialiasing, false);
   p.drawRect(outer.adjusted(0, m.top(), -1, -1));
 
@@ -53,11 +62,18 @@ void PaintTitleBar(const TForm& form, QPainter& p, bool active) {
       p.drawLine(QPointF(r.left(), r.center().y()), QPointF(r.right(), r.center().y()));
     }
   }
+  QRect text(row.left() + 2, 0, std::max(0, x - row.left() - 6), m.top());
+  for (const TFormDecor* decor : decors) {
+    p.save();
+    text = decor->PaintTitleItems(canvas, text, ink);
+    p.restore();
+  }
+  for (const TFormDecor* decor : decors)
+    if (decor->PaintCaption(canvas, text, row, form.Caption(), active)) return;
   QFont font = QApplication::font();
   font.setPixelSize(12);
   p.setFont(font);
   p.setPen(ink);
-  const QRect text(row.left() + 2, 0, std::max(0, x - row.left() - 6), m.top());
   p.drawText(text, Qt::AlignVCenter | Qt::AlignLeft,
              p.fontMetrics().elidedText(ShownText(form.Caption()), Qt::ElideRight, text.width()));
 }
@@ -75,11 +91,26 @@ void PaintMenuBar(const TForm& form, QPainter& painter) {
 }  // namespace
 
 void PaintFormWindow(TForm& form, QPainter& painter, bool active) {
+  const Decors decors = TFormDecor::Of(form);
+  TCanvas canvas(painter);
+  const QRect window(QPoint(0, 0), form.OuterSize());
+  QPainterPath outline;
+  for (const TFormDecor* decor : decors)
+    if (outline.isEmpty()) outline = decor->Outline(window);
+  const bool cut = !outline.isEmpty();
+  if (!cut) outline.addRect(window);
+  for (const TFormDecor* decor : decors) {
+    painter.save();
+    decor->PaintAround(canvas, outline, active);
+    painter.restore();
+  }
+  painter.save();
+  if (cut) painter.setClipPath(outline, Qt::IntersectClip);
   painter.save();
   if (!form.FrameMargins().isNull()) {
-    painter.fillRect(QRect(QPoint(0, 0), form.OuterSize()).adjusted(0, form.FrameMargins().top(), 0, 0),
+    painter.fillRect(window.adjusted(0, form.FrameMargins().top(), 0, 0),
                      FormPalette().color(QPalette::Window));
-    PaintTitleBar(form, painter, active);
+    PaintTitleBar(form, decors, painter, active);
   }
   painter.restore();
   PaintMenuBar(form, painter);
@@ -89,10 +120,18 @@ void PaintFormWindow(TForm& form, QPainter& painter, bool active) {
   painter.setClipRect(form.ClientRect(), Qt::IntersectClip);
   PaintControl(form, painter);
   painter.restore();
+  painter.restore();
+  for (const TFormDecor* decor : decors) {
+    painter.save();
+    decor->PaintBorder(canvas, outline, active);
+    painter.restore();
+  }
 }
 
 QImage RenderForm(TForm& form, double scale) {
-  const QSize outer = form.OuterSize();
+  QMargins around;
+  for (const TFormDecor* decor : TFormDecor::Of(form)) around = around | decor->Around(true);
+  const QSize outer = form.OuterSize().grownBy(around);
   const QSize size(std::max(1, qRound(outer.width() * scale)), std::max(1, qRound(outer.height() * scale)));
   QImage image(size, QImage::Format_ARGB32_Premultiplied);
   if (image.isNull()) return image;
@@ -100,6 +139,7 @@ QImage RenderForm(TForm& form, double scale) {
   QPainter painter(&image);
   painter.setRenderHint(QPainter::TextAntialiasing);
   painter.scale(scale, scale);
+  painter.translate(around.left(), around.top());
   PaintFormWindow(form, painter, true);
   return image;
 }

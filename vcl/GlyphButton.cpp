@@ -14,7 +14,7 @@ QImage GlyphOf(const QImage& all, int count, int state) {
 
 void PaintFace(TCanvas& canvas, const QRect& rect, const TFace& face, const TFont& font, bool enabled) {
   const QString shown = ShownText(face.text);
-  const QSize text = shown.isEmpty() ? QSize(0, 0) : TextExtent(face.text, font);
+  const QSize text = shown.isEmpty() ? QSize(0, 0) : TextExtent(face.text, font, Qt::TextShowMnemonic);
   const QSize glyph = face.glyph.size();
   const bool across = face.layout == TButtonLayout::blGlyphLeft || face.layout == TButtonLayout::blGlyphRight;
   const auto along = [across](QSize s) { return across ? s.width() : s.height(); };

@@ -1,6 +1,7 @@
 #include "vcl/Grid.h"
 
 #include "rtl/Class.h"
+#include "rtl/Exceptions.h"
 #include "vcl/ItemPainting.h"
 #include "vcl/PropertyGroups.h"
 
@@ -63,66 +64,72 @@ const TClass& TGridColumns::StaticClass() {
 
 const TClass& TCustomGrid::StaticClass() {
   static const TTypeInfo count = OrdinalType("Longint", 0, INT32_MAX);
-  static const TClass cls(DescribeClass<TCustomGrid>("TCustomGrid", TWinControl::StaticClass())
-                              .Declared(BorderStyle)
-                              .Declared(ColCount)
-                              .Type(count)
-                              .DeclaredAll(Columns, DefaultColWidth, DefaultRowHeight, FixedColor, FixedCols,
-                                           FixedRows, GridLineWidth, Options)
-                              .Declared(RowCount)
-                              .Type(count)
-                              .Declared(ScrollBars)
-                              .DeclaredPassive("AllowOutboundEvents", true)
-                              .DeclaredPassive("AlternateColor", clWindow)
-                              .DeclaredPassive("AutoAdvance", TAutoAdvance::aaRight)
-                              .DeclaredPassive("AutoEdit", true)
-                              .DeclaredPassive("AutoFillColumns", false)
-                              .DeclaredPassive("DefaultDrawing", true)
-                              .DeclaredPassive("DrawingStyle", TGridDrawingStyle::gdsThemed)
-                              .DeclaredPassive("ExtendedSelect", true)
-                              .DeclaredPassive("Flat", false)
-                              .DeclaredPassive("GradientEndColor", clBtnShadow)
-                              .DeclaredPassive("GradientStartColor", clBtnFace)
-                              .DeclaredPassive("HeaderHotZones", TGridZoneSet{TGridZone::gzFixedCols})
-                              .DeclaredPassive("HeaderPushZones", TGridZoneSet{TGridZone::gzFixedCols})
-                              .DeclaredPassive("TabAdvance", TAutoAdvance::aaRightDown)
-                              .DeclaredPassive<TFontChanges*>("TitleFont")
-                              .DeclaredPassive<TCustomImageList*>("TitleImageList")
-                              .DeclaredPassive("TitleStyle", TTitleStyle::tsLazarus)
-                              .DeclaredPassive("UseXORFeatures", false)
-                              .DeclaredPassive("VisibleColCount", 0)
-                              .DeclaredPassive("VisibleRowCount", 0)
-                              .DeclaredEvent("OnButtonClick", "TOnSelectEvent")
-                              .DeclaredEvent("OnCheckboxToggled", "TToggledCheckboxEvent")
-                              .DeclaredEvent("OnColRowDeleted", "TGridOperationEvent")
-                              .DeclaredEvent("OnColRowExchanged", "TGridOperationEvent")
-                              .DeclaredEvent("OnColRowInserted", "TGridOperationEvent")
-                              .DeclaredEvent("OnColRowMoved", "TGridOperationEvent")
-                              .DeclaredEvent("OnColumnMoved", "TMovedEvent")
-                              .DeclaredEvent("OnCompareCells", "TOnCompareCells")
-                              .DeclaredEvent("OnDrawCell", "TDrawCellEvent")
-                              .DeclaredEvent("OnEditButtonClick")
-                              .DeclaredEvent("OnEditingDone")
-                              .DeclaredEvent("OnFixedCellClick", "TFixedCellClickEvent")
-                              .DeclaredEvent("OnGetCellHint", "TGetCellHintEvent")
-                              .DeclaredEvent("OnGetCheckboxState", "TGetCheckboxStateEvent")
-                              .DeclaredEvent("OnGetEditMask", "TGetEditEvent")
-                              .DeclaredEvent("OnGetEditText", "TGetEditEvent")
-                              .DeclaredEvent("OnHeaderClick", "THdrEvent")
-                              .DeclaredEvent("OnHeaderSized", "THdrEvent")
-                              .DeclaredEvent("OnPickListSelect")
-                              .DeclaredEvent("OnPrepareCanvas", "TOnPrepareCanvasEvent")
-                              .DeclaredEvent("OnRowMoved", "TMovedEvent")
-                              .DeclaredEvent("OnSelectCell", "TSelectCellEvent")
-                              .DeclaredEvent("OnSelectEditor", "TSelectEditorEvent")
-                              .DeclaredEvent("OnSelection", "TOnSelectEvent")
-                              .DeclaredEvent("OnSetCheckboxState", "TSetCheckboxStateEvent")
-                              .DeclaredEvent("OnSetEditText", "TSetEditEvent")
-                              .DeclaredEvent("OnTopLeftChanged")
-                              .DeclaredEvent("OnUserCheckboxBitmap", "TUserCheckBoxBitmapEvent")
-                              .DeclaredEvent("OnValidateEntry", "TValidateEntryEvent")
-                              .Streamed(ColWidths)
-                              .Streamed(RowHeights));
+  static const TClass cls(
+      DescribeClass<TCustomGrid>("TCustomGrid", TWinControl::StaticClass())
+          .Declared(BorderStyle)
+          .Declared(ColCount)
+          .Type(count)
+          .DeclaredAll(Columns, DefaultColWidth, DefaultRowHeight, FixedColor, FixedCols, FixedRows,
+                       GridLineWidth)
+          .Declared(Options)
+          .OtherDefault(TGridOptions{TGridOption::goFixedVertLine, TGridOption::goFixedHorzLine,
+                                     TGridOption::goVertLine, TGridOption::goHorzLine,
+                                     TGridOption::goRangeSelect, TGridOption::goSmoothScroll})
+          .Declared(RowCount)
+          .Type(count)
+          .Declared(ScrollBars)
+          .OtherDefault(TScrollStyle::ssAutoBoth)
+          .DeclaredPassive("AllowOutboundEvents", true)
+          .DeclaredPassive("AlternateColor", clWindow)
+          .DeclaredPassive("AutoAdvance", TAutoAdvance::aaRight)
+          .DeclaredPassive("AutoEdit", true)
+          .DeclaredPassive("AutoFillColumns", false)
+          .DeclaredPassive("DefaultDrawing", true)
+          .DeclaredPassive("DrawingStyle", TGridDrawingStyle::gdsThemed)
+          .DeclaredPassive("ExtendedSelect", true)
+          .DeclaredPassive("Flat", false)
+          .DeclaredPassive("GradientEndColor", clBtnShadow)
+          .DeclaredPassive("GradientStartColor", clBtnFace)
+          .DeclaredPassive("HeaderHotZones", TGridZoneSet{TGridZone::gzFixedCols})
+          .DeclaredPassive("HeaderPushZones", TGridZoneSet{TGridZone::gzFixedCols})
+          .DeclaredPassive("TabAdvance", TAutoAdvance::aaRightDown)
+          .DeclaredPassive<TFontChanges*>("TitleFont")
+          .DeclaredPassive<TCustomImageList*>("TitleImageList")
+          .DeclaredPassive("TitleStyle", TTitleStyle::tsLazarus)
+          .DeclaredPassive("UseXORFeatures", false)
+          .DeclaredPassive("VisibleColCount", 0)
+          .DeclaredPassive("VisibleRowCount", 0)
+          .DeclaredEvent("OnButtonClick", "TOnSelectEvent")
+          .DeclaredEvent("OnCheckboxToggled", "TToggledCheckboxEvent")
+          .DeclaredEvent("OnColRowDeleted", "TGridOperationEvent")
+          .DeclaredEvent("OnColRowExchanged", "TGridOperationEvent")
+          .DeclaredEvent("OnColRowInserted", "TGridOperationEvent")
+          .DeclaredEvent("OnColRowMoved", "TGridOperationEvent")
+          .DeclaredEvent("OnColumnMoved", "TMovedEvent")
+          .DeclaredEvent("OnCompareCells", "TOnCompareCells")
+          .DeclaredEvent("OnDrawCell", "TDrawCellEvent")
+          .DeclaredEvent("OnEditButtonClick")
+          .DeclaredEvent("OnEditingDone")
+          .DeclaredEvent("OnFixedCellClick", "TFixedCellClickEvent")
+          .DeclaredEvent("OnGetCellHint", "TGetCellHintEvent")
+          .DeclaredEvent("OnGetCheckboxState", "TGetCheckboxStateEvent")
+          .DeclaredEvent("OnGetEditMask", "TGetEditEvent")
+          .DeclaredEvent("OnGetEditText", "TGetEditEvent")
+          .DeclaredEvent("OnHeaderClick", "THdrEvent")
+          .DeclaredEvent("OnHeaderSized", "THdrEvent")
+          .DeclaredEvent("OnPickListSelect")
+          .DeclaredEvent("OnPrepareCanvas", "TOnPrepareCanvasEvent")
+          .DeclaredEvent("OnRowMoved", "TMovedEvent")
+          .DeclaredEvent("OnSelectCell", "TSelectCellEvent")
+          .DeclaredEvent("OnSelectEditor", "TSelectEditorEvent")
+          .DeclaredEvent("OnSelection", "TOnSelectEvent")
+          .DeclaredEvent("OnSetCheckboxState", "TSetCheckboxStateEvent")
+          .DeclaredEvent("OnSetEditText", "TSetEditEvent")
+          .DeclaredEvent("OnTopLeftChanged")
+          .DeclaredEvent("OnUserCheckboxBitmap", "TUserCheckBoxBitmapEvent")
+          .DeclaredEvent("OnValidateEntry", "TValidateEntryEvent")
+          .Streamed(ColWidths)
+          .Streamed(RowHeights));
   return cls;
 }
 
@@ -277,6 +284,9 @@ int TripleOf(const TValueList& cells, int col, int row) {
       return i;
   return -1;
 }
+std::pair<int, int> PlaceOf(const TValueList& cells, std::size_t triple) {
+  return {cells.NumberAt(triple, -1), cells.NumberAt(triple + 1, -1)};
+}
 }  // namespace
 
 QString TStringGrid::Cell(int col, int row) const {
@@ -297,6 +307,47 @@ void TStringGrid::SetCell(int col, int row, const QString& text) {
   } else {
     items[static_cast<std::size_t>(at) + 2] = text;
   }
+  items[0] = static_cast<std::int64_t>((items.size() - 1) / 3);
+  if (items.size() == 1) items.clear();
+  Get(Cells)->SetItems(std::move(items));
+}
+
+TStringGrid::TTexts TStringGrid::Texts() const {
+  TTexts texts;
+  const std::vector<TValueList::TItem> items =
+      IsKept(&Cells) ? Get(Cells)->Items() : std::vector<TValueList::TItem>();
+  bool sound = items.empty() || items.size() % 3 == 1;
+  for (std::size_t i = 1; sound && i < items.size(); i += 3) {
+    sound = std::holds_alternative<std::int64_t>(items[i]) &&
+            std::holds_alternative<std::int64_t>(items[i + 1]) &&
+            std::holds_alternative<QString>(items[i + 2]);
+    if (sound) texts.emplace(PlaceOf(*Get(Cells), i), std::get<QString>(items[i + 2]));
+  }
+  if (!sound)
+    throw EComponentError(
+        QStringLiteral("The cells of %1 are no list of columns, rows and texts.").arg(Name()));
+  return texts;
+}
+
+void TStringGrid::SetTexts(const TTexts& texts) {
+  const TTexts before = Texts();
+  if (texts == before) return;
+  const TValueList& cells = *Get(Cells);
+  std::vector<TValueList::TItem> items{std::int64_t{0}};
+  const auto add = [&](const TTexts::value_type& text) {
+    items.insert(items.end(), {std::int64_t{text.first.first}, std::int64_t{text.first.second}, text.second});
+  };
+  auto next = texts.begin();
+  const auto addNewUpTo = [&](const std::pair<int, int>* place) {
+    for (; next != texts.end() && (!place || next->first < *place); ++next)
+      if (!before.contains(next->first)) add(*next);
+  };
+  for (std::size_t i = 1; i + 2 < cells.Items().size(); i += 3) {
+    const std::pair<int, int> place = PlaceOf(cells, i);
+    addNewUpTo(&place);
+    if (const auto it = texts.find(place); it != texts.end()) add(*it);
+  }
+  addNewUpTo(nullptr);
   items[0] = static_cast<std::int64_t>((items.size() - 1) / 3);
   if (items.size() == 1) items.clear();
   Get(Cells)->SetItems(std::move(items));

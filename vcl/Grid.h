@@ -1,5 +1,7 @@
 // Grids: cells in columns and rows, the first ones fixed as titles.
 #pragma once
+#include <map>
+
 #include "rtl/Collection.h"
 #include "rtl/Strings.h"
 #include "rtl/ValueList.h"
@@ -208,6 +210,12 @@ class TStringGrid : public TCustomDrawGrid {
 
   QString Cell(int col, int row) const;
   void SetCell(int col, int row, const QString& text);
+  // All texts, by column and row, also those that stand outside of what is shown. Throws EComponentError for
+  // what a file has that is no list of texts.
+  using TTexts = std::map<std::pair<int, int>, QString>;
+  TTexts Texts() const;
+  // All of them at once. Those that were there keep their order; new ones stand in that of columns and rows.
+  void SetTexts(const TTexts& texts);
   QString CellText(int col, int row) const override;
 };
 

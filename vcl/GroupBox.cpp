@@ -15,14 +15,16 @@ TCustomGroupBox::TCustomGroupBox(TComponent* owner) : TWinControl(owner) {
 }
 
 QMargins TCustomGroupBox::Insets() const {
+  if (ToldClientRect()) return TWinControl::Insets();
   constexpr int frame = 2;
   return TWinControl::Insets() +
          QMargins(frame, TextExtent(QStringLiteral("0"), *Font()).height() + frame, frame, frame);
 }
 
 QRect TCustomGroupBox::PaintFrame(TCanvas& canvas) const {
-  canvas.FillRect(ClientRect(), Color());
-  return PaintGroupFrame(canvas, ClientRect(), PartStates(), Caption(), *Font());
+  const QRect all = TWinControl::ClientRect();
+  canvas.FillRect(all, Color());
+  return PaintGroupFrame(canvas, all, PartStates(), Caption(), *Font());
 }
 
 void TCustomGroupBox::Paint(TCanvas& canvas) { PaintFrame(canvas); }
@@ -67,8 +69,8 @@ void TChoiceGroup::Paint(TCanvas& canvas) {
                      inside.top() + i % rows * inside.height() / rows, inside.width() / columns,
                      inside.height() / rows);
     PaintItemMark(canvas, QRect(cell.left(), cell.top(), mark, cell.height()), i);
-    canvas.TextRect(cell.adjusted(mark + 5, 0, 0, 0), Qt::AlignVCenter | Qt::AlignLeft, items[i], *Font(),
-                    Enabled());
+    canvas.TextRect(cell.adjusted(mark + 5, 0, 0, 0), Qt::AlignVCenter | Qt::AlignLeft | Qt::TextShowMnemonic,
+                    items[i], *Font(), Enabled());
   }
 }
 

@@ -9,7 +9,10 @@ class TCustomGroupBox : public TWinControl {
  public:
   explicit TCustomGroupBox(TComponent* owner);
   bool AcceptsControls() const override { return true; }
-  // Below the title and inside of the frame.
+  // Where the form file tells the client area, what stands inside is counted from there; else from the corner
+  // of the box.
+  QRect ClientRect() const override { return ToldClientRect().value_or(TWinControl::ClientRect()); }
+  // Below the title and inside of the frame, as far as the client area is not there already.
   QMargins Insets() const override;
   void Paint(TCanvas& canvas) override;
 

@@ -13,12 +13,11 @@ QRect PaintListFrame(TCanvas& canvas, const QRect& rect, TPartStates states) {
 void PaintPlainText(TCanvas& canvas, const QRect& rect, int alignment, const QString& text, const TFont& font,
                     bool enabled) {
   if (text.isEmpty() || rect.width() <= 0 || rect.height() <= 0) return;
-  QString shown = QFontMetrics(ToQFont(font))
-                      .elidedText(ShownText(text).replace(u'\n', u' '), Qt::ElideRight, rect.width());
+  const QString shown = QFontMetrics(ToQFont(font))
+                            .elidedText(ShownText(text).replace(u'\n', u' '), Qt::ElideRight, rect.width());
   canvas.Painter().save();
   canvas.Painter().setClipRect(rect, Qt::IntersectClip);
-  canvas.TextRect(rect, alignment | Qt::AlignVCenter | Qt::TextSingleLine,
-                  shown.replace(u'&', QStringLiteral("&&")), font, enabled);
+  canvas.TextRect(rect, alignment | Qt::AlignVCenter | Qt::TextSingleLine, shown, font, enabled);
   canvas.Painter().restore();
 }
 

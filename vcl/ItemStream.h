@@ -24,7 +24,13 @@ class TItemReader {
   std::int16_t Small() { return Little<std::int16_t>(); }
   std::uint8_t Byte() { return Little<std::uint8_t>(); }
   QString Text(TStreamText kind);
-  void Skip(qsizetype count) { Take(count); }
+  // A number in so many bytes, 8 at most.
+  quint64 Bits(qsizetype count) {
+    quint64 bits = 0;
+    const QByteArrayView bytes = Take(count);
+    for (qsizetype i = bytes.size(); i-- > 0;) bits = bits << 8 | static_cast<std::uint8_t>(bytes[i]);
+    return bits;
+  }
   bool Fits() const { return fits_; }
   bool AtEnd() const { return fits_ && rest_.isEmpty(); }
   qsizetype Left() const { return rest_.size(); }
@@ -47,7 +53,9 @@ class TItemWriter {
   void Byte(std::uint8_t v) { Little(v); }
   // A text that is too long for its length byte is cut.
   void Text(TStreamText kind, const QString& text);
-  void Fill(qsizetype count) { bytes_.append(count, '\0'); }
+  void Bits(qsizetype count, quint64 bits) {
+    for (; count > 0; --count, bits >>= 8) Byte(static_cast<std::uint8_t>(bits));
+  }
   void PutNumberAt(qsizetype place, std::int32_t v) { qToLittleEndian(v, bytes_.data() + place); }
   const QByteArray& Bytes() const { return bytes_; }
 

@@ -8,10 +8,10 @@ VRX_ENUM(TTextLayout, {"tlTop", "tlCenter", "tlBottom"})
 enum class TEllipsisPosition : std::uint8_t { epNone, epPathEllipsis, epEndEllipsis, epWordEllipsis };
 VRX_ENUM(TEllipsisPosition, {"epNone", "epPathEllipsis", "epEndEllipsis", "epWordEllipsis"})
 
-class TLabel : public TGraphicControl {
-  VRX_CLASS(TLabel)
+class TCustomLabel : public TGraphicControl {
+  VRX_CLASS(TCustomLabel)
  public:
-  explicit TLabel(TComponent* owner);
+  explicit TCustomLabel(TComponent* owner);
 
   TAlignment Alignment() const { return alignment_; }
   void SetAlignment(TAlignment v) { Change(alignment_, v); }
@@ -48,4 +48,10 @@ class TLabel : public TGraphicControl {
   TAlignment alignment_ = TAlignment::taLeftJustify;
   TTextLayout layout_ = TTextLayout::tlTop;
   bool showAccelChar_ = true, transparent_ = true, wordWrap_ = false;
+};
+
+class TLabel : public TCustomLabel {
+  VRX_CLASS(TLabel)
+ public:
+  using TCustomLabel::TCustomLabel;
 };

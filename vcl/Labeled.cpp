@@ -7,16 +7,18 @@ const TClass& TBoundLabel::StaticClass() {
           .Type(CaptionType())
           .Published("Font", &TBoundLabel::Font, &TBoundLabel::SetFont)
           .StoredIf(&TBoundLabel::FontStored)
-          .Published("ParentFont", &TBoundLabel::ParentFont, &TBoundLabel::SetParentFont, true));
+          .Published("ParentFont", &TBoundLabel::ParentFont, &TBoundLabel::SetParentFont, true)
+          .StreamedPassive("Width", 0)
+          .StreamedPassive("Height", 0));
   return cls;
 }
 
 TBoundLabel::TBoundLabel(TControl* owner)
-    : TOwnedPersistent(owner), control_(*owner), font_(std::make_unique<TFont>(this)) {}
+    : TKeptPart(owner), control_(*owner), font_(std::make_unique<TFont>(this)) {}
 
 QRect TBoundLabel::Bounds(TLabelPosition position, int spacing) const {
   if (caption_.isEmpty()) return {};
-  const QSize size = TextExtent(caption_, ShownFont());
+  const QSize size = TextExtent(caption_, ShownFont(), Qt::TextShowMnemonic);
   const int middle = (control_.Height() - size.height()) / 2;
   switch (position) {
     case TLabelPosition::lpAbove:
@@ -32,7 +34,8 @@ QRect TBoundLabel::Bounds(TLabelPosition position, int spacing) const {
 }
 
 void TBoundLabel::Paint(TCanvas& canvas, const QRect& bounds) const {
-  canvas.TextRect(bounds, Qt::AlignLeft | Qt::AlignVCenter, caption_, ShownFont(), control_.Enabled());
+  canvas.TextRect(bounds, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextShowMnemonic, caption_, ShownFont(),
+                  control_.Enabled());
 }
 
 void TBoundLabel::SetParentFont(bool v) {
@@ -44,5 +47,5 @@ void TBoundLabel::SetParentFont(bool v) {
 
 void TBoundLabel::PartChanged(TPersistent& part) {
   parentFont_ = false;
-  TOwnedPersistent::PartChanged(part);
+  TKeptPart::PartChanged(part);
 }

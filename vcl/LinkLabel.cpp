@@ -38,7 +38,7 @@ std::vector<TCustomLinkLabel::Piece> TCustomLinkLabel::Pieces() const {
 QSize TCustomLinkLabel::AutoSizeHint() const {
   QSize size(0, TextExtent(QStringLiteral("Wg"), *Font()).height());
   for (const Piece& piece : Pieces()) {
-    const QSize text = TextExtent(piece.text, *Font());
+    const QSize text = TextExtent(piece.text, *Font(), Qt::TextShowMnemonic);
     size = QSize(size.width() + text.width(), std::max(size.height(), text.height()));
   }
   return size + QSize(0, 4);
@@ -54,12 +54,12 @@ void TCustomLinkLabel::Paint(TCanvas& canvas) {
           : Get(Alignment) == TAlignment::taCenter    ? room / 2
                                                       : room;
   for (const Piece& piece : Pieces()) {
-    const int advance = TextExtent(piece.text, *Font()).width();
+    const int advance = TextExtent(piece.text, *Font(), Qt::TextShowMnemonic).width();
     const QRect place(x, 0, advance + 1, Height());
-    canvas.TextRect(place, Qt::AlignLeft | Qt::AlignVCenter, piece.text, piece.link ? linked : *Font(),
-                    Enabled());
+    canvas.TextRect(place, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextShowMnemonic, piece.text,
+                    piece.link ? linked : *Font(), Enabled());
     if (piece.link) {
-      const int under = Height() / 2 + TextExtent(piece.text, *Font()).height() / 2 - 2;
+      const int under = Height() / 2 + TextExtent(piece.text, *Font(), Qt::TextShowMnemonic).height() / 2 - 2;
       canvas.FillRect(QRect(x, under, advance, 1), Enabled() ? SysColor(26) : clGrayText);
     }
     x += advance;

@@ -1,7 +1,6 @@
 #include "vcl/ListItems.h"
 
 #include "rtl/Class.h"
-#include "vcl/FormFamily.h"
 #include "vcl/ItemStream.h"
 
 namespace {
@@ -33,12 +32,15 @@ bool ReadAs(const TListItemsLayout& layout, QByteArrayView bytes, QList<TListVie
     if (layout.overlay) item.OverlayIndex = in.Number();
     const std::int32_t subItems = in.Number();
     if (layout.group) item.GroupID = in.Number();
-    in.Skip(layout.data);
+    item.Data = in.Bits(layout.data);
     item.Caption = in.Text(text);
     if (subItems < 0) return false;
     for (std::int32_t s = 0; s < subItems && in.Fits(); ++s) {
       item.SubItems << in.Text(text);
-      in.Skip(layout.pointer);
+      if (const quint64 data = in.Bits(layout.pointer); data != 0) {
+        item.SubItemData.resize(s);
+        item.SubItemData << data;
+      }
     }
     items << item;
   }
@@ -81,6 +83,11 @@ bool IsPlain(const QList<TListViewItem>& items) {
     return plain(item.Caption) && std::all_of(item.SubItems.begin(), item.SubItems.end(), plain);
   });
 }
+bool HasImages(const QList<TListViewItem>& items) {
+  return std::any_of(items.begin(), items.end(), [](const TListViewItem& item) {
+    return std::any_of(item.SubItemImages.begin(), item.SubItemImages.end(), [](int i) { return i >= 0; });
+  });
+}
 }  // namespace
 
 std::optional<TListItemsRead> ReadListItems(TListItemsKey key, const QByteArray& bytes) {
@@ -107,11 +114,11 @@ QByteArray WriteListItems(const TListItemsLayout& layout, const QList<TListViewI
     if (layout.overlay) out.Number(item.OverlayIndex);
     out.Number(static_cast<std::int32_t>(item.SubItems.size()));
     if (layout.group) out.Number(item.GroupID);
-    out.Fill(layout.data);
+    out.Bits(layout.data, item.Data);
     out.Text(text, item.Caption);
-    for (const QString& subItem : item.SubItems) {
-      out.Text(text, subItem);
-      out.Fill(layout.pointer);
+    for (qsizetype s = 0; s < item.SubItems.size(); ++s) {
+      out.Text(text, item.SubItems[s]);
+      out.Bits(layout.pointer, item.SubItemData.value(s));
     }
   }
   for (const TListViewItem& item : items)
@@ -169,8 +176,9 @@ void TListItems::SetItems(const QList<TListViewItem>& items) {
   Decode();
   if (items == read_.items) return;
   TListItemsLayout layout = read_.layout;
-  if (bytes_.isEmpty() && StandsOnClientSizedForm(*this))
+  if (bytes_.isEmpty() && IsOfOtherFamily())
     layout = {TListItemsKey::LazData, 0, true, false, 0, 0, 4};
   if (layout.key == TListItemsKey::Data && !IsPlain(items)) layout = {};
+  if (layout.images == 0 && HasImages(items)) layout.images = layout.key == TListItemsKey::ItemData ? 2 : 4;
   Keep(layout.key, WriteListItems(layout, items));
 }

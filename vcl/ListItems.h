@@ -16,7 +16,9 @@ struct TListViewItem {
   int OverlayIndex = -1;
   int GroupID = -1;
   QStringList SubItems{};
-  QList<int> SubItemImages{};  // of the first subitems; the others have none
+  QList<int> SubItemImages{};    // of the first subitems; the others have none
+  quint64 Data = 0;              // what the program hangs on it
+  QList<quint64> SubItemData{};  // the same on the first subitems
   bool operator==(const TListViewItem&) const = default;
 };
 

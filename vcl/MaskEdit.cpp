@@ -1,5 +1,6 @@
 #include "rtl/Class.h"
 #include "vcl/Edit.h"
+#include "vcl/EditMask.h"
 #include "vcl/PropertyGroups.h"
 
 const TClass& TMaskEdit::StaticClass() {
@@ -27,45 +28,24 @@ const TClass& TMaskEdit::StaticClass() {
   return cls;
 }
 
-namespace {
-struct Mask {
-  QString pattern;
-  bool literalsKept = true;
-  QChar blank = u'_';
-};
-
-// "!99/99/00;1;_": the last two parts may be left out.
-Mask ParsedMask(const QString& text) {
-  Mask mask;
-  mask.pattern = text;
-  const qsizetype last = text.lastIndexOf(u';');
-  const qsizetype before = last > 0 ? text.lastIndexOf(u';', last - 1) : -1;
-  if (before < 0 || last != before + 2 || last + 2 != text.size()) return mask;
-  mask.pattern = text.left(before);
-  mask.literalsKept = text[before + 1] != u'0';
-  mask.blank = text[last + 1];
-  return mask;
-}
-}  // namespace
-
 // Text with its literals stands as it is; where it ends the mask goes on with blanks.
 QString TMaskEdit::ShownText() const {
   const QString text = TCustomEdit::ShownText();
   if (Get(EditMask).isEmpty()) return text;
-  const Mask mask = ParsedMask(Get(EditMask));
+  const TEditMask mask = TEditMask::Parse(Get(EditMask));
   QString shown;
   qsizetype next = 0;
   const auto take = [&](QChar otherwise) { shown += next < text.size() ? text[next++] : otherwise; };
-  for (qsizetype i = 0; i < mask.pattern.size(); ++i) {
-    const QChar c = mask.pattern[i];
+  for (qsizetype i = 0; i < mask.Pattern.size(); ++i) {
+    const QChar c = mask.Pattern[i];
     if (QStringView(u"!<>").contains(c)) continue;
     if (QStringView(u"LlAaCc09#").contains(c)) {
-      take(mask.blank);
+      take(mask.Blank);
       continue;
     }
-    if (c == u'\\' && ++i == mask.pattern.size()) break;
-    const QChar literal = c == u'_' ? QChar(u' ') : mask.pattern[i];
-    if (mask.literalsKept)
+    if (c == u'\\' && ++i == mask.Pattern.size()) break;
+    const QChar literal = c == u'_' ? QChar(u' ') : mask.Pattern[i];
+    if (mask.LiteralsKept)
       take(literal);
     else
       shown += literal;

@@ -10,6 +10,7 @@
 namespace {
 constexpr int RowHeight = 22, BarHeight = 20, SeparatorHeight = 7, Gutter = 26, Arrow = 20, Gap = 24;
 constexpr int BarPadding = 8, Least = 72;
+constexpr int GapWidth = TMenuLook::LeastTyped + 2;
 
 QFont MenuFont(bool bold = false) {
   QFont font = QApplication::font();
@@ -59,10 +60,12 @@ int MenuBarHeight(const TMainMenu& menu, int width) {
   return look.Panes().front().Cells.empty() ? 0 : look.Panes().front().Rect.height();
 }
 
-TMenuLook::TMenuLook(const TMenu& menu, int width) : TMenuLook(menu, width, false) {}
-TMenuLook TMenuLook::Designed(const TMenu& menu, int width) { return TMenuLook(menu, width, true); }
-TMenuLook::TMenuLook(const TMenu& menu, int width, bool designed)
-    : menu_(const_cast<TMenu&>(menu)), designed_(designed) {
+TMenuLook::TMenuLook(const TMenu& menu, int width) : TMenuLook(menu, width, false, {}) {}
+TMenuLook TMenuLook::Designed(const TMenu& menu, int width, const Place& gap) {
+  return TMenuLook(menu, width, true, gap);
+}
+TMenuLook::TMenuLook(const TMenu& menu, int width, bool designed, const Place& gap)
+    : menu_(const_cast<TMenu&>(menu)), designed_(designed), gap_(gap) {
   if (As<TMainMenu>(&menu))
     AddBar(width);
   else
@@ -98,7 +101,10 @@ void TMenuLook::AddBar(int width) {
     pane.Cells.push_back({item, QRect(x, y, wide, BarHeight)});
     x += wide;
   };
-  for (TMenuItem* item : ItemsOf(menu_)) add(item, WidthOf(item->ShownCaption(), false) + 2 * BarPadding);
+  for (TMenuItem* item : ItemsOf(menu_)) {
+    if (IsGap(menu_, item)) add(nullptr, GapWidth);
+    add(item, WidthOf(item->ShownCaption(), false) + 2 * BarPadding);
+  }
   if (designed_) add(nullptr, Least);
   pane.Rect.setHeight(y + BarHeight);
   panes_.push_back(std::move(pane));
@@ -119,6 +125,11 @@ void TMenuLook::AddDropDown(TNestedComponent& level, QPoint at) {
       x += wide + Edge;
       y = at.y() + Edge;
       wide = Least;
+    }
+    if (item && IsGap(level, item)) {
+      pane.Cells.push_back({nullptr, QRect(x, y, GapWidth, RowHeight)});
+      wide = std::max(wide, GapWidth);
+      y += RowHeight;
     }
     const QSize size = CellSize(item);
     pane.Cells.push_back({item, QRect(QPoint(x, y), size)});

@@ -21,7 +21,9 @@ const TClass& TTabSheet::StaticClass() {
                       "OnContextPopup", "OnDragDrop", "OnDragOver", "OnEndDrag", "OnEnter", "OnExit",
                       "OnMouseDown", "OnMouseEnter", "OnMouseLeave", "OnMouseMove", "OnMouseUp", "OnResize",
                       "OnStartDrag", WheelEvents)
-          .PublishedAll(ImageIndex, TabVisible)
+          .Published(ImageIndex)
+          .OtherDefault(-1)
+          .Published(TabVisible)
           .Published("PageIndex", &TTabSheet::PageIndex, &TTabSheet::SetPageIndex, -1)
           .StoredIf(&TTabSheet::HasOwnPlace)
           .Doc(QStringLiteral("Place among the pages, from 0."))

@@ -203,7 +203,8 @@ void PaintTab(TCanvas& canvas, const QRect& rect, TPartStates states, const QStr
   painter.restore();
   const QSize size = image.isNull() ? QSize(0, 0) : image.size() / image.devicePixelRatio();
   constexpr int gap = 4;
-  const int length = TextExtent(text, font).width() + (image.isNull() ? 0 : size.width() + gap);
+  const int length =
+      TextExtent(text, font, Qt::TextShowMnemonic).width() + (image.isNull() ? 0 : size.width() + gap);
   QRect label(face.left() + std::max((face.width() - length) / 2, 0), face.top(), length, face.height());
   label = label.intersected(face);
   if (!image.isNull()) {
@@ -212,7 +213,8 @@ void PaintTab(TCanvas& canvas, const QRect& rect, TPartStates states, const QStr
     label.setLeft(label.left() + size.width() + gap);
   }
   if (label.isValid())
-    canvas.TextRect(label, Qt::AlignLeft | Qt::AlignVCenter, text, font, !states.Contains(Disabled));
+    canvas.TextRect(label, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextShowMnemonic, text, font,
+                    !states.Contains(Disabled));
 }
 
 void PaintTabPane(TCanvas& canvas, const QRect& rect, TPartStates states) {

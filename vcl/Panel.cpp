@@ -83,7 +83,9 @@ void TCustomPanel::Paint(TCanvas& canvas) {
   bevel(Get(BevelInner));
   if (!Get(ShowCaption)) return;
   static constexpr int vertical[] = {Qt::AlignTop, Qt::AlignBottom, Qt::AlignVCenter};
-  canvas.TextRect(inside, AlignmentFlag(Get(Alignment)) | vertical[static_cast<int>(Get(VerticalAlignment))],
+  canvas.TextRect(inside,
+                  AlignmentFlag(Get(Alignment)) | vertical[static_cast<int>(Get(VerticalAlignment))] |
+                      Qt::TextShowMnemonic,
                   Caption(), *Font(), Enabled());
 }
 

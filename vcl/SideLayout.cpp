@@ -4,19 +4,15 @@
 
 const TClass& TAnchorSide::StaticClass() {
   static const TClass cls(DescribeClass<TAnchorSide>("TAnchorSide", TPersistent::StaticClass())
-                              .Passive<TComponent*>("Control")
-                              .Passive("Side", TAnchorSideReference::asrTop));
+                              .Published(Control)
+                              .Published(Side));
   return cls;
 }
 
 const TClass& TControlBorderSpacing::StaticClass() {
   static const TClass cls(
       DescribeClass<TControlBorderSpacing>("TControlBorderSpacing", TPersistent::StaticClass())
-          .Passive("Left", 0)
-          .Passive("Top", 0)
-          .Passive("Right", 0)
-          .Passive("Bottom", 0)
-          .Passive("Around", 0)
+          .PublishedAll(Left, Top, Right, Bottom, Around)
           .Passive("InnerBorder", 0)
           .Passive("CellAlignHorizontal", TControlCellAlign::ccaFill)
           .Passive("CellAlignVertical", TControlCellAlign::ccaFill));
@@ -27,10 +23,7 @@ const TClass& TControlChildSizing::StaticClass() {
   using enum TChildControlResizeStyle;
   static const TClass cls(
       DescribeClass<TControlChildSizing>("TControlChildSizing", TPersistent::StaticClass())
-          .Passive("LeftRightSpacing", 0)
-          .Passive("TopBottomSpacing", 0)
-          .Passive("HorizontalSpacing", 0)
-          .Passive("VerticalSpacing", 0)
+          .PublishedAll(LeftRightSpacing, TopBottomSpacing, HorizontalSpacing, VerticalSpacing)
           .Passive("EnlargeHorizontal", crsAnchorAligning)
           .Passive("EnlargeVertical", crsAnchorAligning)
           .Passive("ShrinkHorizontal", crsAnchorAligning)

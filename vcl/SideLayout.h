@@ -1,6 +1,7 @@
 // How one of the two families of forms lays out controls besides Align and Anchors: sides tied to other
 // controls, distances, and rows of children. The coordinates in a form file are what this led to; they are
-// shown, and what it is made of is kept.
+// shown, and what it is made of is kept. It is worked out only for coordinates that a file leaves out
+// (vcl/SidePlaces.h).
 #pragma once
 #include "rtl/Component.h"
 
@@ -29,16 +30,27 @@ class TAnchorSide : public TKeptPart {
   VRX_CLASS(TAnchorSide)
  public:
   using TKeptPart::TKeptPart;
+  static constexpr TKept<TComponent*> Control{"Control"};
+  static constexpr TKept<TAnchorSideReference> Side{"Side", TAnchorSideReference::asrTop};
 };
 
 class TControlBorderSpacing : public TKeptPart {
   VRX_CLASS(TControlBorderSpacing)
  public:
   using TKeptPart::TKeptPart;
+  static constexpr TKept<int> Left{"Left", 0};
+  static constexpr TKept<int> Top{"Top", 0};
+  static constexpr TKept<int> Right{"Right", 0};
+  static constexpr TKept<int> Bottom{"Bottom", 0};
+  static constexpr TKept<int> Around{"Around", 0};
 };
 
 class TControlChildSizing : public TKeptPart {
   VRX_CLASS(TControlChildSizing)
  public:
   using TKeptPart::TKeptPart;
+  static constexpr TKept<int> LeftRightSpacing{"LeftRightSpacing", 0};
+  static constexpr TKept<int> TopBottomSpacing{"TopBottomSpacing", 0};
+  static constexpr TKept<int> HorizontalSpacing{"HorizontalSpacing", 0};
+  static constexpr TKept<int> VerticalSpacing{"VerticalSpacing", 0};
 };

@@ -45,7 +45,9 @@ TClassBuilder DescribeSpinEdit(const char* name) {
 const TClass& TSpinEdit::StaticClass() {
   static const TClass cls(
       DescribeSpinEdit<TSpinEdit>("TSpinEdit")
-          .PublishedAll(Increment, MaxValue, MinValue, Value)
+          .PublishedAll(Increment, MinValue, Value)
+          .Published(MaxValue)
+          .OtherDefault(100)
           .Alphabetical()
           .ClassDoc(
               QStringLiteral("A field for a whole number, with arrows that count it up and down."),
@@ -59,7 +61,8 @@ const TClass& TFloatSpinEdit::StaticClass() {
   static const TClass cls(
       DescribeSpinEdit<TFloatSpinEdit>("TFloatSpinEdit")
           .PublishedAll(DecimalPlaces, Value)
-          .Passive<double>("Increment")
+          .Published("Increment", &TFloatSpinEdit::Increment, &TFloatSpinEdit::SetIncrement)
+          .StoredIf(&TFloatSpinEdit::HasOwnIncrement)
           .Doc(QStringLiteral("How far a step of the arrows goes; 0 counts as 1."))
           .Passive<double>("MaxValue")
           .Passive<double>("MinValue")

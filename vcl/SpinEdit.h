@@ -30,6 +30,14 @@ class TFloatSpinEdit : public TCustomSpinEdit {
   static constexpr TKept<int> DecimalPlaces{"DecimalPlaces", 2};
   static constexpr TKept<double> Value{"Value"};
 
+  // How far a step of the arrows goes. There is no step of 0: it counts as 1.
+  double Increment() const { return increment_; }
+  void SetIncrement(double v) { Change(increment_, v == 0 ? 1 : v); }
+
  protected:
   QString ShownText() const override;
+
+ private:
+  bool HasOwnIncrement() const { return increment_ != 1; }
+  double increment_ = 1;
 };

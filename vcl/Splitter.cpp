@@ -23,6 +23,7 @@ const TClass& TSplitter::StaticClass() {
           .Type(size)
           .Passive("ResizeAnchor", TAnchorKind::akLeft)
           .Passive("ResizeStyle", TResizeStyle::rsPattern)
+          .OtherDefault(TResizeStyle::rsUpdate)
           .Event("OnCanOffset")
           .Event("OnCanResize", "TCanResizeEvent")
           .Event("OnMoved")

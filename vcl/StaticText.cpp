@@ -16,7 +16,8 @@ TCustomStaticText::TCustomStaticText(TComponent* owner) : TWinControl(owner) {
 
 QSize TCustomStaticText::AutoSizeHint() const {
   const int border = Get(BorderStyle) == TStaticBorderStyle::sbsNone ? 0 : 2;
-  return TextExtent(Caption(), *Font()) + QSize(border, border + 2);
+  return TextExtent(Caption(), *Font(), Get(ShowAccelChar) ? int{Qt::TextShowMnemonic} : 0) +
+         QSize(border, border + 2);
 }
 
 void TCustomStaticText::Paint(TCanvas& canvas) {

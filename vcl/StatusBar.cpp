@@ -32,7 +32,9 @@ const TClass& TStatusBar::StaticClass() {
           .PublishAll("Anchors", Look, ParentLook, Hints, Placement, Direction, Dragging, "DoubleBuffered",
                       "ParentDoubleBuffered", "PopupMenu", "TabOrder", "TabStop", "Visible", Help, Styling,
                       "AutoSize", "Action", WheelEvents, MouseEvents, DragEvents, "OnResize")
-          .PublishedAll(Panels, SimplePanel, SimpleText, SizeGrip)
+          .PublishedAll(Panels, SimpleText, SizeGrip)
+          .Published(SimplePanel)
+          .OtherDefault(true)
           .Publish("Align", TAlign::alBottom)
           .Passive("AutoHint", false)
           .Passive("BorderWidth", 0)

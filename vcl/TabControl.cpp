@@ -62,7 +62,7 @@ TCustomTabControl::TStrip TCustomTabControl::Strip() const {
       const TCustomImageList* images = Get(Images);
       const QImage image = images ? images->Image(tab.image) : QImage();
       length = Get(TabWidth) > 0 ? Get(TabWidth)
-                                 : TextExtent(tab.text, *Font()).width() + 2 * padding +
+                                 : TextExtent(tab.text, *Font(), Qt::TextShowMnemonic).width() + 2 * padding +
                                        (image.isNull() ? 0 : image.width() + 4);
     }
     if (Get(MultiLine) && at > Start && at + length > strip.room) {
@@ -185,7 +185,7 @@ void TCustomTabControl::Paint(TCanvas& canvas) {
     else if (Get(Style) == TTabStyle::tsButtons || i == front)
       PaintButton(canvas, rect.adjusted(1, 1, -1, -1), states, tab.text, Font());
     else
-      canvas.TextRect(rect, Qt::AlignCenter, tab.text, *Font(), Enabled());
+      canvas.TextRect(rect, Qt::AlignCenter | Qt::TextShowMnemonic, tab.text, *Font(), Enabled());
   };
   for (int i = 0; i < static_cast<int>(list.size()); ++i)
     if (i != front) paint(i);

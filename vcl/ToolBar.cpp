@@ -122,8 +122,10 @@ const TClass& TToolBar::StaticClass() {
                       Styling, "AutoSize", "BevelEdges", "BevelInner", "BevelKind", "BevelOuter",
                       "BevelWidth", "Caption", Docking, ResizeEvents, WheelEvents, "TabStop", MouseEvents,
                       FocusEvents, DragEvents)
-          .PublishedAll(ButtonHeight, ButtonWidth, DisabledImages, EdgeBorders, Flat, Images, Indent, List,
+          .PublishedAll(ButtonHeight, ButtonWidth, DisabledImages, Flat, Images, Indent, List,
                         ShowCaptions, Wrapable)
+          .Published(EdgeBorders)
+          .OtherDefault(TEdgeBorders{TEdgeBorder::ebTop})
           .Publish("Align", TAlign::alTop)
           .Passive("AllowTextButtons", false)
           .Passive("BorderWidth", 0)

@@ -2,7 +2,6 @@
 
 #include "rtl/Class.h"
 #include "rtl/Exceptions.h"
-#include "vcl/FormFamily.h"
 #include "vcl/ItemStream.h"
 
 namespace {
@@ -53,7 +52,7 @@ class NodeReader {
     node.StateIndex = in_.Number();
     node.OverlayIndex = in_.Number();
     if (layout_.expandedImage) node.ExpandedImageIndex = in_.Number();
-    in_.Skip(layout_.data);
+    node.Data = in_.Bits(layout_.data);
     const std::int32_t children = in_.Number();
     if (lcl) {
       node.Height = in_.Number();
@@ -79,7 +78,7 @@ void WriteNode(TItemWriter& out, const TTreeNodesLayout& layout, const TTreeNode
   for (const int index : {node.ImageIndex, node.SelectedIndex, node.StateIndex, node.OverlayIndex})
     out.Number(index);
   if (layout.expandedImage) out.Number(node.ExpandedImageIndex);
-  out.Fill(layout.data);
+  out.Bits(layout.data, node.Data);
   out.Number(static_cast<std::int32_t>(node.Children.size()));
   if (lcl) {
     out.Number(node.Height);
@@ -189,7 +188,7 @@ void TTreeNodes::SetNodes(const TTreeNodeList& nodes) {
   if (DepthOf(nodes) > DeepestNode)
     throw EComponentError(QStringLiteral("A tree cannot be deeper than %1 levels.").arg(DeepestNode));
   TTreeNodesLayout layout = read_.layout;
-  if (bytes_.isEmpty() && StandsOnClientSizedForm(*this)) layout = {LclData, 2, false, 0, false};
+  if (bytes_.isEmpty() && IsOfOtherFamily()) layout = {LclData, 2, false, 0, false};
   if (layout.key == TTreeNodesKey::Data && !IsPlain(nodes)) layout = {};
   Keep(layout.key, WriteTreeNodes(layout, nodes));
 }

@@ -19,6 +19,7 @@ struct TTreeNode {
   int Height = 0;
   bool Enabled = true;
   bool Expanded = false;
+  quint64 Data = 0;  // what the program hangs on it
   std::vector<TTreeNode> Children{};
   bool operator==(const TTreeNode&) const = default;
 };

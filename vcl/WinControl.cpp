@@ -40,22 +40,31 @@ const TClass& TWinControl::StaticClass() {
           .StoredIf(&TWinControl::ClientHeightTold)
           .Streamed("ClientWidth", &TWinControl::ToldClientWidth, &TWinControl::TellClientWidth)
           .StoredIf(&TWinControl::ClientWidthTold)
-          .StreamedPassive<TControlChildSizing*>("ChildSizing")
+          .Streamed(ChildSizing)
           .StreamedPassive<TValueList*>("DesignSize"));
   return cls;
 }
 
-// Some form files tell the client area, too. It follows the size as it stood to it; what the control shows,
-// and the size of one that sizes itself, have nothing to do with it.
+// Some form files tell the client area, too. It follows the size as it stood to it; the size of a control
+// that sizes itself has nothing to do with it.
 void TWinControl::TellClientWidth(int v) {
   if (v == ToldClientWidth()) return;
   TComponent::DoChanging();
   clientExtra_[0] = v - Width();
+  Invalidate();
 }
 void TWinControl::TellClientHeight(int v) {
   if (v == ToldClientHeight()) return;
   TComponent::DoChanging();
   clientExtra_[1] = v - Height();
+  Invalidate();
+}
+
+std::optional<QRect> TWinControl::ToldClientRect() const {
+  if (!clientExtra_[0] || !clientExtra_[1]) return {};
+  const int side = -*clientExtra_[0] / 2, top = -*clientExtra_[1] - side;
+  if (side < 0 || top < 0) return {};
+  return QRect(side, top, std::max(0, ToldClientWidth()), std::max(0, ToldClientHeight()));
 }
 
 namespace {

@@ -101,7 +101,7 @@ const TComponent* StandsIn(const FormSession& session, const TComponent& compone
 namespace {
 const forms::Object* FrameAround(const forms::Object& object) {
   for (const forms::Object* o = object.parent; o && o->parent; o = o->parent)
-    if (o->kind == forms::ObjectKind::Inline) return o;
+    if (o->IsFrame()) return o;
   return nullptr;
 }
 }  // namespace
@@ -121,7 +121,7 @@ bool CanHold(const FormSession& session, const TComponent& container) {
   const auto* control = As<TWinControl>(&container);
   const forms::Object* object = session.ObjectOf(container);
   if (!control || !object || !control->AcceptsControls()) return false;
-  return !object->parent || (object->kind != forms::ObjectKind::Inline && !FrameAround(*object));
+  return !object->parent || (!object->IsFrame() && !FrameAround(*object));
 }
 
 TWinControl& ContainerAround(const FormSession& session, const TComponent& component) {

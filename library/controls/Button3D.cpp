@@ -53,5 +53,6 @@ void TVRXCustom3DButton::PaintPlain(TCanvas& canvas) {
   const QRect outline = canvas.Frame3D(ClientRect(), cl3DDkShadow, cl3DDkShadow, 1);
   const QRect inside = down_ ? canvas.Frame3D(outline, clBtnShadow, clBtnHighlight, 2)
                              : canvas.Frame3D(outline, clBtnHighlight, clBtnShadow, 2);
-  canvas.TextRect(inside.translated(down_, down_), Qt::AlignCenter, Caption(), *Font(), Enabled());
+  canvas.TextRect(inside.translated(down_, down_), Qt::AlignCenter | Qt::TextShowMnemonic, Caption(), *Font(),
+                  Enabled());
 }

@@ -13,6 +13,8 @@ const TClass& TVRXLEDCustomLabel::StaticClass() {
                 "path 17.7 7.2 13.5 7.2 13.5 12 17.9 12 17.9 16.8 13.7 16.8")
           .Declared("Alignment", &TVRXLEDCustomLabel::Alignment, &TVRXLEDCustomLabel::SetAlignment,
                     TAlignment::taLeftJustify)
+          .Declared(BevelPart)
+          .Doc(QStringLiteral("A frame in light and shadow around the letters."))
           .Declared("LED", &TVRXLEDCustomLabel::LED, &TVRXLEDCustomLabel::SetLED)
           .Doc(QStringLiteral("Size and colours of the segment letters."))
           .Declared("Transparent", &TVRXLEDCustomLabel::Transparent, &TVRXLEDCustomLabel::SetTransparent,
@@ -26,7 +28,7 @@ const TClass& TVRXLEDLabel::StaticClass() {
       DescribeClass<TVRXLEDLabel>("TVRXLEDLabel", TVRXLEDCustomLabel::StaticClass())
           .PublishAll("Align", "Alignment", "Anchors")
           .Publish("AutoSize", true)
-          .PublishAll("Caption", "Color", "Enabled", "LED")
+          .PublishAll("Bevel", "Caption", "Color", "Enabled", "LED")
           .Publish("ParentColor", false)
           .PublishAll(Hints, "Transparent", "Visible", MouseEvents)
           .ClassDoc(QStringLiteral("A text in segment letters, as on a machine's display.")));
@@ -46,23 +48,25 @@ void TVRXLEDCustomLabel::SetTransparent(bool v) { Change(transparent_, v); }
 
 void TVRXLEDCustomLabel::SetAlignment(TAlignment v) { Change(alignment_, v); }
 
-namespace {
-int Margin(const TVRXLED& led) { return std::max<int>(3, led.Thickness()); }
-}  // namespace
+// Between the letters and the edge.
+int TVRXLEDCustomLabel::Margin() const {
+  return std::max<int>(3, led_->Thickness()) + (IsKept(&BevelPart) ? Bevel()->Room() : 0);
+}
 
 QSize TVRXLEDCustomLabel::AutoSizeHint() const {
-  const int m = 2 * Margin(*led_);
+  const int m = 2 * Margin();
   return LEDTextSize(Caption(), *led_) + QSize(m, m);
 }
 
 void TVRXLEDCustomLabel::Paint(TCanvas& canvas) {
-  if (!transparent_) canvas.FillRect(ClientRect(), Color());
-  const int margin = Margin(*led_);
+  const QRect room = IsKept(&BevelPart) ? Bevel()->Draw(canvas, ClientRect()) : ClientRect();
+  if (!transparent_) canvas.FillRect(room, Color());
+  const int margin = Margin();
   const QSize text = LEDTextSize(Caption(), *led_);
-  const int room = Width() - text.width();
+  const int left = Width() - text.width();
   int x = margin;
-  if (alignment_ == TAlignment::taCenter) x = room / 2;
-  if (alignment_ == TAlignment::taRightJustify) x = room - margin;
+  if (alignment_ == TAlignment::taCenter) x = left / 2;
+  if (alignment_ == TAlignment::taRightJustify) x = left - margin;
   DrawLEDText(canvas, {x, (Height() - text.height() + 1) / 2}, Caption(), *led_,
               Enabled() || !led_->DisabledDigits());
 }

@@ -1,5 +1,6 @@
 // A text in segment letters.
 #pragma once
+#include "library/values/Bevels.h"
 #include "library/values/LED.h"
 #include "vcl/Control.h"
 
@@ -9,6 +10,8 @@ class TVRXLEDCustomLabel : public TGraphicControl {
   explicit TVRXLEDCustomLabel(TComponent* owner);
   ~TVRXLEDCustomLabel() override;
 
+  static constexpr TKept<TVRXBevel*> BevelPart{"Bevel"};
+  TVRXBevel* Bevel() const { return Get(BevelPart); }
   TVRXLED* LED() const { return led_.get(); }
   void SetLED(const TVRXLED* v) { led_->Assign(v); }
   bool Transparent() const { return transparent_; }
@@ -22,6 +25,7 @@ class TVRXLEDCustomLabel : public TGraphicControl {
   QSize AutoSizeHint() const override;
 
  private:
+  int Margin() const;
   std::unique_ptr<TVRXLED> led_;
   TAlignment alignment_ = TAlignment::taLeftJustify;
   bool transparent_ = false;

@@ -2,37 +2,14 @@
 
 #include <QtMath>
 
+#include "library/values/TextLayers.h"
 #include "vcl/ShownText.h"
 
 namespace {
-using enum TVRX3DTextStyle;
-
-// One of the copies of a text that make its effect.
-struct Layer {
-  int offset;  // right and down
-  QColor color;
-};
-
-bool Sunken(TVRX3DTextStyle s) { return s == tdSunken || s == tdSunkenShadow || s == tdPColorSunken; }
-bool Lit(TVRX3DTextStyle s) { return s != tdNone && s != tdShadow; }
-bool Thick(TVRX3DTextStyle s) { return s == tdSunkenShadow || s == tdRaisedShadow; }
-
 // From the back to the front, the letters themselves last.
-std::vector<Layer> LayersOf(const TVRXFxCaption& fx, QColor letters, QColor behind) {
-  std::vector<Layer> layers;
-  const int side = Sunken(fx.Style()) ? -1 : 1;  // where the shadow falls
-  const QColor light = ToQColor(fx.LightColor()), shadow = ToQColor(fx.ShadowColor());
-  const auto add = [&](int direction, int depth, QColor color) {
-    if (depth == 0) return;
-    // A thick side is filled up to its depth, the others are a single copy.
-    if (Thick(fx.Style()))
-      for (int i = depth; i > 1; --i) layers.push_back({direction * i, color});
-    layers.push_back({direction * (Thick(fx.Style()) ? 1 : depth), color});
-  };
-  if (Lit(fx.Style())) add(-side, fx.LightDepth(), light);
-  if (fx.Style() != tdNone) add(side, fx.ShadowDepth(), shadow);
-  layers.push_back({0, fx.Style() == tdPColorSunken || fx.Style() == tdPColorRaised ? behind : letters});
-  return layers;
+std::vector<TVRXTextLayer> LayersOf(const TVRXFxCaption& fx, QColor letters, QColor behind) {
+  return VRXTextLayers({fx.Style(), fx.LightColor(), fx.ShadowColor(), fx.LightDepth(), fx.ShadowDepth(), {}},
+                       letters, behind);
 }
 
 // How far the effect reaches beyond the letters, to the top left and to the bottom right.
@@ -41,9 +18,9 @@ struct Reach {
 };
 Reach ReachOf(const TVRXFxCaption& fx) {
   Reach reach;
-  for (const Layer& layer : LayersOf(fx, {}, {})) {
-    reach.before = std::max(reach.before, -layer.offset);
-    reach.after = std::max(reach.after, layer.offset);
+  for (const TVRXTextLayer& layer : LayersOf(fx, {}, {})) {
+    reach.before = std::max(reach.before, -layer.Offset.x());
+    reach.after = std::max(reach.after, layer.Offset.x());
   }
   return reach;
 }
@@ -158,15 +135,15 @@ void VRXDrawTextExt(TCanvas& canvas, const QString& text, const TVRXFxCaption& f
   QPainter& p = canvas.Painter();
   p.save();
   p.setFont(FontOf(fx, font));
-  for (const Layer& layer : LayersOf(fx, letters, ToQColor(behind))) {
-    if (layer.color.alpha() == 0) continue;
-    p.setPen(layer.color);
-    const double offset = layer.offset;
+  for (const TVRXTextLayer& layer : LayersOf(fx, letters, ToQColor(behind))) {
+    if (layer.Color.alpha() == 0) continue;
+    p.setPen(layer.Color);
+    const double offset = layer.Offset.x();
     if (angle == 0) {
       const QRect box(
           QPoint(static_cast<int>(std::floor(at.x())) + over.left, static_cast<int>(std::floor(at.y()))),
           size);
-      p.drawText(box.translated(layer.offset, layer.offset), qtFlags, shown);
+      p.drawText(box.translated(layer.Offset), qtFlags, shown);
       continue;
     }
     p.save();

@@ -2,6 +2,10 @@
 #pragma once
 #include "library/controls/Button3D.h"
 #include "library/controls/LEDLabel.h"
+#include "library/controls/Light.h"
+#include "library/controls/ShapeControl.h"
+#include "library/controls/Switch.h"
+#include "library/controls/TechnicalLine.h"
 #include "library_design/VerbEditor.h"
 
 // LED labels: a double-click opens the look of the letters.
@@ -14,3 +18,11 @@ class TVRXLEDLabelComponentEditor : public TVerbEditor<TVRXLEDCustomLabel, TDefa
 
 // Graphic buttons: 3D buttons have the editor of their pictures.
 VRX_VERB_EDITOR(TVRXExtGraphicButtonComponentEditor, TVRXCustom3DButton, TDefaultEditor);
+
+VRX_VERB_EDITOR(TVRXCustomShapeComponentEditor, TVRXBaseShape);
+VRX_VERB_EDITOR(TVRXSwitchComponentEditor, TVRXCustomSwitch);
+VRX_VERB_EDITOR(TVRXLightComponentEditor, TVRXCustomLight);
+VRX_VERB_EDITOR(TVRXTechnicalLineComponentEditor, TVRXTechnicalLine);
+
+// A colour, with the IDE's custom colours, which are saved when one was chosen.
+bool VRXCPGetColorCP(TColor& color);

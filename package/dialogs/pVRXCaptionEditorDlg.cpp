@@ -11,7 +11,7 @@ TVRXCaptionEditorDlg::TVRXCaptionEditorDlg(QWidget* owner)
     : EditorDialog(QStringLiteral("Caption Editor"), QSize(533, 318), owner) {
   Preview(test);
   test->Brush()->SetColor(clBtnFace);
-  test->SetBevelColor(clBtnShadow);
+  test->Set(TVRXBaseShape::BevelColor, clBtnShadow);
   Edits(*test->Caption());
   Row(cap, "cap", "Caption", "&Caption:").Changes(&D::capChange);
   Row(cmb, "cmb", "Alignment", "Alignment:", "Aligns your text in the object it is embedded in.")

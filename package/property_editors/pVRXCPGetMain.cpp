@@ -4,10 +4,16 @@
 
 #include "dclstd/EditValue.h"
 #include "library_design/Encoding.h"
+#include "library_design/FillDialog.h"
 #include "package/dialogs/pVRX3DEffectEditorDlg.h"
 #include "package/dialogs/pVRXBmpRegionEditorDlg.h"
 #include "package/dialogs/pVRXCaptionEditorDlg.h"
 #include "package/dialogs/pVRXLEDEditorDlg.h"
+#include "package/dialogs/pVRXLightEditorDlg.h"
+#include "package/dialogs/pVRXShadowEditorDlg.h"
+#include "package/dialogs/pVRXShapeEditorDlg.h"
+#include "package/dialogs/pVRXSimpleBevelEditorDlg.h"
+#include "package/dialogs/pVRXTeethEditorDlg.h"
 
 bool VRXCPGetButtonFace3D(TVRXCustom3DButton& button) {
   TVRX3DEffectEditorDlg dialog(ApplicationOwner());
@@ -34,4 +40,30 @@ bool VRXCPGetRegionMask(TVRXRegionMask& mask, bool window) {
   return EditValue<TVRXfrmRegionFromBMPdlg>(mask, ApplicationOwner(), [=](auto& dialog) {
     if (!window) dialog.SetButtonFace();
   });
+}
+bool VRXCPGetShadow(TVRXShadow& shadow) { return EditValue<TVRXShadowEditorDlg>(shadow); }
+bool VRXCPGetShapeFill(TVRXShapeFill& fill, TCustomImageList* images) {
+  return EditValue<TVRXFillEditorDlg>(fill, ApplicationOwner(), [=](auto& dialog) {
+    dialog.setWindowTitle(QStringLiteral("ShapeFill-Editor"));
+    dialog.SetImages(images);
+  });
+}
+bool VRXCPGetSimpleBevel(TVRXSimpleBevel& bevel) { return EditValue<TVRXSimpleBevelEditorDlg>(bevel); }
+bool VRXCPGetTeeth(TVRXTeeth& teeth) { return EditValue<TVRXTeethEditorDlg>(teeth); }
+
+namespace {
+template <class D, class T>
+T Pick(const TKept<T>& property, T value, QWidget* owner) {
+  D dialog(owner);
+  dialog.test->Set(property, value);
+  dialog.SetLabels();
+  return dialog.ShowModal() == mrOk ? dialog.test->Get(property) : value;
+}
+}  // namespace
+
+TVRXLightColor VRXCPGetLightColor(TVRXLightColor color) {
+  return Pick<TVRXLightEditorDlg>(TVRXCustomLight::LightColor, color, nullptr);
+}
+TVRXShapeType VRXCPGetShape(TVRXShapeType shape) {
+  return Pick<TVRXShapeEditorDlg>(TVRXBaseShape::Shape, shape, ApplicationOwner());
 }

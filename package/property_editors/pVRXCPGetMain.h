@@ -2,9 +2,15 @@
 // user confirms. True when that happened.
 #pragma once
 #include "library/controls/Button3D.h"
+#include "library/values/Bevels.h"
 #include "library/values/Caption.h"
+#include "library/values/Fill.h"
 #include "library/values/LED.h"
+#include "library/values/LightColor.h"
 #include "library/values/RegionMask.h"
+#include "library/values/Shadow.h"
+#include "library/values/ShapeType.h"
+#include "library/values/Teeth.h"
 
 // The button gets its three pictures, and their size. False also when no picture was chosen.
 bool VRXCPGetButtonFace3D(TVRXCustom3DButton& button);
@@ -13,3 +19,11 @@ bool VRXCPGetVRXCaption(TVRXCaption& caption, bool showMultiLine);
 bool VRXCPGetLED(TVRXLED& led);
 // `window`: for the shape of a window; else for that of a button with two states.
 bool VRXCPGetRegionMask(TVRXRegionMask& mask, bool window);
+bool VRXCPGetShadow(TVRXShadow& shadow);
+// `images`: where the fill finds pictures by index, if anywhere.
+bool VRXCPGetShapeFill(TVRXShapeFill& fill, TCustomImageList* images = nullptr);
+bool VRXCPGetSimpleBevel(TVRXSimpleBevel& bevel);
+bool VRXCPGetTeeth(TVRXTeeth& teeth);
+// The chosen value, or the argument when the user does not confirm.
+TVRXLightColor VRXCPGetLightColor(TVRXLightColor color);
+TVRXShapeType VRXCPGetShape(TVRXShapeType shape);

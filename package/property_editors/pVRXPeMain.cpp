@@ -1,5 +1,6 @@
 #include "package/property_editors/pVRXPeMain.h"
 
+#include "library/controls/ShapeControl.h"
 #include "package/dialogs/pVRXLEDEditorDlg.h"
 #include "package/property_editors/pVRXCPGetMain.h"
 
@@ -26,6 +27,25 @@ bool TVRXCaptionProperty::Launch(TVRXCaption& copy) { return VRXCPGetVRXCaption(
 // The region component shows two states, as a button does; its descendants are shaped windows.
 bool TVRXRegionMaskProperty::Launch(TVRXRegionMask& copy) {
   return VRXCPGetRegionMask(copy, GetComponent(0)->ClassType().ClassName() != "TVRXRegion");
+}
+
+bool TVRXShadowProperty::Launch(TVRXShadow& copy) { return VRXCPGetShadow(copy); }
+bool TVRXShapeFillProperty::Launch(TVRXShapeFill& copy) {
+  const auto* shape = As<TVRXBaseShape>(GetComponent(0));
+  return VRXCPGetShapeFill(copy, shape ? shape->Get(TVRXBaseShape::ShapeFillImageList) : nullptr);
+}
+bool TVRXSimpleBevelProperty::Launch(TVRXSimpleBevel& copy) { return VRXCPGetSimpleBevel(copy); }
+bool TVRXTeethProperty::Launch(TVRXTeeth& copy) { return VRXCPGetTeeth(copy); }
+
+TPropertyAttributes TVRXPictureEnumProperty::GetAttributes() const {
+  return {paValueList, paDialog, paMultiSelect, paRevertable};
+}
+void TVRXPictureEnumProperty::Edit() { SetOrdValue(Pick(GetOrdValue()) & 0xFF); }
+std::int64_t TVRXShapeProperty::Pick(std::int64_t value) {
+  return static_cast<std::int64_t>(VRXCPGetShape(static_cast<TVRXShapeType>(value)));
+}
+std::int64_t TVRXLightColorProperty::Pick(std::int64_t value) {
+  return static_cast<std::int64_t>(VRXCPGetLightColor(static_cast<TVRXLightColor>(value)));
 }
 
 TPropertyAttributes TVRXButtonFaceProperty::GetAttributes() const { return {paDialog}; }

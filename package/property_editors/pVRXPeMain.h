@@ -1,8 +1,12 @@
 // Property editors of the library's value objects. Each edits a copy in a modal dialog and writes it back
 // only when the user confirms.
 #pragma once
+#include "library/values/Bevels.h"
 #include "library/values/Caption.h"
+#include "library/values/Fill.h"
 #include "library/values/RegionMask.h"
+#include "library/values/Shadow.h"
+#include "library/values/Teeth.h"
 #include "library_design/CopyProperty.h"
 
 class TVRXLEDProperty : public TClassProperty {
@@ -20,6 +24,56 @@ class TVRXCaptionProperty : public TCopyProperty<TVRXCaption> {
 class TVRXRegionMaskProperty : public TCopyProperty<TVRXRegionMask, TCopyEditing::DialogOnly> {
   using TCopyProperty::TCopyProperty;
   bool Launch(TVRXRegionMask& copy) override;
+};
+
+// The inspector shows what the object says of itself.
+template <class Value>
+class TSummaryProperty : public TCopyProperty<Value> {
+ public:
+  using TCopyProperty<Value>::TCopyProperty;
+  QString GetValue() const override {
+    const auto* value = As<Value>(this->GetObjectValue());
+    return value ? value->Description() : QString();
+  }
+};
+
+class TVRXShadowProperty : public TSummaryProperty<TVRXShadow> {
+  using TSummaryProperty::TSummaryProperty;
+  bool Launch(TVRXShadow& copy) override;
+};
+
+class TVRXShapeFillProperty : public TSummaryProperty<TVRXShapeFill> {
+  using TSummaryProperty::TSummaryProperty;
+  bool Launch(TVRXShapeFill& copy) override;
+};
+
+class TVRXSimpleBevelProperty : public TCopyProperty<TVRXSimpleBevel> {
+  using TCopyProperty::TCopyProperty;
+  bool Launch(TVRXSimpleBevel& copy) override;
+};
+
+class TVRXTeethProperty : public TCopyProperty<TVRXTeeth> {
+  using TCopyProperty::TCopyProperty;
+  bool Launch(TVRXTeeth& copy) override;
+};
+
+// Enumerations with a dialog that shows them. What it returns is written, chosen or not.
+class TVRXPictureEnumProperty : public TEnumProperty {
+ public:
+  using TEnumProperty::TEnumProperty;
+  TPropertyAttributes GetAttributes() const override;
+  void Edit() override;
+
+ protected:
+  virtual std::int64_t Pick(std::int64_t value) = 0;
+};
+class TVRXShapeProperty : public TVRXPictureEnumProperty {
+  using TVRXPictureEnumProperty::TVRXPictureEnumProperty;
+  std::int64_t Pick(std::int64_t value) override;
+};
+class TVRXLightColorProperty : public TVRXPictureEnumProperty {
+  using TVRXPictureEnumProperty::TVRXPictureEnumProperty;
+  std::int64_t Pick(std::int64_t value) override;
 };
 
 // The face of a button; opens the editor that belongs to the kind of button.

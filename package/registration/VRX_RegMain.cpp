@@ -1,10 +1,17 @@
 #include "package/registration/VRX_RegMain.h"
 
 #include "designintf/RegistrationTable.h"
+#include "library/components/FormComponent.h"
+#include "library/components/HiTimer.h"
+#include "library/components/TitleItems.h"
 #include "library/controls/Button3D.h"
 #include "library/controls/LEDLabel.h"
+#include "library/controls/Light.h"
 #include "library/controls/RegionControl.h"
 #include "library/controls/ShapeControl.h"
+#include "library/controls/Switch.h"
+#include "library/controls/TechnicalLine.h"
+#include "package/component_editors/pVRXCEForms.h"
 #include "package/component_editors/pVRXCEMain.h"
 #include "package/property_editors/pVRXPeMain.h"
 
@@ -13,12 +20,35 @@ using namespace registration;
 namespace {
 // Each page, and then the editors of what is on it.
 const Row kRows[] = {
-    Page("VRX Ext", TellingClasses<TVRXLEDLabel>()),
+    Page("VRX Std", TellingClasses<TVRXStaticText>()),
+
+    Page("VRX Ext", TellingClasses<TVRXClock, TVRXTechnicalLine, TVRXClock, TVRXLEDLabel, TVRXSwitch,
+                                   TVRXWSwitch, TVRXLight>()),
     Property<TVRXLED, TVRXLEDProperty>(),
     Component<TVRXLEDCustomLabel, TVRXLEDLabelComponentEditor>(),
+    Component<TVRXClock, TVRXClockComponentEditor>(),
+    Component<TVRXTechnicalLine, TVRXTechnicalLineComponentEditor>(),
+    Component<TVRXCustomSwitch, TVRXSwitchComponentEditor>(),
+    Property<TVRXLightColor, TVRXLightColorProperty>(),
+    Component<TVRXCustomLight, TVRXLightComponentEditor>(),
+    Component<TVRXFill, TVRXFillComponentEditor>(),
 
-    Page("VRX MM", TellingClasses<TVRX3DEffectButton, TVRXShapeControl, TVRXWndButtonShape>()),
+    Page("VRX Form", TellingClasses<TVRXForm, TVRXBack, TVRXFormFill, TVRXFormStyler, TVRXFormShadow,
+                                    TVRXFormShape, TVRXSysMenu, TVRXCaptionButtons>()),
+    Component<TVRXFormStyler, TVRXFormStylerComponentEditor>(),
+    Component<TVRXCustomFormFill, TVRXFormFillComponentEditor>(),
+    Component<TVRXFormShadow, TVRXShadowComponentEditor>(),
+    Component<TVRXFormShape, TVRXFormShapeComponentEditor>(),
+
+    Page("VRX MM", TellingClasses<TVRXLabelFill, TVRXScrollText, TVRX3DEffectButton, TVRXHiTimer,
+                                  TVRXShapeControl, TVRXRepeatedShape, TVRXAniCtrl, TVRXWndButtonShape>()),
+    Component<TVRXAniCtrl, TVRXAniCtrlComponentEditor>(),
+    Component<TVRXCustomLabelFill, TVRXLabelFillComponentEditor>(),
+    Component<TVRXBaseShape, TVRXCustomShapeComponentEditor>(),
+    Component<TVRXScrollText, TVRXScrollTextComponentEditor>(),
     Component<TVRXCustom3DButton, TVRXExtGraphicButtonComponentEditor>(),
+
+    Component<TVRXCustomShapeHint, TVRXShapeHintComponentEditor>(),
 };
 }  // namespace
 

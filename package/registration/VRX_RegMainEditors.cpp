@@ -1,24 +1,41 @@
 #include "package/registration/VRX_RegMainEditors.h"
 
 #include "dclstd/DialogRegistration.h"
+#include "library/controls/Clock.h"
 #include "library/values/ButtonFace.h"
 #include "library/values/Caption.h"
+#include "library/values/DateTimeFormat.h"
 #include "library/values/RegionMask.h"
+#include "library/values/ShapeType.h"
+#include "library_design/pVRXPeCore.h"
 #include "package/dialogs/pVRX3DEffectEditorDlg.h"
 #include "package/dialogs/pVRXBmpRegionEditorDlg.h"
 #include "package/dialogs/pVRXCaptionEditorDlg.h"
 #include "package/dialogs/pVRXLEDEditorDlg.h"
+#include "package/dialogs/pVRXLightEditorDlg.h"
+#include "package/dialogs/pVRXShadowEditorDlg.h"
+#include "package/dialogs/pVRXShapeEditorDlg.h"
+#include "package/dialogs/pVRXSimpleBevelEditorDlg.h"
+#include "package/dialogs/pVRXTeethEditorDlg.h"
 #include "package/property_editors/pVRXPeMain.h"
 
 using namespace registration;
 
 namespace {
 const Row kRows[] = {
+    Property<TVRXShadow, TVRXShadowProperty>(),
+    Property<TVRXShapeFill, TVRXShapeFillProperty>(),
+    Property<TVRXDateTimeFormat, TVRXDateTimeFormatProperty, TVRXClock>("CustomDateTimeFormat"),
     Property<TVRXCaption, TVRXCaptionProperty>(),
     Property<TVRXRegionMask, TVRXRegionMaskProperty>(),
     Property<TVRXButtonFace, TVRXButtonFaceProperty>(),
+    Property<TVRXSimpleBevel, TVRXSimpleBevelProperty>(),
+    Property<TVRXShapeType, TVRXShapeProperty>(),
+    Property<TVRXTeeth, TVRXTeethProperty>(),
 
-    Dialogs<TVRXLEDEditorDlg, TVRXCaptionEditorDlg, TVRX3DEffectEditorDlg, TVRXfrmRegionFromBMPdlg>(),
+    Dialogs<TVRXLEDEditorDlg, TVRXShadowEditorDlg, TVRXSimpleBevelEditorDlg, TVRXTeethEditorDlg,
+            TVRXCaptionEditorDlg, TVRXShapeEditorDlg, TVRXLightEditorDlg, TVRX3DEffectEditorDlg,
+            TVRXfrmRegionFromBMPdlg>(),
 };
 }  // namespace
 

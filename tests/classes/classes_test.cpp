@@ -10,6 +10,7 @@
 #include "forms/FormReader.h"
 #include "forms/Snapshot.h"
 #include "rtl/ClassRegistry.h"
+#include "rtl/Clock.h"
 #include "rtl/Collection.h"
 #include "rtl/Exceptions.h"
 #include "rtl/PropAccess.h"
@@ -358,6 +359,7 @@ TEST_P(EveryClass, TellsItsHostAndPaintsAfterEveryChange) {
 }
 
 TEST_P(EveryClass, LooksTheSameInEachThemeOfTheDesigner) {
+  const TClockOverride still([] { return std::int64_t{10'000'000}; });
   QImage pictures[2];
   for (const auto theme : {TTheme::Light, TTheme::Dark}) {
     ApplyTheme(theme);

@@ -61,7 +61,9 @@ TEST_F(DescribeCli, JsonHasTheSameKeysForEveryControl) {
     for (const auto& control : dialog[u"controls"].toArray()) EXPECT_EQ(control.toObject().keys(), keys);
   }
   EXPECT_EQ(dialogs.join(u'|').toStdString(),
-            "TVRXLEDEditorDlg=LED Editor|TVRXCaptionEditorDlg=Caption Editor|TVRX3DEffectEditorDlg=3D Effect "
+            "TVRXLEDEditorDlg=LED Editor|TVRXShadowEditorDlg=Shadow Editor|TVRXSimpleBevelEditorDlg=Simple "
+            "Bevel Editor|TVRXTeethEditorDlg=Teeth Editor|TVRXCaptionEditorDlg=Caption Editor|"
+            "TVRXShapeEditorDlg=Shape Editor|TVRXLightEditorDlg=Light Editor|TVRX3DEffectEditorDlg=3D Effect "
             "Editor|TVRXfrmRegionFromBMPdlg=Region From Bitmap Editor");
 }
 

@@ -262,3 +262,15 @@ TEST_F(Cli, WhatStandsBehindTwoDashesIsNoOption) {
   EXPECT_TRUE(r.err.contains(QStringLiteral("none")) || r.code == 2) << r.err.toStdString();
   EXPECT_NE(r.code, 0);
 }
+
+TEST_F(Cli, SetRefusesWhatAnItemDoesNotHaveAndWritesNothing) {
+  const QByteArray form = "object Form1: TForm1\n  object Bar: TStatusBar\n    Panels = <>\n  end\nend\n";
+  const QString file = Write("items.dfm", form);
+  const Result r = Vrx({L("set"), file, L("Bar.Panels=<item Foreign = 1 end>")});
+  EXPECT_EQ(r.code, 1);
+  EXPECT_TRUE(r.err.contains(L("Panels[0].Foreign"))) << r.err.toStdString();
+  EXPECT_EQ(Vrx({L("set"), file, L("Bar.Panels=<item Width = 'x' end>")}).code, 1);
+  EXPECT_EQ(Read(file), form);
+  EXPECT_EQ(Vrx({L("set"), file, L("Bar.Panels=<item Width = 31 end>")}).code, 0);
+  EXPECT_TRUE(Read(file).contains("Width = 31"));
+}

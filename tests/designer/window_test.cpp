@@ -4,6 +4,7 @@
 #include "rtl/Exceptions.h"
 #include "tests/designer/DesignerTest.h"
 #include "vcl/FormColors.h"
+#include "vcl/PageControl.h"
 #include "vcl/Theme.h"
 
 using namespace designer;
@@ -216,6 +217,25 @@ TEST_F(Window, AnEditorThatThrowsOnADoubleClickTellsAndChangesNothing) {
   EXPECT_EQ(dynamic_cast<TControl&>(Get("Button1")).Caption(), QStringLiteral("One"));
   Click(At("Button2"));  // the designer goes on
   EXPECT_EQ(Selected(), "Button2");
+}
+
+TEST_F(Window, AVerbThatCannotBeRunIsGreyAndSaysWhy) {
+  auto& book = dynamic_cast<TPageControl&>(
+      *Session().CreateComponent(TPageControl::StaticClass(), nullptr, QRect(16, 160, 200, 100)));
+  QStringList enabled, grey;
+  QTimer::singleShot(0, [&] {
+    auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+    ASSERT_NE(menu, nullptr);
+    for (QAction* action : menu->actions().first(4)) {
+      (action->isEnabled() ? enabled : grey) << action->text();
+      EXPECT_EQ(action->isEnabled(), action->statusTip().isEmpty());
+    }
+    menu->close();
+  });
+  emit Surface().ContextMenuWanted(Surface().mapToGlobal(QPoint(20, 20)));
+  EXPECT_EQ(enabled, QStringList(QStringLiteral("New Page")));
+  EXPECT_EQ(grey.join(u'|'), QStringLiteral("Next Page|Previous Page|Delete Page"));
+  EXPECT_TRUE(book.Pages().empty());
 }
 
 TEST_F(Window, AVerbThatThrowsTellsAndChangesNothing) {

@@ -207,6 +207,36 @@ TEST_F(ImageListEditor, MovesDeletesAndReplaces) {
   EXPECT_EQ(Colors(), "#000000 #ff0000");
 }
 
+TEST_F(ImageListEditor, PicturesAreDraggedToAnotherPlace) {
+  const auto drag = [](ImageListDialog& dialog, int from, int to, bool behind) {
+    QWidget* area = dialog.strip->viewport();
+    const QPoint start = dialog.strip->visualItemRect(dialog.strip->item(from)).center();
+    const QRect target = dialog.strip->visualItemRect(dialog.strip->item(to));
+    const QPoint end(behind ? target.right() + 2 : target.left() + 1, target.center().y());
+    QTest::mousePress(area, Qt::LeftButton, {}, start);
+    QMouseEvent move(QEvent::MouseMove, end, area->mapToGlobal(end), Qt::NoButton, Qt::LeftButton, {});
+    QCoreApplication::sendEvent(area, &move);
+    QTest::mouseRelease(area, Qt::LeftButton, {}, end);
+  };
+  Run([&](ImageListDialog& dialog) {
+    drag(dialog, 0, 1, true);
+    EXPECT_TRUE(dialog.strip->item(1)->isSelected());
+    drag(dialog, 2, 0, false);
+  });
+  EXPECT_EQ(Colors(), "#0000ff #00ff00 #ff0000");
+  EXPECT_EQ(designer.modified, 1);
+  Run([&](ImageListDialog& dialog) {
+    drag(dialog, 0, 2, true);
+    dialog.cancel->click();
+  });
+  Run([&](ImageListDialog& dialog) {
+    drag(dialog, 1, 0, true);
+    EXPECT_FALSE(dialog.Changed()) << "where it is";
+  });
+  EXPECT_EQ(Colors(), "#0000ff #00ff00 #ff0000");
+  EXPECT_EQ(designer.modified, 1);
+}
+
 TEST_F(ImageListEditor, SizeAndTransparentColourCanBeChanged) {
   prompts.files = {FileOf(OnFuchsia(12, 8, Qt::yellow), "b.bmp")};
   Run([](ImageListDialog& dialog) {

@@ -39,7 +39,8 @@ TEST_F(StandardDialogs, AreRegisteredAndEveryControlHasAName) {
     EXPECT_EQ(defaults, QStringList{QStringLiteral("OK")});
   }
   EXPECT_EQ(names.join(u' ').toStdString(),
-            "LinesDialog PictureEditorDialog ImageListDialog ShortCutDialog FilterDialog DateTimeDialog");
+            "LinesDialog PictureEditorDialog ImageListDialog ShortCutDialog FilterDialog DateTimeDialog "
+            "TreeItemsDialog ListItemsDialog CellsDialog EditMaskDialog");
 }
 
 TEST_F(StandardDialogs, TextsFitInBothThemes) {

@@ -187,58 +187,49 @@ TEST_F(Arranging, AControlComesOutOfItsContainerAsItStands) {
   ExpectOneCommand();
 }
 
+namespace {
+// The panel that moves, with something of everybody in it, as deep as it stands.
+QByteArray InsideText(int indent, int left, int top) {
+  const QByteArray text = QStringLiteral(
+                              "object Inside: TPanel\n"
+                              "  Left = %1\n"
+                              "  Top = %2\n"
+                              "  Width = 90\n"
+                              "  Height = 90\n"
+                              "  object Deep: TButton\n"
+                              "    Left = 1\n"
+                              "    Strange.Lines = (\n"
+                              "      'one'\n"
+                              "      'two')\n"
+                              "    TabOrder = 0\n"
+                              "  end\n"
+                              "end\n")
+                              .arg(left)
+                              .arg(top)
+                              .toUtf8();
+  QByteArray indented;
+  for (const QByteArray& line : text.chopped(1).split('\n'))
+    indented += QByteArray(indent, ' ') + line + '\n';
+  return indented;
+}
+QByteArray FormText(const QByteArray& inBox, const QByteArray& behindIt) {
+  return "object Main: TMain\n"
+         "  Caption = 'x'\n"
+         "  ClientHeight = 300\n"
+         "  ClientWidth = 400\n"
+         "  object Box: TPanel\n"
+         "    Left = 100\n"
+         "    Top = 50\n"
+         "    Width = 200\n"
+         "    Height = 150\n" +
+         inBox + "  end\n" + behindIt + "end\n";
+}
+}  // namespace
+
 TEST_F(Arranging, WhatComesToAnotherContainerIsIndentedThereLikeTheRest) {
-  Open(
-      "object Main: TMain\n"
-      "  Caption = 'x'\n"
-      "  ClientHeight = 300\n"
-      "  ClientWidth = 400\n"
-      "  object Box: TPanel\n"
-      "    Left = 100\n"
-      "    Top = 50\n"
-      "    Width = 200\n"
-      "    Height = 150\n"
-      "    object Inside: TPanel\n"
-      "      Left = 8\n"
-      "      Top = 8\n"
-      "      Width = 90\n"
-      "      Height = 90\n"
-      "      object Deep: TButton\n"
-      "        Left = 1\n"
-      "        Strange.Lines = (\n"
-      "          'one'\n"
-      "          'two')\n"
-      "        TabOrder = 0\n"
-      "      end\n"
-      "    end\n"
-      "  end\n"
-      "end\n");
+  Open(FormText(InsideText(4, 8, 8), {}));
   MoveInto(*session_, {&Get("Inside")}, session_->Form());
-  EXPECT_EQ(session_->Bytes(),
-            "object Main: TMain\n"
-            "  Caption = 'x'\n"
-            "  ClientHeight = 300\n"
-            "  ClientWidth = 400\n"
-            "  object Box: TPanel\n"
-            "    Left = 100\n"
-            "    Top = 50\n"
-            "    Width = 200\n"
-            "    Height = 150\n"
-            "  end\n"
-            "  object Inside: TPanel\n"
-            "    Left = 108\n"
-            "    Top = 58\n"
-            "    Width = 90\n"
-            "    Height = 90\n"
-            "    object Deep: TButton\n"
-            "      Left = 1\n"
-            "      Strange.Lines = (\n"
-            "        'one'\n"
-            "        'two')\n"
-            "      TabOrder = 0\n"
-            "    end\n"
-            "  end\n"
-            "end\n");
+  EXPECT_EQ(session_->Bytes(), FormText({}, InsideText(2, 108, 58)));
   ExpectOneCommand();
   MoveInto(*session_, {&Get("Deep")}, As<TWinControl>("Box"));
   MoveInto(*session_, {&Get("Inside")}, As<TWinControl>("Box"));

@@ -235,3 +235,53 @@ TEST_F(CollectionWindowTest, TheComponentHasAVerbForIt) {
   ASSERT_EQ(ComponentWindow::All().size(), 1);
   window_ = qobject_cast<CollectionWindow*>(ComponentWindow::All().value(0));
 }
+
+namespace {
+// To the upper or the lower half of a row, or below the last one.
+void Drag(QListWidget& list, int from, int to, bool lower) {
+  QWidget* area = list.viewport();
+  const QPoint start = list.visualItemRect(list.item(from)).center();
+  const QRect target = list.visualItemRect(list.item(to));
+  const QPoint end(target.left() + 20, lower ? target.bottom() - 2 : target.top() + 2);
+  QTest::mousePress(area, Qt::LeftButton, {}, start);
+  QMouseEvent move(QEvent::MouseMove, end, area->mapToGlobal(end), Qt::NoButton, Qt::LeftButton, {});
+  QCoreApplication::sendEvent(area, &move);
+  QTest::mouseRelease(area, Qt::LeftButton, {}, end);
+}
+}  // namespace
+
+TEST_F(CollectionWindowTest, DraggedItemsMoveAsOneStep) {
+  Drag(*window_->items, 0, 1, true);
+  EXPECT_EQ(Rows(), "0 - TPearl|*1 - white|2 - black");
+  EXPECT_EQ(Inspected("Title"), "white");
+  Drag(*window_->items, 2, 0, false);
+  EXPECT_EQ(Rows(), "*0 - black|1 - TPearl|2 - white");
+  session_->Undo();
+  session_->Undo();
+  EXPECT_EQ(session_->Bytes(), Form);
+  EXPECT_FALSE(session_->CanUndo());
+}
+
+TEST_F(CollectionWindowTest, SelectedItemsAreDraggedTogether) {
+  Pick({0, 2});
+  Drag(*window_->items, 2, 1, false);
+  EXPECT_EQ(Rows(), "*0 - white|*1 - black|2 - TPearl");
+  session_->Undo();
+  EXPECT_EQ(session_->Bytes(), Form);
+  EXPECT_FALSE(session_->CanUndo());
+  Pick({0, 1});
+  Drag(*window_->items, 0, 2, true);
+  EXPECT_EQ(Rows(), "0 - black|*1 - white|*2 - TPearl");
+}
+
+TEST_F(CollectionWindowTest, ADragToWhereItIsOrAShortOneChangesNothing) {
+  Drag(*window_->items, 1, 1, true);
+  Drag(*window_->items, 1, 0, true);
+  Drag(*window_->items, 1, 2, false);
+  EXPECT_EQ(Rows(), "0 - white|*1 - TPearl|2 - black");
+  QTest::mouseClick(window_->items->viewport(), Qt::LeftButton, {},
+                    window_->items->visualItemRect(window_->items->item(2)).center());
+  EXPECT_EQ(Rows(), "0 - white|1 - TPearl|*2 - black");
+  EXPECT_EQ(session_->Bytes(), Form);
+  EXPECT_FALSE(session_->CanUndo());
+}

@@ -187,6 +187,25 @@ TEST_F(MenuWindowTest, InsertsInFrontOfTheItem) {
   ExpectSteps(1);
 }
 
+TEST_F(MenuWindowTest, ANewItemIsTypedInAPlaceOfItsOwn) {
+  for (const char* name : {"Exit1", "Open1", "Help1", "File1"}) {
+    GoTo(name);
+    const QRect before = window_->canvas->RectOf(window_->Current());
+    Key(Qt::Key_Insert);
+    Type("N");
+    ASSERT_TRUE(window_->caption->isVisible());
+    const QRect field = window_->caption->geometry();
+    for (const char* item : {"File1", "Help1", "Open1", "N1", "Exit1"}) {
+      const QRect other = window_->canvas->RectOf({Item(item).Around(), &Item(item)});
+      EXPECT_FALSE(!other.isEmpty() && field.intersects(other)) << name << ' ' << item;
+    }
+    EXPECT_TRUE(field.contains(before.topLeft() + QPoint(5, 5))) << "where the item was";
+    Key(Qt::Key_Escape);
+    EXPECT_EQ(window_->canvas->RectOf(window_->Current()), before) << "the room is gone again";
+  }
+  EXPECT_FALSE(session_->CanUndo());
+}
+
 TEST_F(MenuWindowTest, DeletesTheItemWithWhatIsBelowIt) {
   GoTo("File1");
   Key(Qt::Key_Delete);

@@ -5,7 +5,9 @@
 #include "dclstd/FontDialog.h"
 #include "dclstd/LinesDialog.h"
 #include "library_design/ColorDialogs.h"
+#include "library_design/Font3DDialog.h"
 #include "library_design/FontDialogs.h"
+#include "library_design/LookDialogs.h"
 #include "package/property_editors/pVRXCPGetMain.h"
 #include "package/registration/VRX_RegMainEditors.h"
 #include "rtl/PropAccess.h"
@@ -93,6 +95,13 @@ TEST_F(EveryDialog, OfAValueKeepsIt) {
   ExpectKept<TVRXLED>(VRXCPGetLED, "LED");
   ExpectKept<TVRXCaption>([](TVRXCaption& v) { return VRXCPGetVRXCaption(v, true); }, "caption");
   ExpectKept<TVRXFxCaption>(VRXCPGetFontFx, "font effects");
+  ExpectKept<TVRXShadow>(VRXCPGetShadow, "shadow");
+  ExpectKept<TVRXSimpleBevel>(VRXCPGetSimpleBevel, "simple bevel");
+  ExpectKept<TVRXTeeth>(VRXCPGetTeeth, "teeth");
+  ExpectKept<TVRXShapeFill>([](TVRXShapeFill& v) { return VRXCPGetShapeFill(v); }, "shape fill");
+  ExpectKept<TVRXBevel>(VRXCPGetBevel, "bevel");
+  ExpectKept<TBrush>(VRXCPGetBrush, "brush");
+  ExpectKept<TVRXFont3D>(VRXCPGetFont3D, "light and shadow");
   ExpectKept<TFont>(VRXCPGetFont, "font");
   ExpectKept<TFont>(EditFont, "font of the inspector");
   for (const bool window : {true, false}) {

@@ -7,6 +7,7 @@
 #include "designintf/RegistrationTable.h"
 #include "library/controls/LEDLabel.h"
 #include "library_design/pVRXCommon.h"
+#include "package/registration/VRX_RegMainEditors.h"
 #include "rtl/ClassRegistry.h"
 #include "rtl/Exceptions.h"
 
@@ -161,10 +162,12 @@ TEST_F(Registering, ThePackagePutsTheLedLabelOnItsPageWithItsEditors) {
   for (const TRegistration& row : registry_.Rows())
     if (row.Package == this) own.push_back(&row);
   ASSERT_GE(own.size(), 2u);
-  EXPECT_EQ(own[0]->Kind, TRegistrationKind::Components);
-  EXPECT_EQ(own[0]->PageOrCategory, QStringLiteral("VRX Ext"));
-  ASSERT_EQ(own[0]->Classes.size(), 1u);
-  EXPECT_EQ(own[0]->Classes[0]->ClassName(), "TVRXLEDLabel");
+  const auto page = std::find_if(own.begin(), own.end(), [](const TRegistration* row) {
+    return row->Kind == TRegistrationKind::Components && row->PageOrCategory == QStringLiteral("VRX Ext");
+  });
+  ASSERT_NE(page, own.end());
+  const auto& classes = (*page)->Classes;
+  EXPECT_EQ(std::count(classes.begin(), classes.end(), &TVRXLEDLabel::StaticClass()), 1);
   const auto editor = std::find_if(own.begin(), own.end(), [](const TRegistration* row) {
     return row->Kind == TRegistrationKind::PropertyEditor && row->PropertyEditor->Name == "TVRXLEDProperty";
   });
@@ -173,6 +176,73 @@ TEST_F(Registering, ThePackagePutsTheLedLabelOnItsPageWithItsEditors) {
   EXPECT_EQ((*editor)->ComponentClass, nullptr);
   EXPECT_TRUE((*editor)->PropertyName.isEmpty());
   EXPECT_EQ((*editor)->Procedure, "VRX_RegMain");
+}
+
+namespace {
+// Whether all words stand in the text, in this order.
+bool InOrder(const QString& text, const char* words) {
+  qsizetype at = 0;
+  for (const QString& word : QString::fromLatin1(words).split(u' ')) {
+    at = text.indexOf(word + u' ', at);
+    if (at < 0) return false;
+    at += word.size();
+  }
+  return true;
+}
+}  // namespace
+
+TEST_F(Registering, ShapesLightsSwitchesAndLinesStandAtTheirPlacesWithTheirEditors) {
+  {
+    const RegistrationScope scope(registry_, this, "VRX_RegMain");
+    VRX_RegMain::Register();
+  }
+  {
+    const RegistrationScope scope(registry_, this, "VRX_RegMainEditors");
+    VRX_RegMainEditors::Register();
+  }
+  const QStringList calls = Calls();
+  QStringList pages;
+  for (const QString& call : calls)
+    if (call.startsWith(QStringLiteral("page "))) pages << call + u' ';
+  ASSERT_EQ(pages.size(), 4);
+  EXPECT_TRUE(InOrder(pages[0], "Std: TVRXStaticText"));
+  EXPECT_TRUE(InOrder(pages[1],
+                      "Ext: TVRXClock TVRXTechnicalLine TVRXClock TVRXLEDLabel TVRXSwitch TVRXWSwitch "
+                      "TVRXLight"));
+  EXPECT_TRUE(InOrder(pages[2],
+                      "Form: TVRXForm TVRXBack TVRXFormFill TVRXFormStyler TVRXFormShadow TVRXFormShape "
+                      "TVRXSysMenu TVRXCaptionButtons"));
+  EXPECT_TRUE(InOrder(pages[3],
+                      "MM: TVRXLabelFill TVRXScrollText TVRX3DEffectButton TVRXHiTimer TVRXShapeControl "
+                      "TVRXRepeatedShape TVRXAniCtrl TVRXWndButtonShape"));
+  qsizetype last = -1;
+  for (const char* call : {"TVRXLEDCustomLabel by TVRXLEDLabelComponentEditor",
+                           "TVRXClock by TVRXClockComponentEditor",
+                           "TVRXTechnicalLine by TVRXTechnicalLineComponentEditor",
+                           "TVRXCustomSwitch by TVRXSwitchComponentEditor",
+                           "TVRXLightColor any. by TVRXLightColorProperty",
+                           "TVRXCustomLight by TVRXLightComponentEditor",
+                           "TVRXFill by TVRXFillComponentEditor",
+                           "TVRXFormStyler by TVRXFormStylerComponentEditor",
+                           "TVRXCustomFormFill by TVRXFormFillComponentEditor",
+                           "TVRXFormShadow by TVRXShadowComponentEditor",
+                           "TVRXFormShape by TVRXFormShapeComponentEditor",
+                           "TVRXAniCtrl by TVRXAniCtrlComponentEditor",
+                           "TVRXCustomLabelFill by TVRXLabelFillComponentEditor",
+                           "TVRXBaseShape by TVRXCustomShapeComponentEditor",
+                           "TVRXScrollText by TVRXScrollTextComponentEditor",
+                           "TVRXCustom3DButton by TVRXExtGraphicButtonComponentEditor",
+                           "TVRXShadow any. by TVRXShadowProperty",
+                           "TVRXShapeFill any. by TVRXShapeFillProperty",
+                           "TVRXCaption any. by TVRXCaptionProperty",
+                           "TVRXRegionMask any. by TVRXRegionMaskProperty",
+                           "TVRXSimpleBevel any. by TVRXSimpleBevelProperty",
+                           "TVRXShapeType any. by TVRXShapeProperty",
+                           "TVRXTeeth any. by TVRXTeethProperty"}) {
+    const qsizetype at = calls.indexOf(QString::fromLatin1(call));
+    EXPECT_GT(at, last) << call;
+    last = at;
+  }
 }
 
 TEST_F(Registering, UnregisteringLeavesNoRowAndNoClass) {

@@ -1,6 +1,7 @@
 // Bars, sliders and fields with arrows: each shows the values it has.
 #include "VclTest.h"
 #include "rtl/Exceptions.h"
+#include "rtl/PropAccess.h"
 #include "vcl/DateTimePicker.h"
 #include "vcl/Form.h"
 #include "vcl/HeaderControl.h"
@@ -148,4 +149,21 @@ TEST(LabeledEdit, IsAFieldWithALabel) {
   edit.EditLabel()->SetCaption(QStringLiteral("Name"));
   EXPECT_LT(edit.LabelBounds().top(), 0);
   EXPECT_TRUE(edit.PaintExtent().contains(edit.LabelBounds()));
+}
+
+TEST(FloatSpinEdit, StepsByOneUnlessItIsToldOtherwise) {
+  TFloatSpinEdit edit(nullptr);
+  const TPropInfo& step = TFloatSpinEdit::StaticClass().GetProp("Increment");
+  EXPECT_EQ(GetFloatProp(edit, step), 1);
+  EXPECT_FALSE(IsStoredProp(edit, step));
+  SetFloatProp(edit, step, 0.25L);
+  EXPECT_EQ(edit.Increment(), 0.25);
+  EXPECT_TRUE(IsStoredProp(edit, step));
+  ResetProp(edit, step);
+  EXPECT_EQ(edit.Increment(), 1);
+  edit.SetIncrement(0);
+  EXPECT_EQ(edit.Increment(), 1) << "no step is none";
+  for (const char* name : {"MaxValue", "MinValue", "Value"})
+    EXPECT_EQ(GetFloatProp(edit, TFloatSpinEdit::StaticClass().GetProp(name)), 0) << name;
+  EXPECT_EQ(edit.Get(TFloatSpinEdit::DecimalPlaces), 2);
 }

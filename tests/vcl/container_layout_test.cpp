@@ -156,27 +156,34 @@ TEST(ScrollBoxLayout, ItsBorderLiesOutsideOfTheSurface) {
   EXPECT_EQ(R(b), QRect(0, 0, 200, 100));
 }
 
+namespace {
+// The bars on a form of 400 by 300, one after the other.
+template <class... B>
+struct Bars {
+  TForm form{nullptr};
+  std::tuple<B*...> bars{new B(&form)...};
+  Bars() {
+    form.SetSizeIsClient(true);
+    form.SetBounds(0, 0, 400, 300);
+    (std::get<B*>(bars)->SetParent(&form), ...);
+  }
+  template <class T>
+  T& Get() {
+    return *std::get<T*>(bars);
+  }
+};
+}  // namespace
+
 TEST(BarLayout, BarsStandAtTheirEdgeFromTheBeginning) {
-  TForm form(nullptr);
-  form.SetSizeIsClient(true);
-  form.SetBounds(0, 0, 400, 300);
-  TStatusBar status(&form);
-  status.SetParent(&form);
-  TToolBar tools(&form);
-  tools.SetParent(&form);
-  TSplitter splitter(&form);
-  splitter.SetParent(&form);
-  EXPECT_EQ(R(status), QRect(0, 281, 400, 19));
-  EXPECT_EQ(R(tools), QRect(0, 0, 400, 29));
-  EXPECT_EQ(R(splitter), QRect(0, 29, 3, 252));
+  Bars<TStatusBar, TToolBar, TSplitter> s;
+  EXPECT_EQ(R(s.Get<TStatusBar>()), QRect(0, 281, 400, 19));
+  EXPECT_EQ(R(s.Get<TToolBar>()), QRect(0, 0, 400, 29));
+  EXPECT_EQ(R(s.Get<TSplitter>()), QRect(0, 29, 3, 252));
 }
 
 TEST(BarLayout, ASplitterTurnsWithItsDirection) {
-  TForm form(nullptr);
-  form.SetSizeIsClient(true);
-  form.SetBounds(0, 0, 400, 300);
-  TSplitter splitter(&form);
-  splitter.SetParent(&form);
+  Bars<TSplitter> s;
+  auto& splitter = s.Get<TSplitter>();
   splitter.SetDirection(TAlign::alBottom);
   EXPECT_EQ(R(splitter), QRect(0, 297, 400, 3));
   EXPECT_EQ(static_cast<int>(splitter.Cursor()), -15);

@@ -31,9 +31,11 @@ QList<TListViewItem> SomeItems(unsigned seed, const TListItemsLayout& layout) {
     item.StateIndex = Below(random, 3);
     if (layout.overlay) item.OverlayIndex = Below(random, 3) + 4;
     if (layout.group) item.GroupID = Below(random, 3) + 7;
+    if (layout.data > 0) item.Data = static_cast<quint64>(Below(random, 90000));
     for (int s = Below(random, 4); s > 0; --s) {
       item.SubItems << Word(random, plain);
       if (layout.images > 0) item.SubItemImages << Below(random, 5) - 1;
+      if (layout.pointer > 0) item.SubItemData << static_cast<quint64>(Below(random, 900) + 1);
     }
     items << item;
   }
@@ -49,6 +51,7 @@ TTreeNodeList SomeNodes(std::mt19937& random, const TTreeNodesLayout& layout, in
     node.StateIndex = Below(random, 9);
     if (layout.expandedImage) node.ExpandedImageIndex = Below(random, 9);
     if (layout.enabled) node.Enabled = Below(random, 2) != 0;
+    if (layout.data > 0) node.Data = static_cast<quint64>(Below(random, 90000));
     if (layout.key == TTreeNodesKey::LclData) {
       node.Expanded = Below(random, 2) != 0;
       node.Height = 18;
@@ -223,4 +226,20 @@ TEST(TreeNodes, DamagedBytesAreKeptAndTold) {
   EXPECT_TRUE(nodes.Nodes().empty());
   EXPECT_FALSE(nodes.Problem().isEmpty());
   EXPECT_EQ(GetBinaryProp(nodes, data), Hex("030200"));
+}
+
+TEST(ListItems, AnImageOfASubitemIsKeptWhereTheFileHadNoRoomForOne) {
+  using enum TListItemsKey;
+  for (const TListItemsLayout& layout : {TListItemsLayout{ItemData, 5, true, true, 4, 4, 0},
+                                         TListItemsLayout{LazData, 0, true, false, 0, 0, 0}}) {
+    TListItems list;
+    QList<TListViewItem> items{{.Caption = QStringLiteral("a"), .SubItems = {QStringLiteral("b")}}};
+    const char* name = layout.key == ItemData ? "ItemData" : "LazData";
+    SetBinaryProp(list, list.ClassType().GetProp(name), WriteListItems(layout, items));
+    items[0].SubItemImages = {3};
+    list.SetItems(items);
+    const auto read = ReadListItems(layout.key, GetBinaryProp(list, list.ClassType().GetProp(name)));
+    ASSERT_TRUE(read) << name;
+    EXPECT_EQ(read->items, items) << name;
+  }
 }

@@ -108,3 +108,18 @@ TEST(Labeled, TheTextFollowsTheNameUntilSomebodyChangesIt) {
   panel->SetName(QStringLiteral("Panel2"));
   EXPECT_EQ(panel->EditLabel()->Caption(), QStringLiteral("Amount"));
 }
+
+TEST(Labeled, TheSizeThatAFileGivesTheLabelIsKeptAndChangesNothing) {
+  Scene s;
+  TBoundLabel& label = *s.panel.EditLabel();
+  const QRect place = s.panel.LabelBounds();
+  for (const auto& [name, value] : {std::pair("Width", 53), std::pair("Height", 13)}) {
+    const TPropInfo& property = TBoundLabel::StaticClass().GetProp(name);
+    EXPECT_EQ(property.Visibility, TPropVisibility::Streamed) << name;
+    EXPECT_FALSE(IsStoredProp(label, property)) << "not in a new form";
+    SetOrdProp(label, property, value);
+    EXPECT_EQ(GetOrdProp(label, property), value);
+    EXPECT_TRUE(IsStoredProp(label, property)) << name;
+  }
+  EXPECT_EQ(s.panel.LabelBounds(), place);
+}

@@ -153,7 +153,12 @@ TEST(AutoSize, AWrappedLabelGrowsDownwards) {
 
 TEST(AutoSize, AcceleratorMarksTakeNoRoom) {
   TFont font;
-  EXPECT_EQ(TextExtent(QStringLiteral("&File"), font), TextExtent(QStringLiteral("File"), font));
+  EXPECT_EQ(TextExtent(QStringLiteral("&File"), font, Qt::TextShowMnemonic),
+            TextExtent(QStringLiteral("File"), font));
+  TLabel plain(nullptr), marked(nullptr);
+  plain.SetCaption(QStringLiteral("File"));
+  marked.SetCaption(QStringLiteral("&File"));
+  EXPECT_EQ(marked.Width(), plain.Width());
 }
 
 TEST(AutoSize, AnEmptyLabelKeepsItsHeight) {

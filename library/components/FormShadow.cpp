@@ -1,0 +1,23 @@
+#include "library/components/FormShadow.h"
+
+const TClass& TVRXFormShadow::StaticClass() {
+  static const TClass cls(DescribeClass<TVRXFormShadow>("TVRXFormShadow", TFormDecor::StaticClass())
+                              .Published(Enabled)
+                              .Doc(QStringLiteral("Whether the form has a shadow."))
+                              .Published(ShadowPart)
+                              .Doc(QStringLiteral("Colour and depth of the shadow."))
+                              .Published(ShowInActive)
+                              .Doc(QStringLiteral("Whether the shadow stays while another form is active."))
+                              .ClassDoc(QStringLiteral("Gives the form a shadow."),
+                                        "pen none brush accent box 7 8 14.5 13 2 pen line 1.5 brush fill box "
+                                        "3 4 15 13 2 path 3 8 18 8"));
+  return cls;
+}
+
+TVRXFormShadow::TVRXFormShadow(TComponent* owner) : TFormDecor(owner) {}
+
+QMargins TVRXFormShadow::Around(bool active) const { return Shows(active) ? Shadow()->Room() : QMargins(); }
+
+void TVRXFormShadow::PaintAround(TCanvas& canvas, const QPainterPath& outline, bool active) const {
+  if (Shows(active)) Shadow()->Draw(canvas, outline);
+}

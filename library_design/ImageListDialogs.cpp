@@ -1,0 +1,134 @@
+#include "library_design/ImageListDialogs.h"
+
+#include <QtWidgets>
+
+#include "dclstd/EditValue.h"
+#include "library_design/Named.h"
+#include "library_design/pVRXCommon.h"
+#include "rtl/PropAccess.h"
+
+TVRXImageListDlg::TVRXImageListDlg(QWidget* owner) : RowDialog(QStringLiteral("Select ImageList"), owner) {
+  auto* grid = new QGridLayout;
+  RowsInto(*grid);
+  Row(lists, "lists", "", "&ImageList:", "The image lists of the form.")
+      .Changes(&TVRXImageListDlg::listChange);
+  static constexpr const char* names[] = {"images", "images2"};
+  for (int i = 0; i < 2; ++i) {
+    images[i] = Named(new QListWidget(this), names[i], "A click chooses the picture, another one none.");
+    images[i]->setAccessibleName(i == 0 ? QStringLiteral("Picture") : QStringLiteral("Second picture"));
+    images[i]->setViewMode(QListView::IconMode);
+    images[i]->setMovement(QListView::Static);
+    images[i]->setResizeMode(QListView::Adjust);
+    images[i]->setMinimumSize(320, 110);
+    Wide({images[i]});
+    Follows(images[i]);
+    connect(images[i], &QListWidget::itemDoubleClicked, this, &QDialog::accept);
+  }
+  facts = QuietLine(this, "facts");
+  Wide({facts});
+  OkButton(ok, "ok");
+  CancelButton(cancel, "cancel");
+  auto* buttons = new QHBoxLayout;
+  buttons->addStretch(1);
+  buttons->addWidget(ok);
+  buttons->addWidget(cancel);
+  auto* box = new QVBoxLayout(this);
+  box->addLayout(grid, 1);
+  box->addLayout(buttons);
+  VRXSetThemeMode(*this, 1);
+  SetTabSequence();
+  FormCreate();
+  images[1]->hide();
+  ShowImages({-1, -1});
+}
+
+void TVRXImageListDlg::SetLists(const std::vector<TCustomImageList*>& all, const TCustomImageList* current,
+                                const std::vector<int>& indexes) {
+  const QSignalBlocker quiet(lists);
+  all_ = all;
+  count_ = indexes.size();
+  images[1]->setVisible(count_ > 1);
+  lists->clear();
+  for (const TCustomImageList* list : all_)
+    lists->addItem(list ? QStringLiteral("%1 (%2)").arg(list->Name()).arg(list->Count()) : tr("(none)"));
+  const auto at = std::find(all_.begin(), all_.end(), current);
+  lists->setCurrentIndex(at == all_.end() ? 0 : static_cast<int>(at - all_.begin()));
+  std::vector<int> both = indexes;
+  both.resize(2, -1);
+  ShowImages(both);
+}
+
+TCustomImageList* TVRXImageListDlg::List() const {
+  const auto row = static_cast<std::size_t>(lists->currentIndex());
+  return row < all_.size() ? all_[row] : nullptr;
+}
+
+std::vector<int> TVRXImageListDlg::Indexes() const {
+  std::vector<int> indexes;
+  for (std::size_t i = 0; i < count_; ++i) indexes.push_back(images[i]->currentRow());
+  return indexes;
+}
+
+void TVRXImageListDlg::ShowImages(std::vector<int> selected) {
+  const TCustomImageList* list = List();
+  const int count = list ? list->Count() : 0;
+  for (std::size_t i = 0; i < 2; ++i) {
+    const QSignalBlocker quiet(images[i]);
+    images[i]->clear();
+    if (list)
+      images[i]->setIconSize(QSize(list->Get(TCustomImageList::Width), list->Get(TCustomImageList::Height))
+                                 .boundedTo(QSize(64, 64)));
+    for (int n = 0; n < count; ++n)
+      images[i]->addItem(new QListWidgetItem(QIcon(QPixmap::fromImage(list->Image(n))), QString::number(n)));
+    images[i]->setCurrentRow(selected[i] < count ? selected[i] : -1);
+  }
+  facts->setText(
+      all_.empty() || (all_.size() == 1 && !all_[0]) ? tr("The form has no image list.")
+      : !list                                        ? QString()
+      : count == 0                                   ? tr("The image list is empty.")
+                   : tr("%n pictures", nullptr, count).replace(QStringLiteral("%n"), QString::number(count)));
+}
+
+namespace {
+bool Choose(IDesigner& designer, TCustomImageList*& list, std::vector<int>& indexes) {
+  std::vector<TCustomImageList*> lists{nullptr};
+  designer.GetComponentNames(TCustomImageList::StaticClass(), [&](const QString& name) {
+    if (auto* found = As<TCustomImageList>(designer.GetComponent(name))) lists.push_back(found);
+  });
+  TVRXImageListDlg dialog(ApplicationOwner());
+  dialog.SetLists(lists, list, indexes);
+  dialog.SetLabels();
+  if (dialog.ShowModal() != mrOk) return false;
+  list = dialog.List();
+  indexes = dialog.Indexes();
+  return true;
+}
+}  // namespace
+
+bool VRXCPGetIML(IDesigner& designer, TCustomImageList*& list, int& index) {
+  std::vector<int> indexes{index};
+  if (!Choose(designer, list, indexes)) return false;
+  index = indexes[0];
+  return true;
+}
+
+bool VRXCPGetIMLExt(IDesigner& designer, TCustomImageList*& list, int& index0, int& index1) {
+  std::vector<int> indexes{index0, index1};
+  if (!Choose(designer, list, indexes)) return false;
+  index0 = indexes[0];
+  index1 = indexes[1];
+  return true;
+}
+
+bool VRXCPGetImageListOf(TComponent& component, const char* property, IDesigner& designer) {
+  const TClass& cls = component.ClassType();
+  const TPropInfo& reference = cls.GetProp(property);
+  const TPropInfo* const image = cls.FindProp("ImageIndex");
+  auto* list = static_cast<TCustomImageList*>(GetObjectProp(component, reference));
+  int index = image ? static_cast<int>(GetOrdProp(component, *image)) : -1;
+  const auto before = std::pair(list, index);
+  if (!VRXCPGetIML(designer, list, index) || before == std::pair(list, index)) return false;
+  SetObjectProp(component, reference, list);
+  if (image) SetOrdProp(component, *image, index);
+  return true;
+}

@@ -1,0 +1,34 @@
+// Component editors of what changes forms, of clocks, of running texts and pictures.
+#pragma once
+#include "library/components/FormFill.h"
+#include "library/components/FormShadow.h"
+#include "library/components/FormShape.h"
+#include "library/components/FormStyler.h"
+#include "library/components/ShapeHint.h"
+#include "library/controls/AniCtrl.h"
+#include "library/controls/Clock.h"
+#include "library/controls/FillControl.h"
+#include "library/controls/LabelFill.h"
+#include "library/controls/ScrollText.h"
+#include "library_design/VerbEditor.h"
+
+VRX_VERB_EDITOR(TVRXClockComponentEditor, TVRXClock);
+VRX_VERB_EDITOR(TVRXFillComponentEditor, TVRXFill);
+VRX_VERB_EDITOR(TVRXFormFillComponentEditor, TVRXCustomFormFill);
+VRX_VERB_EDITOR(TVRXFormStylerComponentEditor, TVRXFormStyler);
+VRX_VERB_EDITOR(TVRXShapeHintComponentEditor, TVRXCustomShapeHint);
+VRX_VERB_EDITOR(TVRXShadowComponentEditor, TVRXFormShadow);
+VRX_VERB_EDITOR(TVRXFormShapeComponentEditor, TVRXFormShape);
+VRX_VERB_EDITOR(TVRXScrollTextComponentEditor, TVRXScrollText);
+
+// What editors of pictures and of labels have in common; their descendants' verbs stand behind.
+VRX_VERB_EDITOR(TVRXCustomLImageComponentEditor, TVRXCustomLImage);
+VRX_VERB_EDITOR(TVRXLabelComponentEditor, TVRXCustomLabel);
+using TVRXLImageEditorBase = TVerbEditor<TVRXAniCtrl, TVRXCustomLImageComponentEditor, TOwnVerbs::Last>;
+class TVRXAniCtrlComponentEditor : public TVRXLImageEditorBase {
+  VRX_VERB_TABLE(TVRXAniCtrlComponentEditor)
+};
+using TVRXLabelEditorBase = TVerbEditor<TVRXCustomLabelFill, TVRXLabelComponentEditor, TOwnVerbs::Last>;
+class TVRXLabelFillComponentEditor : public TVRXLabelEditorBase {
+  VRX_VERB_TABLE(TVRXLabelFillComponentEditor)
+};

@@ -1,0 +1,527 @@
+// Forms with an ancestor and forms with frames: what they inherit is there, is edited as differences, and is
+// never written to where it comes from.
+#include "SessionTest.h"
+#include "ide/FormFolder.h"
+#include "ide/UnitText.h"
+#include "ide/operations/FormText.h"
+#include "ide/operations/Places.h"
+#include "rtl/PropAccess.h"
+#include "rtl/PropText.h"
+#include "vcl/GroupBox.h"
+
+namespace ide {
+namespace {
+const QByteArray Base = R"(object Base: TBase
+  Left = 3
+  Top = 4
+  Caption = 'Base'
+  ClientHeight = 300
+  ClientWidth = 400
+  OnCreate = FormCreate
+  object Panel1: TPanel
+    Left = 10
+    Top = 20
+    Width = 200
+    Height = 100
+    Caption = ''
+    TabOrder = 0
+    object Button1: TButton
+      Left = 8
+      Top = 9
+      Width = 75
+      Height = 25
+      Caption = 'Go'
+      Enabled = False
+      TabOrder = 0
+    end
+    object Box1: TMysteryBox
+      Left = 100
+      Top = 9
+      Width = 60
+      Height = 25
+    end
+  end
+  object Label1: TLabel
+    Left = 240
+    Top = 16
+    Width = 60
+    Height = 15
+    Caption = 'Of the base'
+    FocusControl = Button1
+  end
+  object Timer1: TTimer
+    Interval = 250
+    Left = 320
+    Top = 200
+  end
+end
+)";
+
+const QByteArray Derived = R"(inherited Derived: TDerived
+  Caption = 'Derived'
+  object Extra: TButton
+    Left = 240
+    Top = 60
+    Width = 75
+    Height = 25
+    Caption = 'Extra'
+    TabOrder = 1
+  end
+end
+)";
+
+const QByteArray Unit = R"(unit Derived;
+// TDerived = class(TNever)
+{ TDerived = class(TNever) } (* TDerived = class(TNever) *)
+const S = 'TDerived = class(TNever)';
+type
+  TDerived = class;
+  tderived = CLASS(BaseUnit.TBase, IOther)
+  end;
+end.
+)";
+
+const QByteArray Frame = R"(object Head: THead
+  Left = 0
+  Top = 0
+  Width = 160
+  Height = 80
+  TabOrder = 0
+  object Title: TLabel
+    Left = 4
+    Top = 5
+    Width = 50
+    Height = 15
+    Caption = 'Title'
+    FocusControl = Field
+  end
+  object Field: TButton
+    Left = 4
+    Top = 30
+    Width = 75
+    Height = 25
+    Caption = 'Field'
+    TabOrder = 0
+  end
+end
+)";
+
+const QByteArray Host = R"(object Host: THost
+  Left = 0
+  Top = 0
+  ClientHeight = 300
+  ClientWidth = 400
+  inline Head1: THead
+    Left = 10
+    Top = 12
+    Width = 160
+    Height = 80
+    TabOrder = 0
+  end
+  inline Head2: THead
+    Left = 10
+    Top = 112
+    Width = 160
+    Height = 80
+    TabOrder = 1
+    inherited Field: TButton
+      Caption = 'Other'
+    end
+  end
+end
+)";
+
+class AncestorTest : public testing::Test {
+ protected:
+  void SetUp() override {
+    RegisterAll();
+    Write("Base.dfm", Base);
+    Write("Derived.dfm", Derived);
+    Write("Derived.pas", Unit);
+    Write("Head.dfm", Frame);
+    Write("Host.dfm", Host);
+  }
+  QString Path(const char* name) const { return folder_.filePath(QString::fromLatin1(name)); }
+  void Write(const char* name, const QByteArray& bytes) const {
+    QFile file(Path(name));
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly | QIODevice::Truncate));
+    ASSERT_EQ(file.write(bytes), bytes.size());
+  }
+  QByteArray Read(const char* name) const {
+    QFile file(Path(name));
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("no such file");
+  }
+  std::unique_ptr<FormSession> Open(const char* name) const { return FormSession::Open(Path(name)); }
+  static TControl& Control(const FormSession& session, const char* name) {
+    return dynamic_cast<TControl&>(*session.GetComponent(QString::fromLatin1(name)));
+  }
+  static TControl& Inside(const FormSession& session, const char* frame, const char* name) {
+    return dynamic_cast<TControl&>(*Control(session, frame).FindComponent(QString::fromLatin1(name)));
+  }
+  // The lines that the edit changes; undoing it gives the very bytes, and the file it makes says the same.
+  std::string Edited(FormSession& session, const std::function<void()>& edit) {
+    const QByteArray before = session.Bytes();
+    const std::string stateBefore = StateOf(session);
+    session.Run(QStringLiteral("edit"), {}, edit);
+    const QByteArray after = session.Bytes();
+    const std::string stateAfter = StateOf(session);
+    for (int round = 0; round < 2; ++round) {
+      session.Undo();
+      EXPECT_EQ(session.Bytes(), before);
+      EXPECT_EQ(StateOf(session), stateBefore);
+      session.Redo();
+      EXPECT_EQ(session.Bytes(), after);
+      EXPECT_EQ(StateOf(session), stateAfter);
+    }
+    EXPECT_EQ(StateOf(*FormSession::FromBytes(after, session.FileName())), stateAfter);
+    return ChangedLines(before, after).join('|').toStdString();
+  }
+  static QStringList Texts(const FormSession& session) {
+    QStringList texts;
+    for (const forms::Finding& f : session.Findings())
+      if (f.missingFile) texts << f.text;
+    return texts;
+  }
+  QTemporaryDir folder_;
+};
+}  // namespace
+
+TEST_F(AncestorTest, AnInheritedFormHasWhatItsAncestorHas) {
+  const auto session = Open("Derived.dfm");
+  EXPECT_EQ(Texts(*session), QStringList());
+  EXPECT_EQ(session->Form().Caption(), QStringLiteral("Derived"));
+  EXPECT_EQ(session->Form().ClientWidth(), 400);
+  EXPECT_EQ(session->Form().Left(), 3);
+  TControl& button = Control(*session, "Button1");
+  EXPECT_EQ(button.BoundsRect(), QRect(8, 9, 75, 25));
+  EXPECT_EQ(button.Caption(), QStringLiteral("Go"));
+  EXPECT_FALSE(button.Enabled());
+  EXPECT_EQ(button.Parent(), &Control(*session, "Panel1"));
+  EXPECT_EQ(dynamic_cast<TLabel&>(Control(*session, "Label1")).FocusControl(), &button);
+  EXPECT_EQ(Control(*session, "Box1").StreamClassName(), QByteArray("TMysteryBox"));
+  EXPECT_EQ(Control(*session, "Box1").Width(), 60);
+  EXPECT_EQ(Control(*session, "Extra").Parent(), &session->Form());
+}
+
+TEST_F(AncestorTest, OpeningAndSavingWritesNothing) {
+  for (const char* name : {"Derived.dfm", "Host.dfm"}) {
+    const QByteArray bytes = Read(name);
+    const auto session = Open(name);
+    EXPECT_EQ(session->Bytes(), bytes);
+    EXPECT_FALSE(session->IsModified());
+    session->Save();
+    EXPECT_EQ(Read(name), bytes);
+  }
+  EXPECT_EQ(Read("Base.dfm"), Base);
+  EXPECT_EQ(Read("Head.dfm"), Frame);
+}
+
+TEST_F(AncestorTest, AnEditOfWhatIsInheritedIsWrittenInsideOfItsInheritedParents) {
+  const auto session = Open("Derived.dfm");
+  TControl& button = Control(*session, "Button1");
+  EXPECT_EQ(Edited(*session, [&] { button.SetCaption(QStringLiteral("Stop")); }),
+            "+inherited Panel1: TPanel|+inherited Button1: TButton|+Caption = 'Stop'|+end|+end");
+  session->Save();
+  EXPECT_EQ(Control(*Open("Derived.dfm"), "Button1").Caption(), QStringLiteral("Stop"));
+  EXPECT_EQ(Read("Base.dfm"), Base);
+}
+
+TEST_F(AncestorTest, MovingWritesThePlaceThatDiffers) {
+  const auto session = Open("Derived.dfm");
+  TControl& label = Control(*session, "Label1");
+  EXPECT_EQ(Edited(*session,
+                   [&] {
+                     SetPlace(label, {240, 24, 60, 15});
+                   }),
+            "+inherited Label1: TLabel|+Top = 24|+end");
+  EXPECT_EQ(Edited(*session, [&] { Control(*session, "Box1").SetLeft(101); }),
+            "+inherited Panel1: TPanel|+inherited Box1: TMysteryBox|+Left = 101|+end|+end");
+  TComponent& timer = *session->GetComponent(QStringLiteral("Timer1"));
+  EXPECT_EQ(Edited(*session, [&] { SetOrdProp(timer, timer.ClassType().GetProp("Interval"), 99); }),
+            "+inherited Timer1: TTimer|+Interval = 99|+end");
+}
+
+TEST_F(AncestorTest, WhatTheAncestorHasIsLeftOutAndTheClassDefaultIsNot) {
+  const auto session = Open("Derived.dfm");
+  TControl& button = Control(*session, "Button1");
+  EXPECT_EQ(Edited(*session, [&] { button.SetEnabled(true); }),
+            "+inherited Panel1: TPanel|+inherited Button1: TButton|+Enabled = True|+end|+end");
+  EXPECT_EQ(Edited(*session, [&] { button.SetEnabled(false); }),
+            "-inherited Panel1: TPanel|-inherited Button1: TButton|-Enabled = True|-end|-end");
+  EXPECT_EQ(session->Bytes(), Derived);
+  EXPECT_EQ(Edited(*session, [&] { session->Form().SetCaption(QStringLiteral("Base")); }),
+            "-Caption = 'Derived'");
+}
+
+TEST_F(AncestorTest, WhatIsInheritedIsNeitherDeletedNorRenamed) {
+  const auto session = Open("Derived.dfm");
+  TControl& button = Control(*session, "Button1");
+  for (TComponent* c : {static_cast<TComponent*>(&button), session->GetComponent(QStringLiteral("Panel1"))}) {
+    try {
+      session->DeleteComponents({c});
+      ADD_FAILURE();
+    } catch (const Exception& e) {
+      EXPECT_EQ(e.Message(),
+                c->Name() + QStringLiteral(" comes from the ancestor form and cannot be deleted here."));
+    }
+  }
+  try {
+    session->Rename(button, QStringLiteral("Other"));
+    ADD_FAILURE();
+  } catch (const Exception& e) {
+    EXPECT_EQ(e.Message(),
+              QStringLiteral("Button1 comes from the ancestor form and cannot be renamed here."));
+  }
+  EXPECT_EQ(button.Name(), QStringLiteral("Button1"));
+  EXPECT_EQ(session->Bytes(), Derived);
+  EXPECT_FALSE(session->CanUndo());
+  session->Rename(session->Form(), QStringLiteral("Second"));
+  session->Rename(Control(*session, "Extra"), QStringLiteral("More"));
+  EXPECT_EQ(session->Form().Name(), QStringLiteral("Second"));
+}
+
+TEST_F(AncestorTest, ARenamedFormStillKnowsItsAncestor) {
+  const auto session = Open("Derived.dfm");
+  session->Rename(session->Form(), QStringLiteral("Second"));
+  const QByteArray renamed = session->Bytes();
+  TControl& button = Control(*session, "Button1");
+  session->Run(QStringLiteral("edit"), {}, [&] { button.SetEnabled(true); });
+  session->Run(QStringLiteral("edit"), {}, [&] { button.SetEnabled(false); });
+  EXPECT_EQ(session->Bytes(), renamed);
+  session->Rebuild();
+  EXPECT_EQ(Texts(*session), QStringList());
+  EXPECT_EQ(Control(*session, "Button1").Caption(), QStringLiteral("Go"));
+}
+
+TEST_F(AncestorTest, ANewComponentInAnInheritedContainerBringsItsBlock) {
+  const auto session = Open("Derived.dfm");
+  session->CreateComponent(TLabel::StaticClass(), &Control(*session, "Panel1"), QRect(5, 50, 40, 20));
+  const std::string lines = ChangedLines(Derived, session->Bytes()).join('|').toStdString();
+  EXPECT_EQ(lines.find("+inherited Panel1: TPanel|+object Label2: TLabel"), 0u) << lines;
+  session->Undo();
+  EXPECT_EQ(session->Bytes(), Derived);
+  session->Redo();
+  EXPECT_EQ(StateOf(*FormSession::FromBytes(session->Bytes(), session->FileName())), StateOf(*session));
+}
+
+TEST_F(AncestorTest, WhatTheFormSaysOfAnInheritedComponentComesAfterTheAncestor) {
+  Write(
+      "Derived.dfm",
+      "inherited Derived: TDerived\n  ClientWidth = 500\n  inherited Label1: TLabel\n    Left = 250\n  end\n"
+      "  inherited Panel1: TPanel\n    inherited Button1: TButton\n      Caption = 'Mine'\n    end\n  "
+      "end\nend\n");
+  const auto session = Open("Derived.dfm");
+  EXPECT_EQ(Control(*session, "Label1").BoundsRect(), QRect(250, 16, 60, 15));
+  EXPECT_EQ(Control(*session, "Button1").BoundsRect(), QRect(8, 9, 75, 25));
+  EXPECT_EQ(Control(*session, "Button1").Caption(), QStringLiteral("Mine"));
+  EXPECT_EQ(session->Form().ClientWidth(), 500);
+  EXPECT_EQ(session->AllComponents().size(), 6u);
+  EXPECT_EQ(session->Bytes(), Read("Derived.dfm"));
+}
+
+TEST_F(AncestorTest, AFrameShowsItsPartsUnderNamesOfTheirOwn) {
+  const auto session = Open("Host.dfm");
+  EXPECT_EQ(Texts(*session), QStringList());
+  EXPECT_EQ(session->GetComponent(QStringLiteral("Field")), nullptr);
+  EXPECT_EQ(Inside(*session, "Head1", "Field").Caption(), QStringLiteral("Field"));
+  EXPECT_EQ(Inside(*session, "Head2", "Field").Caption(), QStringLiteral("Other"));
+  for (const char* frame : {"Head1", "Head2"}) {
+    TControl& field = Inside(*session, frame, "Field");
+    EXPECT_EQ(field.BoundsRect(), QRect(4, 30, 75, 25));
+    EXPECT_EQ(field.Parent(), &Control(*session, frame));
+    EXPECT_EQ(dynamic_cast<TLabel&>(Inside(*session, frame, "Title")).FocusControl(), &field);
+  }
+  EXPECT_EQ(FormPlaceOf(Inside(*session, "Head2", "Title")), QRect(14, 117, 50, 15));
+}
+
+TEST_F(AncestorTest, AnEditInsideOfAFrameIsWrittenThere) {
+  const auto session = Open("Host.dfm");
+  EXPECT_EQ(Edited(*session, [&] { Inside(*session, "Head1", "Title").SetHint(QStringLiteral("Mine")); }),
+            "+inherited Title: TLabel|+Hint = 'Mine'|+end");
+  EXPECT_LT(session->Bytes().indexOf("'Mine'"), session->Bytes().indexOf("Head2"));
+  EXPECT_EQ(Inside(*session, "Head2", "Title").Hint(), QString());
+  EXPECT_EQ(Edited(*session, [&] { Inside(*session, "Head2", "Field").SetCaption(QStringLiteral("Field")); }),
+            "-inherited Field: TButton|-Caption = 'Other'|-end");
+}
+
+TEST_F(AncestorTest, AFrameThatIsDeletedComesBackWithItsParts) {
+  const auto session = Open("Host.dfm");
+  const std::string state = StateOf(*session);
+  session->DeleteComponents({&Control(*session, "Head2")});
+  EXPECT_EQ(session->GetComponent(QStringLiteral("Head2")), nullptr);
+  session->Undo();
+  EXPECT_EQ(StateOf(*session), state);
+  EXPECT_EQ(session->Bytes(), Host);
+}
+
+TEST_F(AncestorTest, AFrameThatIsPastedBringsItsParts) {
+  const auto session = Open("Host.dfm");
+  const QString text = TextOfComponents(*session, {&Control(*session, "Head1")});
+  EXPECT_FALSE(text.contains(QStringLiteral("inherited"))) << text.toStdString();
+  forms::Document objects = ObjectsOfText(text);
+  MakeNamesFree(objects, *session);
+  session->Insert(objects, {{objects.Root().children[0].get(), session->ObjectOf(session->Form())}});
+  EXPECT_EQ(Inside(*session, "Head3", "Field").Caption(), QStringLiteral("Field"));
+  EXPECT_EQ(StateOf(*FormSession::FromBytes(session->Bytes(), session->FileName())), StateOf(*session));
+  session->Undo();
+  EXPECT_EQ(session->Bytes(), Host);
+}
+
+TEST_F(AncestorTest, FramesInAncestorsAndInFramesAreThere) {
+  Write("Base.dfm",
+        QByteArray(Base).replace("  object Timer1: TTimer",
+                                 "  inline Head1: THead\n    Left = 1\n    Top = 130\n    Width = 160\n"
+                                 "    Height = 80\n    TabOrder = 3\n    inherited Title: TLabel\n"
+                                 "      Caption = 'Of the base'\n    end\n  end\n"
+                                 "  object Timer1: TTimer"));
+  Write("Head.dfm",
+        QByteArray(Frame).replace("  object Field: TButton",
+                                  "  inline Deep1: TDeep\n    Left = 80\n    Top = 0\n    Width = 70\n"
+                                  "    Height = 25\n    TabOrder = 1\n  end\n  object Field: TButton"));
+  Write("Deep.dfm",
+        "object Deep: TDeep\n  Width = 70\n  Height = 25\n  TabOrder = 0\n  object Field: TButton\n    Left "
+        "= 2\n    "
+        "Top = 2\n    Width = 50\n    Height = 20\n    Caption = 'Deep'\n    TabOrder = 0\n  end\nend\n");
+  const auto session = Open("Derived.dfm");
+  EXPECT_EQ(Texts(*session), QStringList());
+  EXPECT_EQ(Inside(*session, "Head1", "Title").Caption(), QStringLiteral("Of the base"));
+  EXPECT_EQ(Inside(*session, "Head1", "Field").Caption(), QStringLiteral("Field"));
+  TControl& deep = Inside(*session, "Head1", "Deep1");
+  TControl& field = dynamic_cast<TControl&>(*deep.FindComponent(QStringLiteral("Field")));
+  EXPECT_EQ(field.Caption(), QStringLiteral("Deep"));
+  EXPECT_EQ(Edited(*session, [&] { field.SetCaption(QStringLiteral("Here")); }),
+            "+inherited Head1: THead|+inherited Deep1: TDeep|+inherited Field: TButton|+Caption = "
+            "'Here'|+end|+end|+end");
+}
+
+TEST_F(AncestorTest, AncestorsAreReadInEveryKindOfFile) {
+  const forms::Document base = forms::Document::Parse(Base);
+  for (const forms::Format format : {forms::Format::Binary, forms::Format::Resource}) {
+    Write("Base.dfm", base.WriteAs(format));
+    Write("Derived.dfm", forms::Document::Parse(Derived).WriteAs(format));
+    const QByteArray bytes = Read("Derived.dfm");
+    const auto session = Open("Derived.dfm");
+    EXPECT_EQ(Texts(*session), QStringList());
+    TControl& button = Control(*session, "Button1");
+    EXPECT_EQ(button.BoundsRect(), QRect(8, 9, 75, 25));
+    EXPECT_EQ(session->Bytes(), bytes);
+    session->Run(QStringLiteral("edit"), {}, [&] { button.SetCaption(QStringLiteral("Stop")); });
+    const auto again = FormSession::FromBytes(session->Bytes(), session->FileName());
+    EXPECT_EQ(Control(*again, "Button1").Caption(), QStringLiteral("Stop"));
+    EXPECT_TRUE(again->ObjectOf(Control(*again, "Button1"))->Find("Caption"));
+    session->Undo();
+    EXPECT_EQ(session->Bytes(), bytes);
+  }
+}
+
+TEST_F(AncestorTest, FormsOfTheOtherDialectStandOnThoseOfTheirOwn) {
+  Write("Base.lfm",
+        "object Base: TBase\n  Left = 0\n  Height = 90\n  Top = 0\n  Width = 120\n  ClientHeight = 90\n  "
+        "ClientWidth = 120\n"
+        "  object Only: TButton\n    Left = 7\n    Height = 25\n    Top = 8\n    Width = 75\n    Caption = "
+        "'Only'\n"
+        "    TabOrder = 0\n  end\nend\n");
+  Write("Derived.lfm", "inherited Derived: TDerived\n  Caption = 'Derived'\nend\n");
+  const auto session = Open("Derived.lfm");
+  EXPECT_EQ(session->GetComponent(QStringLiteral("Panel1")), nullptr)
+      << "the .dfm of that class is another one";
+  EXPECT_EQ(session->Form().ClientWidth(), 120);
+  EXPECT_EQ(Edited(*session, [&] { Control(*session, "Only").SetLeft(9); }),
+            "+inherited Only: TButton|+Left = 9|+end");
+}
+
+TEST_F(AncestorTest, WhatIsNotThereIsToldOnceAndTheFormIsShownAsItIs) {
+  QFile::remove(Path("Head.dfm"));
+  QFile::remove(Path("Derived.pas"));
+  const QString folder = QDir(folder_.path()).path();
+  const auto host = Open("Host.dfm");
+  EXPECT_EQ(Texts(*host),
+            QStringList{QStringLiteral("The form file of THead was not found in %1. What comes from "
+                                       "there is not shown.")
+                            .arg(folder)});
+  EXPECT_EQ(host->AllComponents().size(), 4u);
+  EXPECT_EQ(host->Bytes(), Host);
+  const auto derived = Open("Derived.dfm");
+  EXPECT_EQ(Texts(*derived),
+            QStringList{
+                QStringLiteral("TDerived is inherited, but Derived.pas, which says from which class, was not "
+                               "found in %1. What it inherits is not shown.")
+                    .arg(folder)});
+  Write("Derived.pas", "unit Derived; type TOther = class(TBase) end;");
+  EXPECT_TRUE(Texts(*Open("Derived.dfm")).value(0).contains(QStringLiteral("does not say from which class")));
+  Write("Derived.pas", Unit);
+  Write("Base.dfm", "object Base: TBase\n  Caption = \nend\n");
+  EXPECT_TRUE(Texts(*Open("Derived.dfm"))
+                  .value(0)
+                  .contains(QStringLiteral("Base.dfm, which has TBase, cannot be read")));
+}
+
+TEST_F(AncestorTest, FormsWithoutAFileLookForNothing) {
+  const auto session = FormSession::FromBytes(Host);
+  EXPECT_EQ(Texts(*session), QStringList());
+  EXPECT_EQ(session->AllComponents().size(), 4u);
+}
+
+TEST_F(AncestorTest, FilesWithAnotherEndingAreAnotherFrameworks) {
+  QFile::rename(Path("Head.dfm"), Path("Head.lfm"));
+  const auto session = Open("Host.dfm");
+  EXPECT_EQ(Texts(*session).size(), 1);
+  EXPECT_EQ(session->AllComponents().size(), 4u);
+}
+
+TEST_F(AncestorTest, CirclesAreTold) {
+  Write("Head.dfm",
+        QByteArray(Frame).replace("end\nend\n", "end\n  inline Deep1: TDeep\n    Left = 1\n  end\nend\n"));
+  Write("Deep.dfm", "object Deep: TDeep\n  TabOrder = 0\n  inline Head1: THead\n    Left = 1\n  end\nend\n");
+  const auto session = Open("Host.dfm");
+  EXPECT_EQ(Texts(*session).size(), 1);
+  EXPECT_TRUE(
+      Texts(*session).value(0).contains(QStringLiteral("THead stands on itself: THead > TDeep > THead")))
+      << Texts(*session).join(u'|').toStdString();
+  EXPECT_EQ(Inside(*session, "Head1", "Field").Caption(), QStringLiteral("Field"));
+  EXPECT_EQ(session->Bytes(), Host);
+  Write("Head.dfm",
+        QByteArray(Frame).replace("  object Field", "  inline Again: THead\n  end\n  object Field"));
+  EXPECT_TRUE(
+      Texts(*Open("Head.dfm")).value(0).contains(QStringLiteral("THead comes from this form itself")));
+}
+
+TEST_F(AncestorTest, FramesThatDoubleEachOtherEndSomewhere) {
+  for (int i = 0; i < 12; ++i) {
+    QByteArray text = "object F: TF" + QByteArray::number(i) + "\n  TabOrder = 0\n";
+    for (int k = 0; k < 8 && i < 11; ++k)
+      text += "  inline G" + QByteArray::number(k) + ": TF" + QByteArray::number(i + 1) + "\n  end\n";
+    Write(("F" + QByteArray::number(i) + ".dfm").constData(), text + "end\n");
+  }
+  const auto session = Open("F0.dfm");
+  EXPECT_LE(session->AllComponents().size(), 20010u);
+  EXPECT_FALSE(Texts(*session).isEmpty());
+  EXPECT_EQ(session->Bytes(), Read("F0.dfm"));
+}
+
+TEST(FormFolder, TheClassIsReadFromTheHead) {
+  EXPECT_EQ(RootClassOf("\xEF\xBB\xBF  inherited Form2 :  TForm2 [3]\r\n"), "TForm2");
+  EXPECT_EQ(RootClassOf("object TLonely\n"), "TLonely");
+  EXPECT_EQ(RootClassOf("unit Form2;\n"), QByteArray());
+  EXPECT_EQ(RootClassOf(QByteArray("TPF0\xF1\x06TForm2\x05"
+                                   "Form2",
+                                   18)),
+            "TForm2");
+  EXPECT_EQ(RootClassOf(QByteArray("TPF0\x06TForm2\x05"
+                                   "Form2",
+                                   17)),
+            "TForm2");
+  EXPECT_EQ(RootClassOf(QByteArray("TPF0\x40TForm2", 11)), QByteArray());
+  EXPECT_EQ(RootClassOf({}), QByteArray());
+}
+
+TEST(UnitText, TheAncestorIsTheFirstClassInBrackets) {
+  EXPECT_EQ(DeclaredAncestor("type TA=class(TB)end;", "ta"), "TB");
+  EXPECT_EQ(DeclaredAncestor("type TA = class abstract ( U.V.TB , I ) end;", "TA"), "TB");
+  EXPECT_EQ(DeclaredAncestor("type TA = class; TAB = class(TC); TA = class sealed(TB)", "TA"), "TB");
+  EXPECT_EQ(DeclaredAncestor("type TA = class end;", "TA"), QByteArray());
+  EXPECT_EQ(DeclaredAncestor("{ never closed TA = class(TB)", "TA"), QByteArray());
+  EXPECT_EQ(DeclaredAncestor("var TA: TB; x = TA", "TA"), QByteArray());
+}
+
+}  // namespace ide
