@@ -21,7 +21,7 @@ const TClass& TLabel::StaticClass() {
           .Published("Layout", &TLabel::Layout, &TLabel::SetLayout, TTextLayout::tlTop)
           .Publish("Visible")
           .Published("WordWrap", &TLabel::WordWrap, &TLabel::SetWordWrap, false)
-          .PublishAll(MouseEvents, Placement, Direction, Dragging, Styling, WheelEvents, DragEvents,
+          .PublishAll(MouseEvents, Placement, Direction, Dragging, Help, Styling, WheelEvents, DragEvents,
                       "PopupMenu")
           .Passive("EllipsisPosition", TEllipsisPosition::epNone)
           .Passive("GlowSize", 0)

@@ -11,7 +11,7 @@ enum class TLabelPosition : std::uint8_t { lpAbove, lpBelow, lpLeft, lpRight };
 VRX_ENUM(TLabelPosition, {"lpAbove", "lpBelow", "lpLeft", "lpRight"})
 
 // The label. It has the control's font until it is given one.
-class TBoundLabel : public TOwnedPersistent {
+class TBoundLabel : public TKeptPart {
   VRX_CLASS(TBoundLabel)
  public:
   explicit TBoundLabel(TControl* owner);
