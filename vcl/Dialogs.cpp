@@ -4,6 +4,7 @@
 #include "rtl/Strings.h"
 #include "vcl/DialogParts.h"
 #include "vcl/Font.h"
+#include "vcl/Grid.h"
 
 namespace {
 // What each dialog keeps, as a component or inside of an action.
@@ -228,7 +229,7 @@ const TClass& TColorDialogPart::StaticClass() {
 const TClass& TFontDialogPart::StaticClass() {
   static const TClass cls(FontRows(Part<TFontDialogPart>("TFontDialogPart")
                                        .Passive("Device", TFontDialogDevice::fdScreen)
-                                       .Passive<TFont*>("Font")));
+                                       .Passive<TFontChanges*>("Font")));
   return cls;
 }
 const TClass& TPrinterSetupDialogPart::StaticClass() {
