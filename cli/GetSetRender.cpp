@@ -156,6 +156,7 @@ int SetCommand(const QStringList& list, Console& console) {
     QString text;
     QByteArray path;
     Value value;
+    QString formText;
   };
   std::vector<Assignment> assignments;
   std::vector<TComponent*> touched;
@@ -167,7 +168,8 @@ int SetCommand(const QStringList& list, Console& console) {
     QByteArray path;
     TComponent& component = ComponentOf(*session, text.left(equals), path);
     try {
-      assignments.push_back({&component, text, path, TextToValue(text.mid(equals + 1).trimmed().toUtf8())});
+      assignments.push_back({&component, text, path, TextToValue(text.mid(equals + 1).trimmed().toUtf8()),
+                             text.mid(equals + 1).trimmed()});
     } catch (const EFormError& e) {
       throw Exception(QStringLiteral("%1: the value is not form text: %2. Strings are written as '...'.")
                           .arg(text, e.Text()));
@@ -178,6 +180,11 @@ int SetCommand(const QStringList& list, Console& console) {
     for (const Assignment& a : assignments) {
       const PropertyTarget target = FindTarget(*a.component, a.path);
       const bool root = a.component == session->GetRoot();
+      // What no class knows is there all the same when the form says it.
+      if (!target.Found() && session->ObjectOf(*a.component)->Find(a.path)) {
+        session->SetStored(*a.component, a.path, a.formText);
+        continue;
+      }
       if (!target.Found() || (root && !RootHasProperty(session->Form().Kind(), a.path.split('.')[0])))
         throw Exception(QStringLiteral("%1: %2 has no property \"%3\"")
                             .arg(a.component->Name(), QString::fromUtf8(a.component->StreamClassName()),

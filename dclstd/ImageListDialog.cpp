@@ -28,9 +28,19 @@ QImage WithoutColor(QImage image, TColor color) {
   }
   return image;
 }
+// Whether anything of it is transparent; one that could have it may still be opaque.
+bool HasHoles(const QImage& image) {
+  if (!image.hasAlphaChannel()) return false;
+  const QImage plain = image.convertToFormat(QImage::Format_ARGB32);
+  for (int y = 0; y < plain.height(); ++y) {
+    const auto* row = reinterpret_cast<const QRgb*>(plain.constScanLine(y));
+    if (std::any_of(row, row + plain.width(), [](QRgb pixel) { return qAlpha(pixel) != 0xFF; })) return true;
+  }
+  return false;
+}
 // Of a picture that says nothing itself, the lower left pixel's.
 TColor TransparentOf(const QImage& image) {
-  if (image.hasAlphaChannel()) return clNone;
+  if (HasHoles(image)) return clNone;
   return ColorOfPixel(image.pixel(0, image.height() - 1) | 0xFF000000);
 }
 // As it is, with what may be transparent in it.
@@ -155,7 +165,10 @@ void ImageListDialog::LoadControls() {
   stripStale_ = false;
   const std::vector<int> rows = Selected();
   const int count = static_cast<int>(rows.size());
-  facts->setText(tr("%1 pictures of %2 x %3").arg(entries_.size()).arg(size_.width()).arg(size_.height()));
+  facts->setText((entries_.size() == 1 ? tr("%1 picture of %2 x %3") : tr("%1 pictures of %2 x %3"))
+                     .arg(entries_.size())
+                     .arg(size_.width())
+                     .arg(size_.height()));
   width->Show(size_.width());
   height->Show(size_.height());
   transparent->setEnabled(count > 0);

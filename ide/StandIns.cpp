@@ -303,6 +303,7 @@ class Reader {
     return result == clDefault || result == clNone ? std::nullopt : std::optional(result);
   }
   bool Has(QByteArrayView name) const { return object_.Says(name); }
+  bool IsCalled(QByteArrayView ending) const { return EndsWith(object_.className, ending); }
 
  private:
   struct Said {
@@ -331,14 +332,17 @@ QStringList ShownButtons(const Reader& read) {
   static constexpr Row rows[] = {{"pbHelp", "Help"},     {"pbOK", "OK"},         {"pbClose", "Close"},
                                  {"pbCancel", "Cancel"}, {"nbFirst", "|\u25C0"}, {"nbPrior", "\u25C0"},
                                  {"nbNext", "\u25B6"},   {"nbLast", "\u25B6|"},  {"nbInsert", "+"},
-                                 {"nbDelete", "\u2212"}};
+                                 {"nbDelete", "\u2212"}, {"nbEdit", "\u25B2"},   {"nbPost", "\u2713"},
+                                 {"nbCancel", "\u2717"}, {"nbRefresh", "\u21BB"}};
   static const QStringList usual{QStringLiteral("pbHelp"), QStringLiteral("pbOK"), QStringLiteral("pbClose"),
                                  QStringLiteral("pbCancel")};
   static const QStringList browsing{QStringLiteral("nbFirst"),  QStringLiteral("nbPrior"),
                                     QStringLiteral("nbNext"),   QStringLiteral("nbLast"),
-                                    QStringLiteral("nbInsert"), QStringLiteral("nbDelete")};
+                                    QStringLiteral("nbInsert"), QStringLiteral("nbDelete"),
+                                    QStringLiteral("nbEdit"),   QStringLiteral("nbPost"),
+                                    QStringLiteral("nbCancel"), QStringLiteral("nbRefresh")};
   const QStringList shown = read.Elements(
-      "ShowButtons", read.Elements("VisibleButtons", read.Has("DataSource") ? browsing : usual));
+      "ShowButtons", read.Elements("VisibleButtons", read.IsCalled("Navigator") ? browsing : usual));
   QStringList captions;
   for (const Row& row : rows)
     if (shown.contains(QString::fromLatin1(row.element))) captions << QString::fromUtf8(row.caption);
@@ -375,7 +379,7 @@ TStandIn ReadLook(const Reader& read, TStandInLook look) {
   what.index = read.Number("ItemIndex").value_or(-1);
   what.checked = read.True("Checked") || read.Text("State") == QStringLiteral("cbChecked");
   what.columns = std::max(1, read.Number("Columns").value_or(1));
-  for (const char* columns : {"Columns", "Header.Columns"})
+  for (const char* columns : {"Columns", "Header.Columns", "Panels"})
     if (what.headers.empty()) what.headers = read.Columns(columns);
   for (const char* picture : StandInPictures)
     if (!what.picture) what.picture = read.Picture(picture);

@@ -47,6 +47,7 @@ class TUnknownControl : public TWinControl, public IBook {
   bool PaintSurface(TCanvas& canvas) const;
   void PaintHeader(TCanvas& canvas) const;
   void PaintButtons(TCanvas& canvas) const;
+  void PaintPanels(TCanvas& canvas) const;
   void PaintMark(TCanvas& canvas) const;
 
   QByteArray streamClass_;

@@ -204,7 +204,13 @@ bool TUnknownControl::PaintSurface(TCanvas& canvas) const {
       p.fillRect(r, palette.color(QPalette::Window));
       p.setPen(Line());
       if (standIn_.look == ToolBar) p.drawLine(r.bottomLeft(), r.bottomRight());
-      if (standIn_.look == StatusBar) p.drawLine(r.topLeft(), r.topRight());
+      if (standIn_.look == StatusBar) {
+        p.drawLine(r.topLeft(), r.topRight());
+        if (!standIn_.headers.empty() && text.isEmpty()) {
+          PaintPanels(canvas);
+          return true;
+        }
+      }
       PaintText(canvas, r.adjusted(5, 1, -4, 0), Middle, text);
       return !text.isEmpty();
     case Slider: {
@@ -271,6 +277,20 @@ void TUnknownControl::PaintHeader(TCanvas& canvas) const {
   for (const TStandInColumn& c : standIn_.headers) column(c.text, c.width);
   constexpr int Usual = 64;
   while (grid && standIn_.headers.empty() && x < r.width()) column({}, Usual);
+}
+
+// The panels of a bar; the last one reaches to its end.
+void TUnknownControl::PaintPanels(TCanvas& canvas) const {
+  const QRect r = ClientRect().adjusted(0, 1, 0, 0);
+  int x = 0;
+  for (const TStandInColumn& panel : standIn_.headers) {
+    const bool last = &panel == &standIn_.headers.back();
+    const QRect cell = QRect(x, r.top(), last ? r.width() - x : panel.width, r.height()).intersected(r);
+    PaintText(canvas, cell.adjusted(5, 0, -4, 0), Qt::AlignLeft | Qt::AlignVCenter, panel.text);
+    x += panel.width;
+    canvas.Painter().setPen(Line());
+    if (!last && x < r.width()) canvas.Painter().drawLine(x, r.top() + 3, x, r.bottom() - 2);
+  }
 }
 
 void TUnknownControl::PaintButtons(TCanvas& canvas) const {

@@ -11,6 +11,8 @@ namespace {
 constexpr std::array<const char*, 12> ModalResults{"mrNone",  "mrOk",     "mrCancel",   "mrAbort",
                                                    "mrRetry", "mrIgnore", "mrYes",      "mrNo",
                                                    "mrClose", "mrHelp",   "mrTryAgain", "mrContinue"};
+}  // namespace
+
 const TTypeInfo& ModalResultType() {
   static const TTypeInfo& info = []() -> const TTypeInfo& {
     static const TTypeInfo type = OrdinalType("TModalResult", INT32_MIN, INT32_MAX);
@@ -27,7 +29,6 @@ const TTypeInfo& ModalResultType() {
   }();
   return info;
 }
-}  // namespace
 
 const TClass& TButton::StaticClass() {
   static const TClass cls(
@@ -50,18 +51,23 @@ const TClass& TButton::StaticClass() {
                       "PopupMenu", "OnMouseEnter", "OnMouseLeave")
           .Passive<QString>("CommandLinkHint")
           .Passive("DisabledImageIndex", -1)
+          .Passive<QString>("DisabledImageName")
           .Passive<TPopupMenu*>("DropDownMenu")
           .Passive("ElevationRequired", false)
           .Passive("HotImageIndex", -1)
+          .Passive<QString>("HotImageName")
           .Passive("ImageAlignment", TImageAlignment::iaLeft)
           .Passive("ImageIndex", -1)
           .Passive<TImageMargins*>("ImageMargins")
           .Passive<QString>("ImageName")
           .Passive<TCustomImageList*>("Images")
           .Passive("PressedImageIndex", -1)
+          .Passive<QString>("PressedImageName")
           .Passive("SelectedImageIndex", -1)
+          .Passive<QString>("SelectedImageName")
           .Passive("Style", TPushButtonStyle::bsPushButton)
           .Passive("StylusHotImageIndex", -1)
+          .Passive<QString>("StylusHotImageName")
           .Passive("WordWrap", false)
           .Event("OnDropDownClick")
           .ClassDoc(QStringLiteral("A push button."),

@@ -15,6 +15,8 @@ class TImageMargins : public TKeptPart {
   using TKeptPart::TKeptPart;
 };
 
+const TTypeInfo& ModalResultType();
+
 class TButton : public TWinControl {
   VRX_CLASS(TButton)
  public:

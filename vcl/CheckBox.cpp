@@ -63,8 +63,8 @@ const TClass& TCheckBox::StaticClass() {
   static const TClass cls(
       DescribeClass<TCheckBox>("TCheckBox", TCustomCheckBox::StaticClass())
           .PublishAll(Placing, Look, ParentLook, Hints, Placement, Direction, Dragging, Windowed, Help,
-                      Styling, WheelEvents, "Alignment", "AllowGrayed", "AutoSize", "Caption", "Checked",
-                      "State", "WordWrap", MouseEvents, KeyEvents, FocusEvents, DragEvents)
+                      Styling, WheelEvents, "Action", "Alignment", "AllowGrayed", "AutoSize", "Caption",
+                      "Checked", "State", "WordWrap", MouseEvents, KeyEvents, FocusEvents, DragEvents)
           .Publish("TabStop", true)
           .Event("OnChange")
           .Alphabetical()
@@ -77,8 +77,8 @@ const TClass& TRadioButton::StaticClass() {
   static const TClass cls(
       DescribeClass<TRadioButton>("TRadioButton", TMarkControl::StaticClass())
           .PublishAll(Placing, Look, ParentLook, Hints, Placement, Direction, Dragging, Windowed, Help,
-                      Styling, WheelEvents, "Alignment", "AutoSize", "Caption", "WordWrap", MouseEvents,
-                      KeyEvents, FocusEvents, DragEvents)
+                      Styling, WheelEvents, "Action", "Alignment", "AutoSize", "Caption", "WordWrap",
+                      MouseEvents, KeyEvents, FocusEvents, DragEvents)
           .Published("Checked", &TRadioButton::Checked, &TRadioButton::SetChecked, false)
           .Publish("TabStop", false)
           .Event("OnChange")
@@ -87,6 +87,8 @@ const TClass& TRadioButton::StaticClass() {
                     "pen line 1.5 brush fill oval 4 4 16 16 pen none brush accent oval 8 8 8 8"));
   return cls;
 }
+
+TRadioButton::TRadioButton(TComponent* owner) : TMarkControl(owner) { SetBounds(0, 0, 113, 17); }
 
 void TRadioButton::PaintMark(TCanvas& canvas, const QRect& rect) const {
   PaintRadioMark(canvas, rect, PartStates(), checked_);

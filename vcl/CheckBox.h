@@ -43,7 +43,7 @@ class TCheckBox : public TCustomCheckBox {
 class TRadioButton : public TMarkControl {
   VRX_CLASS(TRadioButton)
  public:
-  using TMarkControl::TMarkControl;
+  explicit TRadioButton(TComponent* owner);
   bool Checked() const { return checked_; }
   // Of the radio buttons in one container at most one is checked.
   void SetChecked(bool v);

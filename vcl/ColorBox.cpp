@@ -122,8 +122,8 @@ const TClass& TColorListBox::StaticClass() {
       DescribeClass<TColorListBox>("TColorListBox", TCustomColorListBox::StaticClass())
           .PublishAll(Placing, Lettering, Hints, Placement, Direction, Dragging, Bevels, Windowed, Help,
                       Styling, WheelEvents, "AutoComplete", "BorderStyle", "DefaultColorColor", "ItemHeight",
-                      "NoneColorColor", "Selected", "Style", "TabWidth", MouseEvents, KeyEvents, FocusEvents,
-                      DragEvents)
+                      "NoneColorColor", "Selected", "Style", "TabWidth", "AutoCompleteDelay", "MultiSelect",
+                      "OnDrawItem", "OnSelectionChange", MouseEvents, KeyEvents, FocusEvents, DragEvents)
           .Passive("ColorRectOffset", 3)
           .Passive("ColorRectWidth", 14)
           .Publish("Color", clWindow)

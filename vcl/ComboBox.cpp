@@ -1,6 +1,7 @@
 #include "vcl/ComboBox.h"
 
 #include "rtl/Class.h"
+#include "vcl/AsGiven.h"
 #include "vcl/Painters.h"
 #include "vcl/PropertyGroups.h"
 
@@ -60,16 +61,23 @@ void TCustomComboBox::Paint(TCanvas& canvas) {
 const TClass& TComboBox::StaticClass() {
   static const TClass cls(
       DescribeClass<TComboBox>("TComboBox", TCustomComboBox::StaticClass())
-          .Publish("Style")
+          .Published("Style", &TComboBox::StyleOf, &TComboBox::SetStyle, TComboBoxStyle::csDropDown)
           .PublishAll(Placing, Lettering, Hints, Placement, Direction, Dragging, Bevels, Windowed, Help,
                       Input, Styling, WheelEvents, "CharCase", "DropDownCount", "ItemHeight", "ItemIndex",
                       "Items", "MaxLength", "ReadOnly", "Sorted", "Text", "TextHint", "OnChange", "OnCloseUp",
                       "OnDropDown", "OnSelect", MouseEvents, KeyEvents, FocusEvents, DragEvents)
+          .Passive("ArrowKeysTraverseList", true)
           .Passive("AutoComplete", true)
           .Passive("AutoCompleteDelay", 500)
+          .Passive("AutoCompleteText",
+                   TComboBoxAutoCompleteText{TComboBoxAutoCompleteTextOption::cbactEndOfLineComplete,
+                                             TComboBoxAutoCompleteTextOption::cbactSearchAscending})
           .Passive("AutoDropDown", false)
           .Passive("AutoCloseUp", false)
           .Passive("AutoDropDownWidth", false)
+          .Passive("AutoSelect", true)
+          .Publish("AutoSize", true)
+          .Passive("ItemWidth", 0)
           .Publish("Color", clWindow)
           .Publish("ParentColor", false)
           .Publish("TabStop", true)
@@ -79,4 +87,25 @@ const TClass& TComboBox::StaticClass() {
           .ClassDoc(QStringLiteral("A field for a text, with a list of texts to choose from."),
                     "pen line 1.5 brush fill box 2.5 7.5 19 9 2 pen accent 2 path 14.5 11 17 13.5 19.5 11"));
   return cls;
+}
+
+TComboBox::TComboBox(TComponent* owner) : TCustomComboBox(owner) { autoSize_ = true; }
+
+void TComboBox::SetStyle(TComboBoxStyle v) {
+  const int height = Height();
+  Set(Style, v);
+  if (v == TComboBoxStyle::csSimple && !TakesAsGiven(*this)) SetBounds(Left(), Top(), Width(), height);
+}
+
+QSize TComboBox::AutoSizeHint() const {
+  constexpr int frame = 6, usual = 16;
+  switch (Get(Style)) {
+    case TComboBoxStyle::csSimple:
+      return {Width(), Height()};
+    case TComboBoxStyle::csDropDown:
+    case TComboBoxStyle::csDropDownList:
+      return {Width(), TextExtent(QStringLiteral("Wg"), *Font()).height() + 8};
+    default:
+      return {Width(), (Get(ItemHeight) > 0 ? Get(ItemHeight) : usual) + frame};
+  }
 }

@@ -9,10 +9,23 @@ enum class TComboBoxStyle : std::uint8_t {
   csSimple,
   csDropDownList,
   csOwnerDrawFixed,
-  csOwnerDrawVariable
+  csOwnerDrawVariable,
+  csOwnerDrawEditableFixed,
+  csOwnerDrawEditableVariable
 };
-VRX_ENUM(TComboBoxStyle,
-         {"csDropDown", "csSimple", "csDropDownList", "csOwnerDrawFixed", "csOwnerDrawVariable"})
+VRX_ENUM(TComboBoxStyle, {"csDropDown", "csSimple", "csDropDownList", "csOwnerDrawFixed",
+                          "csOwnerDrawVariable", "csOwnerDrawEditableFixed", "csOwnerDrawEditableVariable"})
+enum class TComboBoxAutoCompleteTextOption : std::uint8_t {
+  cbactEnabled,
+  cbactEndOfLineComplete,
+  cbactRetainPrefixCase,
+  cbactSearchCaseSensitive,
+  cbactSearchAscending
+};
+VRX_ENUM(TComboBoxAutoCompleteTextOption, {"cbactEnabled", "cbactEndOfLineComplete", "cbactRetainPrefixCase",
+                                           "cbactSearchCaseSensitive", "cbactSearchAscending"})
+using TComboBoxAutoCompleteText = TSet<TComboBoxAutoCompleteTextOption>;
+VRX_SET(TComboBoxAutoCompleteText, TComboBoxAutoCompleteTextOption)
 
 class TCustomComboBox : public TCustomListControl {
   VRX_CLASS(TCustomComboBox)
@@ -42,5 +55,11 @@ class TCustomComboBox : public TCustomListControl {
 class TComboBox : public TCustomComboBox {
   VRX_CLASS(TComboBox)
  public:
-  using TCustomComboBox::TCustomComboBox;
+  explicit TComboBox(TComponent* owner);
+  TComboBoxStyle StyleOf() const { return Get(Style); }
+  void SetStyle(TComboBoxStyle v);
+
+ protected:
+  // The field; a list that is always there keeps its room.
+  QSize AutoSizeHint() const override;
 };

@@ -1,13 +1,16 @@
 #include "vcl/Control.h"
 
+#include <QScopedValueRollback>
 #include <array>
 
 #include "rtl/Exceptions.h"
 #include "rtl/IntegerConsts.h"
 #include "vcl/Action.h"
+#include "vcl/AsGiven.h"
 #include "vcl/Menu.h"
 #include "vcl/Placed.h"
 #include "vcl/SideLayout.h"
+#include "vcl/Touch.h"
 
 namespace {
 struct CursorRow {
@@ -56,6 +59,9 @@ const TTypeInfo& CaptionType() {
 }
 
 const TClass& TControl::StaticClass() {
+  static const TTypeInfo wheel = MethodType("TMouseWheelEvent"),
+                         wheelUpDown = MethodType("TMouseWheelUpDownEvent"),
+                         showHint = MethodType("TControlShowHintEvent");
   static const TClass cls(
       DescribeClass<TControl>("TControl", TComponent::StaticClass())
           .Published("Left", &TControl::Left, &TControl::SetLeft)
@@ -103,6 +109,7 @@ const TClass& TControl::StaticClass() {
           .DeclaredPassive("BiDiMode", TBiDiMode::bdLeftToRight)
           .Declared(Constraints)
           .Doc(QStringLiteral("The smallest and largest size."))
+          .DeclaredPassive<TComponent*>("CustomHint")
           .DeclaredPassive("DragCursor", TCursor{-12})
           .DeclaredPassive("DragKind", TDragKind::dkDrag)
           .DeclaredPassive("DragMode", TDragMode::dmManual)
@@ -119,6 +126,7 @@ const TClass& TControl::StaticClass() {
           .DeclaredPassive("StyleElements", TStyleElements{TStyleElement::seFont, TStyleElement::seClient,
                                                            TStyleElement::seBorder})
           .DeclaredPassive<QString>("StyleName")
+          .DeclaredPassive<TTouchManager*>("Touch")
           .DeclaredEvent("OnClick")
           .DeclaredEvent("OnDblClick")
           .DeclaredEvent("OnMouseDown", "TMouseEvent")
@@ -133,14 +141,13 @@ const TClass& TControl::StaticClass() {
           .DeclaredEvent("OnDragOver", "TDragOverEvent")
           .DeclaredEvent("OnEndDock", "TEndDragEvent")
           .DeclaredEvent("OnEndDrag", "TEndDragEvent")
+          .DeclaredEvent("OnGesture", "TGestureEvent")
           .DeclaredEvent("OnMouseActivate", "TMouseActivateEvent")
           .DeclaredEvent("OnMouseWheel", "TMouseWheelEvent")
           .DeclaredEvent("OnMouseWheelDown", "TMouseWheelUpDownEvent")
           .DeclaredEvent("OnMouseWheelUp", "TMouseWheelUpDownEvent")
-          .DeclaredEvent("OnResize")
           .DeclaredEvent("OnStartDock", "TStartDockEvent")
           .DeclaredEvent("OnStartDrag", "TStartDragEvent")
-          .DeclaredEvent("OnChangeBounds")
           .StreamedPassive("ExplicitLeft", 0)
           .StreamedPassive("ExplicitTop", 0)
           .StreamedPassive("ExplicitWidth", 0)
@@ -150,7 +157,18 @@ const TClass& TControl::StaticClass() {
           .Streamed(AnchorSideTop)
           .Streamed(AnchorSideRight)
           .Streamed(AnchorSideBottom)
-          .Streamed(BorderSpacing));
+          .Streamed(BorderSpacing)
+          .StreamedPassive<THandler>("OnChangeBounds")
+          .StreamedPassive<THandler>("OnEditingDone")
+          .StreamedPassive<THandler>("OnMouseWheelHorz")
+          .Type(wheel)
+          .StreamedPassive<THandler>("OnMouseWheelLeft")
+          .Type(wheelUpDown)
+          .StreamedPassive<THandler>("OnMouseWheelRight")
+          .Type(wheelUpDown)
+          .StreamedPassive<THandler>("OnResize")
+          .StreamedPassive<THandler>("OnShowHint")
+          .Type(showHint));
   return cls;
 }
 
@@ -177,7 +195,13 @@ QHash<const TControl*, Placements>& PlacesBefore() {
 }
 // The control that takes the bounds of another one as they are.
 const TControl* exact = nullptr;
+// The control that becomes a copy of another one.
+const TControl* copying = nullptr;
 }  // namespace
+
+bool TakesAsGiven(const TControl& control) {
+  return copying == &control || control.IsLoading() || control.IsLayoutFrozen();
+}
 
 TControl::TControl(TComponent* owner) : TComponent(owner), font_(std::make_unique<TFont>(this)) {}
 
@@ -312,6 +336,7 @@ void TControl::DoChanged() {
 
 void TControl::Assign(const TPersistent* source) {
   {
+    const QScopedValueRollback copies(copying, static_cast<const TControl*>(this));
     const TUpdateLock lock(*this);
     TComponent::Assign(source);
     HintsBefore().remove(this);

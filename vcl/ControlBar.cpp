@@ -24,7 +24,7 @@ const TClass& TControlBar::StaticClass() {
           .Type(row)
           .Passive("AutoDock", true)
           .Passive("AutoDrag", true)
-          .Passive("CornerEdge", 0)
+          .Passive("CornerEdge", TCornerEdge::ceSmall)
           .Passive("DrawingStyle", TTBDrawingStyle::dsNormal)
           .Passive("GradientDirection", TGradientDirection::gdVertical)
           .Passive("GradientEndColor", clBtnShadow)
@@ -44,7 +44,7 @@ const TClass& TControlBar::StaticClass() {
   return cls;
 }
 
-TControlBar::TControlBar(TComponent* owner) : TWinControl(owner) { SetBounds(0, 0, 185, 50); }
+TControlBar::TControlBar(TComponent* owner) : TWinControl(owner) { SetBounds(0, 0, 100, 50); }
 
 QRect TControlBar::ClientRect() const {
   const int edge = Get(BevelKind) == TBevelKind::bkNone ? 0 : 2;

@@ -2,6 +2,9 @@
 #pragma once
 #include "vcl/Control.h"
 
+enum class TCornerEdge : std::uint8_t { ceNone, ceSmall, ceMedium, ceLarge };
+VRX_ENUM(TCornerEdge, {"ceNone", "ceSmall", "ceMedium", "ceLarge"})
+
 class TControlBar : public TWinControl {
   VRX_CLASS(TControlBar)
  public:

@@ -27,6 +27,32 @@ enum class TArrowShape : std::uint8_t {
 VRX_ENUM(TArrowShape, {"asClassicSmaller", "asClassicLarger", "asModernSmaller", "asModernLarger",
                        "asYetAnotherShape", "asTheme"})
 
+enum class TDateTimePart : std::uint8_t {
+  dtpDay,
+  dtpMonth,
+  dtpYear,
+  dtpHour,
+  dtpMinute,
+  dtpSecond,
+  dtpMiliSec,
+  dtpAMPM
+};
+VRX_ENUM(TDateTimePart,
+         {"dtpDay", "dtpMonth", "dtpYear", "dtpHour", "dtpMinute", "dtpSecond", "dtpMiliSec", "dtpAMPM"})
+using TDateTimeParts = TSet<TDateTimePart>;
+VRX_SET(TDateTimeParts, TDateTimePart)
+enum class TDateTimePickerOption : std::uint8_t {
+  dtpoDoChangeOnSetDateTime,
+  dtpoEnabledIfUnchecked,
+  dtpoAutoCheck,
+  dtpoFlatButton,
+  dtpoResetSelection
+};
+VRX_ENUM(TDateTimePickerOption, {"dtpoDoChangeOnSetDateTime", "dtpoEnabledIfUnchecked", "dtpoAutoCheck",
+                                 "dtpoFlatButton", "dtpoResetSelection"})
+using TDateTimePickerOptions = TSet<TDateTimePickerOption>;
+VRX_SET(TDateTimePickerOptions, TDateTimePickerOption)
+
 class TDateTimePicker : public TWinControl {
   VRX_CLASS(TDateTimePicker)
  public:

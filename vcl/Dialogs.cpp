@@ -1,36 +1,115 @@
 #include "vcl/Dialogs.h"
 
+#include "rtl/Class.h"
 #include "rtl/Strings.h"
+#include "vcl/DialogParts.h"
 #include "vcl/Font.h"
+#include "vcl/Grid.h"
+
+namespace {
+// What each dialog keeps, as a component or inside of an action.
+TClassBuilder CommonRows(TClassBuilder b) {
+  return std::move(b)
+      .Passive("Ctl3D", true)
+      .StreamedPassive("Height", 0)
+      .Passive("HelpContext", 0)
+      .StreamedPassive("Width", 0)
+      .Event("OnClose")
+      .Event("OnShow");
+}
+TClassBuilder OpenRows(TClassBuilder b) {
+  using enum TOpenOption;
+  return std::move(b)
+      .Passive<QString>("DefaultExt")
+      .Doc(QStringLiteral("Added to a name that has no extension."))
+      .Passive<QString>("FileName")
+      .Passive<QString>("Filter")
+      .Doc(QStringLiteral("Pairs of name and pattern: \"Texts|*.txt|All files|*\"."))
+      .Passive("FilterIndex", 1)
+      .Passive<QString>("InitialDir")
+      .Passive("Options", TOpenOptions{ofHideReadOnly, ofEnableSizing})
+      .OtherDefault(TOpenOptions{ofEnableSizing, ofViewDetail})
+      .Passive("OptionsEx", TOpenOptionsEx{})
+      .Passive<QString>("Title")
+      .Event("OnCanClose", "TCloseQueryEvent")
+      .Event("OnFolderChange")
+      .Event("OnIncludeItem", "TIncludeItemEvent")
+      .Event("OnSelectionChange")
+      .Event("OnTypeChange");
+}
+TClassBuilder ColorRows(TClassBuilder b) {
+  return std::move(b)
+      .Passive("Color", clBlack)
+      .Passive<TStrings*>("CustomColors")
+      .Doc(QStringLiteral("Colours of one's own, as \"ColorA=FFFFFF\", to \"ColorP\"."))
+      .Passive("Options", TColorDialogOptions{})
+      .Passive<QString>("Title");
+}
+TClassBuilder PrintRows(TClassBuilder b) {
+  return std::move(b)
+      .Passive("Collate", false)
+      .Passive("Copies", 0)
+      .Passive("FromPage", 0)
+      .Passive("MaxPage", 0)
+      .Passive("MinPage", 0)
+      .Passive("Options", TPrintDialogOptions{})
+      .Passive("PrintRange", TPrintRange::prAllPages)
+      .Passive("PrintToFile", false)
+      .Passive<QString>("Title")
+      .Passive("ToPage", 0);
+}
+TClassBuilder PageSetupRows(TClassBuilder b) {
+  return std::move(b)
+      .Passive("MarginBottom", 0)
+      .Passive("MarginLeft", 0)
+      .Passive("MarginRight", 0)
+      .Passive("MarginTop", 0)
+      .Passive("MinMarginBottom", 0)
+      .Passive("MinMarginLeft", 0)
+      .Passive("MinMarginRight", 0)
+      .Passive("MinMarginTop", 0)
+      .Passive("Options", TPageSetupDialogOptions{TPageSetupDialogOption::psoDefaultMinMargins})
+      .Passive("PageHeight", 0)
+      .Passive("PageWidth", 0)
+      .Passive<QString>("Title")
+      .Passive("Units", TPageMeasureUnits::pmDefault)
+      .Event("OnDrawEnvelope", "TPaintPageEvent")
+      .Event("OnDrawFullPage", "TPaintPageEvent")
+      .Event("OnDrawGreekText", "TPaintPageEvent")
+      .Event("OnDrawMargin", "TPaintPageEvent")
+      .Event("OnDrawMinMargin", "TPaintPageEvent")
+      .Event("OnDrawRetAddress", "TPaintPageEvent");
+}
+TClassBuilder FindRows(TClassBuilder b) {
+  return std::move(b)
+      .Passive<QString>("FindText")
+      .Passive("Options", TFindOptions{TFindOption::frDown})
+      .Passive<QString>("Title")
+      .Event("OnFind");
+}
+TClassBuilder ReplaceRows(TClassBuilder b) {
+  return std::move(b).Passive<QString>("ReplaceText").Event("OnReplace");
+}
+TClassBuilder FontRows(TClassBuilder b) {
+  return std::move(b)
+      .Passive("MaxFontSize", 0)
+      .Passive("MinFontSize", 0)
+      .Passive("Options", TFontDialogOptions{TFontDialogOption::fdEffects})
+      .Passive<QString>("PreviewText")
+      .Passive<QString>("Title")
+      .Event("OnApply", "TFDApplyEvent");
+}
+}  // namespace
 
 const TClass& TCommonDialog::StaticClass() {
-  static const TClass cls(DescribeClass<TCommonDialog>("TCommonDialog", TComponent::StaticClass())
-                              .Passive("HelpContext", 0)
-                              .Event("OnClose")
-                              .Event("OnShow"));
+  static const TClass cls(
+      CommonRows(DescribeClass<TCommonDialog>("TCommonDialog", TComponent::StaticClass())));
   return cls;
 }
 
 const TClass& TOpenDialog::StaticClass() {
-  using enum TOpenOption;
   static const TClass cls(
-      DescribeClass<TOpenDialog>("TOpenDialog", TCommonDialog::StaticClass())
-          .Passive<QString>("DefaultExt")
-          .Doc(QStringLiteral("Added to a name that has no extension."))
-          .Passive<QString>("FileName")
-          .Passive<QString>("Filter")
-          .Doc(QStringLiteral("Pairs of name and pattern: \"Texts|*.txt|All files|*\"."))
-          .Passive("FilterIndex", 1)
-          .Passive<QString>("InitialDir")
-          .Passive("Options", TOpenOptions{ofHideReadOnly, ofEnableSizing})
-          .OtherDefault(TOpenOptions{ofEnableSizing, ofViewDetail})
-          .Passive("OptionsEx", TOpenOptionsEx{})
-          .Passive<QString>("Title")
-          .Event("OnCanClose", "TCloseQueryEvent")
-          .Event("OnFolderChange")
-          .Event("OnIncludeItem", "TIncludeItemEvent")
-          .Event("OnSelectionChange")
-          .Event("OnTypeChange")
+      OpenRows(DescribeClass<TOpenDialog>("TOpenDialog", TCommonDialog::StaticClass()))
           .ClassDoc(QStringLiteral("Asks for a file to open."),
                     "pen line 1.5 brush fill path 3.5 19.5 3.5 5.5 9 5.5 11 8 18.5 8 18.5 11 pen accent 1.8 "
                     "brush none path 3.5 19.5 6.5 11 21 11 18 19.5 3.5 19.5"));
@@ -68,12 +147,7 @@ const TClass& TSavePictureDialog::StaticClass() {
 
 const TClass& TColorDialog::StaticClass() {
   static const TClass cls(
-      DescribeClass<TColorDialog>("TColorDialog", TCommonDialog::StaticClass())
-          .Passive("Color", clBlack)
-          .Passive<TStrings*>("CustomColors")
-          .Doc(QStringLiteral("Colours of one's own, as \"ColorA=FFFFFF\", to \"ColorP\"."))
-          .Passive("Options", TColorDialogOptions{})
-          .Passive<QString>("Title")
+      ColorRows(DescribeClass<TColorDialog>("TColorDialog", TCommonDialog::StaticClass()))
           .ClassDoc(
               QStringLiteral("Asks for a colour."),
               "pen line 1.5 brush fill oval 3.5 4.5 17 15 pen none brush accent oval 6.5 10 3 3 oval 10 "
@@ -83,15 +157,9 @@ const TClass& TColorDialog::StaticClass() {
 
 const TClass& TFontDialog::StaticClass() {
   static const TClass cls(
-      DescribeClass<TFontDialog>("TFontDialog", TCommonDialog::StaticClass())
-          .Passive("Device", TFontDialogDevice::fdScreen)
-          .Published("Font", &TFontDialog::Font, &TFontDialog::SetFont)
-          .Passive("MaxFontSize", 0)
-          .Passive("MinFontSize", 0)
-          .Passive("Options", TFontDialogOptions{TFontDialogOption::fdEffects})
-          .Passive<QString>("PreviewText")
-          .Passive<QString>("Title")
-          .Event("OnApply", "TFDApplyEvent")
+      FontRows(DescribeClass<TFontDialog>("TFontDialog", TCommonDialog::StaticClass())
+                   .Passive("Device", TFontDialogDevice::fdScreen)
+                   .Published("Font", &TFontDialog::Font, &TFontDialog::SetFont))
           .ClassDoc(
               QStringLiteral("Asks for a font."),
               "pen line 1.5 brush fill box 3.5 3.5 17 17 1 pen accent 2 brush none path 8 17 12 7 16 17 "
@@ -110,17 +178,7 @@ const TClass& TPrinterSetupDialog::StaticClass() {
 
 const TClass& TPrintDialog::StaticClass() {
   static const TClass cls(
-      DescribeClass<TPrintDialog>("TPrintDialog", TCommonDialog::StaticClass())
-          .Passive("Collate", false)
-          .Passive("Copies", 0)
-          .Passive("FromPage", 0)
-          .Passive("MaxPage", 0)
-          .Passive("MinPage", 0)
-          .Passive("Options", TPrintDialogOptions{})
-          .Passive("PrintRange", TPrintRange::prAllPages)
-          .Passive("PrintToFile", false)
-          .Passive<QString>("Title")
-          .Passive("ToPage", 0)
+      PrintRows(DescribeClass<TPrintDialog>("TPrintDialog", TCommonDialog::StaticClass()))
           .ClassDoc(
               QStringLiteral("Asks what to print, and how often."),
               "pen line 1.5 brush fill box 3.5 9 17 7 1 box 7 3.5 10 5.5 0 pen accent 1.8 box 7 13.5 10 "
@@ -130,26 +188,7 @@ const TClass& TPrintDialog::StaticClass() {
 
 const TClass& TPageSetupDialog::StaticClass() {
   static const TClass cls(
-      DescribeClass<TPageSetupDialog>("TPageSetupDialog", TCommonDialog::StaticClass())
-          .Passive("MarginBottom", 0)
-          .Passive("MarginLeft", 0)
-          .Passive("MarginRight", 0)
-          .Passive("MarginTop", 0)
-          .Passive("MinMarginBottom", 0)
-          .Passive("MinMarginLeft", 0)
-          .Passive("MinMarginRight", 0)
-          .Passive("MinMarginTop", 0)
-          .Passive("Options", TPageSetupDialogOptions{})
-          .Passive("PageHeight", 0)
-          .Passive("PageWidth", 0)
-          .Passive<QString>("Title")
-          .Passive("Units", TPageMeasureUnits::pmDefault)
-          .Event("OnDrawEnvelope", "TPaintPageEvent")
-          .Event("OnDrawFullPage", "TPaintPageEvent")
-          .Event("OnDrawGreekText", "TPaintPageEvent")
-          .Event("OnDrawMargin", "TPaintPageEvent")
-          .Event("OnDrawMinMargin", "TPaintPageEvent")
-          .Event("OnDrawRetAddress", "TPaintPageEvent")
+      PageSetupRows(DescribeClass<TPageSetupDialog>("TPageSetupDialog", TCommonDialog::StaticClass()))
           .ClassDoc(QStringLiteral("Asks for paper and margins."),
                     "pen line 1.5 brush fill box 5 3.5 14 17 0 pen accent 1.5 brush none box 8 6.5 8 11 0"));
   return cls;
@@ -157,11 +196,7 @@ const TClass& TPageSetupDialog::StaticClass() {
 
 const TClass& TFindDialog::StaticClass() {
   static const TClass cls(
-      DescribeClass<TFindDialog>("TFindDialog", TCommonDialog::StaticClass())
-          .Passive<QString>("FindText")
-          .Passive("Options", TFindOptions{TFindOption::frDown})
-          .Passive<QString>("Title")
-          .Event("OnFind")
+      FindRows(DescribeClass<TFindDialog>("TFindDialog", TCommonDialog::StaticClass()))
           .ClassDoc(QStringLiteral("Asks for a text to look for."),
                     "pen line 1.5 brush fill oval 4 4 11 11 pen accent 2.4 path 14 14 20 20"));
   return cls;
@@ -169,12 +204,52 @@ const TClass& TFindDialog::StaticClass() {
 
 const TClass& TReplaceDialog::StaticClass() {
   static const TClass cls(
-      DescribeClass<TReplaceDialog>("TReplaceDialog", TFindDialog::StaticClass())
-          .Passive<QString>("ReplaceText")
-          .Event("OnReplace")
+      ReplaceRows(DescribeClass<TReplaceDialog>("TReplaceDialog", TFindDialog::StaticClass()))
           .ClassDoc(
               QStringLiteral("Asks for a text to look for and one to put in its place."),
               "pen line 1.5 brush fill oval 3.5 3.5 9 9 pen line 2 path 11.5 11.5 14.5 14.5 pen accent 2 "
               "path 6 20 20 20 path 17 17 20 20 17 22.5"));
+  return cls;
+}
+
+namespace {
+template <class T>
+TClassBuilder Part(const char* name) {
+  return CommonRows(DescribeClass<T>(name, TPersistent::StaticClass()));
+}
+}  // namespace
+
+const TClass& TOpenDialogPart::StaticClass() {
+  static const TClass cls(OpenRows(Part<TOpenDialogPart>("TOpenDialogPart")));
+  return cls;
+}
+const TClass& TColorDialogPart::StaticClass() {
+  static const TClass cls(ColorRows(Part<TColorDialogPart>("TColorDialogPart")));
+  return cls;
+}
+const TClass& TFontDialogPart::StaticClass() {
+  static const TClass cls(FontRows(Part<TFontDialogPart>("TFontDialogPart")
+                                       .Passive("Device", TFontDialogDevice::fdScreen)
+                                       .Passive<TFontChanges*>("Font")));
+  return cls;
+}
+const TClass& TPrinterSetupDialogPart::StaticClass() {
+  static const TClass cls(Part<TPrinterSetupDialogPart>("TPrinterSetupDialogPart"));
+  return cls;
+}
+const TClass& TPrintDialogPart::StaticClass() {
+  static const TClass cls(PrintRows(Part<TPrintDialogPart>("TPrintDialogPart")));
+  return cls;
+}
+const TClass& TPageSetupDialogPart::StaticClass() {
+  static const TClass cls(PageSetupRows(Part<TPageSetupDialogPart>("TPageSetupDialogPart")));
+  return cls;
+}
+const TClass& TFindDialogPart::StaticClass() {
+  static const TClass cls(FindRows(Part<TFindDialogPart>("TFindDialogPart")));
+  return cls;
+}
+const TClass& TReplaceDialogPart::StaticClass() {
+  static const TClass cls(ReplaceRows(FindRows(Part<TReplaceDialogPart>("TReplaceDialogPart"))));
   return cls;
 }

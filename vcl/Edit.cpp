@@ -33,8 +33,8 @@ TCustomEdit::TCustomEdit(TComponent* owner) : TWinControl(owner) {
 }
 
 QSize TCustomEdit::AutoSizeHint() const {
-  const bool bare = Get(BorderStyle) == TBorderStyle::bsNone;
-  return {Width(), TextExtent(QStringLiteral("Wg"), *Font()).height() + (bare ? 0 : 8)};
+  // Without its frame a field is as high as with it.
+  return {Width(), TextExtent(QStringLiteral("Wg"), *Font()).height() + 8};
 }
 
 QString TCustomEdit::ShownText() const {

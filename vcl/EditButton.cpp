@@ -45,8 +45,8 @@ namespace {
 template <class T>
 TClassBuilder DescribeEditButton(const char* name) {
   return DescribeClass<T>(name, TCustomEditButton::StaticClass())
-      .PublishAll(Placing, Lettering, Hints, Placement, Direction, Dragging, Windowed, Styling, WheelEvents,
-                  "Alignment", "AutoSelect", "BorderStyle", "ButtonCaption", "ButtonHint",
+      .PublishAll(Placing, Lettering, Hints, Placement, Direction, Dragging, Windowed, Help, Styling,
+                  WheelEvents, "Alignment", "AutoSelect", "BorderStyle", "ButtonCaption", "ButtonHint",
                   "ButtonOnlyWhenFocused", "ButtonWidth", "CharCase", "DirectInput", "EchoMode", "Flat",
                   "FocusOnButtonClick", "Glyph", "MaxLength", "NumGlyphs", "PasswordChar", "ReadOnly",
                   "Spacing", "Text", "TextHint", "OnButtonClick", "OnChange", MouseEvents, KeyEvents,

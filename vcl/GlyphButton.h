@@ -1,6 +1,7 @@
 // Buttons with a picture beside the text.
 #pragma once
 #include "vcl/Button.h"
+#include "vcl/GlyphShowMode.h"
 #include "vcl/Picture.h"
 
 enum class TBitBtnKind : std::uint8_t {
@@ -23,9 +24,6 @@ VRX_ENUM(TButtonLayout, {"blGlyphLeft", "blGlyphRight", "blGlyphTop", "blGlyphBo
 enum class TButtonStyle : std::uint8_t { bsAutoDetect, bsWin31, bsNew };
 VRX_ENUM(TButtonStyle, {"bsAutoDetect", "bsWin31", "bsNew"})
 
-enum class TGlyphShowMode : std::uint8_t { gsmAlways, gsmNever, gsmApplication, gsmSystem };
-VRX_ENUM(TGlyphShowMode, {"gsmAlways", "gsmNever", "gsmApplication", "gsmSystem"})
-
 // What stands on a button: as many pictures side by side as the button has states, one of them shown.
 struct TFace {
   QImage glyph;
@@ -38,6 +36,9 @@ void PaintFace(TCanvas& canvas, const QRect& rect, const TFace& face, const TFon
 // The picture for a state out of `count` side by side: 0 up, 1 disabled, 2 down, 3 stays down.
 QImage GlyphOf(const QImage& all, int count, int state);
 
+// A kind gives the button its text, its part in the form and its picture. On forms of one of the two families
+// these are the kind's as long as it has one, and are not stored; whoever chooses another value ends the kind
+// and keeps the rest. On those of the other one choosing a kind sets them, and that is all.
 class TBitBtn : public TButton {
   VRX_CLASS(TBitBtn)
  public:
@@ -51,7 +52,27 @@ class TBitBtn : public TButton {
   static constexpr TKept<int> Spacing{"Spacing", 4};
   static constexpr TKept<TButtonStyle> Style{"Style", TButtonStyle::bsAutoDetect};
 
+  TBitBtnKind KindOf() const { return Get(Kind); }
+  void SetKind(TBitBtnKind v);
+  QString ShownCaption() const;
+  bool IsDefault() const;
+  void ChooseDefault(bool v);
+  bool IsCancel() const;
+  void ChooseCancel(bool v);
+  int Result() const;
+  void ChooseResult(int v);
+
   void Paint(TCanvas& canvas) override;
+
+ protected:
+  void PartChanged(TPersistent& part) override;
+
+ private:
+  bool IsOfItsKind() const;
+  bool IsCustom() const { return !IsOfItsKind(); }
+  bool CaptionStored() const;
+  void LeaveKind();
+  QImage Face() const;
 };
 
 class TSpeedButton : public TGraphicControl {

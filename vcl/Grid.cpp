@@ -2,6 +2,7 @@
 
 #include "rtl/Class.h"
 #include "rtl/Exceptions.h"
+#include "vcl/AsGiven.h"
 #include "vcl/ItemPainting.h"
 #include "vcl/PropertyGroups.h"
 
@@ -67,15 +68,17 @@ const TClass& TCustomGrid::StaticClass() {
   static const TClass cls(
       DescribeClass<TCustomGrid>("TCustomGrid", TWinControl::StaticClass())
           .Declared(BorderStyle)
-          .Declared(ColCount)
+          .Declared("ColCount", &TCustomGrid::Cols, &TCustomGrid::SetCols, 5)
           .Type(count)
-          .DeclaredAll(Columns, DefaultColWidth, DefaultRowHeight, FixedColor, FixedCols, FixedRows,
-                       GridLineWidth)
+          .DeclaredAll(Columns, DefaultColWidth, DefaultRowHeight, FixedColor)
+          .Declared("FixedCols", &TCustomGrid::ColsFixed, &TCustomGrid::FixCols, 1)
+          .Declared("FixedRows", &TCustomGrid::RowsFixed, &TCustomGrid::FixRows, 1)
+          .Declared(GridLineWidth)
           .Declared(Options)
           .OtherDefault(TGridOptions{TGridOption::goFixedVertLine, TGridOption::goFixedHorzLine,
                                      TGridOption::goVertLine, TGridOption::goHorzLine,
                                      TGridOption::goRangeSelect, TGridOption::goSmoothScroll})
-          .Declared(RowCount)
+          .Declared("RowCount", &TCustomGrid::Rows, &TCustomGrid::SetRows, 5)
           .Type(count)
           .Declared(ScrollBars)
           .OtherDefault(TScrollStyle::ssAutoBoth)
@@ -86,7 +89,13 @@ const TClass& TCustomGrid::StaticClass() {
           .DeclaredPassive("AutoFillColumns", false)
           .DeclaredPassive("DefaultDrawing", true)
           .DeclaredPassive("DrawingStyle", TGridDrawingStyle::gdsThemed)
+          .DeclaredPassive("ColumnClickSorts", false)
           .DeclaredPassive("ExtendedSelect", true)
+          .DeclaredPassive("FadeUnfocusedSelection", false)
+          .DeclaredPassive("MouseWheelOption", TMouseWheelOption::mwCursor)
+          .DeclaredPassive("Options2", TGridOptions2{})
+          .DeclaredPassive("RangeSelectMode", TRangeSelectMode::rsmSingle)
+          .DeclaredPassive("TitleImageListWidth", 0)
           .DeclaredPassive("Flat", false)
           .DeclaredPassive("GradientEndColor", clBtnShadow)
           .DeclaredPassive("GradientStartColor", clBtnFace)
@@ -99,6 +108,8 @@ const TClass& TCustomGrid::StaticClass() {
           .DeclaredPassive("UseXORFeatures", false)
           .DeclaredPassive("VisibleColCount", 0)
           .DeclaredPassive("VisibleRowCount", 0)
+          .DeclaredEvent("OnAfterSelection", "TOnSelectEvent")
+          .DeclaredEvent("OnBeforeSelection", "TOnSelectEvent")
           .DeclaredEvent("OnButtonClick", "TOnSelectEvent")
           .DeclaredEvent("OnCheckboxToggled", "TToggledCheckboxEvent")
           .DeclaredEvent("OnColRowDeleted", "TGridOperationEvent")
@@ -137,6 +148,37 @@ TCustomGrid::TCustomGrid(TComponent* owner) : TWinControl(owner) {
   tabStop_ = true;
   StartWith(clWindow);
   SetBounds(0, 0, 320, 120);
+}
+
+// One of the two families wants a cell that is not fixed.
+int TCustomGrid::LeastFree() const { return IsOfOtherFamily() ? 0 : 1; }
+
+void TCustomGrid::SetCount(const TKept<int>& count, const TKept<int>& fixed, int v) {
+  if (v == Get(count)) return;
+  if (TakesAsGiven(*this)) return Set(count, v);
+  const int least = LeastFree();
+  if (v < least)
+    throw EPropertyError(QStringLiteral("%1 of %2 cannot be %3. Use %4 or more.")
+                             .arg(QLatin1StringView(count.Name), Name())
+                             .arg(v)
+                             .arg(least));
+  const TUpdateLock once(*this);
+  Set(fixed, std::min(Get(fixed), v - least));
+  Set(count, v);
+}
+
+void TCustomGrid::SetFixed(const TKept<int>& count, const TKept<int>& fixed, int v) {
+  if (v == Get(fixed)) return;
+  const int most = Get(count) - LeastFree();
+  const bool described = &count == &ColCount && IsKept(&Columns) && Get(Columns)->Count() > 0;
+  if (!TakesAsGiven(*this) && !described && (v < 0 || v > most))
+    throw EPropertyError(QStringLiteral("%1 of %2 cannot be %3: %4 is %5. Use 0 to %6.")
+                             .arg(QLatin1StringView(fixed.Name), Name())
+                             .arg(v)
+                             .arg(QLatin1StringView(count.Name))
+                             .arg(Get(count))
+                             .arg(std::max(most, 0)));
+  Set(fixed, v);
 }
 
 const TGridColumn* TCustomGrid::DescribedColumn(int col) const {
@@ -217,20 +259,28 @@ void TCustomGrid::Paint(TCanvas& canvas) {
 namespace {
 // What all grids publish.
 constexpr const char* GridEvents[] = {
-    "OnButtonClick", "OnCheckboxToggled", "OnColRowDeleted",      "OnColRowExchanged",  "OnColRowInserted",
-    "OnColRowMoved", "OnColumnMoved",     "OnCompareCells",       "OnDrawCell",         "OnEditButtonClick",
-    "OnEditingDone", "OnFixedCellClick",  "OnGetCellHint",        "OnGetCheckboxState", "OnGetEditMask",
-    "OnGetEditText", "OnHeaderClick",     "OnHeaderSized",        "OnPickListSelect",   "OnPrepareCanvas",
-    "OnRowMoved",    "OnSelectCell",      "OnSelectEditor",       "OnSelection",        "OnSetCheckboxState",
-    "OnSetEditText", "OnTopLeftChanged",  "OnUserCheckboxBitmap", "OnValidateEntry"};
-constexpr const char* GridProperties[] = {"AlternateColor",   "AutoAdvance",        "AutoEdit",
-                                          "AutoFillColumns",  "BorderStyle",        "DefaultColWidth",
-                                          "DefaultDrawing",   "DefaultRowHeight",   "DrawingStyle",
-                                          "ExtendedSelect",   "FixedColor",         "Flat",
-                                          "GradientEndColor", "GradientStartColor", "GridLineWidth",
-                                          "HeaderHotZones",   "HeaderPushZones",    "Options",
-                                          "ScrollBars",       "TabAdvance",         "TitleFont",
-                                          "TitleImageList",   "TitleStyle",         "UseXORFeatures"};
+    "OnAfterSelection",   "OnBeforeSelection",  "OnButtonClick", "OnCheckboxToggled", "OnColRowDeleted",
+    "OnColRowExchanged",  "OnColRowInserted",   "OnColRowMoved", "OnColumnMoved",     "OnCompareCells",
+    "OnDrawCell",         "OnEditButtonClick",  "OnEditingDone", "OnFixedCellClick",  "OnGetCellHint",
+    "OnGetCheckboxState", "OnGetEditMask",      "OnGetEditText", "OnHeaderClick",     "OnHeaderSized",
+    "OnPickListSelect",   "OnPrepareCanvas",    "OnRowMoved",    "OnSelectCell",      "OnSelectEditor",
+    "OnSelection",        "OnSetCheckboxState", "OnSetEditText", "OnTopLeftChanged",  "OnUserCheckboxBitmap",
+    "OnValidateEntry"};
+constexpr const char* GridProperties[] = {"AlternateColor",   "AutoAdvance",
+                                          "AutoEdit",         "AutoFillColumns",
+                                          "BorderStyle",      "DefaultColWidth",
+                                          "DefaultDrawing",   "DefaultRowHeight",
+                                          "DrawingStyle",     "ExtendedSelect",
+                                          "FixedColor",       "Flat",
+                                          "GradientEndColor", "GradientStartColor",
+                                          "GridLineWidth",    "HeaderHotZones",
+                                          "HeaderPushZones",  "Options",
+                                          "ScrollBars",       "TabAdvance",
+                                          "TitleFont",        "TitleImageList",
+                                          "TitleStyle",       "UseXORFeatures",
+                                          "ColumnClickSorts", "FadeUnfocusedSelection",
+                                          "MouseWheelOption", "Options2",
+                                          "RangeSelectMode",  "TitleImageListWidth"};
 
 template <class T>
 TClassBuilder DescribeGrid(const char* name) {
@@ -372,7 +422,7 @@ const TClass& TValueListEditor::StaticClass() {
           .PublishedAll(DisplayOptions, Strings, TitleCaptions)
           .Passive("DropDownRows", 8)
           .Passive("KeyOptions", TKeyOptions{})
-          .PublishAll("FixedCols")
+          .Publish("FixedCols", 0)
           .Publish("DefaultColWidth", NameWidth)
           .Publish("DefaultRowHeight", LineHeight)
           .Publish("Options", EditorOptions)
@@ -392,6 +442,8 @@ const TClass& TValueListEditor::StaticClass() {
 TValueListEditor::TValueListEditor(TComponent* owner) : TCustomDrawGrid(owner) {
   SetBounds(0, 0, 306, 300);
   SetQuiet(true);
+  Set(ColCount, 2);
+  Set(FixedCols, 0);
   Set(DefaultColWidth, NameWidth);
   Set(DefaultRowHeight, LineHeight);
   Set(Options, EditorOptions);

@@ -115,6 +115,22 @@ enum class TColumnButtonStyle : std::uint8_t {
 VRX_ENUM(TColumnButtonStyle, {"cbsAuto", "cbsEllipsis", "cbsNone", "cbsPickList", "cbsCheckboxColumn",
                               "cbsButton", "cbsButtonColumn"})
 
+enum class TMouseWheelOption : std::uint8_t { mwCursor, mwGrid };
+VRX_ENUM(TMouseWheelOption, {"mwCursor", "mwGrid"})
+enum class TRangeSelectMode : std::uint8_t { rsmSingle, rsmMulti };
+VRX_ENUM(TRangeSelectMode, {"rsmSingle", "rsmMulti"})
+enum class TGridOption2 : std::uint8_t {
+  goScrollToLastCol,
+  goScrollToLastRow,
+  goEditorParentColor,
+  goEditorParentFont,
+  goCopyWithoutTrailingLinebreak
+};
+VRX_ENUM(TGridOption2, {"goScrollToLastCol", "goScrollToLastRow", "goEditorParentColor", "goEditorParentFont",
+                        "goCopyWithoutTrailingLinebreak"})
+using TGridOptions2 = TSet<TGridOption2>;
+VRX_SET(TGridOptions2, TGridOption2)
+
 // A font that says only in what it differs from the one around it.
 class TFontChanges : public TKeptPart {
   VRX_CLASS(TFontChanges)
@@ -170,6 +186,16 @@ class TCustomGrid : public TWinControl {
   static constexpr TKept<TValueList*> RowHeights{"RowHeights"};
   static constexpr TKept<TScrollStyle> ScrollBars{"ScrollBars", TScrollStyle::ssBoth};
 
+  // What is fixed leaves something that is not; what a file says stands as it is.
+  int Cols() const { return Get(ColCount); }
+  void SetCols(int v) { SetCount(ColCount, FixedCols, v); }
+  int Rows() const { return Get(RowCount); }
+  void SetRows(int v) { SetCount(RowCount, FixedRows, v); }
+  int ColsFixed() const { return Get(FixedCols); }
+  void FixCols(int v) { SetFixed(ColCount, FixedCols, v); }
+  int RowsFixed() const { return Get(FixedRows); }
+  void FixRows(int v) { SetFixed(RowCount, FixedRows, v); }
+
   // As they are shown: described columns stand behind the fixed ones.
   virtual int ShownCols() const;
   virtual int ShownRows() const { return std::max(Get(RowCount), 0); }
@@ -185,6 +211,9 @@ class TCustomGrid : public TWinControl {
   virtual int ShownFixedRows() const { return std::max(Get(FixedRows), 0); }
 
  private:
+  int LeastFree() const;
+  void SetCount(const TKept<int>& count, const TKept<int>& fixed, int v);
+  void SetFixed(const TKept<int>& count, const TKept<int>& fixed, int v);
   const TGridColumn* DescribedColumn(int col) const;
   void PaintCell(TCanvas& canvas, const QRect& cell, int col, int row) const;
 };

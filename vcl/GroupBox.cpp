@@ -1,6 +1,9 @@
 #include "vcl/GroupBox.h"
 
+#include <algorithm>
+
 #include "rtl/Class.h"
+#include "vcl/AsGiven.h"
 #include "vcl/Painters.h"
 #include "vcl/PropertyGroups.h"
 
@@ -76,8 +79,13 @@ void TChoiceGroup::Paint(TCanvas& canvas) {
 
 const TClass& TCustomRadioGroup::StaticClass() {
   static const TClass cls(
-      DescribeClass<TCustomRadioGroup>("TCustomRadioGroup", TChoiceGroup::StaticClass()).Declared(ItemIndex));
+      DescribeClass<TCustomRadioGroup>("TCustomRadioGroup", TChoiceGroup::StaticClass())
+          .Declared("ItemIndex", &TCustomRadioGroup::IndexOf, &TCustomRadioGroup::SetIndex, -1));
   return cls;
+}
+
+void TCustomRadioGroup::SetIndex(int v) {
+  Set(ItemIndex, TakesAsGiven(*this) ? v : std::clamp(v, -1, Get(Items)->Count() - 1));
 }
 
 void TCustomRadioGroup::PaintItemMark(TCanvas& canvas, const QRect& rect, int index) const {

@@ -37,6 +37,8 @@ class TChoiceGroup : public TCustomGroupBox {
   static constexpr TKept<TStrings*> Items{"Items"};
   static constexpr TKept<bool> WordWrap{"WordWrap", false};
 
+  bool AcceptsControls() const override { return false; }
+
   void Paint(TCanvas& canvas) override;
 
  protected:
@@ -49,6 +51,8 @@ class TCustomRadioGroup : public TChoiceGroup {
   using TChoiceGroup::TChoiceGroup;
   // -1 for none; an index that is not there is none, too, and kept while the form is loaded.
   static constexpr TKept<int> ItemIndex{"ItemIndex", -1};
+  int IndexOf() const { return Get(ItemIndex); }
+  void SetIndex(int v);
 
  protected:
   void PaintItemMark(TCanvas& canvas, const QRect& rect, int index) const override;

@@ -1,5 +1,7 @@
 #include "vcl/Image.h"
 
+#include "rtl/Class.h"
+#include "vcl/ImageList.h"
 #include "vcl/PropertyGroups.h"
 
 namespace {
@@ -14,8 +16,21 @@ void PaintDesignFrame(TCanvas& canvas, const QRect& rect) {
 const TClass& TImage::StaticClass() {
   static const TClass cls(
       DescribeClass<TImage>("TImage", TGraphicControl::StaticClass())
-          .PublishAll(Placing, Dragging, Hints, "AutoSize", "Enabled", "Visible", MouseEvents, DragEvents)
+          .PublishAll(Placing, Placement, Dragging, Help, Hints, Styling, "AutoSize", "Enabled", "PopupMenu",
+                      "Visible", MouseEvents, WheelEvents, DragEvents)
           .PublishedAll(Center, IncrementalDisplay, Picture, Proportional, Stretch, Transparent)
+          .Passive("AntialiasingMode", TAntialiasingMode::amDontCare)
+          .Passive("ImageIndex", 0)
+          .Passive<TCustomImageList*>("Images")
+          .Passive("ImageWidth", 0)
+          .Passive("KeepOriginXWhenClipped", false)
+          .Passive("KeepOriginYWhenClipped", false)
+          .Passive("StretchInEnabled", true)
+          .Passive("StretchOutEnabled", true)
+          .Event("OnFindClass", "TFindClassEvent")
+          .Event("OnPaint")
+          .Event("OnPaintBackground", "TImagePaintBackgroundEvent")
+          .Event("OnPictureChanged")
           .Event("OnProgress", "TProgressEvent")
           .Alphabetical()
           .ClassDoc(
@@ -61,7 +76,8 @@ void TImage::Paint(TCanvas& canvas) {
 const TClass& TPaintBox::StaticClass() {
   static const TClass cls(
       DescribeClass<TPaintBox>("TPaintBox", TGraphicControl::StaticClass())
-          .PublishAll(Placing, Dragging, Look, ParentLook, Hints, "Visible", MouseEvents, DragEvents)
+          .PublishAll(Placing, Placement, Dragging, Help, Look, ParentLook, Hints, Styling, "PopupMenu",
+                      "Visible", MouseEvents, WheelEvents, DragEvents)
           .Event("OnPaint")
           .Alphabetical()
           .ClassDoc(QStringLiteral("A place that the program paints on."),

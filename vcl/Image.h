@@ -3,6 +3,9 @@
 #include "vcl/Control.h"
 #include "vcl/Picture.h"
 
+enum class TAntialiasingMode : std::uint8_t { amDontCare, amOn, amOff };
+VRX_ENUM(TAntialiasingMode, {"amDontCare", "amOn", "amOff"})
+
 class TImage : public TGraphicControl {
   VRX_CLASS(TImage)
  public:

@@ -28,7 +28,7 @@ const TClass& TLabel::StaticClass() {
           .Publish("AutoSize", true)
           .PublishAll("Caption", "Color", "Enabled", "FocusControl", "Font", ParentLook, "ParentShowHint",
                       "ShowAccelChar", "ShowHint", "Transparent", "Layout", "Visible", "WordWrap",
-                      MouseEvents, Placement, Direction, Dragging, Styling, WheelEvents, DragEvents,
+                      MouseEvents, Placement, Direction, Dragging, Help, Styling, WheelEvents, DragEvents,
                       "PopupMenu", "EllipsisPosition", "GlowSize", "OptimalFill")
           .ClassDoc(QStringLiteral("A text on the form."),
                     "pen line 2.2 path 5 19 12 4.5 19 19 pen accent 2.2 path 8 14 16 14"));

@@ -1,5 +1,7 @@
 #include "vcl/Labeled.h"
 
+#include "vcl/Label.h"
+
 const TClass& TBoundLabel::StaticClass() {
   static const TClass cls(
       DescribeClass<TBoundLabel>("TBoundLabel", TPersistent::StaticClass())
@@ -8,6 +10,42 @@ const TClass& TBoundLabel::StaticClass() {
           .Published("Font", &TBoundLabel::Font, &TBoundLabel::SetFont)
           .StoredIf(&TBoundLabel::FontStored)
           .Published("ParentFont", &TBoundLabel::ParentFont, &TBoundLabel::SetParentFont, true)
+          .Passive("AlignWithMargins", false)
+          .Passive("BiDiMode", TBiDiMode::bdLeftToRight)
+          .Passive("Color", clBtnFace)
+          .Passive("Cursor", TCursor{0})
+          .Passive("DragCursor", TCursor{-12})
+          .Passive("DragMode", TDragMode::dmManual)
+          .Passive("Enabled", true)
+          .Passive("HelpContext", 0)
+          .Passive<QString>("HelpKeyword")
+          .Passive("HelpType", THelpType::htContext)
+          .Passive<QString>("Hint")
+          .Passive("Layout", TTextLayout::tlTop)
+          .Passive("ParentBiDiMode", true)
+          .Passive("ParentColor", true)
+          .Passive("ParentShowHint", true)
+          .Passive("ShowAccelChar", true)
+          .Passive("ShowHint", false)
+          .Passive("StyleElements",
+                   TStyleElements{TStyleElement::seFont, TStyleElement::seClient, TStyleElement::seBorder})
+          .Passive<QString>("StyleName")
+          .Passive("Transparent", true)
+          .Passive("Visible", true)
+          .Passive("WordWrap", false)
+          .Event("OnClick")
+          .Event("OnContextPopup", "TContextPopupEvent")
+          .Event("OnDblClick")
+          .Event("OnDragDrop", "TDragDropEvent")
+          .Event("OnDragOver", "TDragOverEvent")
+          .Event("OnEndDrag", "TEndDragEvent")
+          .Event("OnMouseActivate", "TMouseActivateEvent")
+          .Event("OnMouseDown", "TMouseEvent")
+          .Event("OnMouseEnter")
+          .Event("OnMouseLeave")
+          .Event("OnMouseMove", "TMouseMoveEvent")
+          .Event("OnMouseUp", "TMouseEvent")
+          .Event("OnStartDrag", "TStartDragEvent")
           .StreamedPassive("Width", 0)
           .StreamedPassive("Height", 0));
   return cls;

@@ -1,6 +1,7 @@
 #include "vcl/Layout.h"
 
 #include <algorithm>
+#include <cstdint>
 
 namespace {
 // How far along its axis a control stands from the edge it is aligned to. What only changed its size keeps
@@ -23,11 +24,23 @@ int Distance(TAlign align, const QRect& r) {
 struct Span {
   int from, size;
 };
-// Where an anchored control is drawn to when an edge moves: with one edge, stretched between both, or with
-// the middle.
+// Where an anchored control is drawn to when an edge moves: with one edge, or stretched between both. What no
+// edge holds keeps the ratio in which its middle stands, for which the room counts.
 Span AnchoredSpan(bool near, bool far, int room) {
   if (near) return {0, far ? room : 0};
-  return {far ? room : room / 2, 0};
+  return {room, 0};
+}
+
+// The near edge of what no edge holds.
+int Floated(int from, int size, int before, int after) {
+  if (before <= 0 || before == after) return from;
+  const std::int64_t middle = from + size / 2, half = middle < 0 ? -before / 2 : before / 2;
+  return static_cast<int>((middle * after + half) / before) - size / 2;
+}
+
+bool Floats(const Placement& was, const Placement& now, TAnchorKind near, TAnchorKind far) {
+  const auto held = [&](const Placement& p) { return p.anchors.Contains(near) || p.anchors.Contains(far); };
+  return now.anchored && was.anchored && !held(was) && !held(now);
 }
 
 void PlaceAnchored(Placement& p, QSize room) {
@@ -103,8 +116,13 @@ QRect NewBounds(const Placement* was, const Placement& now, const QMargins& disc
   const auto size = [](bool owned, bool wasOwned, int stands, int before, int after) {
     return owned ? stands : wasOwned ? std::max(after, 0) : MovedByDifference(stands, before, after, true);
   };
-  return {MovedByDifference(placed.left(), was->left, now.left, false),
-          MovedByDifference(placed.top(), was->top, now.top, false),
+  const int left = Floats(*was, now, TAnchorKind::akLeft, TAnchorKind::akRight)
+                       ? Floated(own.left(), own.width(), was->left, now.left)
+                       : MovedByDifference(placed.left(), was->left, now.left, false);
+  const int top = Floats(*was, now, TAnchorKind::akTop, TAnchorKind::akBottom)
+                      ? Floated(own.top(), own.height(), was->top, now.top)
+                      : MovedByDifference(placed.top(), was->top, now.top, false);
+  return {left, top,
           now.ownsPlace ? MovedByDifference(own.width(), was->width, now.width, true)
                         : size(keepsWidth, was->ownsWidth, keepsWidth ? own.width() : placed.width(),
                                was->width, now.width),

@@ -11,7 +11,16 @@ const TClass& TCustomListBox::StaticClass() {
   static const TClass cls(DescribeClass<TCustomListBox>("TCustomListBox", TCustomListControl::StaticClass())
                               .DeclaredAll(AutoComplete, BorderStyle, Columns, ExtendedSelect, IntegralHeight,
                                            ItemHeight, ItemIndex, Items, ScrollWidth, Sorted, Style, TabWidth,
-                                           TopIndex));
+                                           TopIndex)
+                              .DeclaredPassive("AutoCompleteDelay", 500)
+                              .DeclaredPassive("ClickOnSelChange", true)
+                              .DeclaredPassive("Options", TListBoxOptions{TListBoxOption::lboDrawFocusRect})
+                              .DeclaredEvent("OnData", "TLBGetDataEvent")
+                              .DeclaredEvent("OnDataFind", "TLBFindDataEvent")
+                              .DeclaredEvent("OnDataObject", "TLBGetDataObjectEvent")
+                              .DeclaredEvent("OnDrawItem", "TDrawItemEvent")
+                              .DeclaredEvent("OnMeasureItem", "TMeasureItemEvent")
+                              .DeclaredEvent("OnSelectionChange", "TSelectionChangeEvent"));
   return cls;
 }
 
@@ -48,13 +57,23 @@ void TCustomListBox::Paint(TCanvas& canvas) {
   }
 }
 
+namespace {
+// What both kinds of lists publish.
+constexpr const char* ListProperties[] = {
+    "AutoComplete",   "AutoCompleteDelay", "BorderStyle", "ClickOnSelChange", "Columns",
+    "ExtendedSelect", "IntegralHeight",    "ItemHeight",  "ItemIndex",        "Items",
+    "MultiSelect",    "Options",           "ScrollWidth", "Sorted",           "Style",
+    "TabWidth",       "TopIndex"};
+constexpr const char* ListEvents[] = {"OnData",     "OnDataFind",    "OnDataObject",
+                                      "OnDrawItem", "OnMeasureItem", "OnSelectionChange"};
+}  // namespace
+
 const TClass& TListBox::StaticClass() {
   static const TClass cls(
       DescribeClass<TListBox>("TListBox", TCustomListBox::StaticClass())
           .PublishAll(Placing, Lettering, Hints, Placement, Direction, Dragging, Bevels, Windowed, Help,
-                      Input, Styling, WheelEvents, "AutoComplete", "BorderStyle", "Columns", "ExtendedSelect",
-                      "IntegralHeight", "ItemHeight", "ItemIndex", "Items", "MultiSelect", "ScrollWidth",
-                      "Sorted", "Style", "TabWidth", MouseEvents, KeyEvents, FocusEvents, DragEvents)
+                      Input, Styling, WheelEvents, ListProperties, ListEvents, MouseEvents, KeyEvents,
+                      FocusEvents, DragEvents)
           .Publish("Color", clWindow)
           .Publish("ParentColor", false)
           .Publish("TabStop", true)
@@ -70,9 +89,8 @@ const TClass& TCheckListBox::StaticClass() {
   static const TClass cls(
       DescribeClass<TCheckListBox>("TCheckListBox", TCustomListBox::StaticClass())
           .PublishAll(Placing, Lettering, Hints, Placement, Direction, Dragging, Bevels, Windowed, Help,
-                      Input, Styling, WheelEvents, "AutoComplete", "BorderStyle", "Columns", "ExtendedSelect",
-                      "IntegralHeight", "ItemHeight", "ItemIndex", "Items", "MultiSelect", "ScrollWidth",
-                      "Sorted", "Style", "TabWidth", MouseEvents, KeyEvents, FocusEvents, DragEvents)
+                      Input, Styling, WheelEvents, ListProperties, ListEvents, MouseEvents, KeyEvents,
+                      FocusEvents, DragEvents)
           .PublishedAll(AllowGrayed, Flat, HeaderBackgroundColor, HeaderColor)
           .Publish("Color", clWindow)
           .Publish("ParentColor", false)

@@ -14,6 +14,11 @@ enum class TListBoxStyle : std::uint8_t {
 VRX_ENUM(TListBoxStyle,
          {"lbStandard", "lbOwnerDrawFixed", "lbOwnerDrawVariable", "lbVirtual", "lbVirtualOwnerDraw"})
 
+enum class TListBoxOption : std::uint8_t { lboDrawFocusRect };
+VRX_ENUM(TListBoxOption, {"lboDrawFocusRect"})
+using TListBoxOptions = TSet<TListBoxOption>;
+VRX_SET(TListBoxOptions, TListBoxOption)
+
 class TCustomListBox : public TCustomListControl {
   VRX_CLASS(TCustomListBox)
  public:

@@ -34,13 +34,18 @@ const TClass& TListColumns::StaticClass() {
 
 const TClass& TListGroup::StaticClass() {
   static const TClass cls(DescribeClass<TListGroup>("TListGroup", TCollectionItem::StaticClass())
-                              .Passive<QString>("Footer")
-                              .Passive("FooterAlign", TAlignment::taLeftJustify)
-                              .Passive("GroupID", -1)
                               .Published(Header)
+                              .Passive<QString>("Footer")
+                              .Passive("GroupID", -1)
+                              .Passive("State", TListGroupStateSet{TListGroupState::lgsNormal})
                               .Passive("HeaderAlign", TAlignment::taLeftJustify)
+                              .Passive("FooterAlign", TAlignment::taLeftJustify)
                               .Passive<QString>("Subtitle")
-                              .Passive("TitleImage", -1));
+                              .Passive<QString>("TopDescription")
+                              .Passive<QString>("BottomDescription")
+                              .Passive("TitleImage", -1)
+                              .Passive("ExtendedImage", -1)
+                              .Passive<QString>("SubsetTitle"));
   return cls;
 }
 

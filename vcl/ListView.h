@@ -21,6 +21,22 @@ VRX_ENUM(TSortDirection, {"sdAscending", "sdDescending"})
 enum class TSortIndicator : std::uint8_t { siNone, siAscending, siDescending };
 VRX_ENUM(TSortIndicator, {"siNone", "siAscending", "siDescending"})
 
+enum class TListGroupState : std::uint8_t {
+  lgsNormal,
+  lgsHidden,
+  lgsCollapsed,
+  lgsNoHeader,
+  lgsCollapsible,
+  lgsFocused,
+  lgsSelected,
+  lgsSubseted,
+  lgsSubSetLinkFocused
+};
+VRX_ENUM(TListGroupState, {"lgsNormal", "lgsHidden", "lgsCollapsed", "lgsNoHeader", "lgsCollapsible",
+                           "lgsFocused", "lgsSelected", "lgsSubseted", "lgsSubSetLinkFocused"})
+using TListGroupStateSet = TSet<TListGroupState>;
+VRX_SET(TListGroupStateSet, TListGroupState)
+
 class TListColumn : public TCollectionItem {
   VRX_CLASS(TListColumn)
  public:

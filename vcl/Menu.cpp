@@ -2,6 +2,18 @@
 
 #include "rtl/Class.h"
 #include "vcl/Action.h"
+#include "vcl/GlyphShowMode.h"
+
+enum class TMenuAnimations : std::uint8_t {
+  maLeftToRight,
+  maRightToLeft,
+  maTopToBottom,
+  maBottomToTop,
+  maNone
+};
+VRX_ENUM(TMenuAnimations, {"maLeftToRight", "maRightToLeft", "maTopToBottom", "maBottomToTop", "maNone"})
+using TMenuAnimation = TSet<TMenuAnimations>;
+VRX_SET(TMenuAnimation, TMenuAnimations)
 
 const TClass& TMenuItem::StaticClass() {
   static const TClass cls(
@@ -9,6 +21,10 @@ const TClass& TMenuItem::StaticClass() {
           .PublishedAll(Action, AutoCheck, AutoHotkeys, AutoLineReduction, Bitmap, Break, Caption, Checked,
                         Default, Enabled, GroupIndex, HelpContext, Hint, ImageIndex, ImageName, RadioItem,
                         ShortCut, SubMenuImages, Visible)
+          .Passive("GlyphShowMode", TGlyphShowMode::gsmApplication)
+          .Passive("RightJustify", false)
+          .Passive("ShowAlwaysCheckable", false)
+          .Passive("SubMenuImagesWidth", 0)
           .Event("OnAdvancedDrawItem", "TAdvancedMenuDrawItemEvent")
           .Event("OnClick")
           .Event("OnDrawItem", "TMenuDrawItemEvent")
@@ -30,7 +46,8 @@ bool TMenu::TakesNested(const TNestedComponent& other) const { return As<TMenuIt
 
 const TClass& TMenu::StaticClass() {
   static const TClass cls(DescribeClass<TMenu>("TMenu", TNestedComponent::StaticClass())
-                              .PublishedAll(AutoHotkeys, AutoLineReduction, Images, OwnerDraw));
+                              .PublishedAll(AutoHotkeys, AutoLineReduction, Images, OwnerDraw)
+                              .Passive("ImagesWidth", 0));
   return cls;
 }
 
@@ -52,6 +69,7 @@ const TClass& TPopupMenu::StaticClass() {
                               .Passive("AutoPopup", true)
                               .Passive("BiDiMode", TBiDiMode::bdLeftToRight)
                               .Passive("HelpContext", 0)
+                              .Passive("MenuAnimation", TMenuAnimation{})
                               .Passive("ParentBiDiMode", true)
                               .Passive("TrackButton", TTrackButton::tbRightButton)
                               .Event("OnChange", "TMenuChangeEvent")

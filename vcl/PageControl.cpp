@@ -96,7 +96,10 @@ const TClass& TPageControl::StaticClass() {
                       "RaggedRight", "ScrollOpposite", "ShowTabs", "Style", "TabHeight", "TabPosition",
                       "TabWidth", "OnChange", "OnChanging", "OnDrawTab", "OnGetImageIndex", MouseEvents,
                       FocusEvents, DragEvents)
+          .Passive("ImagesWidth", 0)
+          .Passive("Options", TCTabControlOptions{})
           .Publish("TabStop", true)
+          .Event("OnCloseTabClicked")
           .Alphabetical()
           .ClassDoc(
               QStringLiteral("Pages behind tabs."),

@@ -5,6 +5,19 @@
 
 class TPageControl;
 
+enum class TCTabControlOption : std::uint8_t {
+  nboShowCloseButtons,
+  nboMultiLine,
+  nboHidePageListPopup,
+  nboKeyboardTabSwitch,
+  nboShowAddTabButton,
+  nboDoChangeOnSetIndex
+};
+VRX_ENUM(TCTabControlOption, {"nboShowCloseButtons", "nboMultiLine", "nboHidePageListPopup",
+                              "nboKeyboardTabSwitch", "nboShowAddTabButton", "nboDoChangeOnSetIndex"})
+using TCTabControlOptions = TSet<TCTabControlOption>;
+VRX_SET(TCTabControlOptions, TCTabControlOption)
+
 class TTabSheet : public TWinControl {
   VRX_CLASS(TTabSheet)
  public:

@@ -9,7 +9,10 @@ const TClass& TProgressBar::StaticClass() {
       DescribeClass<TProgressBar>("TProgressBar", TWinControl::StaticClass())
           .PublishAll(Placing, Lettering, "Color", ParentLook, Hints, Placement, Direction, Dragging,
                       Windowed, Help, Styling, "TabStop", WheelEvents, MouseEvents, FocusEvents, DragEvents)
-          .PublishedAll(BarShowText, Max, Min, Orientation, Position, Style)
+          .PublishedAll(BarShowText, Orientation, Style)
+          .Published("Max", &TProgressBar::MaxOf, &TProgressBar::SetMax, 100)
+          .Published("Min", &TProgressBar::MinOf, &TProgressBar::SetMin, 0)
+          .Published("Position", &TProgressBar::PositionOf, &TProgressBar::SetPosition, 0)
           .Passive("BackgroundColor", clDefault)
           .Passive("BarColor", clDefault)
           .Passive("BorderWidth", 0)

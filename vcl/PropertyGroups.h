@@ -12,11 +12,12 @@ inline constexpr const char* MouseEvents[] = {"OnClick",      "OnDblClick",  "On
 inline constexpr const char* MouseButtonEvents[] = {"OnMouseDown", "OnMouseMove", "OnMouseUp"};
 inline constexpr const char* KeyEvents[] = {"OnKeyDown", "OnKeyPress", "OnKeyUp"};
 inline constexpr const char* FocusEvents[] = {"OnEnter", "OnExit"};
-inline constexpr const char* Placement[] = {"AlignWithMargins", "Constraints", "Margins"};
+inline constexpr const char* Placement[] = {"AlignWithMargins", "Constraints", "CustomHint", "Margins",
+                                            "ParentCustomHint"};
 inline constexpr const char* Direction[] = {"BiDiMode", "ParentBiDiMode"};
-inline constexpr const char* Dragging[] = {"DragCursor", "DragKind", "DragMode"};
-inline constexpr const char* DragEvents[] = {"OnContextPopup", "OnDragDrop",  "OnDragOver", "OnEndDock",
-                                             "OnEndDrag",      "OnStartDock", "OnStartDrag"};
+inline constexpr const char* Dragging[] = {"DragCursor", "DragKind", "DragMode", "Touch"};
+inline constexpr const char* DragEvents[] = {"OnContextPopup", "OnDragDrop", "OnDragOver",  "OnEndDock",
+                                             "OnEndDrag",      "OnGesture",  "OnStartDock", "OnStartDrag"};
 inline constexpr const char* WheelEvents[] = {"OnMouseActivate", "OnMouseWheel", "OnMouseWheelDown",
                                               "OnMouseWheelUp"};
 inline constexpr const char* Help[] = {"HelpContext", "HelpKeyword", "HelpType"};

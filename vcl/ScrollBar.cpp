@@ -11,7 +11,10 @@ const TClass& TScrollBar::StaticClass() {
           .Published("Kind", &TScrollBar::Kind, &TScrollBar::SetKind, TScrollBarKind::sbHorizontal)
           .PublishAll(Placing, "Enabled", Hints, Placement, Direction, Dragging, Windowed, Help, Styling,
                       MouseEvents, KeyEvents, FocusEvents, DragEvents)
-          .PublishedAll(Max, Min, PageSize, Position)
+          .Published(PageSize)
+          .Published("Max", &TScrollBar::MaxOf, &TScrollBar::SetMax, 100)
+          .Published("Min", &TScrollBar::MinOf, &TScrollBar::SetMin, 0)
+          .Published("Position", &TScrollBar::PositionOf, &TScrollBar::SetPosition, 0)
           .Passive("LargeChange", std::uint16_t{1})
           .Passive("SmallChange", std::uint16_t{1})
           .Publish("TabStop", true)

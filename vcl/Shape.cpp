@@ -1,18 +1,66 @@
 #include "vcl/Shape.h"
 
+#include <QPolygonF>
+#include <cmath>
+
 #include "vcl/PropertyGroups.h"
 
 const TClass& TShape::StaticClass() {
   static const TClass cls(
       DescribeClass<TShape>("TShape", TGraphicControl::StaticClass())
-          .PublishAll(Placing, Dragging, Hints, "Enabled", "Visible", MouseButtonEvents, DragEvents)
+          .PublishAll(Placing, Placement, Dragging, Help, Hints, Styling, "Enabled", "PopupMenu", "Visible",
+                      MouseEvents, WheelEvents, DragEvents)
           .PublishedAll(Brush, Pen, Shape)
+          .Event("OnPaint")
+          .Event("OnShapeClick")
+          .Event("OnShapePoints", "TShapePointsEvent")
           .Alphabetical()
           .ClassDoc(
               QStringLiteral("A rectangle, an ellipse or something between."),
               "pen line 1.5 brush fill oval 8.5 8.5 12 12 pen accent 1.5 brush none box 3.5 3.5 11 11 0"));
   return cls;
 }
+
+namespace {
+// Ten corners, of which every second one is drawn in.
+QPolygonF Star(const QRectF& r, double first) {
+  constexpr int corners = 10;
+  constexpr double inner = 0.38;
+  QPolygonF star;
+  for (int i = 0; i < corners; ++i) {
+    const double angle = first + i * 2 * M_PI / corners, reach = i % 2 == 0 ? 1 : inner;
+    star << r.center() +
+                QPointF(std::sin(angle) * reach * r.width() / 2, -std::cos(angle) * reach * r.height() / 2);
+  }
+  return star;
+}
+
+// Of shapes that have corners only; the program gives those of a polygon.
+QPolygonF CornersOf(TShapeType shape, const QRectF& r) {
+  const QPointF c = r.center();
+  const QPointF left(r.left(), c.y()), right(r.right(), c.y()), top(c.x(), r.top()),
+      bottom(c.x(), r.bottom());
+  switch (shape) {
+    case TShapeType::stSquaredDiamond:
+    case TShapeType::stDiamond:
+      return {{top, right, bottom, left}};
+    case TShapeType::stTriangle:
+      return {{top, r.bottomRight(), r.bottomLeft()}};
+    case TShapeType::stTriangleLeft:
+      return {{left, r.topRight(), r.bottomRight()}};
+    case TShapeType::stTriangleRight:
+      return {{right, r.bottomLeft(), r.topLeft()}};
+    case TShapeType::stTriangleDown:
+      return {{bottom, r.topLeft(), r.topRight()}};
+    case TShapeType::stStar:
+      return Star(r, 0);
+    case TShapeType::stStarDown:
+      return Star(r, M_PI);
+    default:
+      return {};
+  }
+}
+}  // namespace
 
 TShape::TShape(TComponent* owner) : TGraphicControl(owner) { SetBounds(0, 0, 65, 65); }
 
@@ -23,7 +71,7 @@ void TShape::Paint(TCanvas& canvas) {
   const double half = pen.style() == Qt::NoPen ? 0 : pen.widthF() / 2;
   QRectF r = QRectF(ClientRect()).adjusted(half, half, -half, -half);
   using enum TShapeType;
-  if (shape == stSquare || shape == stRoundSquare || shape == stCircle) {
+  if (shape == stSquare || shape == stRoundSquare || shape == stCircle || shape == stSquaredDiamond) {
     const double side = std::min(r.width(), r.height());
     r = QRectF(r.center() - QPointF(side, side) / 2, QSizeF(side, side));
   }
@@ -31,6 +79,7 @@ void TShape::Paint(TCanvas& canvas) {
   p.setPen(pen);
   p.setBrush(ToQBrush(*Get(Brush)));
   if (shape == stEllipse || shape == stCircle) return p.drawEllipse(r);
+  if (const QPolygonF corners = CornersOf(shape, r); !corners.isEmpty()) return p.drawPolygon(corners);
   const double round =
       shape == stRoundRect || shape == stRoundSquare ? std::min(r.width(), r.height()) / 8 : 0;
   p.drawRoundedRect(r, round, round);
@@ -39,7 +88,7 @@ void TShape::Paint(TCanvas& canvas) {
 const TClass& TBevel::StaticClass() {
   static const TClass cls(
       DescribeClass<TBevel>("TBevel", TGraphicControl::StaticClass())
-          .PublishAll(Placing, Hints, "Visible")
+          .PublishAll(Placing, Placement, Help, Hints, "Visible")
           .PublishedAll(Shape, Style)
           .Alphabetical()
           .ClassDoc(QStringLiteral("A line or a frame that divides."),

@@ -10,9 +10,20 @@ enum class TShapeType : std::uint8_t {
   stRoundRect,
   stRoundSquare,
   stEllipse,
-  stCircle
+  stCircle,
+  stSquaredDiamond,
+  stDiamond,
+  stTriangle,
+  stTriangleLeft,
+  stTriangleRight,
+  stTriangleDown,
+  stStar,
+  stStarDown,
+  stPolygon
 };
-VRX_ENUM(TShapeType, {"stRectangle", "stSquare", "stRoundRect", "stRoundSquare", "stEllipse", "stCircle"})
+VRX_ENUM(TShapeType, {"stRectangle", "stSquare", "stRoundRect", "stRoundSquare", "stEllipse", "stCircle",
+                      "stSquaredDiamond", "stDiamond", "stTriangle", "stTriangleLeft", "stTriangleRight",
+                      "stTriangleDown", "stStar", "stStarDown", "stPolygon"})
 enum class TBevelShape : std::uint8_t {
   bsBox,
   bsFrame,

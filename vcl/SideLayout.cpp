@@ -2,6 +2,11 @@
 
 #include "rtl/Class.h"
 
+const TTypeInfo& TypeInfoOf<THandler>::Get() {
+  static const TTypeInfo info = MethodType("TNotifyEvent");
+  return info;
+}
+
 const TClass& TAnchorSide::StaticClass() {
   static const TClass cls(DescribeClass<TAnchorSide>("TAnchorSide", TPersistent::StaticClass())
                               .Published(Control)

@@ -25,6 +25,12 @@ enum class TControlChildrenLayout : std::uint8_t {
 VRX_ENUM(TControlChildrenLayout,
          {"cclNone", "cclLeftToRightThenTopToBottom", "cclTopToBottomThenLeftToRight"})
 
+// Handlers that only one of the two families knows.
+template <>
+struct TypeInfoOf<THandler> {
+  static const TTypeInfo& Get();
+};
+
 // What an edge of a control is tied to.
 class TAnchorSide : public TKeptPart {
   VRX_CLASS(TAnchorSide)

@@ -13,9 +13,9 @@ const TClass& TSplitter::StaticClass() {
       DescribeClass<TSplitter>("TSplitter", TGraphicControl::StaticClass())
           .Published("Align", &TSplitter::Direction, &TSplitter::SetDirection, TAlign::alLeft)
           .PublishAll("Anchors", "Color", "Constraints", "Enabled", ParentLook, "Font", Hints, "PopupMenu",
-                      "StyleElements", "StyleName", "AlignWithMargins", "Margins", "Visible", "OnClick",
-                      "OnDblClick", "OnMouseDown", "OnMouseEnter", "OnMouseLeave", "OnMouseMove", "OnMouseUp",
-                      "OnResize", WheelEvents)
+                      "StyleElements", "StyleName", Placement, Help, "Visible", "OnClick", "OnDblClick",
+                      "OnMouseDown", "OnMouseEnter", "OnMouseLeave", "OnMouseMove", "OnMouseUp", "OnResize",
+                      WheelEvents)
           .Published(Beveled)
           .Publish("Cursor", Across)
           .Passive("AutoSnap", true)

@@ -1,6 +1,10 @@
 #include "vcl/StandardActions.h"
 
+#include <algorithm>
 #include <array>
+
+#include "vcl/DialogParts.h"
+#include "vcl/TabControl.h"
 
 namespace {
 constexpr auto Rows = std::to_array<TStandardActionRow>({
@@ -46,13 +50,78 @@ constexpr auto Rows = std::to_array<TStandardActionRow>({
     {"TRichEditAlignCenter", "Format", "Centers paragraphs."},
 });
 
+// What some of them keep besides: the dialog that they open, and what they are told of it.
+template <class Dialog>
+TClassBuilder Asks(TClassBuilder b) {
+  return std::move(b)
+      .template Passive<Dialog*>("Dialog")
+      .Event("AfterExecute")
+      .Event("BeforeExecute")
+      .Event("OnAccept")
+      .Event("OnCancel");
+}
+TClassBuilder Opens(TClassBuilder b) {
+  return Asks<TOpenDialogPart>(std::move(b).Passive("UseDefaultApp", false));
+}
+TClassBuilder OpensWith(TClassBuilder b) {
+  return Opens(std::move(b).Passive<QString>("FileName").Event("AfterOpen"));
+}
+TClassBuilder Runs(TClassBuilder b) {
+  return std::move(b)
+      .Passive("Browse", false)
+      .Passive<TOpenDialogPart*>("BrowseDlg")
+      .Passive<QString>("Directory")
+      .Passive<QString>("FileName")
+      .Passive<QString>("Operation")
+      .Passive<TWinControl*>("ParentControl")
+      .Passive<QString>("Parameters")
+      .Event("AfterExecute")
+      .Event("BeforeExecute");
+}
+TClassBuilder SearchesOn(TClassBuilder b) { return std::move(b).Passive<TAction*>("SearchFind"); }
+TClassBuilder Pages(TClassBuilder b) {
+  return std::move(b)
+      .Passive<QString>("LastTabCaption")
+      .Passive<TCustomTabControl*>("TabControl")
+      .Passive("Wrap", false)
+      .Event("AfterTabChange")
+      .Event("BeforeTabChange");
+}
+
+struct MoreRow {
+  const char* name;
+  TClassBuilder (*more)(TClassBuilder);
+};
+constexpr auto MoreRows = std::to_array<MoreRow>({{"TFileOpen", Opens},
+                                                  {"TFileOpenWith", OpensWith},
+                                                  {"TFileSaveAs", Asks<TOpenDialogPart>},
+                                                  {"TFilePrintSetup", Asks<TPrinterSetupDialogPart>},
+                                                  {"TFilePageSetup", Asks<TPageSetupDialogPart>},
+                                                  {"TFileRun", Runs},
+                                                  {"TSearchFind", Asks<TFindDialogPart>},
+                                                  {"TSearchFindFirst", Asks<TFindDialogPart>},
+                                                  {"TSearchFindNext", SearchesOn},
+                                                  {"TSearchReplace", Asks<TReplaceDialogPart>},
+                                                  {"TColorSelect", Asks<TColorDialogPart>},
+                                                  {"TFontEdit", Asks<TFontDialogPart>},
+                                                  {"TPrintDlg", Asks<TPrintDialogPart>},
+                                                  {"TNextTab", Pages},
+                                                  {"TPreviousTab", Pages}});
+TClassBuilder WithMore(TClassBuilder b, const char* name) {
+  const auto row = std::find_if(MoreRows.begin(), MoreRows.end(), [&](const MoreRow& r) {
+    return QByteArrayView(r.name) == QByteArrayView(name);
+  });
+  return row == MoreRows.end() ? std::move(b) : row->more(std::move(b));
+}
+
 template <std::size_t Row>
 class TStandardAction final : public TAction {
  public:
   using TAction::TAction;
   static const TClass& StaticClass() {
-    static const TClass cls(DescribeClass<TStandardAction>(Rows[Row].Name, TAction::StaticClass())
-                                .ClassDoc(QString::fromLatin1(Rows[Row].Purpose)));
+    static const TClass cls(
+        WithMore(DescribeClass<TStandardAction>(Rows[Row].Name, TAction::StaticClass()), Rows[Row].Name)
+            .ClassDoc(QString::fromLatin1(Rows[Row].Purpose)));
     return cls;
   }
   const TClass& ClassType() const override { return StaticClass(); }

@@ -39,6 +39,5 @@ class TStatusBar : public TWinControl {
 
   // Where the panels stand; the last one reaches to the end of the bar.
   std::vector<QRect> PanelRects() const;
-  bool AcceptsControls() const override { return true; }
   void Paint(TCanvas& canvas) override;
 };

@@ -4,6 +4,7 @@
 
 #include "rtl/Class.h"
 #include "vcl/Action.h"
+#include "vcl/AsGiven.h"
 #include "vcl/GlyphButton.h"
 #include "vcl/Painters.h"
 #include "vcl/PropertyGroups.h"
@@ -17,9 +18,9 @@ const TClass& TToolButton::StaticClass() {
           .StoredIf(&TToolButton::WidthStored)
           .Published("Height", &TToolButton::OwnHeight, &TToolButton::SetOwnHeight)
           .StoredIf(&TToolButton::HeightStored)
-          .PublishAll("Action", "AutoSize", "Caption", Dragging, "Enabled", Hints, "ParentCustomHint",
+          .PublishAll("Action", "AutoSize", "Caption", Dragging, "Enabled", Help, Hints, Placement,
                       "PopupMenu", "Visible", "StyleElements", "OnClick", "OnContextPopup", "OnDragDrop",
-                      "OnDragOver", "OnEndDock", "OnEndDrag", "OnMouseActivate", "OnMouseDown",
+                      "OnDragOver", "OnEndDock", "OnEndDrag", "OnGesture", "OnMouseActivate", "OnMouseDown",
                       "OnMouseEnter", "OnMouseLeave", "OnMouseMove", "OnMouseUp", "OnStartDock",
                       "OnStartDrag")
           .PublishedAll(Down, ImageIndex, Indeterminate, Marked, MenuItem, ShowCaption, Style, Wrap)
@@ -80,6 +81,41 @@ int TToolButton::ImageOf() const {
   return action ? action->Get(TCustomAction::ImageIndex) : -1;
 }
 
+bool TToolButton::ShowsCaption() const {
+  const TToolBar* bar = Bar();
+  return bar && (bar->Get(TToolBar::ShowCaptions) || Get(Style) == tbsTextButton) && Get(ShowCaption);
+}
+
+QSize TToolButton::NeededSize() const {
+  constexpr QSize around(7, 6), usualImage(16, 16);
+  constexpr int gap = 2, beside = 6, arrow = 12;
+  const TToolBar* bar = Bar();
+  const TCustomImageList* images = bar ? bar->Get(TToolBar::Images) : nullptr;
+  QSize size = images ? QSize(images->Get(TCustomImageList::Width), images->Get(TCustomImageList::Height))
+                      : usualImage;
+  if (ShowsCaption()) {
+    const QSize text = TextExtent(ShownCaption(), *Font());
+    if (bar->Get(TToolBar::List))
+      size = {(images ? size.width() + gap : 0) + text.width() + beside,
+              std::max(size.height(), text.height())};
+    else
+      size = {std::max(size.width(), text.width() + beside),
+              images ? size.height() + gap + text.height() : std::max(size.height(), text.height())};
+  }
+  if (Get(Style) == tbsDropDown || Get(Style) == tbsButtonDrop) size.rwidth() += arrow;
+  return size + around;
+}
+
+void TToolButton::DoChanging() {
+  if (TToolBar* bar = IsLoading() ? nullptr : Bar()) bar->BeginNeed();
+  TGraphicControl::DoChanging();
+}
+
+void TToolButton::DoChanged() {
+  TGraphicControl::DoChanged();
+  if (TToolBar* bar = IsLoading() ? nullptr : Bar()) bar->EndNeed();
+}
+
 void TToolButton::Paint(TCanvas& canvas) {
   const QRect all = ClientRect();
   if (IsSeparator()) {
@@ -107,9 +143,7 @@ void TToolButton::Paint(TCanvas& canvas) {
   const TCustomImageList* disabled = bar ? bar->Get(TToolBar::DisabledImages) : nullptr;
   if (const TCustomImageList* list = !Enabled() && disabled ? disabled : images)
     what.glyph = list->Image(ImageOf());
-  const bool text =
-      bar && (bar->Get(TToolBar::ShowCaptions) || Get(Style) == tbsTextButton) && Get(ShowCaption);
-  if (text) what.text = ShownCaption();
+  if (ShowsCaption()) what.text = ShownCaption();
   what.layout = bar && bar->Get(TToolBar::List) ? TButtonLayout::blGlyphLeft : TButtonLayout::blGlyphTop;
   what.spacing = 2;
   PaintFace(canvas, face, what, *Font(), Enabled());
@@ -190,7 +224,8 @@ void TToolBar::ArrangeControls(Placements& all, const QRect& client, const QMarg
     const auto* button = dynamic_cast<const TToolButton*>(p.control);
     const bool shown = p.takesPart;
     int width = p.stands.width();
-    if (button && !button->IsSeparator()) width = Get(ButtonWidth);
+    if (button && !button->IsSeparator())
+      width = button->AutoSize() ? button->NeededSize().width() : Get(ButtonWidth);
     if (shown && x > start && (full || (Get(Wrapable) && x + width > room.left() + room.width()))) {
       x = start;
       y += Get(ButtonHeight);
@@ -207,6 +242,41 @@ void TToolBar::ArrangeControls(Placements& all, const QRect& client, const QMarg
     }
     if (shown) x += width;
   }
+}
+
+std::optional<QSize> TToolBar::NeededSize() const {
+  std::optional<QSize> needed;
+  for (const TControl* c : Controls())
+    if (const auto* button = dynamic_cast<const TToolButton*>(c); button && !button->IsSeparator()) {
+      QSize size = button->NeededSize();
+      if (button->AutoSize()) size.setWidth(0);  // it has a width of its own
+      needed = needed ? needed->expandedTo(size) : size;
+    }
+  return needed;
+}
+
+void TToolBar::BeginNeed() {
+  if (!needed_ && !IsDestroying() && !TakesAsGiven(*this)) needed_ = NeededSize();
+}
+
+void TToolBar::EndNeed() {
+  const std::optional<QSize> before = std::exchange(needed_, {});
+  if (!before || IsDestroying() || TakesAsGiven(*this)) return;
+  const std::optional<QSize> after = NeededSize();
+  if (!after || after == before) return;
+  const TUpdateLock once(*this);
+  Set(ButtonWidth, MovedByDifference(Get(ButtonWidth), before->width(), after->width(), true));
+  Set(ButtonHeight, MovedByDifference(Get(ButtonHeight), before->height(), after->height(), true));
+}
+
+void TToolBar::DoChanging() {
+  BeginNeed();
+  TWinControl::DoChanging();
+}
+
+void TToolBar::DoChanged() {
+  TWinControl::DoChanged();
+  EndNeed();
 }
 
 QSize TToolBar::AutoSizeHint() const {

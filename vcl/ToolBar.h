@@ -49,8 +49,15 @@ class TToolButton : public TGraphicControl {
   void Paint(TCanvas& canvas) override;
   void BeginLoading() override;
 
+ protected:
+  void DoChanging() override;
+  void DoChanged() override;
+
  private:
   friend class TToolBar;
+  bool ShowsCaption() const;
+  // What the picture and the text take, with the room around them.
+  QSize NeededSize() const;
   // The sides that the bar gives its buttons are not in the file.
   bool WidthStored() const;
   bool HeightStored() const;
@@ -89,4 +96,15 @@ class TToolBar : public TWinControl {
 
  protected:
   QSize AutoSizeHint() const override;
+  void DoChanging() override;
+  void DoChanged() override;
+
+ private:
+  friend class TToolButton;
+  // Where texts are shown the buttons are as large as the largest of them: what a change makes them need more
+  // or less, they get.
+  std::optional<QSize> NeededSize() const;
+  void BeginNeed();
+  void EndNeed();
+  std::optional<QSize> needed_;
 };

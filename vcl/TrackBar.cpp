@@ -9,8 +9,12 @@ const TClass& TTrackBar::StaticClass() {
       DescribeClass<TTrackBar>("TTrackBar", TWinControl::StaticClass())
           .PublishAll(Placing, Look, ParentLook, Hints, Placement, Direction, Dragging, Windowed, Help,
                       Styling, WheelEvents, MouseEvents, KeyEvents, FocusEvents, DragEvents)
-          .PublishedAll(Frequency, Max, Min, Orientation, Position, Reversed, SliderVisible, TickMarks,
-                        TickStyle)
+          .PublishedAll(Frequency, Reversed, SliderVisible, TickMarks, TickStyle)
+          .Published("Orientation", &TTrackBar::OrientationOf, &TTrackBar::SetOrientation,
+                     TTrackBarOrientation::trHorizontal)
+          .Published("Max", &TTrackBar::MaxOf, &TTrackBar::SetMax, 10)
+          .Published("Min", &TTrackBar::MinOf, &TTrackBar::SetMin, 0)
+          .Published("Position", &TTrackBar::PositionOf, &TTrackBar::SetPosition, 0)
           .Passive("BorderWidth", 0)
           .Passive("LineSize", 1)
           .Passive("PageSize", 2)
@@ -34,6 +38,12 @@ const TClass& TTrackBar::StaticClass() {
 TTrackBar::TTrackBar(TComponent* owner) : TWinControl(owner) {
   tabStop_ = true;
   SetBounds(0, 0, 150, 45);
+}
+
+void TTrackBar::SetOrientation(TTrackBarOrientation v) {
+  if (v == Get(Orientation)) return;
+  Set(Orientation, v);
+  if (!TakesAsGiven(*this)) SetBounds(Left(), Top(), Height(), Width());
 }
 
 void TTrackBar::Paint(TCanvas& canvas) {

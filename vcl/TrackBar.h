@@ -1,6 +1,7 @@
 // Handles that are moved along a track.
 #pragma once
 #include "vcl/Control.h"
+#include "vcl/Ranged.h"
 
 enum class TTrackBarOrientation : std::uint8_t { trHorizontal, trVertical };
 VRX_ENUM(TTrackBarOrientation, {"trHorizontal", "trVertical"})
@@ -26,6 +27,17 @@ class TTrackBar : public TWinControl {
   static constexpr TKept<bool> SliderVisible{"SliderVisible", true};
   static constexpr TKept<TTickMark> TickMarks{"TickMarks", TTickMark::tmBottomRight};
   static constexpr TKept<TTickStyle> TickStyle{"TickStyle", TTickStyle::tsAuto};
+
+  TTrackBarOrientation OrientationOf() const { return Get(Orientation); }
+  // The sides change places.
+  void SetOrientation(TTrackBarOrientation v);
+  // The position stays within its ends; ends that would change places are refused.
+  int MaxOf() const { return Get(Max); }
+  void SetMax(int v) { ChangeRange(*this, Get(Min), v); }
+  int MinOf() const { return Get(Min); }
+  void SetMin(int v) { ChangeRange(*this, v, Get(Max)); }
+  int PositionOf() const { return Get(Position); }
+  void SetPosition(int v) { ChangePosition(*this, v); }
 
   void Paint(TCanvas& canvas) override;
 };

@@ -13,7 +13,10 @@ const TClass& TUpDown::StaticClass() {
                       "OnMouseUp", FocusEvents, WheelEvents)
           .Published("Associate", &TUpDown::Associate, &TUpDown::SetAssociate)
           .Doc(QStringLiteral("The field whose number the arrows change."))
-          .PublishedAll(AlignButton, Max, Min, Orientation, Position)
+          .PublishedAll(AlignButton, Orientation)
+          .Published("Max", &TUpDown::MaxOf, &TUpDown::SetMax, 100)
+          .Published("Min", &TUpDown::MinOf, &TUpDown::SetMin, 0)
+          .Published("Position", &TUpDown::PositionOf, &TUpDown::SetPosition, 0)
           .Passive("ArrowKeys", true)
           .Passive("Flat", false)
           .Passive("Increment", 1)
@@ -31,7 +34,7 @@ const TClass& TUpDown::StaticClass() {
   return cls;
 }
 
-TUpDown::TUpDown(TComponent* owner) : TWinControl(owner) { SetBounds(0, 0, 17, 24); }
+TUpDown::TUpDown(TComponent* owner) : TWinControl(owner) { SetBounds(0, 0, 17, 25); }
 
 void TUpDown::SetAssociate(TWinControl* v) {
   if (v == Associate()) return;

@@ -1,6 +1,7 @@
 // Two arrows that count the number in a field up and down.
 #pragma once
 #include "vcl/Control.h"
+#include "vcl/Ranged.h"
 
 enum class TUDAlignButton : std::uint8_t { udLeft, udRight };
 VRX_ENUM(TUDAlignButton, {"udLeft", "udRight"})
@@ -20,6 +21,14 @@ class TUpDown : public TWinControl {
   // The field that the arrows belong to. They move to its side when somebody chooses it.
   TWinControl* Associate() const { return Get(Field); }
   void SetAssociate(TWinControl* v);
+
+  // The position stays within its ends; ends that would change places are refused.
+  int MaxOf() const { return Get(Max); }
+  void SetMax(int v) { ChangeRange(*this, Get(Min), v); }
+  int MinOf() const { return Get(Min); }
+  void SetMin(int v) { ChangeRange(*this, v, Get(Max)); }
+  int PositionOf() const { return Get(Position); }
+  void SetPosition(int v) { ChangePosition(*this, v); }
 
   void Paint(TCanvas& canvas) override;
 

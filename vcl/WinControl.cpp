@@ -7,6 +7,7 @@
 #include "vcl/Placed.h"
 
 const TClass& TWinControl::StaticClass() {
+  static const TTypeInfo keyPress = MethodType("TUTF8KeyPressEvent");
   static const TTypeInfo tabOrder = OrdinalType("TTabOrder", -1, INT16_MAX);
   static const TClass cls(
       DescribeClass<TWinControl>("TWinControl", TControl::StaticClass())
@@ -35,13 +36,14 @@ const TClass& TWinControl::StaticClass() {
           .DeclaredEvent("OnKeyPress", "TKeyPressEvent")
           .DeclaredEvent("OnKeyUp", "TKeyEvent")
           .DeclaredEvent("OnUnDock", "TUnDockEvent")
-          .DeclaredEvent("OnUTF8KeyPress", "TUTF8KeyPressEvent")
           .Streamed("ClientHeight", &TWinControl::ToldClientHeight, &TWinControl::TellClientHeight)
           .StoredIf(&TWinControl::ClientHeightTold)
           .Streamed("ClientWidth", &TWinControl::ToldClientWidth, &TWinControl::TellClientWidth)
           .StoredIf(&TWinControl::ClientWidthTold)
           .Streamed(ChildSizing)
-          .StreamedPassive<TValueList*>("DesignSize"));
+          .StreamedPassive<TValueList*>("DesignSize")
+          .StreamedPassive<THandler>("OnUTF8KeyPress")
+          .Type(keyPress));
   return cls;
 }
 

@@ -6,10 +6,12 @@
 #include "package/registration/VRX_RegMain.h"
 #include "rtl/ClassRegistry.h"
 #include "rtl/Collection.h"
+#include "rtl/Exceptions.h"
 #include "rtl/PropAccess.h"
 #include "rtl/PropText.h"
 #include "rtl/Strings.h"
 #include "rtl/ValueList.h"
+#include "vcl/GroupBox.h"
 #include "vcl/PictureFile.h"
 #include "vcl/Region.h"
 
@@ -43,6 +45,9 @@ Stage::Stage(const TClass& cls) : form(new TForm(nullptr)) {
     subject->SetName(QStringLiteral("Subject"));
     subject->SetParentComponent(form.get());
   }
+  // So that there is something to choose.
+  if (auto* group = As<TChoiceGroup>(subject))
+    for (int i = 0; i < 12; ++i) group->Get(TChoiceGroup::Items)->Add(QString::number(i));
   // From here on: a caption that follows the name is not the default.
   form->SetDesigning(true);
   subject->SetDesigning(true);
@@ -112,8 +117,15 @@ bool SetAnotherOrdinal(TPersistent& instance, const TPropInfo& prop, unsigned tu
   std::erase_if(candidates,
                 [&](std::int64_t v) { return v == now || v < type.MinValue || v > type.MaxValue; });
   if (candidates.empty()) return false;
-  SetOrdProp(instance, prop, candidates[turn % candidates.size()]);
-  return true;
+  // Some are refused because of what other values are.
+  for (std::size_t i = 0; i < candidates.size(); ++i) {
+    try {
+      SetOrdProp(instance, prop, candidates[(turn + i) % candidates.size()]);
+      return true;
+    } catch (const EPropertyError&) {
+    }
+  }
+  return false;
 }
 
 // Bytes of the kind that the property takes: a picture or region data.

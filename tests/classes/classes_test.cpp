@@ -233,8 +233,9 @@ TEST_P(EveryClass, HasAnIconThatCanBeRead) {
 TEST_P(EveryClass, ResettingAPartResetsAllOfIt) {
   for (const TPropInfo* prop : Class().Properties()) {
     if (prop->Kind() != TTypeKind::tkClass || IsComponentRef(*prop)) continue;
-    Stage stage(Class());
-    const bool atDefault = IsDefaultValue(*stage.subject, *prop);
+    Stage stage(Class()), untouched(Class());
+    ResetProp(*untouched.subject, *prop);
+    const bool atDefault = IsDefaultValue(*untouched.subject, *prop);
     for (const QByteArray& path : ValuePaths(*stage.subject))
       if (path == prop->Name || path.startsWith(prop->Name + '.')) SetAnother(stage, path, 0);
     EXPECT_FALSE(IsDefaultValue(*stage.subject, *prop)) << prop->Name.constData();

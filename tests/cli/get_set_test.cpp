@@ -240,6 +240,20 @@ TEST_F(SetCli, ARefusalNamesThePathTheValuesAndTheMisfit) {
   EXPECT_TRUE(Refused({L("Note.FocusControl=Gone")}).err.contains(L("Gone, which is not on this form")));
 }
 
+TEST_F(SetCli, WhatNoClassKnowsIsSetWhereTheFormSaysIt) {
+  const QByteArray form = QByteArray(SmallForm).replace(
+      "    TabOrder = 0\n", "    Wings.Span = 4\n    Feathers = 'few'\n    TabOrder = 0\n");
+  const QString file = Write("wings.dfm", form);
+  EXPECT_EQ(Vrx({L("set"), file, L("Go.Wings.Span=12"), L("Go.Feathers='a lot'"), L("Go.Left=9")}).code, 0);
+  EXPECT_EQ(Vrx({L("get"), file, L("Go.Wings.Span")}).out, L("12\n"));
+  EXPECT_EQ(Read(file), QByteArray(form)
+                            .replace("Span = 4", "Span = 12")
+                            .replace("'few'", "'a lot'")
+                            .replace("    Left = 8\n    Top = 16", "    Left = 9\n    Top = 16"));
+  EXPECT_EQ(Vrx({L("set"), file, L("Go.Tail=1")}).code, 1);
+  EXPECT_EQ(Vrx({L("set"), file, L("Note.Feathers='none'")}).code, 1);
+}
+
 // Names of files may look like options.
 TEST_F(Cli, WhatStandsBehindTwoDashesIsNoOption) {
   const QString before = QDir::currentPath();

@@ -171,6 +171,7 @@ TEST_F(ImageListEditor, ALargerPictureIsCutOrMadeSmaller) {
   QImage wide(24, 8, QImage::Format_ARGB32);
   wide.fill(Qt::red);
   QPainter(&wide).fillRect(12, 0, 12, 8, Qt::blue);
+  for (const int x : {0, 12}) wide.setPixelColor(x, 0, Qt::transparent);
   prompts.files = {FileOf(wide, "wide.png")};
   Run([](ImageListDialog& dialog) {
     Click(dialog.clear);
@@ -295,6 +296,17 @@ TEST_F(ImageListEditor, OpensOnTheFirstPictureOnQuietGroundInBothThemes) {
       EXPECT_EQ(ground.size(), 2) << "where the picture is transparent";
     });
   }
+}
+
+TEST_F(ImageListEditor, APictureThatCouldBeTransparentAndIsNotLeavesOutItsCornersColour) {
+  prompts.files = {FileOf(OnFuchsia(12, 8, Qt::yellow).convertToFormat(QImage::Format_ARGB32), "opaque.png")};
+  Run([](ImageListDialog& dialog) {
+    Click(dialog.clear);
+    Click(dialog.add);
+    EXPECT_EQ(dialog.transparent->Selected(), clFuchsia);
+    EXPECT_EQ(dialog.facts->text(), QStringLiteral("1 picture of 12 x 8"));
+  });
+  EXPECT_EQ(list.Image(0).pixelColor(0, 7).alpha(), 0);
 }
 
 TEST_F(ImageListEditor, ExportsAllSideBySide) {

@@ -1,4 +1,5 @@
 // Forms of classes nobody has: what they are taken for, and where they stand.
+#include "ide/Placing.h"
 #include "ide/Tiles.h"
 #include "ide/Unknown.h"
 #include "tests/ide/SessionTest.h"
@@ -291,4 +292,64 @@ TEST(StandIn, ADeletedFrontPageMakesRoomAndComesBack) {
   session->Undo();
   EXPECT_EQ(session->Bytes(), Book);
   EXPECT_EQ(Control(*session, "Second").Width(), Control(*session, "First").Width());
+}
+
+TEST(StandIn, ANavigatorHasTheButtonsOfOne) {
+  const auto picture = [](const QByteArray& more) {
+    const auto session = Open(
+        OnForm("  object X: TDBNavigator\n    Left = 8\n    Top = 8\n    Width = 241\n    Height = 25\n" +
+               more + "  end\n"));
+    return RenderForm(session->Form(), 1);
+  };
+  const QImage usual = picture("");
+  EXPECT_EQ(picture("    VisibleButtons = [nbFirst, nbPrior, nbNext, nbLast, nbInsert, nbDelete, nbEdit, "
+                    "nbPost, nbCancel, nbRefresh]\n"),
+            usual);
+  EXPECT_NE(picture("    VisibleButtons = [nbFirst, nbPrior, nbNext, nbLast, nbInsert, nbDelete]\n"), usual);
+  EXPECT_NE(picture("    VisibleButtons = [pbHelp, pbOK, pbClose, pbCancel]\n"), usual);
+}
+
+TEST(StandIn, AStatusBarShowsItsPanels) {
+  const auto picture = [](const QByteArray& panels) {
+    const auto session = Open(
+        OnForm("  object X: TFooStatusBar\n    Left = 0\n    Top = 281\n    Width = 400\n    Height = 19\n" +
+               panels + "  end\n"));
+    return RenderForm(session->Form(), 1);
+  };
+  const auto panels = [](const QByteArray& text, const QByteArray& width) {
+    return "    Panels = <\n      item\n        Text = '" + text + "'\n        Width = " + width +
+           "\n      end\n      item\n        Text = 'Second'\n        Width = 50\n      end>\n";
+  };
+  const QImage one = picture(panels("One", "90"));
+  EXPECT_NE(one, picture(""));
+  EXPECT_NE(one, picture(panels("Two", "90")));
+  EXPECT_NE(one, picture(panels("One", "130")));
+}
+
+TEST(Container, WhatTakesNoControlsHandsThemToItsParent) {
+  const auto session = Open(OnForm(R"(  object Box: TPanel
+    Left = 8
+    Top = 8
+    Width = 300
+    Height = 200
+    object Bar: TStatusBar
+      Left = 1
+      Top = 180
+      Width = 298
+      Height = 19
+      Panels = <>
+    end
+    object Notes: TMemo
+      Left = 8
+      Top = 8
+      Width = 100
+      Height = 50
+    end
+  end
+)"));
+  for (const char* name : {"Bar", "Notes"}) {
+    session->Select({&Get(*session, name)});
+    TComponent* made = PlaceInMiddle(*session, TButton::StaticClass(), 8);
+    EXPECT_EQ(dynamic_cast<TControl*>(made)->Parent(), &Get(*session, "Box")) << name;
+  }
 }

@@ -1,4 +1,5 @@
 // Alignment against a slow model that places one control after the other.
+#include <cmath>
 #include <random>
 
 #include "VclTest.h"
@@ -92,7 +93,13 @@ struct Model {
   }
   void Resize(int w, int h) {
     const int dx = w - width, dy = h - height;
-    const int middleX = w / 2 - width / 2, middleY = h / 2 - height / 2;
+    // The middle keeps its ratio.
+    const auto floated = [](int from, int size, int before, int after) {
+      if (before <= 0) return from;
+      return static_cast<int>(std::lround((from + size / 2) * static_cast<double>(after) / before)) -
+             size / 2;
+    };
+    const int oldWidth = width, oldHeight = height;
     width = w;
     height = h;
     for (Item& c : items) {
@@ -101,10 +108,10 @@ struct Model {
       const bool t = c.anchors.Contains(TAnchorKind::akTop), b = c.anchors.Contains(TAnchorKind::akBottom);
       if (r && l) c.w = std::max(0, c.w + dx);
       if (r && !l) c.x += dx;
-      if (!r && !l) c.x += middleX;
+      if (!r && !l) c.x = floated(c.x, c.w, oldWidth, w);
       if (b && t) c.h = std::max(0, c.h + dy);
       if (b && !t) c.y += dy;
-      if (!b && !t) c.y += middleY;
+      if (!b && !t) c.y = floated(c.y, c.h, oldHeight, h);
     }
     Realign();
   }
