@@ -27,17 +27,17 @@ TDateTime Joined(const QDateTime& value) {
 }
 }  // namespace
 
-TDateTime WithPart(TDateTime value, TDateTime from, TDateTimePart part) {
-  if (part == TDateTimePart::Both) return from;
-  const TDateTime& day = part == TDateTimePart::Date ? from : value;
-  const TDateTime& clock = part == TDateTimePart::Time ? from : value;
+TDateTime WithPart(TDateTime value, TDateTime from, TMomentPart part) {
+  if (part == TMomentPart::Both) return from;
+  const TDateTime& day = part == TMomentPart::Date ? from : value;
+  const TDateTime& clock = part == TMomentPart::Time ? from : value;
   const double days = std::trunc(day.Days), rest = std::abs(clock.Days - std::trunc(clock.Days));
   return {days < 0 ? days - rest : days + rest};
 }
 
-QString DateTimeToText(TDateTime value, TDateTimePart part) {
-  const QString text = DateTimeToText(part == TDateTimePart::Both ? value : WithPart({}, value, part));
-  return text.isEmpty() && part == TDateTimePart::Time ? QStringLiteral("00:00:00") : text;
+QString DateTimeToText(TDateTime value, TMomentPart part) {
+  const QString text = DateTimeToText(part == TMomentPart::Both ? value : WithPart({}, value, part));
+  return text.isEmpty() && part == TMomentPart::Time ? QStringLiteral("00:00:00") : text;
 }
 
 QString DateTimeToText(TDateTime value) {
@@ -113,11 +113,11 @@ DateTimeDialog::DateTimeDialog(QWidget* owner) : RowDialog(tr("Date and Time"), 
   setFixedSize(QSize(340, 300).expandedTo(minimumSizeHint()));
 }
 
-void DateTimeDialog::ShowPart(TDateTimePart part) {
-  calendar->setVisible(part != TDateTimePart::Time);
+void DateTimeDialog::ShowPart(TMomentPart part) {
+  calendar->setVisible(part != TMomentPart::Time);
   for (QWidget* widget : {static_cast<QWidget*>(timeLabel), static_cast<QWidget*>(time)})
-    widget->setVisible(part != TDateTimePart::Date);
-  if (part == TDateTimePart::Time) setFixedSize(QSize(340, 0).expandedTo(minimumSizeHint()));
+    widget->setVisible(part != TMomentPart::Date);
+  if (part == TMomentPart::Time) setFixedSize(QSize(340, 0).expandedTo(minimumSizeHint()));
 }
 
 void DateTimeDialog::Show(const QDateTime& value) {
@@ -148,7 +148,7 @@ void DateTimeDialog::clearClick() {
   changed_ = none_ = true;
 }
 
-bool EditDateTime(TDateTime& value, TDateTimePart part) {
+bool EditDateTime(TDateTime& value, TMomentPart part) {
   DateTimeDialog dialog(ApplicationOwner());
   dialog.ShowPart(part);
   dialog.SetDateTime(value);

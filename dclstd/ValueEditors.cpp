@@ -88,7 +88,7 @@ void TDatePartProperty::SetValue(const QString& value) {
   if (value == GetValue() && AllEqual()) return;
   const auto date = TextToDateTime(value);
   if (!date || WithPart({}, *date, part_).Days != date->Days)
-    throw EPropertyError((part_ == TDateTimePart::Date
+    throw EPropertyError((part_ == TMomentPart::Date
                               ? QStringLiteral("%1 is no date. Write it as in 2024-03-09.")
                               : QStringLiteral("%1 is no time of day. Write it as in 13:05:00."))
                              .arg(value));

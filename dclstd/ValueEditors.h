@@ -25,7 +25,7 @@ class TDateTimeProperty : public TFloatProperty {
 // One part of such a value; the other part stays as it is.
 class TDatePartProperty : public TFloatProperty {
  public:
-  TDatePartProperty(TDateTimePart part, IDesigner* designer, TInstProps props)
+  TDatePartProperty(TMomentPart part, IDesigner* designer, TInstProps props)
       : TFloatProperty(designer, std::move(props)), part_(part) {}
   TPropertyAttributes GetAttributes() const override;
   QString GetValue() const override;
@@ -36,17 +36,17 @@ class TDatePartProperty : public TFloatProperty {
  private:
   QString TextAt(int index) const;
   void Take(TDateTime value);
-  TDateTimePart part_;
+  TMomentPart part_;
 };
 class TDateProperty : public TDatePartProperty {
  public:
   TDateProperty(IDesigner* designer, TInstProps props)
-      : TDatePartProperty(TDateTimePart::Date, designer, std::move(props)) {}
+      : TDatePartProperty(TMomentPart::Date, designer, std::move(props)) {}
 };
 class TTimeProperty : public TDatePartProperty {
  public:
   TTimeProperty(IDesigner* designer, TInstProps props)
-      : TDatePartProperty(TDateTimePart::Time, designer, std::move(props)) {}
+      : TDatePartProperty(TMomentPart::Time, designer, std::move(props)) {}
 };
 
 // The items of a tree view and of a list view in a dialog.
