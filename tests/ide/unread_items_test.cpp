@@ -38,7 +38,7 @@ const QByteArray Form = R"(object Main: TMain
 end
 )";
 
-class UnreadItems : public SessionTest {
+class UnreadItems : public testing::Test {
  protected:
   void SetUp() override {
     ide::RegisterAll();
