@@ -1,6 +1,6 @@
 // Dialogs that stand inside of an action: what one keeps, without being a component.
 #pragma once
-#include "vcl/Dialogs.h"
+#include "rtl/Kept.h"
 
 #define VRX_DIALOG_PART(Type)     \
   class Type : public TKeptPart { \

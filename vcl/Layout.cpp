@@ -31,11 +31,14 @@ Span AnchoredSpan(bool near, bool far, int room) {
   return {room, 0};
 }
 
-// The near edge of what no edge holds.
+// The near edge of what no edge holds. It never moves by more than the room has changed: what stands beside a
+// room that does not hold it would be flung about.
 int Floated(int from, int size, int before, int after) {
   if (before <= 0 || before == after) return from;
   const std::int64_t middle = from + size / 2, half = middle < 0 ? -before / 2 : before / 2;
-  return static_cast<int>((middle * after + half) / before) - size / 2;
+  const int to = static_cast<int>((middle * after + half) / before) - size / 2;
+  const int change = std::abs(after - before);
+  return std::clamp(to, from - change, from + change);
 }
 
 bool Floats(const Placement& was, const Placement& now, TAnchorKind near, TAnchorKind far) {

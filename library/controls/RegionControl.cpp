@@ -51,33 +51,61 @@ void TVRXRegion::Paint(TCanvas& canvas) {
   p.restore();
 }
 
+const TClass& TVRXCustomShapeText::StaticClass() {
+  using C = TVRXCustomShapeText;
+  static const TClass cls(
+      DescribeClass<C>("TVRXCustomShapeText", TVRXRegion::StaticClass())
+          .PublishAll("Caption", "Color", "Font")
+          .Published("FontFX", &C::FontFX, &C::SetFontFX)
+          .Doc(QStringLiteral("Direction, spacing and 3D effect of the letters."))
+          .Published(ImageIndex)
+          .Published(ImageList)
+          .Doc(QStringLiteral("Where the picture is found that is shown without a region mask."))
+          .PublishAll(ParentLook)
+          .Published("Transparent", &C::Transparent, &C::SetTransparent, true)
+          .Doc(QStringLiteral("Lets what is behind show around the shape.")));
+  return cls;
+}
 const TClass& TVRXWndButtonShape::StaticClass() {
   static const TClass cls(
-      DescribeClass<TVRXWndButtonShape>("TVRXWndButtonShape", TVRXRegion::StaticClass())
-          .PublishAll("Caption", "Color", "Font")
-          .Published("FontFX", &TVRXWndButtonShape::FontFX, &TVRXWndButtonShape::SetFontFX)
-          .Doc(QStringLiteral("Direction, spacing and 3D effect of the letters."))
-          .PublishAll(ParentLook)
-          .Published("Transparent", &TVRXWndButtonShape::Transparent, &TVRXWndButtonShape::SetTransparent,
-                     true)
-          .Doc(QStringLiteral("Lets what is behind the button show around the shape."))
+      DescribeClass<TVRXWndButtonShape>("TVRXWndButtonShape", TVRXCustomShapeText::StaticClass())
           .ClassDoc(QStringLiteral("A button in the shape of a region.")));
   return cls;
 }
+const TClass& TVRXPanelShape::StaticClass() {
+  static const TClass cls(
+      DescribeClass<TVRXPanelShape>("TVRXPanelShape", TVRXCustomShapeText::StaticClass())
+          .ClassDoc(QStringLiteral("An area in the shape of a region."),
+                    "pen line 1 dots brush none box 3.5 3.5 17 17 0 pen line 1.3 brush accent "
+                    "shape 7 5 17 5 20 12 17 19 7 19 4 12"));
+  return cls;
+}
 
-TVRXWndButtonShape::TVRXWndButtonShape(TComponent* owner)
+TVRXCustomShapeText::TVRXCustomShapeText(TComponent* owner)
     : TVRXRegion(owner), fontFx_(std::make_unique<TVRXFxCaption>(this)) {
   captionFollowsName_ = true;
+  SetBounds(0, 0, 136, 72);
 }
-TVRXWndButtonShape::~TVRXWndButtonShape() = default;
+TVRXCustomShapeText::~TVRXCustomShapeText() = default;
 
-void TVRXWndButtonShape::SetTransparent(bool v) { Change(transparent_, v); }
+TVRXPanelShape::TVRXPanelShape(TComponent* owner) : TVRXCustomShapeText(owner) { SetBounds(0, 0, 136, 96); }
 
-void TVRXWndButtonShape::Paint(TCanvas& canvas) {
+void TVRXCustomShapeText::SetTransparent(bool v) { Change(transparent_, v); }
+
+void TVRXCustomShapeText::Paint(TCanvas& canvas) {
   if (!transparent_) canvas.FillRect(ClientRect(), Color());
-  TVRXRegion::Paint(canvas);
+  const TCustomImageList* list = Get(ImageList);
+  const QImage image = list && RegionMask()->ShownSize(0).isEmpty() ? list->Image(Get(ImageIndex)) : QImage();
+  const QPoint pressed(Down(), Down());
+  if (image.isNull()) {
+    TVRXRegion::Paint(canvas);
+  } else {
+    QRect place(QPoint(0, 0), image.deviceIndependentSize().toSize());
+    place.moveCenter(ClientRect().center() + pressed);
+    canvas.Painter().drawImage(place, image);
+  }
   TVRXTextOptions options;
   if (!Enabled()) options.Include(TVRXTextOption::Disabled);
-  VRXDrawTextExt(canvas, Caption(), *fontFx_, *Font(), ClientRect().translated(Down(), Down()), options,
+  VRXDrawTextExt(canvas, Caption(), *fontFx_, *Font(), ClientRect().translated(pressed), options,
                  tfCenter | tfVCenter | tfSingleLine, {}, Color());
 }

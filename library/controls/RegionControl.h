@@ -3,6 +3,7 @@
 #include "library/values/Caption.h"
 #include "library/values/RegionMask.h"
 #include "vcl/Control.h"
+#include "vcl/ImageList.h"
 
 // Shows the pictures of its mask inside the mask's region.
 class TVRXRegion : public TGraphicControl {
@@ -27,13 +28,15 @@ class TVRXRegion : public TGraphicControl {
   bool down_ = false;
 };
 
-// A button in the shape of a region, with a text on it.
-class TVRXWndButtonShape : public TVRXRegion {
-  VRX_CLASS(TVRXWndButtonShape)
+// A region with a text and, before it has pictures of its own, a picture of an image list.
+class TVRXCustomShapeText : public TVRXRegion {
+  VRX_CLASS(TVRXCustomShapeText)
  public:
-  explicit TVRXWndButtonShape(TComponent* owner);
-  ~TVRXWndButtonShape() override;
+  explicit TVRXCustomShapeText(TComponent* owner);
+  ~TVRXCustomShapeText() override;
 
+  static constexpr TKept<TCustomImageList*> ImageList{"ImageList"};
+  static constexpr TKept<int> ImageIndex{"ImageIndex", -1};
   TVRXFxCaption* FontFX() const { return fontFx_.get(); }
   void SetFontFX(const TVRXFxCaption* v) { fontFx_->Assign(v); }
   bool Transparent() const { return transparent_; }
@@ -44,4 +47,18 @@ class TVRXWndButtonShape : public TVRXRegion {
  private:
   std::unique_ptr<TVRXFxCaption> fontFx_;
   bool transparent_ = true;
+};
+
+// A button in the shape of a region.
+class TVRXWndButtonShape : public TVRXCustomShapeText {
+  VRX_CLASS(TVRXWndButtonShape)
+ public:
+  using TVRXCustomShapeText::TVRXCustomShapeText;
+};
+
+// An area in the shape of a region.
+class TVRXPanelShape : public TVRXCustomShapeText {
+  VRX_CLASS(TVRXPanelShape)
+ public:
+  explicit TVRXPanelShape(TComponent* owner);
 };

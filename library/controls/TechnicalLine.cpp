@@ -114,11 +114,14 @@ void TVRXTechnicalLine::PaintLine(QPainter& p, const QColor& color) const {
     const double outward = atStart ? 180 - line.angle() : -line.angle();
     const double turned = OwnDirection(sign).value_or(outward);
     QPointF& end = ends[atStart ? 0 : 1];
-    QTransform place;
-    place.translate(end.x(), end.y());
-    place.rotate(turned);
     // An arrow across or against the line stands on its end, not beyond.
     const double across = std::remainder(turned - outward, 360);
+    const double sideways = std::abs(std::sin(qDegreesToRadians(across))) * size / 2;
+    const QPointF at =
+        end - sideways * QPointF(std::cos(qDegreesToRadians(outward)), std::sin(qDegreesToRadians(outward)));
+    QTransform place;
+    place.translate(at.x(), at.y());
+    place.rotate(turned);
     if (across != 0) place.translate(std::abs(across) > 135 ? size : size / 2, 0);
     signs.push_back(place.map(SignOutline(sign, size)));
     // A line under a point would show beside it.

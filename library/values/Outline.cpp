@@ -39,6 +39,18 @@ QPolygonF Inset(const QPolygonF& points, double pixels) {
   }
   return inner;
 }
+// How far all sides can move inwards before the first one has no length left.
+double DeepestInset(const QPolygonF& points) {
+  const QPolygonF step = Inset(points, 1);
+  double deepest = HUGE_VAL;
+  for (qsizetype i = 0; i < points.size(); ++i) {
+    const qsizetype next = (i + 1) % points.size();
+    const QPointF side = points[next] - points[i], shorter = side - (step[next] - step[i]);
+    const double lost = QPointF::dotProduct(shorter, side);
+    if (lost > 1e-9) deepest = std::min(deepest, QPointF::dotProduct(side, side) / lost);
+  }
+  return deepest;
+}
 }  // namespace
 
 QPolygonF InsetOutline(const QPolygonF& outline, double pixels) {
@@ -52,7 +64,7 @@ TEdgeStrip StripInside(const QPolygonF& outline, double pixels) {
   strip.Shaded.setFillRule(Qt::WindingFill);
   const QPolygonF points = WithoutDoubles(outline);
   if (points.size() < 3 || pixels <= 0) return strip;
-  const QPolygonF inner = Inset(points, pixels);
+  const QPolygonF inner = Inset(points, std::min(pixels, DeepestInset(points)));
   const double side = Turn(points) < 0 ? -1 : 1;
   for (qsizetype i = 0; i < points.size(); ++i) {
     const qsizetype next = (i + 1) % points.size();

@@ -115,6 +115,34 @@ const TVRXScrollTextComponentEditor::Verbs TVRXScrollTextComponentEditor::Table 
     {"Lines", Launch(&TVRXScrollText::Lines, EditLines)},
 };
 
+namespace {
+template <class C>
+VerbOf<C> FontFxVerb() {
+  return {"FontFX", Launch(&C::FontFX, VRXCPGetFontFx)};
+}
+template <class C>
+VerbOf<C> FontVerb() {
+  return {"Font", Launch(&C::Font, VRXCPGetFont)};
+}
+}  // namespace
+const TVRXWndButtonShapeComponentEditor::Verbs TVRXWndButtonShapeComponentEditor::Table = {
+    {"OnClick...",
+     [](TVRXWndButtonShape& button, IDesigner& designer) {
+       TDefaultEditor(&button, &designer).Edit();
+       return false;  // what it did it has told
+     }},
+    ImageListVerb<TVRXWndButtonShape>(),
+    Flag("Transparent"),
+    FontFxVerb<TVRXWndButtonShape>(),
+    FontVerb<TVRXWndButtonShape>(),
+};
+const TVRXPanelShapeComponentEditor::Verbs TVRXPanelShapeComponentEditor::Table = {
+    ImageListVerb<TVRXPanelShape>(),
+    Flag("Transparent"),
+    FontFxVerb<TVRXPanelShape>(),
+    FontVerb<TVRXPanelShape>(),
+};
+
 const TVRXCustomLImageComponentEditor::Verbs TVRXCustomLImageComponentEditor::Table = {
     ImageListVerb<TVRXCustomLImage>(),
     {"Bitmap", Launch(&TVRXCustomLImage::Bitmap, EditPicture)},
@@ -125,13 +153,7 @@ const TVRXCustomLImageComponentEditor::Verbs TVRXCustomLImageComponentEditor::Ta
 const TVRXAniCtrlComponentEditor::Verbs TVRXAniCtrlComponentEditor::Table = {Flag("Animate")};
 
 const TVRXLabelComponentEditor::Verbs TVRXLabelComponentEditor::Table = {
-    {"Caption",
-     [](TVRXCustomLabel& label) {
-       QString caption = label.Caption();
-       if (!VRXCPGetCaption(caption)) return false;
-       label.SetCaption(caption);
-       return true;
-     }},
+    CaptionVerb<TVRXCustomLabel>(),
     {"Font", Launch(&TVRXCustomLabel::Font, VRXCPGetFont)},
     {"Font3D", Launch(&TVRXCustomLabel::Font3D, VRXCPGetFont3D)},
     {"Bevel", Launch(&TVRXCustomLabel::Bevel, VRXCPGetBevel)},

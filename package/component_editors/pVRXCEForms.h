@@ -9,6 +9,7 @@
 #include "library/controls/Clock.h"
 #include "library/controls/FillControl.h"
 #include "library/controls/LabelFill.h"
+#include "library/controls/RegionControl.h"
 #include "library/controls/ScrollText.h"
 #include "library_design/VerbEditor.h"
 
@@ -20,6 +21,8 @@ VRX_VERB_EDITOR(TVRXShapeHintComponentEditor, TVRXCustomShapeHint);
 VRX_VERB_EDITOR(TVRXShadowComponentEditor, TVRXFormShadow);
 VRX_VERB_EDITOR(TVRXFormShapeComponentEditor, TVRXFormShape);
 VRX_VERB_EDITOR(TVRXScrollTextComponentEditor, TVRXScrollText);
+VRX_VERB_EDITOR(TVRXWndButtonShapeComponentEditor, TVRXWndButtonShape);
+VRX_VERB_EDITOR(TVRXPanelShapeComponentEditor, TVRXPanelShape);
 
 // What editors of pictures and of labels have in common; their descendants' verbs stand behind.
 VRX_VERB_EDITOR(TVRXCustomLImageComponentEditor, TVRXCustomLImage);

@@ -3,7 +3,6 @@
 #include "designintf/CustomColors.h"
 #include "library_design/ColorDialogs.h"
 #include "library_design/LookDialogs.h"
-#include "library_design/ValueDialogs.h"
 #include "package/property_editors/pVRXCPGetMain.h"
 
 bool VRXCPGetColorCP(TColor& color) {
@@ -14,14 +13,7 @@ bool VRXCPGetColorCP(TColor& color) {
 }
 
 const TVRXLEDLabelComponentEditor::Verbs TVRXLEDLabelComponentEditor::Table = {
-    Verb("Caption",
-         [](TVRXLEDCustomLabel& label) {
-           QString caption = label.Caption();
-           if (!VRXCPGetCaption(caption)) return false;
-           label.SetCaption(caption);
-           return true;
-         })
-        .DataAware("[DB] No caption available"),
+    CaptionVerb<TVRXLEDCustomLabel>().DataAware("[DB] No caption available"),
     Flag("AutoSize"),
     {"Bevel", Launch(&TVRXLEDCustomLabel::Bevel, VRXCPGetBevel)},
     {"LED", Launch(&TVRXLEDCustomLabel::LED, VRXCPGetLED)},

@@ -6,6 +6,7 @@
 #include "library/controls/ShapeControl.h"
 #include "library/controls/Switch.h"
 #include "library/controls/TechnicalLine.h"
+#include "library_design/ValueDialogs.h"
 #include "library_design/VerbEditor.h"
 
 // LED labels: a double-click opens the look of the letters.
@@ -26,3 +27,14 @@ VRX_VERB_EDITOR(TVRXTechnicalLineComponentEditor, TVRXTechnicalLine);
 
 // A colour, with the IDE's custom colours, which are saved when one was chosen.
 bool VRXCPGetColorCP(TColor& color);
+
+// Asks for the text of a control.
+template <class C>
+VerbOf<C> CaptionVerb() {
+  return {"Caption", [](C& control) {
+            QString caption = control.Caption();
+            if (!VRXCPGetCaption(caption)) return false;
+            control.SetCaption(caption);
+            return true;
+          }};
+}

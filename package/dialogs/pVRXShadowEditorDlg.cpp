@@ -18,9 +18,9 @@ TVRXShadowEditorDlg::TVRXShadowEditorDlg(QWidget* owner)
       .WithButton(dlgl, "dlgl", &D::dlglClick)
       .Changes(&D::cmbSChange);
   cmbS->SetStyles({TColorChoice::csDefaultColors, TColorChoice::csSystemColors, TColorChoice::csAnyColor});
-  // Three characters, of which those beyond 127 are the negative ones.
+  // Three characters, of which the lowest eight bits are kept.
   Row(spind, "spind", "Depth", "Depth:", "Specifies the Depth of the shadow.")
-      .Range(-99, 255, 3)
+      .Range(-99, 999, 3)
       .Changes(&D::spindChange);
   Note("Using white as shadow-color will not work if tracing style is selected.");
   Buttons({ok, "ok"}, {Button1, "Button1"}, {reset, "reset"});

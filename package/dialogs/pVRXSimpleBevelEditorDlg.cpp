@@ -14,9 +14,9 @@ TVRXSimpleBevelEditorDlg::TVRXSimpleBevelEditorDlg(QWidget* owner)
   test->Set(TVRXBaseShape::BevelColor, clBtnShadow);
   Edits(*test->Bevel());
   Row(cmbstyle, "cmbstyle", "Style", "Style: ", "Specifies the style for the bevel.").Changes(&D::cmbChange);
-  // Three characters, of which those beyond 127 are the negative ones.
+  // Three characters, of which the lowest eight bits are kept.
   Row(spind, "spind", "Width", "Width:", "Define the width of the bevel.")
-      .Range(-99, 255, 3)
+      .Range(-99, 999, 3)
       .Changes(&D::spindChange);
   Row(cmbL, "cmbL", "LightColor", "LightColor: ", "Defines the LightColor for 3D-effects.")
       .WithButton(dlgl, "dlgl", &D::dlglClick)

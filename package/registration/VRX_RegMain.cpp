@@ -40,11 +40,14 @@ const Row kRows[] = {
     Component<TVRXFormShadow, TVRXShadowComponentEditor>(),
     Component<TVRXFormShape, TVRXFormShapeComponentEditor>(),
 
-    Page("VRX MM", TellingClasses<TVRXLabelFill, TVRXScrollText, TVRX3DEffectButton, TVRXHiTimer,
-                                  TVRXShapeControl, TVRXRepeatedShape, TVRXAniCtrl, TVRXWndButtonShape>()),
+    Page("VRX MM",
+         TellingClasses<TVRXLabelFill, TVRXScrollText, TVRX3DEffectButton, TVRXHiTimer, TVRXShapeControl,
+                        TVRXRepeatedShape, TVRXAniCtrl, TVRXPanelShape, TVRXWndButtonShape>()),
     Component<TVRXAniCtrl, TVRXAniCtrlComponentEditor>(),
     Component<TVRXCustomLabelFill, TVRXLabelFillComponentEditor>(),
     Component<TVRXBaseShape, TVRXCustomShapeComponentEditor>(),
+    Component<TVRXWndButtonShape, TVRXWndButtonShapeComponentEditor>(),
+    Component<TVRXPanelShape, TVRXPanelShapeComponentEditor>(),
     Component<TVRXScrollText, TVRXScrollTextComponentEditor>(),
     Component<TVRXCustom3DButton, TVRXExtGraphicButtonComponentEditor>(),
 

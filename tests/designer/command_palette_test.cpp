@@ -5,6 +5,7 @@
 #include "designer/SearchField.h"
 #include "designer/WindowCommands.h"
 #include "ide/operations/Actions.h"
+#include "library_design/LookDialogs.h"
 #include "tests/designer/DesignerTest.h"
 
 using namespace designer;
@@ -159,10 +160,10 @@ TEST_F(Commands, WhatWasUsedLastComesFirstTheNextTime) {
 TEST_F(Commands, TheVerbsOfTheSelectedComponentAreAmongThem) {
   Select("Led");
   CommandPalette& palette = Open();
-  Type(palette, "led led");
-  EXPECT_EQ(Current(palette), QStringLiteral("Led: LED"));
+  Type(palette, "led bev");
+  EXPECT_EQ(Current(palette), QStringLiteral("Led: Bevel"));
   bool came = false;
-  modal::NextOf<TVRXLEDEditorDlg>([&](TVRXLEDEditorDlg& dialog) {
+  modal::NextOf<TVRXBevelEditorDlg>([&](TVRXBevelEditorDlg& dialog) {
     came = true;
     EXPECT_EQ(Shown(), nullptr);
     dialog.reject();

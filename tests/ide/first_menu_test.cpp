@@ -41,10 +41,10 @@ TEST_F(FirstMenu, BecomesTheMenuOfTheForm) {
 }
 
 TEST_F(FirstMenu, OfTheOtherFamilyToo) {
-  EXPECT_EQ(
+  const TMainMenu* placed =
       Place("object Main: TMain\n  Left = 300\n  Height = 240\n  Width = 320\n  LCLVersion = '3.0'\nend\n",
-            "main.lfm"),
-      Menu());
+            "main.lfm");
+  EXPECT_EQ(Menu(), placed);
   EXPECT_TRUE(session_->Bytes().contains("\n  Menu = MainMenu1\n"));
   ExpectOneStep();
 }
@@ -76,7 +76,8 @@ TEST_F(FirstMenu, APopupMenuIsNone) {
 
 TEST_F(FirstMenu, ADataModuleShowsNone) {
   Place(
-      "object Data: TData\n  Height = 200\n  HorizontalOffset = 30\n  VerticalOffset = 20\n  Width = "
+      "object Data: TData\n  OldCreateOrder = False\n  Height = 200\n  HorizontalOffset = 30\n  "
+      "VerticalOffset = 20\n  Width = "
       "300\nend\n");
   ASSERT_EQ(session_->Form().Kind(), TFormKind::DataModule);
   EXPECT_FALSE(session_->Bytes().contains("Menu ="));

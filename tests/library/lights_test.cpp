@@ -200,6 +200,25 @@ TEST(TechnicalLine, AnArrowPointsToWhereItsNameSays) {
   EXPECT_LT(std::get<1>(halves("lsArrowUp")), -5000);
 }
 
+TEST(TechnicalLine, AnArrowAcrossTheLineIsWholeAtItsEnd) {
+  TVRXTechnicalLine line(nullptr);
+  line.SetBounds(0, 0, 80, 40);
+  visible::Apply(line, QStringLiteral("SignSize=20 LineType=ltHorizontal"));
+  const auto width = [&](const char* sign) {
+    visible::Apply(line, QStringLiteral("LineEnding=") + QString::fromLatin1(sign));
+    const QImage image = Draw(line, Qt::white);
+    int columns = 0;  // that have more than the line
+    for (int x = 0; x < image.width(); ++x) {
+      int ink = 0;
+      for (int y = 0; y < image.height(); ++y) ink += qGray(image.pixel(x, y)) < 200;
+      columns += ink > 2;
+    }
+    return columns;
+  };
+  EXPECT_NEAR(width("lsArrowDown"), 18, 2);
+  EXPECT_NEAR(width("lsArrowUp"), 18, 2);
+}
+
 TEST(TechnicalLine, AnOutwardArrowFollowsTheLine) {
   for (const char* type : {"ltHorizontal", "ltVertical", "ltDiagonalDown", "ltDiagonalUp"}) {
     TVRXTechnicalLine line(nullptr);

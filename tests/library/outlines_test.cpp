@@ -154,6 +154,22 @@ TEST(Strip, OfATurnedSquareIsLitAboveAndShadedBelow) {
   EXPECT_TRUE(strip.Shaded.contains(QPointF(30, 28.5)));
 }
 
+TEST(Strip, WiderThanTheFigureEndsInItsMiddle) {
+  const TEdgeStrip strip = StripInside(QPolygonF({{0, 0}, {40, 0}, {40, 20}, {0, 20}}), 35);
+  EXPECT_TRUE(strip.Lit.contains(QPointF(20, 9)));
+  EXPECT_FALSE(strip.Lit.contains(QPointF(20, 11)));
+  EXPECT_TRUE(strip.Shaded.contains(QPointF(20, 11)));
+  EXPECT_EQ((strip.Lit.boundingRect() | strip.Shaded.boundingRect()), QRectF(0, 0, 40, 20));
+  const QRectF place(0, 0, 64, 40);
+  for (int type = 0; type <= static_cast<int>(TVRXShapeType::stStar); ++type) {
+    const QPolygonF figure = VRXShapeOutline(static_cast<TVRXShapeType>(type), place, 40);
+    const TEdgeStrip wide = StripInside(figure, 127);
+    EXPECT_TRUE(place.adjusted(-0.01, -0.01, 0.01, 0.01)
+                    .contains(wide.Lit.boundingRect() | wide.Shaded.boundingRect()))
+        << type;
+  }
+}
+
 TEST(Strip, OfNothingIsNothing) {
   EXPECT_TRUE(StripInside({}, 3).Lit.isEmpty());
   EXPECT_TRUE(StripInside(QPolygonF({{1, 1}, {1, 1}, {5, 5}, {1, 1}}), 3).Shaded.isEmpty());

@@ -182,3 +182,16 @@ TEST(FormsVerbs, OfARunningText) {
   EXPECT_TRUE(menu.component->Get(TVRXScrollText::Scroll));
   EXPECT_FALSE(menu.component->Get(TVRXScrollText::Transparent));
 }
+
+TEST(FormsVerbs, OfAButtonAndAPanelInAShape) {
+  Menu<TVRXWndButtonShapeComponentEditor, TVRXWndButtonShape> button;
+  EXPECT_EQ(button.Text(), "OnClick...|ImageList|Transparent{1}|FontFX|Font");
+  ExpectNothingBeyond(button);
+  ExpectCancelSilent(button, {1, 3, 4});
+  ExpectFlags(button, {2});
+  Menu<TVRXPanelShapeComponentEditor, TVRXPanelShape> panel;
+  EXPECT_EQ(panel.Text(), "ImageList|Transparent{1}|FontFX|Font");
+  ExpectNothingBeyond(panel);
+  ExpectCancelSilent(panel, {0, 2, 3});
+  ExpectFlags(panel, {1});
+}

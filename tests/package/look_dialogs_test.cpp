@@ -79,6 +79,11 @@ TEST_F(LookDialogs, AShadowsDepthOf200IsMinus56AndShownSo) {
                                             fields::Type(*dlg.spind, QStringLiteral("200"));
                                             EXPECT_EQ(dlg.test->Shadow()->Get(TVRXShadow::Depth), -56);
                                             EXPECT_EQ(dlg.spind->text(), QStringLiteral("-56"));
+                                            fields::Type(*dlg.spind, QStringLiteral("300"));
+                                            EXPECT_EQ(dlg.spind->text(), QStringLiteral("44"));
+                                            fields::Type(*dlg.spind, QStringLiteral("999"));
+                                            EXPECT_EQ(dlg.spind->text(), QStringLiteral("-25"));
+                                            fields::Type(*dlg.spind, QStringLiteral("200"));
                                             Click(dlg.ok);
                                           }));
   EXPECT_EQ(shadow.Get(TVRXShadow::Depth), -56);

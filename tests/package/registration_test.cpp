@@ -214,7 +214,7 @@ TEST_F(Registering, ShapesLightsSwitchesAndLinesStandAtTheirPlacesWithTheirEdito
                       "TVRXSysMenu TVRXCaptionButtons"));
   EXPECT_TRUE(InOrder(pages[3],
                       "MM: TVRXLabelFill TVRXScrollText TVRX3DEffectButton TVRXHiTimer TVRXShapeControl "
-                      "TVRXRepeatedShape TVRXAniCtrl TVRXWndButtonShape"));
+                      "TVRXRepeatedShape TVRXAniCtrl TVRXPanelShape TVRXWndButtonShape"));
   qsizetype last = -1;
   for (const char* call : {"TVRXLEDCustomLabel by TVRXLEDLabelComponentEditor",
                            "TVRXClock by TVRXClockComponentEditor",
@@ -230,6 +230,8 @@ TEST_F(Registering, ShapesLightsSwitchesAndLinesStandAtTheirPlacesWithTheirEdito
                            "TVRXAniCtrl by TVRXAniCtrlComponentEditor",
                            "TVRXCustomLabelFill by TVRXLabelFillComponentEditor",
                            "TVRXBaseShape by TVRXCustomShapeComponentEditor",
+                           "TVRXWndButtonShape by TVRXWndButtonShapeComponentEditor",
+                           "TVRXPanelShape by TVRXPanelShapeComponentEditor",
                            "TVRXScrollText by TVRXScrollTextComponentEditor",
                            "TVRXCustom3DButton by TVRXExtGraphicButtonComponentEditor",
                            "TVRXShadow any. by TVRXShadowProperty",

@@ -234,7 +234,8 @@ TEST(EveryComponentEditor, HasACaptionForEachVerbAndNothingBeyond) {
 TEST(EveryComponentEditor, LedLabelsAndButtonsHaveTheVerbsOfTheirDialogs) {
   TVRXLEDLabel label(nullptr);
   TVRX3DEffectButton button(nullptr);
-  EXPECT_EQ(Menu(TVRXLEDLabelComponentEditor(&label, nullptr)).join(u'|'), QStringLiteral("|Caption|AutoSize: True|Bevel|LED|"));
+  EXPECT_EQ(Menu(TVRXLEDLabelComponentEditor(&label, nullptr)).join(u'|'),
+            QStringLiteral("|Caption|AutoSize: True|Bevel|LED|"));
   EXPECT_EQ(Menu(TVRXExtGraphicButtonComponentEditor(&button, nullptr)).join(u'|'),
             QStringLiteral("|Button-Editor|"));
 }
