@@ -93,11 +93,13 @@ struct Model {
   }
   void Resize(int w, int h) {
     const int dx = w - width, dy = h - height;
-    // The middle keeps its ratio.
+    // The middle keeps its ratio, and nothing moves by more than the room has changed.
     const auto floated = [](int from, int size, int before, int after) {
       if (before <= 0) return from;
-      return static_cast<int>(std::lround((from + size / 2) * static_cast<double>(after) / before)) -
-             size / 2;
+      const int to =
+          static_cast<int>(std::lround((from + size / 2) * static_cast<double>(after) / before)) - size / 2;
+      const int most = std::abs(after - before);
+      return to > from + most ? from + most : to < from - most ? from - most : to;
     };
     const int oldWidth = width, oldHeight = height;
     width = w;
