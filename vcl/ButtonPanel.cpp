@@ -60,7 +60,10 @@ constexpr PanelButtonRow Buttons[] = {{TPanelButton::pbCancel, &TButtonPanel::Ca
 void TButtonPanel::Paint(TCanvas& canvas) {
   canvas.FillRect(ClientRect(), Color());
   const int gap = std::clamp(Get(Spacing), 0, 100);
-  QRect room = ClientRect().adjusted(gap, gap, -gap, -gap);
+  // A low panel keeps its buttons readable: they give up their distance from its edges.
+  constexpr int readable = 25;
+  const int above = std::clamp((Height() - readable) / 2, 0, gap);
+  QRect room = ClientRect().adjusted(gap, above, -gap, -above);
   if (Get(ShowBevel)) {
     canvas.FillRect(QRect(0, 0, Width(), 1), clBtnShadow);
     room.setTop(room.top() + 2);

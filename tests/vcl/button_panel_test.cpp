@@ -80,3 +80,23 @@ TEST(ButtonPanel, ANarrowOneShowsWhatFits) {
   s.form.SetBounds(0, 0, 40, 300);
   EXPECT_EQ(s.Buttons().size(), 0u);
 }
+
+TEST(ButtonPanel, ALowOneShowsWholeButtons) {
+  Scene s;
+  s.panel.SetAlign(TAlign::alNone);
+  s.panel.SetBounds(0, 0, 460, 26);
+  s.panel.Set(TButtonPanel::ShowBevel, false);
+  s.panel.Set(TButtonPanel::ShowButtons, {TPanelButton::pbOK});
+  const QImage low = Draw(s.panel);
+  s.panel.Set(TButtonPanel::Spacing, 30);
+  ASSERT_EQ(s.Buttons().size(), 1u);
+  s.panel.Set(TButtonPanel::ShowButtons, {});
+  const QImage none = Draw(s.panel);
+  int rows = 0;
+  for (int y = 0; y < low.height(); ++y) {
+    bool differs = false;
+    for (int x = 0; x < low.width(); ++x) differs = differs || low.pixel(x, y) != none.pixel(x, y);
+    rows += differs;
+  }
+  EXPECT_GE(rows, 24);
+}
