@@ -126,7 +126,8 @@ bool RowDrag::eventFilter(QObject* watched, QEvent* event) {
     mark_->hide();
     return true;
   }
-  const auto* mouse = static_cast<QMouseEvent*>(event);
+  const auto* mouse = dynamic_cast<QMouseEvent*>(event);
+  if (!mouse) return false;
   switch (event->type()) {
     case QEvent::MouseButtonPress:
       from_ = mouse->pos();

@@ -99,8 +99,12 @@ bool Choose(IDesigner& designer, TCustomImageList*& list, std::vector<int>& inde
   dialog.SetLists(lists, list, indexes);
   dialog.SetLabels();
   if (dialog.ShowModal() != mrOk) return false;
-  list = dialog.List();
-  indexes = dialog.Indexes();
+  const bool sameList = std::exchange(list, dialog.List()) == list;
+  const int count = list ? list->Count() : 0;
+  const std::vector<int> chosen = dialog.Indexes();
+  for (std::size_t i = 0; i < indexes.size(); ++i)
+    // What could not be shown was not taken away by anybody.
+    if (!sameList || chosen[i] >= 0 || indexes[i] < count) indexes[i] = chosen[i];
   return true;
 }
 }  // namespace

@@ -160,7 +160,8 @@ void TPageControl::SetActivePage(TTabSheet* v) {
   if (v == ActivePage()) return;
   const TUpdateLock once(*this);
   shown_ = nullptr;
-  Set(Active, v);
+  SetReference(*this, active_, v);
+  Changed();
   if (tabIndex_ >= 0 && v && v->Parent() == this && !IsLoading()) Change(tabIndex_, v->PageIndex());
 }
 
@@ -171,7 +172,7 @@ void TPageControl::SetTabIndex(int v) {
   Change(tabIndex_, v);
   const auto pages = Pages();
   if (!IsLoading() && v >= 0 && v < static_cast<int>(pages.size()))
-    Set(Active, pages[static_cast<std::size_t>(v)]);
+    SetReference(*this, active_, pages[static_cast<std::size_t>(v)]);
 }
 
 void TPageControl::PlacePages() {

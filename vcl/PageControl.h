@@ -54,7 +54,7 @@ class TPageControl : public TCustomTabControl, public IBook {
   using TCustomTabControl::TCustomTabControl;
 
   std::vector<TTabSheet*> Pages() const;
-  TTabSheet* ActivePage() const { return Get(Active); }
+  TTabSheet* ActivePage() const { return active_; }
   void SetActivePage(TTabSheet* v);
   // The same as a number, in files that give it; -1 in others.
   int TabIndex() const { return tabIndex_; }
@@ -77,7 +77,7 @@ class TPageControl : public TCustomTabControl, public IBook {
   void ControlsListed() override;
 
  private:
-  static constexpr TKept<TTabSheet*> Active{"ActivePage"};
+  TTabSheet* active_ = nullptr;
   int tabIndex_ = -1;
   const TControl* shown_ = nullptr;  // compared only
 };

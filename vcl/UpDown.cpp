@@ -40,7 +40,8 @@ void TUpDown::SetAssociate(TWinControl* v) {
   if (v == Associate()) return;
   if (v == this) throw EPropertyError(QStringLiteral("%1 cannot be its own field.").arg(Name()));
   const TUpdateLock once(*this);
-  Set(Field, v);
+  SetReference(*this, field_, v);
+  Changed();
   if (!v || IsLoading() || IsLayoutFrozen() || v->Parent() != Parent()) return;
   const bool right = Get(AlignButton) == TUDAlignButton::udRight;
   SetBounds(right ? v->Left() + v->Width() : v->Left() - Width(), v->Top(), Width(), v->Height());

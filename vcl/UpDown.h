@@ -19,7 +19,7 @@ class TUpDown : public TWinControl {
   static constexpr TKept<int> Position{"Position", 0};
 
   // The field that the arrows belong to. They move to its side when somebody chooses it.
-  TWinControl* Associate() const { return Get(Field); }
+  TWinControl* Associate() const { return field_; }
   void SetAssociate(TWinControl* v);
 
   // The position stays within its ends; ends that would change places are refused.
@@ -33,5 +33,5 @@ class TUpDown : public TWinControl {
   void Paint(TCanvas& canvas) override;
 
  private:
-  static constexpr TKept<TWinControl*> Field{"Associate"};
+  TWinControl* field_ = nullptr;
 };
