@@ -3,6 +3,7 @@
 #include <QGridLayout>
 #include <QHeaderView>
 #include <QKeyEvent>
+#include <QRegularExpression>
 #include <QTableWidget>
 
 #include "dclstd/EditValue.h"
@@ -162,6 +163,9 @@ void EditMaskDialog::maskChange() {
   changed_ = true;
   const QSignalBlocker quiet(samples);
   samples->clearSelection();
+  // A mask with all its parts, as forms keep it, is typed or pasted by those who know it.
+  static const QRegularExpression whole(QStringLiteral("^.*;[01];.$"));
+  if (whole.match(mask->text()).hasMatch()) return Show(TEditMask::Parse(mask->text()));
   test->setInputMask(FieldMask(TEditMask::Parse(Mask())));
 }
 

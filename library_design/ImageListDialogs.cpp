@@ -99,7 +99,8 @@ bool Choose(IDesigner& designer, TCustomImageList*& list, std::vector<int>& inde
   dialog.SetLists(lists, list, indexes);
   dialog.SetLabels();
   if (dialog.ShowModal() != mrOk) return false;
-  const bool sameList = std::exchange(list, dialog.List()) == list;
+  const bool sameList = dialog.List() == list;
+  list = dialog.List();
   const int count = list ? list->Count() : 0;
   const std::vector<int> chosen = dialog.Indexes();
   for (std::size_t i = 0; i < indexes.size(); ++i)

@@ -31,7 +31,7 @@ TControlItem* TControlItems::ItemOf(const TControl& control) const {
 // By address alone: nothing else is left of it.
 void TControlItems::Forget(const TComponent* component) {
   for (int i = Count(); i-- > 0;)
-    if (static_cast<TControlItem*>(Item(i))->Get(TControlItem::Control) == component) Delete(i);
+    if (static_cast<TControlItem*>(Item(i))->GetWire(TControlItem::Control).Object == component) Delete(i);
 }
 
 void TControlItems::Keep(const std::vector<TControl*>& controls) {

@@ -521,6 +521,17 @@ TEST_F(MaskEditor, WritesAllItsParts) {
   EXPECT_EQ(edit.Get(TMaskEdit::EditMask), QString());
 }
 
+TEST_F(MaskEditor, AMaskTypedWithAllItsPartsIsThoseParts) {
+  Run([](EditMaskDialog& dialog) {
+    dialog.mask->clear();
+    QTest::keyClicks(dialog.mask, L("!99/99/00;0;*"));
+    EXPECT_EQ(dialog.mask->text(), L("!99/99/00"));
+    EXPECT_FALSE(dialog.literals->isChecked());
+    EXPECT_EQ(dialog.blank->text(), L("*"));
+  });
+  EXPECT_EQ(edit.Get(TMaskEdit::EditMask), L("!99/99/00;0;*"));
+}
+
 TEST_F(MaskEditor, ASampleIsTakenAndCanBeTried) {
   Run([](EditMaskDialog& dialog) {
     const auto rows = dialog.samples->findItems(L("Phone"), Qt::MatchExactly);

@@ -187,7 +187,7 @@ TEST(ImageListDialogs, AFormWithoutListsSaysSo) {
     dialog.accept();
   });
   EXPECT_TRUE(VRXCPGetIML(designer, list, index));
-  EXPECT_EQ(index, -1);
+  EXPECT_EQ(index, 4) << "nobody took it away";
 }
 
 TEST(ImageListDialogs, AComponentGetsTheListAndThePicture) {
@@ -206,6 +206,22 @@ TEST(ImageListDialogs, AComponentGetsTheListAndThePicture) {
   modal::NextOf<TVRXImageListDlg>([](auto& dialog) { dialog.accept(); });
   EXPECT_FALSE(VRXCPGetImageListOf(control, "ImageList", designer)) << "nothing else was chosen";
   control.Set(TVRXAniCtrl::ImageList, nullptr);
+}
+
+TEST(ImageListDialogs, AnIndexThatCannotBeShownStaysWithoutATouch) {
+  TForm form(nullptr);
+  FakeDesigner designer(&form);
+  TImageList* list = NewList(form, "Empty", {});
+  for (TCustomImageList* of :
+       {static_cast<TCustomImageList*>(nullptr), static_cast<TCustomImageList*>(list)}) {
+    TVRXAniCtrl control(nullptr);
+    control.Set(TVRXAniCtrl::ImageList, of);
+    control.Set(TVRXAniCtrl::ImageIndex, 5);
+    modal::NextOf<TVRXImageListDlg>([](auto& dialog) { dialog.accept(); });
+    EXPECT_FALSE(VRXCPGetImageListOf(control, "ImageList", designer));
+    EXPECT_EQ(control.Get(TVRXAniCtrl::ImageIndex), 5);
+    control.Set(TVRXAniCtrl::ImageList, nullptr);
+  }
 }
 
 TEST(ValueDialogs, ChooseANameOfAnEnumeration) {
