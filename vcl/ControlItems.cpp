@@ -23,7 +23,8 @@ void TControlItem::ReferenceChanged(TPersistent*, TPersistent* after) {
 
 TControlItem* TControlItems::ItemOf(const TControl& control) const {
   for (int i = 0; i < Count(); ++i)
-    if (auto* item = static_cast<TControlItem*>(Item(i)); item->Get(TControlItem::Control) == &control)
+    if (auto* item = static_cast<TControlItem*>(Item(i));
+        item->GetWire(TControlItem::Control).Object == &control)
       return item;
   return nullptr;
 }
