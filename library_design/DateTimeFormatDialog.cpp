@@ -44,6 +44,8 @@ TVRXDateTimeFormatDlg::TVRXDateTimeFormatDlg(QWidget* owner)
         new QListWidgetItem(text + QStringLiteral("     ") + VRXFormatDateTime(text, Sample()), usual);
     item->setData(Qt::UserRole, text);
   }
+  usual->setMinimumWidth(usual->sizeHintForColumn(0) + 2 * usual->frameWidth() +
+                         style()->pixelMetric(QStyle::PM_ScrollBarExtent));
   Wide({usual});
   Follows(usual);
   problem = QuietLine(this, "problem");

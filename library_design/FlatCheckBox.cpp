@@ -9,7 +9,7 @@ void FlatCheckBox::paintEvent(QPaintEvent*) {
   QStylePainter p(this);
   const QRect box = style()->subElementRect(QStyle::SE_CheckBoxIndicator, &option, this);
   const bool active = option.state.testFlag(QStyle::State_MouseOver) || isDown();
-  p.setPen(palette().color(active ? QPalette::Highlight : QPalette::Mid));
+  p.setPen(palette().color(active ? QPalette::Highlight : QPalette::PlaceholderText));
   p.setBrush(palette().color(QPalette::Base));
   p.drawRect(box.adjusted(0, 0, -1, -1));
   if (isChecked()) {

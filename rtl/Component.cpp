@@ -45,10 +45,25 @@ TComponent::TComponent(TComponent* owner) {
   if (owner) owner->InsertComponent(this);
 }
 
-TComponent::~TComponent() {
+void TComponent::operator delete(TComponent* component, std::destroying_delete_t) {
+  component->TellOfRemoval();
+  void* const memory = dynamic_cast<void*>(component);
+  component->~TComponent();
+  ::operator delete(memory);
+}
+
+// Not in the header, where the compiler would take the pair for another one than it is.
+void* TComponent::operator new(std::size_t size) { return ::operator new(size); }
+void TComponent::operator delete(void* memory) noexcept { ::operator delete(memory); }
+
+void TComponent::TellOfRemoval() {
   destroying_ = true;
   for (TComponent* c : std::exchange(freeNotifies_, TNotifyList()))
     c->Notification(this, TOperation::opRemove);
+}
+
+TComponent::~TComponent() {
+  TellOfRemoval();
   while (!components_.empty()) {
     TComponent* last = components_.back();
     RemoveComponent(last);

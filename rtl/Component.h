@@ -1,12 +1,13 @@
 // Components: named, owned, streamed with a form.
 #pragma once
 #include <QHash>
+#include <new>
 #include <utility>
 #include <vector>
 
 #include "rtl/Class.h"
-#include "rtl/NotifyList.h"
 #include "rtl/Kept.h"
+#include "rtl/NotifyList.h"
 
 // Where a designer shows the icon of a component that is not a control: the design-time position word with
 // left in its low and top in its high 16 bits, both signed.
@@ -42,6 +43,11 @@ class TComponent : public TKeeper {
   explicit TComponent(TComponent* owner);
   // Frees the components it owns, last first, tells everyone who asked, and leaves its owner.
   ~TComponent() override;
+  // Everyone who asked is told while the component is still of its class: a reference to it is let go before
+  // it leads to less than it says.
+  void operator delete(TComponent* component, std::destroying_delete_t);
+  static void* operator new(std::size_t size);
+  static void operator delete(void* memory) noexcept;
 
   TPersistent* GetOwner() const override { return owner_; }
   TComponent* Owner() const { return owner_; }
@@ -106,6 +112,7 @@ class TComponent : public TKeeper {
   virtual void NameChanged(const QString& oldName);
 
  private:
+  void TellOfRemoval();
   void EnterName(TComponent& component);
   void LeaveName(TComponent& component);
   int DesignLeft() const { return DesignPointOf(designInfo_).Left; }

@@ -4,14 +4,14 @@
 #include "vcl/ImageList.h"
 #include "vcl/PropertyGroups.h"
 
-namespace {
 void PaintDesignFrame(TCanvas& canvas, const QRect& rect) {
   QPainter& p = canvas.Painter();
+  p.save();
   p.setPen(QPen(ToQColor(clBtnShadow), 1, Qt::DashLine));
   p.setBrush(Qt::NoBrush);
   p.drawRect(rect.adjusted(0, 0, -1, -1));
+  p.restore();
 }
-}  // namespace
 
 const TClass& TImage::StaticClass() {
   static const TClass cls(

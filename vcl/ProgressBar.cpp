@@ -27,7 +27,7 @@ const TClass& TProgressBar::StaticClass() {
   return cls;
 }
 
-TProgressBar::TProgressBar(TComponent* owner) : TWinControl(owner) { SetBounds(0, 0, 150, 17); }
+TProgressBar::TProgressBar(TComponent* owner) : TRangedControl(owner) { SetBounds(0, 0, 150, 17); }
 
 void TProgressBar::Paint(TCanvas& canvas) {
   using enum TProgressBarOrientation;

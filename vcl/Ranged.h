@@ -1,29 +1,43 @@
-// A position between two ends: it is never outside of them, and no end is beyond the other.
+// Controls with a position between two ends: it is never outside of them, and no end is beyond the other.
 #pragma once
 #include <algorithm>
 
 #include "rtl/Exceptions.h"
 #include "vcl/AsGiven.h"
+#include "vcl/Control.h"
 
-// The control's class keeps Min, Max and Position.
-template <class C>
-void ChangeRange(C& control, int min, int max) {
-  const bool asGiven = TakesAsGiven(control);
-  if (!asGiven && max < min)
-    throw EPropertyError(QStringLiteral("%1 cannot go from %2 to %3: Min is not more than Max.")
-                             .arg(control.Name())
-                             .arg(min)
-                             .arg(max));
-  const TUpdateLock once(control);
-  control.Set(C::Min, min);
-  control.Set(C::Max, max);
-  if (!asGiven) control.Set(C::Position, std::clamp(control.Get(C::Position), min, max));
-}
+template <int FirstMax>
+class TRangedControl : public TWinControl {
+ public:
+  using TWinControl::TWinControl;
+  static constexpr TKept<int> Max{"Max", FirstMax};
+  static constexpr TKept<int> Min{"Min", 0};
+  static constexpr TKept<int> Position{"Position", 0};
 
-template <class C>
-void ChangePosition(C& control, int position) {
-  const int min = control.Get(C::Min), max = control.Get(C::Max);
-  // Ends that a file gives may be in any order.
-  const bool limited = min <= max && !TakesAsGiven(control);
-  control.Set(C::Position, limited ? std::clamp(position, min, max) : position);
-}
+  // The position stays within its ends; ends that would change places are refused. Ends that a file gives may
+  // be in any order.
+  int MaxOf() const { return Get(Max); }
+  void SetMax(int v) { ChangeRange(Get(Min), v); }
+  int MinOf() const { return Get(Min); }
+  void SetMin(int v) { ChangeRange(v, Get(Max)); }
+  int PositionOf() const { return Get(Position); }
+  void SetPosition(int v) {
+    const int min = Get(Min), max = Get(Max);
+    const bool limited = min <= max && !TakesAsGiven(*this);
+    Set(Position, limited ? std::clamp(v, min, max) : v);
+  }
+
+ private:
+  void ChangeRange(int min, int max) {
+    const bool asGiven = TakesAsGiven(*this);
+    if (!asGiven && max < min)
+      throw EPropertyError(QStringLiteral("%1 cannot go from %2 to %3: Min is not more than Max.")
+                               .arg(Name())
+                               .arg(min)
+                               .arg(max));
+    const TUpdateLock once(*this);
+    Set(Min, min);
+    Set(Max, max);
+    if (!asGiven) Set(Position, std::clamp(Get(Position), min, max));
+  }
+};

@@ -28,7 +28,7 @@ const TClass& TScrollBar::StaticClass() {
   return cls;
 }
 
-TScrollBar::TScrollBar(TComponent* owner) : TWinControl(owner) {
+TScrollBar::TScrollBar(TComponent* owner) : TRangedControl(owner) {
   tabStop_ = true;
   SetBounds(0, 0, 121, 17);
 }

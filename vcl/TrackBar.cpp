@@ -35,7 +35,7 @@ const TClass& TTrackBar::StaticClass() {
   return cls;
 }
 
-TTrackBar::TTrackBar(TComponent* owner) : TWinControl(owner) {
+TTrackBar::TTrackBar(TComponent* owner) : TRangedControl(owner) {
   tabStop_ = true;
   SetBounds(0, 0, 150, 45);
 }

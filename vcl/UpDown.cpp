@@ -34,7 +34,7 @@ const TClass& TUpDown::StaticClass() {
   return cls;
 }
 
-TUpDown::TUpDown(TComponent* owner) : TWinControl(owner) { SetBounds(0, 0, 17, 25); }
+TUpDown::TUpDown(TComponent* owner) : TRangedControl(owner) { SetBounds(0, 0, 17, 25); }
 
 void TUpDown::SetAssociate(TWinControl* v) {
   if (v == Associate()) return;

@@ -1,6 +1,7 @@
 #include "library/controls/AniCtrl.h"
 
 #include "rtl/Clock.h"
+#include "vcl/Image.h"
 #include "vcl/PropertyGroups.h"
 
 const TClass& TVRXCustomLImage::StaticClass() {
@@ -61,11 +62,8 @@ void TVRXCustomLImage::Paint(TCanvas& canvas) {
   if (!Get(Transparent)) canvas.FillRect(ClientRect(), Color());
   const int frame = Current();
   if (Frames() == 0) {
-    // Nothing to show yet: an outline says where it will be.
-    if (!IsDesigning()) return;
-    p.setPen(QPen(ToQColor(clBtnShadow), 1, Qt::DashLine));
-    p.setBrush(Qt::NoBrush);
-    return p.drawRect(ClientRect().adjusted(0, 0, -1, -1));
+    if (IsDesigning()) PaintDesignFrame(canvas, ClientRect());
+    return;
   }
   if (frame < 0 || frame >= Frames()) return;
   const QSize size = FrameSize();

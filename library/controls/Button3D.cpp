@@ -28,7 +28,7 @@ const TClass& TVRX3DEffectButton::StaticClass() {
 TVRXCustom3DButton::TVRXCustom3DButton(TComponent* owner)
     : TGraphicControl(owner), face_(std::make_unique<TVRXButtonFace>(this)) {
   captionFollowsName_ = true;
-  SetBounds(0, 0, 90, 32);
+  SetBounds(0, 0, 145, 32);
 }
 TVRXCustom3DButton::~TVRXCustom3DButton() = default;
 

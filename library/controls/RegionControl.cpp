@@ -5,7 +5,7 @@
 
 const TClass& TVRXRegion::StaticClass() {
   static const TClass cls(
-      DescribeClass<TVRXRegion>("TVRXRegion", TGraphicControl::StaticClass())
+      DescribeClass<TVRXRegion>("TVRXRegion", TWinControl::StaticClass())
           .Icon(
               "pen line 1 dots brush none box 3.5 3.5 17 17 0 pen line 1.3 brush accent "
               "shape 12 5 14.2 9.8 19.2 10.3 15.4 13.7 16.6 18.8 12 16.1 7.4 18.8 8.6 13.7 4.8 10.3 9.8 9.8")
@@ -22,7 +22,7 @@ const TClass& TVRXRegion::StaticClass() {
 }
 
 TVRXRegion::TVRXRegion(TComponent* owner)
-    : TGraphicControl(owner), mask_(std::make_unique<TVRXRegionMask>(this)) {
+    : TWinControl(owner), mask_(std::make_unique<TVRXRegionMask>(this)) {
   autoSize_ = true;
   SetBounds(0, 0, 72, 72);
 }
@@ -75,7 +75,7 @@ const TClass& TVRXWndButtonShape::StaticClass() {
 const TClass& TVRXPanelShape::StaticClass() {
   static const TClass cls(
       DescribeClass<TVRXPanelShape>("TVRXPanelShape", TVRXCustomShapeText::StaticClass())
-          .ClassDoc(QStringLiteral("An area in the shape of a region."),
+          .ClassDoc(QStringLiteral("An area in the shape of a region, for other controls to stand on."),
                     "pen line 1 dots brush none box 3.5 3.5 17 17 0 pen line 1.3 brush accent "
                     "shape 7 5 17 5 20 12 17 19 7 19 4 12"));
   return cls;
@@ -84,7 +84,7 @@ const TClass& TVRXPanelShape::StaticClass() {
 TVRXCustomShapeText::TVRXCustomShapeText(TComponent* owner)
     : TVRXRegion(owner), fontFx_(std::make_unique<TVRXFxCaption>(this)) {
   captionFollowsName_ = true;
-  SetBounds(0, 0, 136, 72);
+  SetBounds(0, 0, 152, 72);
 }
 TVRXCustomShapeText::~TVRXCustomShapeText() = default;
 

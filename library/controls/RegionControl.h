@@ -6,7 +6,7 @@
 #include "vcl/ImageList.h"
 
 // Shows the pictures of its mask inside the mask's region.
-class TVRXRegion : public TGraphicControl {
+class TVRXRegion : public TWinControl {
   VRX_CLASS(TVRXRegion)
  public:
   explicit TVRXRegion(TComponent* owner);
@@ -56,9 +56,10 @@ class TVRXWndButtonShape : public TVRXCustomShapeText {
   using TVRXCustomShapeText::TVRXCustomShapeText;
 };
 
-// An area in the shape of a region.
+// An area in the shape of a region, for other controls to stand on.
 class TVRXPanelShape : public TVRXCustomShapeText {
   VRX_CLASS(TVRXPanelShape)
  public:
   explicit TVRXPanelShape(TComponent* owner);
+  bool AcceptsControls() const override { return true; }
 };

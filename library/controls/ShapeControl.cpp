@@ -58,8 +58,11 @@ const TClass& TVRXShapeControl::StaticClass() {
 TVRXBaseShape::TVRXBaseShape(TComponent* owner) : TGraphicControl(owner) { SetBounds(0, 0, 105, 65); }
 
 QPolygonF TVRXBaseShape::Outline(const QRect& place) const {
-  QRectF room = QRect(place).marginsRemoved(Shadow()->Room());
-  if (room.width() < 0 || room.height() < 0) return {};
+  // However deep the shadow, half of the place is the figure's.
+  const QMargins shadow = Shadow()->Room();
+  const auto most = [](int margin, int side) { return std::min(margin, side / 2); };
+  QRectF room = place.marginsRemoved({most(shadow.left(), place.width()), most(shadow.top(), place.height()),
+                                      most(shadow.right(), place.width()), most(shadow.bottom(), place.height())});
   if (Get(Square)) {
     const int side = static_cast<int>(std::min(room.width(), room.height()));
     room = QRectF(room.left() + static_cast<int>(room.width() - side) / 2,

@@ -105,7 +105,8 @@ std::optional<double> OwnDirection(TVRXLineSign sign) {
 
 void TVRXTechnicalLine::PaintLine(QPainter& p, const QColor& color) const {
   QLineF line = Line();
-  const double size = Get(SignSize);
+  // A sign that is no wider than the line would not show.
+  const double size = std::max<int>(Get(SignSize), 2 * Get(LineWidth));
   std::vector<QPolygonF> signs;
   QPointF ends[] = {line.p1(), line.p2()};
   for (const bool atStart : {true, false}) {

@@ -5,7 +5,7 @@
 using D = TVRXShadowEditorDlg;
 
 TVRXShadowEditorDlg::TVRXShadowEditorDlg(QWidget* owner)
-    : EditorDialog(QStringLiteral("Shadow Editor"), QSize(462, 315), owner) {
+    : EditorDialog(QStringLiteral("Shadow Editor"), QSize(462, 315), owner, 190) {
   Preview(test);
   test->Caption()->SetCaption(QStringLiteral("Preview"));
   test->Set(TVRXBaseShape::Shape, TVRXShapeType::stEllipse);

@@ -160,6 +160,19 @@ TEST(TechnicalLine, WithoutSignsIsOneSharpLine) {
   EXPECT_EQ(InkOf(line), QRect(35, 0, 1, 21));
 }
 
+TEST(TechnicalLine, OfAnyThicknessHasSignsThatShow) {
+  TVRXTechnicalLine line(nullptr);
+  line.SetBounds(0, 0, 90, 41);
+  line.Set(TVRXTechnicalLine::LineWidth, 14);
+  line.Set(TVRXTechnicalLine::Arrowed, false);
+  const QImage plain = Draw(line, Qt::white);
+  line.Set(TVRXTechnicalLine::Arrowed, true);
+  line.Set(TVRXTechnicalLine::LineEnding, TVRXLineSign::lsSquare);
+  const QRect before = Inked(plain, Qt::white), box = Inked(Draw(line, Qt::white), Qt::white);
+  EXPECT_EQ(before.height(), 14);
+  EXPECT_EQ(box.height(), 28);
+}
+
 TEST(TechnicalLine, HasItsSignsAtTheEndsThatAreChosen) {
   TVRXTechnicalLine line(nullptr);
   line.SetBounds(0, 0, 70, 21);

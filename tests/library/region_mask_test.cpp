@@ -53,6 +53,23 @@ TEST(RegionMask, DownShowsTheSecondState) {
   EXPECT_EQ(Painted(control).pixel(4, 4), qRgb(0, 0, 255));
 }
 
+TEST(RegionMask, OnlyAPanelTakesOtherControlsAndShowsThemOnItself) {
+  EXPECT_FALSE(TVRXRegion(nullptr).AcceptsControls());
+  EXPECT_FALSE(TVRXWndButtonShape(nullptr).AcceptsControls());
+  TVRXPanelShape panel(nullptr);
+  EXPECT_TRUE(panel.AcceptsControls());
+  panel.SetBounds(0, 0, 40, 30);
+  panel.SetTransparent(false);
+  panel.SetColor(clRed);
+  TVRXPanelShape inner(nullptr);
+  inner.SetParent(&panel);
+  inner.SetBounds(10, 5, 20, 8);
+  inner.SetTransparent(false);
+  inner.SetColor(clBlue);
+  EXPECT_EQ(Painted(panel).pixel(5, 20), qRgb(255, 0, 0));
+  EXPECT_EQ(Painted(panel).pixel(12, 7), qRgb(0, 0, 255));
+}
+
 TEST(RegionMask, ARegionIsTheSameAsItsData) {
   const TRegion region = TRegion(TRect{1, 2, 5, 9}).United(TRegion(TRect{7, 4, 8, 20}));
   TVRXRegionMask mask, other;

@@ -155,10 +155,14 @@ TEST_F(ShapeDrawing, SquareMakesTheFigureAsWideAsHighInTheMiddle) {
   EXPECT_EQ(shape.Outline(shape.ClientRect()).boundingRect(), QRectF(0, 9, 17, 17));
 }
 
-TEST_F(ShapeDrawing, AShadowDeeperThanTheControlLeavesNothingToDraw) {
-  Apply("Shadow.Style=hssSolid Shadow.Depth=127");
-  EXPECT_TRUE(shape.Outline(shape.ClientRect()).isEmpty());
-  EXPECT_EQ(At(30, 20), ToQColor(clBtnFace));
+// 60 by 40: the figure keeps 30 by 20, on the side that the shadow falls away from.
+TEST_F(ShapeDrawing, AShadowDeeperThanTheControlLeavesHalfOfItToTheFigure) {
+  Apply("Shadow.Style=hssSolid Shadow.Depth=100");
+  EXPECT_EQ(shape.Outline(shape.ClientRect()).boundingRect(), QRectF(0, 0, 30, 20));
+  Apply("Shadow.Depth=-100");
+  EXPECT_EQ(shape.Outline(shape.ClientRect()).boundingRect(), QRectF(30, 20, 30, 20));
+  Apply("Shadow.Depth=25");
+  EXPECT_EQ(shape.Outline(shape.ClientRect()).boundingRect(), QRectF(0, 0, 35, 20));
 }
 
 TEST_F(ShapeDrawing, TheColourIsAroundTheFigureUnlessItIsTransparent) {

@@ -153,6 +153,33 @@ TEST(FreeNotification, TellsWhoAskedWhicheverGoesFirst) {
   delete a;
 }
 
+TEST(FreeNotification, IsToldWhileTheComponentIsStillOfItsClass) {
+  struct TListener : TComponent {
+    using TComponent::TComponent;
+    void Notification(TComponent* component, TOperation operation) override {
+      whole += dynamic_cast<TEverything*>(component) && component->IsDestroying();
+      TComponent::Notification(component, operation);
+    }
+    int whole = 0;
+  };
+  TListener listener(nullptr);
+  TComponent* component = new TEverything(nullptr);
+  component->FreeNotification(&listener);
+  delete component;
+  EXPECT_EQ(listener.whole, 1);
+  component = new TEverything(nullptr);
+  component->FreeNotification(&listener);
+  TPersistent* any = component;
+  delete any;
+  EXPECT_EQ(listener.whole, 2);
+  {
+    TComponent owner(nullptr);
+    (new TEverything(&owner))->FreeNotification(&listener);
+  }
+  EXPECT_EQ(listener.whole, 3);
+  EXPECT_TRUE(listener.FreeNotifies().empty());
+}
+
 TEST(FreeNotification, CanBeTakenBack) {
   auto* a = new TWatcher(nullptr);
   TWatcher b(nullptr);
