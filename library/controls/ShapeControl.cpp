@@ -61,8 +61,9 @@ QPolygonF TVRXBaseShape::Outline(const QRect& place) const {
   // However deep the shadow, half of the place is the figure's.
   const QMargins shadow = Shadow()->Room();
   const auto most = [](int margin, int side) { return std::min(margin, side / 2); };
-  QRectF room = place.marginsRemoved({most(shadow.left(), place.width()), most(shadow.top(), place.height()),
-                                      most(shadow.right(), place.width()), most(shadow.bottom(), place.height())});
+  QRectF room =
+      place.marginsRemoved({most(shadow.left(), place.width()), most(shadow.top(), place.height()),
+                            most(shadow.right(), place.width()), most(shadow.bottom(), place.height())});
   if (Get(Square)) {
     const int side = static_cast<int>(std::min(room.width(), room.height()));
     room = QRectF(room.left() + static_cast<int>(room.width() - side) / 2,
