@@ -56,7 +56,8 @@ class OutlinedFusion : public QProxyStyle {
                      const QWidget* widget) const override {
     const bool dark = option && IsDark(option->palette);
     const bool mark = element == PE_IndicatorCheckBox || element == PE_IndicatorRadioButton;
-    const Recolored outline(mark || (dark && element == PE_FrameLineEdit) ? option : nullptr,
+    const bool frame = element == PE_FrameLineEdit || element == PE_Frame;
+    const Recolored outline(mark || (dark && frame) ? option : nullptr,
                             QPalette::Window, [&](const QPalette& p) {
                               return !dark  ? p.color(QPalette::Window).darker(130)
                                      : mark ? p.color(QPalette::WindowText).darker(140)

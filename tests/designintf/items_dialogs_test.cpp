@@ -122,6 +122,19 @@ TEST_F(TreeEditor, TakesWhatIsTypedAndKeepsWhatItDoesNotShow) {
   EXPECT_EQ(designer.modified, 1);
 }
 
+// Longer than most forms can keep.
+TEST_F(TreeEditor, ALongTextLosesOnlyWhatIsTakenFromIt) {
+  const QString text(300, u'x');
+  TTreeNode node = Node("");
+  node.Text = text + u'y';
+  TreeItemsDialog dialog(nullptr);
+  dialog.SetNodes({node});
+  dialog.show();
+  dialog.text->end(false);
+  QTest::keyClick(dialog.text, Qt::Key_Backspace);
+  EXPECT_EQ(dialog.Nodes()[0].Text.toStdString(), text.toStdString());
+}
+
 TEST_F(TreeEditor, MakesAndDeletesItems) {
   Run([](TreeItemsDialog& dialog) {
     Pick(dialog, "b");
@@ -428,12 +441,20 @@ TEST_F(CellsEditor, PastesATableFromTheCurrentCellOn) {
     QTest::keyClick(dialog.table, Qt::Key_C, Qt::ControlModifier);
   });
   EXPECT_EQ(QGuiApplication::clipboard()->text(), L("a\tb\n\"c\nd\"\te\n"));
+  Run([](CellsDialog& dialog) {
+    auto& selection = *dialog.table->selectionModel();
+    selection.select(At(dialog, 1, 2), QItemSelectionModel::ClearAndSelect);
+    selection.select(At(dialog, 2, 3), QItemSelectionModel::Select);
+    QTest::keyClick(dialog.table, Qt::Key_C, Qt::ControlModifier);
+  });
+  EXPECT_EQ(QGuiApplication::clipboard()->text(), L("a\t\n\te\n")) << "what is not selected is not copied";
 }
 
 TEST_F(CellsEditor, LoadsAndSavesTableFiles) {
   prompts.saveAs = folder.filePath(L("out.csv"));
   prompts.file = FileWith("\xEF\xBB\xBFone;two\r\n;caf\xC3\xA9\r\n", "in.csv");
   Run([](CellsDialog& dialog) {
+    dialog.table->setCurrentIndex(At(dialog, 1, 1));  // a file begins at the first cell all the same
     Click(dialog.load);
     Click(dialog.save);
   });

@@ -499,6 +499,45 @@ TEST_F(AncestorTest, FramesThatDoubleEachOtherEndSomewhere) {
   EXPECT_EQ(session->Bytes(), Read("F0.dfm"));
 }
 
+TEST_F(AncestorTest, WhatTheFormPutElsewhereDoesNotPlaceItsNeighbours) {
+  Write("Base.dfm",
+        "object Base: TBase\n  object Panel1: TPanel\n    object A: TLabel\n    end\n    object B: TLabel\n"
+        "    end\n  end\n  object Button1: TButton\n  end\n  object Button2: TButton\n  end\nend\n");
+  Write("Derived.dfm",
+        "inherited Derived: TDerived\n  inherited Panel1: TPanel\n    inherited A: TLabel\n    end\n"
+        "    inherited B: TLabel\n    end\n    inherited Button1: TButton\n    end\n  end\n  object Own: "
+        "TLabel\n  end\nend\n");
+  const auto session = Open("Derived.dfm");
+  QStringList names;
+  for (const auto& child : session->Document().Root().children) names << QString::fromUtf8(child->name);
+  EXPECT_EQ(names, QStringList({QStringLiteral("Panel1"), QStringLiteral("Button2"), QStringLiteral("Own")}));
+  EXPECT_EQ(Control(*session, "Button1").Parent(), &Control(*session, "Panel1"));
+  EXPECT_EQ(session->Bytes(), Read("Derived.dfm"));
+}
+
+TEST_F(AncestorTest, TooManyAboveEachOtherAreTold) {
+  constexpr int Count = 20;
+  for (int i = 0; i < Count; ++i) {
+    const QByteArray me = QByteArray::number(i), above = QByteArray::number(i + 1);
+    Write(("L" + me + ".dfm").constData(), (i + 1 < Count ? "inherited L: TL" : "object L: TL") + me +
+                                               "\n  object B" + me + ": TButton\n  end\nend\n");
+    Write(("L" + me + ".pas").constData(),
+          "type TL" + me + " = class(" + (i + 1 < Count ? "TL" + above : QByteArray("TForm")) + ") end;");
+  }
+  const auto session = Open("L0.dfm");
+  ASSERT_EQ(Texts(*session).size(), 1);
+  EXPECT_TRUE(Texts(*session)[0].contains(QStringLiteral("more than 16 above each other, are not read")))
+      << Texts(*session)[0].toStdString();
+  EXPECT_NE(session->GetComponent(QStringLiteral("B16")), nullptr);
+  EXPECT_EQ(session->GetComponent(QStringLiteral("B17")), nullptr);
+}
+
+TEST_F(AncestorTest, OfTwoFilesWithOneClassTheFirstByNameCounts) {
+  Write("Again.dfm", QByteArray(Frame).replace("'Title'", "'Again'"));
+  Write("Zagain.dfm", QByteArray(Frame).replace("'Title'", "'Zagain'"));
+  EXPECT_EQ(Inside(*Open("Host.dfm"), "Head1", "Title").Caption(), QStringLiteral("Again"));
+}
+
 TEST(FormFolder, TheClassIsReadFromTheHead) {
   EXPECT_EQ(RootClassOf("\xEF\xBB\xBF  inherited Form2 :  TForm2 [3]\r\n"), "TForm2");
   EXPECT_EQ(RootClassOf("object TLonely\n"), "TLonely");

@@ -141,6 +141,18 @@ TEST_F(LostAction, WhatAClientStoresItselfStays) {
   EXPECT_FALSE(button.Visible());
 }
 
+TEST_F(LostAction, WhatTheSameStepGivesAClientStays) {
+  session_->Run(QStringLiteral("take off"), {}, [&] {
+    auto& item = dynamic_cast<TMenuItem&>(Get("Item"));
+    item.Set(TMenuItem::Action, nullptr);
+    item.Set(TMenuItem::Hint, QStringLiteral("new"));
+  });
+  const auto& item = dynamic_cast<TMenuItem&>(Get("Item"));
+  EXPECT_EQ(item.Get(TMenuItem::Hint), QStringLiteral("new"));
+  EXPECT_EQ(item.Get(TMenuItem::Caption), QStringLiteral("&Open..."));
+  ExpectOneStep();
+}
+
 TEST_F(LostAction, ThatGoesWithItsListDoesSoToo) {
   session_->DeleteComponents({&Get("Actions")});
   ExpectTheItemKeepsAll();
