@@ -7,80 +7,13 @@
 #include "ide/operations/Places.h"
 #include "rtl/PropAccess.h"
 #include "rtl/PropText.h"
+#include "tests/support/InheritedForms.h"
 #include "vcl/GroupBox.h"
+
+using namespace inherited_forms;
 
 namespace ide {
 namespace {
-const QByteArray Base = R"(object Base: TBase
-  Left = 3
-  Top = 4
-  Caption = 'Base'
-  ClientHeight = 300
-  ClientWidth = 400
-  OnCreate = FormCreate
-  object Panel1: TPanel
-    Left = 10
-    Top = 20
-    Width = 200
-    Height = 100
-    Caption = ''
-    TabOrder = 0
-    object Button1: TButton
-      Left = 8
-      Top = 9
-      Width = 75
-      Height = 25
-      Caption = 'Go'
-      Enabled = False
-      TabOrder = 0
-    end
-    object Box1: TMysteryBox
-      Left = 100
-      Top = 9
-      Width = 60
-      Height = 25
-    end
-  end
-  object Label1: TLabel
-    Left = 240
-    Top = 16
-    Width = 60
-    Height = 15
-    Caption = 'Of the base'
-    FocusControl = Button1
-  end
-  object Timer1: TTimer
-    Interval = 250
-    Left = 320
-    Top = 200
-  end
-end
-)";
-
-const QByteArray Derived = R"(inherited Derived: TDerived
-  Caption = 'Derived'
-  object Extra: TButton
-    Left = 240
-    Top = 60
-    Width = 75
-    Height = 25
-    Caption = 'Extra'
-    TabOrder = 1
-  end
-end
-)";
-
-const QByteArray Unit = R"(unit Derived;
-// TDerived = class(TNever)
-{ TDerived = class(TNever) } (* TDerived = class(TNever) *)
-const S = 'TDerived = class(TNever)';
-type
-  TDerived = class;
-  tderived = CLASS(BaseUnit.TBase, IOther)
-  end;
-end.
-)";
-
 const QByteArray Frame = R"(object Head: THead
   Left = 0
   Top = 0
@@ -135,22 +68,12 @@ class AncestorTest : public testing::Test {
  protected:
   void SetUp() override {
     RegisterAll();
-    Write("Base.dfm", Base);
-    Write("Derived.dfm", Derived);
-    Write("Derived.pas", Unit);
-    Write("Head.dfm", Frame);
-    Write("Host.dfm", Host);
+    files_.Write("Head.dfm", Frame);
+    files_.Write("Host.dfm", Host);
   }
-  QString Path(const char* name) const { return folder_.filePath(QString::fromLatin1(name)); }
-  void Write(const char* name, const QByteArray& bytes) const {
-    QFile file(Path(name));
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly | QIODevice::Truncate));
-    ASSERT_EQ(file.write(bytes), bytes.size());
-  }
-  QByteArray Read(const char* name) const {
-    QFile file(Path(name));
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("no such file");
-  }
+  QString Path(const char* name) const { return files_.Path(name); }
+  void Write(const char* name, const QByteArray& bytes) const { files_.Write(name, bytes); }
+  QByteArray Read(const char* name) const { return files_.Read(name); }
   std::unique_ptr<FormSession> Open(const char* name) const { return FormSession::Open(Path(name)); }
   static TControl& Control(const FormSession& session, const char* name) {
     return dynamic_cast<TControl&>(*session.GetComponent(QString::fromLatin1(name)));
@@ -182,7 +105,7 @@ class AncestorTest : public testing::Test {
       if (f.missingFile) texts << f.text;
     return texts;
   }
-  QTemporaryDir folder_;
+  Files files_;
 };
 }  // namespace
 
@@ -433,7 +356,7 @@ TEST_F(AncestorTest, FormsOfTheOtherDialectStandOnThoseOfTheirOwn) {
 TEST_F(AncestorTest, WhatIsNotThereIsToldOnceAndTheFormIsShownAsItIs) {
   QFile::remove(Path("Head.dfm"));
   QFile::remove(Path("Derived.pas"));
-  const QString folder = QDir(folder_.path()).path();
+  const QString folder = QDir(files_.Folder()).path();
   const auto host = Open("Host.dfm");
   EXPECT_EQ(Texts(*host),
             QStringList{QStringLiteral("The form file of THead was not found in %1. What comes from "
