@@ -150,13 +150,12 @@ void FormReader::ReadProperties(const Object& object, TComponent& component, boo
       continue;
     }
     target.path = p.Name();
-    const std::size_t before = pending_.size();
     Guarded(
         p, object, [&] { Apply(known, target, p); }, target.prop && target.prop->Is<QByteArray>());
     if (own && target.prop && target.prop->IsPart()) ReportUnread(target, p, object);
-    for (std::size_t i = before; i < pending_.size(); ++i) {
-      pending_[i].holder = &component;
-      pending_[i].source = own ? &p : nullptr;
+    for (auto r = pending_.rbegin(); r != pending_.rend() && !r->holder; ++r) {
+      r->holder = &component;
+      r->source = own ? &p : nullptr;
     }
   }
 }

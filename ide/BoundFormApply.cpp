@@ -42,6 +42,7 @@ void BoundForm::Settle(forms::Object& object) {
     for (const forms::Property& p : object.properties) {
       const forms::PropertyTarget target = forms::FindTarget(*c, p.Name());
       if (!target.Found() || !target.prop) continue;
+      if (target.prop->IsPart()) forms::ResolveKept(*root_, target);
       if (!IsComponentRef(*target.prop) && !IsBoundsProperty(p.Name())) continue;
       try {
         forms::ApplyNow(*root_, target, document_.Read(p), document_);

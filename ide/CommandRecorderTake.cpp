@@ -195,7 +195,14 @@ std::optional<ComponentChange> CommandRecorder::TakeChange(Before& before) {
   change.object = &object;
   const forms::Snapshot after = forms::TakeSnapshot(component, form_.Document());
   change.values = forms::Difference(before.values, after);
+  for (const forms::ValueChange& v : change.values)
+    if (v.after.type == forms::ValueType::Collection)
+      forms::ForgetReplaced(forms::FindTarget(*before.component, v.path));
   if (const auto* control = As<TControl>(&component)) MarkFollowing(change.values, *control);
+  // What was taken out on purpose is not written again.
+  for (const forms::ValueChange& out : stored_[&object])
+    for (forms::ValueChange& v : change.values)
+      v.follows = v.follows || (!out.nodeAfter && v.path.compare(out.path, Qt::CaseInsensitive) == 0);
   change.nameBefore = before.name;
   change.nameAfter = component.Name();
   change.classBefore = change.classAfter = object.className;
