@@ -32,6 +32,9 @@ class FormSession : public QObject, public IDesigner, public IControlHost, priva
   TForm& Form() const { return form_.Root(); }
   const forms::Document& Document() const { return form_.Document(); }
   const std::vector<forms::Finding>& Findings() const { return form_.Findings(); }
+  // Finds them anew, as if the form were opened as it is now; costs as much. Not while a command is under
+  // way.
+  void FindAgain();
   forms::Object* ObjectOf(const TComponent& component) const { return form_.ObjectOf(component); }
   TComponent* ComponentOf(const forms::Object& object) const { return form_.ComponentOf(object); }
   // All components in the order of the file, the root first.
@@ -138,6 +141,7 @@ class FormSession : public QObject, public IDesigner, public IControlHost, priva
   void Changed(const FormChange& change);
   void SelectionChanged();
   void ModifiedChanged();
+  void FindingsChanged();
   // The control looks different from now on, or is about to.
   void RepaintNeeded(const TControl& control);
   void HandlerShown(const QString& name);
