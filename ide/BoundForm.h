@@ -63,6 +63,8 @@ class BoundForm {
   void Unbind(TComponent& component) { map_.Remove(component); }
   // The object has come from elsewhere: what its frames hold comes with it.
   void Complete(forms::Object& object) { ancestors_.Complete(document_, object); }
+  // The files that are inherited from and hold something else now than was read.
+  QStringList ChangedAncestors() const { return ancestors_.Changed(); }
   // Makes the components of an object that stands in the document already.
   TComponent* MakeComponents(const StructureChange& change);
   // Frees the component of the object, and everything inside.

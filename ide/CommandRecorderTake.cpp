@@ -215,12 +215,12 @@ std::optional<ComponentChange> CommandRecorder::TakeChange(Before& before) {
     form_.SetName(change, true);
   }
   forms::PatchObject(object, form_.Document(), after, change.values, form_.InheritedValues(object));
-  LeaveOutEmpty(object, change.values);
   // These came first.
   std::vector<forms::ValueChange> stored = std::exchange(stored_[&object], {});
   if (!stored.empty()) LookAgain(*before.component, form_.Document(), object);
   std::move(change.values.begin(), change.values.end(), std::back_inserter(stored));
   change.values = std::move(stored);
+  LeaveOutEmpty(object, change.values);
   form_.TakeFingerprint(component, object);
   // It comes and goes with its object.
   if (inserted_.contains(&object) || (change.values.empty() && !renamed)) return {};

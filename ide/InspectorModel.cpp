@@ -269,6 +269,22 @@ QString InspectorModel::ProblemOf(const Node& node) const {
   return {};
 }
 
+bool InspectorModel::CanRevert(const Node& node) const {
+  return node.editor && !shown_.empty() && inspected_.front() == shown_.front() &&
+         std::any_of(shown_.begin(), shown_.end(),
+                     [&](const TComponent* c) { return session_->SaysItself(*c, node.Property()); });
+}
+
+QString InspectorModel::RevertToInherited(const QModelIndex& index) {
+  if (!index.isValid() || !CanRevert(*NodeAt(index))) return {};
+  try {
+    session_->RevertToInherited(shown_, NodeAt(index)->Property());
+  } catch (const std::exception& e) {
+    return ExceptionMessage(e);
+  }
+  return {};
+}
+
 // Of the rows that views know, those that show something else now, neighbours at once.
 void InspectorModel::TellChanges(const QModelIndex& parent) {
   const Node* node = parent.isValid() ? NodeAt(parent) : root_.get();
@@ -462,6 +478,8 @@ QVariant InspectorModel::data(const QModelIndex& index, int role) const {
     case ProblemRole:
     case Qt::AccessibleDescriptionRole:
       return *(NodeAt(index)->toldProblem = ProblemOf(*node));
+    case CanRevertRole:
+      return CanRevert(*node);
     case NotDefaultRole:
       return *(NodeAt(index)->toldNotDefault = IsNotDefault(*editor));
     case IsBooleanRole: {

@@ -17,6 +17,7 @@ class InspectorModel : public QAbstractItemModel {
     IsCategoryRole,
     DescriptionRole,
     ProblemRole,    // why the file's value of the row, or of one below, is refused
+    CanRevertRole,  // the form itself says something that its ancestor does, too
     FitsRole,       // the filter finds the row itself
     IsAboveRole     // the filter finds a row below
   };
@@ -46,6 +47,7 @@ class InspectorModel : public QAbstractItemModel {
   // Runs the editor's dialog as one command. Empty on success, else the message of what it threw.
   QString RunDialog(const QModelIndex& index);
   QString Reset(const QModelIndex& index);
+  QString RevertToInherited(const QModelIndex& index);
 
   QModelIndex index(int row, int column, const QModelIndex& parent = {}) const override;
   QModelIndex parent(const QModelIndex& child) const override;
@@ -73,6 +75,7 @@ class InspectorModel : public QAbstractItemModel {
   void TellChanges(const QModelIndex& parent);
   bool TakeChange(Node& node) const;
   QString ProblemOf(const Node& node) const;
+  bool CanRevert(const Node& node) const;
   void TakeProblems();
   QString Guarded(TPropertyEditor& editor, const char* member, const QString& text,
                   const std::function<void()>& action);
