@@ -45,10 +45,7 @@ end
 
 class DesignWindows : public DesignerTest {
  protected:
-  void SetUp() override {
-    Write(file_, Form);
-    DesignerTest::SetUp();
-  }
+  DesignWindows() : DesignerTest(Form) {}
   template <class W>
   W& Open(const char* component) {
     Session().Edit(Get(component));
