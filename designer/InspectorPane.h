@@ -72,6 +72,7 @@ class InspectorPane : public QWidget {
   void OpenRow(bool open);
   void GoToFirstHit();
   void ShowMenu(const QPoint& pos);
+  void TellDescription();
   void JumpTo(const QString& typed);
   bool FilterKey(int key);
   bool ListKey(int key, const QString& text);
