@@ -73,6 +73,12 @@ InspectorPane::InspectorPane(QWidget* parent) : QWidget(parent) {
     filter_->clear();
     filter_->setFocus();
   });
+  revert_ = new QAction(tr("Revert to &inherited"), this);
+  revert_->setObjectName(QStringLiteral("revertToInherited"));
+  revert_->setShortcut(QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Backspace));
+  revert_->setShortcutContext(Qt::WidgetWithChildrenShortcut);
+  addAction(revert_);
+  connect(revert_, &QAction::triggered, this, &InspectorPane::RevertToInherited);
   connect(grouped, &QToolButton::toggled, this, [this, grouped](bool on) { Group(*grouped, on); });
   ConnectRows();
 }
@@ -368,10 +374,23 @@ void InspectorPane::ShowMenu(const QPoint& pos) {
                    if (!reason.isEmpty()) editor_->SetProblem(reason);
                  })
       ->setEnabled(row.data(InspectorModel::NotDefaultRole).toBool());
+  menu.addAction(revert_);
+  revert_->setEnabled(row.data(InspectorModel::CanRevertRole).toBool());
   menu.addAction(tr("&Copy value"), this,
                  [&] { QApplication::clipboard()->setText(model_.ValueText(CurrentRow())); });
   menu.addAction(tr("Copy &name"), this, [&] {
     QApplication::clipboard()->setText(CurrentRow().data(InspectorModel::PathRole).toString());
   });
   menu.exec(view_->viewport()->mapToGlobal(pos));
+  revert_->setEnabled(true);  // the key asks when it is pressed
+}
+
+void InspectorPane::RevertToInherited() {
+  if (!CurrentRow().isValid() || !Commit()) return FocusValue();
+  if (!CurrentRow().data(InspectorModel::CanRevertRole).toBool())
+    return emit Message(tr("%1 is what the ancestor form says, or there is none.")
+                            .arg(CurrentRow().data(InspectorModel::PathRole).toString()));
+  const QString reason = model_.RevertToInherited(CurrentRow());
+  ShowValue();
+  if (!reason.isEmpty()) editor_->SetProblem(reason);
 }
