@@ -5,6 +5,7 @@
 
 #include "cli/Commands.h"
 #include "cli/OpenForm.h"
+#include "cli/Suggest.h"
 #include "forms/FormFile.h"
 #include "forms/TextWriter.h"
 #include "ide/BoundsCheck.h"
@@ -38,8 +39,27 @@ TComponent& ComponentOf(FormSession& session, const QString& text, QByteArray& p
     path = names.mid(used).join(u'.').trimmed().toUtf8();
     return *c;
   }
-  throw Exception(QStringLiteral("%1 has no component named \"%2\"").arg(session.FileName(), name));
+  QStringList known;
+  for (const TComponent* c : session.AllComponents()) known << c->Name();
+  throw Exception(QStringLiteral("%1 has no component named \"%2\".").arg(session.FileName(), name) +
+                  DidYouMean(name, known));
 }
+
+namespace {
+// Also what the file says of it and no class knows.
+[[noreturn]] void ThrowNoProperty(const FormSession& session, TComponent& component, const QByteArray& path) {
+  QStringList known;
+  for (const StoredValue& v : PropertyValues(component, session.Document(), true)) {
+    known << QString::fromUtf8(v.path);
+    if (const qsizetype dot = v.path.indexOf('.'); dot > 0) known << QString::fromUtf8(v.path.first(dot));
+  }
+  for (const Property& p : session.ObjectOf(component)->properties) known << QString::fromUtf8(p.Name());
+  throw Exception(QStringLiteral("%1: %2 (%3) has no property \"%4\".")
+                      .arg(session.FileName(), component.Name(),
+                           QString::fromUtf8(component.StreamClassName()), QString::fromUtf8(path)) +
+                  DidYouMean(QString::fromUtf8(path), known));
+}
+}  // namespace
 
 void WriteForm(FormSession& session, const QString& file) {
   if (SameFile(file, session.FileName()))
@@ -127,6 +147,13 @@ int GetCommand(const QStringList& list, Console& console) {
                   << '\n';
       found = true;
     }
+  // Of one that is inherited, also what its ancestors say.
+  if (path.isEmpty() && object.origin)
+    for (const StoredValue& v : PropertyValues(component, document, false))
+      if (!object.Find(v.path)) {
+        console.out << QString::fromUtf8(v.path) << " = " << ShownValue(v.value, document) << '\n';
+        found = true;
+      }
   if (!path.isEmpty())
     for (const StoredValue& v : PropertyValues(component, document, true)) {
       if (v.path.compare(path, Qt::CaseInsensitive) == 0) {
@@ -138,10 +165,7 @@ int GetCommand(const QStringList& list, Console& console) {
       }
     }
   console.out.flush();
-  if (!found && !path.isEmpty())
-    throw Exception(
-        QStringLiteral("%1: %2 has no property \"%3\"")
-            .arg(component.Name(), QString::fromUtf8(component.StreamClassName()), QString::fromUtf8(path)));
+  if (!found && !path.isEmpty()) ThrowNoProperty(*session, component, path);
   return ExitOk;
 }
 
@@ -186,9 +210,7 @@ int SetCommand(const QStringList& list, Console& console) {
         continue;
       }
       if (!target.Found() || (root && !RootHasProperty(session->Form().Kind(), a.path.split('.')[0])))
-        throw Exception(QStringLiteral("%1: %2 has no property \"%3\"")
-                            .arg(a.component->Name(), QString::fromUtf8(a.component->StreamClassName()),
-                                 QString::fromUtf8(a.path)));
+        ThrowNoProperty(*session, *a.component, a.path);
       try {
         ApplyNow(session->Form(), target, a.value, session->Document());
         if (const auto unread = UnreadValues(target); !unread.empty()) {

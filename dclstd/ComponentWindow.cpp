@@ -1,6 +1,7 @@
 #include "dclstd/ComponentWindow.h"
 
 #include <QApplication>
+#include <QKeyEvent>
 #include <QMainWindow>
 #include <QScreen>
 #include <QStyle>
@@ -76,6 +77,13 @@ void ComponentWindow::Leave() {
 void ComponentWindow::closeEvent(QCloseEvent* event) {
   SetDesigner(nullptr);
   TDesignWindow::closeEvent(event);
+}
+
+void ComponentWindow::keyPressEvent(QKeyEvent* event) {
+  if (event->key() == Qt::Key_Escape && !event->modifiers())
+    close();
+  else
+    TDesignWindow::keyPressEvent(event);
 }
 
 void ComponentWindow::ItemDeleted(IDesigner* designer, TPersistent* item) {

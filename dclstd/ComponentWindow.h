@@ -51,6 +51,8 @@ class ComponentWindow : public TDesignWindow {
     return button;
   }
   void closeEvent(QCloseEvent* event) override;
+  // Escape closes the window, unless something in it has a use for it.
+  void keyPressEvent(QKeyEvent* event) override;
   // Closes the window, from inside of a notification, too.
   void Leave();
   // One step that can be undone; what it throws is told.

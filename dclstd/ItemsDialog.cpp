@@ -78,6 +78,7 @@ ItemsDialog::ItemsDialog(Kind kind, QWidget* owner)
   tree->setHeaderHidden(true);
   tree->setUniformRowHeights(true);
   tree->installEventFilter(this);
+  tree->viewport()->installEventFilter(this);
   Follows(tree);
   auto* grid = new QGridLayout;
   RowsInto(*grid);
@@ -258,6 +259,11 @@ void ItemsDialog::DropAt(const RowDrag::Target& target) {
 }
 
 bool ItemsDialog::eventFilter(QObject* watched, QEvent* event) {
+  // Below the items nothing is selected: a new one comes to the end of all.
+  if (watched == tree->viewport() && event->type() == QEvent::MouseButtonPress &&
+      !tree->itemAt(static_cast<QMouseEvent*>(event)->position().toPoint()))
+    tree->setCurrentItem(nullptr);
+  if (watched != tree) return RowDialog::eventFilter(watched, event);
   if (event->type() != QEvent::KeyPress) return RowDialog::eventFilter(watched, event);
   const auto* key = static_cast<QKeyEvent*>(event);
   const bool control = key->modifiers() == Qt::ControlModifier;

@@ -21,6 +21,7 @@ QString DiskChanges::FileName() const { return QFileInfo(session_->FileName()).f
 // The file is the one that was read or saved here.
 void DiskChanges::Settle() {
   Note(DiskState::Same, {});
+  toldAncestors_.clear();
   bar_.hide();
 }
 
@@ -78,7 +79,7 @@ void DiskChanges::Check() {
     switch (session_->StateOnDisk()) {
       case DiskState::Same:
         if (Differs()) Settle();
-        return;
+        return CheckAncestors();
       case DiskState::Gone:
         return TellGone();
       case DiskState::Changed:
@@ -87,6 +88,20 @@ void DiskChanges::Check() {
   } catch (const Exception&) {
     // It cannot be read now. Saving will say so; looking at a window is no occasion for a message.
   }
+}
+
+// What is inherited is shown as it was read until the form is read again.
+void DiskChanges::CheckAncestors() {
+  const QStringList changed = session_->ChangedAncestors();
+  if (changed == toldAncestors_) return;
+  toldAncestors_ = changed;
+  if (changed.isEmpty()) return bar_.hide();
+  QStringList names;
+  for (const QString& file : changed) names << QFileInfo(file).fileName();
+  const QString what = tr("%1, which %2 inherits from, was changed by another program.")
+                           .arg(names.join(QStringLiteral(", ")), FileName());
+  bar_.Tell(session_->IsModified() ? what + u' ' + tr("Reloading gives up the changes made here.") : what,
+            {{tr("&Reload"), "reloadAncestor", [this] { ReloadOnDemand(); }}});
 }
 
 void DiskChanges::TellGone() {

@@ -16,7 +16,8 @@ class DiskChanges : public QObject {
   // Writes the form into its file. When another program changed the file, the person decides: false when it
   // was not written. Errors: Exception.
   bool Save();
-  // Looks at the file and tells quietly what became of it. Once for every change.
+  // Looks at the file, and at those that the form inherits from, and tells quietly what became of them. Once
+  // for every change.
   void Check();
   // As far as was looked: the file is not the one that was read or saved here.
   bool Differs() const { return told_.first != DiskState::Same; }
@@ -33,6 +34,7 @@ class DiskChanges : public QObject {
   bool Note(DiskState state, const QByteArray& onDisk);
   void TellChanged(const QByteArray& onDisk);
   void TellGone();
+  void CheckAncestors();
   void Settle();
   void ReloadOnDemand();
   TFileAnswer ShowBoth(const QByteArray& onDisk);
@@ -42,4 +44,5 @@ class DiskChanges : public QObject {
   FormSession* session_ = nullptr;
   // What the bar spoke of last, and what the file held then.
   std::pair<DiskState, QByteArray> told_{DiskState::Same, {}};
+  QStringList toldAncestors_;
 };

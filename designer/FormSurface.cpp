@@ -49,6 +49,11 @@ void FormSurface::TakeChange(const FormChange& change) {
         if (HasTile(*session_, *c)) icons_.push_back(c);
     }
   }
+  // Controls show values of their actions.
+  for (const TComponent* c : change.values)
+    if (!As<TControl>(c))
+      for (const TComponent* holder : c->FreeNotifies())
+        if (const auto* client = As<TControl>(holder)) Touch(*client);
   const auto icon = [](const TComponent* c) { return HasIcon(*c); };
   if (sizeHint() != minimumSize())
     UpdateSize();

@@ -9,6 +9,7 @@
 #include "ide/InspectorModel.h"
 
 class ComponentBox;
+class QAction;
 class QLabel;
 class QLineEdit;
 class QTabBar;
@@ -72,6 +73,8 @@ class InspectorPane : public QWidget {
   void OpenRow(bool open);
   void GoToFirstHit();
   void ShowMenu(const QPoint& pos);
+  void RevertToInherited();
+  void TellDescription();
   void JumpTo(const QString& typed);
   bool FilterKey(int key);
   bool ListKey(int key, const QString& text);
@@ -86,6 +89,7 @@ class InspectorPane : public QWidget {
   QTreeView* view_;
   ValueEditor* editor_;
   QLabel* description_;
+  QAction* revert_;
   QSet<QString> expanded_;
   QSet<QString> closedCategories_;
   std::array<Place, 2> places_;

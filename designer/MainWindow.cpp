@@ -40,7 +40,7 @@ MainWindow::MainWindow(PackageManager& packages) : packages_(packages) {
       inspector_->SetSession(nullptr);  // its rows belong to editors that may be gone
       session_->Rebuild();
       inspector_->SetSession(session_.get());
-      UpdateProblems();
+      problems_->Show();
     }
   });
   // What opens the rest of a bar that is too narrow.
@@ -55,6 +55,7 @@ MainWindow::~MainWindow() {
   inspector_->SetSession(nullptr);
   structure_->SetSession(nullptr);
   surface_->SetSession(nullptr);
+  problems_->SetSession(nullptr);
 }
 
 void MainWindow::BuildPanes() {
@@ -86,6 +87,7 @@ void MainWindow::BuildPanes() {
   structure_ = new StructurePane;
   inspector_ = new InspectorPane;
   problems_ = new ProblemsList;
+  connect(problems_, &ProblemsList::Told, this, &MainWindow::ShowProblems);
   const auto dock = [this](WindowPane pane, const QString& title, QWidget* widget, Qt::DockWidgetArea area) {
     auto* d = docks_[static_cast<std::size_t>(pane)] = new QDockWidget(title, this);
     d->setObjectName(title);

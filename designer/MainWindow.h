@@ -72,7 +72,7 @@ class MainWindow : public QMainWindow, public IDesignerWindow {
   QString ShownName() const;
   void UpdateActions();
   void UpdateStatus();
-  void UpdateProblems();
+  void ShowProblems(bool more);
   void RunVerb(const std::function<void()>& run);
   void ShowContextMenu(const QPoint& pos);
   bool SaveTo(const QString& fileName);

@@ -36,16 +36,16 @@ void MainWindow::SetSession(std::unique_ptr<FormSession> session) {
   });
   connect(session_.get(), &FormSession::HandlerShown, this,
           [this](const QString& name) { statusBar()->showMessage(tr("Event handler %1").arg(name), 5000); });
-  UpdateProblems();
+  problems_->SetSession(session_.get());
   UpdateActions();
   surface_->setFocus();
 }
 
-void MainWindow::UpdateProblems() {
-  problems_->Show(session_ ? session_->Findings() : std::vector<forms::Finding>());
+// Who closed the list sees it again when there is more in it.
+void MainWindow::ShowProblems(bool more) {
   QDockWidget& dock = *docks_[static_cast<std::size_t>(WindowPane::Problems)];
   dock.setWindowTitle(tr("Problems (%1)").arg(problems_->count()));
-  dock.setVisible(problems_->count() > 0);
+  if (more || problems_->count() == 0) dock.setVisible(more);
 }
 
 bool MainWindow::OpenForm(const QString& fileName) {

@@ -33,6 +33,9 @@ void RowDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
   } else {
     o.widget->style()->drawControl(QStyle::CE_ItemViewItem, &o, painter, o.widget);
   }
+  if (const QString problem = index.data(InspectorModel::ProblemRole).toString();
+      index.column() == 0 && !problem.isEmpty())
+    o.widget->style()->standardIcon(QStyle::SP_MessageBoxWarning).paint(painter, SignRect(o.rect));
   painter->save();
   painter->setPen(o.palette.color(QPalette::Midlight)
                       .lighter(o.palette.color(QPalette::Base).lightness() > 128 ? 118 : 80));

@@ -125,6 +125,37 @@ const KeptValues& KeptBy(const TCollectionItem& item) {
   return item.Unread() ? *static_cast<const KeptValues*>(item.Unread().get()) : none;
 }
 
+bool SameName(QByteArrayView a, QByteArrayView b) { return a.compare(b, Qt::CaseInsensitive) == 0; }
+
+void SetKept(TCollectionItem& item, KeptValues kept) {
+  item.SetUnread(kept.empty() ? nullptr : std::make_shared<const KeptValues>(std::move(kept)));
+}
+
+// Without what the item keeps of these properties.
+template <class F>
+KeptValues KeptWithout(const TCollectionItem& item, F gone) {
+  KeptValues kept = KeptBy(item);
+  std::erase_if(kept, [&](const KeptValue& k) { return gone(k.property.path); });
+  return kept;
+}
+
+// The reference leads to nothing here: the item keeps it as the file has it.
+void KeepReference(const PendingReference& p) {
+  KeptValues kept = KeptWithout(*p.item, [&](const QByteArray& path) { return SameName(path, p.path); });
+  const auto why = std::make_exception_ptr(EPropertyError(
+      QStringLiteral("%1 cannot refer to %2.").arg(QString::fromUtf8(p.path), WhyUnresolved(p))));
+  const auto at =
+      std::find_if(kept.begin(), kept.end(), [&](const KeptValue& k) { return k.index > p.index; });
+  kept.insert(at, {p.index, {p.path, Value::Identifier(p.target)}, why});
+  SetKept(*p.item, std::move(kept));
+}
+
+bool IsInside(const TCollectionItem* item, const TCollection& collection) {
+  for (const TPersistent* at = item; at; at = at->GetOwner())
+    if (at == &collection) return true;
+  return false;
+}
+
 // What the item does not take stays with it: nothing of a file is lost because something in it is unknown.
 void ApplyItem(TCollectionItem& target, const CollectionItem& item, const Document& doc,
                std::vector<PendingReference>& pending) {
@@ -138,9 +169,14 @@ void ApplyItem(TCollectionItem& target, const CollectionItem& item, const Docume
     } catch (const Exception&) {
       refused = std::current_exception();
     }
+    for (auto r = pending.rbegin(); r != pending.rend() && !r->item && !r->holder; ++r) {
+      r->item = &target;
+      r->index = i;
+      r->path = p.path;
+    }
     if (!inner.Found() || refused) kept.push_back({i, p, refused});
   }
-  if (!kept.empty()) target.SetUnread(std::make_shared<const KeptValues>(std::move(kept)));
+  SetKept(target, std::move(kept));
 }
 
 void ApplyPart(const PropertyTarget& t, const Value& v, const Document& doc,
@@ -153,20 +189,32 @@ void ApplyPart(const PropertyTarget& t, const Value& v, const Document& doc,
            collection ? QStringLiteral("a collection <...> is expected")
                       : QStringLiteral("its parts are set one by one"));
   const TUpdateLock lock(*collection);
+  // What an ancestor says is replaced before its references are looked up.
+  if (collection->Count() > 0)
+    std::erase_if(pending, [&](const PendingReference& p) { return IsInside(p.item, *collection); });
   collection->Clear();
   for (const CollectionItem& item : v.collection) ApplyItem(*collection->Add(), item, doc, pending);
 }
 
-void CollectUnread(const TCollection& collection, const QByteArray& path, std::vector<UnreadValue>& out) {
+// The items, and those of the collections inside of them, with what their properties are called.
+template <class F>
+void ForEachItem(const TCollection& collection, const QByteArray& path, F visit) {
   for (int i = 0; i < collection.Count(); ++i) {
-    const TCollectionItem& item = *collection.Item(i);
+    TCollectionItem& item = *collection.Item(i);
     const QByteArray inside = path + '[' + QByteArray::number(i) + "].";
-    for (const KeptValue& kept : KeptBy(item)) out.push_back({inside + kept.property.path, kept.refused});
+    visit(item, inside);
     for (const TPropInfo* prop : item.ClassType().Properties())
       if (prop->IsPart() && !prop->Access->IsUntouched(item))
         if (const auto* inner = As<TCollection>(GetObjectProp(item, *prop)))
-          CollectUnread(*inner, inside + prop->Name, out);
+          ForEachItem(*inner, inside + prop->Name, visit);
   }
+}
+template <class F>
+void ForEachItem(const PropertyTarget& target, F visit) {
+  const TPersistent* part =
+      target.prop && target.prop->IsPart() ? GetObjectProp(*target.instance, *target.prop) : nullptr;
+  if (const auto* collection = As<TCollection>(part))
+    ForEachItem(*collection, target.path.isEmpty() ? target.prop->Name : target.path.toByteArray(), visit);
 }
 
 long double NumberOf(const PropertyTarget& t, const Value& v) {
@@ -227,10 +275,9 @@ void ApplyValue(const PropertyTarget& t, const Value& v, const Document& doc,
 
 std::vector<UnreadValue> UnreadValues(const PropertyTarget& target) {
   std::vector<UnreadValue> all;
-  const TPersistent* part =
-      target.prop && target.prop->IsPart() ? GetObjectProp(*target.instance, *target.prop) : nullptr;
-  if (const auto* collection = As<TCollection>(part))
-    CollectUnread(*collection, target.path.isEmpty() ? target.prop->Name : target.path.toByteArray(), all);
+  ForEachItem(target, [&](const TCollectionItem& item, const QByteArray& inside) {
+    for (const KeptValue& kept : KeptBy(item)) all.push_back({inside + kept.property.path, kept.refused});
+  });
   return all;
 }
 
@@ -271,8 +318,9 @@ TComponent* FindReferenced(TComponent& root, const TComponent* from, const QStri
 
 void AddReference(std::vector<PendingReference>& pending, const PropertyTarget& target, QByteArrayView name) {
   const bool same = !pending.empty() && pending.back().target == name;
-  pending.push_back({nullptr, target.instance, target.prop, same ? pending.back().target : name.toByteArray(),
-                     nullptr, nullptr});
+  pending.push_back({.instance = target.instance,
+                     .prop = target.prop,
+                     .target = same ? pending.back().target : name.toByteArray()});
 }
 
 std::vector<PendingReference> ResolveReferences(TComponent& root, std::vector<PendingReference> pending) {
@@ -286,12 +334,41 @@ std::vector<PendingReference> ResolveReferences(TComponent& root, std::vector<Pe
       target = FindReferenced(root, from = space, QString::fromUtf8(path = p.target));
     if (!target || !target->InheritsFrom(p.prop->PropType->ClassType())) {
       p.unfit = target;
+      if (p.item) KeepReference(p);
       return false;
     }
     SetObjectProp(*p.instance, *p.prop, target);
     return true;
   });
   return pending;
+}
+
+void ResolveKept(TComponent& root, const PropertyTarget& target) {
+  std::vector<PendingReference> pending;
+  ForEachItem(target, [&](TCollectionItem& item, const QByteArray&) {
+    for (const KeptValue& kept : KeptBy(item)) {
+      const PropertyTarget inner = FindTarget(item, kept.property.path);
+      if (!inner.prop || !IsComponentRef(*inner.prop) || kept.property.value.type != ValueType::Ident)
+        continue;
+      AddReference(pending, inner, kept.property.value.bytes);
+      PendingReference& p = pending.back();
+      p.item = &item;
+      p.index = kept.index;
+      p.path = kept.property.path;
+    }
+  });
+  ResolveReferences(root, std::move(pending));
+  ForgetReplaced(target);
+}
+
+void ForgetReplaced(const PropertyTarget& target) {
+  ForEachItem(target, [](TCollectionItem& item, const QByteArray&) {
+    if (!item.Unread()) return;
+    SetKept(item, KeptWithout(item, [&](const QByteArray& path) {
+              const PropertyTarget inner = FindTarget(item, path);
+              return inner.prop && IsStoredProp(*inner.instance, *inner.prop);
+            }));
+  });
 }
 
 QString WhyUnresolved(const PendingReference& p) {
@@ -305,10 +382,9 @@ QString WhyUnresolved(const PendingReference& p) {
 void ApplyNow(TComponent& root, const PropertyTarget& target, const Value& value, const Document& document) {
   std::vector<PendingReference> pending;
   ApplyValue(target, value, document, pending);
-  const auto unresolved = ResolveReferences(root, std::move(pending));
-  if (!unresolved.empty())
-    throw EPropertyError(
-        QStringLiteral("%1 cannot refer to %2.").arg(NameOf(target), WhyUnresolved(unresolved[0])));
+  for (const PendingReference& p : ResolveReferences(root, std::move(pending)))
+    if (!p.item)
+      throw EPropertyError(QStringLiteral("%1 cannot refer to %2.").arg(NameOf(target), WhyUnresolved(p)));
 }
 
 namespace {
@@ -329,7 +405,13 @@ Value CollectionValue(const TCollection& collection, const Document& doc) {
     CollectionItem item;
     for (StoredValue& p : PropertyValues(*collection.Item(i), doc, false))
       item.properties.push_back({p.path, std::move(p.value)});
-    for (const KeptValue& kept : KeptBy(*collection.Item(i))) {
+    const auto written = [&, own = item.properties.size()](const KeptValue& kept) {
+      return std::any_of(item.properties.begin(), item.properties.begin() + static_cast<std::ptrdiff_t>(own),
+                         [&](const NamedValue& p) { return SameName(p.path, kept.property.path); });
+    };
+    KeptValues all = KeptBy(*collection.Item(i));
+    std::erase_if(all, written);
+    for (const KeptValue& kept : all) {
       const auto index = std::min(kept.index, item.properties.size());
       item.properties.insert(item.properties.begin() + static_cast<std::ptrdiff_t>(index), kept.property);
     }

@@ -6,6 +6,8 @@
 #include "forms/Document.h"
 #include "rtl/Component.h"
 
+class TCollectionItem;
+
 namespace forms {
 
 // A component reference waits until all components exist.
@@ -17,6 +19,10 @@ struct PendingReference {
   const Property* source = nullptr;
   // Why it could not be resolved: there is a component of that name, but of another class.
   const TComponent* unfit = nullptr;
+  // Inside of a collection: the item, which property of it this is, and at which place.
+  TCollectionItem* item = nullptr;
+  std::size_t index = 0;
+  QByteArray path{};
 };
 // "Label2, which is a TLabel and no TWinControl"; "Gone, which is not on this form".
 QString WhyUnresolved(const PendingReference& reference);
@@ -52,16 +58,22 @@ std::int64_t OrdinalOf(const PropertyTarget& target, const Value& value);
 void ApplyValue(const PropertyTarget& target, const Value& value, const Document& document,
                 std::vector<PendingReference>& pending);
 // A value inside a collection that its item did not take. The item keeps it, and it is written again where it
-// stood.
+// stood, unless the item has got another value for it.
 struct UnreadValue {
   QByteArray path;             // "Columns[1].Foreign"
   std::exception_ptr refused;  // none: the item has no such property
 };
 // All of a property's collection, and of those inside of its items.
 std::vector<UnreadValue> UnreadValues(const PropertyTarget& target);
-// Looks the references up among the root's components; those that cannot be found are returned.
+// Looks the references up among the root's components; those that cannot be found are returned. Items of
+// collections keep theirs.
 std::vector<PendingReference> ResolveReferences(TComponent& root, std::vector<PendingReference> pending);
-// One property from its text in a form file, references included. Throws like ApplyValue.
+// Looks once more for what the items of a property's collection could not refer to.
+void ResolveKept(TComponent& root, const PropertyTarget& target);
+// What the items of a property's collection kept of values that they have got anew is gone.
+void ForgetReplaced(const PropertyTarget& target);
+// One property from its text in a form file, references included. Throws like ApplyValue, except for what
+// items of a collection keep.
 void ApplyNow(TComponent& root, const PropertyTarget& target, const Value& value, const Document& document);
 
 // The value of a property as a form file holds it; nothing for a reference to another form.

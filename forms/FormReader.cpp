@@ -24,6 +24,14 @@ void FormReader::Report(Severity severity, Location where, QString text, bool un
   findings_.push_back({severity, where, std::move(text), unknownName});
 }
 
+void FormReader::ReportRefused(Severity severity, const Object& object, const Property& property,
+                               QString text) {
+  if (from_ != &document_) return;
+  Report(severity, document_.Where(property), std::move(text));
+  findings_.back().object = &object;
+  findings_.back().property = property.Name().toByteArray();
+}
+
 TComponent* FormReader::Create(Object& object, TComponent* owner) {
   auto it = classes_.find(object.className);
   if (it == classes_.end()) it = classes_.insert(object.className, FindClass(object.className));
@@ -118,8 +126,8 @@ void FormReader::Guarded(const Property& property, const Object& object, F read,
     if (own) ReportName(e, property, object);
   } catch (const Exception& e) {
     if (!own) return;
-    Report(Severity::Error, document_.Where(property),
-           QStringLiteral("%1: %2").arg(ObjectTitle(object), e.Message()));
+    ReportRefused(Severity::Error, object, property,
+                  QStringLiteral("%1: %2").arg(ObjectTitle(object), e.Message()));
     findings_.back().refusedData = data;
   }
 }
@@ -150,13 +158,12 @@ void FormReader::ReadProperties(const Object& object, TComponent& component, boo
       continue;
     }
     target.path = p.Name();
-    const std::size_t before = pending_.size();
     Guarded(
         p, object, [&] { Apply(known, target, p); }, target.prop && target.prop->Is<QByteArray>());
     if (own && target.prop && target.prop->IsPart()) ReportUnread(target, p, object);
-    for (std::size_t i = before; i < pending_.size(); ++i) {
-      pending_[i].holder = &component;
-      pending_[i].source = own ? &p : nullptr;
+    for (auto r = pending_.rbegin(); r != pending_.rend() && !r->holder; ++r) {
+      r->holder = &component;
+      r->source = own ? &p : nullptr;
     }
   }
 }
@@ -181,14 +188,16 @@ void FormReader::ReportName(const EUnknownName& e, const Property& property, con
   const WordHome home = HomeOfWord(e.Type(), e.Word());
   const bool foreign = document_.Style().foreignWords;
   if (foreign && home == WordHome::Lcl) return;
-  if (foreign || home != WordHome::Nowhere)
-    return Report(
-        Severity::Note, document_.Where(property),
+  if (foreign || home != WordHome::Nowhere) {
+    ReportRefused(
+        Severity::Note, object, property,
         QStringLiteral("%1: %2 is %3, which is unknown here; it is kept as it is")
-            .arg(ObjectTitle(object), QString::fromUtf8(property.Name()), QString::fromUtf8(e.Word())),
-        true);
-  Report(Severity::Error, document_.Where(property),
-         QStringLiteral("%1: %2").arg(ObjectTitle(object), e.Message()));
+            .arg(ObjectTitle(object), QString::fromUtf8(property.Name()), QString::fromUtf8(e.Word())));
+    findings_.back().unknownName = true;
+    return;
+  }
+  ReportRefused(Severity::Error, object, property,
+                QStringLiteral("%1: %2").arg(ObjectTitle(object), e.Message()));
 }
 
 void FormReader::Apply(KnownProperty* known, const PropertyTarget& target, const Property& property) {
@@ -212,9 +221,9 @@ void FormReader::Apply(KnownProperty* known, const PropertyTarget& target, const
 void FormReader::Finish(TComponent& root) {
   for (const PendingReference& p : ResolveReferences(root, std::exchange(pending_, {})))
     if (p.source)
-      Report(Severity::Warning, document_.Where(*p.source),
-             QStringLiteral("%1.%2 refers to %3")
-                 .arg(p.holder->Name(), QString::fromUtf8(p.source->Name()), WhyUnresolved(p)));
+      ReportRefused(Severity::Warning, *map_.ObjectOf(*p.holder), *p.source,
+                    QStringLiteral("%1.%2 refers to %3")
+                        .arg(p.holder->Name(), QString::fromUtf8(p.source->Name()), WhyUnresolved(p)));
   for (TComponent* c : std::exchange(loading_, {})) c->Loaded();
 }
 

@@ -17,6 +17,10 @@ struct Finding {
   bool unknownName = false;  // a class, property or event that no loaded package has
   bool refusedData = false;  // a picture or other binary data that its class does not take
   bool missingFile = false;  // of an ancestor or a frame
+  // Whose value is refused, and which ("LED.ActiveColor"); else null. The object is for telling it from
+  // others alone.
+  const Object* object = nullptr;
+  QByteArray property{};
 };
 
 // Which component stands for which object of the document.
@@ -81,6 +85,7 @@ class FormReader {
   void Apply(KnownProperty* known, const PropertyTarget& target, const Property& property);
   void Finish(TComponent& root);
   void Report(Severity severity, Location where, QString text, bool unknownName = false);
+  void ReportRefused(Severity severity, const Object& object, const Property& property, QString text);
 
   Document& document_;
   const Document* from_ = &document_;  // the one that is read now: an origin's or its own

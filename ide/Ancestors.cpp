@@ -170,6 +170,21 @@ const FormFolder& Ancestors::Folder() {
   return *folder_;
 }
 
+// Those that could not be read are asked again when the form is opened again.
+QStringList Ancestors::Changed() const {
+  QStringList changed;
+  for (const auto& [name, file] : files_) {
+    if (!file.document) continue;
+    try {
+      if (ReadSmall(name) == file.document->Source()) continue;
+    } catch (const Exception&) {
+      // Gone, or no longer to be read.
+    }
+    changed << name;
+  }
+  return changed;
+}
+
 std::vector<Finding> Ancestors::Complete(Document& document) { return Complete(document, document.Root()); }
 
 std::vector<Finding> Ancestors::Complete(const Document& document, Object& object) {

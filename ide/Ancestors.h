@@ -19,6 +19,8 @@ class Ancestors {
   // each. Doing it again changes nothing.
   std::vector<forms::Finding> Complete(forms::Document& document);
   std::vector<forms::Finding> Complete(const forms::Document& document, forms::Object& object);
+  // The files that hold something else now than was read, or are gone.
+  QStringList Changed() const;
   // Whether anything comes from another file.
   bool Any() const { return !files_.empty(); }
 
@@ -40,6 +42,6 @@ class Ancestors {
   std::unique_ptr<FormFolder> folder_;
   std::map<QString, File> files_;
   File* ancestor_ = nullptr;  // of the form itself, once it is known: its class may be renamed
-  QStringList path_;  // the classes whose files are being read, for telling of circles
-  int implied_ = 0;   // in all these files
+  QStringList path_;          // the classes whose files are being read, for telling of circles
+  int implied_ = 0;           // in all these files
 };

@@ -226,22 +226,55 @@ const forms::Snapshot* BoundForm::InheritedValues(const forms::Object& object) c
   return found == inherited_.cend() ? nullptr : &*found;
 }
 
+forms::Document BoundForm::Copied(std::vector<forms::Finding>& missing) const {
+  forms::Document copy = forms::Document::Parse(document_.Write(), document_.Style());
+  missing = ancestors_.Complete(copy);
+  return copy;
+}
+
+void BoundForm::Pair(forms::Object& copy, const forms::Object& object, Pairs& pairs) {
+  pairs.emplace_back(&copy, &object);
+  for (std::size_t i = 0; i < object.children.size(); ++i)
+    if (const forms::Object* twin = Twin(*object.children[i], i, copy))
+      Pair(const_cast<forms::Object&>(*twin), *object.children[i], pairs);
+}
+
+void BoundForm::FindAgain() {
+  std::vector<forms::Finding> missing;
+  forms::Document copy = Copied(missing);
+  forms::ObjectMap map;
+  forms::FormReader reader = MakeReader(copy, map);
+  const auto root = reader.ReadRoot();
+  Pairs pairs;
+  Pair(copy.Root(), document_.Root(), pairs);
+  QHash<const forms::Object*, const forms::Object*> here;
+  for (const auto& [twin, object] : pairs) here.insert(twin, object);
+  findings_ = reader.Findings();
+  for (forms::Finding& f : findings_) f.object = here.value(f.object);
+  findings_.insert(findings_.end(), missing.begin(), missing.end());
+}
+
+void BoundForm::DropFindings(const Command& command) {
+  const auto says = [](const forms::ValueChange& v) { return v.nodeBefore || v.nodeAfter; };
+  for (const ComponentChange& c : command.components)
+    for (const forms::ValueChange& v : c.values)
+      if (says(v))
+        std::erase_if(findings_, [&](const forms::Finding& f) {
+          return f.object == c.object && f.property.compare(v.path, Qt::CaseInsensitive) == 0;
+        });
+}
+
 // The whole form is read once more: what an object's values mean depends on what it stands in and refers to.
 std::vector<BoundForm::Described> BoundForm::ReadAgain(const std::vector<const forms::Object*>& objects,
                                                        bool own) {
   std::vector<Described> described;
   if (objects.empty()) return described;
   const QSet<const forms::Object*> wanted(objects.begin(), objects.end());
-  forms::Document copy = forms::Document::Parse(document_.Write(), document_.Style());
-  ancestors_.Complete(copy);
-  std::vector<std::pair<forms::Object*, const forms::Object*>> twins;
-  const std::function<void(const forms::Object&, const forms::Object&)> pair = [&](const forms::Object& was,
-                                                                                   const forms::Object& is) {
-    if (wanted.contains(&is)) twins.emplace_back(const_cast<forms::Object*>(&was), &is);
-    for (std::size_t i = 0; i < is.children.size(); ++i)
-      if (const forms::Object* twin = Twin(*is.children[i], i, was)) pair(*twin, *is.children[i]);
-  };
-  pair(copy.Root(), document_.Root());
+  std::vector<forms::Finding> missing;
+  forms::Document copy = Copied(missing);
+  Pairs twins;
+  Pair(copy.Root(), document_.Root(), twins);
+  std::erase_if(twins, [&](const auto& twin) { return !wanted.contains(twin.second); });
   if (!own)
     for (const auto& [was, is] : twins) was->properties.clear();
   forms::ObjectMap copies;

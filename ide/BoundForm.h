@@ -35,6 +35,10 @@ class BoundForm {
   TForm& Root() const { return *root_; }
   TForm* RootOrNull() const { return root_.get(); }
   const std::vector<forms::Finding>& Findings() const { return findings_; }
+  // Finds them anew, by reading what the document is now.
+  void FindAgain();
+  // Values that a command has changed are no longer what was found.
+  void DropFindings(const Command& command);
   forms::Object* ObjectOf(const TComponent& component) const { return map_.ObjectOf(component); }
   TComponent* ComponentOf(const forms::Object& object) const { return map_.ComponentOf(object); }
   std::vector<forms::Object*> ObjectsOf(const std::vector<TComponent*>& components) const;
@@ -59,6 +63,8 @@ class BoundForm {
   void Unbind(TComponent& component) { map_.Remove(component); }
   // The object has come from elsewhere: what its frames hold comes with it.
   void Complete(forms::Object& object) { ancestors_.Complete(document_, object); }
+  // The files that are inherited from and hold something else now than was read.
+  QStringList ChangedAncestors() const { return ancestors_.Changed(); }
   // Makes the components of an object that stands in the document already.
   TComponent* MakeComponents(const StructureChange& change);
   // Frees the component of the object, and everything inside.
@@ -92,6 +98,10 @@ class BoundForm {
 
  private:
   forms::FormReader MakeReader(forms::Document& document, forms::ObjectMap& map);
+  // The document as it would be read again, its objects in pairs with their copies.
+  forms::Document Copied(std::vector<forms::Finding>& missing) const;
+  using Pairs = std::vector<std::pair<forms::Object*, const forms::Object*>>;
+  static void Pair(forms::Object& copy, const forms::Object& object, Pairs& pairs);
   // `own`: with what the document itself says of them.
   std::vector<Described> ReadAgain(const std::vector<const forms::Object*>& objects, bool own);
   void NoteDangling(const std::vector<forms::Finding>& findings);
@@ -107,7 +117,7 @@ class BoundForm {
 
   DesignRegistry& registry_;
   IFormWatcher& watcher_;
-  Ancestors ancestors_;  // outlive the document that stands on them
+  mutable Ancestors ancestors_;  // outlive the document that stands on them
   forms::Document document_;
   forms::ObjectMap map_;
   Fingerprints prints_;

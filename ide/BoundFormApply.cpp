@@ -42,6 +42,7 @@ void BoundForm::Settle(forms::Object& object) {
     for (const forms::Property& p : object.properties) {
       const forms::PropertyTarget target = forms::FindTarget(*c, p.Name());
       if (!target.Found() || !target.prop) continue;
+      if (target.prop->IsPart()) forms::ResolveKept(*root_, target);
       if (!IsComponentRef(*target.prop) && !IsBoundsProperty(p.Name())) continue;
       try {
         forms::ApplyNow(*root_, target, document_.Read(p), document_);
@@ -55,6 +56,8 @@ void BoundForm::Settle(forms::Object& object) {
 void BoundForm::ApplyValues(ComponentChange& change, bool redo) {
   TComponent* component = map_.ComponentOf(*change.object);
   const auto set = [&](const forms::ValueChange& v) {
+    // Only the document's node was exchanged.
+    if (v.before.type == forms::ValueType::Nil && v.after.type == forms::ValueType::Nil) return;
     const forms::PropertyTarget target = forms::FindTarget(*component, v.path);
     if (!target.Found()) return;
     try {

@@ -195,7 +195,14 @@ std::optional<ComponentChange> CommandRecorder::TakeChange(Before& before) {
   change.object = &object;
   const forms::Snapshot after = forms::TakeSnapshot(component, form_.Document());
   change.values = forms::Difference(before.values, after);
+  for (const forms::ValueChange& v : change.values)
+    if (v.after.type == forms::ValueType::Collection)
+      forms::ForgetReplaced(forms::FindTarget(*before.component, v.path));
   if (const auto* control = As<TControl>(&component)) MarkFollowing(change.values, *control);
+  // What was taken out on purpose is not written again.
+  for (const forms::ValueChange& out : stored_[&object])
+    for (forms::ValueChange& v : change.values)
+      v.follows = v.follows || (!out.nodeAfter && v.path.compare(out.path, Qt::CaseInsensitive) == 0);
   change.nameBefore = before.name;
   change.nameAfter = component.Name();
   change.classBefore = change.classAfter = object.className;
@@ -208,12 +215,12 @@ std::optional<ComponentChange> CommandRecorder::TakeChange(Before& before) {
     form_.SetName(change, true);
   }
   forms::PatchObject(object, form_.Document(), after, change.values, form_.InheritedValues(object));
-  LeaveOutEmpty(object, change.values);
   // These came first.
   std::vector<forms::ValueChange> stored = std::exchange(stored_[&object], {});
   if (!stored.empty()) LookAgain(*before.component, form_.Document(), object);
   std::move(change.values.begin(), change.values.end(), std::back_inserter(stored));
   change.values = std::move(stored);
+  LeaveOutEmpty(object, change.values);
   form_.TakeFingerprint(component, object);
   // It comes and goes with its object.
   if (inserted_.contains(&object) || (change.values.empty() && !renamed)) return {};

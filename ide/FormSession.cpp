@@ -71,6 +71,13 @@ void FormSession::Rebuild() {
   emit SelectionChanged();
 }
 
+void FormSession::FindAgain() {
+  SettleStray();
+  if (recorder_) return;
+  form_.FindAgain();
+  emit FindingsChanged();
+}
+
 void FormSession::Came(TComponent& component) {
   NotifyDesign([&](IDesignNotification& n) { n.ItemInserted(this, &component); });
 }

@@ -32,6 +32,9 @@ class FormSession : public QObject, public IDesigner, public IControlHost, priva
   TForm& Form() const { return form_.Root(); }
   const forms::Document& Document() const { return form_.Document(); }
   const std::vector<forms::Finding>& Findings() const { return form_.Findings(); }
+  // Finds them anew, as if the form were opened as it is now; costs as much. Not while a command is under
+  // way.
+  void FindAgain();
   forms::Object* ObjectOf(const TComponent& component) const { return form_.ObjectOf(component); }
   TComponent* ComponentOf(const forms::Object& object) const { return form_.ComponentOf(object); }
   // All components in the order of the file, the root first.
@@ -50,6 +53,8 @@ class FormSession : public QObject, public IDesigner, public IControlHost, priva
   // The person has seen what another program wrote; the next Save may replace it.
   void AcceptOnDisk(const QByteArray& seen) { file_.Accept(seen); }
   bool IsModified() const { return undo_.IsModified(); }
+  // The files that the form inherits from and that another program changed since they were read.
+  QStringList ChangedAncestors() const { return form_.ChangedAncestors(); }
 
   // --- Commands
   // Runs `action`, which changes `touched` (and whatever follows from that), as one command. Nothing changed:
@@ -93,6 +98,11 @@ class FormSession : public QObject, public IDesigner, public IControlHost, priva
   // nothing. Setting it refuses (Exception) what is no value; an empty text leaves the property out.
   QString StoredText(const TComponent& component, QByteArrayView name) const;
   void SetStored(TComponent& component, const QByteArray& name, const QString& text);
+
+  // Whether the form itself says something of this property, or a part of it, that an ancestor has too.
+  bool SaysItself(const TComponent& component, QByteArrayView path) const;
+  // The property and its parts are again what the ancestor says: the form says nothing of them any more.
+  void RevertToInherited(const std::vector<TComponent*>& components, const QByteArray& path);
 
   // Makes all components anew from the document, after classes came or went; while a command is under way,
   // when that has ended.
@@ -138,6 +148,7 @@ class FormSession : public QObject, public IDesigner, public IControlHost, priva
   void Changed(const FormChange& change);
   void SelectionChanged();
   void ModifiedChanged();
+  void FindingsChanged();
   // The control looks different from now on, or is about to.
   void RepaintNeeded(const TControl& control);
   void HandlerShown(const QString& name);

@@ -155,6 +155,7 @@ qsizetype FormSession::Commit(const QString& text) {
     emit Changed(shown);  // live previews may have been shown on the way
   } else {
     command->text = text;
+    form_.DropFindings(*command);
     Announce(ChangeOf(undo_.Push(std::move(command))));
     emit ModifiedChanged();
   }
@@ -178,6 +179,7 @@ void FormSession::Ended() {
 
 void FormSession::Step(Command& command, bool redo) {
   form_.Apply(command, redo);
+  form_.DropFindings(command);
   std::vector<TComponent*> selected =
       form_.ComponentsOf(redo ? command.selectionAfter : command.selectionBefore);
   if (selected != selection_.Components()) selection_.Set(std::move(selected), Form());

@@ -1,4 +1,4 @@
-// What the file says of a component beyond its class, as form text.
+// What the file says of a component beyond its class, as form text, and beyond its ancestor.
 #include <QRegularExpression>
 
 #include "forms/TextWriter.h"
@@ -47,4 +47,39 @@ void FormSession::SetStored(TComponent& component, const QByteArray& name, const
   if (!text.trimmed().isEmpty()) property = Parsed(name, text, form_.Document());
   Run(tr("Change %1").arg(QString::fromUtf8(name)), {&component},
       [&] { recorder_->PutStored(component, name, std::move(property)); });
+}
+
+// --- Values that an ancestor has, too
+
+namespace {
+bool IsOrIsIn(QByteArrayView name, QByteArrayView path) {
+  return name.size() >= path.size() && name.first(path.size()).compare(path, Qt::CaseInsensitive) == 0 &&
+         (name.size() == path.size() || name[path.size()] == '.');
+}
+}  // namespace
+
+bool FormSession::SaysItself(const TComponent& component, QByteArrayView path) const {
+  const forms::Object* object = ObjectOf(component);
+  return object && object->origin &&
+         std::any_of(object->properties.begin(), object->properties.end(),
+                     [&](const forms::Property& p) { return IsOrIsIn(p.Name(), path); });
+}
+
+void FormSession::RevertToInherited(const std::vector<TComponent*>& components, const QByteArray& path) {
+  Run(tr("Revert %1 to inherited").arg(QString::fromUtf8(path)), components, [&] {
+    for (TComponent* c : components) {
+      if (!SaysItself(*c, path)) continue;
+      const forms::Object& object = *ObjectOf(*c);
+      form_.LearnInherited({&object});
+      QByteArrayList said;
+      for (const forms::Property& p : object.properties)
+        if (IsOrIsIn(p.Name(), path)) said << p.Name().toByteArray();
+      for (const QByteArray& name : said) recorder_->PutStored(*c, name, {});
+      if (const forms::Snapshot* inherited = form_.InheritedValues(object))
+        for (const forms::StoredValue& v : *inherited)
+          if (IsOrIsIn(v.path, path))
+            if (const auto target = forms::FindTarget(*c, v.path); target.Found())
+              forms::ApplyNow(Form(), target, v.value, Document());
+    }
+  });
 }

@@ -40,6 +40,7 @@ struct InspectorModel::Node {
   // What views were told; nothing when they did not ask since it changed.
   std::optional<QString> toldText;
   std::optional<bool> toldNotDefault;
+  std::optional<QString> toldProblem;
   std::vector<TPersistent*> objects;  // whose properties the rows below are
   std::vector<std::unique_ptr<Node>> all;
   std::vector<Node*> shown;  // those that the filter leaves
@@ -60,6 +61,11 @@ struct InspectorModel::Node {
     shown.push_back(&node);
   }
   QString Name() const { return editor ? NameOf(*editor) : category; }
+  // "LED.ActiveColor", wherever it stands.
+  QByteArray Property() const {
+    const QByteArray around = parent && parent->editor ? parent->Property() + '.' : QByteArray();
+    return editor ? around + editor->GetPropInfo().Name : around;
+  }
   QString Path() const { return parent && parent->parent ? parent->Path() + u'.' + Name() : Name(); }
 };
 
@@ -84,6 +90,7 @@ void InspectorModel::SetSession(FormSession* session) {
       if (change.structure) Rebuild();
       Refresh();
     });
+    connect(session_, &FormSession::FindingsChanged, this, &InspectorModel::Refresh);
     connect(session_, &QObject::destroyed, this, [this] { SetSession(nullptr); });
   }
   Rebuild();
@@ -140,6 +147,7 @@ void InspectorModel::Rebuild() {
   root_->loaded = true;
   shown_ = session_ ? session_->SelectedComponents() : std::vector<TComponent*>();
   inspected_ = session_ ? session_->GetSelections() : TDesignerSelections();
+  TakeProblems();
   std::vector<std::unique_ptr<TPropertyEditor>> editors;
   const auto collect = [&](std::unique_ptr<TPropertyEditor> e) {
     const bool root = inspected_.front() == session_->GetRoot();
@@ -241,7 +249,40 @@ bool InspectorModel::IsStale(const Node& node) const {
 
 void InspectorModel::Refresh() {
   if (!session_ || IsOther() || IsStale(*root_) || StoredNow() != stored_) return Rebuild();
+  TakeProblems();
   TellChanges({});
+}
+
+// --- Values of the file
+
+void InspectorModel::TakeProblems() {
+  refused_ = session_ ? RefusedValues(*session_, inspected_) : std::vector<RefusedValue>();
+}
+
+QString InspectorModel::ProblemOf(const Node& node) const {
+  if (refused_.empty() || !node.editor) return {};
+  const QByteArray path = node.Property();
+  for (const RefusedValue& r : refused_)
+    if (r.path.size() >= path.size() && r.path.first(path.size()).compare(path, Qt::CaseInsensitive) == 0 &&
+        (r.path.size() == path.size() || r.path[path.size()] == '.'))
+      return tr("The file has another value, which is kept until this one is changed. %1").arg(r.why);
+  return {};
+}
+
+bool InspectorModel::CanRevert(const Node& node) const {
+  return node.editor && !shown_.empty() && inspected_.front() == shown_.front() &&
+         std::any_of(shown_.begin(), shown_.end(),
+                     [&](const TComponent* c) { return session_->SaysItself(*c, node.Property()); });
+}
+
+QString InspectorModel::RevertToInherited(const QModelIndex& index) {
+  if (!index.isValid() || !CanRevert(*NodeAt(index))) return {};
+  try {
+    session_->RevertToInherited(shown_, NodeAt(index)->Property());
+  } catch (const std::exception& e) {
+    return ExceptionMessage(e);
+  }
+  return {};
 }
 
 // Of the rows that views know, those that show something else now, neighbours at once.
@@ -249,8 +290,12 @@ void InspectorModel::TellChanges(const QModelIndex& parent) {
   const Node* node = parent.isValid() ? NodeAt(parent) : root_.get();
   const int rows = node->loaded ? static_cast<int>(node->shown.size()) : 0;
   std::vector<bool> changed(static_cast<std::size_t>(rows));
-  for (int row = 0; row < rows; ++row)
-    changed[static_cast<std::size_t>(row)] = TakeChange(*node->shown[static_cast<std::size_t>(row)]);
+  for (int row = 0; row < rows; ++row) {
+    Node& child = *node->shown[static_cast<std::size_t>(row)];
+    const bool sign = child.toldProblem && *child.toldProblem != ProblemOf(child);
+    changed[static_cast<std::size_t>(row)] = TakeChange(child);
+    if (sign) emit dataChanged(index(row, 0, parent), index(row, 0, parent));
+  }
   for (auto from = changed.begin(); (from = std::find(from, changed.end(), true)) != changed.end();) {
     const auto to = std::find(from, changed.end(), false);
     const auto rowOf = [&](auto at) { return static_cast<int>(at - changed.begin()); };
@@ -260,12 +305,14 @@ void InspectorModel::TellChanges(const QModelIndex& parent) {
   for (int row = 0; row < rows; ++row) TellChanges(index(row, 0, parent));
 }
 
-bool InspectorModel::TakeChange(Node& node) {
+bool InspectorModel::TakeChange(Node& node) const {
   const bool changed = (node.toldText && *node.toldText != TextOf(*node.editor)) ||
-                       (node.toldNotDefault && *node.toldNotDefault != IsNotDefault(*node.editor));
+                       (node.toldNotDefault && *node.toldNotDefault != IsNotDefault(*node.editor)) ||
+                       (node.toldProblem && *node.toldProblem != ProblemOf(node));
   if (changed) {
     node.toldText.reset();
     node.toldNotDefault.reset();
+    node.toldProblem.reset();
   }
   return changed;
 }
@@ -426,7 +473,13 @@ QVariant InspectorModel::data(const QModelIndex& index, int role) const {
     case Qt::DecorationRole:
       return index.column() == 1 ? QVariant(IconOf(*editor, ValueText(index))) : QVariant();
     case Qt::ToolTipRole:
+      if (const QString problem = ProblemOf(*node); !problem.isEmpty()) return problem;
       return index.column() == 1 ? QVariant(Shortened(ValueText(index))) : QVariant();
+    case ProblemRole:
+    case Qt::AccessibleDescriptionRole:
+      return *(NodeAt(index)->toldProblem = ProblemOf(*node));
+    case CanRevertRole:
+      return CanRevert(*node);
     case NotDefaultRole:
       return *(NodeAt(index)->toldNotDefault = IsNotDefault(*editor));
     case IsBooleanRole: {

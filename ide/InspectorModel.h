@@ -5,7 +5,7 @@
 #include <QPointer>
 
 #include "designintf/PropertyEditor.h"
-#include "ide/FormSession.h"
+#include "ide/RefusedData.h"
 
 class InspectorModel : public QAbstractItemModel {
   Q_OBJECT
@@ -16,8 +16,10 @@ class InspectorModel : public QAbstractItemModel {
     IsBooleanRole,
     IsCategoryRole,
     DescriptionRole,
-    FitsRole,    // the filter finds the row itself
-    IsAboveRole  // the filter finds a row below
+    ProblemRole,    // why the file's value of the row, or of one below, is refused
+    CanRevertRole,  // the form itself says something that its ancestor does, too
+    FitsRole,       // the filter finds the row itself
+    IsAboveRole     // the filter finds a row below
   };
 
   explicit InspectorModel(QObject* parent = nullptr);
@@ -45,6 +47,7 @@ class InspectorModel : public QAbstractItemModel {
   // Runs the editor's dialog as one command. Empty on success, else the message of what it threw.
   QString RunDialog(const QModelIndex& index);
   QString Reset(const QModelIndex& index);
+  QString RevertToInherited(const QModelIndex& index);
 
   QModelIndex index(int row, int column, const QModelIndex& parent = {}) const override;
   QModelIndex parent(const QModelIndex& child) const override;
@@ -70,15 +73,19 @@ class InspectorModel : public QAbstractItemModel {
   void Rebuild();
   void Refresh();
   void TellChanges(const QModelIndex& parent);
-  static bool TakeChange(Node& node);
+  bool TakeChange(Node& node) const;
+  QString ProblemOf(const Node& node) const;
+  bool CanRevert(const Node& node) const;
+  void TakeProblems();
   QString Guarded(TPropertyEditor& editor, const char* member, const QString& text,
                   const std::function<void()>& action);
 
   QPointer<FormSession> session_;
   std::unique_ptr<Node> root_;
   std::vector<TComponent*> shown_;
-  QByteArrayList stored_;  // what the file says of the first of them beyond its class
-  TDesignerSelections inspected_;  // the same, or parts of them in their place
+  QByteArrayList stored_;              // what the file says of the first of them beyond its class
+  TDesignerSelections inspected_;      // the same, or parts of them in their place
+  std::vector<RefusedValue> refused_;  // of these
   bool events_ = false;
   bool byCategory_ = false;
   QString filter_;

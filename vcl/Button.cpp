@@ -3,6 +3,7 @@
 #include <array>
 
 #include "rtl/IntegerConsts.h"
+#include "vcl/ActionLook.h"
 #include "vcl/Menu.h"
 #include "vcl/Painters.h"
 #include "vcl/PropertyGroups.h"
@@ -96,8 +97,9 @@ TButton::TButton(TComponent* owner) : TWinControl(owner) {
 }
 
 void TButton::Paint(TCanvas& canvas) {
+  const TActionLook look = LookOf(*this);
   TPartStates states;
-  if (!Enabled()) states.Include(TPartState::Disabled);
+  if (!look.enabled) states.Include(TPartState::Disabled);
   if (default_) states.Include(TPartState::Default);
-  PaintButton(canvas, ClientRect(), states, Caption(), Font());
+  PaintButton(canvas, ClientRect(), states, look.caption, Font());
 }

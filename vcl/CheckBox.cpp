@@ -1,6 +1,7 @@
 #include "vcl/CheckBox.h"
 
 #include "rtl/Class.h"
+#include "vcl/ActionLook.h"
 #include "vcl/Painters.h"
 #include "vcl/PropertyGroups.h"
 
@@ -36,9 +37,10 @@ void TMarkControl::Paint(TCanvas& canvas) {
     text.setRight(mark.left() - Gap);
   }
   PaintMark(canvas, mark);
+  const TActionLook look = LookOf(*this);
   canvas.TextRect(
       text, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextShowMnemonic | (Get(WordWrap) ? Qt::TextWordWrap : 0),
-      Caption(), *Font(), Enabled());
+      look.caption, *Font(), look.enabled);
 }
 
 const TClass& TCustomCheckBox::StaticClass() {
@@ -56,7 +58,9 @@ void TCustomCheckBox::SetChecked(bool v) {
 }
 
 void TCustomCheckBox::PaintMark(TCanvas& canvas, const QRect& rect) const {
-  PaintCheckMark(canvas, rect, PartStates(), Get(State));
+  const TActionLook look = LookOf(*this, Checked());
+  const bool checked = look.checked && Get(State) == TCheckBoxState::cbUnchecked;
+  PaintCheckMark(canvas, rect, look.States(), checked ? TCheckBoxState::cbChecked : Get(State));
 }
 
 const TClass& TCheckBox::StaticClass() {
@@ -91,7 +95,8 @@ const TClass& TRadioButton::StaticClass() {
 TRadioButton::TRadioButton(TComponent* owner) : TMarkControl(owner) { SetBounds(0, 0, 113, 17); }
 
 void TRadioButton::PaintMark(TCanvas& canvas, const QRect& rect) const {
-  PaintRadioMark(canvas, rect, PartStates(), checked_);
+  const TActionLook look = LookOf(*this, checked_);
+  PaintRadioMark(canvas, rect, look.States(), look.checked);
 }
 
 void TRadioButton::SetChecked(bool v) {

@@ -36,8 +36,10 @@ void TControlItems::Forget(const TComponent* component) {
 }
 
 void TControlItems::Keep(const std::vector<TControl*>& controls) {
-  for (int i = Count(); i-- > 0;)
-    if (std::find(controls.begin(), controls.end(),
-                  static_cast<TControlItem*>(Item(i))->Get(TControlItem::Control)) == controls.end())
-      Delete(i);
+  for (int i = Count(); i-- > 0;) {
+    TControl* control = static_cast<TControlItem*>(Item(i))->Get(TControlItem::Control);
+    // What the file names and is not here may be there when it is built.
+    if (!control && Item(i)->Unread()) continue;
+    if (std::find(controls.begin(), controls.end(), control) == controls.end()) Delete(i);
+  }
 }

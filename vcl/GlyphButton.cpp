@@ -3,6 +3,7 @@
 #include <array>
 
 #include "rtl/Class.h"
+#include "vcl/ActionLook.h"
 #include "vcl/AsGiven.h"
 #include "vcl/ImageList.h"
 #include "vcl/Painters.h"
@@ -104,9 +105,7 @@ const TClass& TBitBtn::StaticClass() {
 }
 
 // A button whose values are those of its kind.
-bool TBitBtn::IsOfItsKind() const {
-  return Get(Kind) != TBitBtnKind::bkCustom && !IsOfOtherFamily();
-}
+bool TBitBtn::IsOfItsKind() const { return Get(Kind) != TBitBtnKind::bkCustom && !IsOfOtherFamily(); }
 
 QString TBitBtn::ShownCaption() const {
   return Caption().isEmpty() && IsOfItsKind() ? QString::fromLatin1(RowOf(Get(Kind)).caption) : Caption();
@@ -184,7 +183,7 @@ void TBitBtn::PartChanged(TPersistent& part) {
 
 // The picture, or the mark of the kind.
 QImage TBitBtn::Face() const {
-  const QImage own = GlyphOf(Get(Glyph)->Transparent(), Get(NumGlyphs), Enabled() ? 0 : 1);
+  const QImage own = GlyphOf(Get(Glyph)->Transparent(), Get(NumGlyphs), LookOf(*this).enabled ? 0 : 1);
   const KindRow& row = RowOf(Get(Kind));
   if (!own.isNull() || Get(Kind) == TBitBtnKind::bkCustom) return own;
   constexpr int side = 16;
@@ -201,17 +200,19 @@ QImage TBitBtn::Face() const {
 }
 
 void TBitBtn::Paint(TCanvas& canvas) {
-  TPartStates states = PartStates();
+  const TActionLook look = LookOf(*this);
+  TPartStates states = look.States();
   if (IsDefault()) states.Include(TPartState::Default);
   PaintButton(canvas, ClientRect(), states, QString(), Font());
-  const QString caption = Caption().isEmpty() ? QString::fromLatin1(RowOf(Get(Kind)).caption) : Caption();
+  const QString caption =
+      look.caption.isEmpty() ? QString::fromLatin1(RowOf(Get(Kind)).caption) : look.caption;
   PaintFace(canvas, ClientRect().adjusted(2, 2, -2, -2),
             {.glyph = Face(),
              .text = caption,
              .layout = Get(Layout),
              .margin = Get(Margin),
              .spacing = Get(Spacing)},
-            *Font(), Enabled());
+            *Font(), look.enabled);
 }
 
 const TClass& TSpeedButton::StaticClass() {
@@ -253,18 +254,19 @@ TSpeedButton::TSpeedButton(TComponent* owner) : TGraphicControl(owner) {
 }
 
 void TSpeedButton::Paint(TCanvas& canvas) {
-  TPartStates states = PartStates();
-  const bool down = Get(Down) && Get(GroupIndex) != 0;
+  const TActionLook look = LookOf(*this, Get(Down));
+  TPartStates states = look.States();
+  const bool down = look.checked && Get(GroupIndex) != 0;
   if (down) states.Include(TPartState::Down);
   if (!Get(Flat) || down || IsDesigning()) PaintButton(canvas, ClientRect(), states, QString(), Font());
   PaintFace(canvas, ClientRect().adjusted(2, 2, -2, -2),
             {.glyph = GlyphOf(Get(Glyph)->Transparent(), Get(NumGlyphs),
-                              !Enabled() ? 1
-                              : down     ? 3
-                                         : 0),
-             .text = Caption(),
+                              !look.enabled ? 1
+                              : down        ? 3
+                                            : 0),
+             .text = look.caption,
              .layout = Get(Layout),
              .margin = Get(Margin),
              .spacing = Get(Spacing)},
-            *Font(), Enabled());
+            *Font(), look.enabled);
 }

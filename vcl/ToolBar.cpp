@@ -4,6 +4,7 @@
 
 #include "rtl/Class.h"
 #include "vcl/Action.h"
+#include "vcl/ActionLook.h"
 #include "vcl/AsGiven.h"
 #include "vcl/GlyphButton.h"
 #include "vcl/Painters.h"
@@ -125,28 +126,29 @@ void TToolButton::Paint(TCanvas& canvas) {
     return;
   }
   const TToolBar* bar = Bar();
-  TPartStates states = PartStates();
-  if (Get(Down)) states.Include(TPartState::Down);
-  if (Get(Down) || (bar && !bar->Get(TToolBar::Flat))) PaintButton(canvas, all, states, {}, nullptr);
+  const TActionLook look = LookOf(*this, Get(Down));
+  TPartStates states = look.States();
+  if (look.checked) states.Include(TPartState::Down);
+  if (look.checked || (bar && !bar->Get(TToolBar::Flat))) PaintButton(canvas, all, states, {}, nullptr);
   if (Get(Marked)) canvas.Frame3D(all, clHighlight, clHighlight, 1);
   QRect face = all.adjusted(1, 1, -1, -1);
   if (Get(Style) == tbsDropDown || Get(Style) == tbsButtonDrop) {
     constexpr int knob = 12;
     if (face.width() > 2 * knob) {
       const QRect arrow(face.right() + 1 - knob, face.top(), knob, face.height());
-      canvas.TextRect(arrow, Qt::AlignCenter, QStringLiteral("\u25BE"), *Font(), Enabled());
+      canvas.TextRect(arrow, Qt::AlignCenter, QStringLiteral("\u25BE"), *Font(), look.enabled);
       face.setRight(arrow.left() - 1);
     }
   }
   TFace what;
   const TCustomImageList* images = bar ? bar->Get(TToolBar::Images) : nullptr;
   const TCustomImageList* disabled = bar ? bar->Get(TToolBar::DisabledImages) : nullptr;
-  if (const TCustomImageList* list = !Enabled() && disabled ? disabled : images)
+  if (const TCustomImageList* list = !look.enabled && disabled ? disabled : images)
     what.glyph = list->Image(ImageOf());
   if (ShowsCaption()) what.text = ShownCaption();
   what.layout = bar && bar->Get(TToolBar::List) ? TButtonLayout::blGlyphLeft : TButtonLayout::blGlyphTop;
   what.spacing = 2;
-  PaintFace(canvas, face, what, *Font(), Enabled());
+  PaintFace(canvas, face, what, *Font(), look.enabled);
 }
 
 const TClass& TToolBar::StaticClass() {
@@ -156,8 +158,8 @@ const TClass& TToolBar::StaticClass() {
                       Styling, "AutoSize", "BevelEdges", "BevelInner", "BevelKind", "BevelOuter",
                       "BevelWidth", "Caption", Docking, ResizeEvents, WheelEvents, "TabStop", MouseEvents,
                       FocusEvents, DragEvents)
-          .PublishedAll(ButtonHeight, ButtonWidth, DisabledImages, Flat, Images, Indent, List,
-                        ShowCaptions, Wrapable)
+          .PublishedAll(ButtonHeight, ButtonWidth, DisabledImages, Flat, Images, Indent, List, ShowCaptions,
+                        Wrapable)
           .Published(EdgeBorders)
           .OtherDefault(TEdgeBorders{TEdgeBorder::ebTop})
           .Publish("Align", TAlign::alTop)

@@ -8,7 +8,7 @@
 namespace {
 std::vector<TComponent*> Copied(const FormSession& session, const char* what) {
   auto components = Outermost(session, Chosen(session));
-  for (const TComponent* c : components) RequireOwn(session, *c, OperationText(what));
+  for (const TComponent* c : components) RequireWhole(session, *c, OperationText(what));
   return components;
 }
 
@@ -131,7 +131,8 @@ void CopySelection(const FormSession& session, IClipboard& clipboard) {
 }
 
 void CutSelection(FormSession& session, IClipboard& clipboard) {
-  const auto components = Copied(session, "cut");
+  const auto components = Outermost(session, Chosen(session));
+  for (const TComponent* c : components) RequireOwn(session, *c, OperationText("cut"));
   const QString text = TextOfComponents(session, components);
   session.Run(Title("Cut %1", "Cut %n components", components), {},
               [&] { session.DeleteComponents(components); });

@@ -19,13 +19,67 @@ bool ChangeValues(Value& v, const std::function<bool(Value&)>& change) {
 }
 }  // namespace
 
+namespace {
+// A copy that says what its ancestors say, too.
+class Whole {
+ public:
+  Whole(const forms::Document& from, const Object& top, forms::Document& target)
+      : from_(from), target_(target) {
+    // Those of a frame's own file stay there.
+    for (const forms::Origin* o : top.Origins())
+      if (o->object->parent) ancestors_.insert(o->document);
+  }
+  std::unique_ptr<Object> Of(const Object& object) const {
+    auto own = from_.Detached(object, target_);
+    if (ancestors_.isEmpty()) return own;
+    auto whole = std::make_unique<Object>();
+    whole->kind = own->kind;
+    whole->name = own->name;
+    whole->className = own->className;
+    bool inherited = false;
+    for (const forms::Origin* o : object.Origins()) {
+      if (!ancestors_.contains(o->document)) continue;
+      auto theirs = o->document->Detached(*o->object, target_);
+      if (!std::exchange(inherited, true)) whole->kind = theirs->kind;
+      Take(*whole, *theirs);
+    }
+    Take(*whole, *own);
+    for (const auto& child : object.children)
+      if (child->IsWritten() || SaysMore(*child)) whole->Insert(INT_MAX, Of(*child));
+    return whole;
+  }
+
+ private:
+  // A part of a frame of which only its own file says something comes with the frame.
+  bool SaysMore(const Object& object) const {
+    for (const forms::Origin* o : object.Origins())
+      if (ancestors_.contains(o->document) && o->object->IsWritten()) return true;
+    return std::any_of(object.children.begin(), object.children.end(),
+                       [this](const auto& child) { return SaysMore(*child); });
+  }
+  // In the place of what is said already, else behind it.
+  static void Take(Object& whole, Object& theirs) {
+    for (forms::Property& p : theirs.properties)
+      if (forms::Property* there = whole.Find(p.Name()))
+        *there = std::move(p);
+      else
+        whole.properties.push_back(std::move(p));
+  }
+
+  const forms::Document& from_;
+  forms::Document& target_;
+  QSet<const forms::Document*> ancestors_;
+};
+}  // namespace
+
 forms::Document ObjectsOfComponents(const FormSession& session, const std::vector<TComponent*>& components) {
   const forms::Document& from = session.Document();
   forms::Dialect style = from.Style();
   style.eol = "\n";
   forms::Document objects = forms::Document::Create({}, {}, style);
   for (const TComponent* c : components) {
-    auto object = from.Detached(*session.ObjectOf(*c), objects);
+    const Object& one = *session.ObjectOf(*c);
+    auto object = Whole(from, one, objects).Of(one);
     object->position.reset();
     objects.Root().Insert(INT_MAX, std::move(object));
   }

@@ -2,7 +2,8 @@
 #pragma once
 #include "ide/FormSession.h"
 
-// The components with everything inside them, one object behind the other.
+// The components with everything inside them, one object behind the other. Inherited ones with all that
+// their ancestors say, so that they stand by themselves.
 QString TextOfComponents(const FormSession& session, const std::vector<TComponent*>& components);
 // The same as a document: they are the children of its root.
 forms::Document ObjectsOfComponents(const FormSession& session, const std::vector<TComponent*>& components);

@@ -106,15 +106,24 @@ const forms::Object* FrameAround(const forms::Object& object) {
 }
 }  // namespace
 
-void RequireOwn(const FormSession& session, const TComponent& component, const QString& what) {
+void RequireWhole(const FormSession& session, const TComponent& component, const QString& what) {
   const forms::Object* object = session.ObjectOf(component);
   if (!object) throw EComponentError(OperationText("%1 cannot be %2.").arg(component.Name(), what));
   if (const forms::Object* frame = FrameAround(*object))
     throw EComponentError(OperationText("%1 belongs to the frame %2 and cannot be %3 here.")
                               .arg(component.Name(), QString::fromUtf8(frame->name), what));
-  if (object->kind == forms::ObjectKind::Inherited)
+  if (object->kind == forms::ObjectKind::Inherited && !object->origin)
+    throw EComponentError(
+        OperationText("%1 comes from the ancestor form, which was not found; it cannot be %2 here.")
+            .arg(component.Name(), what));
+}
+
+void RequireOwn(const FormSession& session, const TComponent& component, const QString& what) {
+  const forms::Object* object = session.ObjectOf(component);
+  if (object && object->kind == forms::ObjectKind::Inherited && !FrameAround(*object))
     throw EComponentError(
         OperationText("%1 comes from the ancestor form and cannot be %2 here.").arg(component.Name(), what));
+  RequireWhole(session, component, what);
 }
 
 bool CanHold(const FormSession& session, const TComponent& container) {

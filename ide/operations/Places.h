@@ -32,6 +32,8 @@ const TComponent* StandsIn(const FormSession& session, const TComponent& compone
 // EComponentError, with the reason, for what this file does not hold as a whole: it comes from the ancestor
 // form, or belongs to a frame. `what` cannot be done: "deleted", "moved to another container".
 void RequireOwn(const FormSession& session, const TComponent& component, const QString& what);
+// The same for what needs no more than all that is to be known of the component.
+void RequireWhole(const FormSession& session, const TComponent& component, const QString& what);
 // Whether a new control may stand in it. What stands in a frame is the frame's own.
 bool CanHold(const FormSession& session, const TComponent& container);
 // The control itself, or the nearest around it that can hold others; the form in the end.

@@ -50,6 +50,10 @@ TEST_F(InheritedCli, AnEditWritesTheDifferenceAndNotTheAncestor) {
   const QString base = Write("Base.dfm", Base);
   Write("Derived.pas", "type TDerived = class(TBase) end;");
   EXPECT_EQ(Vrx({QStringLiteral("get"), form, QStringLiteral("Patch.Color")}).out, QStringLiteral("clRed\n"));
+  EXPECT_EQ(
+      Vrx({QStringLiteral("get"), form, QStringLiteral("Patch")}).out,
+      QStringLiteral("Left = 20\nTop = 30\nWidth = 100\nHeight = 60\nBevelOuter = bvNone\nCaption = ''\n"
+                     "Color = clRed\nParentBackground = False\nTabOrder = 0\n"));
   const Result set = Vrx({QStringLiteral("set"), form, QStringLiteral("Patch.Left=25")});
   EXPECT_EQ(set.code, 0) << set.err.toStdString();
   EXPECT_EQ(Read(form).toStdString(),

@@ -21,8 +21,8 @@
 #include "vcl/Button.h"
 #include "vcl/Label.h"
 #include "vcl/Panel.h"
-#include "vcl/Timer.h"
 #include "vcl/Prompts.h"
+#include "vcl/Timer.h"
 
 namespace designer {
 
@@ -126,11 +126,11 @@ inline QToolButton& ButtonOf(MainWindow& window, const char* cls) {
 
 class DesignerTest : public testing::Test {
  protected:
-  DesignerTest() {
+  explicit DesignerTest(const QByteArray& form = Sample) : form_(form) {
     RegisterStandard(registry_);
     VRX_RegMain::Register();
     file_ = folder_.filePath(QStringLiteral("main.dfm"));
-    Write(file_, Sample);
+    Write(file_, form_);
     window_ = std::make_unique<MainWindow>(packages_);
   }
   void SetUp() override {
@@ -196,14 +196,15 @@ class DesignerTest : public testing::Test {
     ASSERT_TRUE(Session().CanUndo());
     Session().Undo();
     EXPECT_FALSE(Session().CanUndo());
-    EXPECT_EQ(Session().Bytes().toStdString(), Sample.toStdString());
+    EXPECT_EQ(Session().Bytes().toStdString(), form_.toStdString());
     Session().Redo();
   }
   void ExpectUntouched() {
     EXPECT_FALSE(Session().CanUndo());
-    EXPECT_EQ(Session().Bytes().toStdString(), Sample.toStdString());
+    EXPECT_EQ(Session().Bytes().toStdString(), form_.toStdString());
   }
 
+  QByteArray form_;
   QTemporaryDir folder_;
   QString file_;
   FakePrompts prompts_;

@@ -6,6 +6,7 @@ namespace designer {
 
 class Inspecting : public DesignerTest {
  protected:
+  using DesignerTest::DesignerTest;
   void Show(const char* component, const char* property) {
     Select(component);
     ASSERT_TRUE(Inspector().ShowProperty(QLatin1StringView(property)));

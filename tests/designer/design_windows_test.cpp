@@ -45,10 +45,7 @@ end
 
 class DesignWindows : public DesignerTest {
  protected:
-  void SetUp() override {
-    Write(file_, Form);
-    DesignerTest::SetUp();
-  }
+  DesignWindows() : DesignerTest(Form) {}
   template <class W>
   W& Open(const char* component) {
     Session().Edit(Get(component));
@@ -175,4 +172,18 @@ TEST_F(DesignWindows, AMenuOpensOnItsFirstItemOrOnTheSelectedOne) {
   QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
   Select("Help1");
   EXPECT_EQ(Open<MenuWindow>("MainMenu1").Current().Item, &Get("Help1"));
+}
+
+TEST_F(DesignWindows, EscapeClosesThem) {
+  const QPointer<CollectionWindow> columns = &OpenColumns();
+  PickColumn(*columns, 1);
+  const QPointer<ActionListWindow> actions = &Open<ActionListWindow>("ActionList1");
+  QTest::keyClick(actions->actions, Qt::Key_Escape, Qt::ShiftModifier);
+  EXPECT_TRUE(actions->isVisible());
+  QTest::keyClick(actions->actions, Qt::Key_Escape);
+  QTest::keyClick(columns->items, Qt::Key_Escape);
+  QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+  EXPECT_TRUE(actions.isNull());
+  EXPECT_TRUE(columns.isNull());
+  ExpectUntouched();
 }

@@ -39,10 +39,7 @@ end
 
 class MenuBarTest : public DesignerTest {
  protected:
-  void SetUp() override {
-    Write(file_, Form);
-    DesignerTest::SetUp();
-  }
+  MenuBarTest() : DesignerTest(Form) {}
   bool Covers(const char* name, QPoint at) { return Surface().WidgetRect(Get(name)).contains(at); }
 };
 }  // namespace

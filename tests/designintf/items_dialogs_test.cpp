@@ -101,6 +101,21 @@ TEST_F(TreeEditor, ShowsTheNodesAndChangesNothingUntouchedOrCancelled) {
   EXPECT_EQ(designer.modified, 0);
 }
 
+TEST_F(TreeEditor, AClickBelowTheItemsLeavesNoneSelectedSoThatANewOneComesToTheEnd) {
+  Run([](TreeItemsDialog& dialog) {
+    Pick(dialog, "d");
+    const QWidget& area = *dialog.tree->viewport();
+    QTest::mouseClick(dialog.tree->viewport(), Qt::LeftButton, {}, QPoint(20, area.height() - 5));
+    EXPECT_EQ(Outline(dialog), "a[b c[d]] e");
+    EXPECT_FALSE(dialog.text->isEnabled());
+    EXPECT_FALSE(dialog.newSubItem->isEnabled());
+    Click(dialog.newItem);
+    QTest::keyClicks(dialog.text, L("last"));
+    EXPECT_EQ(Outline(dialog), "a[b c[d]] e *last");
+    dialog.cancel->click();
+  });
+}
+
 TEST_F(TreeEditor, TakesWhatIsTypedAndKeepsWhatItDoesNotShow) {
   TTreeNodeList wanted = Nodes();
   Run([](TreeItemsDialog& dialog) {

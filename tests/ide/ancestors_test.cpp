@@ -3,84 +3,18 @@
 #include "SessionTest.h"
 #include "ide/FormFolder.h"
 #include "ide/UnitText.h"
+#include "ide/operations/Clipboard.h"
 #include "ide/operations/FormText.h"
 #include "ide/operations/Places.h"
 #include "rtl/PropAccess.h"
 #include "rtl/PropText.h"
+#include "tests/support/InheritedForms.h"
 #include "vcl/GroupBox.h"
+
+using namespace inherited_forms;
 
 namespace ide {
 namespace {
-const QByteArray Base = R"(object Base: TBase
-  Left = 3
-  Top = 4
-  Caption = 'Base'
-  ClientHeight = 300
-  ClientWidth = 400
-  OnCreate = FormCreate
-  object Panel1: TPanel
-    Left = 10
-    Top = 20
-    Width = 200
-    Height = 100
-    Caption = ''
-    TabOrder = 0
-    object Button1: TButton
-      Left = 8
-      Top = 9
-      Width = 75
-      Height = 25
-      Caption = 'Go'
-      Enabled = False
-      TabOrder = 0
-    end
-    object Box1: TMysteryBox
-      Left = 100
-      Top = 9
-      Width = 60
-      Height = 25
-    end
-  end
-  object Label1: TLabel
-    Left = 240
-    Top = 16
-    Width = 60
-    Height = 15
-    Caption = 'Of the base'
-    FocusControl = Button1
-  end
-  object Timer1: TTimer
-    Interval = 250
-    Left = 320
-    Top = 200
-  end
-end
-)";
-
-const QByteArray Derived = R"(inherited Derived: TDerived
-  Caption = 'Derived'
-  object Extra: TButton
-    Left = 240
-    Top = 60
-    Width = 75
-    Height = 25
-    Caption = 'Extra'
-    TabOrder = 1
-  end
-end
-)";
-
-const QByteArray Unit = R"(unit Derived;
-// TDerived = class(TNever)
-{ TDerived = class(TNever) } (* TDerived = class(TNever) *)
-const S = 'TDerived = class(TNever)';
-type
-  TDerived = class;
-  tderived = CLASS(BaseUnit.TBase, IOther)
-  end;
-end.
-)";
-
 const QByteArray Frame = R"(object Head: THead
   Left = 0
   Top = 0
@@ -135,22 +69,12 @@ class AncestorTest : public testing::Test {
  protected:
   void SetUp() override {
     RegisterAll();
-    Write("Base.dfm", Base);
-    Write("Derived.dfm", Derived);
-    Write("Derived.pas", Unit);
-    Write("Head.dfm", Frame);
-    Write("Host.dfm", Host);
+    files_.Write("Head.dfm", Frame);
+    files_.Write("Host.dfm", Host);
   }
-  QString Path(const char* name) const { return folder_.filePath(QString::fromLatin1(name)); }
-  void Write(const char* name, const QByteArray& bytes) const {
-    QFile file(Path(name));
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly | QIODevice::Truncate));
-    ASSERT_EQ(file.write(bytes), bytes.size());
-  }
-  QByteArray Read(const char* name) const {
-    QFile file(Path(name));
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("no such file");
-  }
+  QString Path(const char* name) const { return files_.Path(name); }
+  void Write(const char* name, const QByteArray& bytes) const { files_.Write(name, bytes); }
+  QByteArray Read(const char* name) const { return files_.Read(name); }
   std::unique_ptr<FormSession> Open(const char* name) const { return FormSession::Open(Path(name)); }
   static TControl& Control(const FormSession& session, const char* name) {
     return dynamic_cast<TControl&>(*session.GetComponent(QString::fromLatin1(name)));
@@ -182,7 +106,7 @@ class AncestorTest : public testing::Test {
       if (f.missingFile) texts << f.text;
     return texts;
   }
-  QTemporaryDir folder_;
+  Files files_;
 };
 }  // namespace
 
@@ -278,6 +202,119 @@ TEST_F(AncestorTest, WhatIsInheritedIsNeitherDeletedNorRenamed) {
   session->Rename(session->Form(), QStringLiteral("Second"));
   session->Rename(Control(*session, "Extra"), QStringLiteral("More"));
   EXPECT_EQ(session->Form().Name(), QStringLiteral("Second"));
+}
+
+// --- Copies
+
+namespace {
+std::string Copied(const FormSession& session, TComponent& component) {
+  return TextOfComponents(session, {&component}).toStdString();
+}
+}  // namespace
+
+TEST_F(AncestorTest, ACopyOfWhatIsInheritedSaysEverything) {
+  Write(
+      "Derived.dfm",
+      "inherited Derived: TDerived\n  inherited Panel1: TPanel\n    Left = 12\n    inherited Button1: "
+      "TButton\n"
+      "      Caption = 'Mine'\n      Hint = 'More'\n    end\n    object Own: TLabel\n      Caption = 'Own'\n"
+      "    end\n  end\nend\n");
+  const auto session = Open("Derived.dfm");
+  EXPECT_EQ(
+      Copied(*session, Control(*session, "Panel1")),
+      "object Panel1: TPanel\n  Left = 12\n  Top = 20\n  Width = 200\n  Height = 100\n  Caption = ''\n"
+      "  TabOrder = 0\n  object Button1: TButton\n    Left = 8\n    Top = 9\n    Width = 75\n"
+      "    Height = 25\n    Caption = 'Mine'\n    Enabled = False\n    TabOrder = 0\n    Hint = 'More'\n"
+      "  end\n  object Box1: TMysteryBox\n    Left = 100\n    Top = 9\n    Width = 60\n    Height = 25\n"
+      "  end\n  object Own: TLabel\n    Caption = 'Own'\n  end\nend\n");
+}
+
+TEST_F(AncestorTest, ADuplicateOfWhatIsInheritedStandsByItself) {
+  const auto session = Open("Derived.dfm");
+  session->Select({&Control(*session, "Panel1")});
+  DuplicateSelection(*session, 8);
+  TControl& copy = Control(*session, "Panel2");
+  EXPECT_EQ(copy.BoundsRect(), QRect(18, 28, 200, 100));
+  EXPECT_EQ(session->ObjectOf(copy)->kind, forms::ObjectKind::Object);
+  TControl& button = Control(*session, "Button2");
+  EXPECT_EQ(button.Caption(), QStringLiteral("Go"));
+  EXPECT_FALSE(button.Enabled());
+  EXPECT_EQ(button.Parent(), &copy);
+  const auto again = FormSession::FromBytes(session->Bytes(), session->FileName());
+  EXPECT_EQ(StateOf(*again), StateOf(*session));
+  session->DeleteComponents({&copy});  // it may go
+  session->Undo();
+  session->Undo();
+  EXPECT_EQ(session->Bytes(), Derived);
+}
+
+TEST_F(AncestorTest, ACopyOfAnInheritedFrameIsThatFrameWithWhatTheAncestorSaysOfIt) {
+  Write("Base.dfm", QByteArray(Host).replace("object Host: THost", "object Base: TBase"));
+  Write("Derived.dfm",
+        "inherited Derived: TDerived\n  inherited Head2: THead\n    Left = 20\n    inherited Title: TLabel\n"
+        "      Caption = 'Here'\n    end\n  end\nend\n");
+  const auto session = Open("Derived.dfm");
+  EXPECT_EQ(
+      Copied(*session, Control(*session, "Head1")),
+      "inline Head1: THead\n  Left = 10\n  Top = 12\n  Width = 160\n  Height = 80\n  TabOrder = 0\nend\n");
+  EXPECT_EQ(Copied(*session, Control(*session, "Head2")),
+            "inline Head2: THead\n  Left = 20\n  Top = 112\n  Width = 160\n  Height = 80\n  TabOrder = 1\n"
+            "  inherited Title: TLabel\n    Caption = 'Here'\n  end\n  inherited Field: TButton\n"
+            "    Caption = 'Other'\n  end\nend\n");
+}
+
+TEST_F(AncestorTest, WhatIsInheritedIsNotCutAndWithoutItsAncestorNotCopied) {
+  class Clipboard : public IClipboard {
+   public:
+    QString Text() const override { return text; }
+    void SetText(const QString& t) override { text = t; }
+    QString text;
+  } clipboard;
+  const auto refusal = [&](const auto& action) {
+    try {
+      action();
+    } catch (const Exception& e) {
+      return e.Message().toStdString();
+    }
+    return std::string();
+  };
+  auto session = Open("Derived.dfm");
+  session->Select({&Control(*session, "Button1")});
+  EXPECT_EQ(refusal([&] { CutSelection(*session, clipboard); }),
+            "Button1 comes from the ancestor form and cannot be cut here.");
+  Write("Derived.dfm", "inherited Derived: TDerived\n  inherited Button1: TButton\n  end\nend\n");
+  QFile::remove(Path("Base.dfm"));
+  session = Open("Derived.dfm");
+  session->Select({&Control(*session, "Button1")});
+  EXPECT_EQ(refusal([&] { CopySelection(*session, clipboard); }),
+            "Button1 comes from the ancestor form, which was not found; it cannot be copied here.");
+  EXPECT_EQ(clipboard.text, QString());
+}
+
+// --- Back to the ancestor
+
+TEST_F(AncestorTest, ARevertedPartIsTheAncestorsAndTheRestStays) {
+  const QByteArray form =
+      "inherited Derived: TDerived\n  inherited Label1: TLabel\n    Left = 250\n    Font.Color = clRed\n"
+      "    ParentFont = False\n    Wings = 4\n  end\nend\n";
+  Write("Derived.dfm", form);
+  const auto session = Open("Derived.dfm");
+  TComponent& label = Control(*session, "Label1");
+  EXPECT_TRUE(session->SaysItself(label, "Font"));
+  EXPECT_FALSE(session->SaysItself(label, "Fon"));
+  EXPECT_FALSE(session->SaysItself(label, "Top"));
+  const std::string before = StateOf(*session);
+  session->RevertToInherited({&label}, "Font");
+  EXPECT_EQ(session->Bytes(), QByteArray(form).replace("    Font.Color = clRed\n", ""));
+  EXPECT_EQ(StateOf(*FormSession::FromBytes(session->Bytes(), session->FileName())), StateOf(*session));
+  session->RevertToInherited({&label}, "Wings");
+  session->RevertToInherited({&label}, "ParentFont");
+  session->RevertToInherited({&label}, "Left");
+  EXPECT_EQ(session->Bytes(), "inherited Derived: TDerived\nend\n");
+  for (int i = 0; i < 4; ++i) session->Undo();
+  EXPECT_FALSE(session->CanUndo());
+  EXPECT_EQ(session->Bytes(), form);
+  EXPECT_EQ(StateOf(*session), before);
 }
 
 TEST_F(AncestorTest, ARenamedFormStillKnowsItsAncestor) {
@@ -433,7 +470,7 @@ TEST_F(AncestorTest, FormsOfTheOtherDialectStandOnThoseOfTheirOwn) {
 TEST_F(AncestorTest, WhatIsNotThereIsToldOnceAndTheFormIsShownAsItIs) {
   QFile::remove(Path("Head.dfm"));
   QFile::remove(Path("Derived.pas"));
-  const QString folder = QDir(folder_.path()).path();
+  const QString folder = QDir(files_.Folder()).path();
   const auto host = Open("Host.dfm");
   EXPECT_EQ(Texts(*host),
             QStringList{QStringLiteral("The form file of THead was not found in %1. What comes from "

@@ -1,5 +1,5 @@
 // What the clients of an action show when it goes.
-#include "SessionTest.h"
+#include "OperationTest.h"
 #include "ide/InspectorModel.h"
 #include "vcl/Action.h"
 #include "vcl/Menu.h"
@@ -63,17 +63,9 @@ const QByteArray Form = R"(object Main: TMain
 end
 )";
 
-class LostAction : public testing::Test {
+class LostAction : public OperationTest {
  protected:
-  LostAction() {
-    RegisterAll();
-    Open(Form);
-  }
-  void Open(const QByteArray& form) {
-    session_ = FormSession::FromBytes(form);
-    before_ = form;
-  }
-  TComponent& Get(const char* name) { return *session_->GetComponent(QLatin1StringView(name)); }
+  void SetUp() override { Open(Form); }
   // What the file says of the object, without its place.
   std::string Text(const char* name) {
     QStringList lines;
@@ -104,20 +96,6 @@ class LostAction : public testing::Test {
     EXPECT_FALSE(item.Get(TMenuItem::Visible));
     EXPECT_EQ(Text("Item"), "Caption Checked Enabled Hint ImageIndex ShortCut Visible");
   }
-  void ExpectOneStep() {
-    const QByteArray edited = session_->Bytes();
-    EXPECT_EQ(StateOf(*session_), StateOf(edited));
-    session_->Undo();
-    EXPECT_FALSE(session_->CanUndo());
-    EXPECT_EQ(session_->Bytes(), before_);
-    EXPECT_EQ(StateOf(*session_), StateOf(before_));
-    session_->Redo();
-    EXPECT_EQ(session_->Bytes(), edited);
-    EXPECT_EQ(StateOf(*session_), StateOf(edited));
-  }
-
-  std::unique_ptr<FormSession> session_;
-  QByteArray before_;
 };
 }  // namespace
 
@@ -130,7 +108,7 @@ TEST_F(LostAction, ThatIsDeletedLeavesItsValuesToItsClients) {
   EXPECT_TRUE(tool.Get(TToolButton::Down));
   EXPECT_EQ(tool.Hint(), QStringLiteral("of the button")) << "its own";
   EXPECT_EQ(Text("Other"), "Action") << "the client of another one";
-  ExpectOneStep();
+  ExpectOneCommand();
 }
 
 TEST_F(LostAction, WhatAClientStoresItselfStays) {
@@ -157,27 +135,27 @@ TEST_F(LostAction, ThatGoesWithItsListDoesSoToo) {
   session_->DeleteComponents({&Get("Actions")});
   ExpectTheItemKeepsAll();
   EXPECT_EQ(Text("Other"), "Caption");
-  ExpectOneStep();
+  ExpectOneCommand();
 }
 
 TEST_F(LostAction, ThatGoesWithItsClientsComesBackWithThem) {
   session_->DeleteComponents({&Get("Actions"), &Get("MainMenu1"), &Get("Bar")});
   EXPECT_EQ(session_->GetComponent(QStringLiteral("Item")), nullptr);
-  ExpectOneStep();
+  ExpectOneCommand();
 }
 
 TEST_F(LostAction, ThatIsTakenOffLeavesItsValuesThere) {
   EXPECT_EQ(Choose("Item", ""), "");
   ExpectTheItemKeepsAll();
   EXPECT_TRUE(Get("Tool").RefersTo(Get("OpenAction")));
-  ExpectOneStep();
+  ExpectOneCommand();
 }
 
 TEST_F(LostAction, AnotherActionIsShownInstead) {
   EXPECT_EQ(Choose("Item", "SaveAction"), "");
   EXPECT_EQ(Text("Item"), "Action");
   EXPECT_EQ(dynamic_cast<TMenuItem&>(Get("Item")).ShownCaption(), QStringLiteral("Save"));
-  ExpectOneStep();
+  ExpectOneCommand();
 }
 
 TEST_F(LostAction, SettingOneAndUndoingItKeepsNothingOfIt) {
@@ -187,7 +165,7 @@ TEST_F(LostAction, SettingOneAndUndoingItKeepsNothingOfIt) {
   Open(form);
   EXPECT_EQ(Choose("Item", "OpenAction"), "");
   EXPECT_EQ(Text("Item"), "Action Caption");
-  ExpectOneStep();
+  ExpectOneCommand();
   session_->Undo();
   EXPECT_EQ(Text("Item"), "Caption");
   EXPECT_EQ(dynamic_cast<TMenuItem&>(Get("Item")).Get(TMenuItem::Hint), QString());

@@ -1,5 +1,5 @@
 // The verbs of page controls and their pages, on an open form.
-#include "SessionTest.h"
+#include "OperationTest.h"
 #include "designintf/ComponentEditor.h"
 #include "vcl/PageControl.h"
 
@@ -37,19 +37,10 @@ const QByteArray Form = R"(object Main: TMain
 end
 )";
 
-class PageVerbs : public testing::Test {
+class PageVerbs : public OperationTest {
  protected:
-  PageVerbs() {
-    RegisterAll();
-    Open(Form);
-  }
-  void Open(const QByteArray& form) {
-    session_ = FormSession::FromBytes(form);
-    before_ = form;
-  }
-  TPageControl& Book() {
-    return dynamic_cast<TPageControl&>(*session_->GetComponent(QStringLiteral("Book")));
-  }
+  void SetUp() override { Open(Form); }
+  TPageControl& Book() { return As<TPageControl>("Book"); }
   std::unique_ptr<TComponentEditor> Editor(const char* name) {
     return session_->Registry().GetComponentEditor(session_->GetComponent(QLatin1StringView(name)),
                                                    session_.get());
@@ -60,7 +51,7 @@ class PageVerbs : public testing::Test {
     return -1;
   }
   void Run(const char* name, const char* verb) {
-    session_->Select({session_->GetComponent(QLatin1StringView(name))});
+    Select({name});
     const auto editor = Editor(name);
     const int index = IndexOf(*editor, verb);
     ASSERT_GE(index, 0) << verb;
@@ -80,24 +71,6 @@ class PageVerbs : public testing::Test {
     }
     return names.join(u' ').toStdString();
   }
-  std::string Selected() {
-    QStringList names;
-    for (const TComponent* c : session_->SelectedComponents()) names << c->Name();
-    return names.join(u'+').toStdString();
-  }
-  void ExpectOneStep() {
-    const QByteArray edited = session_->Bytes();
-    EXPECT_NE(edited, before_);
-    EXPECT_EQ(StateOf(*session_), StateOf(edited));
-    session_->Undo();
-    EXPECT_FALSE(session_->CanUndo());
-    EXPECT_EQ(session_->Bytes(), before_);
-    EXPECT_EQ(StateOf(*session_), StateOf(before_));
-    session_->Redo();
-    EXPECT_EQ(session_->Bytes(), edited);
-  }
-  std::unique_ptr<FormSession> session_;
-  QByteArray before_;
 };
 }  // namespace
 
@@ -118,9 +91,9 @@ TEST_F(PageVerbs, ANewPageComesLastAndIsActiveAndSelected) {
   EXPECT_EQ(Book().Pages().back()->Caption(), QStringLiteral("TabSheet1"));
   EXPECT_EQ(Selected(), "TabSheet1");
   EXPECT_EQ(
-      ChangedLines(before_, session_->Bytes()).join('|'),
+      ChangedLines(first_, session_->Bytes()).join('|'),
       "-ActivePage = One|+ActivePage = TabSheet1|+object TabSheet1: TTabSheet|+Caption = 'TabSheet1'|+end");
-  ExpectOneStep();
+  ExpectOneCommand();
   session_->Undo();
   Run("Two", "New Page");
   EXPECT_EQ(Pages(), "One Two Three [*TabSheet1]") << "also where a page is selected";
@@ -132,8 +105,8 @@ TEST_F(PageVerbs, NextAndPreviousShowThePagesRoundAndRound) {
   Run("Book", "Next Page");
   EXPECT_EQ(Pages(), "One [*Two] Three");
   EXPECT_EQ(Selected(), "Book");
-  EXPECT_EQ(ChangedLines(before_, session_->Bytes()).join('|'), "-ActivePage = One|+ActivePage = Two");
-  ExpectOneStep();
+  EXPECT_EQ(ChangedLines(first_, session_->Bytes()).join('|'), "-ActivePage = One|+ActivePage = Two");
+  ExpectOneCommand();
   Run("Book", "Next Page");
   Run("Book", "Next Page");
   EXPECT_EQ(Pages(), "[*One] Two Three");
@@ -147,7 +120,7 @@ TEST_F(PageVerbs, FromASelectedPageTheNextOneIsSelected) {
   Run("Two", "Next Page");
   EXPECT_EQ(Pages(), "One Two [*Three]");
   EXPECT_EQ(Selected(), "Three");
-  ExpectOneStep();
+  ExpectOneCommand();
 }
 
 TEST_F(PageVerbs, DeleteTakesTheActivePageWithWhatStandsOnIt) {
@@ -155,7 +128,7 @@ TEST_F(PageVerbs, DeleteTakesTheActivePageWithWhatStandsOnIt) {
   EXPECT_EQ(Pages(), "[*Two] Three");
   EXPECT_EQ(session_->GetComponent(QStringLiteral("Inside")), nullptr);
   EXPECT_EQ(Selected(), "Book");
-  ExpectOneStep();
+  ExpectOneCommand();
   session_->Undo();
   EXPECT_EQ(Pages(), "[*One] Two Three");
   EXPECT_NE(session_->GetComponent(QStringLiteral("Inside")), nullptr);
@@ -172,7 +145,7 @@ TEST_F(PageVerbs, OfTheLastPageTheOneBeforeItComesToTheFront) {
   EXPECT_EQ(Pages(), "");
   EXPECT_EQ(Selected(), "Book");
   while (session_->CanUndo()) session_->Undo();
-  EXPECT_EQ(session_->Bytes(), before_);
+  EXPECT_EQ(session_->Bytes(), first_);
 }
 
 TEST_F(PageVerbs, TheNumberOfThePageIsKeptInStepWhereAFileHasIt) {
@@ -210,7 +183,7 @@ TEST_F(PageVerbs, APageOfTheAncestorStays) {
            .replace("object One", "inherited One")
            .replace("object Book", "inherited Book"));
   EXPECT_THROW(Run("Book", "Delete Page"), EComponentError);
-  EXPECT_EQ(session_->Bytes(), before_);
+  EXPECT_EQ(session_->Bytes(), first_);
   EXPECT_EQ(Pages(), "[*One] Two Three");
   EXPECT_FALSE(session_->CanUndo());
 }

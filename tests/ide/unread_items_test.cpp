@@ -2,6 +2,7 @@
 // written again wherever the item goes.
 #include "SessionTest.h"
 #include "rtl/PropAccess.h"
+#include "vcl/GridPanel.h"
 #include "vcl/StatusBar.h"
 
 namespace {
@@ -105,4 +106,199 @@ TEST_F(UnreadItems, CopiesHaveThem) {
   EXPECT_EQ(session_->Bytes().count("'sideways'"), 2);
   Run([&] { Panels().Clear(); });
   EXPECT_EQ(session_->Bytes().count("Foreign = 5"), 1);
+}
+
+// --- References of items
+
+namespace {
+const QByteArray GridForm = R"(object Main: TMain
+  Left = 0
+  Top = 0
+  ClientHeight = 300
+  ClientWidth = 400
+  object Grid: TGridPanel
+    Left = 8
+    Top = 8
+    Width = 200
+    Height = 100
+    Caption = ''
+    ColumnCollection = <
+      item
+        Value = 50.000000000000000000
+      end
+      item
+        Value = 50.000000000000000000
+      end>
+    ControlCollection = <
+      item
+        Control = Here
+        Column = 0
+        Row = 0
+      end
+      item
+        Control = Gone
+        Column = 1
+        Row = 0
+      end
+      item
+        Control = Timer1
+        Column = 0
+        Row = 1
+      end>
+    TabOrder = 0
+    object Here: TButton
+      Left = 1
+      Top = 1
+      Width = 75
+      Height = 25
+      Caption = 'Here'
+      TabOrder = 0
+    end
+  end
+  object Spare: TGridPanel
+    Left = 8
+    Top = 120
+    Width = 200
+    Height = 100
+    Caption = ''
+    ColumnCollection = <>
+    ControlCollection = <>
+    TabOrder = 1
+  end
+  object Timer1: TTimer
+    Left = 320
+    Top = 200
+  end
+end
+)";
+
+class ItemReferences : public testing::Test {
+ protected:
+  void SetUp() override {
+    ide::RegisterAll();
+    session_ = FormSession::FromBytes(GridForm);
+  }
+  TGridPanel& Grid(const char* name = "Grid") const {
+    return dynamic_cast<TGridPanel&>(*session_->GetComponent(QLatin1StringView(name)));
+  }
+  TControlCollection& Cells(const char* name = "Grid") const {
+    return *Grid(name).Get(TGridPanel::ControlCollection);
+  }
+  void Run(const std::function<void()>& action) { session_->Run(QStringLiteral("edit"), {}, action); }
+  void SetRow(int item, int row) {
+    Run([&] { Cells().Item(item)->Set(TGridControlItem::Row, row); });
+  }
+  std::string Warnings() const {
+    QStringList texts;
+    for (const forms::Finding& f : session_->Findings()) texts << f.text;
+    return texts.join(u'|').toStdString();
+  }
+  static std::string Changes(const QByteArray& after) {
+    return ide::ChangedLines(GridForm, after).join('|').toStdString();
+  }
+  std::unique_ptr<FormSession> session_;
+};
+}  // namespace
+
+TEST_F(ItemReferences, ThatLeadToNothingAreToldAndStayWhenTheCollectionIsEdited) {
+  EXPECT_EQ(Warnings(),
+            "Grid.ControlCollection refers to Gone, which is not on this form|"
+            "Grid.ControlCollection refers to Timer1, which is a TTimer and no TControl");
+  SetRow(1, 1);
+  EXPECT_EQ(Changes(session_->Bytes()), "-Row = 0|+Row = 1");
+  const std::string edited = session_->Bytes().toStdString();
+  for (int round = 0; round < 2; ++round) {
+    session_->Undo();
+    EXPECT_EQ(session_->Bytes(), GridForm);
+    session_->Redo();
+    EXPECT_EQ(session_->Bytes().toStdString(), edited);
+  }
+  // What was undone is what is edited next.
+  session_->Undo();
+  SetRow(2, 0);
+  EXPECT_EQ(Changes(session_->Bytes()), "-Row = 1|+Row = 0");
+}
+
+TEST_F(ItemReferences, GoWhereTheirItemGoes) {
+  Run([&] { Cells().Move(1, 0); });
+  const QByteArray bytes = session_->Bytes();
+  EXPECT_LT(bytes.indexOf("Control = Gone"), bytes.indexOf("Control = Here"));
+  Run([&] { Cells("Spare").Assign(&Cells()); });
+  EXPECT_EQ(session_->Bytes().count("Control = Gone"), 2);
+  Run([&] { Cells().Delete(0); });
+  EXPECT_EQ(session_->Bytes().count("Control = Gone"), 1);
+}
+
+TEST_F(ItemReferences, StayWhenControlsComeAndGo) {
+  session_->CreateComponent(TButton::StaticClass(), &Grid(), QRect(8, 8, 75, 25));
+  QByteArray bytes = session_->Bytes();
+  EXPECT_TRUE(bytes.contains("Control = Button1")) << bytes.toStdString();
+  EXPECT_TRUE(bytes.contains("Control = Gone"));
+  EXPECT_TRUE(bytes.contains("Control = Timer1"));
+  session_->DeleteComponents({session_->GetComponent(QStringLiteral("Here"))});
+  bytes = session_->Bytes();
+  EXPECT_FALSE(bytes.contains("Control = Here"));
+  EXPECT_TRUE(bytes.contains("Control = Gone"));
+}
+
+TEST_F(ItemReferences, AnotherOneTakesThePlaceOfTheLostOne) {
+  auto* here = dynamic_cast<TControl*>(session_->GetComponent(QStringLiteral("Here")));
+  Run([&] { Cells().Item(1)->Set(TControlItem::Control, here); });
+  EXPECT_EQ(Changes(session_->Bytes()), "-Control = Gone|+Control = Here");
+  Run([&] { Cells().Item(1)->Set(TControlItem::Control, nullptr); });
+  EXPECT_EQ(Changes(session_->Bytes()), "-Control = Gone");
+  session_->Undo();
+  session_->Undo();
+  EXPECT_EQ(session_->Bytes(), GridForm);
+}
+
+TEST_F(ItemReferences, AValueTakesThePlaceOfARefusedOne) {
+  const QByteArray form = QByteArray(GridForm).replace("Column = 1", "Column = 'right'");
+  session_ = FormSession::FromBytes(form);
+  Run([&] { Cells().Item(1)->Set(TGridControlItem::Column, 2); });
+  EXPECT_EQ(ide::ChangedLines(form, session_->Bytes()), (QByteArrayList{"-Column = 'right'", "+Column = 2"}));
+}
+
+TEST_F(ItemReferences, OfOnePastedTogetherFindEachOther) {
+  const forms::Document text = forms::Document::ParseObjects(
+      "object Copy: TGridPanel\n  ControlCollection = <\n    item\n      Control = Later\n      Column = 0\n"
+      "      Row = 0\n    end>\nend\nobject Later: TButton\nend\n");
+  forms::Object* root = session_->ObjectOf(session_->Form());
+  session_->Insert(text, {{text.Root().children[0].get(), root}, {text.Root().children[1].get(), root}});
+  EXPECT_EQ(Cells("Copy").Item(0)->Get(TControlItem::Control),
+            session_->GetComponent(QStringLiteral("Later")));
+  const QByteArray pasted = session_->Bytes();
+  Run([&] { Cells("Copy").Item(0)->Set(TGridControlItem::Row, 1); });
+  EXPECT_EQ(session_->Bytes().count("Control = Later"), 1) << session_->Bytes().toStdString();
+}
+
+// An ancestor's items are replaced by the form's: their references are no longer looked up.
+TEST_F(ItemReferences, OfReplacedItemsAreForgotten) {
+  QTemporaryDir folder;
+  const auto write = [&](const char* name, const QByteArray& bytes) {
+    QFile file(folder.filePath(QLatin1StringView(name)));
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write(bytes);
+  };
+  write("Base.dfm", QByteArray(GridForm).replace("object Main: TMain", "object Base: TBase"));
+  write("Main.pas", "type TMain = class(TBase) end;");
+  const QByteArray own =
+      "inherited Main: TMain\n  inherited Grid: TGridPanel\n    ControlCollection = <\n      item\n"
+      "        Control = Lost\n        Column = 1\n        Row = 1\n      end>\n  end\nend\n";
+  write("Main.dfm", own);
+  session_ = FormSession::Open(folder.filePath(QStringLiteral("Main.dfm")));
+  ASSERT_EQ(Cells().Count(), 1);
+  EXPECT_EQ(Warnings(), "Grid.ControlCollection refers to Lost, which is not on this form");
+  SetRow(0, 0);
+  EXPECT_EQ(session_->Bytes(), QByteArray(own).replace("Row = 1", "Row = 0"));
+}
+
+TEST_F(ItemReferences, AreFoundAgainWhenBothComeBack) {
+  TComponent* here = session_->GetComponent(QStringLiteral("Here"));
+  session_->DeleteComponents({&Grid()});
+  session_->Undo();
+  here = session_->GetComponent(QStringLiteral("Here"));
+  EXPECT_EQ(Cells().Item(0)->Get(TControlItem::Control), here);
+  SetRow(2, 0);
+  EXPECT_EQ(Changes(session_->Bytes()), "-Row = 1|+Row = 0");
 }

@@ -211,3 +211,34 @@ TEST(Changes, AreToldOnceAndOnlyWhenReal) {
             1);
   panel.SetHost(nullptr);
 }
+
+// --- Disabled pictures
+
+TEST(Look, ADisabledIconIsFainterThanTheEnabledOneInBothThemes) {
+  for (const TTheme theme : {TTheme::Light, TTheme::Dark}) {
+    const ThemeScope scope(theme);
+    const QColor ground = QGuiApplication::palette().color(QPalette::Window);
+    QPixmap drawing(20, 14);
+    drawing.fill(Qt::transparent);
+    {
+      QPainter p(&drawing);
+      p.fillRect(2, 3, 12, 6, QGuiApplication::palette().color(QPalette::WindowText));
+      p.fillRect(14, 3, 3, 6, QColor(0x3A, 0x72, 0xCF));
+    }
+    const QIcon icon(drawing);
+    // How much it stands out.
+    const auto strength = [&](QIcon::Mode mode) {
+      QImage image(drawing.size(), QImage::Format_RGB32);
+      image.fill(ground);
+      QPainter(&image).drawPixmap(0, 0, icon.pixmap(drawing.size(), mode));
+      int sum = 0;
+      for (int y = 0; y < image.height(); ++y)
+        for (int x = 0; x < image.width(); ++x)
+          sum += std::abs(qGray(image.pixel(x, y)) - qGray(ground.rgb()));
+      return sum;
+    };
+    const int enabled = strength(QIcon::Normal), disabled = strength(QIcon::Disabled);
+    EXPECT_LT(disabled, enabled * 7 / 10) << "theme " << static_cast<int>(theme);
+    EXPECT_GT(disabled, enabled / 8) << "theme " << static_cast<int>(theme);
+  }
+}
