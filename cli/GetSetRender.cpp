@@ -147,12 +147,15 @@ int GetCommand(const QStringList& list, Console& console) {
                   << '\n';
       found = true;
     }
-  // Of one that is inherited, also what its ancestors say.
-  if (path.isEmpty() && object.origin)
-    for (const StoredValue& v : PropertyValues(component, document, false))
-      if (!object.Find(v.path)) {
-        console.out << QString::fromUtf8(v.path) << " = " << ShownValue(v.value, document) << '\n';
-        found = true;
+  // Of one that is inherited, also what its ancestors say, each only where none below it does.
+  if (path.isEmpty())
+    for (const Object* at = &object; at->origin; at = at->origin->object)
+      for (const Property& p : at->origin->object->properties) {
+        const Object* said = &object;
+        while (said != at->origin->object && !said->Find(p.Name())) said = said->origin->object;
+        if (said == at->origin->object)
+          console.out << Printable(QString::fromUtf8(p.Name())) << " = "
+                      << ShownValue(at->origin->document->Read(p), *at->origin->document) << '\n';
       }
   if (!path.isEmpty())
     for (const StoredValue& v : PropertyValues(component, document, true)) {

@@ -28,8 +28,12 @@ int Distance(const QString& a, const QString& b) {
 QString DidYouMean(const QString& wanted, const QStringList& names) {
   const QString key = wanted.left(LongestName).toLower();
   std::vector<std::pair<int, QString>> ranked;
+  // Further away it is another name.
+  const int far = std::max(2, static_cast<int>(key.size()) / 3);
   for (const QString& name : names)
-    if (!name.isEmpty()) ranked.emplace_back(Distance(key, name.left(LongestName).toLower()), name);
+    if (const int distance = Distance(key, name.left(LongestName).toLower());
+        distance <= far && !name.isEmpty())
+      ranked.emplace_back(distance, name);
   std::stable_sort(ranked.begin(), ranked.end(),
                    [](const auto& a, const auto& b) { return a.first < b.first; });
   QStringList nearest;

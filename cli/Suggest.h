@@ -2,5 +2,5 @@
 #pragma once
 #include <QStringList>
 
-// " Did you mean A, B or C?": the nearest of the names; empty when there are none.
+// " Did you mean A, B or C?": the nearest of the names; empty when none is near.
 QString DidYouMean(const QString& wanted, const QStringList& names);

@@ -27,6 +27,7 @@ ProblemsList::ProblemsList(QWidget* parent) : QListWidget(parent), settled_(this
 
 void ProblemsList::SetSession(FormSession* session) {
   settled_.stop();
+  if (session_) disconnect(session_, nullptr, this, nullptr);
   session_ = session;
   mayHave_ = false;
   clear();

@@ -128,7 +128,7 @@ TEST_F(LostAction, WhatTheSameStepGivesAClientStays) {
   const auto& item = dynamic_cast<TMenuItem&>(Get("Item"));
   EXPECT_EQ(item.Get(TMenuItem::Hint), QStringLiteral("new"));
   EXPECT_EQ(item.Get(TMenuItem::Caption), QStringLiteral("&Open..."));
-  ExpectOneStep();
+  ExpectOneCommand();
 }
 
 TEST_F(LostAction, ThatGoesWithItsListDoesSoToo) {
