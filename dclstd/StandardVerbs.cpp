@@ -73,6 +73,14 @@ void TStandardEditor::Edit() {
 QString TStringGridEditor::GetVerb(int index) const {
   return index == GetVerbCount() - 1 ? QObject::tr("Edit Cells...") : TStandardEditor::GetVerb(index);
 }
+// Forms of one family have no texts of cells: their programs would not know what to do with them.
+QString TStringGridEditor::GetVerbProblem(int index) const {
+  if (index != GetVerbCount() - 1) return TStandardEditor::GetVerbProblem(index);
+  const auto* grid = As<TStringGrid>(GetComponent());
+  return !grid || grid->IsOfOtherFamily() || grid->IsKept(&TStringGrid::Cells)
+             ? QString()
+             : QObject::tr("forms of this kind keep no cells; the program fills %1").arg(grid->Name());
+}
 void TStringGridEditor::ExecuteVerb(int index) {
   if (index != GetVerbCount() - 1) return TStandardEditor::ExecuteVerb(index);
   if (auto* grid = As<TStringGrid>(GetComponent()); grid && GetDesigner() && EditCells(*grid))

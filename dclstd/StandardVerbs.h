@@ -36,6 +36,7 @@ class TStringGridEditor : public TStandardEditor {
  public:
   using TStandardEditor::TStandardEditor;
   void ExecuteVerb(int index) override;
+  QString GetVerbProblem(int index) const override;
   QString GetVerb(int index) const override;
   int GetVerbCount() const override { return TStandardEditor::GetVerbCount() + 1; }
 };

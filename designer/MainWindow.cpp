@@ -120,6 +120,10 @@ void MainWindow::ConnectPanes() {
   connect(inspector_, &InspectorPane::Message, this, tell);
   connect(inspector_, &InspectorPane::Typing, this, &MainWindow::UpdateActions);
   connect(surface_, &FormSurface::ContextMenuWanted, this, &MainWindow::ShowContextMenu);
+  QTreeView& tree = structure_->Tree();
+  tree.setContextMenuPolicy(Qt::CustomContextMenu);
+  connect(&tree, &QWidget::customContextMenuRequested, this,
+          [this, &tree](const QPoint& at) { ShowContextMenu(tree.viewport()->mapToGlobal(at)); });
   connect(surface_, &FormSurface::Message, this,
           [this](const QString& text) { Prompts().Warn(this, QCoreApplication::applicationName(), text); });
   connect(surface_, &FormSurface::Notice, this, tell);

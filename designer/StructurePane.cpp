@@ -101,6 +101,7 @@ void StructurePane::TakeSelection() {
   updating_ = true;
   Session()->Select(selected);
   updating_ = false;
+  hidden_->hide();  // what is chosen here is in sight
 }
 
 void StructurePane::ShowSelection() {

@@ -75,7 +75,8 @@ void PatchObject(Object& object, Document& document, const Snapshot& after, std:
                  const Snapshot* inherited) {
   for (ValueChange& change : changes) {
     const int at = IndexOf(object, change.path);
-    const bool written = Differs(object, change, inherited) && !(change.follows && at < 0);
+    const bool leftOut = at < 0 && (change.takenOut || (change.follows && !inherited));
+    const bool written = Differs(object, change, inherited) && !leftOut;
     change.index = at;
     if (at >= 0) change.nodeBefore = Remove(object, at);
     if (!written) continue;

@@ -14,9 +14,11 @@ struct ValueChange {
   Value before;
   Value after;
   bool storedAfter = true;
-  // The layout's doing: written only where the file says something about it already. A file that leaves out a
-  // coordinate leaves it to an ancestor, whose layout nobody knows here.
+  // The layout's doing: written only where the file says something about it already, or the ancestor is known
+  // and says something else. A file that leaves out a coordinate leaves it to an ancestor, whose layout nobody
+  // knows here.
   bool follows = false;
+  bool takenOut = false;  // on purpose: it is not written again
   // The document's own node on either side of the edit; none when the property was not written.
   std::optional<Property> nodeBefore;
   std::optional<Property> nodeAfter;

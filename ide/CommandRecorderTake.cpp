@@ -199,10 +199,9 @@ std::optional<ComponentChange> CommandRecorder::TakeChange(Before& before) {
     if (v.after.type == forms::ValueType::Collection)
       forms::ForgetReplaced(forms::FindTarget(*before.component, v.path));
   if (const auto* control = As<TControl>(&component)) MarkFollowing(change.values, *control);
-  // What was taken out on purpose is not written again.
   for (const forms::ValueChange& out : stored_[&object])
     for (forms::ValueChange& v : change.values)
-      v.follows = v.follows || (!out.nodeAfter && v.path.compare(out.path, Qt::CaseInsensitive) == 0);
+      v.takenOut = v.takenOut || (!out.nodeAfter && v.path.compare(out.path, Qt::CaseInsensitive) == 0);
   change.nameBefore = before.name;
   change.nameAfter = component.Name();
   change.classBefore = change.classAfter = object.className;

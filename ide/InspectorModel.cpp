@@ -269,6 +269,16 @@ QString InspectorModel::ProblemOf(const Node& node) const {
   return {};
 }
 
+// Of what is inherited, what this form says itself.
+bool InspectorModel::StandsOut(const Node& node) const {
+  const bool inherited = !shown_.empty() && inspected_.front() == shown_.front() &&
+                         std::all_of(shown_.begin(), shown_.end(), [&](const TComponent* c) {
+                           const forms::Object* object = session_->ObjectOf(*c);
+                           return object && object->origin;
+                         });
+  return inherited ? CanRevert(node) : IsNotDefault(*node.editor);
+}
+
 bool InspectorModel::CanRevert(const Node& node) const {
   return node.editor && !shown_.empty() && inspected_.front() == shown_.front() &&
          std::any_of(shown_.begin(), shown_.end(),
@@ -307,7 +317,7 @@ void InspectorModel::TellChanges(const QModelIndex& parent) {
 
 bool InspectorModel::TakeChange(Node& node) const {
   const bool changed = (node.toldText && *node.toldText != TextOf(*node.editor)) ||
-                       (node.toldNotDefault && *node.toldNotDefault != IsNotDefault(*node.editor)) ||
+                       (node.toldNotDefault && *node.toldNotDefault != StandsOut(node)) ||
                        (node.toldProblem && *node.toldProblem != ProblemOf(node));
   if (changed) {
     node.toldText.reset();
@@ -481,7 +491,7 @@ QVariant InspectorModel::data(const QModelIndex& index, int role) const {
     case CanRevertRole:
       return CanRevert(*node);
     case NotDefaultRole:
-      return *(NodeAt(index)->toldNotDefault = IsNotDefault(*editor));
+      return *(NodeAt(index)->toldNotDefault = StandsOut(*node));
     case IsBooleanRole: {
       // Lists of components and handlers are long, and nothing of the kind.
       const TTypeKind kind = editor->GetPropType().Kind;

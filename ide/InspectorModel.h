@@ -76,6 +76,7 @@ class InspectorModel : public QAbstractItemModel {
   bool TakeChange(Node& node) const;
   QString ProblemOf(const Node& node) const;
   bool CanRevert(const Node& node) const;
+  bool StandsOut(const Node& node) const;
   void TakeProblems();
   QString Guarded(TPropertyEditor& editor, const char* member, const QString& text,
                   const std::function<void()>& action);

@@ -53,6 +53,10 @@ class VerbOf {
   QString Caption(const T& c, int item) const {
     return Available(c) ? caption_(c, item) : QString::fromUtf8(unavailable_);
   }
+  // Why it cannot be done now; empty when it can.
+  QString Problem(const T& c) const {
+    return Available(c) ? QString() : QObject::tr("%1 has this from its data source").arg(c.Name());
+  }
   // Whether the component was changed.
   bool Execute(T& c, IDesigner* designer, int item) const {
     return Available(c) && action_(c, designer, item);
@@ -127,6 +131,10 @@ class TVerbEditor : public Base {
   QString GetVerb(int index) const override {
     const Place place = At(index);
     return place.verb ? place.verb->Caption(*Subject(), place.item) : Base::GetVerb(BaseIndex(index));
+  }
+  QString GetVerbProblem(int index) const override {
+    const Place place = At(index);
+    return place.verb ? place.verb->Problem(*Subject()) : Base::GetVerbProblem(BaseIndex(index));
   }
   void ExecuteVerb(int index) override {
     const Place place = At(index);

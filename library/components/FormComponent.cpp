@@ -31,5 +31,5 @@ void TVRXForm::PaintBorder(TCanvas& canvas, const QPainterPath& outline, bool) c
   QPainter& p = canvas.Painter();
   p.setClipPath(outline, Qt::IntersectClip);
   // The outer half of the line is cut off.
-  p.strokePath(outline, QPen(ToQColor(Get(FrameColor)), 2 * width));
+  p.strokePath(outline, QPen(ToQColor(Get(FrameColor)), 2.0 * width));
 }

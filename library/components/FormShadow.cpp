@@ -16,6 +16,13 @@ const TClass& TVRXFormShadow::StaticClass() {
 
 TVRXFormShadow::TVRXFormShadow(TComponent* owner) : TFormDecor(owner) {}
 
+// One that somebody puts on a form is there to be seen.
+void TVRXFormShadow::NameChanged(const QString& oldName) {
+  TFormDecor::NameChanged(oldName);
+  if (oldName.isEmpty() && IsDesigning() && !IsLoading())
+    Shadow()->Set(TVRXShadow::Style, TVRXShadowStyle::hssSolid);
+}
+
 QMargins TVRXFormShadow::Around(bool active) const { return Shows(active) ? Shadow()->Room() : QMargins(); }
 
 void TVRXFormShadow::PaintAround(TCanvas& canvas, const QPainterPath& outline, bool active) const {

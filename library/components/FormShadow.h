@@ -16,6 +16,9 @@ class TVRXFormShadow : public TFormDecor {
   QMargins Around(bool active) const override;
   void PaintAround(TCanvas& canvas, const QPainterPath& outline, bool active) const override;
 
+ protected:
+  void NameChanged(const QString& oldName) override;
+
  private:
   bool Shows(bool active) const { return Get(Enabled) && (active || Get(ShowInActive)); }
 };

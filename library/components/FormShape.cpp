@@ -54,5 +54,5 @@ void TVRXFormShape::PaintBorder(TCanvas& canvas, const QPainterPath& outline, bo
   p.setRenderHint(QPainter::Antialiasing);
   p.setClipPath(outline, Qt::IntersectClip);
   // The outer half of the line is cut off.
-  p.strokePath(outline, QPen(ToQColor(Get(BorderColor)), 2 * width));
+  p.strokePath(outline, QPen(ToQColor(Get(BorderColor)), 2.0 * width));
 }

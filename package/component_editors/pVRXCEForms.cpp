@@ -126,11 +126,7 @@ VerbOf<C> FontVerb() {
 }
 }  // namespace
 const TVRXWndButtonShapeComponentEditor::Verbs TVRXWndButtonShapeComponentEditor::Table = {
-    {"OnClick...",
-     [](TVRXWndButtonShape& button, IDesigner& designer) {
-       TDefaultEditor(&button, &designer).Edit();
-       return false;  // what it did it has told
-     }},
+    "OnClick...",
     ImageListVerb<TVRXWndButtonShape>(),
     Flag("Transparent"),
     FontFxVerb<TVRXWndButtonShape>(),
@@ -160,6 +156,7 @@ const TVRXLabelComponentEditor::Verbs TVRXLabelComponentEditor::Table = {
     {"Alignment", [](TVRXCustomLabel& label) { return VRXCPSelectValueDialog(label, "Alignment"); }},
     Flag("AutoSize"),
     Flag("Transparent"),
+    Flag("WordWrap"),
 };
 const TVRXLabelFillComponentEditor::Verbs TVRXLabelFillComponentEditor::Table = {
     FillVerb<TVRXCustomLabelFill>(),

@@ -21,8 +21,13 @@ VRX_VERB_EDITOR(TVRXShapeHintComponentEditor, TVRXCustomShapeHint);
 VRX_VERB_EDITOR(TVRXShadowComponentEditor, TVRXFormShadow);
 VRX_VERB_EDITOR(TVRXFormShapeComponentEditor, TVRXFormShape);
 VRX_VERB_EDITOR(TVRXScrollTextComponentEditor, TVRXScrollText);
-VRX_VERB_EDITOR(TVRXWndButtonShapeComponentEditor, TVRXWndButtonShape);
 VRX_VERB_EDITOR(TVRXPanelShapeComponentEditor, TVRXPanelShape);
+
+class TVRXWndButtonShapeComponentEditor : public TVerbEditor<TVRXWndButtonShape, TDefaultEditor> {
+  VRX_VERB_TABLE(TVRXWndButtonShapeComponentEditor)
+  // The first verb is what the default editor does.
+  void ExecuteVerb(int index) override { index == 0 ? Edit() : TVerbEditor::ExecuteVerb(index); }
+};
 
 // What editors of pictures and of labels have in common; their descendants' verbs stand behind.
 VRX_VERB_EDITOR(TVRXCustomLImageComponentEditor, TVRXCustomLImage);
@@ -31,7 +36,13 @@ using TVRXLImageEditorBase = TVerbEditor<TVRXAniCtrl, TVRXCustomLImageComponentE
 class TVRXAniCtrlComponentEditor : public TVRXLImageEditorBase {
   VRX_VERB_TABLE(TVRXAniCtrlComponentEditor)
 };
-using TVRXLabelEditorBase = TVerbEditor<TVRXCustomLabelFill, TVRXLabelComponentEditor, TOwnVerbs::Last>;
+// A label that is filled has its own verbs in the place of the base's last one.
+class TVRXFilledLabelEditorBase : public TVRXLabelComponentEditor {
+ public:
+  using TVRXLabelComponentEditor::TVRXLabelComponentEditor;
+  int GetVerbCount() const override { return TVRXLabelComponentEditor::GetVerbCount() - 1; }
+};
+using TVRXLabelEditorBase = TVerbEditor<TVRXCustomLabelFill, TVRXFilledLabelEditorBase, TOwnVerbs::Last>;
 class TVRXLabelFillComponentEditor : public TVRXLabelEditorBase {
   VRX_VERB_TABLE(TVRXLabelFillComponentEditor)
 };

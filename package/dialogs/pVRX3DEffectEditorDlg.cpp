@@ -131,6 +131,7 @@ void TVRX3DEffectEditorDlg::btngetpicClick(const QPushButton* sender) {
     return;
   }
   EXECUTE->setEnabled(true);
+  EXECUTE->setFocus();
   cmbState->setCurrentText(StateTexts()[Original]);
   ShowState(Original);
   // Earlier results are not this source's.
@@ -155,6 +156,7 @@ void TVRX3DEffectEditorDlg::EXECUTEClick() {
     ShowNote();
   });
   running_ = true;
+  const QPointer<QWidget> focus = focusWidget();  // what is disabled loses it
   EXECUTE->setEnabled(false);
   STOP->setEnabled(true);
   // Nothing may change under the run, and it is not to be confirmed before its end.
@@ -177,6 +179,10 @@ void TVRX3DEffectEditorDlg::EXECUTEClick() {
   ShowState(complete ? Up : Original);
   Ok->setEnabled(complete);
   cmbState->setEnabled(complete);
+  if (complete)
+    Ok->setFocus();
+  else if (focus)
+    QTimer::singleShot(0, focus, [focus] { focus->setFocus(); });
 }
 
 void TVRX3DEffectEditorDlg::STOPClick() { VRX3DEffectAbort = true; }

@@ -30,6 +30,8 @@ TVRXLEDEditorDlg::TVRXLEDEditorDlg(QWidget* owner)
   Row(pred, "pred", "", "&Pred. Color:", "Defines the color for both \r\nactive and inactive LED-letters.")
       .Items(TypeInfoOf<TVRXLightColor>::Get())
       .Changes(&D::predChange);
+  for (ColorComboBox* combo : {cmbb, cmbL})
+    combo->SetStyles({TColorChoice::csDefaultColors, TColorChoice::csSystemColors, TColorChoice::csAnyColor});
   pred->setMaxVisibleItems(4);
   Note("Predefined Color-Settings for Active-/InActiveColor\r\ndon't appear in the Combobox.");
   Row(chk, "chk", "DisabledDigits", " &DisabledDigits",

@@ -40,7 +40,11 @@ bool TVRXTeethProperty::Launch(TVRXTeeth& copy) { return VRXCPGetTeeth(copy); }
 TPropertyAttributes TVRXPictureEnumProperty::GetAttributes() const {
   return {paValueList, paDialog, paMultiSelect, paRevertable};
 }
-void TVRXPictureEnumProperty::Edit() { SetOrdValue(Pick(GetOrdValue()) & 0xFF); }
+// An unchanged value is written, too, unless that gave the first one's to others.
+void TVRXPictureEnumProperty::Edit() {
+  const std::int64_t before = GetOrdValue(), picked = Pick(before) & 0xFF;
+  if (picked != before || AllEqual()) SetOrdValue(picked);
+}
 std::int64_t TVRXShapeProperty::Pick(std::int64_t value) {
   return static_cast<std::int64_t>(VRXCPGetShape(static_cast<TVRXShapeType>(value)));
 }

@@ -1,6 +1,7 @@
 #include "package/registration/VRX_RegMainEditors.h"
 
 #include "dclstd/DialogRegistration.h"
+#include "library/components/TitleItems.h"
 #include "library/controls/Clock.h"
 #include "library/values/ButtonFace.h"
 #include "library/values/Caption.h"
@@ -8,6 +9,7 @@
 #include "library/values/RegionMask.h"
 #include "library/values/ShapeType.h"
 #include "library_design/pVRXPeCore.h"
+#include "library_design/pVRXPeX.h"
 #include "package/dialogs/pVRX3DEffectEditorDlg.h"
 #include "package/dialogs/pVRXBmpRegionEditorDlg.h"
 #include "package/dialogs/pVRXCaptionEditorDlg.h"
@@ -23,6 +25,7 @@ using namespace registration;
 
 namespace {
 const Row kRows[] = {
+    Property<TCustomImageList, TVRXCustomImageListProperty, TVRXCaptionButtons>("ImageList"),
     Property<TVRXShadow, TVRXShadowProperty>(),
     Property<TVRXShapeFill, TVRXShapeFillProperty>(),
     Property<TVRXDateTimeFormat, TVRXDateTimeFormatProperty, TVRXClock>("CustomDateTimeFormat"),

@@ -163,6 +163,20 @@ TEST(Verbs, AreOfferedByClassesOfThePackage) {
   EXPECT_GE(answered, 2);
 }
 
+TEST(Verbs, TheFirstOneOfAShapedButtonMakesItsHandlerAsADoubleClickDoes) {
+  for (const bool verb : {true, false}) {
+    const auto session = FormSession::NewForm(QStringLiteral("Form1"), Registrations());
+    TComponent* const button =
+        session->CreateComponent(GetClass("TVRXWndButtonShape"), nullptr, QRect(8, 8, 152, 72));
+    if (verb)
+      session->Registry().GetComponentEditor(button, session.get())->ExecuteVerb(0);
+    else
+      session->Edit(*button);
+    EXPECT_TRUE(session->Bytes().contains("OnClick = VRXWndButtonShape1Click"))
+        << session->Bytes().toStdString();
+  }
+}
+
 TEST(Verbs, OfAComponentThatTellsNobodyAreCommandsAllTheSame) {
   Registrations();
   DesignRegistry registry;

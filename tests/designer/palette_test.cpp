@@ -55,8 +55,10 @@ TEST_F(DesignerTest, ThePaletteHasAPageForEveryRegisteredOne) {
   auto* tabs = window_->Palette().findChild<QTabBar*>();
   QStringList pages;
   for (int i = 0; i < tabs->count(); ++i) pages << tabs->tabText(i);
-  EXPECT_EQ(pages.join(u'|'),
-            QStringLiteral("Standard|Additional|Common Controls|System|Dialogs|Samples|VRX Std|VRX Ext|VRX Form|VRX MM"));
+  EXPECT_EQ(
+      pages.join(u'|'),
+      QStringLiteral(
+          "Standard|Additional|Common Controls|System|Dialogs|Samples|VRX Std|VRX Ext|VRX Form|VRX MM"));
 }
 
 TEST_F(DesignerTest, ThePaletteSearchFindsOnEveryPage) {
@@ -146,9 +148,29 @@ TEST_F(DesignerTest, TheStructureTellsThatItsFilterHidesTheSelection) {
   EXPECT_FALSE(hint.isVisible());
   Select("Led");
   EXPECT_TRUE(hint.isVisible());
+  QTreeView& tree = window_->Structure().Tree();
+  tree.setCurrentIndex(ItemOf(tree, QStringLiteral("Inner")));
+  EXPECT_EQ(Selected(), "Inner");
+  EXPECT_FALSE(hint.isVisible());
+  Select("Led");
+  EXPECT_TRUE(hint.isVisible());
   filter.clear();
   EXPECT_FALSE(hint.isVisible());
   EXPECT_EQ(Selected(), "Led");
+}
+
+TEST_F(DesignerTest, TheStructureHasTheMenuOfTheSelectedComponent) {
+  QTreeView& tree = window_->Structure().Tree();
+  tree.setCurrentIndex(ItemOf(tree, QStringLiteral("Led")));
+  QStringList entries;
+  QTimer::singleShot(0, [&] {
+    if (auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget())) {
+      for (const QAction* action : menu->actions()) entries << action->text();
+      menu->close();
+    }
+  });
+  emit tree.customContextMenuRequested(tree.visualRect(tree.currentIndex()).center());
+  EXPECT_TRUE(entries.contains(QStringLiteral("LED"))) << entries.join(u'|').toStdString();
 }
 
 TEST_F(DesignerTest, TheStructureKeepsClosedWhatWasClosed) {

@@ -12,6 +12,7 @@
 #include "vcl/Calendar.h"
 #include "vcl/DateTimePicker.h"
 #include "vcl/Edit.h"
+#include "vcl/Form.h"
 #include "vcl/TreeView.h"
 
 using namespace fields;
@@ -478,6 +479,20 @@ TEST_F(CellsEditor, LoadsAndSavesTableFiles) {
   prompts.file = folder.filePath(L("missing.csv"));
   Run([](CellsDialog& dialog) { Click(dialog.load); });
   EXPECT_EQ(prompts.warned.size(), 1);
+}
+
+TEST_F(CellsEditor, IsForFormsThatKeepCells) {
+  const auto problem = [&](TComponent& of) {
+    const auto editor = registry.GetComponentEditor(&of, &designer);
+    return editor->GetVerbProblem(editor->GetVerbCount() - 1);
+  };
+  EXPECT_EQ(problem(grid), QString()) << "it has some";
+  TForm form(nullptr);
+  TStringGrid bare(&form);
+  bare.SetName(L("Bare"));
+  EXPECT_EQ(problem(bare), L("forms of this kind keep no cells; the program fills Bare"));
+  form.Set(TForm::LCLVersion, L("2.2"));
+  EXPECT_EQ(problem(bare), QString());
 }
 
 TEST_F(CellsEditor, WhatIsNoListOfTextsIsNotWrittenOver) {

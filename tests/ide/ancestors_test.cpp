@@ -552,6 +552,30 @@ TEST_F(AncestorTest, WhatTheFormPutElsewhereDoesNotPlaceItsNeighbours) {
   EXPECT_EQ(session->Bytes(), Read("Derived.dfm"));
 }
 
+TEST_F(AncestorTest, WhatFollowsAnEditIsWrittenWhereTheAncestorSaysSomethingElse) {
+  files_.Write(
+      "Base.dfm",
+      "object Base: TBase\n  Left = 0\n  Top = 0\n  ClientHeight = 300\n  ClientWidth = 400\n"
+      "  object Panel1: TPanel\n    Left = 0\n    Top = 260\n    Width = 400\n    Height = 40\n"
+      "    Align = alBottom\n    TabOrder = 0\n    object Button1: TButton\n      Left = 320\n      Top = 8\n"
+      "      Width = 75\n      Height = 25\n      Anchors = [akTop, akRight]\n      TabOrder = 0\n    end\n"
+      "  end\nend\n");
+  const auto session = Open("Derived.dfm");
+  EXPECT_EQ(Edited(*session, [&] { session->Form().SetClientWidth(500); }),
+            "+  ClientWidth = 500|+  inherited Panel1: TPanel|+    Width = 500|+    inherited Button1: "
+            "TButton|+    "
+            "  Left = 420|+    end|+  end");
+}
+
+TEST_F(AncestorTest, WhatFollowsInsideOfAFrameIsWrittenThere) {
+  files_.Write("Head.dfm",
+               QByteArray(Frame).replace("    Caption = 'Field'\n",
+                                         "    Anchors = [akLeft, akTop, akRight]\n    Caption = 'Field'\n"));
+  const auto session = Open("Host.dfm");
+  EXPECT_EQ(Edited(*session, [&] { Control(*session, "Head1").SetWidth(200); }),
+            "-    Width = 160|+    Width = 200|+    inherited Field: TButton|+      Width = 115|+    end");
+}
+
 TEST_F(AncestorTest, TooManyAboveEachOtherAreTold) {
   constexpr int Count = 20;
   for (int i = 0; i < Count; ++i) {

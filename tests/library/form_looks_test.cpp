@@ -177,6 +177,23 @@ TEST(FormLooks, TheShadowFallsBesideTheFrame) {
   EXPECT_EQ(d.Look(), Picture(*NewForm()));
 }
 
+TEST(FormLooks, ANewShadowIsSeenAndOneThatIsReadIsAsItIs) {
+  const std::unique_ptr<TForm> form = NewForm();
+  form->SetDesigning(true);
+  const QImage before = Picture(*form, true);
+  TVRXFormShadow read(form.get());
+  read.BeginLoading();
+  read.SetName(QStringLiteral("Read"));
+  read.Loaded();
+  EXPECT_EQ(Picture(*form, true), before);
+  TVRXFormShadow made(form.get());
+  made.SetName(QStringLiteral("Made"));
+  EXPECT_NE(Picture(*form, true), before);
+  made.Shadow()->Set(TVRXShadow::Style, TVRXShadowStyle::hssNone);
+  made.SetName(QStringLiteral("Other"));
+  EXPECT_EQ(Picture(*form, true), before);
+}
+
 TEST(FormLooks, ThePictureOfAFormHasRoomForItsShadow) {
   Decorated<TVRXFormShadow> d(QStringLiteral("Shadow.Style=hssSolid Shadow.Color=clRed Shadow.Depth=-7"));
   const QSize plain = RenderForm(*NewForm(), 2).size();

@@ -100,6 +100,19 @@ TEST_F(EffectDialog, TheListOfStatesShowsEveryPicture) {
   });
 }
 
+TEST_F(EffectDialog, ReturnRunsWhatWasLoadedAndThenConfirms) {
+  const auto press = [&] { QTest::keyClick(dlg.focusWidget(), Qt::Key_Return); };
+  EXPECT_EQ(Show([&] {
+              LoadPicture(BarOnSilver());
+              press();
+              EXPECT_TRUE(dlg.isVisible());
+              EXPECT_FALSE(pictures[1].Empty());
+              press();
+              EXPECT_FALSE(dlg.isVisible());
+            }),
+            mrOk);
+}
+
 TEST_F(EffectDialog, ACaptionIsDrawnOnSilver) {
   Show([&] {
     modal::NextOf<TVRXCaptionEditorDlg>([](auto& editor) {

@@ -33,11 +33,11 @@ TEST_F(LedDialog, ReturnConfirmsAndEscapeCancels) {
   EXPECT_EQ(ResultOf([](auto& dlg) { QTest::keyClick(dlg.edhs, Qt::Key_Return); }), 1);
 }
 
-TEST_F(LedDialog, SavedCustomColoursAreInTheListOfTheFirstCombo) {
+TEST_F(LedDialog, SavedCustomColoursAreHeldByTheFirstComboAndNotListed) {
   SaveIDECustomColors(Saved(TColor(0x332211)));
   const TVRXLEDEditorDlg dlg(nullptr);
   EXPECT_EQ(dlg.cmbb->CustomColors(), Saved(TColor(0x332211)));
-  EXPECT_GE(dlg.cmbb->findText(QStringLiteral("$00332211")), 0);
+  EXPECT_EQ(dlg.cmbb->findText(QStringLiteral("$00332211")), -1);
 }
 
 TEST_F(LedDialog, AColourChosenThroughTheFirstButtonIsTheActiveOne) {

@@ -52,6 +52,17 @@ TEST_F(LookProperties, HaveTheAttributesOfTheirKind) {
             (TPropertyAttributes{paValueList, paDialog, paMultiSelect, paRevertable}));
 }
 
+TEST_F(LookProperties, CancelGivesTheFirstOnesFigureToNobodyElse) {
+  first.Set(B::Shape, TVRXShapeType::stStar);
+  second.Set(B::Shape, TVRXShapeType::stComb);
+  Edit<TVRXShapeEditorDlg>(*Editor("Shape"), false, [](TVRXShapeEditorDlg&) {});
+  EXPECT_EQ(second.Get(B::Shape), TVRXShapeType::stComb);
+  EXPECT_EQ(designer.modified, 0);
+  Edit<TVRXShapeEditorDlg>(*Editor("Shape"), true, [](auto& d) { d.pred->setCurrentIndex(7); });
+  EXPECT_EQ(first.Get(B::Shape), TVRXShapeType::stDiamond);
+  EXPECT_EQ(second.Get(B::Shape), TVRXShapeType::stDiamond);
+}
+
 TEST_F(LookProperties, ShadowAndFillSayHowTheyAreAndTheOthersTheirClass) {
   first.Shadow()->Set(TVRXShadow::Style, TVRXShadowStyle::hssSolid);
   EXPECT_EQ(Editor("Shadow")->GetValue(), first.Shadow()->Description());

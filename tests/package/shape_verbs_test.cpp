@@ -187,6 +187,9 @@ TEST_F(ShapeVerbs, ADataAwareLightOrSwitchIsNotTurnedOn) {
   TVRXSwitchComponentEditor switches(&control, &designer);
   EXPECT_EQ(switches.GetVerb(0), QStringLiteral("[DB] Option not available"));
   EXPECT_EQ(switches.GetVerbCount(), 7);
+  EXPECT_NE(switches.GetVerbProblem(0), QString()) << "grey in the menu";
+  EXPECT_EQ(switches.GetVerbProblem(1), QString());
+  EXPECT_EQ(switches.GetVerbProblem(77), QString());
   switches.ExecuteVerb(0);
   EXPECT_FALSE(control.Get(TVRXCustomSwitch::Checked));
   EXPECT_EQ(designer.modified, 0);

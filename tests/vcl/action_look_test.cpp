@@ -59,6 +59,14 @@ TYPED_TEST(ClientOfAction, ShowsThatItIsDisabled) {
   EXPECT_FALSE(IsStoredProp(b.client, b.client.ClassType().GetProp("Enabled")));
 }
 
+TYPED_TEST(ClientOfAction, IsDisabledByItselfWhateverTheActionIs) {
+  const ThemeScope light(TTheme::Light);
+  Beside<TypeParam> b;
+  b.model.SetCaption(QStringLiteral("&Open"));
+  for (TypeParam* c : {&b.client, &b.model}) c->SetEnabled(false);
+  EXPECT_TRUE(b.Alike());
+}
+
 namespace {
 template <class T>
 void ExpectChecked(const char* property) {
@@ -72,6 +80,11 @@ void ExpectChecked(const char* property) {
   SetOrdProp(b.model, b.model.ClassType().GetProp(property), 1);
   EXPECT_TRUE(b.Alike());
   EXPECT_EQ(GetOrdProp(b.client, b.client.ClassType().GetProp(property)), 0);
+  // By itself, too.
+  b.action.Set(TCustomAction::Checked, false);
+  EXPECT_FALSE(b.Alike());
+  SetOrdProp(b.client, b.client.ClassType().GetProp(property), 1);
+  EXPECT_TRUE(b.Alike());
 }
 }  // namespace
 
