@@ -5,6 +5,8 @@
 #include "library/components/HiTimer.h"
 #include "library/components/TitleItems.h"
 #include "library/controls/Button3D.h"
+#include "library/controls/Calculator.h"
+#include "library/controls/Calendar.h"
 #include "library/controls/LEDLabel.h"
 #include "library/controls/Light.h"
 #include "library/controls/RegionControl.h"
@@ -22,8 +24,8 @@ namespace {
 const Row kRows[] = {
     Page("VRX Std", TellingClasses<TVRXStaticText>()),
 
-    Page("VRX Ext", TellingClasses<TVRXClock, TVRXTechnicalLine, TVRXClock, TVRXLEDLabel, TVRXSwitch,
-                                   TVRXWSwitch, TVRXLight>()),
+    Page("VRX Ext", TellingClasses<TVRXClock, TVRXCalendar, TVRXCalculator, TVRXTechnicalLine, TVRXClock,
+                                   TVRXLEDLabel, TVRXSwitch, TVRXWSwitch, TVRXLight>()),
     Property<TVRXLED, TVRXLEDProperty>(),
     Component<TVRXLEDCustomLabel, TVRXLEDLabelComponentEditor>(),
     Component<TVRXClock, TVRXClockComponentEditor>(),

@@ -207,8 +207,8 @@ TEST_F(Registering, ShapesLightsSwitchesAndLinesStandAtTheirPlacesWithTheirEdito
   ASSERT_EQ(pages.size(), 4);
   EXPECT_TRUE(InOrder(pages[0], "Std: TVRXStaticText"));
   EXPECT_TRUE(InOrder(pages[1],
-                      "Ext: TVRXClock TVRXTechnicalLine TVRXClock TVRXLEDLabel TVRXSwitch TVRXWSwitch "
-                      "TVRXLight"));
+                      "Ext: TVRXClock TVRXCalendar TVRXCalculator TVRXTechnicalLine TVRXClock TVRXLEDLabel "
+                      "TVRXSwitch TVRXWSwitch TVRXLight"));
   EXPECT_TRUE(InOrder(pages[2],
                       "Form: TVRXForm TVRXBack TVRXFormFill TVRXFormStyler TVRXFormShadow TVRXFormShape "
                       "TVRXSysMenu TVRXCaptionButtons"));
