@@ -9,10 +9,13 @@
 #include "library/controls/Calendar.h"
 #include "library/controls/LEDLabel.h"
 #include "library/controls/Light.h"
+#include "library/controls/ListBoxes.h"
 #include "library/controls/RegionControl.h"
 #include "library/controls/ShapeControl.h"
 #include "library/controls/Switch.h"
 #include "library/controls/TechnicalLine.h"
+#include "library/controls/TextBoxes.h"
+#include "library/controls/ValueBoxes.h"
 #include "package/component_editors/pVRXCEForms.h"
 #include "package/component_editors/pVRXCEMain.h"
 #include "package/property_editors/pVRXPeMain.h"
@@ -34,6 +37,12 @@ const Row kRows[] = {
     Property<TVRXLightColor, TVRXLightColorProperty>(),
     Component<TVRXCustomLight, TVRXLightComponentEditor>(),
     Component<TVRXFill, TVRXFillComponentEditor>(),
+
+    Page("VRX Edit", TellingClasses<TVRXCalendarEdit, TVRXCalculatorEdit, TVRXEditAutoComplete, TVRXTagEditor,
+                                    TVRXDateTimePicker, TVRXFormComboBox>()),
+    Page("VRX List", TellingClasses<TVRXDriveComboBox, TVRXListComboBox, TVRXTreeComboBox,
+                                    TVRXHeaderListComboBox, TVRXCheckListComboBox, TVRXCalculatorComboBox,
+                                    TVRXCalendarComboBox, TVRXTrackBarComboBox>()),
 
     Page("VRX Form", TellingClasses<TVRXForm, TVRXBack, TVRXFormFill, TVRXFormStyler, TVRXFormShadow,
                                     TVRXFormShape, TVRXSysMenu, TVRXCaptionButtons>()),

@@ -204,15 +204,23 @@ TEST_F(Registering, ShapesLightsSwitchesAndLinesStandAtTheirPlacesWithTheirEdito
   QStringList pages;
   for (const QString& call : calls)
     if (call.startsWith(QStringLiteral("page "))) pages << call + u' ';
-  ASSERT_EQ(pages.size(), 4);
+  ASSERT_EQ(pages.size(), 6);
   EXPECT_TRUE(InOrder(pages[0], "Std: TVRXStaticText"));
   EXPECT_TRUE(InOrder(pages[1],
                       "Ext: TVRXClock TVRXCalendar TVRXCalculator TVRXTechnicalLine TVRXClock TVRXLEDLabel "
-                      "TVRXSwitch TVRXWSwitch TVRXLight"));
+                      "TVRXSwitch TVRXWSwitch "
+                      "TVRXLight"));
   EXPECT_TRUE(InOrder(pages[2],
+                      "Edit: TVRXCalendarEdit TVRXCalculatorEdit TVRXEditAutoComplete TVRXTagEditor "
+                      "TVRXDateTimePicker TVRXFormComboBox"));
+  EXPECT_TRUE(
+      InOrder(pages[3],
+              "List: TVRXDriveComboBox TVRXListComboBox TVRXTreeComboBox TVRXHeaderListComboBox "
+              "TVRXCheckListComboBox TVRXCalculatorComboBox TVRXCalendarComboBox TVRXTrackBarComboBox"));
+  EXPECT_TRUE(InOrder(pages[4],
                       "Form: TVRXForm TVRXBack TVRXFormFill TVRXFormStyler TVRXFormShadow TVRXFormShape "
                       "TVRXSysMenu TVRXCaptionButtons"));
-  EXPECT_TRUE(InOrder(pages[3],
+  EXPECT_TRUE(InOrder(pages[5],
                       "MM: TVRXLabelFill TVRXScrollText TVRX3DEffectButton TVRXHiTimer TVRXShapeControl "
                       "TVRXRepeatedShape TVRXAniCtrl TVRXPanelShape TVRXWndButtonShape"));
   qsizetype last = -1;
