@@ -8,14 +8,14 @@
 #include "library/controls/Calculator.h"
 #include "library/controls/Calendar.h"
 #include "library/controls/LEDLabel.h"
+#include "library/controls/LabeledBoxes.h"
 #include "library/controls/Light.h"
-#include "library/controls/ListBoxes.h"
 #include "library/controls/RegionControl.h"
 #include "library/controls/ShapeControl.h"
 #include "library/controls/Switch.h"
 #include "library/controls/TechnicalLine.h"
 #include "library/controls/TextBoxes.h"
-#include "library/controls/ValueBoxes.h"
+#include "library_design/pVRXCommon.h"
 #include "package/component_editors/pVRXCEForms.h"
 #include "package/component_editors/pVRXCEMain.h"
 #include "package/property_editors/pVRXPeMain.h"
@@ -23,6 +23,8 @@
 using namespace registration;
 
 namespace {
+bool WithLabels() { return VRXEditorOption(TVRXEditorOption::LabeledVariants); }
+
 // Each page, and then the editors of what is on it.
 const Row kRows[] = {
     Page("VRX Std", TellingClasses<TVRXStaticText>()),
@@ -40,9 +42,16 @@ const Row kRows[] = {
 
     Page("VRX Edit", TellingClasses<TVRXCalendarEdit, TVRXCalculatorEdit, TVRXEditAutoComplete, TVRXTagEditor,
                                     TVRXDateTimePicker, TVRXFormComboBox>()),
+    Page("VRX Labeled", TellingClasses<TVRXLabeledCalendarEdit, TVRXLabeledCalculatorEdit>())
+        .OnlyIf(WithLabels),
     Page("VRX List", TellingClasses<TVRXDriveComboBox, TVRXListComboBox, TVRXTreeComboBox,
                                     TVRXHeaderListComboBox, TVRXCheckListComboBox, TVRXCalculatorComboBox,
                                     TVRXCalendarComboBox, TVRXTrackBarComboBox>()),
+    Page("VRX Labeled", TellingClasses<TVRXLabeledListComboBox, TVRXLabeledDriveComboBox,
+                                       TVRXLabeledCalculatorComboBox, TVRXLabeledTrackBarComboBox,
+                                       TVRXLabeledCalendarComboBox, TVRXLabeledHeaderListComboBox,
+                                       TVRXLabeledCheckListComboBox, TVRXLabeledTreeComboBox>())
+        .OnlyIf(WithLabels),
 
     Page("VRX Form", TellingClasses<TVRXForm, TVRXBack, TVRXFormFill, TVRXFormStyler, TVRXFormShadow,
                                     TVRXFormShape, TVRXSysMenu, TVRXCaptionButtons>()),

@@ -1,9 +1,8 @@
 // Fields with something that drops down: what they show of it, and what drops down.
 #include "library/controls/Calculator.h"
 #include "library/controls/Calendar.h"
-#include "library/controls/ListBoxes.h"
+#include "library/controls/LabeledBoxes.h"
 #include "library/controls/TextBoxes.h"
-#include "library/controls/ValueBoxes.h"
 #include "rtl/Clock.h"
 #include "tests/library/VisibleProperties.h"
 #include "vcl/Form.h"
@@ -319,6 +318,23 @@ TEST(FormField, DropsDownWhatItRefersToUnlessItStandsInThere) {
   s.box->Set(TVRXFormComboBox::DropDownControl, &s.form);
   EXPECT_TRUE(s.box->DropDownSize().isEmpty());
   DrawnDown(*s.box);
+}
+
+TEST(LabeledField, IsTheFieldWithALabelBesideIt) {
+  OnForm<TVRXLabeledListComboBox> s;
+  s.box->Get(TVRXListComboBox::Items)->SetLines({QStringLiteral("One")});
+  s.box->Set(TVRXListComboBox::ItemIndex, 0);
+  s.box->EditLabel()->SetCaption(QStringLiteral("Choice"));
+  EXPECT_EQ(s.box->FieldText(), QStringLiteral("One"));
+  EXPECT_FALSE(s.box->DropDownSize().isEmpty());
+  EXPECT_LT(s.box->PaintExtent().top(), 0);
+  for (const TClass* cls :
+       {&TVRXLabeledCalendarEdit::StaticClass(), &TVRXLabeledCalculatorEdit::StaticClass(),
+        &TVRXLabeledDriveComboBox::StaticClass(), &TVRXLabeledTreeComboBox::StaticClass(),
+        &TVRXLabeledTrackBarComboBox::StaticClass()}) {
+    EXPECT_EQ(cls->ClassName(), QByteArray(cls->ClassParent()->ClassName()).replace("TVRX", "TVRXLabeled"));
+    EXPECT_NE(cls->FindProp("EditLabel"), nullptr);
+  }
 }
 
 TEST(EveryProperty, OfFieldsWithAListIsSeen) {

@@ -255,6 +255,30 @@ TEST_F(Registering, ShapesLightsSwitchesAndLinesStandAtTheirPlacesWithTheirEdito
   }
 }
 
+TEST_F(Registering, LabeledVariantsComeBehindTheirPagesAndShareOne) {
+  ORLENVOKITEDITOROPTIONS = 1;
+  {
+    const RegistrationScope scope(registry_, this, "VRX_RegMain");
+    VRX_RegMain::Register();
+  }
+  QStringList pages;
+  for (const QString& call : Calls())
+    if (call.startsWith(QStringLiteral("page VRX L")) || call.startsWith(QStringLiteral("page VRX Edit")) ||
+        call.startsWith(QStringLiteral("actions")))
+      pages << call.section(u':', 0, 0);
+  EXPECT_EQ(pages.join(u'|'), QStringLiteral("page VRX Edit|page VRX Labeled|page VRX List|"
+                                             "page VRX Labeled"));
+  for (const TPalettePage& page : registry_.PalettePages()) {
+    if (page.Name != QStringLiteral("VRX Labeled")) continue;
+    QStringList names;
+    for (const TClass* cls : page.Classes) names << QString::fromLatin1(cls->ClassName()).mid(11);
+    EXPECT_EQ(names.join(u' '),
+              QStringLiteral("CalendarEdit CalculatorEdit ListComboBox DriveComboBox CalculatorComboBox "
+                             "TrackBarComboBox CalendarComboBox HeaderListComboBox CheckListComboBox "
+                             "TreeComboBox"));
+  }
+}
+
 TEST_F(Registering, UnregisteringLeavesNoRowAndNoClass) {
   const std::size_t before = registry_.Rows().size();
   Register(kRows);
