@@ -1,6 +1,8 @@
 #include "package/registration/VRX_RegMain.h"
 
 #include "designintf/RegistrationTable.h"
+#include "library/components/EditActions.h"
+#include "library/components/EditControlPrintTask.h"
 #include "library/components/FormComponent.h"
 #include "library/components/HiTimer.h"
 #include "library/components/TitleItems.h"
@@ -41,9 +43,12 @@ const Row kRows[] = {
     Component<TVRXFill, TVRXFillComponentEditor>(),
 
     Page("VRX Edit", TellingClasses<TVRXCalendarEdit, TVRXCalculatorEdit, TVRXEditAutoComplete, TVRXTagEditor,
-                                    TVRXDateTimePicker, TVRXFormComboBox>()),
+                                    TVRXEditControlPrintTask, TVRXDateTimePicker, TVRXFormComboBox>()),
     Page("VRX Labeled", TellingClasses<TVRXLabeledCalendarEdit, TVRXLabeledCalculatorEdit>())
         .OnlyIf(WithLabels),
+    Actions("VRXEdit",
+            TellingClasses<TVRXEditCut, TVRXEditCopy, TVRXEditPaste, TVRXEditSelectAll, TVRXEditUndo,
+                           TVRXEditRedo, TVRXEditDelete, TVRXEditFind, TVRXEditReplace>()),
     Page("VRX List", TellingClasses<TVRXDriveComboBox, TVRXListComboBox, TVRXTreeComboBox,
                                     TVRXHeaderListComboBox, TVRXCheckListComboBox, TVRXCalculatorComboBox,
                                     TVRXCalendarComboBox, TVRXTrackBarComboBox>()),

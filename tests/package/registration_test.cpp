@@ -212,7 +212,7 @@ TEST_F(Registering, ShapesLightsSwitchesAndLinesStandAtTheirPlacesWithTheirEdito
                       "TVRXLight"));
   EXPECT_TRUE(InOrder(pages[2],
                       "Edit: TVRXCalendarEdit TVRXCalculatorEdit TVRXEditAutoComplete TVRXTagEditor "
-                      "TVRXDateTimePicker TVRXFormComboBox"));
+                      "TVRXEditControlPrintTask TVRXDateTimePicker TVRXFormComboBox"));
   EXPECT_TRUE(
       InOrder(pages[3],
               "List: TVRXDriveComboBox TVRXListComboBox TVRXTreeComboBox TVRXHeaderListComboBox "
@@ -266,8 +266,11 @@ TEST_F(Registering, LabeledVariantsComeBehindTheirPagesAndShareOne) {
     if (call.startsWith(QStringLiteral("page VRX L")) || call.startsWith(QStringLiteral("page VRX Edit")) ||
         call.startsWith(QStringLiteral("actions")))
       pages << call.section(u':', 0, 0);
-  EXPECT_EQ(pages.join(u'|'), QStringLiteral("page VRX Edit|page VRX Labeled|page VRX List|"
+  EXPECT_EQ(pages.join(u'|'), QStringLiteral("page VRX Edit|page VRX Labeled|actions VRXEdit|page VRX List|"
                                              "page VRX Labeled"));
+  EXPECT_TRUE(Calls().contains(
+      QStringLiteral("actions VRXEdit: TVRXEditCut TVRXEditCopy TVRXEditPaste TVRXEditSelectAll TVRXEditUndo "
+                     "TVRXEditRedo TVRXEditDelete TVRXEditFind TVRXEditReplace")));
   for (const TPalettePage& page : registry_.PalettePages()) {
     if (page.Name != QStringLiteral("VRX Labeled")) continue;
     QStringList names;
