@@ -7,6 +7,7 @@
 #include "ide/operations/Places.h"
 #include "rtl/Exceptions.h"
 #include "vcl/Book.h"
+#include "vcl/DropDown.h"
 #include "vcl/FormFrame.h"
 #include "vcl/Theme.h"
 
@@ -70,11 +71,15 @@ void FormSurface::Touch(const TControl& control) {
   for (const TWinControl* p = control.Parent(); p; p = p->Parent())
     r.translate(p->ClientRect().topLeft() + (p->Parent() ? QPoint(p->Left(), p->Top()) : QPoint()));
   update(Shown(r).adjusted(-1, -1, 1, 1));
+  // What drops down may show any value of the field, and has been painted where frames_ says.
+  if (dynamic_cast<const IDropDown*>(&control)) update(Shown(DropDownRect()).adjusted(-1, -1, 1, 1));
 }
 
-// With its handles and marks.
+// With its handles and marks, and what drops down from it.
 QRect FormSurface::FrameRect(const TComponent& component) const {
-  return WidgetRect(component).adjusted(-4, -4, 4, 4);
+  const QRect frame = WidgetRect(component).adjusted(-4, -4, 4, 4);
+  const QRect open = DropDownRect();
+  return open.isEmpty() ? frame : frame.united(Shown(open).adjusted(-1, -1, 1, 1));
 }
 
 // The selection where it was and where it is.

@@ -89,6 +89,10 @@ class FormSurface : public QWidget {
   TMenuLook::Place SelectedInMenu() const;
   QPoint MenuOrigin() const;
   void PaintMenu(QPainter& p) const;
+  // Where the only selected component, a field, shows what drops down from it, in client coordinates; empty
+  // for none, and while something is dragged.
+  QRect DropDownRect() const;
+  void PaintDropDown(QPainter& p) const;
   void PaintDrag(QPainter& p) const;
   void UpdateSize();
   void TakeChange(const FormChange& change);

@@ -4,6 +4,8 @@
 #include "designer/FormSurface.h"
 #include "designintf/ComponentTile.h"
 #include "ide/operations/Containers.h"
+#include "vcl/Canvas.h"
+#include "vcl/DropDown.h"
 #include "vcl/FormColors.h"
 #include "vcl/FormFrame.h"
 #include "vcl/Theme.h"
@@ -23,6 +25,7 @@ void FormSurface::paintEvent(QPaintEvent* event) {
   const QRect sight = p.clipBoundingRect().toAlignedRect();
   PaintGrid(p, sight & session_->Form().ClientRect());
   PaintIcons(p, sight);  // an icon beyond the edge is still to be found
+  PaintDropDown(p);
   PaintMenu(p);
   p.restore();
   p.resetTransform();
@@ -56,6 +59,34 @@ void FormSurface::PaintMenu(QPainter& p) const {
   p.save();
   p.translate(MenuOrigin());
   look->Paint(p, place);
+  p.restore();
+}
+
+// --- What drops down from a field
+
+QRect FormSurface::DropDownRect() const {
+  if (!session_ || action_ == Action::Move || action_ == Action::Resize) return {};
+  const auto selected = session_->SelectedComponents();
+  const auto* field = selected.size() == 1 ? dynamic_cast<const IDropDown*>(selected.front()) : nullptr;
+  const QSize size = field ? field->DropDownSize() : QSize();
+  if (size.isEmpty()) return {};
+  // Above where there is no room below.
+  const QRect place = FormRectOf(*selected.front());
+  const QRect desk = session_->Form().ClientRect().adjusted(-Desk, -Desk, Desk, Desk);
+  const bool above =
+      place.bottom() + size.height() > desk.bottom() && place.top() - size.height() >= desk.top();
+  QRect open(QPoint(place.left(), above ? place.top() - size.height() : place.bottom() + 1), size);
+  open.moveLeft(std::max(std::min(open.left(), desk.right() - size.width()), desk.left()));
+  return open;
+}
+
+void FormSurface::PaintDropDown(QPainter& p) const {
+  const QRect open = DropDownRect();
+  if (open.isEmpty()) return;
+  p.save();
+  p.setClipRect(open, Qt::IntersectClip);
+  TCanvas canvas(p);
+  dynamic_cast<const IDropDown&>(*session_->SelectedComponents().front()).PaintDropDown(canvas, open);
   p.restore();
 }
 

@@ -1,16 +1,23 @@
 #include "package/registration/VRX_RegMain.h"
 
 #include "designintf/RegistrationTable.h"
+#include "library/components/EditActions.h"
+#include "library/components/EditControlPrintTask.h"
 #include "library/components/FormComponent.h"
 #include "library/components/HiTimer.h"
 #include "library/components/TitleItems.h"
 #include "library/controls/Button3D.h"
+#include "library/controls/Calculator.h"
+#include "library/controls/Calendar.h"
 #include "library/controls/LEDLabel.h"
+#include "library/controls/LabeledBoxes.h"
 #include "library/controls/Light.h"
 #include "library/controls/RegionControl.h"
 #include "library/controls/ShapeControl.h"
 #include "library/controls/Switch.h"
 #include "library/controls/TechnicalLine.h"
+#include "library/controls/TextBoxes.h"
+#include "library_design/pVRXCommon.h"
 #include "package/component_editors/pVRXCEForms.h"
 #include "package/component_editors/pVRXCEMain.h"
 #include "package/property_editors/pVRXPeMain.h"
@@ -18,12 +25,14 @@
 using namespace registration;
 
 namespace {
+bool WithLabels() { return VRXEditorOption(TVRXEditorOption::LabeledVariants); }
+
 // Each page, and then the editors of what is on it.
 const Row kRows[] = {
     Page("VRX Std", TellingClasses<TVRXStaticText>()),
 
-    Page("VRX Ext", TellingClasses<TVRXClock, TVRXTechnicalLine, TVRXClock, TVRXLEDLabel, TVRXSwitch,
-                                   TVRXWSwitch, TVRXLight>()),
+    Page("VRX Ext", TellingClasses<TVRXClock, TVRXCalendar, TVRXCalculator, TVRXTechnicalLine, TVRXClock,
+                                   TVRXLEDLabel, TVRXSwitch, TVRXWSwitch, TVRXLight>()),
     Property<TVRXLED, TVRXLEDProperty>(),
     Component<TVRXLEDCustomLabel, TVRXLEDLabelComponentEditor>(),
     Component<TVRXClock, TVRXClockComponentEditor>(),
@@ -32,6 +41,22 @@ const Row kRows[] = {
     Property<TVRXLightColor, TVRXLightColorProperty>(),
     Component<TVRXCustomLight, TVRXLightComponentEditor>(),
     Component<TVRXFill, TVRXFillComponentEditor>(),
+
+    Page("VRX Edit", TellingClasses<TVRXCalendarEdit, TVRXCalculatorEdit, TVRXEditAutoComplete, TVRXTagEditor,
+                                    TVRXEditControlPrintTask, TVRXDateTimePicker, TVRXFormComboBox>()),
+    Page("VRX Labeled", TellingClasses<TVRXLabeledCalendarEdit, TVRXLabeledCalculatorEdit>())
+        .OnlyIf(WithLabels),
+    Actions("VRXEdit",
+            TellingClasses<TVRXEditCut, TVRXEditCopy, TVRXEditPaste, TVRXEditSelectAll, TVRXEditUndo,
+                           TVRXEditRedo, TVRXEditDelete, TVRXEditFind, TVRXEditReplace>()),
+    Page("VRX List", TellingClasses<TVRXDriveComboBox, TVRXListComboBox, TVRXTreeComboBox,
+                                    TVRXHeaderListComboBox, TVRXCheckListComboBox, TVRXCalculatorComboBox,
+                                    TVRXCalendarComboBox, TVRXTrackBarComboBox>()),
+    Page("VRX Labeled", TellingClasses<TVRXLabeledListComboBox, TVRXLabeledDriveComboBox,
+                                       TVRXLabeledCalculatorComboBox, TVRXLabeledTrackBarComboBox,
+                                       TVRXLabeledCalendarComboBox, TVRXLabeledHeaderListComboBox,
+                                       TVRXLabeledCheckListComboBox, TVRXLabeledTreeComboBox>())
+        .OnlyIf(WithLabels),
 
     Page("VRX Form", TellingClasses<TVRXForm, TVRXBack, TVRXFormFill, TVRXFormStyler, TVRXFormShadow,
                                     TVRXFormShape, TVRXSysMenu, TVRXCaptionButtons>()),

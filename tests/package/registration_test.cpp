@@ -204,15 +204,23 @@ TEST_F(Registering, ShapesLightsSwitchesAndLinesStandAtTheirPlacesWithTheirEdito
   QStringList pages;
   for (const QString& call : calls)
     if (call.startsWith(QStringLiteral("page "))) pages << call + u' ';
-  ASSERT_EQ(pages.size(), 4);
+  ASSERT_EQ(pages.size(), 6);
   EXPECT_TRUE(InOrder(pages[0], "Std: TVRXStaticText"));
   EXPECT_TRUE(InOrder(pages[1],
-                      "Ext: TVRXClock TVRXTechnicalLine TVRXClock TVRXLEDLabel TVRXSwitch TVRXWSwitch "
+                      "Ext: TVRXClock TVRXCalendar TVRXCalculator TVRXTechnicalLine TVRXClock TVRXLEDLabel "
+                      "TVRXSwitch TVRXWSwitch "
                       "TVRXLight"));
   EXPECT_TRUE(InOrder(pages[2],
+                      "Edit: TVRXCalendarEdit TVRXCalculatorEdit TVRXEditAutoComplete TVRXTagEditor "
+                      "TVRXEditControlPrintTask TVRXDateTimePicker TVRXFormComboBox"));
+  EXPECT_TRUE(
+      InOrder(pages[3],
+              "List: TVRXDriveComboBox TVRXListComboBox TVRXTreeComboBox TVRXHeaderListComboBox "
+              "TVRXCheckListComboBox TVRXCalculatorComboBox TVRXCalendarComboBox TVRXTrackBarComboBox"));
+  EXPECT_TRUE(InOrder(pages[4],
                       "Form: TVRXForm TVRXBack TVRXFormFill TVRXFormStyler TVRXFormShadow TVRXFormShape "
                       "TVRXSysMenu TVRXCaptionButtons"));
-  EXPECT_TRUE(InOrder(pages[3],
+  EXPECT_TRUE(InOrder(pages[5],
                       "MM: TVRXLabelFill TVRXScrollText TVRX3DEffectButton TVRXHiTimer TVRXShapeControl "
                       "TVRXRepeatedShape TVRXAniCtrl TVRXPanelShape TVRXWndButtonShape"));
   qsizetype last = -1;
@@ -244,6 +252,33 @@ TEST_F(Registering, ShapesLightsSwitchesAndLinesStandAtTheirPlacesWithTheirEdito
     const qsizetype at = calls.indexOf(QString::fromLatin1(call));
     EXPECT_GT(at, last) << call;
     last = at;
+  }
+}
+
+TEST_F(Registering, LabeledVariantsComeBehindTheirPagesAndShareOne) {
+  ORLENVOKITEDITOROPTIONS = 1;
+  {
+    const RegistrationScope scope(registry_, this, "VRX_RegMain");
+    VRX_RegMain::Register();
+  }
+  QStringList pages;
+  for (const QString& call : Calls())
+    if (call.startsWith(QStringLiteral("page VRX L")) || call.startsWith(QStringLiteral("page VRX Edit")) ||
+        call.startsWith(QStringLiteral("actions")))
+      pages << call.section(u':', 0, 0);
+  EXPECT_EQ(pages.join(u'|'), QStringLiteral("page VRX Edit|page VRX Labeled|actions VRXEdit|page VRX List|"
+                                             "page VRX Labeled"));
+  EXPECT_TRUE(Calls().contains(
+      QStringLiteral("actions VRXEdit: TVRXEditCut TVRXEditCopy TVRXEditPaste TVRXEditSelectAll TVRXEditUndo "
+                     "TVRXEditRedo TVRXEditDelete TVRXEditFind TVRXEditReplace")));
+  for (const TPalettePage& page : registry_.PalettePages()) {
+    if (page.Name != QStringLiteral("VRX Labeled")) continue;
+    QStringList names;
+    for (const TClass* cls : page.Classes) names << QString::fromLatin1(cls->ClassName()).mid(11);
+    EXPECT_EQ(names.join(u' '),
+              QStringLiteral("CalendarEdit CalculatorEdit ListComboBox DriveComboBox CalculatorComboBox "
+                             "TrackBarComboBox CalendarComboBox HeaderListComboBox CheckListComboBox "
+                             "TreeComboBox"));
   }
 }
 
