@@ -1,6 +1,7 @@
 #include "package/registration/VRX_RegMain.h"
 
 #include "designintf/RegistrationTable.h"
+#include "library/components/ExpressionEval.h"
 #include "library/components/FormComponent.h"
 #include "library/components/HiTimer.h"
 #include "library/components/TitleItems.h"
@@ -51,6 +52,7 @@ const Row kRows[] = {
     Component<TVRXScrollText, TVRXScrollTextComponentEditor>(),
     Component<TVRXCustom3DButton, TVRXExtGraphicButtonComponentEditor>(),
 
+    Page("VRX Sys", TellingClasses<TVRXExpressionEval>()),
     Component<TVRXCustomShapeHint, TVRXShapeHintComponentEditor>(),
 };
 }  // namespace

@@ -204,7 +204,7 @@ TEST_F(Registering, ShapesLightsSwitchesAndLinesStandAtTheirPlacesWithTheirEdito
   QStringList pages;
   for (const QString& call : calls)
     if (call.startsWith(QStringLiteral("page "))) pages << call + u' ';
-  ASSERT_EQ(pages.size(), 4);
+  ASSERT_EQ(pages.size(), 5);
   EXPECT_TRUE(InOrder(pages[0], "Std: TVRXStaticText"));
   EXPECT_TRUE(InOrder(pages[1],
                       "Ext: TVRXClock TVRXTechnicalLine TVRXClock TVRXLEDLabel TVRXSwitch TVRXWSwitch "
@@ -215,6 +215,7 @@ TEST_F(Registering, ShapesLightsSwitchesAndLinesStandAtTheirPlacesWithTheirEdito
   EXPECT_TRUE(InOrder(pages[3],
                       "MM: TVRXLabelFill TVRXScrollText TVRX3DEffectButton TVRXHiTimer TVRXShapeControl "
                       "TVRXRepeatedShape TVRXAniCtrl TVRXPanelShape TVRXWndButtonShape"));
+  EXPECT_TRUE(InOrder(pages[4], "Sys: TVRXExpressionEval"));
   qsizetype last = -1;
   for (const char* call : {"TVRXLEDCustomLabel by TVRXLEDLabelComponentEditor",
                            "TVRXClock by TVRXClockComponentEditor",
