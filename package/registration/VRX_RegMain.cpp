@@ -6,6 +6,9 @@
 #include "library/components/HiTimer.h"
 #include "library/components/TitleItems.h"
 #include "library/controls/Button3D.h"
+#include "library/controls/HTMLComboBox.h"
+#include "library/controls/HTMLHeaderControl.h"
+#include "library/controls/HTMLListBox.h"
 #include "library/controls/LEDLabel.h"
 #include "library/controls/Light.h"
 #include "library/controls/RegionControl.h"
@@ -54,6 +57,9 @@ const Row kRows[] = {
 
     Page("VRX Sys", TellingClasses<TVRXExpressionEval>()),
     Component<TVRXCustomShapeHint, TVRXShapeHintComponentEditor>(),
+
+    Page("VRX HTML", TellingClasses<TVRXHTMLExtListBox, TVRXHTMLComboBox, TVRXHTMLListBox, TVRXHTMLListBoxExt,
+                                    TVRXHTMLHeaderControl>()),
 };
 }  // namespace
 

@@ -56,7 +56,7 @@ TEST_F(DesignerTest, ThePaletteHasAPageForEveryRegisteredOne) {
   QStringList pages;
   for (int i = 0; i < tabs->count(); ++i) pages << tabs->tabText(i);
   EXPECT_EQ(pages.join(u'|'), QStringLiteral("Standard|Additional|Common Controls|System|Dialogs|Samples|VRX "
-                                             "Std|VRX Ext|VRX Form|VRX MM|VRX Sys"));
+                                             "Std|VRX Ext|VRX Form|VRX MM|VRX Sys|VRX HTML"));
 }
 
 TEST_F(DesignerTest, ThePaletteSearchFindsOnEveryPage) {

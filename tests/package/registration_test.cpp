@@ -204,7 +204,7 @@ TEST_F(Registering, ShapesLightsSwitchesAndLinesStandAtTheirPlacesWithTheirEdito
   QStringList pages;
   for (const QString& call : calls)
     if (call.startsWith(QStringLiteral("page "))) pages << call + u' ';
-  ASSERT_EQ(pages.size(), 5);
+  ASSERT_EQ(pages.size(), 6);
   EXPECT_TRUE(InOrder(pages[0], "Std: TVRXStaticText"));
   EXPECT_TRUE(InOrder(pages[1],
                       "Ext: TVRXClock TVRXTechnicalLine TVRXClock TVRXLEDLabel TVRXSwitch TVRXWSwitch "
@@ -216,6 +216,9 @@ TEST_F(Registering, ShapesLightsSwitchesAndLinesStandAtTheirPlacesWithTheirEdito
                       "MM: TVRXLabelFill TVRXScrollText TVRX3DEffectButton TVRXHiTimer TVRXShapeControl "
                       "TVRXRepeatedShape TVRXAniCtrl TVRXPanelShape TVRXWndButtonShape"));
   EXPECT_TRUE(InOrder(pages[4], "Sys: TVRXExpressionEval"));
+  EXPECT_TRUE(InOrder(pages[5],
+                      "HTML: TVRXHTMLExtListBox TVRXHTMLComboBox TVRXHTMLListBox TVRXHTMLListBoxExt "
+                      "TVRXHTMLHeaderControl"));
   qsizetype last = -1;
   for (const char* call : {"TVRXLEDCustomLabel by TVRXLEDLabelComponentEditor",
                            "TVRXClock by TVRXClockComponentEditor",
