@@ -5,6 +5,7 @@
 #include <QTextStream>
 
 #include "bench/Generate.h"
+#include "bench/HtmlTasks.h"
 #include "bench/Measure.h"
 #include "bench/PaintTasks.h"
 #include "bench/PixelTasks.h"
@@ -18,6 +19,7 @@ const std::map<QString, void (*)(const QString&, const QString&)>& TaskTable() {
       {QStringLiteral("save-form"), MeasureFormSave}, {QStringLiteral("edit-form"), MeasureEdit},
       {QStringLiteral("modified"), MeasureModified},  {QStringLiteral("pixels"), MeasurePixels},
       {QStringLiteral("window"), MeasureWindow},      {QStringLiteral("paint"), MeasurePaint},
+      {QStringLiteral("html"), MeasureHtml},
   };
   return table;
 }
@@ -76,6 +78,7 @@ class Bench {
       References();
       Window();
       Paint();
+      Html();
     }
     Pixels();
   }
@@ -193,6 +196,19 @@ class Bench {
       all.Add(Results::RunApart({QStringLiteral("paint"), {}, {}}).ThePairs("paint"));
     Row(QStringLiteral("Paint a form of 500 mixed standard controls / the same by plain calls of the style"),
         QStringLiteral("at most 3"), all);
+  }
+
+  void Html() {
+    Pairs cold, warm;
+    for (int i = 0; i < 3; ++i) {
+      const Results r = Results::RunApart({QStringLiteral("html"), {}, {}});
+      cold.Add(r.ThePairs("cold"));
+      warm.Add(r.ThePairs("warm"));
+    }
+    Row(QStringLiteral("Draw 1,000 rows of markup: time / the same by QTextDocument"),
+        QStringLiteral("at most 1"), cold);
+    Row(QStringLiteral("Draw 1,000 rows of markup again: time / the same by QTextDocument"),
+        QStringLiteral("at most 1"), warm);
   }
 
   void Pixels() {

@@ -117,7 +117,12 @@ void THeaderControl::Paint(TCanvas& canvas) {
       canvas.Painter().drawImage(text.left(), (Height() - image.height()) / 2, image);
       text.setLeft(text.left() + image.width() + 3);
     }
-    PaintPlainText(canvas, text, AlignmentFlag(section.Get(THeaderSection::Alignment)),
-                   section.Get(THeaderSection::Text), *Font(), Enabled());
+    PaintSectionText(canvas, text, section);
   }
+}
+
+void THeaderControl::PaintSectionText(TCanvas& canvas, const QRect& rect,
+                                      const THeaderSection& section) const {
+  PaintPlainText(canvas, rect, AlignmentFlag(section.Get(THeaderSection::Alignment)),
+                 section.Get(THeaderSection::Text), *Font(), Enabled());
 }

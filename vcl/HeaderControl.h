@@ -43,4 +43,7 @@ class THeaderControl : public TWinControl {
   // Where the sections stand, one after the other.
   std::vector<QRect> SectionRects() const;
   void Paint(TCanvas& canvas) override;
+
+ protected:
+  virtual void PaintSectionText(TCanvas& canvas, const QRect& rect, const THeaderSection& section) const;
 };

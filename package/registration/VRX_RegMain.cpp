@@ -3,12 +3,16 @@
 #include "designintf/RegistrationTable.h"
 #include "library/components/EditActions.h"
 #include "library/components/EditControlPrintTask.h"
+#include "library/components/ExpressionEval.h"
 #include "library/components/FormComponent.h"
 #include "library/components/HiTimer.h"
 #include "library/components/TitleItems.h"
 #include "library/controls/Button3D.h"
 #include "library/controls/Calculator.h"
 #include "library/controls/Calendar.h"
+#include "library/controls/HTMLComboBox.h"
+#include "library/controls/HTMLHeaderControl.h"
+#include "library/controls/HTMLListBox.h"
 #include "library/controls/LEDLabel.h"
 #include "library/controls/LabeledBoxes.h"
 #include "library/controls/Light.h"
@@ -76,7 +80,11 @@ const Row kRows[] = {
     Component<TVRXScrollText, TVRXScrollTextComponentEditor>(),
     Component<TVRXCustom3DButton, TVRXExtGraphicButtonComponentEditor>(),
 
+    Page("VRX Sys", TellingClasses<TVRXExpressionEval>()),
     Component<TVRXCustomShapeHint, TVRXShapeHintComponentEditor>(),
+
+    Page("VRX HTML", TellingClasses<TVRXHTMLExtListBox, TVRXHTMLComboBox, TVRXHTMLListBox, TVRXHTMLListBoxExt,
+                                    TVRXHTMLHeaderControl>()),
 };
 }  // namespace
 

@@ -223,6 +223,10 @@ TEST_F(Registering, ShapesLightsSwitchesAndLinesStandAtTheirPlacesWithTheirEdito
   EXPECT_TRUE(InOrder(pages[5],
                       "MM: TVRXLabelFill TVRXScrollText TVRX3DEffectButton TVRXHiTimer TVRXShapeControl "
                       "TVRXRepeatedShape TVRXAniCtrl TVRXPanelShape TVRXWndButtonShape"));
+  EXPECT_TRUE(InOrder(pages[4], "Sys: TVRXExpressionEval"));
+  EXPECT_TRUE(InOrder(pages[5],
+                      "HTML: TVRXHTMLExtListBox TVRXHTMLComboBox TVRXHTMLListBox TVRXHTMLListBoxExt "
+                      "TVRXHTMLHeaderControl"));
   qsizetype last = -1;
   for (const char* call : {"TVRXLEDCustomLabel by TVRXLEDLabelComponentEditor",
                            "TVRXClock by TVRXClockComponentEditor",
