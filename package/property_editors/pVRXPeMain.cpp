@@ -1,6 +1,8 @@
 #include "package/property_editors/pVRXPeMain.h"
 
+#include "dclstd/EditValue.h"
 #include "library/controls/ShapeControl.h"
+#include "package/dialogs/pVRXFilterPropertyEditorDlg.h"
 #include "package/dialogs/pVRXLEDEditorDlg.h"
 #include "package/property_editors/pVRXCPGetMain.h"
 
@@ -52,4 +54,11 @@ TPropertyAttributes TVRXButtonFaceProperty::GetAttributes() const { return {paDi
 void TVRXButtonFaceProperty::Edit() {
   auto* button = As<TVRXCustom3DButton>(GetComponent(0));
   if (button && VRXCPGetButtonFace3D(*button)) Modified();
+}
+
+TPropertyAttributes TVRXFilterProperty::GetAttributes() const { return {paDialog}; }
+void TVRXFilterProperty::Edit() {
+  TVRXFilterPropsDlg dialog(ApplicationOwner());
+  dialog.Filter = GetStrValue();
+  if (dialog.ShowModal() == mrOk) SetStrValue(dialog.Filter);
 }

@@ -83,3 +83,11 @@ class TVRXButtonFaceProperty : public TClassProperty {
   TPropertyAttributes GetAttributes() const override;
   void Edit() override;
 };
+
+// The filter of a file dialog. A text that is shown as an object: it is edited in its dialog alone.
+class TVRXFilterProperty : public TClassProperty {
+ public:
+  using TClassProperty::TClassProperty;
+  TPropertyAttributes GetAttributes() const override;
+  void Edit() override;
+};

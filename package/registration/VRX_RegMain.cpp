@@ -1,6 +1,7 @@
 #include "package/registration/VRX_RegMain.h"
 
 #include "designintf/RegistrationTable.h"
+#include "library/components/FileDialogs.h"
 #include "library/components/FormComponent.h"
 #include "library/components/HiTimer.h"
 #include "library/components/TitleItems.h"
@@ -33,6 +34,7 @@ const Row kRows[] = {
     Component<TVRXCustomLight, TVRXLightComponentEditor>(),
     Component<TVRXFill, TVRXFillComponentEditor>(),
 
+    Page("VRX Dlg", TellingClasses<TVRXFormOpenDialog, TVRXFormSaveDialog>()),
     Page("VRX Form", TellingClasses<TVRXForm, TVRXBack, TVRXFormFill, TVRXFormStyler, TVRXFormShadow,
                                     TVRXFormShape, TVRXSysMenu, TVRXCaptionButtons>()),
     Component<TVRXFormStyler, TVRXFormStylerComponentEditor>(),

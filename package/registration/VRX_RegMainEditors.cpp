@@ -1,6 +1,7 @@
 #include "package/registration/VRX_RegMainEditors.h"
 
 #include "dclstd/DialogRegistration.h"
+#include "library/components/FileDialogs.h"
 #include "library/controls/Clock.h"
 #include "library/values/ButtonFace.h"
 #include "library/values/Caption.h"
@@ -11,6 +12,7 @@
 #include "package/dialogs/pVRX3DEffectEditorDlg.h"
 #include "package/dialogs/pVRXBmpRegionEditorDlg.h"
 #include "package/dialogs/pVRXCaptionEditorDlg.h"
+#include "package/dialogs/pVRXFilterPropertyEditorDlg.h"
 #include "package/dialogs/pVRXLEDEditorDlg.h"
 #include "package/dialogs/pVRXLightEditorDlg.h"
 #include "package/dialogs/pVRXShadowEditorDlg.h"
@@ -27,6 +29,8 @@ const Row kRows[] = {
     Property<TVRXShapeFill, TVRXShapeFillProperty>(),
     Property<TVRXDateTimeFormat, TVRXDateTimeFormatProperty, TVRXClock>("CustomDateTimeFormat"),
     Property<TVRXCaption, TVRXCaptionProperty>(),
+    Property<QString, TVRXFilterProperty, TVRXFormOpenDialog>("Filter"),
+    Property<QString, TVRXFilterProperty, TVRXFormSaveDialog>("Filter"),
     Property<TVRXRegionMask, TVRXRegionMaskProperty>(),
     Property<TVRXButtonFace, TVRXButtonFaceProperty>(),
     Property<TVRXSimpleBevel, TVRXSimpleBevelProperty>(),

@@ -45,6 +45,7 @@ constexpr TabRow TabRows[] = {
      "btngetpic btngetcap spind cmbB dlgb cmbD dlgd cmbL dlgl cmbS dlgs EXECUTE STOP Ok VRXButton4"},
     {"TVRXfrmRegionFromBMPdlg", 0, "pages LoadButton VRXScrollBox1 cl CancelButton"},
     {"TVRXfrmRegionFromBMPdlg", 1, "pages cb colb ccb ResultBox CancelButton"},
+    {"TVRXFilterPropsDlg", 0, "FilterGrid AddRow DeleteRow MoveDown OKBtn CancelBtn"},
     {"TVRXFontFxEditorDlg", 0, "cmbstyle edlight cmbL edshadow cmbs edangle edtracing ok cancel reset"},
     {"FontDialog", 0,
      "cmbname edsize edheight cmbcolor cmbcharset cmbpitch bold italic underline strikeout ok cancel reset"},

@@ -237,6 +237,8 @@ TEST_F(Registering, ShapesLightsSwitchesAndLinesStandAtTheirPlacesWithTheirEdito
                            "TVRXShadow any. by TVRXShadowProperty",
                            "TVRXShapeFill any. by TVRXShapeFillProperty",
                            "TVRXCaption any. by TVRXCaptionProperty",
+                           "string TVRXFormOpenDialog.Filter by TVRXFilterProperty",
+                           "string TVRXFormSaveDialog.Filter by TVRXFilterProperty",
                            "TVRXRegionMask any. by TVRXRegionMaskProperty",
                            "TVRXSimpleBevel any. by TVRXSimpleBevelProperty",
                            "TVRXShapeType any. by TVRXShapeProperty",
