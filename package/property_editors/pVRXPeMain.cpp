@@ -56,6 +56,18 @@ void TVRXButtonFaceProperty::Edit() {
   if (button && VRXCPGetButtonFace3D(*button)) Modified();
 }
 
+TPropertyAttributes TVRXListProperty::GetAttributes() const { return {paDialog}; }
+void TVRXListProperty::Edit() {
+  TPersistent* list = GetObjectValue();
+  if (list && Launch(*list)) SetOrdValue(list);
+}
+bool TVRXDateListProperty::Launch(TPersistent& list) {
+  return VRXCPGetDateList(dynamic_cast<TVRXDateList&>(list));
+}
+bool TVRXPointListProperty::Launch(TPersistent& list) {
+  return VRXCPGetPointList(dynamic_cast<TVRXPointList&>(list));
+}
+
 TPropertyAttributes TVRXFilterProperty::GetAttributes() const { return {paDialog}; }
 void TVRXFilterProperty::Edit() {
   TVRXFilterPropsDlg dialog(ApplicationOwner());

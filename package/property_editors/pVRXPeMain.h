@@ -84,6 +84,25 @@ class TVRXButtonFaceProperty : public TClassProperty {
   void Edit() override;
 };
 
+// Lists: the dialog works on the object itself, which is then told to be changed.
+class TVRXListProperty : public TClassProperty {
+ public:
+  using TClassProperty::TClassProperty;
+  TPropertyAttributes GetAttributes() const override;
+  void Edit() override;
+
+ protected:
+  virtual bool Launch(TPersistent& list) = 0;
+};
+class TVRXDateListProperty : public TVRXListProperty {
+  using TVRXListProperty::TVRXListProperty;
+  bool Launch(TPersistent& list) override;
+};
+class TVRXPointListProperty : public TVRXListProperty {
+  using TVRXListProperty::TVRXListProperty;
+  bool Launch(TPersistent& list) override;
+};
+
 // The filter of a file dialog. A text that is shown as an object: it is edited in its dialog alone.
 class TVRXFilterProperty : public TClassProperty {
  public:

@@ -2,19 +2,23 @@
 
 #include "dclstd/DialogRegistration.h"
 #include "library/components/FileDialogs.h"
+#include "library/components/SpecialDates.h"
 #include "library/controls/Clock.h"
 #include "library/values/ButtonFace.h"
 #include "library/values/Caption.h"
 #include "library/values/DateTimeFormat.h"
+#include "library/values/PointList.h"
 #include "library/values/RegionMask.h"
 #include "library/values/ShapeType.h"
 #include "library_design/pVRXPeCore.h"
 #include "package/dialogs/pVRX3DEffectEditorDlg.h"
 #include "package/dialogs/pVRXBmpRegionEditorDlg.h"
 #include "package/dialogs/pVRXCaptionEditorDlg.h"
+#include "package/dialogs/pVRXDateListEditorDlg.h"
 #include "package/dialogs/pVRXFilterPropertyEditorDlg.h"
 #include "package/dialogs/pVRXLEDEditorDlg.h"
 #include "package/dialogs/pVRXLightEditorDlg.h"
+#include "package/dialogs/pVRXPointListEditorDlg.h"
 #include "package/dialogs/pVRXShadowEditorDlg.h"
 #include "package/dialogs/pVRXShapeEditorDlg.h"
 #include "package/dialogs/pVRXSimpleBevelEditorDlg.h"
@@ -27,8 +31,10 @@ namespace {
 const Row kRows[] = {
     Property<TVRXShadow, TVRXShadowProperty>(),
     Property<TVRXShapeFill, TVRXShapeFillProperty>(),
+    Property<TVRXPointList, TVRXPointListProperty>(),
     Property<TVRXDateTimeFormat, TVRXDateTimeFormatProperty, TVRXClock>("CustomDateTimeFormat"),
     Property<TVRXCaption, TVRXCaptionProperty>(),
+    Property<TVRXDateList, TVRXDateListProperty, TVRXSpecialDates>("Dates"),
     Property<QString, TVRXFilterProperty, TVRXFormOpenDialog>("Filter"),
     Property<QString, TVRXFilterProperty, TVRXFormSaveDialog>("Filter"),
     Property<TVRXRegionMask, TVRXRegionMaskProperty>(),

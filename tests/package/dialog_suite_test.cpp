@@ -46,6 +46,8 @@ constexpr TabRow TabRows[] = {
     {"TVRXfrmRegionFromBMPdlg", 0, "pages LoadButton VRXScrollBox1 cl CancelButton"},
     {"TVRXfrmRegionFromBMPdlg", 1, "pages cb colb ccb ResultBox CancelButton"},
     {"TVRXFilterPropsDlg", 0, "FilterGrid AddRow DeleteRow MoveDown OKBtn CancelBtn"},
+    {"TfrmTVRXPointListEditor", 0, "plb AddBtn OkBtn CancelBtn"},
+    {"TVRXDateListEditorDlg", 0, "DList AddBtn OkBtn CancelBtn"},
     {"TVRXFontFxEditorDlg", 0, "cmbstyle edlight cmbL edshadow cmbs edangle edtracing ok cancel reset"},
     {"FontDialog", 0,
      "cmbname edsize edheight cmbcolor cmbcharset cmbpitch bold italic underline strikeout ok cancel reset"},

@@ -204,7 +204,7 @@ TEST_F(Registering, ShapesLightsSwitchesAndLinesStandAtTheirPlacesWithTheirEdito
   QStringList pages;
   for (const QString& call : calls)
     if (call.startsWith(QStringLiteral("page "))) pages << call + u' ';
-  ASSERT_EQ(pages.size(), 4);
+  ASSERT_EQ(pages.size(), 7);
   EXPECT_TRUE(InOrder(pages[0], "Std: TVRXStaticText"));
   EXPECT_TRUE(InOrder(pages[1],
                       "Ext: TVRXClock TVRXTechnicalLine TVRXClock TVRXLEDLabel TVRXSwitch TVRXWSwitch "
@@ -212,7 +212,7 @@ TEST_F(Registering, ShapesLightsSwitchesAndLinesStandAtTheirPlacesWithTheirEdito
   EXPECT_TRUE(InOrder(pages[2],
                       "Form: TVRXForm TVRXBack TVRXFormFill TVRXFormStyler TVRXFormShadow TVRXFormShape "
                       "TVRXSysMenu TVRXCaptionButtons"));
-  EXPECT_TRUE(InOrder(pages[3],
+  EXPECT_TRUE(InOrder(pages[5],
                       "MM: TVRXLabelFill TVRXScrollText TVRX3DEffectButton TVRXHiTimer TVRXShapeControl "
                       "TVRXRepeatedShape TVRXAniCtrl TVRXPanelShape TVRXWndButtonShape"));
   qsizetype last = -1;
@@ -236,7 +236,9 @@ TEST_F(Registering, ShapesLightsSwitchesAndLinesStandAtTheirPlacesWithTheirEdito
                            "TVRXCustom3DButton by TVRXExtGraphicButtonComponentEditor",
                            "TVRXShadow any. by TVRXShadowProperty",
                            "TVRXShapeFill any. by TVRXShapeFillProperty",
+                           "TVRXPointList any. by TVRXPointListProperty",
                            "TVRXCaption any. by TVRXCaptionProperty",
+                           "TVRXDateList TVRXSpecialDates.Dates by TVRXDateListProperty",
                            "string TVRXFormOpenDialog.Filter by TVRXFilterProperty",
                            "string TVRXFormSaveDialog.Filter by TVRXFilterProperty",
                            "TVRXRegionMask any. by TVRXRegionMaskProperty",
