@@ -2,8 +2,10 @@
 
 #include "dclstd/EditValue.h"
 #include "library/controls/ShapeControl.h"
+#include "library/values/ValueListControl.h"
 #include "package/dialogs/pVRXFilterPropertyEditorDlg.h"
 #include "package/dialogs/pVRXLEDEditorDlg.h"
+#include "package/dialogs/pVRXValueListDlg.h"
 #include "package/property_editors/pVRXCPGetMain.h"
 
 using enum TPropertyAttribute;
@@ -73,4 +75,24 @@ void TVRXFilterProperty::Edit() {
   TVRXFilterPropsDlg dialog(ApplicationOwner());
   dialog.Filter = GetStrValue();
   if (dialog.ShowModal() == mrOk) SetStrValue(dialog.Filter);
+}
+
+namespace {
+IVRXValueListControl* ValueListOf(const TPropertyEditor& editor) {
+  return dynamic_cast<IVRXValueListControl*>(editor.GetComponent(0));
+}
+}  // namespace
+
+TPropertyAttributes TVRXValueListProperty::GetAttributes() const { return {paDialog, paReadOnly}; }
+void TVRXValueListProperty::Edit() {
+  IVRXValueListControl* control = ValueListOf(*this);
+  if (control && TVRXValueListDlg::Execute(*control)) Modified();
+}
+
+TPropertyAttributes TVRXValueListValueProperty::GetAttributes() const { return {paValueList}; }
+void TVRXValueListValueProperty::GetValues(const TGetStrProc& proc) const {
+  IVRXValueListControl* control = ValueListOf(*this);
+  if (!control) return;
+  for (const QString& item : control->ItemNames().Lines())
+    if (!item.isEmpty()) proc(item);
 }

@@ -110,3 +110,18 @@ class TVRXFilterProperty : public TClassProperty {
   TPropertyAttributes GetAttributes() const override;
   void Edit() override;
 };
+
+// Names and values of a control's items, both in one dialog.
+class TVRXValueListProperty : public TClassProperty {
+ public:
+  using TClassProperty::TClassProperty;
+  TPropertyAttributes GetAttributes() const override;
+  void Edit() override;
+};
+// Which of the items is chosen.
+class TVRXValueListValueProperty : public TStringProperty {
+ public:
+  using TStringProperty::TStringProperty;
+  TPropertyAttributes GetAttributes() const override;
+  void GetValues(const TGetStrProc& proc) const override;
+};

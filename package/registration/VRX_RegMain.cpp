@@ -12,6 +12,7 @@
 #include "library/controls/ShapeControl.h"
 #include "library/controls/Switch.h"
 #include "library/controls/TechnicalLine.h"
+#include "library/controls/ValueListBox.h"
 #include "package/component_editors/pVRXCEForms.h"
 #include "package/component_editors/pVRXCEMain.h"
 #include "package/property_editors/pVRXPeMain.h"
@@ -35,6 +36,9 @@ const Row kRows[] = {
     Component<TVRXFill, TVRXFillComponentEditor>(),
 
     Page("VRX Dlg", TellingClasses<TVRXFormOpenDialog, TVRXFormSaveDialog>()),
+
+    Page("VRX List", TellingClasses<TVRXValueListBox, TVRXValueComboBox>()),
+
     Page("VRX Form", TellingClasses<TVRXForm, TVRXBack, TVRXFormFill, TVRXFormStyler, TVRXFormShadow,
                                     TVRXFormShape, TVRXSysMenu, TVRXCaptionButtons>()),
     Component<TVRXFormStyler, TVRXFormStylerComponentEditor>(),

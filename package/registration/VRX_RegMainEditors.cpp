@@ -4,6 +4,7 @@
 #include "library/components/FileDialogs.h"
 #include "library/components/SpecialDates.h"
 #include "library/controls/Clock.h"
+#include "library/controls/ValueListBox.h"
 #include "library/values/ButtonFace.h"
 #include "library/values/Caption.h"
 #include "library/values/DateTimeFormat.h"
@@ -23,6 +24,7 @@
 #include "package/dialogs/pVRXShapeEditorDlg.h"
 #include "package/dialogs/pVRXSimpleBevelEditorDlg.h"
 #include "package/dialogs/pVRXTeethEditorDlg.h"
+#include "package/dialogs/pVRXValueListDlg.h"
 #include "package/property_editors/pVRXPeMain.h"
 
 using namespace registration;
@@ -42,6 +44,12 @@ const Row kRows[] = {
     Property<TVRXSimpleBevel, TVRXSimpleBevelProperty>(),
     Property<TVRXShapeType, TVRXShapeProperty>(),
     Property<TVRXTeeth, TVRXTeethProperty>(),
+    Property<TStrings, TVRXValueListProperty, TVRXValueListBox>("Items"),
+    Property<TStrings, TVRXValueListProperty, TVRXValueListBox>("Values"),
+    Property<QString, TVRXValueListValueProperty, TVRXValueListBox>("Value"),
+    Property<TStrings, TVRXValueListProperty, TVRXValueComboBox>("Items"),
+    Property<TStrings, TVRXValueListProperty, TVRXValueComboBox>("Values"),
+    Property<QString, TVRXValueListValueProperty, TVRXValueComboBox>("Value"),
 
     Dialogs<TVRXLEDEditorDlg, TVRXShadowEditorDlg, TVRXSimpleBevelEditorDlg, TVRXTeethEditorDlg,
             TVRXCaptionEditorDlg, TVRXShapeEditorDlg, TVRXLightEditorDlg, TVRX3DEffectEditorDlg,

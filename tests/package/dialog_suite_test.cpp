@@ -48,6 +48,7 @@ constexpr TabRow TabRows[] = {
     {"TVRXFilterPropsDlg", 0, "FilterGrid AddRow DeleteRow MoveDown OKBtn CancelBtn"},
     {"TfrmTVRXPointListEditor", 0, "plb AddBtn OkBtn CancelBtn"},
     {"TVRXDateListEditorDlg", 0, "DList AddBtn OkBtn CancelBtn"},
+    {"TVRXValueListDlg", 0, "ValueListEditor AddRow OkButton CancelButton"},
     {"TVRXFontFxEditorDlg", 0, "cmbstyle edlight cmbL edshadow cmbs edangle edtracing ok cancel reset"},
     {"FontDialog", 0,
      "cmbname edsize edheight cmbcolor cmbcharset cmbpitch bold italic underline strikeout ok cancel reset"},

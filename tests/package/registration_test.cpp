@@ -209,7 +209,9 @@ TEST_F(Registering, ShapesLightsSwitchesAndLinesStandAtTheirPlacesWithTheirEdito
   EXPECT_TRUE(InOrder(pages[1],
                       "Ext: TVRXClock TVRXTechnicalLine TVRXClock TVRXLEDLabel TVRXSwitch TVRXWSwitch "
                       "TVRXLight"));
-  EXPECT_TRUE(InOrder(pages[2],
+  EXPECT_TRUE(InOrder(pages[2], "Dlg: TVRXFormOpenDialog TVRXFormSaveDialog"));
+  EXPECT_TRUE(InOrder(pages[3], "List: TVRXValueListBox TVRXValueComboBox"));
+  EXPECT_TRUE(InOrder(pages[4],
                       "Form: TVRXForm TVRXBack TVRXFormFill TVRXFormStyler TVRXFormShadow TVRXFormShape "
                       "TVRXSysMenu TVRXCaptionButtons"));
   EXPECT_TRUE(InOrder(pages[5],
@@ -244,7 +246,13 @@ TEST_F(Registering, ShapesLightsSwitchesAndLinesStandAtTheirPlacesWithTheirEdito
                            "TVRXRegionMask any. by TVRXRegionMaskProperty",
                            "TVRXSimpleBevel any. by TVRXSimpleBevelProperty",
                            "TVRXShapeType any. by TVRXShapeProperty",
-                           "TVRXTeeth any. by TVRXTeethProperty"}) {
+                           "TVRXTeeth any. by TVRXTeethProperty",
+                           "TStrings TVRXValueListBox.Items by TVRXValueListProperty",
+                           "TStrings TVRXValueListBox.Values by TVRXValueListProperty",
+                           "string TVRXValueListBox.Value by TVRXValueListValueProperty",
+                           "TStrings TVRXValueComboBox.Items by TVRXValueListProperty",
+                           "TStrings TVRXValueComboBox.Values by TVRXValueListProperty",
+                           "string TVRXValueComboBox.Value by TVRXValueListValueProperty"}) {
     const qsizetype at = calls.indexOf(QString::fromLatin1(call));
     EXPECT_GT(at, last) << call;
     last = at;
