@@ -6,6 +6,7 @@
 #include "package/dialogs/pVRXFilterPropertyEditorDlg.h"
 #include "package/dialogs/pVRXLEDEditorDlg.h"
 #include "package/dialogs/pVRXValueListDlg.h"
+#include "package/dialogs/pVRXVldRegExpEditor.h"
 #include "package/property_editors/pVRXCPGetMain.h"
 
 using enum TPropertyAttribute;
@@ -75,6 +76,17 @@ void TVRXFilterProperty::Edit() {
   TVRXFilterPropsDlg dialog(ApplicationOwner());
   dialog.Filter = GetStrValue();
   if (dialog.ShowModal() == mrOk) SetStrValue(dialog.Filter);
+}
+
+TVRXVldRegExprProperty::TVRXVldRegExprProperty(IDesigner* designer, TInstProps props)
+    : TPropertyEditor(designer, std::move(props)) {}
+TVRXVldRegExprProperty::~TVRXVldRegExprProperty() = default;
+TPropertyAttributes TVRXVldRegExprProperty::GetAttributes() const { return {paDialog}; }
+QString TVRXVldRegExprProperty::GetValue() const { return GetStrValue(); }
+void TVRXVldRegExprProperty::SetValue(const QString& value) { SetStrValue(value); }
+void TVRXVldRegExprProperty::Edit() {
+  if (!form_) form_ = std::make_unique<TVRXRegExprForm>(nullptr);
+  SetStrValue(form_->EditExpression(GetStrValue()));
 }
 
 namespace {

@@ -9,6 +9,8 @@
 #include "library/values/Teeth.h"
 #include "library_design/CopyProperty.h"
 
+class TVRXRegExprForm;
+
 class TVRXLEDProperty : public TClassProperty {
  public:
   using TClassProperty::TClassProperty;
@@ -109,6 +111,20 @@ class TVRXFilterProperty : public TClassProperty {
   using TClassProperty::TClassProperty;
   TPropertyAttributes GetAttributes() const override;
   void Edit() override;
+};
+
+// A regular expression. The form lives as long as the editor, from its first use on.
+class TVRXVldRegExprProperty : public TPropertyEditor {
+ public:
+  TVRXVldRegExprProperty(IDesigner* designer, TInstProps props);
+  ~TVRXVldRegExprProperty() override;
+  TPropertyAttributes GetAttributes() const override;
+  QString GetValue() const override;
+  void SetValue(const QString& value) override;
+  void Edit() override;
+
+ private:
+  std::unique_ptr<TVRXRegExprForm> form_;
 };
 
 // Names and values of a control's items, both in one dialog.

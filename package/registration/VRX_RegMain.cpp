@@ -4,6 +4,7 @@
 #include "library/components/FileDialogs.h"
 #include "library/components/FormComponent.h"
 #include "library/components/HiTimer.h"
+#include "library/components/RegExpr.h"
 #include "library/components/TitleItems.h"
 #include "library/controls/Button3D.h"
 #include "library/controls/LEDLabel.h"
@@ -57,6 +58,7 @@ const Row kRows[] = {
     Component<TVRXScrollText, TVRXScrollTextComponentEditor>(),
     Component<TVRXCustom3DButton, TVRXExtGraphicButtonComponentEditor>(),
 
+    Page("VRX Sys", TellingClasses<TVRXRegExpr>()),
     Component<TVRXCustomShapeHint, TVRXShapeHintComponentEditor>(),
 };
 }  // namespace

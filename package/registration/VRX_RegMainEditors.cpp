@@ -2,6 +2,7 @@
 
 #include "dclstd/DialogRegistration.h"
 #include "library/components/FileDialogs.h"
+#include "library/components/RegExpr.h"
 #include "library/components/SpecialDates.h"
 #include "library/controls/Clock.h"
 #include "library/controls/ValueListBox.h"
@@ -25,6 +26,7 @@
 #include "package/dialogs/pVRXSimpleBevelEditorDlg.h"
 #include "package/dialogs/pVRXTeethEditorDlg.h"
 #include "package/dialogs/pVRXValueListDlg.h"
+#include "package/dialogs/pVRXVldRegExpEditor.h"
 #include "package/property_editors/pVRXPeMain.h"
 
 using namespace registration;
@@ -40,6 +42,7 @@ const Row kRows[] = {
     Property<QString, TVRXFilterProperty, TVRXFormOpenDialog>("Filter"),
     Property<QString, TVRXFilterProperty, TVRXFormSaveDialog>("Filter"),
     Property<TVRXRegionMask, TVRXRegionMaskProperty>(),
+    Property<TVRXRegExString, TVRXVldRegExprProperty>("Expression"),
     Property<TVRXButtonFace, TVRXButtonFaceProperty>(),
     Property<TVRXSimpleBevel, TVRXSimpleBevelProperty>(),
     Property<TVRXShapeType, TVRXShapeProperty>(),
@@ -53,7 +56,8 @@ const Row kRows[] = {
 
     Dialogs<TVRXLEDEditorDlg, TVRXShadowEditorDlg, TVRXSimpleBevelEditorDlg, TVRXTeethEditorDlg,
             TVRXCaptionEditorDlg, TVRXShapeEditorDlg, TVRXLightEditorDlg, TVRX3DEffectEditorDlg,
-            TVRXfrmRegionFromBMPdlg>(),
+            TVRXfrmRegionFromBMPdlg, TVRXFilterPropsDlg, TfrmTVRXPointListEditor, TVRXDateListEditorDlg,
+            TVRXValueListDlg, TVRXRegExprForm>(),
 };
 }  // namespace
 

@@ -217,6 +217,7 @@ TEST_F(Registering, ShapesLightsSwitchesAndLinesStandAtTheirPlacesWithTheirEdito
   EXPECT_TRUE(InOrder(pages[5],
                       "MM: TVRXLabelFill TVRXScrollText TVRX3DEffectButton TVRXHiTimer TVRXShapeControl "
                       "TVRXRepeatedShape TVRXAniCtrl TVRXPanelShape TVRXWndButtonShape"));
+  EXPECT_TRUE(InOrder(pages[6], "Sys: TVRXRegExpr"));
   qsizetype last = -1;
   for (const char* call : {"TVRXLEDCustomLabel by TVRXLEDLabelComponentEditor",
                            "TVRXClock by TVRXClockComponentEditor",
@@ -244,6 +245,7 @@ TEST_F(Registering, ShapesLightsSwitchesAndLinesStandAtTheirPlacesWithTheirEdito
                            "string TVRXFormOpenDialog.Filter by TVRXFilterProperty",
                            "string TVRXFormSaveDialog.Filter by TVRXFilterProperty",
                            "TVRXRegionMask any. by TVRXRegionMaskProperty",
+                           "TVRXRegExString any.Expression by TVRXVldRegExprProperty",
                            "TVRXSimpleBevel any. by TVRXSimpleBevelProperty",
                            "TVRXShapeType any. by TVRXShapeProperty",
                            "TVRXTeeth any. by TVRXTeethProperty",
