@@ -7,6 +7,12 @@ const TClass& TValueList::StaticClass() {
   return cls;
 }
 
+void TValueList::Add(TItem item) {
+  Changing();
+  items_.push_back(std::move(item));
+  Changed();
+}
+
 int TValueList::NumberAt(std::size_t index, int otherwise) const {
   const auto* number = index < items_.size() ? std::get_if<std::int64_t>(&items_[index]) : nullptr;
   return number && *number >= INT32_MIN && *number <= INT32_MAX ? static_cast<int>(*number) : otherwise;

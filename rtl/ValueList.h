@@ -14,6 +14,7 @@ class TValueList : public TOwnedPersistent, public IStreamedContent {
 
   const std::vector<TItem>& Items() const { return items_; }
   void SetItems(std::vector<TItem> items) { Change(items_, std::move(items)); }
+  void Add(TItem item);
   // The number at that place; `otherwise` where there is none, or none that fits.
   int NumberAt(std::size_t index, int otherwise) const;
   // The text at that place; empty where there is none.

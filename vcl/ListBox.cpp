@@ -43,13 +43,14 @@ void TCustomListBox::Paint(TCanvas& canvas) {
   onHighlight.Assign(Font());
   onHighlight.SetColor(clHighlightText);
   const int columns = std::max(Get(Columns), 1), rows = std::max(inside.height() / height, 1);
+  const int chosenItem = ChosenItem();
   for (int i = std::max(Get(TopIndex), 0), place = 0; i < items.size(); ++i, ++place) {
     if (place >= rows * columns + (columns == 1)) break;  // the last one may be cut
     QRect line(inside.left() + place / rows * inside.width() / columns, inside.top() + place % rows * height,
                inside.width() / columns, height);
     if (columns == 1) line.moveTop(inside.top() + place * height);
     line = line.intersected(inside);
-    const bool chosen = i == Get(ItemIndex);
+    const bool chosen = i == chosenItem;
     QRect text = PaintItemMark(canvas, line, i);
     if (chosen) canvas.FillRect(text, clHighlight);
     canvas.TextRect(text.adjusted(2, 0, 0, 0), Qt::AlignLeft | Qt::AlignVCenter, items[i],

@@ -40,6 +40,8 @@ class TCustomListBox : public TCustomListControl {
   void Paint(TCanvas& canvas) override;
 
  protected:
+  // The item that is shown as chosen; -1 for none.
+  virtual int ChosenItem() const { return Get(ItemIndex); }
   // In front of the text; what is left of the line.
   virtual QRect PaintItemMark(TCanvas&, const QRect& line, int) const { return line; }
 };

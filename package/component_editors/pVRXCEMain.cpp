@@ -115,3 +115,13 @@ const TVRXTechnicalLineComponentEditor::Verbs TVRXTechnicalLineComponentEditor::
     Arrow("Arrow Up", TVRXLineType::ltVertical, TVRXSignPlaces::spStart, TVRXLineSign::lsArrowUp),
     Arrow("Arrow Down", TVRXLineType::ltVertical, TVRXSignPlaces::spEnd, TVRXLineSign::lsArrowDown),
 };
+
+QString TVRXFilterComponentEditor::GetVerb(int index) const {
+  return index == 0 ? QStringLiteral("Edit Filters") : QString();
+}
+void TVRXFilterComponentEditor::ExecuteVerb(int index) {
+  if (index == 0) Edit();
+}
+bool TVRXFilterComponentEditor::EditProperty(const TPropertyEditor& property) const {
+  return property.GetName() == QStringLiteral("Filter");
+}

@@ -25,6 +25,18 @@ VRX_VERB_EDITOR(TVRXSwitchComponentEditor, TVRXCustomSwitch);
 VRX_VERB_EDITOR(TVRXLightComponentEditor, TVRXCustomLight);
 VRX_VERB_EDITOR(TVRXTechnicalLineComponentEditor, TVRXTechnicalLine);
 
+// What has filters: the verb and a double-click open their dialog.
+class TVRXFilterComponentEditor : public TDefaultEditor {
+ public:
+  using TDefaultEditor::TDefaultEditor;
+  int GetVerbCount() const override { return 1; }
+  QString GetVerb(int index) const override;
+  void ExecuteVerb(int index) override;
+
+ protected:
+  bool EditProperty(const TPropertyEditor& property) const override;
+};
+
 // A colour, with the IDE's custom colours, which are saved when one was chosen.
 bool VRXCPGetColorCP(TColor& color);
 

@@ -8,8 +8,10 @@
 #include "package/dialogs/pVRX3DEffectEditorDlg.h"
 #include "package/dialogs/pVRXBmpRegionEditorDlg.h"
 #include "package/dialogs/pVRXCaptionEditorDlg.h"
+#include "package/dialogs/pVRXDateListEditorDlg.h"
 #include "package/dialogs/pVRXLEDEditorDlg.h"
 #include "package/dialogs/pVRXLightEditorDlg.h"
+#include "package/dialogs/pVRXPointListEditorDlg.h"
 #include "package/dialogs/pVRXShadowEditorDlg.h"
 #include "package/dialogs/pVRXShapeEditorDlg.h"
 #include "package/dialogs/pVRXSimpleBevelEditorDlg.h"
@@ -35,6 +37,36 @@ bool VRXCPGetVRXCaption(TVRXCaption& caption, bool showMultiLine) {
   return EditValue<TVRXCaptionEditorDlg>(caption, ApplicationOwner(),
                                          [=](auto& dialog) { dialog.chk->setVisible(showMultiLine); });
 }
+
+namespace {
+// As long as all forms can keep it, and not in the middle of a letter.
+QString Kept(const QString& description) {
+  constexpr qsizetype Most = 255;
+  const bool splits = description.size() > Most && description[Most - 1].isHighSurrogate();
+  return description.left(splits ? Most - 1 : Most);
+}
+}  // namespace
+bool VRXCPGetDateList(TVRXDateList& list) {
+  TVRXDateListEditorDlg dialog(nullptr);
+  dialog.Lines().SetEntries(list.Entries());
+  if (dialog.ShowModal() != mrOk) return false;
+  const TUpdateLock lock(list);
+  list.Clear();
+  for (int row = 0; row < dialog.Lines().rowCount(); ++row) {
+    const TVRXDateEntry entry = dialog.Lines().Entry(row);
+    list.AddDate(entry.Moment, Kept(entry.Description));
+  }
+  return true;
+}
+
+bool VRXCPGetPointList(TVRXPointList& list) {
+  TfrmTVRXPointListEditor dialog(nullptr);
+  dialog.SetPointList(list);
+  if (dialog.ShowModal() != mrOk) return false;
+  dialog.GetPointList(list);
+  return true;
+}
+
 bool VRXCPGetLED(TVRXLED& led) { return EditValue<TVRXLEDEditorDlg>(led, nullptr); }
 bool VRXCPGetRegionMask(TVRXRegionMask& mask, bool window) {
   return EditValue<TVRXfrmRegionFromBMPdlg>(mask, ApplicationOwner(), [=](auto& dialog) {

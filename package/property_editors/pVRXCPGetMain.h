@@ -4,9 +4,11 @@
 #include "library/controls/Button3D.h"
 #include "library/values/Bevels.h"
 #include "library/values/Caption.h"
+#include "library/values/DateList.h"
 #include "library/values/Fill.h"
 #include "library/values/LED.h"
 #include "library/values/LightColor.h"
+#include "library/values/PointList.h"
 #include "library/values/RegionMask.h"
 #include "library/values/Shadow.h"
 #include "library/values/ShapeType.h"
@@ -16,7 +18,11 @@
 bool VRXCPGetButtonFace3D(TVRXCustom3DButton& button);
 // `showMultiLine`: whether the dialog offers the "MultiLine" check box.
 bool VRXCPGetVRXCaption(TVRXCaption& caption, bool showMultiLine);
+// The list is rebuilt line by line. A line that is no date raises EConvertError; the list ends before it
+// then.
+bool VRXCPGetDateList(TVRXDateList& list);
 bool VRXCPGetLED(TVRXLED& led);
+bool VRXCPGetPointList(TVRXPointList& list);
 // `window`: for the shape of a window; else for that of a button with two states.
 bool VRXCPGetRegionMask(TVRXRegionMask& mask, bool window);
 bool VRXCPGetShadow(TVRXShadow& shadow);

@@ -1,7 +1,12 @@
 #include "package/property_editors/pVRXPeMain.h"
 
+#include "dclstd/EditValue.h"
 #include "library/controls/ShapeControl.h"
+#include "library/values/ValueListControl.h"
+#include "package/dialogs/pVRXFilterPropertyEditorDlg.h"
 #include "package/dialogs/pVRXLEDEditorDlg.h"
+#include "package/dialogs/pVRXValueListDlg.h"
+#include "package/dialogs/pVRXVldRegExpEditor.h"
 #include "package/property_editors/pVRXCPGetMain.h"
 
 using enum TPropertyAttribute;
@@ -56,4 +61,54 @@ TPropertyAttributes TVRXButtonFaceProperty::GetAttributes() const { return {paDi
 void TVRXButtonFaceProperty::Edit() {
   auto* button = As<TVRXCustom3DButton>(GetComponent(0));
   if (button && VRXCPGetButtonFace3D(*button)) Modified();
+}
+
+TPropertyAttributes TVRXListProperty::GetAttributes() const { return {paDialog}; }
+void TVRXListProperty::Edit() {
+  TPersistent* list = GetObjectValue();
+  if (list && Launch(*list)) SetOrdValue(list);
+}
+bool TVRXDateListProperty::Launch(TPersistent& list) {
+  return VRXCPGetDateList(dynamic_cast<TVRXDateList&>(list));
+}
+bool TVRXPointListProperty::Launch(TPersistent& list) {
+  return VRXCPGetPointList(dynamic_cast<TVRXPointList&>(list));
+}
+
+TPropertyAttributes TVRXFilterProperty::GetAttributes() const { return {paDialog}; }
+void TVRXFilterProperty::Edit() {
+  TVRXFilterPropsDlg dialog(ApplicationOwner());
+  dialog.Filter = GetStrValue();
+  if (dialog.ShowModal() == mrOk) SetStrValue(dialog.Filter);
+}
+
+TVRXVldRegExprProperty::TVRXVldRegExprProperty(IDesigner* designer, TInstProps props)
+    : TPropertyEditor(designer, std::move(props)) {}
+TVRXVldRegExprProperty::~TVRXVldRegExprProperty() = default;
+TPropertyAttributes TVRXVldRegExprProperty::GetAttributes() const { return {paDialog}; }
+QString TVRXVldRegExprProperty::GetValue() const { return GetStrValue(); }
+void TVRXVldRegExprProperty::SetValue(const QString& value) { SetStrValue(value); }
+void TVRXVldRegExprProperty::Edit() {
+  if (!form_) form_ = std::make_unique<TVRXRegExprForm>(nullptr);
+  SetStrValue(form_->EditExpression(GetStrValue()));
+}
+
+namespace {
+IVRXValueListControl* ValueListOf(const TPropertyEditor& editor) {
+  return dynamic_cast<IVRXValueListControl*>(editor.GetComponent(0));
+}
+}  // namespace
+
+TPropertyAttributes TVRXValueListProperty::GetAttributes() const { return {paDialog, paReadOnly}; }
+void TVRXValueListProperty::Edit() {
+  IVRXValueListControl* control = ValueListOf(*this);
+  if (control && TVRXValueListDlg::Execute(*control)) Modified();
+}
+
+TPropertyAttributes TVRXValueListValueProperty::GetAttributes() const { return {paValueList}; }
+void TVRXValueListValueProperty::GetValues(const TGetStrProc& proc) const {
+  IVRXValueListControl* control = ValueListOf(*this);
+  if (!control) return;
+  for (const QString& item : control->ItemNames().Lines())
+    if (!item.isEmpty()) proc(item);
 }

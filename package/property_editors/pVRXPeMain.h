@@ -9,6 +9,8 @@
 #include "library/values/Teeth.h"
 #include "library_design/CopyProperty.h"
 
+class TVRXRegExprForm;
+
 class TVRXLEDProperty : public TClassProperty {
  public:
   using TClassProperty::TClassProperty;
@@ -82,4 +84,60 @@ class TVRXButtonFaceProperty : public TClassProperty {
   using TClassProperty::TClassProperty;
   TPropertyAttributes GetAttributes() const override;
   void Edit() override;
+};
+
+// Lists: the dialog works on the object itself, which is then told to be changed.
+class TVRXListProperty : public TClassProperty {
+ public:
+  using TClassProperty::TClassProperty;
+  TPropertyAttributes GetAttributes() const override;
+  void Edit() override;
+
+ protected:
+  virtual bool Launch(TPersistent& list) = 0;
+};
+class TVRXDateListProperty : public TVRXListProperty {
+  using TVRXListProperty::TVRXListProperty;
+  bool Launch(TPersistent& list) override;
+};
+class TVRXPointListProperty : public TVRXListProperty {
+  using TVRXListProperty::TVRXListProperty;
+  bool Launch(TPersistent& list) override;
+};
+
+// The filter of a file dialog. A text that is shown as an object: it is edited in its dialog alone.
+class TVRXFilterProperty : public TClassProperty {
+ public:
+  using TClassProperty::TClassProperty;
+  TPropertyAttributes GetAttributes() const override;
+  void Edit() override;
+};
+
+// A regular expression. The form lives as long as the editor, from its first use on.
+class TVRXVldRegExprProperty : public TPropertyEditor {
+ public:
+  TVRXVldRegExprProperty(IDesigner* designer, TInstProps props);
+  ~TVRXVldRegExprProperty() override;
+  TPropertyAttributes GetAttributes() const override;
+  QString GetValue() const override;
+  void SetValue(const QString& value) override;
+  void Edit() override;
+
+ private:
+  std::unique_ptr<TVRXRegExprForm> form_;
+};
+
+// Names and values of a control's items, both in one dialog.
+class TVRXValueListProperty : public TClassProperty {
+ public:
+  using TClassProperty::TClassProperty;
+  TPropertyAttributes GetAttributes() const override;
+  void Edit() override;
+};
+// Which of the items is chosen.
+class TVRXValueListValueProperty : public TStringProperty {
+ public:
+  using TStringProperty::TStringProperty;
+  TPropertyAttributes GetAttributes() const override;
+  void GetValues(const TGetStrProc& proc) const override;
 };

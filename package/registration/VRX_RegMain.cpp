@@ -4,8 +4,10 @@
 #include "library/components/EditActions.h"
 #include "library/components/EditControlPrintTask.h"
 #include "library/components/ExpressionEval.h"
+#include "library/components/FileDialogs.h"
 #include "library/components/FormComponent.h"
 #include "library/components/HiTimer.h"
+#include "library/components/RegExpr.h"
 #include "library/components/TitleItems.h"
 #include "library/controls/Button3D.h"
 #include "library/controls/Calculator.h"
@@ -21,6 +23,7 @@
 #include "library/controls/Switch.h"
 #include "library/controls/TechnicalLine.h"
 #include "library/controls/TextBoxes.h"
+#include "library/controls/ValueListBox.h"
 #include "library_design/pVRXCommon.h"
 #include "package/component_editors/pVRXCEForms.h"
 #include "package/component_editors/pVRXCEMain.h"
@@ -46,6 +49,8 @@ const Row kRows[] = {
     Component<TVRXCustomLight, TVRXLightComponentEditor>(),
     Component<TVRXFill, TVRXFillComponentEditor>(),
 
+    Page("VRX Dlg", TellingClasses<TVRXFormOpenDialog, TVRXFormSaveDialog>()),
+
     Page("VRX Edit", TellingClasses<TVRXCalendarEdit, TVRXCalculatorEdit, TVRXEditAutoComplete, TVRXTagEditor,
                                     TVRXEditControlPrintTask, TVRXDateTimePicker, TVRXFormComboBox>()),
     Page("VRX Labeled", TellingClasses<TVRXLabeledCalendarEdit, TVRXLabeledCalculatorEdit>())
@@ -53,9 +58,10 @@ const Row kRows[] = {
     Actions("VRXEdit",
             TellingClasses<TVRXEditCut, TVRXEditCopy, TVRXEditPaste, TVRXEditSelectAll, TVRXEditUndo,
                            TVRXEditRedo, TVRXEditDelete, TVRXEditFind, TVRXEditReplace>()),
-    Page("VRX List", TellingClasses<TVRXDriveComboBox, TVRXListComboBox, TVRXTreeComboBox,
-                                    TVRXHeaderListComboBox, TVRXCheckListComboBox, TVRXCalculatorComboBox,
-                                    TVRXCalendarComboBox, TVRXTrackBarComboBox>()),
+    Page("VRX List",
+         TellingClasses<TVRXDriveComboBox, TVRXListComboBox, TVRXTreeComboBox, TVRXHeaderListComboBox,
+                        TVRXCheckListComboBox, TVRXCalculatorComboBox, TVRXCalendarComboBox,
+                        TVRXTrackBarComboBox, TVRXValueListBox, TVRXValueComboBox>()),
     Page("VRX Labeled", TellingClasses<TVRXLabeledListComboBox, TVRXLabeledDriveComboBox,
                                        TVRXLabeledCalculatorComboBox, TVRXLabeledTrackBarComboBox,
                                        TVRXLabeledCalendarComboBox, TVRXLabeledHeaderListComboBox,
@@ -80,7 +86,7 @@ const Row kRows[] = {
     Component<TVRXScrollText, TVRXScrollTextComponentEditor>(),
     Component<TVRXCustom3DButton, TVRXExtGraphicButtonComponentEditor>(),
 
-    Page("VRX Sys", TellingClasses<TVRXExpressionEval>()),
+    Page("VRX Sys", TellingClasses<TVRXRegExpr, TVRXExpressionEval>()),
     Component<TVRXCustomShapeHint, TVRXShapeHintComponentEditor>(),
 
     Page("VRX HTML", TellingClasses<TVRXHTMLExtListBox, TVRXHTMLComboBox, TVRXHTMLListBox, TVRXHTMLListBoxExt,

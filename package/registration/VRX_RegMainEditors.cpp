@@ -1,11 +1,16 @@
 #include "package/registration/VRX_RegMainEditors.h"
 
 #include "dclstd/DialogRegistration.h"
+#include "library/components/FileDialogs.h"
+#include "library/components/RegExpr.h"
+#include "library/components/SpecialDates.h"
 #include "library/components/TitleItems.h"
 #include "library/controls/Clock.h"
+#include "library/controls/ValueListBox.h"
 #include "library/values/ButtonFace.h"
 #include "library/values/Caption.h"
 #include "library/values/DateTimeFormat.h"
+#include "library/values/PointList.h"
 #include "library/values/RegionMask.h"
 #include "library/values/ShapeType.h"
 #include "library_design/pVRXPeCore.h"
@@ -13,12 +18,17 @@
 #include "package/dialogs/pVRX3DEffectEditorDlg.h"
 #include "package/dialogs/pVRXBmpRegionEditorDlg.h"
 #include "package/dialogs/pVRXCaptionEditorDlg.h"
+#include "package/dialogs/pVRXDateListEditorDlg.h"
+#include "package/dialogs/pVRXFilterPropertyEditorDlg.h"
 #include "package/dialogs/pVRXLEDEditorDlg.h"
 #include "package/dialogs/pVRXLightEditorDlg.h"
+#include "package/dialogs/pVRXPointListEditorDlg.h"
 #include "package/dialogs/pVRXShadowEditorDlg.h"
 #include "package/dialogs/pVRXShapeEditorDlg.h"
 #include "package/dialogs/pVRXSimpleBevelEditorDlg.h"
 #include "package/dialogs/pVRXTeethEditorDlg.h"
+#include "package/dialogs/pVRXValueListDlg.h"
+#include "package/dialogs/pVRXVldRegExpEditor.h"
 #include "package/property_editors/pVRXPeMain.h"
 
 using namespace registration;
@@ -28,17 +38,29 @@ const Row kRows[] = {
     Property<TCustomImageList, TVRXCustomImageListProperty, TVRXCaptionButtons>("ImageList"),
     Property<TVRXShadow, TVRXShadowProperty>(),
     Property<TVRXShapeFill, TVRXShapeFillProperty>(),
+    Property<TVRXPointList, TVRXPointListProperty>(),
     Property<TVRXDateTimeFormat, TVRXDateTimeFormatProperty, TVRXClock>("CustomDateTimeFormat"),
     Property<TVRXCaption, TVRXCaptionProperty>(),
+    Property<TVRXDateList, TVRXDateListProperty, TVRXSpecialDates>("Dates"),
+    Property<QString, TVRXFilterProperty, TVRXFormOpenDialog>("Filter"),
+    Property<QString, TVRXFilterProperty, TVRXFormSaveDialog>("Filter"),
     Property<TVRXRegionMask, TVRXRegionMaskProperty>(),
+    Property<TVRXRegExString, TVRXVldRegExprProperty>("Expression"),
     Property<TVRXButtonFace, TVRXButtonFaceProperty>(),
     Property<TVRXSimpleBevel, TVRXSimpleBevelProperty>(),
     Property<TVRXShapeType, TVRXShapeProperty>(),
     Property<TVRXTeeth, TVRXTeethProperty>(),
+    Property<TStrings, TVRXValueListProperty, TVRXValueListBox>("Items"),
+    Property<TStrings, TVRXValueListProperty, TVRXValueListBox>("Values"),
+    Property<QString, TVRXValueListValueProperty, TVRXValueListBox>("Value"),
+    Property<TStrings, TVRXValueListProperty, TVRXValueComboBox>("Items"),
+    Property<TStrings, TVRXValueListProperty, TVRXValueComboBox>("Values"),
+    Property<QString, TVRXValueListValueProperty, TVRXValueComboBox>("Value"),
 
     Dialogs<TVRXLEDEditorDlg, TVRXShadowEditorDlg, TVRXSimpleBevelEditorDlg, TVRXTeethEditorDlg,
             TVRXCaptionEditorDlg, TVRXShapeEditorDlg, TVRXLightEditorDlg, TVRX3DEffectEditorDlg,
-            TVRXfrmRegionFromBMPdlg>(),
+            TVRXfrmRegionFromBMPdlg, TVRXFilterPropsDlg, TfrmTVRXPointListEditor, TVRXDateListEditorDlg,
+            TVRXValueListDlg, TVRXRegExprForm>(),
 };
 }  // namespace
 

@@ -64,7 +64,9 @@ TEST_F(DescribeCli, JsonHasTheSameKeysForEveryControl) {
             "TVRXLEDEditorDlg=LED Editor|TVRXShadowEditorDlg=Shadow Editor|TVRXSimpleBevelEditorDlg=Simple "
             "Bevel Editor|TVRXTeethEditorDlg=Teeth Editor|TVRXCaptionEditorDlg=Caption Editor|"
             "TVRXShapeEditorDlg=Shape Editor|TVRXLightEditorDlg=Light Editor|TVRX3DEffectEditorDlg=3D Effect "
-            "Editor|TVRXfrmRegionFromBMPdlg=Region From Bitmap Editor");
+            "Editor|TVRXfrmRegionFromBMPdlg=Region From Bitmap Editor|TVRXFilterPropsDlg=Filter Editor|"
+            "TfrmTVRXPointListEditor=Point List Editor|TVRXDateListEditorDlg=Date List Property Editor|"
+            "TVRXValueListDlg=Value List Editor|TVRXRegExprForm=Regular Expression");
 }
 
 TEST_F(DescribeCli, JsonKeepsAcceleratorsLineBreaksAndTypes) {

@@ -57,7 +57,7 @@ TEST_F(DesignerTest, ThePaletteHasAPageForEveryRegisteredOne) {
   for (int i = 0; i < tabs->count(); ++i) pages << tabs->tabText(i);
   EXPECT_EQ(pages.join(u'|'),
             QStringLiteral("Standard|Additional|Common Controls|System|Dialogs|Samples|VRX "
-                           "Std|VRX Ext|VRX Edit|VRX List|VRX Form|VRX MM|VRX Sys|VRX HTML"));
+                           "Std|VRX Ext|VRX Dlg|VRX Edit|VRX List|VRX Form|VRX MM|VRX Sys|VRX HTML"));
 }
 
 TEST_F(DesignerTest, ThePaletteSearchFindsOnEveryPage) {

@@ -45,6 +45,12 @@ constexpr TabRow TabRows[] = {
      "btngetpic btngetcap spind cmbB dlgb cmbD dlgd cmbL dlgl cmbS dlgs EXECUTE STOP Ok VRXButton4"},
     {"TVRXfrmRegionFromBMPdlg", 0, "pages LoadButton VRXScrollBox1 cl CancelButton"},
     {"TVRXfrmRegionFromBMPdlg", 1, "pages cb colb ccb ResultBox CancelButton"},
+    {"TVRXFilterPropsDlg", 0, "FilterGrid AddRow DeleteRow MoveDown OKBtn CancelBtn"},
+    {"TfrmTVRXPointListEditor", 0, "plb AddBtn OkBtn CancelBtn"},
+    {"TVRXDateListEditorDlg", 0, "DList AddBtn OkBtn CancelBtn"},
+    {"TVRXValueListDlg", 0, "ValueListEditor AddRow OkButton CancelButton"},
+    {"TVRXRegExprForm", 0,
+     "edRegExpr edSample edExprName sgExpressions btAddExpr btLoad btSave btOK btCancel"},
     {"TVRXFontFxEditorDlg", 0, "cmbstyle edlight cmbL edshadow cmbs edangle edtracing ok cancel reset"},
     {"FontDialog", 0,
      "cmbname edsize edheight cmbcolor cmbcharset cmbpitch bold italic underline strikeout ok cancel reset"},
@@ -158,7 +164,8 @@ TEST_F(DialogSuite, FormsThatHaveANameKeepIt) {
   QStringList names;
   ForEveryDialog([&](ModalDialog& dialog) { names << dialog.objectName(); });
   names.removeAll(QString());
-  EXPECT_EQ(names.join(u' ').toStdString(), "VRX3DEffectEditorDlg VRXfrmRegionFromBMPdlg");
+  EXPECT_EQ(names.join(u' ').toStdString(), "VRX3DEffectEditorDlg VRXfrmRegionFromBMPdlg VRXFilterPropsDlg frmTVRXPointListEditor "
+            "VRXDateListEditorDlg VRXValueListDlg VRXRegExprForm");
 }
 
 TEST_F(DialogSuite, EveryControlHasANameOfItsOwn) {
@@ -274,7 +281,7 @@ TEST_F(DialogSuite, NothingBeyondItsLimitsCanBeTypedIntoASpinEdit) {
       ++edits;
     }
   });
-  EXPECT_EQ(edits, 10 + 1 + 1 + 3 + 1 + 2 + 4);
+  EXPECT_EQ(edits, 10 + 1 + 1 + 3 + 1 + 2 + 2 + 4);
 }
 
 TEST_F(DialogSuite, AllColoursOfADialogShareTheirCustomColours) {

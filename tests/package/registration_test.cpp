@@ -204,27 +204,28 @@ TEST_F(Registering, ShapesLightsSwitchesAndLinesStandAtTheirPlacesWithTheirEdito
   QStringList pages;
   for (const QString& call : calls)
     if (call.startsWith(QStringLiteral("page "))) pages << call + u' ';
-  ASSERT_EQ(pages.size(), 6);
+  ASSERT_EQ(pages.size(), 9);
   EXPECT_TRUE(InOrder(pages[0], "Std: TVRXStaticText"));
   EXPECT_TRUE(InOrder(pages[1],
                       "Ext: TVRXClock TVRXCalendar TVRXCalculator TVRXTechnicalLine TVRXClock TVRXLEDLabel "
                       "TVRXSwitch TVRXWSwitch "
                       "TVRXLight"));
-  EXPECT_TRUE(InOrder(pages[2],
+  EXPECT_TRUE(InOrder(pages[2], "Dlg: TVRXFormOpenDialog TVRXFormSaveDialog"));
+  EXPECT_TRUE(InOrder(pages[3],
                       "Edit: TVRXCalendarEdit TVRXCalculatorEdit TVRXEditAutoComplete TVRXTagEditor "
                       "TVRXEditControlPrintTask TVRXDateTimePicker TVRXFormComboBox"));
-  EXPECT_TRUE(
-      InOrder(pages[3],
-              "List: TVRXDriveComboBox TVRXListComboBox TVRXTreeComboBox TVRXHeaderListComboBox "
-              "TVRXCheckListComboBox TVRXCalculatorComboBox TVRXCalendarComboBox TVRXTrackBarComboBox"));
   EXPECT_TRUE(InOrder(pages[4],
+                      "List: TVRXDriveComboBox TVRXListComboBox TVRXTreeComboBox TVRXHeaderListComboBox "
+                      "TVRXCheckListComboBox TVRXCalculatorComboBox TVRXCalendarComboBox "
+                      "TVRXTrackBarComboBox TVRXValueListBox TVRXValueComboBox"));
+  EXPECT_TRUE(InOrder(pages[5],
                       "Form: TVRXForm TVRXBack TVRXFormFill TVRXFormStyler TVRXFormShadow TVRXFormShape "
                       "TVRXSysMenu TVRXCaptionButtons"));
-  EXPECT_TRUE(InOrder(pages[5],
+  EXPECT_TRUE(InOrder(pages[6],
                       "MM: TVRXLabelFill TVRXScrollText TVRX3DEffectButton TVRXHiTimer TVRXShapeControl "
                       "TVRXRepeatedShape TVRXAniCtrl TVRXPanelShape TVRXWndButtonShape"));
-  EXPECT_TRUE(InOrder(pages[4], "Sys: TVRXExpressionEval"));
-  EXPECT_TRUE(InOrder(pages[5],
+  EXPECT_TRUE(InOrder(pages[7], "Sys: TVRXRegExpr TVRXExpressionEval"));
+  EXPECT_TRUE(InOrder(pages[8],
                       "HTML: TVRXHTMLExtListBox TVRXHTMLComboBox TVRXHTMLListBox TVRXHTMLListBoxExt "
                       "TVRXHTMLHeaderControl"));
   qsizetype last = -1;
@@ -248,11 +249,22 @@ TEST_F(Registering, ShapesLightsSwitchesAndLinesStandAtTheirPlacesWithTheirEdito
                            "TVRXCustom3DButton by TVRXExtGraphicButtonComponentEditor",
                            "TVRXShadow any. by TVRXShadowProperty",
                            "TVRXShapeFill any. by TVRXShapeFillProperty",
+                           "TVRXPointList any. by TVRXPointListProperty",
                            "TVRXCaption any. by TVRXCaptionProperty",
+                           "TVRXDateList TVRXSpecialDates.Dates by TVRXDateListProperty",
+                           "string TVRXFormOpenDialog.Filter by TVRXFilterProperty",
+                           "string TVRXFormSaveDialog.Filter by TVRXFilterProperty",
                            "TVRXRegionMask any. by TVRXRegionMaskProperty",
+                           "TVRXRegExString any.Expression by TVRXVldRegExprProperty",
                            "TVRXSimpleBevel any. by TVRXSimpleBevelProperty",
                            "TVRXShapeType any. by TVRXShapeProperty",
-                           "TVRXTeeth any. by TVRXTeethProperty"}) {
+                           "TVRXTeeth any. by TVRXTeethProperty",
+                           "TStrings TVRXValueListBox.Items by TVRXValueListProperty",
+                           "TStrings TVRXValueListBox.Values by TVRXValueListProperty",
+                           "string TVRXValueListBox.Value by TVRXValueListValueProperty",
+                           "TStrings TVRXValueComboBox.Items by TVRXValueListProperty",
+                           "TStrings TVRXValueComboBox.Values by TVRXValueListProperty",
+                           "string TVRXValueComboBox.Value by TVRXValueListValueProperty"}) {
     const qsizetype at = calls.indexOf(QString::fromLatin1(call));
     EXPECT_GT(at, last) << call;
     last = at;
