@@ -22,6 +22,7 @@ struct FilledCombo : TVRXHTMLComboBox {
   explicit FilledCombo(TComponent* owner) : TVRXHTMLComboBox(owner) {
     Get(Items)->SetLines(Rows);
     Set(TextHint, QStringLiteral("choose <i>one</i>"));
+    SetAutoSize(false);  // so that a change is seen by what is drawn
   }
 };
 
@@ -98,7 +99,7 @@ TEST(HtmlLists, EveryPropertyShows) {
                                    {"", "ItemIndex=1"},
                                    {"ItemIndex=1", "Sorted=True"},
                                    {"", "TextHint=other"},
-                                   {"Height=40", "ItemHeight=15"}},
+                                   {"AutoSize=True", "ItemHeight=31"}},
                                   {150, 25}, Unseen);
 }
 

@@ -83,8 +83,7 @@ const char* const Samples[] = {
     "hyphen-ated words-with several-hyphens-in them",
     "numbers 1,234.56 and 7/8 and 100% of $5.00 (or more)",
     "\u00e4\u00f6\u00fc\u00df \u00e9\u00e8\u00ea accented \u00f1and others\u00e7",
-    "\u0433\u0440\u0443\u043f\u043f\u0430 \u0441\u043b\u043e\u0432 \u043d\u0430 "
-    "\u0440\u0443\u0441\u0441\u043a\u043e\u043c \u044f\u0437\u044b\u043a\u0435",
+    "\u0433\u0440\u0443\u043f\u043f\u0430 \u0441\u043b\u043e\u0432 \u0437\u0434\u0435\u0441\u044c",
     "\u03b1\u03b2\u03b3 \u03b4\u03b5\u03b6 \u03b7\u03b8\u03b9 \u03ba\u03bb\u03bc",
     "<b><i>both looks</i> then one</b> then none at all of them",
     "<b>bo<i>ld it</i>alic</b>s within words",
