@@ -295,9 +295,14 @@ TEST(TrackField, ShowsItsPositionAndKeepsItBetweenItsEnds) {
   EXPECT_EQ(s.box->FieldText(), QStringLiteral("200 %"));
   s.box->SetMin(-5);
   s.box->SetPosition(-5);
-  const QImage none = Draw(*s.box, Qt::white);
-  s.box->SetPosition(195);
-  EXPECT_NE(Draw(*s.box, Qt::white), none);
+  const QColor done = ToQColor(clHighlight);
+  EXPECT_EQ(CountPixels(Draw(*s.box, Qt::white), done), 0) << "at its beginning";
+  s.box->SetPosition(95);
+  const int half = CountPixels(Draw(*s.box, Qt::white), done);
+  s.box->SetPosition(200);
+  const int all = CountPixels(Draw(*s.box, Qt::white), done);
+  EXPECT_GT(all, 200);
+  EXPECT_NEAR(half, all * 100.0 / 205, 4);
   EXPECT_THROW(s.box->SetMax(-6), Exception);
 }
 
