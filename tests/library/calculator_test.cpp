@@ -139,11 +139,18 @@ TEST(Calculator, KeysStandBesideEachOtherAndAreHitToTheirLastPixel) {
 }
 
 TEST(Calculator, IsPaintedAgainWhileANumberIsTyped) {
+  struct Host : IControlHost {
+    void ControlChanged(TControl&) override { ++told; }
+    int told = 0;
+  } host;
   TVRXCalculator calculator(nullptr);
   PressAll(calculator, "3");
   const QImage before = Draw(calculator, Qt::white);
+  calculator.SetHost(&host);
   PressAll(calculator, ".");
+  calculator.SetHost(nullptr);
   EXPECT_EQ(calculator.ValueOf(), 3);
+  EXPECT_GT(host.told, 0) << "no value has changed, but the picture";
   EXPECT_NE(Draw(calculator, Qt::white), before);
 }
 

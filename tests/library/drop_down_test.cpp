@@ -293,12 +293,17 @@ TEST(TrackField, ShowsItsPositionAndKeepsItBetweenItsEnds) {
   s.box->SetPosition(300);
   s.box->Set(TVRXTrackBarComboBox::Suffix, QStringLiteral(" %"));
   EXPECT_EQ(s.box->FieldText(), QStringLiteral("200 %"));
-  s.box->SetMin(-5);
-  s.box->SetPosition(-5);
-  const QImage none = Draw(*s.box, Qt::white);
-  s.box->SetPosition(195);
-  EXPECT_NE(Draw(*s.box, Qt::white), none);
-  EXPECT_THROW(s.box->SetMax(-6), Exception);
+  s.box->SetMin(-100);
+  s.box->SetPosition(-100);
+  const QColor done = ToQColor(clHighlight);
+  EXPECT_EQ(CountPixels(Draw(*s.box, Qt::white), done), 0) << "at its beginning";
+  s.box->SetPosition(50);
+  const int half = CountPixels(Draw(*s.box, Qt::white), done);
+  s.box->SetPosition(200);
+  const int all = CountPixels(Draw(*s.box, Qt::white), done);
+  EXPECT_GT(all, 200);
+  EXPECT_NEAR(half, all / 2.0, 4);
+  EXPECT_THROW(s.box->SetMax(-101), Exception);
 }
 
 TEST(FormField, DropsDownWhatItRefersToUnlessItStandsInThere) {
