@@ -32,6 +32,10 @@ const std::vector<CommandRow>& CommandTable() {
        "Changes properties; values are written as in form text ('a string', clRed,\n"
        "[a, b], 12). A refused value says why, and nothing is written.",
        SetCommand},
+      {"edit", "FORM COMPONENT.PROPERTY [-o OUT]",
+       "Opens the editor of one property, as the designer's inspector does, and writes the\n"
+       "form when it is confirmed. Exit code 3 when it is cancelled; nothing is written then.",
+       EditCommand},
       {"do", "FORM ACTION... [--select NAME[,NAME...]] [--clipboard FILE] [-o OUT]",
        "Does what the designer's menus do, one action after the other, to the components\n"
        "named; the first one is the measure of alignments and sizes. What cannot be done\n"

@@ -6,7 +6,7 @@
 class DesignRegistry;
 
 // What a command leaves the process with.
-enum ExitCode { ExitOk = 0, ExitFindings = 1, ExitUsage = 2 };
+enum ExitCode { ExitOk = 0, ExitFindings = 1, ExitUsage = 2, ExitCancelled = 3 };
 
 struct Console {
   QTextStream& out;
@@ -50,6 +50,7 @@ int ConvertCommand(const QStringList& arguments, Console& console);
 int RenderCommand(const QStringList& arguments, Console& console);
 int GetCommand(const QStringList& arguments, Console& console);
 int SetCommand(const QStringList& arguments, Console& console);
+int EditCommand(const QStringList& arguments, Console& console);
 int DoCommand(const QStringList& arguments, Console& console);
 int ActionsCommand(const QStringList& arguments, Console& console);
 int PackageCommand(const QStringList& arguments, Console& console);

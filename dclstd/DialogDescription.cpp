@@ -48,6 +48,7 @@ QString TextOf(const QWidget& widget) {
     return caption && caption->Kind() == TTypeKind::tkString ? GetStrProp(*view->Control(), *caption)
                                                              : QString();
   }
+  if (qobject_cast<const QDateTimeEdit*>(&widget)) return {};  // each country has it in another way
   const QVariant text = widget.property(widget.inherits("QComboBox") ? "currentText" : "text");
   return text.toString();
 }
