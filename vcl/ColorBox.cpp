@@ -96,7 +96,7 @@ const TClass& TCustomColorListBox::StaticClass() {
 
 void TCustomColorListBox::Paint(TCanvas& canvas) {
   QRect inside = ClientRect();
-  if (Get(BorderStyle) == TBorderStyle::bsSingle) inside = PaintEditFrame(canvas, inside, PartStates());
+  if (Get(BorderStyle) == TBorderStyle::bsSingle) inside = PaintEditFrame(canvas, inside, PartStates(), Color());
   canvas.FillRect(inside, Color());
   TFont onHighlight;
   onHighlight.Assign(Font());

@@ -43,8 +43,7 @@ void TCustomComboBox::Paint(TCanvas& canvas) {
     field.setHeight(TextExtent(QStringLiteral("Wg"), *Font()).height() + 8);
     list = ClientRect().adjusted(0, field.height(), 0, 0);
   }
-  QRect inside = PaintEditFrame(canvas, field, PartStates());
-  canvas.FillRect(inside, Color());
+  QRect inside = PaintEditFrame(canvas, field, PartStates(), Color());
   if (!simple) {
     constexpr int Knob = 17;
     const QRect knob(field.right() - Knob, field.top() + 1, Knob, field.height() - 2);
@@ -53,8 +52,7 @@ void TCustomComboBox::Paint(TCanvas& canvas) {
   }
   PaintField(canvas, inside);
   if (list.height() <= 4) return;
-  const QRect lines = PaintEditFrame(canvas, list, PartStates());
-  canvas.FillRect(lines, Color());
+  const QRect lines = PaintEditFrame(canvas, list, PartStates(), Color());
   canvas.TextRect(lines, Qt::AlignLeft | Qt::AlignTop, Get(Items)->Lines().join(u'\n'), *Font(), Enabled());
 }
 

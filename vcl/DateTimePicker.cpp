@@ -92,8 +92,7 @@ QString TDateTimePicker::ShownText() const {
 
 void TDateTimePicker::Paint(TCanvas& canvas) {
   const QRect frame = ClientRect();
-  QRect inside = PaintEditFrame(canvas, frame, PartStates());
-  canvas.FillRect(inside, Color());
+  QRect inside = PaintEditFrame(canvas, frame, PartStates(), Color());
   constexpr int usual = 17;
   const int width = std::min(usual, frame.width() / 2);
   const QRect knob(frame.right() - width, frame.top() + 1, width, frame.height() - 2);

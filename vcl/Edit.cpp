@@ -56,7 +56,7 @@ QString TCustomEdit::ShownText() const {
 int TCustomEdit::TextFlags() const { return AlignmentFlag(Get(Alignment)) | Qt::AlignVCenter; }
 
 QRect TCustomEdit::PaintGround(TCanvas& canvas) const {
-  if (Get(BorderStyle) == TBorderStyle::bsSingle) return PaintEditFrame(canvas, ClientRect(), PartStates());
+  if (Get(BorderStyle) == TBorderStyle::bsSingle) return PaintEditFrame(canvas, ClientRect(), PartStates(), Color());
   canvas.FillRect(ClientRect(), Color());
   return ClientRect();
 }

@@ -21,7 +21,7 @@ TCustomEditButton::TCustomEditButton(TComponent* owner) : TCustomEdit(owner) { S
 void TCustomEditButton::Paint(TCanvas& canvas) {
   const int width = std::clamp(Get(ButtonWidth), 0, std::max(Width() / 2, 0));
   const QRect field = ClientRect().adjusted(0, 0, -width, 0);
-  const QRect inside = PaintEditFrame(canvas, field, PartStates());
+  const QRect inside = PaintEditFrame(canvas, field, PartStates(), Color());
   const QString text = ShownText();
   const bool hint = text.isEmpty() && !Get(TextHint).isEmpty();
   canvas.TextRect(inside, TextFlags(), hint ? Get(TextHint) : text, *Font(), Enabled() && !hint);

@@ -32,7 +32,7 @@ TCustomListBox::TCustomListBox(TComponent* owner) : TCustomListControl(owner) {
 
 void TCustomListBox::Paint(TCanvas& canvas) {
   QRect inside = ClientRect();
-  if (Get(BorderStyle) == TBorderStyle::bsSingle) inside = PaintEditFrame(canvas, inside, PartStates());
+  if (Get(BorderStyle) == TBorderStyle::bsSingle) inside = PaintEditFrame(canvas, inside, PartStates(), Color());
   canvas.FillRect(inside, Color());
   QStringList items = Get(Items)->Lines();
   if (Get(Sorted)) items.sort(Qt::CaseInsensitive);

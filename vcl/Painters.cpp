@@ -84,12 +84,14 @@ void PaintButton(TCanvas& canvas, const QRect& rect, TPartStates states, const Q
   Style().drawControl(QStyle::CE_PushButton, &option, p);
 }
 
-QRect PaintEditFrame(TCanvas& canvas, const QRect& rect, TPartStates states) {
+QRect PaintEditFrame(TCanvas& canvas, const QRect& rect, TPartStates states, TColor ground) {
   Inside p(canvas, rect);
   auto option = OptionFor<QStyleOptionFrame>(rect, states);
   option.lineWidth = Style().pixelMetric(QStyle::PM_DefaultFrameWidth, &option);
   option.state |= QStyle::State_Sunken;
-  if (states.Contains(ReadOnly) || states.Contains(Disabled))
+  if (ground != clWindow)
+    option.palette.setColor(QPalette::Base, ToQColor(ground));
+  else if (states.Contains(ReadOnly) || states.Contains(Disabled))
     option.palette.setBrush(QPalette::Base, option.palette.window());
   Style().drawPrimitive(QStyle::PE_PanelLineEdit, &option, p);
   const QRect inside = Style().subElementRect(QStyle::SE_LineEditContents, &option);

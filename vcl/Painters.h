@@ -6,6 +6,7 @@
 #include <QRect>
 
 #include "rtl/TypeInfo.h"
+#include "vcl/Colors.h"
 
 class QString;
 class TCanvas;
@@ -25,8 +26,9 @@ VRX_ENUM(TCheckBoxState, {"cbUnchecked", "cbChecked", "cbGrayed"})
 
 void PaintButton(TCanvas& canvas, const QRect& rect, TPartStates states, const QString& text,
                  const TFont* font);
-// The frame and ground of an edit; returns where the text is.
-QRect PaintEditFrame(TCanvas& canvas, const QRect& rect, TPartStates states);
+// The frame and ground of an edit; returns where the text is. The window's colour is another one of what is
+// disabled or only read.
+QRect PaintEditFrame(TCanvas& canvas, const QRect& rect, TPartStates states, TColor ground = clWindow);
 // The box or circle itself, in the middle of the rectangle, as large as the style has it.
 void PaintCheckMark(TCanvas& canvas, const QRect& rect, TPartStates states, TCheckBoxState state);
 void PaintRadioMark(TCanvas& canvas, const QRect& rect, TPartStates states, bool checked);

@@ -6,25 +6,25 @@
 #include "vcl/AsGiven.h"
 #include "vcl/Control.h"
 
-template <int FirstMax>
-class TRangedControl : public TWinControl {
+template <int FirstMax, class Base = TWinControl>
+class TRangedControl : public Base {
  public:
-  using TWinControl::TWinControl;
+  using Base::Base;
   static constexpr TKept<int> Max{"Max", FirstMax};
   static constexpr TKept<int> Min{"Min", 0};
   static constexpr TKept<int> Position{"Position", 0};
 
   // The position stays within its ends; ends that would change places are refused. Ends that a file gives may
   // be in any order.
-  int MaxOf() const { return Get(Max); }
-  void SetMax(int v) { ChangeRange(Get(Min), v); }
-  int MinOf() const { return Get(Min); }
-  void SetMin(int v) { ChangeRange(v, Get(Max)); }
-  int PositionOf() const { return Get(Position); }
+  int MaxOf() const { return this->Get(Max); }
+  void SetMax(int v) { ChangeRange(this->Get(Min), v); }
+  int MinOf() const { return this->Get(Min); }
+  void SetMin(int v) { ChangeRange(v, this->Get(Max)); }
+  int PositionOf() const { return this->Get(Position); }
   void SetPosition(int v) {
-    const int min = Get(Min), max = Get(Max);
+    const int min = this->Get(Min), max = this->Get(Max);
     const bool limited = min <= max && !TakesAsGiven(*this);
-    Set(Position, limited ? std::clamp(v, min, max) : v);
+    this->Set(Position, limited ? std::clamp(v, min, max) : v);
   }
 
  private:
@@ -32,12 +32,12 @@ class TRangedControl : public TWinControl {
     const bool asGiven = TakesAsGiven(*this);
     if (!asGiven && max < min)
       throw EPropertyError(QStringLiteral("%1 cannot go from %2 to %3: Min is not more than Max.")
-                               .arg(Name())
+                               .arg(this->Name())
                                .arg(min)
                                .arg(max));
     const TUpdateLock once(*this);
-    Set(Min, min);
-    Set(Max, max);
-    if (!asGiven) Set(Position, std::clamp(Get(Position), min, max));
+    this->Set(Min, min);
+    this->Set(Max, max);
+    if (!asGiven) this->Set(Position, std::clamp(this->Get(Position), min, max));
   }
 };

@@ -43,7 +43,7 @@ QSize TScrollBox::Reach() const {
 
 void TScrollBox::Paint(TCanvas& canvas) {
   const QRect all(0, 0, Width(), Height());
-  if (Get(BorderStyle) == TBorderStyle::bsSingle) PaintEditFrame(canvas, all, PartStates());
+  if (Get(BorderStyle) == TBorderStyle::bsSingle) PaintEditFrame(canvas, all, PartStates(), Color());
   const QRect client = ClientRect();
   canvas.FillRect(client, Color());
   const QSize reach = Reach();

@@ -97,26 +97,16 @@ class TVRXDateTimePicker : public TVRXCustomCalendarBox {
   bool CountsUp() const;
 };
 
-class TVRXTrackBarComboBox : public TVRXCustomDropDownBox {
+class TVRXTrackBarComboBox : public TRangedControl<10, TVRXCustomDropDownBox> {
   VRX_CLASS(TVRXTrackBarComboBox)
  public:
-  using TVRXCustomDropDownBox::TVRXCustomDropDownBox;
+  using TRangedControl::TRangedControl;
   static constexpr TKept<int> Frequency{"Frequency", 1};
-  static constexpr TKept<int> Max{"Max", 10};
-  static constexpr TKept<int> Min{"Min", 0};
-  static constexpr TKept<int> Position{"Position", 0};
   static constexpr TKept<QString> Prefix{"Prefix"};
   static constexpr TKept<bool> ShowBar{"ShowBar", true};
   static constexpr TKept<QString> Suffix{"Suffix"};
   static constexpr TKept<TTickMark> TickMarks{"TickMarks", TTickMark::tmBottomRight};
   static constexpr TKept<TTickStyle> TickStyle{"TickStyle", TTickStyle::tsAuto};
-
-  int MaxOf() const { return Get(Max); }
-  void SetMax(int v) { ChangeRange(*this, Get(Min), v); }
-  int MinOf() const { return Get(Min); }
-  void SetMin(int v) { ChangeRange(*this, v, Get(Max)); }
-  int PositionOf() const { return Get(Position); }
-  void SetPosition(int v) { ChangePosition(*this, v); }
 
   std::unique_ptr<TControl> MakeDropDown() const override;
 

@@ -51,7 +51,7 @@ TEST_F(ValueDialog, IsKnownByItsIdentifier) {
 TEST_F(ValueDialog, ShowsTheItemsInOrderAndWritesThemByPlace) {
   Recorder control;
   control.names.SetLines(L({"a", "b", "a"}));
-  control.values = L({"1", "2"});
+  control.values = L({"1", "2", "9"});
   for (const bool ok : {false, true}) {
     control.calls.clear();
     modal::NextOf<TVRXValueListDlg>([&](auto& d) {
@@ -62,7 +62,7 @@ TEST_F(ValueDialog, ShowsTheItemsInOrderAndWritesThemByPlace) {
       EXPECT_EQ(grid.headerData(1, Qt::Horizontal, Qt::DisplayRole).toString(), QStringLiteral("Value"));
       EXPECT_EQ(grid.Rows(), (QList<TTextPair>{{QStringLiteral("a"), QStringLiteral("1")},
                                                {QStringLiteral("b"), QStringLiteral("2")},
-                                               {QStringLiteral("a"), QString()}}));
+                                               {QStringLiteral("a"), QStringLiteral("9")}}));
       grid.SetRow(1, {QStringLiteral("c=;"), QStringLiteral("3\n")});
       d.ValueListEditor->Select(2);
       d.DeleteRow->click();
@@ -71,7 +71,7 @@ TEST_F(ValueDialog, ShowsTheItemsInOrderAndWritesThemByPlace) {
     EXPECT_EQ(TVRXValueListDlg::Execute(control), ok);
     EXPECT_EQ(control.calls, ok ? L({"names", "values", "0=1", "1=3\n"}) : QStringList());
     EXPECT_EQ(control.names.Lines(), ok ? L({"a", "c=;"}) : L({"a", "b", "a"}));
-    EXPECT_EQ(control.values, ok ? L({"1", "3\n"}) : L({"1", "2"}));
+    EXPECT_EQ(control.values, ok ? L({"1", "3\n"}) : L({"1", "2", "9"}));
   }
 }
 

@@ -2,8 +2,11 @@
 #include "VclTest.h"
 #include "rtl/PropAccess.h"
 #include "vcl/Button.h"
+#include "vcl/ComboBox.h"
+#include "vcl/Edit.h"
 #include "vcl/Form.h"
 #include "vcl/Label.h"
+#include "vcl/ListBox.h"
 #include "vcl/Panel.h"
 
 namespace {
@@ -213,6 +216,27 @@ TEST(Changes, AreToldOnceAndOnlyWhenReal) {
 }
 
 // --- Disabled pictures
+
+TEST(Look, AFieldHasItsColourUpToItsFrame) {
+  const ThemeScope light(TTheme::Light);
+  const auto expect = [](TControl& field) {
+    SCOPED_TRACE(field.ClassType().ClassName().constData());
+    field.SetBounds(0, 0, 90, 24);
+    for (const bool enabled : {true, false}) {
+      field.SetEnabled(enabled);
+      field.SetColor(clYellow);
+      const QImage picture = Draw(field);
+      for (const QPoint at : {QPoint(2, 12), QPoint(40, 2), QPoint(40, field.Height() - 3)})
+        EXPECT_EQ(picture.pixelColor(at), QColor(Qt::yellow)) << at.x() << ' ' << at.y();
+    }
+  };
+  TEdit edit(nullptr);
+  TComboBox combo(nullptr);
+  TListBox list(nullptr);
+  for (TControl* field :
+       {static_cast<TControl*>(&edit), static_cast<TControl*>(&combo), static_cast<TControl*>(&list)})
+    expect(*field);
+}
 
 TEST(Look, ADisabledIconIsFainterThanTheEnabledOneInBothThemes) {
   for (const TTheme theme : {TTheme::Light, TTheme::Dark}) {
