@@ -562,9 +562,8 @@ TEST_F(AncestorTest, WhatFollowsAnEditIsWrittenWhereTheAncestorSaysSomethingElse
       "  end\nend\n");
   const auto session = Open("Derived.dfm");
   EXPECT_EQ(Edited(*session, [&] { session->Form().SetClientWidth(500); }),
-            "+  ClientWidth = 500|+  inherited Panel1: TPanel|+    Width = 500|+    inherited Button1: "
-            "TButton|+    "
-            "  Left = 420|+    end|+  end");
+            "+ClientWidth = 500|+inherited Panel1: TPanel|+Width = 500|+inherited Button1: TButton|+Left = "
+            "420|+end|+end");
 }
 
 TEST_F(AncestorTest, WhatFollowsInsideOfAFrameIsWrittenThere) {
@@ -573,7 +572,7 @@ TEST_F(AncestorTest, WhatFollowsInsideOfAFrameIsWrittenThere) {
                                          "    Anchors = [akLeft, akTop, akRight]\n    Caption = 'Field'\n"));
   const auto session = Open("Host.dfm");
   EXPECT_EQ(Edited(*session, [&] { Control(*session, "Head1").SetWidth(200); }),
-            "-    Width = 160|+    Width = 200|+    inherited Field: TButton|+      Width = 115|+    end");
+            "-Width = 160|+Width = 200|+inherited Field: TButton|+Width = 115|+end");
 }
 
 TEST_F(AncestorTest, TooManyAboveEachOtherAreTold) {

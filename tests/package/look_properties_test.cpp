@@ -130,10 +130,11 @@ TEST_F(LookProperties, AFigureIsWrittenWhateverTheAnswer) {
   });
   EXPECT_EQ(first.Get(B::Shape), TVRXShapeType::stStar);
   EXPECT_EQ(second.Get(B::Shape), TVRXShapeType::stStar);
-  second.Set(B::Shape, TVRXShapeType::stComb);
+  designer.modified = 0;
   Edit<TVRXShapeEditorDlg>(*Editor("Shape"), false, [](auto& d) { d.pred->setCurrentIndex(0); });
   EXPECT_EQ(first.Get(B::Shape), TVRXShapeType::stStar);
-  EXPECT_EQ(second.Get(B::Shape), TVRXShapeType::stStar) << "the first one's, unchanged";
+  EXPECT_EQ(second.Get(B::Shape), TVRXShapeType::stStar);
+  EXPECT_EQ(designer.modified, 1) << "unchanged, and written";
 }
 
 TEST_F(LookProperties, ALightColourIsPickedForAllSelected) {
