@@ -42,7 +42,9 @@ class TVRXValued : public Base, public IVRXValueListControl, private IVRXValueHo
     values[index] = value;
     this->Get(Values)->SetLines(values);
   }
-  void KeepFirst(int count) override { this->Get(Values)->SetLines(Behind().mid(0, count)); }
+  void Remove(int index, int count) override {
+    this->Get(Values)->SetLines(Behind().mid(0, index) + Behind().mid(index + count));
+  }
 
   QString value_;
 };

@@ -1,5 +1,7 @@
 #include "library/values/DateList.h"
 
+#include <QLocale>
+
 #include "rtl/Class.h"
 #include "rtl/DateText.h"
 #include "rtl/Exceptions.h"
@@ -14,7 +16,7 @@ namespace {
 QString TextOf(TDateTime moment) {
   if (moment.Days == 0) return QStringLiteral("1899-12-30");
   const QString text = DateTimeToText(moment);
-  return TextToDateTime(text) == moment ? text : QString::number(moment.Days, 'g', 17);
+  return TextToDateTime(text) == moment ? text : QString::number(moment.Days, 'g', QLocale::FloatingPointShortest);
 }
 }  // namespace
 

@@ -12,8 +12,8 @@ class IVRXValueHolder {
   virtual QString Value(int index) const = 0;
   // Makes room where there is none.
   virtual void SetValue(int index, const QString& value) = 0;
-  // Drops what is behind the first ones.
-  virtual void KeepFirst(int count) = 0;
+  // Takes out so many, where there are as many; what is behind them moves up.
+  virtual void Remove(int index, int count) = 0;
 };
 
 class IVRXValueListControl {

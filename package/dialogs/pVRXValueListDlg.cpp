@@ -22,6 +22,7 @@ void TVRXValueListDlg::UpdateView() {
   const IVRXValueHolder& values = control_->ItemValues();
   QList<TTextPair> rows;
   for (int i = 0; i < names.size(); ++i) rows.append({names[i], values.Value(i)});
+  shown_ = static_cast<int>(rows.size());
   ValueListEditor->Pairs().SetRows(rows);
   ValueListEditor->Select(rows.isEmpty() ? -1 : 0);
 }
@@ -34,7 +35,11 @@ void TVRXValueListDlg::UpdateData() {
   int index = 0;
   for (const TTextPair& row : ValueListEditor->Rows()) {
     names.Add(row.First);
-    values.SetValue(index++, row.Second);
+    // A row that has none and had none writes none, which would make room for it.
+    if (index >= shown_ || !row.Second.isEmpty() || !values.Value(index).isEmpty())
+      values.SetValue(index, row.Second);
+    ++index;
   }
-  values.KeepFirst(index);  // those of rows that were removed
+  // Those of rows that were removed. What no row ever showed stays.
+  if (index < shown_) values.Remove(index, shown_ - index);
 }

@@ -23,4 +23,5 @@ class TVRXValueListDlg : public PairsDialog {
 
  private:
   IVRXValueListControl* control_ = nullptr;
+  int shown_ = 0;  // rows at first
 };

@@ -35,7 +35,7 @@ class Recorder : public IVRXValueListControl, private IVRXValueHolder {
     values.resize(std::max<qsizetype>(values.size(), index + 1));
     values[index] = value;
   }
-  void KeepFirst(int count) override { values.resize(count); }
+  void Remove(int index, int count) override { values = values.mid(0, index) + values.mid(index + count); }
 };
 template <class C>
 void Fill(C& control) {
@@ -46,6 +46,25 @@ void Fill(C& control) {
 
 TEST_F(ValueDialog, IsKnownByItsIdentifier) {
   EXPECT_STREQ(qobject_interface_iid<IVRXValueListControl*>(), "{A4471D99-9D56-4D26-89DF-289AB1DDE66C}");
+}
+
+TEST_F(ValueDialog, UntouchedItLeavesValuesAloneThatNoRowShowsAndAddsNone) {
+  const auto confirm = [](Recorder& control) {
+    modal::NextOf<TVRXValueListDlg>([](auto& d) { d.OkBtn->click(); });
+    EXPECT_TRUE(TVRXValueListDlg::Execute(control));
+    return control.values;
+  };
+  Recorder more;
+  more.names.SetLines(L({"one", "two"}));
+  more.values = L({"1", "2", "x", "y"});
+  EXPECT_EQ(confirm(more), L({"1", "2", "x", "y"}));
+  Recorder none;
+  none.values = L({"1", "2"});
+  EXPECT_EQ(confirm(none), L({"1", "2"}));
+  Recorder fewer;
+  fewer.names.SetLines(L({"one", "two", "three"}));
+  fewer.values = L({"1"});
+  EXPECT_EQ(confirm(fewer), L({"1"}));
 }
 
 TEST_F(ValueDialog, ShowsTheItemsInOrderAndWritesThemByPlace) {
