@@ -6,6 +6,7 @@
 #include "cli/Commands.h"
 #include "cli/OpenForm.h"
 #include "cli/Suggest.h"
+#include "forms/KeptValues.h"
 #include "forms/FormFile.h"
 #include "forms/TextWriter.h"
 #include "ide/BoundsCheck.h"

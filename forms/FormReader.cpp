@@ -1,6 +1,7 @@
 #include "forms/FormReader.h"
 
 #include "forms/ForeignWords.h"
+#include "forms/KeptValues.h"
 #include "rtl/ClassRegistry.h"
 #include "rtl/PropAccess.h"
 

@@ -1,6 +1,6 @@
 // What a component looked like before and after an edit, and how its document follows.
 #pragma once
-#include "forms/Binding.h"
+#include "forms/PropertyValues.h"
 
 namespace forms {
 

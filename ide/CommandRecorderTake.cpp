@@ -1,5 +1,6 @@
 // The end of a command: what was noted on the way becomes differences of values and structure.
 #include "ide/CommandRecorder.h"
+#include "forms/KeptValues.h"
 #include "ide/LostAction.h"
 #include "ide/StandIns.h"
 #include "vcl/Nested.h"

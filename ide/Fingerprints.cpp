@@ -1,6 +1,6 @@
 #include "ide/Fingerprints.h"
 
-#include "forms/Binding.h"
+#include "forms/PropertyValues.h"
 #include "ide/BoundsCheck.h"
 #include "rtl/ClassRegistry.h"
 

@@ -7,6 +7,8 @@
 #include "designintf/PropertyEditor.h"
 #include "ide/RefusedData.h"
 
+struct InspectorNode;
+
 class InspectorModel : public QAbstractItemModel {
   Q_OBJECT
  public:
@@ -58,7 +60,7 @@ class InspectorModel : public QAbstractItemModel {
   Qt::ItemFlags flags(const QModelIndex& index) const override;
 
  private:
-  struct Node;
+  using Node = InspectorNode;
   Node* NodeAt(const QModelIndex& index) const;
   bool Belongs(const TPropertyEditor& editor) const;
   static std::vector<TPersistent*> ObjectsOf(const Node& node);

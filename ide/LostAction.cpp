@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "forms/Binding.h"
 #include "rtl/Exceptions.h"
 #include "rtl/PropAccess.h"
 

@@ -1,5 +1,6 @@
 #include "ide/RefusedData.h"
 
+#include "forms/KeptValues.h"
 #include "designintf/PartPath.h"
 #include "rtl/Exceptions.h"
 

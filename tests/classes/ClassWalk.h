@@ -2,6 +2,7 @@
 #pragma once
 #include "designintf/DesignRegistry.h"
 #include "forms/Binding.h"
+#include "forms/PropertyValues.h"
 #include "rtl/Class.h"
 #include "vcl/Form.h"
 

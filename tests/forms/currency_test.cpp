@@ -1,6 +1,7 @@
 // Money between files and properties: exact to the ten-thousandth, on both sides of zero, both ways.
 #include "FormTest.h"
 #include "forms/Binding.h"
+#include "forms/PropertyValues.h"
 #include "rtl/PropAccess.h"
 
 using namespace formtest;

@@ -2,7 +2,7 @@
 // text to remember, is the oracle.
 #include <QRandomGenerator>
 
-#include "forms/Binding.h"
+#include "forms/PropertyValues.h"
 #include "tests/ide/SessionTest.h"
 
 namespace {
