@@ -3,7 +3,9 @@
 #include <QApplication>
 #include <QTemporaryDir>
 #include <QTextStream>
+#include <span>
 
+#include "bench/DialogTasks.h"
 #include "bench/Generate.h"
 #include "bench/HtmlTasks.h"
 #include "bench/Measure.h"
@@ -19,7 +21,7 @@ const std::map<QString, void (*)(const QString&, const QString&)>& TaskTable() {
       {QStringLiteral("save-form"), MeasureFormSave}, {QStringLiteral("edit-form"), MeasureEdit},
       {QStringLiteral("modified"), MeasureModified},  {QStringLiteral("pixels"), MeasurePixels},
       {QStringLiteral("window"), MeasureWindow},      {QStringLiteral("paint"), MeasurePaint},
-      {QStringLiteral("html"), MeasureHtml},
+      {QStringLiteral("html"), MeasureHtml},          {QStringLiteral("dates"), MeasureDates},
   };
   return table;
 }
@@ -48,12 +50,24 @@ class Files {
   QTemporaryDir folder_;
 };
 
-struct PixelRow {
+// A pair of times that a task of its own measures.
+struct PairRow {
   const char* key;
   const char* what;
   const char* target;
 };
-constexpr PixelRow PixelRows[] = {
+constexpr PairRow PaintRows[] = {
+    {"paint", "Paint a form of 500 mixed standard controls / the same by plain calls of the style",
+     "at most 3"},
+};
+constexpr PairRow HtmlRows[] = {
+    {"cold", "Draw 1,000 rows of markup: time / the same by QTextDocument", "at most 1"},
+    {"warm", "Draw 1,000 rows of markup again: time / the same by QTextDocument", "at most 1"},
+};
+constexpr PairRow DateRows[] = {
+    {"dates", "Open the list of 100,000 dates / fill a standard item model with their texts", "at most 3"},
+};
+constexpr PairRow PixelRows[] = {
     {"region", "Region of a picture: time / copying its pixels and rectangles", "at most 4"},
     {"pixman", "Region: time of pixman / ours", "at least 4"},
     {"many", "Region: 500 transparent colours / one", "at most 2.5"},
@@ -79,6 +93,7 @@ class Bench {
       Window();
       Paint();
       Html();
+      Dates();
     }
     Pixels();
   }
@@ -190,42 +205,27 @@ class Bench {
     }
   }
 
-  void Paint() {
-    Pairs all;
-    for (int i = 0; i < 3; ++i)
-      all.Add(Results::RunApart({QStringLiteral("paint"), {}, {}}).ThePairs("paint"));
-    Row(QStringLiteral("Paint a form of 500 mixed standard controls / the same by plain calls of the style"),
-        QStringLiteral("at most 3"), all);
-  }
-
-  void Html() {
-    Pairs cold, warm;
+  // Several processes, because where its memory lies stays with a process.
+  void Alone(std::span<const PairRow> rows, const QStringList& task, const QString& where = {}) {
+    std::map<const char*, Pairs> all;
     for (int i = 0; i < 3; ++i) {
-      const Results r = Results::RunApart({QStringLiteral("html"), {}, {}});
-      cold.Add(r.ThePairs("cold"));
-      warm.Add(r.ThePairs("warm"));
+      const Results r = Results::RunApart(task);
+      for (const PairRow& row : rows)
+        if (r.Has(row.key)) all[row.key].Add(r.ThePairs(row.key));
     }
-    Row(QStringLiteral("Draw 1,000 rows of markup: time / the same by QTextDocument"),
-        QStringLiteral("at most 1"), cold);
-    Row(QStringLiteral("Draw 1,000 rows of markup again: time / the same by QTextDocument"),
-        QStringLiteral("at most 1"), warm);
+    for (const PairRow& row : rows)
+      if (all.contains(row.key))
+        Row(QString::fromLatin1(row.what) + where, QString::fromLatin1(row.target), all[row.key]);
   }
+  void Paint() { Alone(PaintRows, {QStringLiteral("paint"), {}, {}}); }
+  void Html() { Alone(HtmlRows, {QStringLiteral("html"), {}, {}}); }
+  void Dates() { Alone(DateRows, {QStringLiteral("dates"), {}, {}}); }
 
   void Pixels() {
     for (const char* size : {"1920x1080", "4096x4096"})
       for (const char* kind : {"noise", "blobs", "text"}) {
         const QString name = QString::fromLatin1(kind), area = QString::fromLatin1(size);
-        // Several processes, because where its memory lies stays with a process.
-        std::map<const char*, Pairs> all;
-        for (int i = 0; i < 3; ++i) {
-          const Results r = Results::RunApart({QStringLiteral("pixels"), name, area});
-          for (const PixelRow& row : PixelRows)
-            if (r.Has(row.key)) all[row.key].Add(r.ThePairs(row.key));
-        }
-        for (const PixelRow& row : PixelRows)
-          if (all.contains(row.key))
-            Row(QStringLiteral("%1 (%2, %3)").arg(QString::fromLatin1(row.what), name, area),
-                QString::fromLatin1(row.target), all[row.key]);
+        Alone(PixelRows, {QStringLiteral("pixels"), name, area}, QStringLiteral(" (%1, %2)").arg(name, area));
       }
   }
 
