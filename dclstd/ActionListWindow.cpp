@@ -64,7 +64,8 @@ void ActionListWindow::FillNewMenu() {
   for (const TPalettePage& page : DesignRegistry::Current().ActionCategories()) {
     QMenu* below = menu->addMenu(page.Name.isEmpty() ? tr("(No Category)") : page.Name);
     for (const TClass* cls : page.Classes)
-      below->addAction(QString::fromLatin1(cls->ClassName()), this, [this, cls] { AddAction(*cls); });
+      below->addAction(QString::fromLatin1(cls->ClassName()), this,
+                       [this, cls, category = page.Name] { AddAction(*cls, category); });
   }
   if (menu->isEmpty()) return delete menu;
   add->setMenu(menu);
@@ -191,9 +192,9 @@ void ActionListWindow::EnableButtons() {
   down->setEnabled(count > 0 && !isAt(shown_.size() - count));
 }
 
-void ActionListWindow::AddAction(const TClass& cls) {
+void ActionListWindow::AddAction(const TClass& cls, const QString& usual) {
   const int row = categories->currentRow();
-  const QString category = row < FirstCategory ? QString() : categories->item(row)->text();
+  const QString category = row < FirstCategory ? usual : categories->item(row)->text();
   TContainedAction* made = nullptr;
   {
     const QScopedValueRollback loading(loading_, true);

@@ -13,7 +13,8 @@ class ActionListWindow : public ComponentWindow {
 
   TActionList& List() const;
   // Behind the others, in the category that is shown.
-  void AddAction(const TClass& cls);
+  // In the category that is shown, else in its usual one.
+  void AddAction(const TClass& cls, const QString& usual = {});
   void DeleteActions();
   void MoveActions(int by);
   void SelectionChanged(IDesigner* designer, const TDesignerSelections& list) override;

@@ -130,9 +130,25 @@ const Row kRows[] = {
         {"Caption", "Color", "Font", "ParentColor", "ParentFont", "Visible", "Transparent", "Cursor",
          "BevelInner", "BevelOuter", "BevelWidth", "BorderStyle", "BorderIcons", "LED", "Enabled"}),
 };
+
+// What the list of actions offers, in the order of the table.
+std::vector<Row> CategoriesOfActions() {
+  std::vector<std::pair<const char*, ClassList>> categories;
+  for (std::size_t i = 0; i < StandardActionRows().size(); ++i) {
+    const char* const name = StandardActionRows()[i].Category;
+    auto at = std::find_if(categories.begin(), categories.end(),
+                           [&](const auto& c) { return std::string_view(c.first) == name; });
+    if (at == categories.end()) at = categories.insert(at, {name, {{}, true}});
+    at->second.classes.push_back(StandardActionClasses()[i]);
+  }
+  std::vector<Row> rows;
+  for (const auto& [name, classes] : categories) rows.push_back(Actions(name, classes));
+  return rows;
+}
 }  // namespace
 
 void RegisterStandard(DesignRegistry& registry) {
   const RegistrationScope scope(registry, nullptr, {});
   MakeCalls(kRows);
+  MakeCalls(CategoriesOfActions());
 }

@@ -5,6 +5,7 @@
 
 #include "dclstd/ColorComboBox.h"
 #include "dclstd/OneShotComboBox.h"
+#include "dclstd/SpinEdit.h"
 #include "designintf/CustomColors.h"
 #include "designintf/IdeTheme.h"
 #include "rtl/Class.h"
@@ -178,7 +179,11 @@ QPushButton* RowDialog::NewButton(const char* name, const char* text, const char
 }
 
 void RowDialog::OnClick(QPushButton* button, std::function<void()> handler) {
-  connect(button, &QPushButton::clicked, this, [this, handler = std::move(handler)] { Guarded(handler); });
+  connect(button, &QPushButton::clicked, this, [this, handler = std::move(handler)] {
+    // A shortcut leaves the focus in the field: what was typed there is of what is shown before the click.
+    if (auto* typed = qobject_cast<SpinEdit*>(focusWidget())) typed->EndTyping();
+    Guarded(handler);
+  });
 }
 void RowDialog::OnClick(QToolButton* button, std::function<void()> handler) {
   connect(button, &QToolButton::clicked, this, [this, handler = std::move(handler)] { Guarded(handler); });

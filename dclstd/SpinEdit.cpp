@@ -61,6 +61,7 @@ void SpinEdit::stepBy(int steps) {
 void SpinEdit::EndTyping() {
   if (!std::exchange(typing_, false)) return;
   if (const std::optional<int> shown = pending_ ? pending_ : replaced_) Show(*shown);
+  if (hasFocus()) selectAll();
 }
 
 void SpinEdit::keyPressEvent(QKeyEvent* event) {

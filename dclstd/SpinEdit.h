@@ -18,6 +18,8 @@ class SpinEdit : public QSpinBox {
   // What is shown.
   int Shown() const { return outside_.value_or(value()); }
 
+  // A text that is being typed is taken, and what waits to be shown is.
+  void EndTyping();
   void stepBy(int steps) override;
 
  protected:
@@ -28,7 +30,6 @@ class SpinEdit : public QSpinBox {
 
  private:
   void Edited();
-  void EndTyping();
   void FitLength();
   int maxLength_ = 0;
   bool typing_ = false;

@@ -77,7 +77,7 @@ class InspectorPane : public QWidget {
   void TellDescription();
   void JumpTo(const QString& typed);
   bool FilterKey(int key);
-  bool ListKey(int key, const QString& text);
+  bool ListKey(const QKeyEvent& event);
   void CellClicked(const QPoint& pos);
   QModelIndex CurrentRow() const;
 

@@ -85,9 +85,13 @@ bool InspectorPane::FilterKey(int key) {
   return true;
 }
 
-bool InspectorPane::ListKey(int key, const QString& text) {
+bool InspectorPane::ListKey(const QKeyEvent& event) {
+  const int key = event.key();
+  const QString text = event.text();
   if (key == Qt::Key_Return || key == Qt::Key_Enter || key == Qt::Key_F2) {
     FocusValue();
+    // With Ctrl it is for the dialog, wherever the focus was.
+    if (event.modifiers() & Qt::ControlModifier && editor_->EllipsisButton()->isVisible()) OpenDialog();
     return true;
   }
   if (text.isEmpty() || !text[0].isLetter()) return false;
@@ -115,7 +119,7 @@ bool InspectorPane::eventFilter(QObject* watched, QEvent* event) {
   if (event->type() == QEvent::KeyPress) {
     const auto* key = static_cast<QKeyEvent*>(event);
     if (watched == filter_ && FilterKey(key->key())) return true;
-    if (watched == view_ && ListKey(key->key(), key->text())) return true;
+    if (watched == view_ && ListKey(*key)) return true;
   }
   if (watched != view_->viewport()) return QWidget::eventFilter(watched, event);
   if (event->type() == QEvent::Resize) PlaceEditor();

@@ -1,6 +1,6 @@
 #include "vcl/Calendar.h"
 
-#include <QLocale>
+#include <QSet>
 #include <cmath>
 
 #include "rtl/Class.h"
@@ -18,6 +18,32 @@ const TTypeInfo& TimeType() {
 namespace {
 QDate Today() { return QDate::currentDate(); }
 }  // namespace
+
+QString PlainNumber(const QLocale& locale, int value) {
+  QLocale plain = locale;
+  plain.setNumberOptions(QLocale::OmitGroupSeparator);
+  return plain.toString(value);
+}
+
+QString DayHeading(const QLocale& locale, int day) {
+  const auto cut = [&](int d) { return locale.dayName(d, QLocale::ShortFormat).left(2); };
+  const auto narrow = [&](int d) { return locale.dayName(d, QLocale::NarrowFormat); };
+  const auto whole = [&](int d) { return locale.dayName(d, QLocale::ShortFormat); };
+  const auto differ = [](const auto& name) {
+    QSet<QString> names;
+    for (int d = 1; d <= 7; ++d) names.insert(name(d));
+    return names.size() == 7;
+  };
+  return differ(cut) ? cut(day) : differ(narrow) ? narrow(day) : whole(day);
+}
+
+QString MonthHeading(const QLocale& locale, QDate month) {
+  const QString whole = locale.dateFormat(QLocale::LongFormat);
+  const qsizetype year = whole.indexOf(u'y'), day = whole.indexOf(u'd', std::max<qsizetype>(year, 0));
+  const bool yearFirst = year >= 0 && year < whole.indexOf(u'M') && day > whole.lastIndexOf(u'M');
+  return locale.toString(month,
+                         yearFirst ? whole.sliced(year, day - year).trimmed() : QStringLiteral("MMMM yyyy"));
+}
 
 QDate DayOf(TDateTime value) {
   constexpr double most = 3'000'000;  // beyond year 9999
@@ -101,25 +127,24 @@ void TMonthCalendar::Paint(TCanvas& canvas) {
   const QLocale words;
   const QRect title = cell(0, 0).united(cell(0, columns - 1));
   canvas.FillRect(title, colors.TitleBackColor());
-  write(title, words.toString(first, QStringLiteral("MMMM yyyy")), colors.TitleTextColor());
+  write(title, MonthHeading(words, first), colors.TitleTextColor());
   canvas.FillRect(cell(1, 0).united(cell(7, columns - 1)), colors.MonthBackColor());
   const int begins = Get(FirstDayOfWeek) == TCalDayOfWeek::dowLocaleDefault
                          ? words.firstDayOfWeek()
                          : static_cast<int>(Get(FirstDayOfWeek)) + 1;
   const QDate from = first.addDays(-((first.dayOfWeek() - begins + 7) % 7));
   for (int i = 0; i < 7; ++i)
-    write(cell(1, lead + i), words.dayName((begins - 1 + i) % 7 + 1, QLocale::ShortFormat).left(2),
-          colors.TitleBackColor());
+    write(cell(1, lead + i), DayHeading(words, (begins - 1 + i) % 7 + 1), colors.TitleBackColor());
   const QRect line = cell(1, 0).united(cell(1, columns - 1));
   canvas.FillRect(QRect(line.left() + 3, line.bottom(), line.width() - 6, 1), colors.TextColor());
   for (int i = 0; i < 42; ++i) {
     const QDate date = from.addDays(i);
     const QRect rect = cell(2 + i / 7, lead + i % 7);
     if (lead > 0 && i % 7 == 0)
-      write(cell(2 + i / 7, 0), QString::number(date.weekNumber()), colors.TitleBackColor());
+      write(cell(2 + i / 7, 0), PlainNumber(words, date.weekNumber()), colors.TitleBackColor());
     const bool chosen = date == day;
-    if (chosen) canvas.FillRect(rect, clHighlight);
-    write(rect, QString::number(date.day()),
+    if (chosen) canvas.FillRect(rect, Enabled() ? clHighlight : clBtnShadow);
+    write(rect, PlainNumber(words, date.day()),
           chosen                          ? clHighlightText
           : date.month() == first.month() ? colors.TextColor()
                                           : colors.TrailingTextColor());

@@ -1,6 +1,7 @@
 // Days: the colours that calendars have, and the page of a month.
 #pragma once
 #include <QDate>
+#include <QLocale>
 
 #include "vcl/Control.h"
 
@@ -22,6 +23,13 @@ const TTypeInfo& DateType();
 const TTypeInfo& TimeType();
 // The day of a value; today for 0, as a calendar that nobody gave a day shows it.
 QDate DayOf(TDateTime value);
+
+// Headings of a calendar as the country writes them: the day (1 is Monday) so short that the seven differ,
+// and the month with its year.
+QString DayHeading(const QLocale& locale, int day);
+QString MonthHeading(const QLocale& locale, QDate month);
+// In its digits, without separators.
+QString PlainNumber(const QLocale& locale, int value);
 
 class TMonthCalColors : public TOwnedPersistent {
   VRX_CLASS(TMonthCalColors)

@@ -96,8 +96,10 @@ const TClass& TCustomColorListBox::StaticClass() {
 
 void TCustomColorListBox::Paint(TCanvas& canvas) {
   QRect inside = ClientRect();
-  if (Get(BorderStyle) == TBorderStyle::bsSingle) inside = PaintEditFrame(canvas, inside, PartStates(), Color());
-  canvas.FillRect(inside, Color());
+  if (Get(BorderStyle) == TBorderStyle::bsSingle)
+    inside = PaintEditFrame(canvas, inside, PartStates(), Color());
+  else
+    canvas.FillRect(inside, Color());
   TFont onHighlight;
   onHighlight.Assign(Font());
   onHighlight.SetColor(clHighlightText);
@@ -109,9 +111,9 @@ void TCustomColorListBox::Paint(TCanvas& canvas) {
     const bool chosen = offered.color == Get(Selected);
     canvas.Painter().save();
     canvas.Painter().setClipRect(inside, Qt::IntersectClip);
-    if (chosen) canvas.FillRect(line, clHighlight);
+    if (chosen) canvas.FillRect(line, Enabled() ? clHighlight : clBtnShadow);
     PaintColorLine(canvas, line, ShownColor(*this, offered.color), offered.text,
-                   chosen ? onHighlight : *Font(), Enabled());
+                   chosen ? onHighlight : *Font(), Enabled() || chosen);
     canvas.Painter().restore();
     line.translate(0, height);
   }

@@ -16,6 +16,8 @@ class THeaderSection : public TCollectionItem {
   static constexpr TKept<TAlignment> Alignment{"Alignment", TAlignment::taLeftJustify};
   // Those that do share what the others leave.
   static constexpr TKept<bool> AutoSize{"AutoSize", false};
+  static constexpr TKept<bool> CheckBox{"CheckBox", false};
+  static constexpr TKept<bool> Checked{"Checked", false};
   static constexpr TKept<int> ImageIndex{"ImageIndex", -1};
   static constexpr TKept<int> MaxWidth{"MaxWidth", 10000};
   static constexpr TKept<int> MinWidth{"MinWidth", 0};
@@ -37,13 +39,18 @@ class THeaderControl : public TWinControl {
   VRX_CLASS(THeaderControl)
  public:
   explicit THeaderControl(TComponent* owner);
+  static constexpr TKept<int> BorderWidth{"BorderWidth", 0};
+  static constexpr TKept<bool> CheckBoxes{"CheckBoxes", false};
   static constexpr TKept<TCustomImageList*> Images{"Images"};
+  static constexpr TKept<THeaderStyle> Style{"Style", THeaderStyle::hsButtons};
   static constexpr TKept<THeaderSections*> Sections{"Sections"};
 
-  // Where the sections stand, one after the other.
+  // Where the sections stand, one after the other, inside of the border.
   std::vector<QRect> SectionRects() const;
   void Paint(TCanvas& canvas) override;
 
  protected:
+  QRect Room() const;
+  void PaintCell(TCanvas& canvas, const QRect& rect) const;
   virtual void PaintSectionText(TCanvas& canvas, const QRect& rect, const THeaderSection& section) const;
 };

@@ -32,10 +32,13 @@ TCustomListBox::TCustomListBox(TComponent* owner) : TCustomListControl(owner) {
 
 void TCustomListBox::Paint(TCanvas& canvas) {
   QRect inside = ClientRect();
-  if (Get(BorderStyle) == TBorderStyle::bsSingle) inside = PaintEditFrame(canvas, inside, PartStates(), Color());
-  canvas.FillRect(inside, Color());
+  if (Get(BorderStyle) == TBorderStyle::bsSingle)
+    inside = PaintEditFrame(canvas, inside, PartStates(), Color());
+  else
+    canvas.FillRect(inside, Color());
   QStringList items = Get(Items)->Lines();
   if (Get(Sorted)) items.sort(Qt::CaseInsensitive);
+  if (items.isEmpty() && IsDesigning()) items << Name();
   const int own = Get(ItemHeight), height = own > 0 && Get(Style) != TListBoxStyle::lbStandard
                                                 ? own
                                                 : TextExtent(QStringLiteral("Wg"), *Font()).height();
@@ -52,9 +55,9 @@ void TCustomListBox::Paint(TCanvas& canvas) {
     line = line.intersected(inside);
     const bool chosen = i == chosenItem;
     QRect text = PaintItemMark(canvas, line, i);
-    if (chosen) canvas.FillRect(text, clHighlight);
+    if (chosen) canvas.FillRect(text, Enabled() ? clHighlight : clBtnShadow);
     canvas.TextRect(text.adjusted(2, 0, 0, 0), Qt::AlignLeft | Qt::AlignVCenter, items[i],
-                    chosen ? onHighlight : *Font(), Enabled());
+                    chosen ? onHighlight : *Font(), Enabled() || chosen);
   }
 }
 

@@ -166,8 +166,8 @@ void TVRXCalendar::Paint(TCanvas& canvas) {
 void TVRXCalendar::PaintTitle(TCanvas& canvas, const Page& page) const {
   const TMonthCalColors& colors = *Get(CalColors);
   canvas.FillRect(page.Row(0), Enabled() ? colors.TitleBackColor() : clBtnFace);
-  Write(canvas, PartRect(TVRXCalendarPart::Title),
-        QLocale().toString(page.first, QStringLiteral("MMMM yyyy")), colors.TitleTextColor());
+  Write(canvas, PartRect(TVRXCalendarPart::Title), MonthHeading(QLocale(), page.first),
+        colors.TitleTextColor());
   for (const auto part : {TVRXCalendarPart::PreviousMonth, TVRXCalendarPart::NextMonth}) {
     const QRect rect = PartRect(part);
     if (rect.isEmpty()) continue;
@@ -189,8 +189,7 @@ void TVRXCalendar::PaintDays(TCanvas& canvas, const Page& page) const {
   const TMonthCalColors& colors = *Get(CalColors);
   const QLocale words;
   for (int i = 0; i < 7; ++i)
-    Write(canvas, page.Cell(1, page.lead + i),
-          words.dayName(page.from.addDays(i).dayOfWeek(), QLocale::ShortFormat).left(2),
+    Write(canvas, page.Cell(1, page.lead + i), DayHeading(words, page.from.addDays(i).dayOfWeek()),
           colors.TitleBackColor());
   const QRect names = page.Row(1);
   canvas.FillRect(QRect(names.left() + 3, names.bottom(), names.width() - 6, 1), colors.TextColor());
@@ -206,7 +205,8 @@ void TVRXCalendar::PaintDays(TCanvas& canvas, const Page& page) const {
   for (int i = 0; i < Days; ++i) {
     const QDate day = page.from.addDays(i);
     if (page.lead > 0 && i % 7 == 0 && HasDays(day))
-      Write(canvas, page.Cell(2 + i / 7, 0), QString::number(WeekNumberOf(day)), colors.TitleBackColor());
+      Write(canvas, page.Cell(2 + i / 7, 0), PlainNumber(QLocale(), WeekNumberOf(day)),
+            colors.TitleBackColor());
     if (const QRect rect = DayRect(day); !rect.isEmpty()) PaintDay(canvas, rect, day, page);
   }
 }
@@ -222,7 +222,7 @@ void TVRXCalendar::PaintDay(TCanvas& canvas, const QRect& rect, QDate day, const
   } else if (day == Day()) {
     canvas.Frame3D(mark, clGrayText, clGrayText, 1);
   }
-  Write(canvas, rect, QString::number(day.day()), ink);
+  Write(canvas, rect, PlainNumber(QLocale(), day.day()), ink);
   if (day != ClockDateTime().date() || !Get(ShowTodayCircle)) return;
   QPainter& p = canvas.Painter();
   p.save();

@@ -66,9 +66,9 @@ void TVRXCustomDropDownBox::PaintKnob(TCanvas& canvas, const QRect& rect) const 
 
 void TVRXCustomDropDownBox::PaintText(TCanvas& canvas, const QRect& room) const {
   const QString text = ShownText();
-  const bool hint = text.isEmpty();
-  PaintPlainText(canvas, room, AlignmentFlag(Get(Alignment)), hint ? Get(TextHint) : text, *Font(),
-                 Enabled() && !hint);
+  const QString hint = Get(TextHint).isEmpty() && IsDesigning() ? Name() : Get(TextHint);
+  PaintPlainText(canvas, room, AlignmentFlag(Get(Alignment)), text.isEmpty() ? hint : text, *Font(),
+                 Enabled() && !text.isEmpty());
 }
 
 int TVRXCustomDropDownBox::RowsHeight(int rows) const {

@@ -25,7 +25,10 @@ const TClass& TVRXHTMLComboBox::StaticClass() {
   return cls;
 }
 
-TVRXHTMLComboBox::TVRXHTMLComboBox(TComponent* owner) : TCustomComboBox(owner) { autoSize_ = true; }
+TVRXHTMLComboBox::TVRXHTMLComboBox(TComponent* owner) : TCustomComboBox(owner) {
+  SetBounds(0, 0, 144, 23);
+  autoSize_ = true;
+}
 
 QSize TVRXHTMLComboBox::AutoSizeHint() const {
   const int own = Get(ItemHeight);
@@ -41,5 +44,9 @@ void TVRXHTMLComboBox::PaintField(TCanvas& canvas, const QRect& inside) {
   const bool chosen = index >= 0 && index < items.size();
   html::Setup setup = html::SetupFor(*Font(), Enabled() && chosen, inside.width(), Get(Images));
   setup.wrap = false;
-  html::Draw(canvas, inside, Qt::AlignVCenter, chosen ? items[index] : Get(TextHint), setup, Get(Images));
+  html::Draw(canvas, inside, Qt::AlignVCenter,
+             chosen                                       ? items[index]
+             : !Get(TextHint).isEmpty() || !IsDesigning() ? Get(TextHint)
+                                                          : Name().toHtmlEscaped(),
+             setup, Get(Images));
 }

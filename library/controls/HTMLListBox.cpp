@@ -96,6 +96,14 @@ TVRXCustomHTMLListBox::Arrangement TVRXCustomHTMLListBox::Arranged(const QString
   return all;
 }
 
+// While a form is designed, a list that says nothing has its name there.
+void TVRXCustomHTMLListBox::PaintNothing(TCanvas& canvas, const QRect& room) const {
+  const QString words = EmptyWords();
+  const QRect text = TextOfRow(room);
+  html::Draw(canvas, text, Qt::AlignTop, words.isEmpty() && IsDesigning() ? Name().toHtmlEscaped() : words,
+             SetupOf(text.width()), Get(Images));
+}
+
 void TVRXCustomHTMLListBox::Paint(TCanvas& canvas) {
   if (Get(BorderStyle) == TBorderStyle::bsSingle) PaintListFrame(canvas, ClientRect(), PartStates());
   const QRect inside = Inside(), room = BelowTitle(inside);
@@ -107,6 +115,7 @@ void TVRXCustomHTMLListBox::Paint(TCanvas& canvas) {
   painter.setClipRect(room, Qt::IntersectClip);
   const QStringList items = Shown();
   if (items.isEmpty()) PaintNothing(canvas, room);
+
   const Arrangement all = Arranged(items);
   const QRectF seen = painter.clipBoundingRect();
   for (const auto& [index, rect] : all.rows) {
@@ -224,11 +233,6 @@ void TVRXHTMLExtListBox::PaintTitle(TCanvas& canvas, const QRect& inside) const 
   canvas.FillRect(QRect(place.left(), place.bottom(), place.width(), 1), Get(LineColor));
   const QRect text = place.adjusted(Side, 2, -Side, -3);
   html::Draw(canvas, text, Qt::AlignVCenter, Get(Title), TitleSetup(text.width()), Get(Images));
-}
-
-void TVRXHTMLExtListBox::PaintNothing(TCanvas& canvas, const QRect& room) const {
-  const QRect text = room.adjusted(Side, Spacing(), -Side, -Spacing());
-  html::Draw(canvas, text, Qt::AlignTop, Get(EmptyText), SetupOf(text.width()), Get(Images));
 }
 
 QString TVRXHTMLExtListBox::LinkAt(QPoint point) const {

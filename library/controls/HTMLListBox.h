@@ -6,7 +6,7 @@
 class TVRXCustomHTMLListBox : public TCustomListBox {
   VRX_CLASS(TVRXCustomHTMLListBox)
  public:
-  using TCustomListBox::TCustomListBox;
+  explicit TVRXCustomHTMLListBox(TComponent* owner) : TCustomListBox(owner) { SetBounds(0, 0, 120, 96); }
   // Rows are as high as their markup; otherwise all have ItemHeight, or that of a line.
   static constexpr TKept<bool> AutoItemHeight{"AutoItemHeight", true};
   static constexpr TKept<TCustomImageList*> Images{"Images"};
@@ -33,7 +33,9 @@ class TVRXCustomHTMLListBox : public TCustomListBox {
   // What stands above the rows; returns what is left for them.
   virtual QRect BelowTitle(const QRect& inside) const { return inside; }
   virtual void PaintTitle(TCanvas&, const QRect&) const {}
-  virtual void PaintNothing(TCanvas&, const QRect&) const {}
+  // What stands in the place of rows when there are none.
+  virtual QString EmptyWords() const { return {}; }
+  void PaintNothing(TCanvas& canvas, const QRect& room) const;
   html::Setup SetupOf(int width, bool selected = false) const;
   // Inside of the frame.
   QRect Inside() const;
@@ -93,7 +95,7 @@ class TVRXHTMLExtListBox : public TVRXHTMLListBoxExt {
  protected:
   QRect BelowTitle(const QRect& inside) const override;
   void PaintTitle(TCanvas& canvas, const QRect& inside) const override;
-  void PaintNothing(TCanvas& canvas, const QRect& room) const override;
+  QString EmptyWords() const override { return Get(EmptyText); }
 
  private:
   QRect TitlePlace(const QRect& inside) const;

@@ -39,6 +39,11 @@ const TClass& TVRXEditAutoComplete::StaticClass() {
   return cls;
 }
 
+// The name that a new one shows has room.
+TVRXEditAutoComplete::TVRXEditAutoComplete(TComponent* owner) : TVRXCustomDropDownBox(owner) {
+  SetBounds(0, 0, 176, 23);
+}
+
 QStringList TVRXEditAutoComplete::Suggestions() const {
   const QString& text = Text();
   if (text.size() < std::max(1, Get(MinLength)) || Get(ReadOnly)) return {};
@@ -273,6 +278,10 @@ const TClass& TVRXFormComboBox::StaticClass() {
               "3.2 11.2 17.6 2.6 0 brush none pen line 1.5 path 6 17 11 17 box 14 15.5 5 3 0.5 pen accent "
               "2 path 14.5 6 17 8.5 19.5 6"));
   return cls;
+}
+
+TVRXFormComboBox::TVRXFormComboBox(TComponent* owner) : TVRXCustomDropDownBox(owner) {
+  SetBounds(0, 0, 176, 23);
 }
 
 // What the field itself stands in cannot drop down from it.

@@ -9,7 +9,7 @@ VRX_ENUM(TVRXCompleteMode, {"cmInline", "cmList", "cmBoth"})
 class TVRXEditAutoComplete : public TVRXCustomDropDownBox {
   VRX_CLASS(TVRXEditAutoComplete)
  public:
-  using TVRXCustomDropDownBox::TVRXCustomDropDownBox;
+  explicit TVRXEditAutoComplete(TComponent* owner);
   static constexpr TKept<bool> CaseSensitive{"CaseSensitive", false};
   static constexpr TKept<TVRXCompleteMode> CompleteMode{"CompleteMode", TVRXCompleteMode::cmBoth};
   static constexpr TKept<int> DropDownCount{"DropDownCount", 8};
@@ -76,7 +76,7 @@ class TVRXTagEditor : public TCustomEdit {
 class TVRXFormComboBox : public TVRXCustomDropDownBox {
   VRX_CLASS(TVRXFormComboBox)
  public:
-  using TVRXCustomDropDownBox::TVRXCustomDropDownBox;
+  explicit TVRXFormComboBox(TComponent* owner);
   static constexpr TKept<TWinControl*> DropDownControl{"DropDownControl"};
 
   std::unique_ptr<TControl> MakeDropDown() const override { return nullptr; }

@@ -52,7 +52,7 @@ const TClass& TVRXValueComboBox::StaticClass() {
 
 void TVRXValueComboBox::PaintField(TCanvas& canvas, const QRect& inside) {
   const int chosen = ItemOfValue();
-  const bool hint = chosen < 0 && !Get(TextHint).isEmpty();
-  const QString text = chosen >= 0 ? Names()[chosen] : Get(TextHint);
-  canvas.TextRect(inside, Qt::AlignLeft | Qt::AlignVCenter, text, *Font(), Enabled() && !hint);
+  const QString hint = Get(TextHint).isEmpty() && IsDesigning() ? Name() : Get(TextHint);
+  canvas.TextRect(inside, Qt::AlignLeft | Qt::AlignVCenter, chosen >= 0 ? Names()[chosen] : hint, *Font(),
+                  Enabled() && chosen >= 0);
 }

@@ -52,7 +52,7 @@ class TVRXValued : public Base, public IVRXValueListControl, private IVRXValueHo
 class TVRXValueListBox : public TVRXValued<TCustomListBox> {
   VRX_CLASS(TVRXValueListBox)
  public:
-  using TVRXValued::TVRXValued;
+  explicit TVRXValueListBox(TComponent* owner) : TVRXValued(owner) { SetBounds(0, 0, 120, 96); }
 
  protected:
   int ChosenItem() const override { return ItemOfValue(); }
@@ -62,7 +62,7 @@ class TVRXValueListBox : public TVRXValued<TCustomListBox> {
 class TVRXValueComboBox : public TVRXValued<TCustomComboBox> {
   VRX_CLASS(TVRXValueComboBox)
  public:
-  using TVRXValued::TVRXValued;
+  explicit TVRXValueComboBox(TComponent* owner) : TVRXValued(owner) { SetBounds(0, 0, 144, 23); }
 
  protected:
   void PaintField(TCanvas& canvas, const QRect& inside) override;

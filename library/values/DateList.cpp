@@ -16,7 +16,8 @@ namespace {
 QString TextOf(TDateTime moment) {
   if (moment.Days == 0) return QStringLiteral("1899-12-30");
   const QString text = DateTimeToText(moment);
-  return TextToDateTime(text) == moment ? text : QString::number(moment.Days, 'g', QLocale::FloatingPointShortest);
+  return TextToDateTime(text) == moment ? text
+                                        : QString::number(moment.Days, 'g', QLocale::FloatingPointShortest);
 }
 }  // namespace
 
@@ -29,7 +30,7 @@ TVRXDateEntry TVRXDateList::Entry(int index) const {
     throw EConvertError(QStringLiteral("Entry %1 of the dates, \"%2\", does not begin with a date and \";\".")
                             .arg(index + 1)
                             .arg(text.left(60)));
-  return {*moment, text.mid(end + 1)};
+  return {*moment, text.mid(end + 1), date};
 }
 
 QList<TVRXDateEntry> TVRXDateList::Entries() const {
@@ -39,6 +40,7 @@ QList<TVRXDateEntry> TVRXDateList::Entries() const {
   return entries;
 }
 
-void TVRXDateList::AddDate(TDateTime moment, const QString& description) {
-  Add(TextOf(moment) + u';' + description);
+void TVRXDateList::AddEntry(const TVRXDateEntry& entry) {
+  const bool same = !entry.Written.isEmpty() && TextToDateTime(entry.Written) == entry.Moment;
+  Add((same ? entry.Written : TextOf(entry.Moment)) + u';' + entry.Description);
 }

@@ -7,7 +7,11 @@
 struct TVRXDateEntry {
   TDateTime Moment;
   QString Description;
-  bool operator==(const TVRXDateEntry&) const = default;
+  // How the file writes the moment; written again as long as it says so.
+  QString Written{};
+  bool operator==(const TVRXDateEntry& other) const {
+    return Moment == other.Moment && Description == other.Description;
+  }
 };
 
 class TVRXDateList : public TValueList {
@@ -20,6 +24,7 @@ class TVRXDateList : public TValueList {
   TVRXDateEntry Entry(int index) const;
   QList<TVRXDateEntry> Entries() const;
   // Behind the others.
-  void AddDate(TDateTime moment, const QString& description);
+  void AddDate(TDateTime moment, const QString& description) { AddEntry({moment, description}); }
+  void AddEntry(const TVRXDateEntry& entry);
   void Clear() { SetItems({}); }
 };

@@ -1,6 +1,7 @@
 #include "package/dialogs/LinesTable.h"
 
 #include <QHeaderView>
+#include <QKeyEvent>
 
 LinesTable::LinesTable(QAbstractItemModel* model, const char* name, QWidget* parent) : QTableView(parent) {
   setObjectName(QString::fromLatin1(name));
@@ -24,6 +25,12 @@ int LinesTable::CurrentRow() const { return currentIndex().isValid() ? currentIn
 void LinesTable::Select(int row) {
   if (row < 0 || row >= model()->rowCount()) return selectionModel()->clear();
   setCurrentIndex(model()->index(row, std::max(currentIndex().column(), 0)));
+}
+
+void LinesTable::keyPressEvent(QKeyEvent* event) {
+  const bool last = event->key() == Qt::Key_End;
+  if (!last && event->key() != Qt::Key_Home) return QTableView::keyPressEvent(event);
+  Select(last ? model()->rowCount() - 1 : 0);
 }
 
 void LinesTable::focusInEvent(QFocusEvent* event) {

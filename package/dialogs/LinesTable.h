@@ -14,4 +14,6 @@ class LinesTable : public QTableView {
  protected:
   // Keys need a row to start from.
   void focusInEvent(QFocusEvent* event) override;
+  // Home and End lead to the first and to the last line: its columns are no places of their own.
+  void keyPressEvent(QKeyEvent* event) override;
 };

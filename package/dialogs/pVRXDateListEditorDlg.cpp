@@ -32,7 +32,7 @@ TVRXDateListEditorDlg::TVRXDateListEditorDlg(QWidget* owner)
     fields->addWidget(label, row, 0);
     fields->addWidget(widget, row, 1);
   };
-  field(DateEdit = new DatePicker(this), "DateEdit", QStringLiteral("D&ate:"),
+  field(DateEdit = new DatePicker(this), "DateEdit", QStringLiteral("&Date:"),
         "The day; the arrow or Alt+Down opens a calendar");
   field(TimeEdit = new QTimeEdit(this), "TimeEdit", QStringLiteral("&Time:"), "The time of day");
   TimeEdit->setDisplayFormat(TimeFormatOf());
@@ -42,7 +42,7 @@ TVRXDateListEditorDlg::TVRXDateListEditorDlg(QWidget* owner)
   Button(AddBtn, "AddBtn", "&Add", &D::AddBtnClick, "The present date and time, behind the others");
   Button(DelBtn, "DelBtn", "De&lete", &D::DelBtnClick, "The selected line");
   Button(UpBtn, "UpBtn", "&Up", &D::UpBtnClick, "Selects the line above");
-  Button(DnButn, "DnButn", "&Down", &D::DnButnClick, "Selects the line below");
+  Button(DnButn, "DnButn", "Do&wn", &D::DnButnClick, "Selects the line below");
   OkButton(OkBtn, "OkBtn", "Ok");
   CancelButton(CancelBtn, "CancelBtn");
   connect(DList->selectionModel(), &QItemSelectionModel::currentRowChanged, this, &D::DListClick);

@@ -1,4 +1,5 @@
 #include "package/dialogs/pVRXFilterPropertyEditorDlg.h"
+#include "rtl/Exceptions.h"
 
 namespace {
 constexpr int FirstRows = 11, MoreRows = 10;
@@ -44,9 +45,15 @@ void TVRXFilterPropsDlg::FormShow() {
 
 void TVRXFilterPropsDlg::OKBtnClick() {
   QString result;
-  for (const TTextPair& pair : FilterGrid->Rows())
+  for (const TTextPair& pair : FilterGrid->Rows()) {
+    for (const QString& text : {pair.First, pair.Second})
+      if (text.contains(u'|'))
+        throw Exception(
+            QStringLiteral("\"%1\" cannot be kept: \"|\" ends a name or a filter. Write it without.")
+                .arg(text));
     if (!pair.First.isEmpty() && !pair.Second.isEmpty())
       result += WithoutBlanks(pair.First) + u'|' + WithoutBlanks(pair.Second) + u'|';
+  }
   result.chop(1);
   Filter = result;
 }

@@ -11,13 +11,13 @@ using D = TfrmTVRXPointListEditor;
 QValidator::State PointEdit::validate(QString& text, int& position) const {
   const QValidator::State state = TVRXSpinEdit::validate(text, position);
   bool number = false;
-  text.toInt(&number);
+  locale().toInt(text, &number);
   return state == QValidator::Invalid && number ? QValidator::Intermediate : state;
 }
 void PointEdit::fixup(QString& text) const {
   bool number = false;
-  const int value = text.toInt(&number);
-  if (number) text = QString::number(std::clamp(value, minimum(), maximum()));
+  const int value = locale().toInt(text, &number);
+  if (number) text = textFromValue(std::clamp(value, minimum(), maximum()));
 }
 
 TfrmTVRXPointListEditor::TfrmTVRXPointListEditor(QWidget* owner)

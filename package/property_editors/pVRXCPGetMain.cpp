@@ -53,8 +53,9 @@ bool VRXCPGetDateList(TVRXDateList& list) {
   const TUpdateLock lock(list);
   list.Clear();
   for (int row = 0; row < dialog.Lines().rowCount(); ++row) {
-    const TVRXDateEntry entry = dialog.Lines().Entry(row);
-    list.AddDate(entry.Moment, Kept(entry.Description));
+    TVRXDateEntry entry = dialog.Lines().Entry(row);
+    entry.Description = Kept(entry.Description);
+    list.AddEntry(entry);
   }
   return true;
 }

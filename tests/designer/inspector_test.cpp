@@ -248,6 +248,32 @@ TEST_F(Inspecting, AnEmptyFilterLeavesUndoAndRedoToTheForm) {
   EXPECT_EQ(Inspector().FilterField().text(), QString());
 }
 
+TEST_F(Inspecting, CtrlReturnOpensTheDialogFromTheNameToo) {
+  Select("Led");
+  for (const bool onName : {true, false}) {
+    window_->activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(window_.get(), WaitLimit));
+    View().setCurrentIndex(RowOf("LED"));
+    if (onName)
+      View().setFocus();
+    else
+      Inspector().FocusValue();
+    int opened = 0;
+    modal::Next([&](QDialog& dialog) {
+      ++opened;
+      dialog.reject();
+    });
+    Press(Qt::Key_Return, Qt::ControlModifier);
+    EXPECT_EQ(opened, 1);
+  }
+  window_->activateWindow();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(window_.get(), WaitLimit));
+  View().setCurrentIndex(RowOf("Left"));
+  View().setFocus();
+  Press(Qt::Key_Return, Qt::ControlModifier);
+  EXPECT_FALSE(Session().CanUndo());
+}
+
 TEST_F(Inspecting, TheFilterOpensTheObjectOfAHitAndClosesItWithTheText) {
   Select("Led");
   QLineEdit& filter = Inspector().FilterField();

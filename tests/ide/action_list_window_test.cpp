@@ -110,6 +110,22 @@ TEST_F(ActionListWindowTest, AddsToTheCategoryThatIsShown) {
   ExpectSteps(1);
 }
 
+TEST_F(ActionListWindowTest, StandardActionsComeInTheirUsualCategory) {
+  const auto add = [&](const char* cls) {
+    for (QAction* page : window_->add->menu()->actions())
+      for (QAction* entry : page->menu()->actions())
+        if (entry->text() == QLatin1StringView(cls)) return entry->trigger();
+    ADD_FAILURE() << cls;
+  };
+  window_->categories->setCurrentRow(0);
+  add("TEditPaste");
+  EXPECT_TRUE(session_->Bytes().contains(": TEditPaste\n      Category = 'Edit'\n"));
+  window_->categories->setCurrentRow(2);
+  add("TEditCut");
+  EXPECT_TRUE(session_->Bytes().contains(": TEditCut\n      Category = 'File'\n"));
+  ExpectSteps(2);
+}
+
 TEST_F(ActionListWindowTest, DeletesWhatIsSelectedAsOneStep) {
   Pick({0, 1});
   QTest::keyClick(window_->actions, Qt::Key_Delete);

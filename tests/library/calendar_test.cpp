@@ -202,3 +202,32 @@ TEST_F(Calendar, SizesItselfSoThatTheNumbersHaveRoom) {
   calendar_.Set(TVRXCalendar::ShowToday, false);
   EXPECT_LT(calendar_.Height(), low);
 }
+
+TEST(CalendarHeadings, DaysDifferInEveryCountry) {
+  for (const QLocale& locale :
+       QLocale::matchingLocales(QLocale::AnyLanguage, QLocale::AnyScript, QLocale::AnyCountry)) {
+    SCOPED_TRACE(locale.name().toStdString());
+    // Some countries have one name for two days.
+    QSet<QString> names, usual;
+    for (int day = 1; day <= 7; ++day) {
+      names.insert(DayHeading(locale, day));
+      usual.insert(locale.dayName(day, QLocale::ShortFormat));
+    }
+    EXPECT_GE(names.size(), usual.size());
+  }
+  EXPECT_EQ(DayHeading(QLocale(QLocale::German), 2), QStringLiteral("Di"));
+}
+
+TEST(CalendarHeadings, TheMonthStandsAsTheCountryWritesIt) {
+  const QDate day(2026, 11, 3);
+  const auto written = [&](const char* country) {
+    return MonthHeading(QLocale(QString::fromLatin1(country)), day);
+  };
+  EXPECT_EQ(written("en_US"), QStringLiteral("November 2026"));
+  EXPECT_EQ(written("de_DE"), QStringLiteral("November 2026"));
+  EXPECT_EQ(written("sv_SE"), QStringLiteral("november 2026"));
+  EXPECT_EQ(written("ja_JP"), QString::fromUtf8("2026\u5e7411\u6708"));
+  EXPECT_TRUE(written("ar_EG").contains(QString::fromUtf8("\u0662\u0660\u0662\u0666")));
+  EXPECT_EQ(PlainNumber(QLocale(QStringLiteral("ar_EG")), 28), QString::fromUtf8("\u0662\u0668"));
+  EXPECT_EQ(PlainNumber(QLocale(QStringLiteral("de_DE")), 1234), QStringLiteral("1234"));
+}

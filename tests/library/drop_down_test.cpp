@@ -1,8 +1,13 @@
 // Fields with something that drops down: what they show of it, and what drops down.
 #include "library/controls/Calculator.h"
 #include "library/controls/Calendar.h"
+#include "library/controls/HTMLComboBox.h"
+#include "library/controls/HTMLHeaderControl.h"
+#include "library/controls/HTMLListBox.h"
 #include "library/controls/LabeledBoxes.h"
+#include "library/controls/ListBoxes.h"
 #include "library/controls/TextBoxes.h"
+#include "library/controls/ValueListBox.h"
 #include "rtl/Clock.h"
 #include "tests/library/VisibleProperties.h"
 #include "vcl/Form.h"
@@ -435,4 +440,58 @@ TEST(EveryProperty, ThatOnlyWhatDropsDownShowsIsSeenThere) {
   table.box->Get(TVRXHeaderListComboBox::Items)->SetItems({{.Caption = QStringLiteral("Bolt")}});
   for (const char* change : {"ItemIndex=0", "GridLines=True", "ShowColumnHeaders=False", "Color=clYellow"})
     ExpectSeenBelow(*table.box, change);
+}
+
+// Otherwise a new one could not be told from its neighbours.
+TEST(EmptyControls, AreCalledByTheirNamesWhileAFormIsDesigned) {
+  const std::pair<const TClass*, const char*> controls[] = {
+      {&TListBox::StaticClass(), ""},
+      {&TVRXValueListBox::StaticClass(), ""},
+      {&TVRXValueComboBox::StaticClass(), "TextHint"},
+      {&TVRXHTMLListBox::StaticClass(), ""},
+      {&TVRXHTMLExtListBox::StaticClass(), "EmptyText"},
+      {&TVRXHTMLComboBox::StaticClass(), "TextHint"},
+      {&TVRXListComboBox::StaticClass(), "TextHint"},
+      {&TVRXTreeComboBox::StaticClass(), "TextHint"},
+      {&TVRXCheckListComboBox::StaticClass(), "TextHint"},
+      {&THeaderControl::StaticClass(), ""},
+      {&TVRXHTMLHeaderControl::StaticClass(), ""}};
+  for (const auto& [cls, words] : controls) {
+    SCOPED_TRACE(cls->ClassName().constData());
+    for (const bool designing : {true, false}) {
+      TForm form(nullptr);
+      auto& control = static_cast<TControl&>(*cls->NewComponent(&form));
+      control.SetParent(&form);
+      control.SetBounds(0, 0, 150, 60);
+      control.SetDesigning(designing);
+      const auto shows = [&](const QString& name) {
+        const QImage before = Draw(control, Qt::magenta);
+        control.SetName(name);
+        return Draw(control, Qt::magenta) != before;
+      };
+      EXPECT_EQ(shows(QStringLiteral("Abc")), designing);
+      EXPECT_EQ(shows(QStringLiteral("B_i")), designing);
+      if (!*words) continue;
+      SetProp(control, control.ClassType().GetProp(words), QStringLiteral("Nothing yet"));
+      EXPECT_FALSE(shows(QStringLiteral("Cde")));
+    }
+  }
+}
+
+TEST(EmptyControls, TheChosenLineOfADisabledListCanBeRead) {
+  TForm form(nullptr);
+  TListBox list(&form);
+  list.SetParent(&form);
+  list.SetBounds(0, 0, 120, 60);
+  list.Get(TListBox::Items)->SetLines({QStringLiteral("One"), QStringLiteral("Two")});
+  list.Set(TListBox::ItemIndex, 1);
+  list.SetEnabled(false);
+  const QImage drawn = Draw(list, Qt::magenta);
+  EXPECT_EQ(CountPixels(drawn, ToQColor(clHighlight)), 0);
+  EXPECT_GT(CountPixels(drawn, ToQColor(clBtnShadow)), 300);
+  EXPECT_GT(CountPixels(drawn, ToQColor(clHighlightText)), 0);
+  list.Set(TListBox::ItemIndex, -1);
+  // One ground up to the frame.
+  const QImage empty = Draw(list, Qt::magenta);
+  EXPECT_EQ(empty.pixelColor(2, 55), empty.pixelColor(60, 55));
 }

@@ -228,6 +228,31 @@ TEST_F(DateDialog, KeepsWhatNobodyTouchesToTheLastBit) {
   EXPECT_EQ(list.Items(), items);
 }
 
+// However a file writes a moment; what is edited is written in the usual way.
+TEST_F(DateDialog, KeepsTheWordsOfAFileForWhatNobodyEdits) {
+  TVRXDateList list;
+  const QStringList words{QStringLiteral("-100.25;neg"), QStringLiteral("12:00;"),
+                          QStringLiteral("2026-11-22 17:08;a;b"), QStringLiteral("1e300;huge"),
+                          QStringLiteral("2.5;x")};
+  for (const QString& line : words) list.Add(line);
+  const auto items = list.Items();
+  modal::NextOf<TVRXDateListEditorDlg>([](auto& d) {
+    fields::TabThrough(d);
+    d.accept();
+  });
+  EXPECT_TRUE(VRXCPGetDateList(list));
+  EXPECT_EQ(list.Items(), items);
+  modal::NextOf<TVRXDateListEditorDlg>([](auto& d) {
+    d.DList->Select(4);
+    d.TimeEdit->setTime({8, 0});
+    d.accept();
+  });
+  EXPECT_TRUE(VRXCPGetDateList(list));
+  auto expected = items;
+  expected.back() = QStringLiteral("1900-01-01 08:00:00;x");
+  EXPECT_EQ(list.Items(), expected);
+}
+
 TEST_F(DateDialog, CutsADescriptionAt255AndNotThroughALetter) {
   TVRXDateList list;
   list.AddDate({2.25}, QString(300, u'd'));
@@ -361,6 +386,10 @@ TEST_F(DateDialog, WorksByKeysAlone) {
   dialog.Lines().SetEntries({{{2.5}, QStringLiteral("a")}, {{3.5}, QStringLiteral("b")}});
   fields::ShowActive(dialog);
   EXPECT_EQ(QApplication::focusWidget(), dialog.DList);
+  QTest::keyClick(dialog.DList, Qt::Key_End);
+  EXPECT_EQ(dialog.DList->CurrentRow(), 1);
+  QTest::keyClick(dialog.DList, Qt::Key_Home);
+  EXPECT_EQ(dialog.DList->CurrentRow(), 0);
   QTest::keyClick(dialog.DList, Qt::Key_End, Qt::ControlModifier);
   EXPECT_EQ(dialog.DList->CurrentRow(), 1);
   for (QWidget* next : {static_cast<QWidget*>(dialog.DateEdit), static_cast<QWidget*>(dialog.TimeEdit),

@@ -164,7 +164,8 @@ TEST_F(DialogSuite, FormsThatHaveANameKeepIt) {
   QStringList names;
   ForEveryDialog([&](ModalDialog& dialog) { names << dialog.objectName(); });
   names.removeAll(QString());
-  EXPECT_EQ(names.join(u' ').toStdString(), "VRX3DEffectEditorDlg VRXfrmRegionFromBMPdlg VRXFilterPropsDlg frmTVRXPointListEditor "
+  EXPECT_EQ(names.join(u' ').toStdString(),
+            "VRX3DEffectEditorDlg VRXfrmRegionFromBMPdlg VRXFilterPropsDlg frmTVRXPointListEditor "
             "VRXDateListEditorDlg VRXValueListDlg VRXRegExprForm");
 }
 
@@ -205,6 +206,23 @@ TEST_F(DialogSuite, TabReachesEveryControlOnceInTheOrderOfTheRows) {
     }
     EXPECT_EQ(reached.join(u' ').toStdString(), (wanted + QStringList{wanted[0]}).join(u' ').toStdString());
   }
+}
+
+// A letter that two of them have only moves the focus between the two.
+TEST_F(DialogSuite, NoTwoControlsOfADialogShareALetter) {
+  ForEveryDialog([](ModalDialog& dialog) {
+    QMap<QString, QStringList> owners;
+    const auto take = [&](const QWidget& widget, const QString& text) {
+      const QKeySequence key = QKeySequence::mnemonic(text);
+      if (!key.isEmpty() && widget.isVisibleTo(&dialog)) owners[key.toString()] << widget.objectName() + text;
+    };
+    for (const auto* button : dialog.findChildren<QAbstractButton*>()) take(*button, button->text());
+    for (const auto* label : dialog.findChildren<QLabel*>())
+      if (label->buddy()) take(*label, label->text());
+    for (auto i = owners.cbegin(); i != owners.cend(); ++i)
+      EXPECT_EQ(i->size(), 1) << dialog.windowTitle().toStdString() << ' ' << i.key().toStdString() << ": "
+                              << i->join(u", ").toStdString();
+  });
 }
 
 TEST_F(DialogSuite, TextsFitAndCanBeReadWithEveryFontAndTheme) {

@@ -167,6 +167,26 @@ TEST_F(FilterDialog, AFieldThatIsStillOpenIsTakenByOk) {
   EXPECT_EQ(dialog.Filter, QStringLiteral("Z|a"));
 }
 
+// It would come back as two pairs, and the second would be lost the next time.
+TEST_F(FilterDialog, ASeparatorInAFieldIsRefusedAndTheDialogStays) {
+  for (const bool second : {false, true}) {
+    TVRXFilterPropsDlg dialog(nullptr);
+    dialog.Filter = QStringLiteral("A|a");
+    fields::ShowActive(dialog);
+    PairsModel& grid = dialog.FilterGrid->Pairs();
+    grid.setData(grid.index(0, second), QStringLiteral("x|y"));
+    prompts.warned.clear();
+    dialog.accept();
+    EXPECT_EQ(prompts.warned.size(), 1);
+    EXPECT_TRUE(prompts.warned.join(QString()).contains(QStringLiteral("\"x|y\" cannot be kept")));
+    EXPECT_TRUE(dialog.isVisible());
+    EXPECT_EQ(dialog.Filter, QStringLiteral("A|a"));
+    grid.setData(grid.index(0, second), QStringLiteral("x"));
+    dialog.accept();
+    EXPECT_EQ(dialog.result(), QDialog::Accepted);
+  }
+}
+
 TEST_F(FilterDialog, ThereIsAlwaysARowToTypeIn) {
   TVRXFilterPropsDlg dialog(nullptr);
   dialog.SetLabels();

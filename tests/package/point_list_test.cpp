@@ -1,11 +1,14 @@
 // The list of points: its dialog, and what a form keeps.
 #include "library/values/PointList.h"
 
+#include <QSignalSpy>
+
 #include "package/dialogs/LinesTable.h"
 #include "package/dialogs/pVRXPointListEditorDlg.h"
 #include "package/property_editors/pVRXCPGetMain.h"
 #include "rtl/ClassRegistry.h"
 #include "tests/package/ListEditorTest.h"
+#include "tests/support/Waiting.h"
 
 namespace {
 class TPath : public TComponent {
@@ -109,6 +112,54 @@ TEST_F(PointDialog, WorksByKeysAlone) {
   EXPECT_EQ(dialog.Lines().last(), QStringLiteral("0;0;"));
   QTest::keyClick(dialog.plb, Qt::Key_Return);
   EXPECT_EQ(dialog.result(), QDialog::Accepted);
+}
+
+TEST_F(PointDialog, AShortcutInTheMiddleOfTypingLeadsToTheOtherPoint) {
+  TVRXPointList list;
+  for (int i = 0; i < 3; ++i) list.AddPoint({2 * i + 1, 2 * i + 2});
+  TfrmTVRXPointListEditor dialog(nullptr);
+  dialog.SetPointList(list);
+  fields::ShowActive(dialog);
+  const auto key = [&](Qt::Key letter) {
+    QTest::keyClick(QApplication::focusWidget(), letter, Qt::AltModifier);
+  };
+  key(Qt::Key_Y);
+  QTest::keyClicks(QApplication::focusWidget(), QStringLiteral("77"));
+  // Buttons show for a moment that a key pressed them, and only then do what they do.
+  const auto press = [&](Qt::Key letter, const QPushButton* button) {
+    QSignalSpy clicked(button, &QPushButton::clicked);
+    key(letter);
+    EXPECT_TRUE(!clicked.isEmpty() || clicked.wait(WaitLimit));
+  };
+  press(Qt::Key_D, dialog.DownBtn);
+  EXPECT_EQ(QApplication::focusWidget(), dialog.YVal);
+  EXPECT_EQ(dialog.YVal->text(), QStringLiteral("4"));
+  EXPECT_EQ(dialog.Lines().join(u' '), QStringLiteral("3;4; 1;77; 5;6;"));
+  press(Qt::Key_A, dialog.AddBtn);
+  EXPECT_EQ(dialog.YVal->text(), QStringLiteral("0"));
+  QTest::keyClicks(QApplication::focusWidget(), QStringLiteral("5"));
+  EXPECT_EQ(dialog.Lines().join(u' '), QStringLiteral("3;4; 1;77; 5;6; 0;5;"));
+}
+
+TEST_F(PointDialog, FieldsReadTheNumbersOfTheCountry) {
+  for (const char* country : {"sv_SE", "nb_NO", "de_DE"}) {
+    SCOPED_TRACE(country);
+    const QLocale locale(QString::fromLatin1(country));
+    QLocale::setDefault(locale);
+    const auto usual = qScopeGuard([] { QLocale::setDefault(QLocale::c()); });
+    TVRXPointList list;
+    list.AddPoint({-50, 0});
+    TfrmTVRXPointListEditor dialog(nullptr);
+    dialog.SetPointList(list);
+    fields::ShowActive(dialog);
+    dialog.XVal->setFocus();
+    QTest::keyClick(dialog.XVal, Qt::Key_End);
+    for (int i = 0; i < 2; ++i)
+      QTest::sendKeyEvent(QTest::Click, dialog.XVal, Qt::Key_unknown, locale.toString(0), Qt::NoModifier);
+    QTest::keyClick(dialog.XVal, Qt::Key_Tab);
+    EXPECT_EQ(dialog.XVal->value(), -1000);
+    EXPECT_EQ(dialog.Lines().value(0), QStringLiteral("-1000;0;"));
+  }
 }
 
 TEST_F(PointDialog, TheLauncherWritesIntoTheListOnOkOnly) {

@@ -104,6 +104,25 @@ TEST(HeaderControl, SectionsShareWhatIsLeftAndKeepTheirLimits) {
       Shows(header, [&] { sections.Item(0)->Set(THeaderSection::Alignment, TAlignment::taRightJustify); }));
 }
 
+TEST(HeaderControl, ShowsItsMarksItsBorderAndItsStyle) {
+  THeaderControl header(nullptr);
+  header.SetBounds(0, 0, 300, 30);
+  THeaderSections& sections = *header.Get(THeaderControl::Sections);
+  for (int i = 0; i < 2; ++i) sections.Add()->Set(THeaderSection::Text, QStringLiteral("Name"));
+  const auto mark = [&](const auto& property) {
+    return Shows(header, [&] { sections.Item(1)->Set(property, true); });
+  };
+  EXPECT_FALSE(mark(THeaderSection::Checked));
+  EXPECT_FALSE(mark(THeaderSection::CheckBox));
+  EXPECT_TRUE(Shows(header, [&] { header.Set(THeaderControl::CheckBoxes, true); }));
+  EXPECT_TRUE(Shows(header, [&] { sections.Item(1)->Set(THeaderSection::Checked, false); }));
+  EXPECT_TRUE(Shows(header, [&] { header.Set(THeaderControl::Style, THeaderStyle::hsFlat); }));
+  header.Set(THeaderControl::BorderWidth, 4);
+  EXPECT_EQ(header.SectionRects(), (std::vector<QRect>{{4, 4, 50, 22}, {54, 4, 50, 22}}));
+  header.Set(THeaderControl::BorderWidth, 1'000'000);
+  EXPECT_TRUE(header.SectionRects()[0].isEmpty());
+}
+
 TEST(StatusBar, TheLastPanelReachesToTheEnd) {
   TStatusBar bar(nullptr);
   bar.SetBounds(0, 0, 300, 22);
