@@ -7,6 +7,7 @@
 #include "designer/RowSelection.h"
 #include "designer/SearchField.h"
 #include "designer/ValueEditor.h"
+#include "designintf/BasicEditors.h"
 
 using enum TPropertyAttribute;
 
@@ -282,7 +283,9 @@ void InspectorPane::ShowValue(bool keepTyping) {
   if (!property) return HideEditor();
   const auto a =
       AskEditor(*property, "GetAttributes", TPropertyAttributes(), [&] { return property->GetAttributes(); });
-  const bool isObject = property->GetPropType().Kind == TTypeKind::tkClass;
+  // Editors of objects serve other values, too, and take no text for them either.
+  const bool isObject = property->GetPropType().Kind == TTypeKind::tkClass ||
+                        dynamic_cast<const TClassProperty*>(property) != nullptr;
   const bool fixed =
       a.Contains(paReadOnly) || a.Contains(paDisplayReadOnly) || isObject || property->GetPropInfo().ReadOnly;
   ValueEditor::Setup setup;

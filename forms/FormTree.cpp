@@ -39,7 +39,7 @@ Property* Object::Find(QByteArrayView path) {
 const Property* Object::Find(QByteArrayView path) const { return const_cast<Object*>(this)->Find(path); }
 
 bool Object::IsWritten() const {
-  return !implied || !properties.empty() ||
+  return !implied || !properties.empty() || position ||
          std::any_of(children.begin(), children.end(), [](const auto& child) { return child->IsWritten(); });
 }
 

@@ -5,7 +5,7 @@
 class TCollectionItem;
 
 namespace forms {
-struct Property;
+class Property;
 
 // A component reference waits until all components exist.
 struct PendingReference {

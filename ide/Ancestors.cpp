@@ -7,6 +7,7 @@
 #include <algorithm>
 
 #include "forms/FormFile.h"
+#include "ide/ChildOrder.h"
 #include "ide/UnitText.h"
 #include "rtl/ClassRegistry.h"
 #include "rtl/Exceptions.h"
@@ -140,6 +141,7 @@ class Ancestors::Completing {
         TieChildren(*own, document, *theirs, scope, depth + 1);
       }
     }
+    PlaceImplied(object);
   }
   Object* Imply(Object& parent, const Object& theirs, int at, int depth) {
     if (implied_ >= MostImplied || depth > MaxDepth) return nullptr;

@@ -7,6 +7,8 @@
 
 void BoundForm::Apply(Command& command, bool redo) {
   const auto guard = Freeze();
+  if (!redo)
+    for (const PositionChange& p : command.positions) p.Apply(false);
   if (redo)
     for (StructureChange& s : command.structure) ApplyStructure(s, true);
   else
@@ -24,6 +26,8 @@ void BoundForm::Apply(Command& command, bool redo) {
   if (!command.structure.empty()) Reconnect();
   for (const ComponentChange& c : command.components)
     if (const TComponent* component = map_.ComponentOf(*c.object)) TakeFingerprint(*component, *c.object);
+  if (redo)
+    for (const PositionChange& p : command.positions) p.Apply(true);
 }
 
 void BoundForm::SetName(ComponentChange& change, bool redo) {

@@ -4,6 +4,7 @@
 #include <algorithm>
 
 #include "forms/Snapshot.h"
+#include "ide/ChildOrder.h"
 
 // Values and name of one component.
 struct ComponentChange {
@@ -29,6 +30,7 @@ struct Command {
   QString text;
   std::vector<StructureChange> structure;
   std::vector<ComponentChange> components;
+  std::vector<PositionChange> positions;  // what follows from the structure in derived forms
   std::vector<forms::Object*> selectionBefore, selectionAfter;
   // Nothing that the file would show.
   bool Empty() const {

@@ -63,6 +63,7 @@ class CommandRecorder {
   void CaptureSilent();
   void LearnInherited();
   void TakeArrivals();
+  void TakePositions(std::vector<PositionChange>& positions);
   void TakePlaces();
   void TakeNestedPlaces();
   // Puts the object behind the sibling that its component now follows.

@@ -1,6 +1,6 @@
 // The end of a command: what was noted on the way becomes differences of values and structure.
-#include "ide/CommandRecorder.h"
 #include "forms/KeptValues.h"
+#include "ide/CommandRecorder.h"
 #include "ide/LostAction.h"
 #include "ide/StandIns.h"
 #include "vcl/Nested.h"
@@ -29,8 +29,23 @@ std::unique_ptr<Command> CommandRecorder::Take() {
   for (const StructureChange& s : structure_)
     if (s.kind == StructureChange::Kind::Insert && !s.held && created_.contains(s.object))
       DescribeNew(*s.object);
+  TakePositions(command->positions);
   command->structure = std::move(structure_);
   return command;
+}
+
+// Where children came, went or moved beside inherited ones.
+void CommandRecorder::TakePositions(std::vector<PositionChange>& positions) {
+  QSet<forms::Object*> parents;
+  for (const StructureChange& s : structure_)
+    for (forms::Object* parent : {s.parent, s.newParent})
+      if (parent && parent->origin && form_.ComponentOf(*parent)) parents.insert(parent);
+  const auto isControl = [this](const forms::Object& o) {
+    const TComponent* c = form_.ComponentOf(o);
+    return !c || As<TControl>(c);
+  };
+  for (forms::Object* parent : parents)
+    for (PositionChange& p : GivePositions(*parent, isControl)) positions.push_back(p);
 }
 
 // Before anything else is looked at: what a client keeps may move others.

@@ -1,4 +1,5 @@
 // Editing values in the inspector.
+#include "rtl/ClassRegistry.h"
 #include "rtl/Clock.h"
 #include "tests/designer/InspectingTest.h"
 
@@ -246,6 +247,17 @@ TEST_F(Inspecting, AnEmptyFilterLeavesUndoAndRedoToTheForm) {
   PressUndo();
   EXPECT_EQ(Caption("Button1"), QStringLiteral("Other")) << "what is typed is undone first";
   EXPECT_EQ(Inspector().FilterField().text(), QString());
+}
+
+TEST_F(Inspecting, WhatOnlyADialogEditsCannotBeTyped) {
+  const TClass* const cls = FindClass("TVRXFormOpenDialog");
+  ASSERT_NE(cls, nullptr);
+  TComponent* const made = Session().CreateComponent(*cls, nullptr, {10, 10, 0, 0});
+  Show(made->Name().toUtf8().constData(), "Filter");
+  EXPECT_TRUE(Field().isReadOnly());
+  EXPECT_TRUE(Editor().EllipsisButton()->isVisible());
+  Show(made->Name().toUtf8().constData(), "Title");
+  EXPECT_FALSE(Field().isReadOnly());
 }
 
 TEST_F(Inspecting, CtrlReturnOpensTheDialogFromTheNameToo) {
