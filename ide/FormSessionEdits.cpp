@@ -179,7 +179,8 @@ void FormSession::RequireRoomFor(const std::vector<Insertion>& insertions,
 void FormSession::TakeIntoLayout(TComponent& component) {
   auto* control = As<TControl>(&component);
   TWinControl* parent = control ? control->Parent() : nullptr;
-  if (!parent || control->Align() == TAlign::alNone) return;
+  if (!parent || (control->Align() == TAlign::alNone && !parent->PlacesControls())) return;
+  recorder_->Capture(*parent);  // it may keep whom it places
   const auto building = form_.Build();
   const int index = parent->ControlIndex(control);
   {

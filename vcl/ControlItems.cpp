@@ -4,7 +4,7 @@
 
 const TClass& TControlItem::StaticClass() {
   static const TClass cls(DescribeClass<TControlItem>("TControlItem", TCollectionItem::StaticClass())
-                              .Published(Control)
+                              .Declared(Control)
                               .Type(TControl::StaticTypeInfo()));
   return cls;
 }

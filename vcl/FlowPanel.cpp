@@ -7,6 +7,7 @@
 
 const TClass& TFlowPanelControl::StaticClass() {
   static const TClass cls(DescribeClass<TFlowPanelControl>("TFlowPanelControl", TControlItem::StaticClass())
+                              .Publish("Control")
                               .Published(WrapAfter)
                               .Passive("Index", 0));
   return cls;
@@ -99,6 +100,7 @@ void TFlowPanel::ArrangeControls(Placements& all, const QRect& client, const QMa
 
 void TFlowPanel::Notification(TComponent* component, TOperation operation) {
   // Before its references are dropped: an item that refers to nobody is not found any more.
-  if (operation == TOperation::opRemove && IsKept(&ControlList) && !IsDestroying()) Get(ControlList)->Forget(component);
+  if (operation == TOperation::opRemove && IsKept(&ControlList) && !IsDestroying())
+    Get(ControlList)->Forget(component);
   TCustomPanel::Notification(component, operation);
 }

@@ -33,6 +33,7 @@ const TClass& TGridControlItem::StaticClass() {
                               .Published(Column)
                               .Published(ColumnSpan)
                               .Type(span)
+                              .Publish("Control")
                               .Published(Row)
                               .Published(RowSpan)
                               .Type(span)
@@ -201,7 +202,8 @@ void TGridPanel::ControlsListed() {
 
 void TGridPanel::Notification(TComponent* component, TOperation operation) {
   // Before its references are dropped: an item that refers to nobody is not found any more.
-  if (operation == TOperation::opRemove && IsKept(&ControlCollection) && !IsDestroying()) Get(ControlCollection)->Forget(component);
+  if (operation == TOperation::opRemove && IsKept(&ControlCollection) && !IsDestroying())
+    Get(ControlCollection)->Forget(component);
   TCustomPanel::Notification(component, operation);
 }
 

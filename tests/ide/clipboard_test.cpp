@@ -222,6 +222,36 @@ TEST_F(OperationTest, AnAlignedCopyTakesItsStripAndTheOthersMakeRoom) {
   ExpectOneCommand();
 }
 
+TEST_F(OperationTest, ACopyInAGridOrAFlowTakesAPlaceOfItsOwn) {
+  const QByteArray grid =
+      "object F: TF\n  ClientHeight = 200\n  ClientWidth = 300\n  object Grid: TGridPanel\n    Left = 0\n"
+      "    Top = 0\n    Width = 200\n    Height = 100\n    ControlCollection = <\n      item\n"
+      "        Column = 0\n        Control = A\n        Row = 0\n      end>\n    object A: TButton\n"
+      "      Left = 1\n      Top = 1\n      Width = 75\n      Height = 25\n    end\n  end\nend\n";
+  for (const bool duplicate : {true, false}) {
+    Open(grid);
+    if (duplicate) {
+      Run("duplicate", {"A"});
+      ExpectOneCommand();
+    } else {
+      Run("copy", {"A"});
+      Run("paste", {"Grid"});
+    }
+    const QByteArray& bytes = session_->Bytes();
+    EXPECT_EQ(bytes.count("Control = "), 2) << bytes.toStdString();
+    EXPECT_TRUE(bytes.contains("        Column = 1\n        Control = A1\n        Row = 0\n"))
+        << bytes.toStdString();
+    EXPECT_FALSE(Bounds("A").intersects(Bounds("A1")));
+  }
+  Open(
+      "object F: TF\n  ClientHeight = 200\n  ClientWidth = 300\n  object Flow: TFlowPanel\n    Left = 0\n"
+      "    Top = 0\n    Width = 200\n    Height = 100\n    object A: TButton\n      Left = 1\n"
+      "      Top = 1\n      Width = 75\n      Height = 25\n    end\n  end\nend\n");
+  Run("duplicate", {"A"});
+  EXPECT_EQ(Bounds("A1"), QRect(76, 1, 75, 25));
+  ExpectOneCommand();
+}
+
 TEST_F(OperationTest, TextsOfAnOldCodePageKeepTheirMeaningElsewhere) {
   Open(
       "object F: TF\n  ClientHeight = 200\n  ClientWidth = 300\n  Font.Charset = RUSSIAN_CHARSET\n"

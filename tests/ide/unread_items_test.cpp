@@ -131,18 +131,18 @@ const QByteArray GridForm = R"(object Main: TMain
       end>
     ControlCollection = <
       item
+        Column = 0
         Control = Here
-        Column = 0
         Row = 0
       end
       item
-        Control = Gone
         Column = 1
+        Control = Gone
         Row = 0
       end
       item
-        Control = Timer1
         Column = 0
+        Control = Timer1
         Row = 1
       end>
     TabOrder = 0
@@ -261,7 +261,7 @@ TEST_F(ItemReferences, AValueTakesThePlaceOfARefusedOne) {
 
 TEST_F(ItemReferences, OfOnePastedTogetherFindEachOther) {
   const forms::Document text = forms::Document::ParseObjects(
-      "object Copy: TGridPanel\n  ControlCollection = <\n    item\n      Control = Later\n      Column = 0\n"
+      "object Copy: TGridPanel\n  ControlCollection = <\n    item\n      Column = 0\n      Control = Later\n"
       "      Row = 0\n    end>\nend\nobject Later: TButton\nend\n");
   forms::Object* root = session_->ObjectOf(session_->Form());
   session_->Insert(text, {{text.Root().children[0].get(), root}, {text.Root().children[1].get(), root}});
@@ -284,7 +284,7 @@ TEST_F(ItemReferences, OfReplacedItemsAreForgotten) {
   write("Main.pas", "type TMain = class(TBase) end;");
   const QByteArray own =
       "inherited Main: TMain\n  inherited Grid: TGridPanel\n    ControlCollection = <\n      item\n"
-      "        Control = Lost\n        Column = 1\n        Row = 1\n      end>\n  end\nend\n";
+      "        Column = 1\n        Control = Lost\n        Row = 1\n      end>\n  end\nend\n";
   write("Main.dfm", own);
   session_ = FormSession::Open(folder.filePath(QStringLiteral("Main.dfm")));
   ASSERT_EQ(Cells().Count(), 1);
