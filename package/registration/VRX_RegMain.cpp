@@ -8,6 +8,7 @@
 #include "library/components/FormComponent.h"
 #include "library/components/HiTimer.h"
 #include "library/components/RegExpr.h"
+#include "library/components/SendKeys.h"
 #include "library/components/TitleItems.h"
 #include "library/controls/Button3D.h"
 #include "library/controls/Calculator.h"
@@ -25,6 +26,7 @@
 #include "library/controls/TextBoxes.h"
 #include "library/controls/ValueListBox.h"
 #include "library_design/pVRXCommon.h"
+#include "package/component_editors/pVRXCEBars.h"
 #include "package/component_editors/pVRXCEForms.h"
 #include "package/component_editors/pVRXCEMain.h"
 #include "package/property_editors/pVRXPeMain.h"
@@ -86,8 +88,9 @@ const Row kRows[] = {
     Component<TVRXScrollText, TVRXScrollTextComponentEditor>(),
     Component<TVRXCustom3DButton, TVRXExtGraphicButtonComponentEditor>(),
 
-    Page("VRX Sys", TellingClasses<TVRXRegExpr, TVRXExpressionEval>()),
+    Page("VRX Sys", TellingClasses<TVRXSendKeys, TVRXRegExpr, TVRXExpressionEval>()),
     Component<TVRXCustomShapeHint, TVRXShapeHintComponentEditor>(),
+    Component<TVRXSendKeys, TVRXSendKeyComponentEditor>(),
 
     Page("VRX HTML", TellingClasses<TVRXHTMLExtListBox, TVRXHTMLComboBox, TVRXHTMLListBox, TVRXHTMLListBoxExt,
                                     TVRXHTMLHeaderControl>()),

@@ -23,6 +23,7 @@
 #include "package/dialogs/pVRXLEDEditorDlg.h"
 #include "package/dialogs/pVRXLightEditorDlg.h"
 #include "package/dialogs/pVRXPointListEditorDlg.h"
+#include "package/dialogs/pVRXSendKeyEditorDlg.h"
 #include "package/dialogs/pVRXShadowEditorDlg.h"
 #include "package/dialogs/pVRXShapeEditorDlg.h"
 #include "package/dialogs/pVRXSimpleBevelEditorDlg.h"
@@ -60,7 +61,7 @@ const Row kRows[] = {
     Dialogs<TVRXLEDEditorDlg, TVRXShadowEditorDlg, TVRXSimpleBevelEditorDlg, TVRXTeethEditorDlg,
             TVRXCaptionEditorDlg, TVRXShapeEditorDlg, TVRXLightEditorDlg, TVRX3DEffectEditorDlg,
             TVRXfrmRegionFromBMPdlg, TVRXFilterPropsDlg, TfrmTVRXPointListEditor, TVRXDateListEditorDlg,
-            TVRXValueListDlg, TVRXRegExprForm>(),
+            TVRXValueListDlg, TVRXRegExprForm, TVRXSendKeyEditorDlg>(),
 };
 }  // namespace
 

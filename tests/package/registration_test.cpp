@@ -207,7 +207,8 @@ TEST_F(Registering, ShapesLightsSwitchesAndLinesStandAtTheirPlacesWithTheirEdito
   ASSERT_EQ(pages.size(), 9);
   EXPECT_TRUE(InOrder(pages[0], "Std: TVRXStaticText"));
   EXPECT_TRUE(InOrder(pages[1],
-                      "Ext: TVRXClock TVRXCalendar TVRXCalculator TVRXTechnicalLine TVRXClock TVRXLEDLabel "
+                      "Ext: TVRXClock TVRXCalendar "
+                      "TVRXCalculator TVRXTechnicalLine TVRXClock TVRXLEDLabel "
                       "TVRXSwitch TVRXWSwitch "
                       "TVRXLight"));
   EXPECT_TRUE(InOrder(pages[2], "Dlg: TVRXFormOpenDialog TVRXFormSaveDialog"));
@@ -224,7 +225,7 @@ TEST_F(Registering, ShapesLightsSwitchesAndLinesStandAtTheirPlacesWithTheirEdito
   EXPECT_TRUE(InOrder(pages[6],
                       "MM: TVRXLabelFill TVRXScrollText TVRX3DEffectButton TVRXHiTimer TVRXShapeControl "
                       "TVRXRepeatedShape TVRXAniCtrl TVRXPanelShape TVRXWndButtonShape"));
-  EXPECT_TRUE(InOrder(pages[7], "Sys: TVRXRegExpr TVRXExpressionEval"));
+  EXPECT_TRUE(InOrder(pages[7], "Sys: TVRXSendKeys TVRXRegExpr TVRXExpressionEval"));
   EXPECT_TRUE(InOrder(pages[8],
                       "HTML: TVRXHTMLExtListBox TVRXHTMLComboBox TVRXHTMLListBox TVRXHTMLListBoxExt "
                       "TVRXHTMLHeaderControl"));
@@ -247,6 +248,7 @@ TEST_F(Registering, ShapesLightsSwitchesAndLinesStandAtTheirPlacesWithTheirEdito
                            "TVRXPanelShape by TVRXPanelShapeComponentEditor",
                            "TVRXScrollText by TVRXScrollTextComponentEditor",
                            "TVRXCustom3DButton by TVRXExtGraphicButtonComponentEditor",
+                           "TVRXSendKeys by TVRXSendKeyComponentEditor",
                            "TVRXShadow any. by TVRXShadowProperty",
                            "TVRXShapeFill any. by TVRXShapeFillProperty",
                            "TVRXPointList any. by TVRXPointListProperty",
