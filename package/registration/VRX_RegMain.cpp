@@ -13,6 +13,7 @@
 #include "library/controls/Button3D.h"
 #include "library/controls/Calculator.h"
 #include "library/controls/Calendar.h"
+#include "library/controls/DlgButtonPanel.h"
 #include "library/controls/HTMLComboBox.h"
 #include "library/controls/HTMLHeaderControl.h"
 #include "library/controls/HTMLListBox.h"
@@ -40,12 +41,14 @@ bool WithLabels() { return VRXEditorOption(TVRXEditorOption::LabeledVariants); }
 const Row kRows[] = {
     Page("VRX Std", TellingClasses<TVRXStaticText>()),
 
-    Page("VRX Ext", TellingClasses<TVRXClock, TVRXCalendar, TVRXCalculator, TVRXTechnicalLine, TVRXClock,
-                                   TVRXLEDLabel, TVRXSwitch, TVRXWSwitch, TVRXLight>()),
+    Page("VRX Ext",
+         TellingClasses<TVRXClock, TVRXDlgButtonPanel, TVRXCalendar, TVRXCalculator, TVRXTechnicalLine,
+                        TVRXClock, TVRXLEDLabel, TVRXSwitch, TVRXWSwitch, TVRXLight>()),
     Property<TVRXLED, TVRXLEDProperty>(),
     Component<TVRXLEDCustomLabel, TVRXLEDLabelComponentEditor>(),
     Component<TVRXClock, TVRXClockComponentEditor>(),
     Component<TVRXTechnicalLine, TVRXTechnicalLineComponentEditor>(),
+    Component<TVRXDlgButtonPanel, TVRXDlgButtonComponentEditor>(),
     Component<TVRXCustomSwitch, TVRXSwitchComponentEditor>(),
     Property<TVRXLightColor, TVRXLightColorProperty>(),
     Component<TVRXCustomLight, TVRXLightComponentEditor>(),

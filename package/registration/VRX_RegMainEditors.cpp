@@ -19,6 +19,7 @@
 #include "package/dialogs/pVRXBmpRegionEditorDlg.h"
 #include "package/dialogs/pVRXCaptionEditorDlg.h"
 #include "package/dialogs/pVRXDateListEditorDlg.h"
+#include "package/dialogs/pVRXDlgBtnEditorDlg.h"
 #include "package/dialogs/pVRXFilterPropertyEditorDlg.h"
 #include "package/dialogs/pVRXLEDEditorDlg.h"
 #include "package/dialogs/pVRXLightEditorDlg.h"
@@ -61,7 +62,7 @@ const Row kRows[] = {
     Dialogs<TVRXLEDEditorDlg, TVRXShadowEditorDlg, TVRXSimpleBevelEditorDlg, TVRXTeethEditorDlg,
             TVRXCaptionEditorDlg, TVRXShapeEditorDlg, TVRXLightEditorDlg, TVRX3DEffectEditorDlg,
             TVRXfrmRegionFromBMPdlg, TVRXFilterPropsDlg, TfrmTVRXPointListEditor, TVRXDateListEditorDlg,
-            TVRXValueListDlg, TVRXRegExprForm, TVRXSendKeyEditorDlg>(),
+            TVRXValueListDlg, TVRXRegExprForm, TVRXSendKeyEditorDlg, TVRXDlgBtnEditorDlg>(),
 };
 }  // namespace
 

@@ -53,6 +53,8 @@ constexpr TabRow TabRows[] = {
      "edRegExpr edSample edExprName sgExpressions btAddExpr btLoad btSave btOK btCancel"},
     {"TVRXSendKeyEditorDlg", 0, "m wnd last pages lb2 Button1 Button3 Close"},
     {"TVRXSendKeyEditorDlg", 1, "m wnd last pages lb Update Button1 Button3 Close"},
+    {"TVRXDlgBtnEditorDlg", 0,
+     "rb1 chk1 chk2 chk3 chk4 chk5 chk6 chk7 chk8 chk9 chk10 chk11 list2 ext1 ext2 chkr chkr2 ok cancel"},
     {"TVRXFontFxEditorDlg", 0, "cmbstyle edlight cmbL edshadow cmbs edangle edtracing ok cancel reset"},
     {"FontDialog", 0,
      "cmbname edsize edheight cmbcolor cmbcharset cmbpitch bold italic underline strikeout ok cancel reset"},
@@ -168,7 +170,7 @@ TEST_F(DialogSuite, FormsThatHaveANameKeepIt) {
   names.removeAll(QString());
   EXPECT_EQ(names.join(u' ').toStdString(),
             "VRX3DEffectEditorDlg VRXfrmRegionFromBMPdlg VRXFilterPropsDlg frmTVRXPointListEditor "
-            "VRXDateListEditorDlg VRXValueListDlg VRXRegExprForm VRXSendKeyEditorDlg");
+            "VRXDateListEditorDlg VRXValueListDlg VRXRegExprForm VRXSendKeyEditorDlg VRXDlgBtnEditorDlg");
 }
 
 TEST_F(DialogSuite, EveryControlHasANameOfItsOwn) {
@@ -284,7 +286,7 @@ TEST_F(DialogSuite, NothingBeyondItsLimitsCanBeTypedIntoASpinEdit) {
       ++edits;
     }
   });
-  EXPECT_EQ(edits, 10 + 1 + 1 + 3 + 1 + 2 + 2 + 4);
+  EXPECT_EQ(edits, 10 + 1 + 1 + 3 + 1 + 2 + 2 + 4 + 2);
 }
 
 TEST_F(DialogSuite, AllColoursOfADialogShareTheirCustomColours) {

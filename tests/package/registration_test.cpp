@@ -207,7 +207,7 @@ TEST_F(Registering, ShapesLightsSwitchesAndLinesStandAtTheirPlacesWithTheirEdito
   ASSERT_EQ(pages.size(), 9);
   EXPECT_TRUE(InOrder(pages[0], "Std: TVRXStaticText"));
   EXPECT_TRUE(InOrder(pages[1],
-                      "Ext: TVRXClock TVRXCalendar "
+                      "Ext: TVRXClock TVRXDlgButtonPanel TVRXCalendar "
                       "TVRXCalculator TVRXTechnicalLine TVRXClock TVRXLEDLabel "
                       "TVRXSwitch TVRXWSwitch "
                       "TVRXLight"));
@@ -233,6 +233,7 @@ TEST_F(Registering, ShapesLightsSwitchesAndLinesStandAtTheirPlacesWithTheirEdito
   for (const char* call : {"TVRXLEDCustomLabel by TVRXLEDLabelComponentEditor",
                            "TVRXClock by TVRXClockComponentEditor",
                            "TVRXTechnicalLine by TVRXTechnicalLineComponentEditor",
+                           "TVRXDlgButtonPanel by TVRXDlgButtonComponentEditor",
                            "TVRXCustomSwitch by TVRXSwitchComponentEditor",
                            "TVRXLightColor any. by TVRXLightColorProperty",
                            "TVRXCustomLight by TVRXLightComponentEditor",
