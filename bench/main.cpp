@@ -19,7 +19,7 @@ const std::map<QString, void (*)(const QString&, const QString&)>& TaskTable() {
       {QStringLiteral("save-form"), MeasureFormSave}, {QStringLiteral("edit-form"), MeasureEdit},
       {QStringLiteral("modified"), MeasureModified},  {QStringLiteral("pixels"), MeasurePixels},
       {QStringLiteral("window"), MeasureWindow},      {QStringLiteral("paint"), MeasurePaint},
-      {QStringLiteral("html"), MeasureHtml},
+      {QStringLiteral("html"), MeasureHtml},          {QStringLiteral("bars"), MeasureBars},
   };
   return table;
 }
@@ -78,6 +78,7 @@ class Bench {
       References();
       Window();
       Paint();
+      Bars();
       Html();
     }
     Pixels();
@@ -196,6 +197,13 @@ class Bench {
       all.Add(Results::RunApart({QStringLiteral("paint"), {}, {}}).ThePairs("paint"));
     Row(QStringLiteral("Paint a form of 500 mixed standard controls / the same by plain calls of the style"),
         QStringLiteral("at most 3"), all);
+  }
+
+  void Bars() {
+    Pairs all;
+    for (int i = 0; i < 3; ++i) all.Add(Results::RunApart({QStringLiteral("bars"), {}, {}}).ThePairs("bars"));
+    Row(QStringLiteral("Open a section of a button bar and paint it: 200 sections of 200 items / 10 of 10"),
+        QStringLiteral("about 1"), all);
   }
 
   void Html() {

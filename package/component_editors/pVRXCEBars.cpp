@@ -1,8 +1,11 @@
 #include "package/component_editors/pVRXCEBars.h"
 
 #include "dclstd/EditValue.h"
+#include "library_design/Font3DDialog.h"
+#include "library_design/FontDialogs.h"
 #include "library_design/LookDialogs.h"
 #include "package/component_editors/pVRXCEMain.h"
+#include "package/dialogs/pVRXButtonBarEditorDlg.h"
 #include "package/dialogs/pVRXDlgBtnEditorDlg.h"
 #include "package/dialogs/pVRXSendKeyEditorDlg.h"
 
@@ -48,3 +51,49 @@ const TVRXDlgButtonComponentEditor::Verbs TVRXDlgButtonComponentEditor::Table = 
     EditButtons("Change Button Order...", true),
     "-",
 };
+
+void TVRXButtonBarCollectionEditor::MakeItem(TCollection& collection) {
+  const QString caption = QStringLiteral("Section %1").arg(collection.Count());
+  static_cast<TVRXBarSection*>(collection.Add())->Set(TVRXBarSection::Caption, caption);
+}
+
+namespace {
+bool EditSections(TVRXButtonBar& bar, IDesigner& designer) {
+  ComponentWindow::Show<TVRXButtonBarCollectionEditor>(designer, bar, PartPath(*bar.Sections()));
+  return false;
+}
+bool EditBar(TVRXButtonBar& bar, IDesigner& designer) {
+  TVRXButtonBarEditorDlg dialog(ApplicationOwner());
+  dialog.SetBar(bar, designer);
+  if (dialog.ShowModal() != mrOk) return false;
+  dialog.TakeBar(bar);
+  return true;
+}
+}  // namespace
+
+void TVRXButtonBarCollectionProperty::Edit() {
+  auto* sections = As<TVRXBarSections>(GetObjectValue());
+  auto* bar = sections ? As<TVRXButtonBar>(sections->GetOwner()) : nullptr;
+  if (bar && Designer()) EditSections(*bar, *Designer());
+}
+
+const TVRXButtonBarComponentEditor::Verbs TVRXButtonBarComponentEditor::Table = {
+    {"Component-Editor", EditBar},
+    {"Font3D", Launch(&TVRXButtonBar::Font3D, VRXCPGetFont3D)},
+    {"Font", Launch(&TVRXButtonBar::Font, VRXCPGetFont)},
+    {"Bevel", Launch(&TVRXButtonBar::Bevel, VRXCPGetBevel)},
+    "-",
+    {"Section Editor", EditSections},
+    {"Add Section", [](TVRXButtonBar& bar) { bar.AddSection(); }},
+    {"Next section", [](TVRXButtonBar& bar) { bar.NextSection(); }},
+    {"Prev section", [](TVRXButtonBar& bar) { bar.PrevSection(); }},
+    "-",
+    {"Add item",
+     [](TVRXButtonBar& bar) {
+       bar.AddItem();
+       return bar.Current() != nullptr;
+     }},
+};
+bool TVRXButtonBarComponentEditor::EditProperty(const TPropertyEditor& property) const {
+  return property.GetName().compare(QStringLiteral("Sections"), Qt::CaseInsensitive) == 0;
+}

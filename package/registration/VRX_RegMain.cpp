@@ -1,6 +1,7 @@
 #include "package/registration/VRX_RegMain.h"
 
 #include "designintf/RegistrationTable.h"
+#include "library/components/ButtonBarPopupMenu.h"
 #include "library/components/EditActions.h"
 #include "library/components/EditControlPrintTask.h"
 #include "library/components/ExpressionEval.h"
@@ -41,13 +42,15 @@ bool WithLabels() { return VRXEditorOption(TVRXEditorOption::LabeledVariants); }
 const Row kRows[] = {
     Page("VRX Std", TellingClasses<TVRXStaticText>()),
 
-    Page("VRX Ext",
-         TellingClasses<TVRXClock, TVRXDlgButtonPanel, TVRXCalendar, TVRXCalculator, TVRXTechnicalLine,
-                        TVRXClock, TVRXLEDLabel, TVRXSwitch, TVRXWSwitch, TVRXLight>()),
+    Page("VRX Ext", TellingClasses<TVRXClock, TVRXButtonBar, TVRXButtonBarPopupMenu, TVRXDlgButtonPanel,
+                                   TVRXCalendar, TVRXCalculator, TVRXTechnicalLine, TVRXClock, TVRXLEDLabel,
+                                   TVRXSwitch, TVRXWSwitch, TVRXLight>()),
     Property<TVRXLED, TVRXLEDProperty>(),
     Component<TVRXLEDCustomLabel, TVRXLEDLabelComponentEditor>(),
     Component<TVRXClock, TVRXClockComponentEditor>(),
     Component<TVRXTechnicalLine, TVRXTechnicalLineComponentEditor>(),
+    Property<TCollection, TVRXButtonBarCollectionProperty, TVRXButtonBar>("Sections"),
+    Component<TVRXButtonBar, TVRXButtonBarComponentEditor>(),
     Component<TVRXDlgButtonPanel, TVRXDlgButtonComponentEditor>(),
     Component<TVRXCustomSwitch, TVRXSwitchComponentEditor>(),
     Property<TVRXLightColor, TVRXLightColorProperty>(),

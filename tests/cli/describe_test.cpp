@@ -67,7 +67,8 @@ TEST_F(DescribeCli, JsonHasTheSameKeysForEveryControl) {
             "Editor|TVRXfrmRegionFromBMPdlg=Region From Bitmap Editor|TVRXFilterPropsDlg=Filter Editor|"
             "TfrmTVRXPointListEditor=Point List Editor|TVRXDateListEditorDlg=Date List Property Editor|"
             "TVRXValueListDlg=Value List Editor|TVRXRegExprForm=Regular Expression|"
-            "TVRXSendKeyEditorDlg=Send Keys Test Editor|TVRXDlgBtnEditorDlg=Panel Buttons Editor");
+            "TVRXSendKeyEditorDlg=Send Keys Test Editor|TVRXDlgBtnEditorDlg=Panel Buttons Editor|"
+            "TVRXButtonBarEditorDlg=Button Bar Editor");
 }
 
 TEST_F(DescribeCli, JsonKeepsAcceleratorsLineBreaksAndTypes) {
