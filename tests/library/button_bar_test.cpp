@@ -83,6 +83,8 @@ TEST_F(Bar, KnowsWhatStandsWhere) {
   EXPECT_EQ(bar.TopItem(), 2) << "two of four items fit";
   bar.ScrollTo(-5);
   EXPECT_EQ(bar.TopItem(), 0);
+  bar.ScrollIntoView(2);
+  EXPECT_EQ(bar.TopItem(), 1);
   bar.ScrollIntoView(3);
   EXPECT_EQ(bar.TopItem(), 2);
   bar.ScrollIntoView(1);

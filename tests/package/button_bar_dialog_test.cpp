@@ -262,6 +262,7 @@ TEST_F(ButtonBars, ImageListsAreChosenAndTheirPicturesGivenToItems) {
     EXPECT_EQ(dialog.smalllbx->item(29)->text(), QStringLiteral("29"));
     Click(dialog, bar.ItemRect(1).center());
     const TVRXBarItem& item = bar.Current()->Items()->At(1);
+    dialog.smalllbx->scrollToBottom();
     DoubleClick(*dialog.smalllbx, 25);
     EXPECT_EQ(item.Get(TVRXBarItem::ImageIndex), 25);
     EXPECT_EQ(dialog.largelbx->currentRow(), 25);

@@ -197,6 +197,10 @@ TEST_F(SendKeyDialog, AStartedProgramsWindowIsTaken) {
   open.Settle();
   EXPECT_EQ(dlg.wnd->text(), QStringLiteral("Started"));
   EXPECT_GE(dlg.lb->findItems(QStringLiteral("Started"), Qt::MatchExactly).size(), 1);
+  prompts.file = QStringLiteral("/no/such/program");
+  dlg.Button1->click();
+  open.Settle();
+  EXPECT_EQ(dlg.wnd->text(), QString()) << "one that failed has none, whatever was started before";
   dlg.last->setChecked(true);
   dlg.Close->click();
   EXPECT_EQ(Setting("filename"), prompts.file);
