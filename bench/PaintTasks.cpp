@@ -3,6 +3,7 @@
 #include <QtWidgets>
 
 #include "bench/Measure.h"
+#include "library/controls/ButtonBar.h"
 #include "vcl/Button.h"
 #include "vcl/CheckBox.h"
 #include "vcl/ComboBox.h"
@@ -144,4 +145,45 @@ void MeasurePaint(const QString&, const QString&) {
     pairs.Add(form, TimeOf(plain));
   }
   Report("paint", pairs);
+}
+
+namespace {
+// What is seen of both is the same.
+std::unique_ptr<TForm> FormWithBar(int count) {
+  auto form = std::make_unique<TForm>(nullptr);
+  auto* bar = new TVRXButtonBar(form.get());
+  bar->SetBounds(0, 0, 160, 400);
+  for (int s = 0; s < count; ++s) {
+    auto* section = static_cast<TVRXBarSection*>(bar->Sections()->Add());
+    section->Set(TVRXBarSection::Caption, QStringLiteral("Section"));
+    for (int i = 0; i < count; ++i)
+      static_cast<TVRXBarItem*>(section->Items()->Add())->Set(TVRXBarItem::Caption, QStringLiteral("Item"));
+  }
+  bar->SetParent(form.get());
+  return form;
+}
+// Each time another section in the middle, so that as many headings are seen.
+double TimeOfOpening(TForm& form, int round) {
+  auto& bar = dynamic_cast<TVRXButtonBar&>(*form.Controls().front());
+  const int section = bar.SectionCount() / 2 + round % 2;
+  return TimeOf([&](QPainter& p) {
+    constexpr int times = 50;
+    for (int i = 0; i < times; ++i) {
+      bar.Open(section + (i % 2 == 0 ? 0 : -1));
+      PaintControl(bar, p);
+    }
+  });
+}
+}  // namespace
+
+void MeasureBars(const QString&, const QString&) {
+  const auto large = FormWithBar(200), small = FormWithBar(10);
+  TimeOfOpening(*large, 0), TimeOfOpening(*small, 0);
+  constexpr int Rounds = 15;
+  Pairs pairs;
+  for (int i = 0; i < Rounds; ++i) {
+    const double time = TimeOfOpening(*large, i);
+    pairs.Add(time, TimeOfOpening(*small, i));
+  }
+  Report("bars", pairs);
 }

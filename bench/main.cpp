@@ -22,6 +22,7 @@ const std::map<QString, void (*)(const QString&, const QString&)>& TaskTable() {
       {QStringLiteral("modified"), MeasureModified},  {QStringLiteral("pixels"), MeasurePixels},
       {QStringLiteral("window"), MeasureWindow},      {QStringLiteral("paint"), MeasurePaint},
       {QStringLiteral("html"), MeasureHtml},          {QStringLiteral("dates"), MeasureDates},
+      {QStringLiteral("bars"), MeasureBars},
   };
   return table;
 }
@@ -64,6 +65,9 @@ constexpr PairRow HtmlRows[] = {
     {"cold", "Draw 1,000 rows of markup: time / the same by QTextDocument", "at most 1"},
     {"warm", "Draw 1,000 rows of markup again: time / the same by QTextDocument", "at most 1"},
 };
+constexpr PairRow BarRows[] = {
+    {"bars", "Open a section of a button bar and paint it: 200 sections of 200 items / 10 of 10", "about 1"},
+};
 constexpr PairRow DateRows[] = {
     {"dates", "Open the list of 100,000 dates / fill a standard item model with their texts", "at most 3"},
 };
@@ -92,6 +96,7 @@ class Bench {
       References();
       Window();
       Paint();
+      Bars();
       Html();
       Dates();
     }
@@ -218,6 +223,7 @@ class Bench {
         Row(QString::fromLatin1(row.what) + where, QString::fromLatin1(row.target), all[row.key]);
   }
   void Paint() { Alone(PaintRows, {QStringLiteral("paint"), {}, {}}); }
+  void Bars() { Alone(BarRows, {QStringLiteral("bars"), {}, {}}); }
   void Html() { Alone(HtmlRows, {QStringLiteral("html"), {}, {}}); }
   void Dates() { Alone(DateRows, {QStringLiteral("dates"), {}, {}}); }
 

@@ -118,9 +118,11 @@ void CollectionWindow::AddItem() {
   TCollection* collection = Collection();
   if (!collection) return;
   const int before = collection->Count();
-  Do(tr("Add an item to %1").arg(place_.Text()), [&] { collection->Add(); });
+  Do(tr("Add an item to %1").arg(place_.Text()), [&] { MakeItem(*collection); });
   if (collection->Count() > before) Select({collection->Count() - 1});
 }
+
+void CollectionWindow::MakeItem(TCollection& collection) { collection.Add(); }
 
 void CollectionWindow::DeleteItems() {
   TCollection* collection = Collection();

@@ -31,6 +31,8 @@ class CollectionWindow : public ComponentWindow {
   QToolButton *add = nullptr, *remove = nullptr, *up = nullptr, *down = nullptr;
 
  protected:
+  // A new one at the end.
+  virtual void MakeItem(TCollection& collection);
   void Load() override;
   bool Rebound() override;
   bool eventFilter(QObject* watched, QEvent* event) override;

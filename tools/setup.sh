@@ -3,7 +3,7 @@
 set -eu
 needed="g++ cmake ninja-build ccache qt6-base-dev qt6-base-dev-tools qt6-svg-dev libqt6svg6 qt6-qpa-plugins zlib1g-dev
  qt6-tools-dev qt6-tools-dev-tools libqt6opengl6-dev libgtest-dev breeze-icon-theme fonts-dejavu-core
- libgl1-mesa-dev libxkbcommon-dev libpixman-1-dev pkg-config"
+ libgl1-mesa-dev libxkbcommon-dev libpixman-1-dev pkg-config libxdo-dev libx11-dev xvfb"
 case "${PRESET:-}" in asan) needed="$needed clang libclang-rt-14-dev" ;; esac
 case "${1:-}" in format) needed="$needed clang-format" ;; esac
 

@@ -1,6 +1,7 @@
 #include "package/registration/VRX_RegMain.h"
 
 #include "designintf/RegistrationTable.h"
+#include "library/components/ButtonBarPopupMenu.h"
 #include "library/components/EditActions.h"
 #include "library/components/EditControlPrintTask.h"
 #include "library/components/ExpressionEval.h"
@@ -8,10 +9,12 @@
 #include "library/components/FormComponent.h"
 #include "library/components/HiTimer.h"
 #include "library/components/RegExpr.h"
+#include "library/components/SendKeys.h"
 #include "library/components/TitleItems.h"
 #include "library/controls/Button3D.h"
 #include "library/controls/Calculator.h"
 #include "library/controls/Calendar.h"
+#include "library/controls/DlgButtonPanel.h"
 #include "library/controls/HTMLComboBox.h"
 #include "library/controls/HTMLHeaderControl.h"
 #include "library/controls/HTMLListBox.h"
@@ -25,6 +28,7 @@
 #include "library/controls/TextBoxes.h"
 #include "library/controls/ValueListBox.h"
 #include "library_design/pVRXCommon.h"
+#include "package/component_editors/pVRXCEBars.h"
 #include "package/component_editors/pVRXCEForms.h"
 #include "package/component_editors/pVRXCEMain.h"
 #include "package/property_editors/pVRXPeMain.h"
@@ -38,12 +42,16 @@ bool WithLabels() { return VRXEditorOption(TVRXEditorOption::LabeledVariants); }
 const Row kRows[] = {
     Page("VRX Std", TellingClasses<TVRXStaticText>()),
 
-    Page("VRX Ext", TellingClasses<TVRXClock, TVRXCalendar, TVRXCalculator, TVRXTechnicalLine, TVRXClock,
-                                   TVRXLEDLabel, TVRXSwitch, TVRXWSwitch, TVRXLight>()),
+    Page("VRX Ext", TellingClasses<TVRXClock, TVRXButtonBar, TVRXButtonBarPopupMenu, TVRXDlgButtonPanel,
+                                   TVRXCalendar, TVRXCalculator, TVRXTechnicalLine, TVRXClock, TVRXLEDLabel,
+                                   TVRXSwitch, TVRXWSwitch, TVRXLight>()),
     Property<TVRXLED, TVRXLEDProperty>(),
     Component<TVRXLEDCustomLabel, TVRXLEDLabelComponentEditor>(),
     Component<TVRXClock, TVRXClockComponentEditor>(),
     Component<TVRXTechnicalLine, TVRXTechnicalLineComponentEditor>(),
+    Property<TCollection, TVRXButtonBarCollectionProperty, TVRXButtonBar>("Sections"),
+    Component<TVRXButtonBar, TVRXButtonBarComponentEditor>(),
+    Component<TVRXDlgButtonPanel, TVRXDlgButtonComponentEditor>(),
     Component<TVRXCustomSwitch, TVRXSwitchComponentEditor>(),
     Property<TVRXLightColor, TVRXLightColorProperty>(),
     Component<TVRXCustomLight, TVRXLightComponentEditor>(),
@@ -86,8 +94,9 @@ const Row kRows[] = {
     Component<TVRXScrollText, TVRXScrollTextComponentEditor>(),
     Component<TVRXCustom3DButton, TVRXExtGraphicButtonComponentEditor>(),
 
-    Page("VRX Sys", TellingClasses<TVRXRegExpr, TVRXExpressionEval>()),
+    Page("VRX Sys", TellingClasses<TVRXSendKeys, TVRXRegExpr, TVRXExpressionEval>()),
     Component<TVRXCustomShapeHint, TVRXShapeHintComponentEditor>(),
+    Component<TVRXSendKeys, TVRXSendKeyComponentEditor>(),
 
     Page("VRX HTML", TellingClasses<TVRXHTMLExtListBox, TVRXHTMLComboBox, TVRXHTMLListBox, TVRXHTMLListBoxExt,
                                     TVRXHTMLHeaderControl>()),

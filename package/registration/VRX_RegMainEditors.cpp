@@ -17,12 +17,15 @@
 #include "library_design/pVRXPeX.h"
 #include "package/dialogs/pVRX3DEffectEditorDlg.h"
 #include "package/dialogs/pVRXBmpRegionEditorDlg.h"
+#include "package/dialogs/pVRXButtonBarEditorDlg.h"
 #include "package/dialogs/pVRXCaptionEditorDlg.h"
 #include "package/dialogs/pVRXDateListEditorDlg.h"
+#include "package/dialogs/pVRXDlgBtnEditorDlg.h"
 #include "package/dialogs/pVRXFilterPropertyEditorDlg.h"
 #include "package/dialogs/pVRXLEDEditorDlg.h"
 #include "package/dialogs/pVRXLightEditorDlg.h"
 #include "package/dialogs/pVRXPointListEditorDlg.h"
+#include "package/dialogs/pVRXSendKeyEditorDlg.h"
 #include "package/dialogs/pVRXShadowEditorDlg.h"
 #include "package/dialogs/pVRXShapeEditorDlg.h"
 #include "package/dialogs/pVRXSimpleBevelEditorDlg.h"
@@ -35,7 +38,21 @@ using namespace registration;
 
 namespace {
 const Row kRows[] = {
+    Category<TVRXButtonBar>(
+        "Orlenvo-Kit", {"Sections", "FillSelectedItem", "FixedSectionLeftBorder", "FixedSectionRightBorder",
+                        "FocusStyle", "IniSaveOptions", "IniSection", "IniKey", "LargeItemHeight",
+                        "SmallItemHeight", "Orientation", "SaveAndRestore", "ScrollDelay", "ScrollStep",
+                        "SectionBtnSize", "SingleSectionMode", "SoftScroll", "TransparentButtons"}),
+    Category<TVRXButtonBar>(TResString::sLayoutCategoryName,
+                            {"FixedSectionLeftBorder", "FixedSectionRightBorder", "LargeItemHeight",
+                             "SmallItemHeight", "Orientation", "SectionBtnSize", "SingleSectionMode"}),
+    Category<TVRXButtonBar>(TResString::sVisualCategoryName,
+                            {"FillSelectedItem", "FixedSectionLeftBorder", "FixedSectionRightBorder",
+                             "FocusStyle", "LargeItemHeight", "SmallItemHeight", "Orientation",
+                             "SectionBtnSize", "SingleSectionMode", "TransparentButtons"}),
     Property<TCustomImageList, TVRXCustomImageListProperty, TVRXCaptionButtons>("ImageList"),
+    Property<TCustomImageList, TVRXCustomImageListProperty, TVRXButtonBar>("LargeImageList"),
+    Property<TCustomImageList, TVRXCustomImageListProperty, TVRXButtonBar>("SmallImageList"),
     Property<TVRXShadow, TVRXShadowProperty>(),
     Property<TVRXShapeFill, TVRXShapeFillProperty>(),
     Property<TVRXPointList, TVRXPointListProperty>(),
@@ -60,7 +77,8 @@ const Row kRows[] = {
     Dialogs<TVRXLEDEditorDlg, TVRXShadowEditorDlg, TVRXSimpleBevelEditorDlg, TVRXTeethEditorDlg,
             TVRXCaptionEditorDlg, TVRXShapeEditorDlg, TVRXLightEditorDlg, TVRX3DEffectEditorDlg,
             TVRXfrmRegionFromBMPdlg, TVRXFilterPropsDlg, TfrmTVRXPointListEditor, TVRXDateListEditorDlg,
-            TVRXValueListDlg, TVRXRegExprForm>(),
+            TVRXValueListDlg, TVRXRegExprForm, TVRXSendKeyEditorDlg, TVRXDlgBtnEditorDlg,
+            TVRXButtonBarEditorDlg>(),
 };
 }  // namespace
 

@@ -207,7 +207,8 @@ TEST_F(Registering, ShapesLightsSwitchesAndLinesStandAtTheirPlacesWithTheirEdito
   ASSERT_EQ(pages.size(), 9);
   EXPECT_TRUE(InOrder(pages[0], "Std: TVRXStaticText"));
   EXPECT_TRUE(InOrder(pages[1],
-                      "Ext: TVRXClock TVRXCalendar TVRXCalculator TVRXTechnicalLine TVRXClock TVRXLEDLabel "
+                      "Ext: TVRXClock TVRXButtonBar TVRXButtonBarPopupMenu TVRXDlgButtonPanel TVRXCalendar "
+                      "TVRXCalculator TVRXTechnicalLine TVRXClock TVRXLEDLabel "
                       "TVRXSwitch TVRXWSwitch "
                       "TVRXLight"));
   EXPECT_TRUE(InOrder(pages[2], "Dlg: TVRXFormOpenDialog TVRXFormSaveDialog"));
@@ -224,7 +225,7 @@ TEST_F(Registering, ShapesLightsSwitchesAndLinesStandAtTheirPlacesWithTheirEdito
   EXPECT_TRUE(InOrder(pages[6],
                       "MM: TVRXLabelFill TVRXScrollText TVRX3DEffectButton TVRXHiTimer TVRXShapeControl "
                       "TVRXRepeatedShape TVRXAniCtrl TVRXPanelShape TVRXWndButtonShape"));
-  EXPECT_TRUE(InOrder(pages[7], "Sys: TVRXRegExpr TVRXExpressionEval"));
+  EXPECT_TRUE(InOrder(pages[7], "Sys: TVRXSendKeys TVRXRegExpr TVRXExpressionEval"));
   EXPECT_TRUE(InOrder(pages[8],
                       "HTML: TVRXHTMLExtListBox TVRXHTMLComboBox TVRXHTMLListBox TVRXHTMLListBoxExt "
                       "TVRXHTMLHeaderControl"));
@@ -232,6 +233,9 @@ TEST_F(Registering, ShapesLightsSwitchesAndLinesStandAtTheirPlacesWithTheirEdito
   for (const char* call : {"TVRXLEDCustomLabel by TVRXLEDLabelComponentEditor",
                            "TVRXClock by TVRXClockComponentEditor",
                            "TVRXTechnicalLine by TVRXTechnicalLineComponentEditor",
+                           "TCollection TVRXButtonBar.Sections by TVRXButtonBarCollectionProperty",
+                           "TVRXButtonBar by TVRXButtonBarComponentEditor",
+                           "TVRXDlgButtonPanel by TVRXDlgButtonComponentEditor",
                            "TVRXCustomSwitch by TVRXSwitchComponentEditor",
                            "TVRXLightColor any. by TVRXLightColorProperty",
                            "TVRXCustomLight by TVRXLightComponentEditor",
@@ -247,6 +251,9 @@ TEST_F(Registering, ShapesLightsSwitchesAndLinesStandAtTheirPlacesWithTheirEdito
                            "TVRXPanelShape by TVRXPanelShapeComponentEditor",
                            "TVRXScrollText by TVRXScrollTextComponentEditor",
                            "TVRXCustom3DButton by TVRXExtGraphicButtonComponentEditor",
+                           "TVRXSendKeys by TVRXSendKeyComponentEditor",
+                           "TCustomImageList TVRXButtonBar.LargeImageList by TVRXCustomImageListProperty",
+                           "TCustomImageList TVRXButtonBar.SmallImageList by TVRXCustomImageListProperty",
                            "TVRXShadow any. by TVRXShadowProperty",
                            "TVRXShapeFill any. by TVRXShapeFillProperty",
                            "TVRXPointList any. by TVRXPointListProperty",
@@ -269,6 +276,27 @@ TEST_F(Registering, ShapesLightsSwitchesAndLinesStandAtTheirPlacesWithTheirEdito
     EXPECT_GT(at, last) << call;
     last = at;
   }
+}
+
+TEST_F(Registering, PropertiesOfButtonBarsAreInThreeCategoriesFirstOfAll) {
+  {
+    const RegistrationScope scope(registry_, this, "VRX_RegMainEditors");
+    VRX_RegMainEditors::Register();
+  }
+  const QStringList calls = Calls();
+  ASSERT_GE(calls.size(), 3);
+  EXPECT_EQ(calls[0].toStdString(),
+            "Orlenvo-Kit of TVRXButtonBar: Sections FillSelectedItem FixedSectionLeftBorder "
+            "FixedSectionRightBorder FocusStyle IniSaveOptions IniSection IniKey LargeItemHeight "
+            "SmallItemHeight Orientation SaveAndRestore ScrollDelay ScrollStep SectionBtnSize "
+            "SingleSectionMode SoftScroll TransparentButtons");
+  EXPECT_EQ(calls[1].toStdString(),
+            "Layout of TVRXButtonBar: FixedSectionLeftBorder FixedSectionRightBorder LargeItemHeight "
+            "SmallItemHeight Orientation SectionBtnSize SingleSectionMode");
+  EXPECT_EQ(calls[2].toStdString(),
+            "Visual of TVRXButtonBar: FillSelectedItem FixedSectionLeftBorder FixedSectionRightBorder "
+            "FocusStyle LargeItemHeight SmallItemHeight Orientation SectionBtnSize SingleSectionMode "
+            "TransparentButtons");
 }
 
 TEST_F(Registering, LabeledVariantsComeBehindTheirPagesAndShareOne) {
