@@ -18,6 +18,7 @@
 #include "library/controls/LEDLabel.h"
 #include "library/controls/LabeledBoxes.h"
 #include "library/controls/Light.h"
+#include "library/controls/MMButton.h"
 #include "library/controls/RegionControl.h"
 #include "library/controls/ShapeControl.h"
 #include "library/controls/Switch.h"
@@ -36,7 +37,8 @@ bool WithLabels() { return VRXEditorOption(TVRXEditorOption::LabeledVariants); }
 
 // Each page, and then the editors of what is on it.
 const Row kRows[] = {
-    Page("VRX Std", TellingClasses<TVRXStaticText>()),
+    Page("VRX Std", TellingClasses<TVRXFaceController, TVRXStaticText>()),
+    Component<TVRXFaceController, TVRXFaceControllerEditor>(),
 
     Page("VRX Ext", TellingClasses<TVRXClock, TVRXCalendar, TVRXCalculator, TVRXTechnicalLine, TVRXClock,
                                    TVRXLEDLabel, TVRXSwitch, TVRXWSwitch, TVRXLight>()),
@@ -48,6 +50,9 @@ const Row kRows[] = {
     Property<TVRXLightColor, TVRXLightColorProperty>(),
     Component<TVRXCustomLight, TVRXLightComponentEditor>(),
     Component<TVRXFill, TVRXFillComponentEditor>(),
+
+    Page("VRX Cont", TellingClasses<TVRXMMButtonFaceController>()),
+    Component<TVRXMMButtonFaceController, TVRXButtonFaceControllerEditor>(),
 
     Page("VRX Dlg", TellingClasses<TVRXFormOpenDialog, TVRXFormSaveDialog>()),
 
@@ -75,9 +80,9 @@ const Row kRows[] = {
     Component<TVRXFormShadow, TVRXShadowComponentEditor>(),
     Component<TVRXFormShape, TVRXFormShapeComponentEditor>(),
 
-    Page("VRX MM",
-         TellingClasses<TVRXLabelFill, TVRXScrollText, TVRX3DEffectButton, TVRXHiTimer, TVRXShapeControl,
-                        TVRXRepeatedShape, TVRXAniCtrl, TVRXPanelShape, TVRXWndButtonShape>()),
+    Page("VRX MM", TellingClasses<TVRXLabelFill, TVRXScrollText, TVRXMMButton, TVRXShapeButton,
+                                  TVRX3DEffectButton, TVRXHiTimer, TVRXShapeControl, TVRXRepeatedShape,
+                                  TVRXAniCtrl, TVRXPanelShape, TVRXWndButtonShape>()),
     Component<TVRXAniCtrl, TVRXAniCtrlComponentEditor>(),
     Component<TVRXCustomLabelFill, TVRXLabelFillComponentEditor>(),
     Component<TVRXBaseShape, TVRXCustomShapeComponentEditor>(),
@@ -85,6 +90,7 @@ const Row kRows[] = {
     Component<TVRXPanelShape, TVRXPanelShapeComponentEditor>(),
     Component<TVRXScrollText, TVRXScrollTextComponentEditor>(),
     Component<TVRXCustom3DButton, TVRXExtGraphicButtonComponentEditor>(),
+    Component<TVRXCustomMMButton, TVRXExtGraphicButtonComponentEditor>(),
 
     Page("VRX Sys", TellingClasses<TVRXRegExpr, TVRXExpressionEval>()),
     Component<TVRXCustomShapeHint, TVRXShapeHintComponentEditor>(),

@@ -6,6 +6,7 @@
 #include "library/components/SpecialDates.h"
 #include "library/components/TitleItems.h"
 #include "library/controls/Clock.h"
+#include "library/controls/MMButton.h"
 #include "library/controls/ValueListBox.h"
 #include "library/values/ButtonFace.h"
 #include "library/values/Caption.h"
@@ -18,10 +19,13 @@
 #include "package/dialogs/pVRX3DEffectEditorDlg.h"
 #include "package/dialogs/pVRXBmpRegionEditorDlg.h"
 #include "package/dialogs/pVRXCaptionEditorDlg.h"
+#include "package/dialogs/pVRXControlFaceEditorDlg.h"
+#include "package/dialogs/pVRXControlFaceEditorDlgAddState.h"
 #include "package/dialogs/pVRXDateListEditorDlg.h"
 #include "package/dialogs/pVRXFilterPropertyEditorDlg.h"
 #include "package/dialogs/pVRXLEDEditorDlg.h"
 #include "package/dialogs/pVRXLightEditorDlg.h"
+#include "package/dialogs/pVRXMMButtonFaceEditorDlg.h"
 #include "package/dialogs/pVRXPointListEditorDlg.h"
 #include "package/dialogs/pVRXShadowEditorDlg.h"
 #include "package/dialogs/pVRXShapeEditorDlg.h"
@@ -36,6 +40,10 @@ using namespace registration;
 namespace {
 const Row kRows[] = {
     Property<TCustomImageList, TVRXCustomImageListProperty, TVRXCaptionButtons>("ImageList"),
+    Property<TCustomImageList, TVRXCustomImageListProperty, TVRXCustomMMButton>("ButtonFaceImageList"),
+    Property<TCustomImageList, TVRXCustomImageListProperty, TVRXCustomShapeButton>("ShapeFillImageList"),
+    Property<TCustomImageList, TVRXCustomImageListProperty, TVRXMMButtonFaceController>(
+        "ButtonFaceImageList"),
     Property<TVRXShadow, TVRXShadowProperty>(),
     Property<TVRXShapeFill, TVRXShapeFillProperty>(),
     Property<TVRXPointList, TVRXPointListProperty>(),
@@ -60,7 +68,8 @@ const Row kRows[] = {
     Dialogs<TVRXLEDEditorDlg, TVRXShadowEditorDlg, TVRXSimpleBevelEditorDlg, TVRXTeethEditorDlg,
             TVRXCaptionEditorDlg, TVRXShapeEditorDlg, TVRXLightEditorDlg, TVRX3DEffectEditorDlg,
             TVRXfrmRegionFromBMPdlg, TVRXFilterPropsDlg, TfrmTVRXPointListEditor, TVRXDateListEditorDlg,
-            TVRXValueListDlg, TVRXRegExprForm>(),
+            TVRXValueListDlg, TVRXRegExprForm, TVRXControlFaceEditorDlg, TVRXControlFaceEditorDlgAddState,
+            TVRXButtonFaceDlg>(),
 };
 }  // namespace
 

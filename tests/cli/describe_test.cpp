@@ -66,7 +66,9 @@ TEST_F(DescribeCli, JsonHasTheSameKeysForEveryControl) {
             "TVRXShapeEditorDlg=Shape Editor|TVRXLightEditorDlg=Light Editor|TVRX3DEffectEditorDlg=3D Effect "
             "Editor|TVRXfrmRegionFromBMPdlg=Region From Bitmap Editor|TVRXFilterPropsDlg=Filter Editor|"
             "TfrmTVRXPointListEditor=Point List Editor|TVRXDateListEditorDlg=Date List Property Editor|"
-            "TVRXValueListDlg=Value List Editor|TVRXRegExprForm=Regular Expression");
+            "TVRXValueListDlg=Value List Editor|TVRXRegExprForm=Regular Expression|"
+            "TVRXControlFaceEditorDlg=Face Controller Editor|TVRXControlFaceEditorDlgAddState=Add States|"
+            "TVRXButtonFaceDlg=Button Face Editor");
 }
 
 TEST_F(DescribeCli, JsonKeepsAcceleratorsLineBreaksAndTypes) {

@@ -10,6 +10,7 @@
 #include "library_design/FontDialogs.h"
 #include "library_design/ImageListDialogs.h"
 #include "library_design/LookDialogs.h"
+#include "library_design/SettingEditors.h"
 #include "library_design/ValueDialogs.h"
 #include "package/dialogs/pVRXCaptionEditorDlg.h"
 #include "package/dialogs/pVRXLEDEditorDlg.h"
@@ -51,6 +52,13 @@ constexpr TabRow TabRows[] = {
     {"TVRXValueListDlg", 0, "ValueListEditor AddRow OkButton CancelButton"},
     {"TVRXRegExprForm", 0,
      "edRegExpr edSample edExprName sgExpressions btAddExpr btLoad btSave btOK btCancel"},
+    {"TVRXControlFaceEditorDlg", 0,
+     "btnLoad btnSave btnAddState remove clear controllerStateList stateObjectList VRXSpeedButton1 "
+     "VRXSpeedButton2 VRXSpeedButton4 VRXSpeedButton3 btnProp btnAddFont btnAddFont3D btnAddFontFx "
+     "btnAddFillObject btnAddBitmapEffect btnAddBevel btnAddColor btnAddStyles controllerObjectsList "
+     "edFilePath btnBrowse btnOk btnCancel"},
+    {"TVRXControlFaceEditorDlgAddState", 0, "notUsedStates btnAll btnNone btnOk btnCancel"},
+    {"TVRXButtonFaceDlg", 0, "lb SelectBtn nopicture ClearAll sync synchot VRXButton1 OKButton CancelButton"},
     {"TVRXFontFxEditorDlg", 0, "cmbstyle edlight cmbL edshadow cmbs edangle edtracing ok cancel reset"},
     {"FontDialog", 0,
      "cmbname edsize edheight cmbcolor cmbcharset cmbpitch bold italic underline strikeout ok cancel reset"},
@@ -65,6 +73,7 @@ constexpr TabRow TabRows[] = {
     {"TVRXImageListDlg", 0, "lists images ok cancel"},
     {"TVRXSelectValueDlg", 0, "names ok cancel"},
     {"TVRXTextDlg", 0, "text ok cancel"},
+    {"TVRXBitmapEffectDlg", 0, "cmbkind edamount cmbcolor dlgc ok cancel reset"},
 };
 
 std::vector<TDialogRegistration> AllDialogs() {
@@ -73,7 +82,7 @@ std::vector<TDialogRegistration> AllDialogs() {
   VRX_RegMainEditors::Register();
   registration::Dialogs<TVRXFontFxEditorDlg, FontDialog, TVRXFillEditorDlg, TVRXBevelEditorDlg,
                         TVRXBrushEditorDlg, TVRXFont3DEditorDlg, TVRXDateTimeFormatDlg, TVRXImageListDlg,
-                        TVRXSelectValueDlg, TVRXTextDlg>()
+                        TVRXSelectValueDlg, TVRXTextDlg, TVRXBitmapEffectDlg>()
       .Call();
   return registry.Dialogs();
 }
@@ -164,7 +173,8 @@ TEST_F(DialogSuite, FormsThatHaveANameKeepIt) {
   QStringList names;
   ForEveryDialog([&](ModalDialog& dialog) { names << dialog.objectName(); });
   names.removeAll(QString());
-  EXPECT_EQ(names.join(u' ').toStdString(), "VRX3DEffectEditorDlg VRXfrmRegionFromBMPdlg VRXFilterPropsDlg frmTVRXPointListEditor "
+  EXPECT_EQ(names.join(u' ').toStdString(),
+            "VRX3DEffectEditorDlg VRXfrmRegionFromBMPdlg VRXFilterPropsDlg frmTVRXPointListEditor "
             "VRXDateListEditorDlg VRXValueListDlg VRXRegExprForm");
 }
 
@@ -281,7 +291,7 @@ TEST_F(DialogSuite, NothingBeyondItsLimitsCanBeTypedIntoASpinEdit) {
       ++edits;
     }
   });
-  EXPECT_EQ(edits, 10 + 1 + 1 + 3 + 1 + 2 + 2 + 4);
+  EXPECT_EQ(edits, 10 + 1 + 1 + 3 + 1 + 2 + 2 + 4 + 1);
 }
 
 TEST_F(DialogSuite, AllColoursOfADialogShareTheirCustomColours) {
@@ -300,7 +310,7 @@ TEST_F(DialogSuite, AllColoursOfADialogShareTheirCustomColours) {
     dialog.reject();
     EXPECT_EQ(LoadIDECustomColors(), colors);
   });
-  EXPECT_EQ(shared, 2 + 1 + 3 + 4 + 2 + 1 + 2 + 3 + 1 + 2);
+  EXPECT_EQ(shared, 2 + 1 + 3 + 4 + 2 + 1 + 2 + 3 + 1 + 2 + 1);
 }
 
 TEST_F(DialogSuite, TheExtendedColourDialogKeepsTheLastSixteenCustomColours) {
