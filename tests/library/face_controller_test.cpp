@@ -11,6 +11,7 @@
 #include "library/controls/FillControl.h"
 #include "library/controls/MMButton.h"
 #include "library/controls/RegionControl.h"
+#include "library/controls/Switch.h"
 #include "library/controls/TextBoxes.h"
 #include "library/values/ValueText.h"
 #include "rtl/Exceptions.h"
@@ -279,6 +280,8 @@ TEST(FaceLook, IsShownByControlsInTheirState) {
   ExpectShowsItsStates<TVRXPanelShape>({"Enabled", "Down"});
   ExpectShowsItsStates<TVRXWndButtonShape>({"Enabled", "Down"});
   ExpectShowsItsStates<TVRXEditAutoComplete>({"Enabled", "ReadOnly"});
+  ExpectShowsItsStates<TVRXSwitch>({"Enabled", "Checked"});
+  ExpectShowsItsStates<TVRXWSwitch>({"Enabled", "Checked"});
   ExpectShowsItsStates<TVRXFormComboBox>({"Enabled", "ReadOnly"});
 }
 
