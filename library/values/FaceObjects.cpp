@@ -88,9 +88,24 @@ QString TVRXCFCSettingObjects::NameOfObject(const TPersistent* object) const {
 }
 
 int TVRXCFCSettingObjects::IndexOf(const QString& name) const {
-  for (int i = 0; i < Count(); ++i)
-    if (SameName(Setting(i)->Get(TSetting::ObjName), name)) return i;
+  const QString key = name.toCaseFolded();
+  // Between BeginUpdate and EndUpdate places may have changed without a word.
+  for (const bool again : {false, true}) {
+    if (again) places_.clear();
+    // Backwards, so that the first of a name is the one that is found.
+    if (places_.isEmpty())
+      for (int i = Count() - 1; i >= 0; --i)
+        places_.insert(Setting(i)->Get(TSetting::ObjName).toCaseFolded(), i);
+    const int place = places_.value(key, -1);
+    if (place < 0) return -1;
+    if (place < Count() && Setting(place)->Get(TSetting::ObjName).toCaseFolded() == key) return place;
+  }
   return -1;
+}
+
+void TVRXCFCSettingObjects::DoChanged() {
+  places_.clear();
+  TCollection::DoChanged();
 }
 
 int TVRXCFCSettingObjects::IndexOfObject(const TPersistent* object) const {

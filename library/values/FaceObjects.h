@@ -2,6 +2,8 @@
 // combination of states which of them apply. Both keep their values by name, so that nothing hangs on the
 // order in which a form or a file tells them.
 #pragma once
+#include <QHash>
+
 #include "library/values/Bevels.h"
 #include "library/values/BitmapEffect.h"
 #include "library/values/FaceStates.h"
@@ -106,8 +108,12 @@ class TVRXCFCSettingObjects : public TCollection {
   void Assign(const TPersistent* source) override;
   void ClearContent() override { Clear(); }
 
+ protected:
+  void DoChanged() override;
+
  private:
   QString foreign_;
+  mutable QHash<QString, int> places_;  // by name in small letters; made when somebody asks
 };
 
 TVRXCFCSettingObjectKind VRXCFCGetSettingsKindObject(const TPersistent* object);

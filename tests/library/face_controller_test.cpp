@@ -188,6 +188,11 @@ TEST(FaceStateObjects, KeepObjectsByNameAndFollowThemWhenTold) {
   face.AddSettingObject(okFont);
   face.States()->SynchronizeNames();
   EXPECT_EQ(state.Names().join(u' '), QStringLiteral("Big Color1"));
+  state.Add(face.SettingObjects()->Items(2), true);
+  face.States()->SynchronizeNames();
+  EXPECT_EQ(state.Names().join(u' '), QStringLiteral("Big Color1 Font1"));
+  EXPECT_EQ(state.Items(2), face.SettingObjects()->Items(2));
+  state.Delete(2);
   TFont stranger;
   state.Add(&stranger, true);
   state.Add(nullptr, true);
