@@ -24,7 +24,21 @@ class TVRXControlFaceEditorDlg : public RowDialog {
   const QStringList& UsedStates() const { return used_; }
   void FormActivate() override;
 
-  // By the tags of buttons and menu entries.
+  // What buttons and menu entries stand for.
+  enum Tag {
+    tagLoad = 100,
+    tagSave = 110,
+    tagAdd = 120,
+    tagRemove = 130,
+    tagClear = 140,
+    tagLoadSettings = 200,
+    tagSaveSettings = 210,
+    tagClearSettings = 220,
+    tagRemoveSetting = 230,
+    tagProperties = 240,
+    tagRemoveFromState = 250
+  };
+  // By these.
   void StateHandler(int tag);
   void SettingHandler(int tag);
   void AddSettings(TVRXCFCSettingObjectKind kind);
@@ -46,7 +60,6 @@ class TVRXControlFaceEditorDlg : public RowDialog {
   bool ReturnConfirms() const override;
 
  private:
-  using Handler = void (TVRXControlFaceEditorDlg::*)(int);
   QToolButton* SpeedButton(const char* name, const char* hint, const char* drawing,
                            std::function<void()> click);
   QAction* MenuAction(QMenu& menu, const char* name, const char* text, std::function<void()> act);
