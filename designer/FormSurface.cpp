@@ -50,11 +50,17 @@ void FormSurface::TakeChange(const FormChange& change) {
         if (HasTile(*session_, *c)) icons_.push_back(c);
     }
   }
-  // Controls show values of their actions.
-  for (const TComponent* c : change.values)
-    if (!As<TControl>(c))
-      for (const TComponent* holder : c->FreeNotifies())
-        if (const auto* client = As<TControl>(holder)) Touch(*client);
+  // Controls show values of their actions, and pictures of the lists that what they refer to refers to.
+  QSet<const TComponent*> asked;
+  const std::function<void(const TComponent&)> touchHolders = [&](const TComponent& c) {
+    if (As<TControl>(&c) || asked.contains(&c)) return;
+    asked.insert(&c);
+    for (const TComponent* holder : c.FreeNotifies()) {
+      if (const auto* client = As<TControl>(holder)) Touch(*client);
+      touchHolders(*holder);
+    }
+  };
+  for (const TComponent* c : change.values) touchHolders(*c);
   const auto icon = [](const TComponent* c) { return HasIcon(*c); };
   if (sizeHint() != minimumSize())
     UpdateSize();

@@ -1,4 +1,5 @@
 // Components that are on no palette page but in forms: known from the moment the library is in memory.
+#include "library/components/ImageListContainer.h"
 #include "library/components/ShapeHint.h"
 #include "library/components/SpecialDates.h"
 #include "library/controls/DlgButtonPanel.h"
@@ -8,9 +9,9 @@
 
 namespace {
 [[maybe_unused]] const bool Registered = [] {
-  for (const TClass* cls :
-       {&TVRXRegion::StaticClass(), &TVRXFill::StaticClass(), &TVRXShapeHint::StaticClass(),
-        &TVRXSpecialDates::StaticClass(), &TVRXButton::StaticClass()}) {
+  for (const TClass* cls : {&TVRXRegion::StaticClass(), &TVRXFill::StaticClass(),
+                            &TVRXShapeHint::StaticClass(), &TVRXSpecialDates::StaticClass(),
+                            &TVRXButton::StaticClass(), &TVRXImageListContainer::StaticClass()}) {
     RegisterClass(*cls);
     PromiseTelling(*cls);
   }

@@ -3,6 +3,7 @@
 #include <QtWidgets>
 
 #include "dclstd/EditValue.h"
+#include "library/components/ImageListContainer.h"
 #include "library_design/Named.h"
 #include "library_design/pVRXCommon.h"
 #include "rtl/PropAccess.h"
@@ -122,6 +123,33 @@ bool VRXCPGetIMLExt(IDesigner& designer, TCustomImageList*& list, int& index0, i
   if (!Choose(designer, list, indexes)) return false;
   index0 = indexes[0];
   index1 = indexes[1];
+  return true;
+}
+
+bool VRXCPGetIML(TCustomImageList& container, int& listIndex, int& imageIndex) {
+  std::vector<TCustomImageList*> lists;
+  std::vector<int> places;
+  for (int i = 1; i <= VRXIMLListCount(&container); ++i)
+    if (const TCustomImageList* list = VRXIMLList(&container, i)) {
+      lists.push_back(const_cast<TCustomImageList*>(list));
+      places.push_back(i);
+    }
+  const bool valid = VRXIMLIsValidItem(&container, listIndex, imageIndex);
+  const auto place = std::find(places.begin(), places.end(), listIndex);
+  TVRXImageListDlg dialog(ApplicationOwner());
+  dialog.setWindowTitle(QStringLiteral("Select Picture"));
+  dialog.SetLists(lists, nullptr, {-1});
+  dialog.SetLabels();
+  if (place != places.end()) dialog.lists->setCurrentIndex(static_cast<int>(place - places.begin()));
+  if (valid) dialog.images[0]->setCurrentRow(imageIndex);
+  if (dialog.ShowModal() != mrOk) return false;
+  const int chosen = dialog.Indexes()[0];
+  const int list = chosen < 0 ? 0 : places[static_cast<std::size_t>(dialog.lists->currentIndex())];
+  // What could not be shown was not taken away by anybody.
+  if (chosen < 0 && !valid) return false;
+  if (list == listIndex && std::max(chosen, 0) == imageIndex) return false;
+  listIndex = list;
+  imageIndex = std::max(chosen, 0);
   return true;
 }
 

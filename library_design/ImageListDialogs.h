@@ -10,6 +10,8 @@ class QListWidget;
 // no picture. IMLExt asks for two pictures, as of a control that has one for each of two states.
 bool VRXCPGetIML(IDesigner& designer, TCustomImageList*& list, int& index);
 bool VRXCPGetIMLExt(IDesigner& designer, TCustomImageList*& list, int& index0, int& index1);
+// Another picture of the lists of a container, which are counted from 1 on. None is 0 and 0.
+bool VRXCPGetIML(TCustomImageList& container, int& listIndex, int& imageIndex);
 // The same for a component's reference and, where it publishes one, its "ImageIndex".
 bool VRXCPGetImageListOf(TComponent& component, const char* property, IDesigner& designer);
 

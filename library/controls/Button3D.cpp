@@ -1,5 +1,6 @@
 #include "library/controls/Button3D.h"
 
+#include "library/controls/Faced.h"
 #include "vcl/PropertyGroups.h"
 
 const TClass& TVRXCustom3DButton::StaticClass() {
@@ -16,17 +17,17 @@ const TClass& TVRXCustom3DButton::StaticClass() {
 
 const TClass& TVRX3DEffectButton::StaticClass() {
   static const TClass cls(
-      DescribeClass<TVRX3DEffectButton>("TVRX3DEffectButton", TVRXCustom3DButton::StaticClass())
-          .PublishAll(Placing)
-          .Publish("AutoSize", false)
-          .PublishAll("ButtonFace", "Caption", "Down", "Enabled", "Font", "ParentFont", Hints, "Visible",
-                      MouseEvents)
+      VRXWithFace(DescribeClass<TVRX3DEffectButton>("TVRX3DEffectButton", TVRXCustom3DButton::StaticClass())
+                      .PublishAll(Placing)
+                      .Publish("AutoSize", false)
+                      .PublishAll("ButtonFace", "Caption", "Down", "Enabled"))
+          .PublishAll("Font", "ParentFont", Hints, "Visible", MouseEvents)
           .ClassDoc(QStringLiteral("A button made of pictures with a 3D effect.")));
   return cls;
 }
 
 TVRXCustom3DButton::TVRXCustom3DButton(TComponent* owner)
-    : TGraphicControl(owner), face_(std::make_unique<TVRXButtonFace>(this)) {
+    : TGraphicControl(owner), face_(std::make_unique<TVRX3DButtonFace>(this)) {
   captionFollowsName_ = true;
   SetBounds(0, 0, 145, 32);
 }
@@ -39,20 +40,22 @@ QSize TVRXCustom3DButton::AutoSizeHint() const {
 }
 
 void TVRXCustom3DButton::Paint(TCanvas& canvas) {
-  const TVRXButtonState state = !Enabled() ? TVRXButtonState::Disabled
-                                : down_    ? TVRXButtonState::Down
-                                           : TVRXButtonState::Up;
-  const QImage& picture = face_->Picture(state);
-  if (picture.isNull()) return PaintPlain(canvas);
+  const TVRX3DButtonState state = !Enabled() ? TVRX3DButtonState::Disabled
+                                  : down_    ? TVRX3DButtonState::Down
+                                             : TVRX3DButtonState::Up;
+  const TVRXFaceLook look = VRXFaceOf(*this);
+  const QImage picture = look.Picture(face_->Picture(state));
+  if (picture.isNull()) return PaintPlain(canvas, look);
   canvas.Painter().drawImage((Width() - picture.width()) / 2, (Height() - picture.height()) / 2, picture);
 }
 
 // Until it has pictures it looks like any button.
-void TVRXCustom3DButton::PaintPlain(TCanvas& canvas) {
+void TVRXCustom3DButton::PaintPlain(TCanvas& canvas, const TVRXFaceLook& look) {
   canvas.FillRect(ClientRect(), clBtnFace);
   const QRect outline = canvas.Frame3D(ClientRect(), cl3DDkShadow, cl3DDkShadow, 1);
   const QRect inside = down_ ? canvas.Frame3D(outline, clBtnShadow, clBtnHighlight, 2)
                              : canvas.Frame3D(outline, clBtnHighlight, clBtnShadow, 2);
-  canvas.TextRect(inside.translated(down_, down_), Qt::AlignCenter | Qt::TextShowMnemonic, Caption(), *Font(),
-                  Enabled());
+  look.PaintGround(canvas, inside);
+  canvas.TextRect(inside.translated(down_, down_), Qt::AlignCenter | Qt::TextShowMnemonic, Caption(),
+                  look.Font(*Font()), look.HasLetters(Enabled()));
 }

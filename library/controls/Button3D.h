@@ -3,14 +3,16 @@
 #include "library/values/ButtonFace.h"
 #include "vcl/Control.h"
 
+class TVRXFaceLook;
+
 class TVRXCustom3DButton : public TGraphicControl {
   VRX_CLASS(TVRXCustom3DButton)
  public:
   explicit TVRXCustom3DButton(TComponent* owner);
   ~TVRXCustom3DButton() override;
 
-  TVRXButtonFace* ButtonFace() const { return face_.get(); }
-  void SetButtonFace(const TVRXButtonFace* v) { face_->Assign(v); }
+  TVRX3DButtonFace* ButtonFace() const { return face_.get(); }
+  void SetButtonFace(const TVRX3DButtonFace* v) { face_->Assign(v); }
   // The pictures of the three states with their masks; they are copied.
   void Set3DPics(const TVRXMaskedPicture& up, const TVRXMaskedPicture& down,
                  const TVRXMaskedPicture& disabled) {
@@ -26,8 +28,8 @@ class TVRXCustom3DButton : public TGraphicControl {
   QSize AutoSizeHint() const override;
 
  private:
-  void PaintPlain(TCanvas& canvas);
-  std::unique_ptr<TVRXButtonFace> face_;
+  void PaintPlain(TCanvas& canvas, const TVRXFaceLook& look);
+  std::unique_ptr<TVRX3DButtonFace> face_;
   bool down_ = false;
 };
 

@@ -1,5 +1,6 @@
 #include "library/controls/CustomLabel.h"
 
+#include "library/controls/Faced.h"
 #include "vcl/PropertyGroups.h"
 
 const TClass& TVRXCustomLabel::StaticClass() {
@@ -18,14 +19,16 @@ const TClass& TVRXCustomLabel::StaticClass() {
 }
 
 const TClass& TVRXStaticText::StaticClass() {
-  static const TClass cls(DescribeClass<TVRXStaticText>("TVRXStaticText", TVRXCustomLabel::StaticClass())
-                              .PublishAll(Placing, "Alignment")
-                              .Publish("AutoSize", true)
-                              .PublishAll("Bevel", "Caption", Look, "Font3D", Hints, "Layout", ParentLook,
-                                          "ShowAccelChar", "Transparent", "Visible", "WordWrap", MouseEvents)
-                              .ClassDoc(QStringLiteral("A text with light and shadow around its letters."),
-                                        "pen accent+50 2.4 path 6.5 19.5 13 6 19.5 19.5 path 9.5 15 16.5 15 "
-                                        "pen line 2.2 path 4.5 17.5 11 4 17.5 17.5 path 7.5 13 14.5 13"));
+  static const TClass cls(
+      VRXWithFace(DescribeClass<TVRXStaticText>("TVRXStaticText", TVRXCustomLabel::StaticClass())
+                      .PublishAll(Placing, "Alignment")
+                      .Publish("AutoSize", true)
+                      .PublishAll("Bevel", "Caption", Look))
+          .PublishAll("Font3D", Hints, "Layout", ParentLook, "ShowAccelChar", "Transparent", "Visible",
+                      "WordWrap", MouseEvents)
+          .ClassDoc(QStringLiteral("A text with light and shadow around its letters."),
+                    "pen accent+50 2.4 path 6.5 19.5 13 6 19.5 19.5 path 9.5 15 16.5 15 "
+                    "pen line 2.2 path 4.5 17.5 11 4 17.5 17.5 path 7.5 13 14.5 13"));
   return cls;
 }
 
@@ -54,10 +57,14 @@ QSize TVRXCustomLabel::AutoSizeHint() const {
 }
 
 void TVRXCustomLabel::Paint(TCanvas& canvas) {
+  const TVRXFaceLook look = VRXFaceOf(*this);
   if (!Get(Transparent)) canvas.FillRect(ClientRect(), Color());
-  PaintText(canvas, Bevel()->Draw(canvas, ClientRect()));
+  look.PaintGround(canvas, ClientRect());
+  PaintText(canvas, look.Bevel(*Bevel()).Draw(canvas, ClientRect()));
 }
 
 void TVRXCustomLabel::PaintText(TCanvas& canvas, const QRect& rect) {
-  Font3D()->Draw(canvas, rect, TextFlags(), Caption(), *Font(), Enabled(), Color());
+  const TVRXFaceLook look = VRXFaceOf(*this);
+  look.Font3D(*Font3D()).Draw(canvas, rect, TextFlags(), Caption(), look.Font(*Font()),
+                              look.HasLetters(Enabled()), look.Color(Color()));
 }

@@ -1,5 +1,6 @@
 #include "library/controls/DropDownBox.h"
 
+#include "library/controls/Faced.h"
 #include "rtl/PropAccess.h"
 #include "vcl/FormColors.h"
 #include "vcl/ItemPainting.h"
@@ -20,7 +21,7 @@ const TClass& TVRXCustomDropDownBox::StaticClass() {
 }
 
 TClassBuilder TVRXCustomDropDownBox::AsBox(TClassBuilder b) {
-  return std::move(b)
+  return VRXWithFace(std::move(b))
       .PublishAll(Placing, Lettering, Hints, "Alignment", "BorderStyle", "ButtonWidth", "DropDownHeight",
                   "DropDownWidth", "PopupMenu", "ReadOnly", "TabOrder", "TextHint", "Visible", MouseEvents,
                   KeyEvents, FocusEvents, "OnChange", "OnCloseUp", "OnDropDown")
@@ -48,7 +49,9 @@ void TVRXCustomDropDownBox::Paint(TCanvas& canvas) {
   const bool framed = Get(BorderStyle) == TBorderStyle::bsSingle;
   if (framed) inside = PaintListFrame(canvas, inside, states);
   // The frame brings the usual ground, that of a disabled and of a read-only field, too.
+  const TVRXFaceLook look = VRXFaceOf(*this);
   if (!framed || Color() != clWindow) canvas.FillRect(inside, Color());
+  look.PaintGround(canvas, inside);
   if (const QRect knob = KnobRect(); !knob.isEmpty()) {
     PaintKnob(canvas, knob);
     inside.setRight(knob.left() - 1);
@@ -67,8 +70,9 @@ void TVRXCustomDropDownBox::PaintKnob(TCanvas& canvas, const QRect& rect) const 
 void TVRXCustomDropDownBox::PaintText(TCanvas& canvas, const QRect& room) const {
   const QString text = ShownText();
   const QString hint = Get(TextHint).isEmpty() && IsDesigning() ? Name() : Get(TextHint);
-  PaintPlainText(canvas, room, AlignmentFlag(Get(Alignment)), text.isEmpty() ? hint : text, *Font(),
-                 Enabled() && !text.isEmpty());
+  const TVRXFaceLook look = VRXFaceOf(*this);
+  PaintPlainText(canvas, room, AlignmentFlag(Get(Alignment)), text.isEmpty() ? hint : text,
+                 look.Font(*Font()), look.HasLetters(Enabled()) && !text.isEmpty());
 }
 
 int TVRXCustomDropDownBox::RowsHeight(int rows) const {

@@ -1,17 +1,18 @@
 #include "library/controls/FillControl.h"
 
+#include "library/controls/Faced.h"
 #include "vcl/ImageList.h"
 #include "vcl/PropertyGroups.h"
 
 const TClass& TVRXFill::StaticClass() {
   static const TClass cls(
-      DescribeClass<TVRXFill>("TVRXFill", TGraphicControl::StaticClass())
-          .PublishAll(Placing)
-          .Published(BevelPart)
-          .Doc(QStringLiteral("The edge around the area."))
-          .Published(CaptionPart)
-          .Doc(QStringLiteral("The text, with its place, font and effects."))
-          .PublishAll("Color", "Enabled")
+      VRXWithFace(DescribeClass<TVRXFill>("TVRXFill", TGraphicControl::StaticClass())
+                      .PublishAll(Placing)
+                      .Published(BevelPart)
+                      .Doc(QStringLiteral("The edge around the area."))
+                      .Published(CaptionPart)
+                      .Doc(QStringLiteral("The text, with its place, font and effects."))
+                      .PublishAll("Color", "Enabled"))
           .Published(Filled)
           .Doc(QStringLiteral("Fills the area; else it has its colour."))
           .Published(FillPart)
@@ -30,15 +31,23 @@ const TClass& TVRXFill::StaticClass() {
 TVRXFill::TVRXFill(TComponent* owner) : TGraphicControl(owner) { SetBounds(0, 0, 105, 65); }
 
 void TVRXFill::Paint(TCanvas& canvas) {
+  const TVRXFaceLook look = VRXFaceOf(*this);
   canvas.FillRect(ClientRect(), Color());
-  const QRect room = Bevel()->Draw(canvas, ClientRect());
+  const QRect room = look.Bevel(*Bevel()).Draw(canvas, ClientRect());
   if (room.isEmpty()) return;
   QPainterPath area;
   area.addRect(room);
-  if (Get(Filled)) FillObject()->Draw(canvas, area, Get(ImageList));
+  if (look.HasGround())
+    look.PaintGround(canvas, area);
+  else if (Get(Filled))
+    FillObject()->Draw(canvas, area, Get(ImageList));
   QPainter& p = canvas.Painter();
   p.save();
   p.setClipRect(room, Qt::IntersectClip);
-  Caption()->Draw(canvas, room.adjusted(2, 2, -2, -2), Enabled(), Color());
+  TVRXCaption text;
+  text.Assign(Caption());
+  text.SetFont(&look.Font(*Caption()->Font()));
+  text.SetFontFX(&look.FontFx(*Caption()->FontFX()));
+  text.Draw(canvas, room.adjusted(2, 2, -2, -2), look.HasLetters(Enabled()), look.Color(Color()));
   p.restore();
 }

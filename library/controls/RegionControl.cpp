@@ -1,5 +1,6 @@
 #include "library/controls/RegionControl.h"
 
+#include "library/controls/Faced.h"
 #include "library/values/TextDraw.h"
 #include "vcl/PropertyGroups.h"
 
@@ -54,8 +55,9 @@ void TVRXRegion::Paint(TCanvas& canvas) {
 const TClass& TVRXCustomShapeText::StaticClass() {
   using C = TVRXCustomShapeText;
   static const TClass cls(
-      DescribeClass<C>("TVRXCustomShapeText", TVRXRegion::StaticClass())
-          .PublishAll("Caption", "Color", "Font")
+      VRXWithFace(
+          DescribeClass<C>("TVRXCustomShapeText", TVRXRegion::StaticClass()).PublishAll("Caption", "Color"))
+          .Publish("Font")
           .Published("FontFX", &C::FontFX, &C::SetFontFX)
           .Doc(QStringLiteral("Direction, spacing and 3D effect of the letters."))
           .Published(ImageIndex)
@@ -92,10 +94,25 @@ TVRXPanelShape::TVRXPanelShape(TComponent* owner) : TVRXCustomShapeText(owner) {
 
 void TVRXCustomShapeText::SetTransparent(bool v) { Change(transparent_, v); }
 
+namespace {
+// The region, or the oval that stands for it until there is one.
+QPainterPath ShapeOf(const TVRXCustomShapeText& control) {
+  QPainterPath shape;
+  if (!control.RegionMask()->HasRegion())
+    shape.addEllipse(QRectF(control.ClientRect()).adjusted(0.5, 0.5, -0.5, -0.5));
+  for (const TRect& r : control.RegionMask()->Region().Rects())
+    shape.addRect(r.Left, r.Top, r.Right - r.Left, r.Bottom - r.Top);
+  return shape;
+}
+}  // namespace
+
 void TVRXCustomShapeText::Paint(TCanvas& canvas) {
+  const TVRXFaceLook look = VRXFaceOf(*this);
   if (!transparent_) canvas.FillRect(ClientRect(), Color());
+  if (look.HasGround()) look.PaintGround(canvas, ShapeOf(*this));
   const TCustomImageList* list = Get(ImageList);
-  const QImage image = list && RegionMask()->ShownSize(0).isEmpty() ? list->Image(Get(ImageIndex)) : QImage();
+  const QImage image =
+      list && RegionMask()->ShownSize(0).isEmpty() ? look.Picture(list->Image(Get(ImageIndex))) : QImage();
   const QPoint pressed(Down(), Down());
   if (image.isNull()) {
     TVRXRegion::Paint(canvas);
@@ -105,7 +122,8 @@ void TVRXCustomShapeText::Paint(TCanvas& canvas) {
     canvas.Painter().drawImage(place, image);
   }
   TVRXTextOptions options;
-  if (!Enabled()) options.Include(TVRXTextOption::Disabled);
-  VRXDrawTextExt(canvas, Caption(), *fontFx_, *Font(), ClientRect().translated(pressed), options,
-                 tfCenter | tfVCenter | tfSingleLine, {}, Color());
+  if (!look.HasLetters(Enabled())) options.Include(TVRXTextOption::Disabled);
+  VRXDrawTextExt(canvas, Caption(), look.FontFx(*fontFx_), look.Font(*Font()),
+                 ClientRect().translated(pressed), options, tfCenter | tfVCenter | tfSingleLine, {},
+                 look.Color(Color()));
 }

@@ -1,5 +1,6 @@
 #include "library/controls/Switch.h"
 
+#include "library/controls/Faced.h"
 #include "rtl/Exceptions.h"
 #include "vcl/PropertyGroups.h"
 
@@ -31,8 +32,9 @@ constexpr const char* TwoStates[] = {"Bevel",       "CaptionChecked", "CaptionUn
 }  // namespace
 
 const TClass& TVRXSwitch::StaticClass() {
-  static const TClass cls(DescribeClass<TVRXSwitch>("TVRXSwitch", TVRXCustomSwitch::StaticClass())
-                              .PublishAll(Placing, TwoStates, Hints)
+  static const TClass cls(VRXWithFace(DescribeClass<TVRXSwitch>("TVRXSwitch", TVRXCustomSwitch::StaticClass())
+                                          .PublishAll(Placing, TwoStates))
+                              .PublishAll(Hints)
                               .Publish("TabStop", true)
                               .PublishAll(MouseEvents, KeyEvents, FocusEvents)
                               .ClassDoc(QStringLiteral("A knob that slides to switch something on.")));
@@ -41,8 +43,9 @@ const TClass& TVRXSwitch::StaticClass() {
 
 const TClass& TVRXWSwitch::StaticClass() {
   static const TClass cls(
-      DescribeClass<TVRXWSwitch>("TVRXWSwitch", TVRXCustomSwitch::StaticClass())
-          .PublishAll(Placing, TwoStates, Hints)
+      VRXWithFace(DescribeClass<TVRXWSwitch>("TVRXWSwitch", TVRXCustomSwitch::StaticClass())
+                      .PublishAll(Placing, TwoStates))
+          .PublishAll(Hints)
           .Publish("TabStop", true)
           .PublishAll(MouseEvents, KeyEvents, FocusEvents)
           .ClassDoc(QStringLiteral("A lever that leans to one of two states."),
@@ -63,8 +66,10 @@ TColor TVRXCustomSwitch::PresentColor() const {
 }
 
 void TVRXCustomSwitch::Paint(TCanvas& canvas) {
+  const TVRXFaceLook look = VRXFaceOf(*this);
   if (!Get(Transparent)) canvas.FillRect(ClientRect(), Color());
-  const QRect room = Bevel()->Draw(canvas, ClientRect());
+  look.PaintGround(canvas, ClientRect());
+  const QRect room = look.Bevel(*Bevel()).Draw(canvas, ClientRect());
   if (room.width() < 4 || room.height() < 4) return;
   QPainter& p = canvas.Painter();
   p.save();

@@ -1,5 +1,6 @@
 #include "library/controls/TextBoxes.h"
 
+#include "library/controls/Faced.h"
 #include "vcl/Form.h"
 #include "vcl/FormColors.h"
 #include "vcl/ItemPainting.h"
@@ -10,7 +11,8 @@
 
 const TClass& TVRXEditAutoComplete::StaticClass() {
   static const TClass cls(
-      DescribeClass<TVRXEditAutoComplete>("TVRXEditAutoComplete", TVRXCustomDropDownBox::StaticClass())
+      VRXWithFace(
+          DescribeClass<TVRXEditAutoComplete>("TVRXEditAutoComplete", TVRXCustomDropDownBox::StaticClass()))
           .PublishAll(Placing, Lettering, Hints, "Alignment", "BorderStyle", "CharCase", "DropDownHeight",
                       "DropDownWidth", "MaxLength", "PopupMenu", "ReadOnly", "TabOrder", "Text", "TextHint",
                       "Visible", MouseEvents, KeyEvents, FocusEvents, "OnChange", "OnCloseUp", "OnDropDown")
@@ -73,21 +75,23 @@ std::unique_ptr<TControl> TVRXEditAutoComplete::MakeDropDown() const {
 void TVRXEditAutoComplete::PaintText(TCanvas& canvas, const QRect& room) const {
   const QString typed = ShownText(), added = ShownText() == Text() ? Completion() : QString();
   if (added.isEmpty()) return TVRXCustomDropDownBox::PaintText(canvas, room);
-  const QSize all = TextExtent(typed + added, *Font()), first = TextExtent(typed, *Font());
+  const TVRXFaceLook look = VRXFaceOf(*this);
+  const TFont& own = look.Font(*Font());
+  const QSize all = TextExtent(typed + added, own), first = TextExtent(typed, own);
   const int left = all.width() >= room.width() || Get(Alignment) == TAlignment::taLeftJustify ? 0
                    : Get(Alignment) == TAlignment::taCenter ? (room.width() - all.width()) / 2
                                                             : room.width() - all.width();
   QRect place = room.adjusted(left, 0, 0, 0);
   PaintPlainText(canvas,
                  QRect(place.topLeft(), QSize(std::min(first.width() + 1, place.width()), place.height())),
-                 Qt::AlignLeft, typed, *Font(), Enabled());
+                 Qt::AlignLeft, typed, own, look.HasLetters(Enabled()));
   place.setLeft(place.left() + first.width());
   const QRect mark(place.left(), place.top() + (place.height() - all.height()) / 2,
                    std::min(all.width() - first.width() + 1, place.width()), all.height());
   if (mark.isEmpty()) return;
   canvas.FillRect(mark, Enabled() ? clHighlight : clBtnShadow);
   TFont font;
-  font.Assign(Font());
+  font.Assign(&own);
   font.SetColor(clHighlightText);
   PaintPlainText(canvas, mark, Qt::AlignLeft, added, font, Enabled());
 }

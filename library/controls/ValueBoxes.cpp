@@ -5,6 +5,7 @@
 
 #include "library/controls/Calculator.h"
 #include "library/controls/Calendar.h"
+#include "library/controls/Faced.h"
 #include "library/values/DateTimeFormat.h"
 #include "vcl/ItemPainting.h"
 
@@ -241,7 +242,8 @@ QRect TVRXDateTimePicker::PaintMark(TCanvas& canvas, const QRect& line) const {
 void TVRXDateTimePicker::PaintText(TCanvas& canvas, const QRect& room) const {
   const bool off = Get(ShowCheckbox) && !Get(Checked);
   if (!off || IsEmpty()) return TVRXCustomCalendarBox::PaintText(canvas, room);
-  PaintPlainText(canvas, room, AlignmentFlag(Get(Alignment)), ShownText(), *Font(), false);
+  PaintPlainText(canvas, room, AlignmentFlag(Get(Alignment)), ShownText(), VRXFaceOf(*this).Font(*Font()),
+                 false);
 }
 
 // --- Positions

@@ -3,11 +3,16 @@
 #include "rtl/Class.h"
 
 const TClass& TVRXButtonFace::StaticClass() {
+  static const TClass cls(DescribeClass<TVRXButtonFace>("TVRXButtonFace", TPersistent::StaticClass()));
+  return cls;
+}
+
+const TClass& TVRX3DButtonFace::StaticClass() {
   static const TClass cls(
-      DescribeClass<TVRXButtonFace>("TVRXButtonFace", TPersistent::StaticClass())
-          .Streamed("UpPicture", &TVRXButtonFace::Bytes<0>, &TVRXButtonFace::SetBytes<0>)
-          .Streamed("DownPicture", &TVRXButtonFace::Bytes<1>, &TVRXButtonFace::SetBytes<1>)
-          .Streamed("DisabledPicture", &TVRXButtonFace::Bytes<2>, &TVRXButtonFace::SetBytes<2>));
+      DescribeClass<TVRX3DButtonFace>("TVRX3DButtonFace", TVRXButtonFace::StaticClass())
+          .Streamed("UpPicture", &TVRX3DButtonFace::Bytes<0>, &TVRX3DButtonFace::SetBytes<0>)
+          .Streamed("DownPicture", &TVRX3DButtonFace::Bytes<1>, &TVRX3DButtonFace::SetBytes<1>)
+          .Streamed("DisabledPicture", &TVRX3DButtonFace::Bytes<2>, &TVRX3DButtonFace::SetBytes<2>));
   return cls;
 }
 
@@ -44,24 +49,24 @@ QImage Composed(const TVRXMaskedPicture& masked) {
 }
 }  // namespace
 
-void TVRXButtonFace::SetPictures(const TVRXMaskedPicture& up, const TVRXMaskedPicture& down,
-                                 const TVRXMaskedPicture& disabled) {
+void TVRX3DButtonFace::SetPictures(const TVRXMaskedPicture& up, const TVRXMaskedPicture& down,
+                                   const TVRXMaskedPicture& disabled) {
   Changing();
   const TVRXMaskedPicture* const all[] = {&up, &down, &disabled};
   for (std::size_t i = 0; i < 3; ++i) pictures_[i].SetImage(Composed(*all[i]));
   Changed();
 }
 
-bool TVRXButtonFace::Encode(const TGoOn& goOn) const {
+bool TVRX3DButtonFace::Encode(const TGoOn& goOn) const {
   return EncodeAll({&pictures_[0], &pictures_[1], &pictures_[2]}, goOn);
 }
-bool TVRXButtonFace::NeedsTime() const {
+bool TVRX3DButtonFace::NeedsTime() const {
   return std::any_of(pictures_.begin(), pictures_.end(), [](const auto& p) { return p.NeedsTime(); });
 }
 
-void TVRXButtonFace::Assign(const TPersistent* source) {
-  const auto* face = As<TVRXButtonFace>(source);
-  if (!face) return TOwnedPersistent::Assign(source);
+void TVRX3DButtonFace::Assign(const TPersistent* source) {
+  const auto* face = As<TVRX3DButtonFace>(source);
+  if (!face) return TVRXButtonFace::Assign(source);
   if (face == this) return;
   Changing();
   pictures_ = face->pictures_;

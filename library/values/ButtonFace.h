@@ -1,12 +1,19 @@
-// The pictures of a three-dimensional button.
+// The faces of buttons: what a button shows in each of its states.
 #pragma once
 #include <array>
 
 #include "library/values/StoredPicture.h"
-#include "rtl/Persistent.h"
+#include "rtl/Kept.h"
 #include "vcl/Bitmap.h"
 
-enum class TVRXButtonState : std::uint8_t { Up, Down, Disabled };
+enum class TVRX3DButtonState : std::uint8_t { Up, Down, Disabled };
+
+// What all of them are edited as.
+class TVRXButtonFace : public TKeptPart {
+  VRX_CLASS(TVRXButtonFace)
+ public:
+  using TKeptPart::TKeptPart;
+};
 
 // A picture, black where it is transparent, and its mask: white there, black elsewhere.
 struct TVRXMaskedPicture {
@@ -15,13 +22,14 @@ struct TVRXMaskedPicture {
 // Splits a picture into one with its transparent colour out of it and the mask of that.
 TVRXMaskedPicture VRXBmpCreateMasksExt(const TBitmap& source, TColor transparent);
 
-class TVRXButtonFace : public TOwnedPersistent {
-  VRX_CLASS(TVRXButtonFace)
+// The pictures of a three-dimensional button.
+class TVRX3DButtonFace : public TVRXButtonFace {
+  VRX_CLASS(TVRX3DButtonFace)
  public:
-  explicit TVRXButtonFace(TPersistent* owner = nullptr) : TOwnedPersistent(owner) {}
+  using TVRXButtonFace::TVRXButtonFace;
 
   // Transparent where the mask is white; null when there is none.
-  const QImage& Picture(TVRXButtonState state) const {
+  const QImage& Picture(TVRX3DButtonState state) const {
     return pictures_[static_cast<std::size_t>(state)].Image();
   }
   void SetPictures(const TVRXMaskedPicture& up, const TVRXMaskedPicture& down,

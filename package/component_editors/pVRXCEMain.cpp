@@ -2,8 +2,11 @@
 
 #include "designintf/CustomColors.h"
 #include "library_design/ColorDialogs.h"
+#include "library_design/FontDialogs.h"
+#include "library_design/ImageListDialogs.h"
 #include "library_design/LookDialogs.h"
 #include "package/property_editors/pVRXCPGetMain.h"
+#include "package/property_editors/pVRXPeMain.h"
 
 bool VRXCPGetColorCP(TColor& color) {
   QStringList custom = LoadIDECustomColors();
@@ -22,8 +25,66 @@ bool TVRXLEDLabelComponentEditor::EditProperty(const TPropertyEditor& property) 
   return property.GetName() == QStringLiteral("LED");
 }
 
+const TVRXBaseGraphicButtonComponentEditor::Verbs TVRXBaseGraphicButtonComponentEditor::Table = {
+    CaptionVerb<TControl>(),
+    {"Font", [](TControl& control) { return VRXCPGetFont(*control.Font()); }},
+    Flag("Down"),
+    Flag("Enabled"),
+};
+
+namespace {
+using M = TVRXMMButton;
+bool Is3D(const TControl& control) { return dynamic_cast<const TVRXCustom3DButton*>(&control) != nullptr; }
+bool IsMM(const TControl& control) { return dynamic_cast<const M*>(&control) != nullptr; }
+// The list that has pictures; null when there is none to choose from.
+TCustomImageList* FilledList(const TControl& control) {
+  TCustomImageList* list = static_cast<const M&>(control).Get(M::ButtonFaceImageList);
+  for (int i = 1; i <= VRXIMLListCount(list); ++i)
+    if (VRXIMLIsValidItem(list, i, 0)) return list;
+  return nullptr;
+}
+// The list alone is taken: which picture stands for which state is chosen in its own editor.
+template <class C>
+bool ChooseList(C& component, const TKept<TCustomImageList*>& property, IDesigner& designer) {
+  TCustomImageList* list = component.Get(property);
+  const TCustomImageList* const before = list;
+  int up = -1, down = -1;
+  if (!VRXCPGetIMLExt(designer, list, up, down) || list == before) return false;
+  component.Set(property, list);
+  return true;
+}
+}  // namespace
+
 const TVRXExtGraphicButtonComponentEditor::Verbs TVRXExtGraphicButtonComponentEditor::Table = {
-    {"Button-Editor", VRXCPGetButtonFace3D},
+    Verb("Button-Editor",
+         [](TControl& c) { return VRXCPGetButtonFace3D(static_cast<TVRXCustom3DButton&>(c)); })
+        .When(Is3D),
+    Verb([](const TControl& c) { return FilledList(c) ? "ButtonFace" : "Select ButtonFace"; },
+         [](TControl& c, IDesigner& designer) {
+           TCustomImageList* const list = FilledList(c);
+           return list ? VRXCPGetButtonFaceMM(c, list)
+                       : ChooseList(static_cast<M&>(c), M::ButtonFaceImageList, designer);
+         })
+        .When(IsMM),
+};
+
+namespace {
+using FC = TVRXMMButtonFaceController;
+}  // namespace
+const TVRXButtonFaceControllerEditor::Verbs TVRXButtonFaceControllerEditor::Table = {
+    Verb("ButtonFace-Editor", [](FC& c) { return VRXCPGetButtonFaceMM(c, c.Get(FC::ButtonFaceImageList)); })
+        .When([](const FC& c) { return c.Get(FC::ButtonFaceImageList) != nullptr; }),
+    {"Select ButtonFaceImageList",
+     [](FC& c, IDesigner& designer) { return ChooseList(c, FC::ButtonFaceImageList, designer); }},
+};
+
+const TVRXFaceControllerEditor::Verbs TVRXFaceControllerEditor::Table = {
+    // The designer hears of what the dialog assigns from the component itself.
+    {"State settings",
+     [](TVRXFaceController& c) {
+       VRXCPGetFaceController(c);
+       return false;
+     }},
 };
 
 namespace {

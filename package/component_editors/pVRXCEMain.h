@@ -3,6 +3,7 @@
 #include "library/controls/Button3D.h"
 #include "library/controls/LEDLabel.h"
 #include "library/controls/Light.h"
+#include "library/controls/MMButton.h"
 #include "library/controls/ShapeControl.h"
 #include "library/controls/Switch.h"
 #include "library/controls/TechnicalLine.h"
@@ -17,8 +18,12 @@ class TVRXLEDLabelComponentEditor : public TVerbEditor<TVRXLEDCustomLabel, TDefa
   bool EditProperty(const TPropertyEditor& property) const override;
 };
 
-// Graphic buttons: 3D buttons have the editor of their pictures.
-VRX_VERB_EDITOR(TVRXExtGraphicButtonComponentEditor, TVRXCustom3DButton, TDefaultEditor);
+// What all graphic buttons can be asked for.
+VRX_VERB_EDITOR(TVRXBaseGraphicButtonComponentEditor, TControl, TDefaultEditor);
+// Graphic buttons: in front the editor of their pictures, which two families have, each its own.
+VRX_VERB_EDITOR(TVRXExtGraphicButtonComponentEditor, TControl, TVRXBaseGraphicButtonComponentEditor);
+VRX_VERB_EDITOR(TVRXButtonFaceControllerEditor, TVRXMMButtonFaceController);
+VRX_VERB_EDITOR(TVRXFaceControllerEditor, TVRXFaceController);
 
 VRX_VERB_EDITOR(TVRXCustomShapeComponentEditor, TVRXBaseShape);
 VRX_VERB_EDITOR(TVRXSwitchComponentEditor, TVRXCustomSwitch);

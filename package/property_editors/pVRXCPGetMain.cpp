@@ -8,6 +8,7 @@
 #include "package/dialogs/pVRX3DEffectEditorDlg.h"
 #include "package/dialogs/pVRXBmpRegionEditorDlg.h"
 #include "package/dialogs/pVRXCaptionEditorDlg.h"
+#include "package/dialogs/pVRXControlFaceEditorDlg.h"
 #include "package/dialogs/pVRXDateListEditorDlg.h"
 #include "package/dialogs/pVRXLEDEditorDlg.h"
 #include "package/dialogs/pVRXLightEditorDlg.h"
@@ -23,13 +24,21 @@ bool VRXCPGetButtonFace3D(TVRXCustom3DButton& button) {
   if (dialog.ShowModal() != mrOk || original.Empty()) return false;
   const TColor transparent = original.Pixel(0, original.Height() - 1);
   const auto masks = [&](int state) { return VRXBmpCreateMasksExt(*dialog.bitmaps[state], transparent); };
-  TVRXButtonFace face;
+  TVRX3DButtonFace face;
   face.SetPictures(masks(1), masks(2), masks(3));
   if (!Encoded(face)) return false;
   button.BeginUpdate();
   button.SetButtonFace(&face);
   button.SetBounds(button.Left(), button.Top(), dialog.bitmaps[1]->Width(), dialog.bitmaps[1]->Height());
   button.EndUpdate();
+  return true;
+}
+
+bool VRXCPGetFaceController(TVRXFaceController& controller) {
+  TVRXControlFaceEditorDlg dialog(ApplicationOwner());
+  dialog.Edit(controller);
+  if (dialog.ShowModal() != mrOk) return false;
+  controller.Assign(&dialog.EditFaceController());
   return true;
 }
 

@@ -1,6 +1,7 @@
 // Launchers: each opens the dialog of one value type and writes the result into its argument only when the
 // user confirms. True when that happened.
 #pragma once
+#include "library/components/FaceController.h"
 #include "library/controls/Button3D.h"
 #include "library/values/Bevels.h"
 #include "library/values/Caption.h"
@@ -16,6 +17,8 @@
 
 // The button gets its three pictures, and their size. False also when no picture was chosen.
 bool VRXCPGetButtonFace3D(TVRXCustom3DButton& button);
+// Settings and states of a controller, which is assigned to when the user confirms.
+bool VRXCPGetFaceController(TVRXFaceController& controller);
 // `showMultiLine`: whether the dialog offers the "MultiLine" check box.
 bool VRXCPGetVRXCaption(TVRXCaption& caption, bool showMultiLine);
 // The list is rebuilt line by line. A line that is no date raises EConvertError; the list ends before it

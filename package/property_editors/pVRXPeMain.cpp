@@ -1,13 +1,17 @@
 #include "package/property_editors/pVRXPeMain.h"
 
 #include "dclstd/EditValue.h"
+#include "library/controls/MMButton.h"
 #include "library/controls/ShapeControl.h"
 #include "library/values/ValueListControl.h"
 #include "package/dialogs/pVRXFilterPropertyEditorDlg.h"
 #include "package/dialogs/pVRXLEDEditorDlg.h"
+#include "package/dialogs/pVRXMMButtonFaceEditorDlg.h"
 #include "package/dialogs/pVRXValueListDlg.h"
 #include "package/dialogs/pVRXVldRegExpEditor.h"
 #include "package/property_editors/pVRXCPGetMain.h"
+#include "rtl/PropAccess.h"
+#include "vcl/Prompts.h"
 
 using enum TPropertyAttribute;
 
@@ -59,8 +63,43 @@ std::int64_t TVRXLightColorProperty::Pick(std::int64_t value) {
 
 TPropertyAttributes TVRXButtonFaceProperty::GetAttributes() const { return {paDialog}; }
 void TVRXButtonFaceProperty::Edit() {
-  auto* button = As<TVRXCustom3DButton>(GetComponent(0));
-  if (button && VRXCPGetButtonFace3D(*button)) Modified();
+  TPersistent* const component = GetComponent(0);
+  if (auto* button = As<TVRXCustom3DButton>(component)) {
+    if (VRXCPGetButtonFace3D(*button)) Modified();
+    return;
+  }
+  const TPropInfo* prop = component->ClassType().FindProp("ButtonFaceImageList");
+  auto* owner = As<TComponent>(component);
+  if (!owner || !prop || prop->Kind() != TTypeKind::tkClass) return;
+  if (VRXCPGetButtonFaceMM(*owner, As<TCustomImageList>(GetObjectProp(*owner, *prop)))) Modified();
+}
+
+namespace {
+// The dialog works on the numbers; the component takes them when the person confirms.
+template <class C>
+bool EditFace(C& component, TCustomImageList& images) {
+  TVRXButtonFaceDlg dialog(nullptr);
+  dialog.SetFace(images, component.GetButtonFaceIndices());
+  if (dialog.ShowModal() != mrOk) return false;
+  const bool changed = dialog.Face() != component.GetButtonFaceIndices();
+  component.SetButtonFaceIndices(dialog.Face());
+  component.SetTransCol();
+  return changed;
+}
+}  // namespace
+
+bool VRXCPGetButtonFaceMM(TComponent& component, TCustomImageList* images) {
+  const auto refuse = [](const char* why) {
+    Prompts().Inform(ApplicationOwner(), QStringLiteral("Button Face Editor"), QString::fromLatin1(why));
+    return false;
+  };
+  if (!images) return refuse("Can't run Editor because no ButtonFaceImageList is selected.");
+  if (auto* controller = As<TVRXMMButtonFaceController>(&component)) return EditFace(*controller, *images);
+  auto* button = As<TVRXCustomMMButton>(&component);
+  if (!button) return false;
+  if (button->Get(TVRXCustomMMButton::ButtonFaceController))
+    return refuse("Can't run Editor because control is connected to a ButtonFaceController component.");
+  return EditFace(*button, *images);
 }
 
 TPropertyAttributes TVRXListProperty::GetAttributes() const { return {paDialog}; }

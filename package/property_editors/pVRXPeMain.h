@@ -9,7 +9,13 @@
 #include "library/values/Teeth.h"
 #include "library_design/CopyProperty.h"
 
+class TCustomImageList;
+class TComponent;
 class TVRXRegExprForm;
+
+// The pictures of a multimedia button, or of a controller of such buttons, by state. Says why when there is
+// nothing to choose from. Whether another face was taken over.
+bool VRXCPGetButtonFaceMM(TComponent& component, TCustomImageList* images);
 
 class TVRXLEDProperty : public TClassProperty {
  public:

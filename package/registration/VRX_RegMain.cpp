@@ -21,6 +21,7 @@
 #include "library/controls/LEDLabel.h"
 #include "library/controls/LabeledBoxes.h"
 #include "library/controls/Light.h"
+#include "library/controls/MMButton.h"
 #include "library/controls/RegionControl.h"
 #include "library/controls/ShapeControl.h"
 #include "library/controls/Switch.h"
@@ -40,7 +41,8 @@ bool WithLabels() { return VRXEditorOption(TVRXEditorOption::LabeledVariants); }
 
 // Each page, and then the editors of what is on it.
 const Row kRows[] = {
-    Page("VRX Std", TellingClasses<TVRXStaticText>()),
+    Page("VRX Std", TellingClasses<TVRXFaceController, TVRXStaticText>()),
+    Component<TVRXFaceController, TVRXFaceControllerEditor>(),
 
     Page("VRX Ext", TellingClasses<TVRXClock, TVRXButtonBar, TVRXButtonBarPopupMenu, TVRXDlgButtonPanel,
                                    TVRXCalendar, TVRXCalculator, TVRXTechnicalLine, TVRXClock, TVRXLEDLabel,
@@ -56,6 +58,9 @@ const Row kRows[] = {
     Property<TVRXLightColor, TVRXLightColorProperty>(),
     Component<TVRXCustomLight, TVRXLightComponentEditor>(),
     Component<TVRXFill, TVRXFillComponentEditor>(),
+
+    Page("VRX Cont", TellingClasses<TVRXMMButtonFaceController>()),
+    Component<TVRXMMButtonFaceController, TVRXButtonFaceControllerEditor>(),
 
     Page("VRX Dlg", TellingClasses<TVRXFormOpenDialog, TVRXFormSaveDialog>()),
 
@@ -83,9 +88,9 @@ const Row kRows[] = {
     Component<TVRXFormShadow, TVRXShadowComponentEditor>(),
     Component<TVRXFormShape, TVRXFormShapeComponentEditor>(),
 
-    Page("VRX MM",
-         TellingClasses<TVRXLabelFill, TVRXScrollText, TVRX3DEffectButton, TVRXHiTimer, TVRXShapeControl,
-                        TVRXRepeatedShape, TVRXAniCtrl, TVRXPanelShape, TVRXWndButtonShape>()),
+    Page("VRX MM", TellingClasses<TVRXLabelFill, TVRXScrollText, TVRXMMButton, TVRXShapeButton,
+                                  TVRX3DEffectButton, TVRXHiTimer, TVRXShapeControl, TVRXRepeatedShape,
+                                  TVRXAniCtrl, TVRXPanelShape, TVRXWndButtonShape>()),
     Component<TVRXAniCtrl, TVRXAniCtrlComponentEditor>(),
     Component<TVRXCustomLabelFill, TVRXLabelFillComponentEditor>(),
     Component<TVRXBaseShape, TVRXCustomShapeComponentEditor>(),
@@ -93,6 +98,7 @@ const Row kRows[] = {
     Component<TVRXPanelShape, TVRXPanelShapeComponentEditor>(),
     Component<TVRXScrollText, TVRXScrollTextComponentEditor>(),
     Component<TVRXCustom3DButton, TVRXExtGraphicButtonComponentEditor>(),
+    Component<TVRXCustomMMButton, TVRXExtGraphicButtonComponentEditor>(),
 
     Page("VRX Sys", TellingClasses<TVRXSendKeys, TVRXRegExpr, TVRXExpressionEval>()),
     Component<TVRXCustomShapeHint, TVRXShapeHintComponentEditor>(),

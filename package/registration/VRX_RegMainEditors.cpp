@@ -6,6 +6,7 @@
 #include "library/components/SpecialDates.h"
 #include "library/components/TitleItems.h"
 #include "library/controls/Clock.h"
+#include "library/controls/MMButton.h"
 #include "library/controls/ValueListBox.h"
 #include "library/values/ButtonFace.h"
 #include "library/values/Caption.h"
@@ -19,11 +20,14 @@
 #include "package/dialogs/pVRXBmpRegionEditorDlg.h"
 #include "package/dialogs/pVRXButtonBarEditorDlg.h"
 #include "package/dialogs/pVRXCaptionEditorDlg.h"
+#include "package/dialogs/pVRXControlFaceEditorDlg.h"
+#include "package/dialogs/pVRXControlFaceEditorDlgAddState.h"
 #include "package/dialogs/pVRXDateListEditorDlg.h"
 #include "package/dialogs/pVRXDlgBtnEditorDlg.h"
 #include "package/dialogs/pVRXFilterPropertyEditorDlg.h"
 #include "package/dialogs/pVRXLEDEditorDlg.h"
 #include "package/dialogs/pVRXLightEditorDlg.h"
+#include "package/dialogs/pVRXMMButtonFaceEditorDlg.h"
 #include "package/dialogs/pVRXPointListEditorDlg.h"
 #include "package/dialogs/pVRXSendKeyEditorDlg.h"
 #include "package/dialogs/pVRXShadowEditorDlg.h"
@@ -53,6 +57,10 @@ const Row kRows[] = {
     Property<TCustomImageList, TVRXCustomImageListProperty, TVRXCaptionButtons>("ImageList"),
     Property<TCustomImageList, TVRXCustomImageListProperty, TVRXButtonBar>("LargeImageList"),
     Property<TCustomImageList, TVRXCustomImageListProperty, TVRXButtonBar>("SmallImageList"),
+    Property<TCustomImageList, TVRXCustomImageListProperty, TVRXCustomMMButton>("ButtonFaceImageList"),
+    Property<TCustomImageList, TVRXCustomImageListProperty, TVRXCustomShapeButton>("ShapeFillImageList"),
+    Property<TCustomImageList, TVRXCustomImageListProperty, TVRXMMButtonFaceController>(
+        "ButtonFaceImageList"),
     Property<TVRXShadow, TVRXShadowProperty>(),
     Property<TVRXShapeFill, TVRXShapeFillProperty>(),
     Property<TVRXPointList, TVRXPointListProperty>(),
@@ -78,7 +86,8 @@ const Row kRows[] = {
             TVRXCaptionEditorDlg, TVRXShapeEditorDlg, TVRXLightEditorDlg, TVRX3DEffectEditorDlg,
             TVRXfrmRegionFromBMPdlg, TVRXFilterPropsDlg, TfrmTVRXPointListEditor, TVRXDateListEditorDlg,
             TVRXValueListDlg, TVRXRegExprForm, TVRXSendKeyEditorDlg, TVRXDlgBtnEditorDlg,
-            TVRXButtonBarEditorDlg>(),
+            TVRXButtonBarEditorDlg, TVRXControlFaceEditorDlg, TVRXControlFaceEditorDlgAddState,
+            TVRXButtonFaceDlg>(),
 };
 }  // namespace
 

@@ -68,7 +68,9 @@ TEST_F(DescribeCli, JsonHasTheSameKeysForEveryControl) {
             "TfrmTVRXPointListEditor=Point List Editor|TVRXDateListEditorDlg=Date List Property Editor|"
             "TVRXValueListDlg=Value List Editor|TVRXRegExprForm=Regular Expression|"
             "TVRXSendKeyEditorDlg=Send Keys Test Editor|TVRXDlgBtnEditorDlg=Panel Buttons Editor|"
-            "TVRXButtonBarEditorDlg=Button Bar Editor");
+            "TVRXButtonBarEditorDlg=Button Bar Editor|"
+            "TVRXControlFaceEditorDlg=Face Controller Editor|TVRXControlFaceEditorDlgAddState=Add States|"
+            "TVRXButtonFaceDlg=Button Face Editor");
 }
 
 TEST_F(DescribeCli, JsonKeepsAcceleratorsLineBreaksAndTypes) {

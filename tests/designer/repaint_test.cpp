@@ -2,6 +2,8 @@
 // whole surface painted anew.
 #include <QRandomGenerator>
 
+#include "library/controls/CustomLabel.h"
+#include "library/controls/MMButton.h"
 #include "rtl/PropAccess.h"
 #include "tests/designer/DesignerTest.h"
 
@@ -54,6 +56,47 @@ TEST_F(RepaintTest, MarksOfTheSelectionMoveWithAContainer) {
     panel.SetBounds(panel.Left() + 5, panel.Top() + 90, panel.Width(), panel.Height());
   });
   ExpectAllPainted(QStringLiteral("move"));
+}
+
+TEST_F(RepaintTest, ControlsFollowTheirFaceController) {
+  auto* text = As<TVRXStaticText>(
+      Session().CreateComponent(TVRXStaticText::StaticClass(), nullptr, QRect(16, 200, 90, 20)));
+  auto* face = As<TVRXFaceController>(
+      Session().CreateComponent(TVRXFaceController::StaticClass(), nullptr, QRect(300, 250, 0, 0)));
+  Session().Run(QStringLiteral("refer"), {}, [&] { text->Set(VRXFaceControllerRef, face); });
+  ExpectAllPainted(QStringLiteral("refer"));
+  Session().Run(QStringLiteral("color"), {}, [&] {
+    face->AddSettingObject(TVRXCFCSettingObjectKind::okColor);
+    face->States()->Add()->Add(face->SettingObjects()->Items(0), true);
+  });
+  ExpectAllPainted(QStringLiteral("color"));
+  Session().Run(QStringLiteral("another color"), {}, [&] {
+    As<TVRXColorObject>(face->SettingObjects()->Items(0))->Set(TVRXColorObject::Color, clRed);
+  });
+  ExpectAllPainted(QStringLiteral("another color"));
+  Session().Undo();
+  ExpectAllPainted(QStringLiteral("undo"));
+}
+
+TEST_F(RepaintTest, ButtonsFollowThePicturesThatTheirControllerRefersTo) {
+  auto* images =
+      As<TImageList>(Session().CreateComponent(TImageList::StaticClass(), nullptr, QRect(340, 250, 0, 0)));
+  auto* faces = As<TVRXMMButtonFaceController>(
+      Session().CreateComponent(TVRXMMButtonFaceController::StaticClass(), nullptr, QRect(300, 250, 0, 0)));
+  auto* button = As<TVRXMMButton>(
+      Session().CreateComponent(TVRXMMButton::StaticClass(), nullptr, QRect(16, 200, 120, 40)));
+  Session().Run(QStringLiteral("refer"), {}, [&] {
+    faces->Set(TVRXMMButtonFaceController::ButtonFaceImageList, images);
+    faces->SetButtonFaceIndices({TVRXButtonFaceIndex{1, 0}});
+    button->Set(TVRXMMButton::ButtonFaceController, faces);
+  });
+  ExpectAllPainted(QStringLiteral("refer"));
+  QImage picture(16, 16, QImage::Format_ARGB32);
+  picture.fill(Qt::magenta);
+  Session().Run(QStringLiteral("pictures"), {}, [&] { images->SetPictures({picture}); });
+  ExpectAllPainted(QStringLiteral("pictures"));
+  Session().Undo();
+  ExpectAllPainted(QStringLiteral("undo"));
 }
 
 TEST_F(RepaintTest, WhateverIsDoneTheWholeSurfaceIsRight) {

@@ -86,9 +86,9 @@ TEST(TransparentPicture, StaysSoInAButtonThatIsStoredAndReadAgain) {
   source.Fill(clLime);
   for (int x = 0; x < 6; ++x) source.SetPixel(x, 6, clMaroon);
   const TVRXMaskedPicture masked = VRXBmpCreateMasksExt(source, clLime);
-  TVRXButtonFace made, read;
+  TVRX3DButtonFace made, read;
   made.SetPictures(masked, masked, masked);
-  for (const TPropInfo* prop : TVRXButtonFace::StaticClass().Properties())
+  for (const TPropInfo* prop : TVRX3DButtonFace::StaticClass().Properties())
     SetProp(read, *prop, GetProp(made, *prop));
   TVRX3DEffectButton button(nullptr);
   button.SetButtonFace(&read);

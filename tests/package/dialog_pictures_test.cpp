@@ -58,7 +58,7 @@ TEST_F(HoledEffect, IsTransparentInTheButton) {
   });
   EXPECT_TRUE(VRXCPGetButtonFace3D(button));
   EXPECT_NE(button.Width(), button.Height());
-  for (const auto state : {TVRXButtonState::Up, TVRXButtonState::Down, TVRXButtonState::Disabled}) {
+  for (const auto state : {TVRX3DButtonState::Up, TVRX3DButtonState::Down, TVRX3DButtonState::Disabled}) {
     const QImage& shown = button.ButtonFace()->Picture(state);
     EXPECT_EQ(shown.size(), QSize(button.Width(), button.Height()));
     EXPECT_EQ(qAlpha(shown.pixel(0, shown.height() - 1)), 0);

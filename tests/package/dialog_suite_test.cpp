@@ -10,6 +10,7 @@
 #include "library_design/FontDialogs.h"
 #include "library_design/ImageListDialogs.h"
 #include "library_design/LookDialogs.h"
+#include "library_design/SettingEditors.h"
 #include "library_design/ValueDialogs.h"
 #include "package/dialogs/pVRXCaptionEditorDlg.h"
 #include "package/dialogs/pVRXLEDEditorDlg.h"
@@ -60,6 +61,13 @@ constexpr TabRow TabRows[] = {
     {"TVRXButtonBarEditorDlg", 1,
      "bbar pages btnFillObject btnFont btnBevel btnFont3D VRXCheckBox1 lih sih small smallbtn smalllbx large "
      "largebtn largelbx ok cancel"},
+    {"TVRXControlFaceEditorDlg", 0,
+     "btnLoad btnSave btnAddState remove clear controllerStateList stateObjectList VRXSpeedButton1 "
+     "VRXSpeedButton2 VRXSpeedButton4 VRXSpeedButton3 btnProp btnAddFont btnAddFont3D btnAddFontFx "
+     "btnAddFillObject btnAddBitmapEffect btnAddBevel btnAddColor btnAddStyles controllerObjectsList "
+     "edFilePath btnBrowse btnOk btnCancel"},
+    {"TVRXControlFaceEditorDlgAddState", 0, "notUsedStates btnAll btnNone btnOk btnCancel"},
+    {"TVRXButtonFaceDlg", 0, "lb SelectBtn nopicture ClearAll sync synchot VRXButton1 OKButton CancelButton"},
     {"TVRXFontFxEditorDlg", 0, "cmbstyle edlight cmbL edshadow cmbs edangle edtracing ok cancel reset"},
     {"FontDialog", 0,
      "cmbname edsize edheight cmbcolor cmbcharset cmbpitch bold italic underline strikeout ok cancel reset"},
@@ -74,6 +82,7 @@ constexpr TabRow TabRows[] = {
     {"TVRXImageListDlg", 0, "lists images ok cancel"},
     {"TVRXSelectValueDlg", 0, "names ok cancel"},
     {"TVRXTextDlg", 0, "text ok cancel"},
+    {"TVRXBitmapEffectDlg", 0, "cmbkind edamount cmbcolor dlgc ok cancel reset"},
 };
 
 std::vector<TDialogRegistration> AllDialogs() {
@@ -82,7 +91,7 @@ std::vector<TDialogRegistration> AllDialogs() {
   VRX_RegMainEditors::Register();
   registration::Dialogs<TVRXFontFxEditorDlg, FontDialog, TVRXFillEditorDlg, TVRXBevelEditorDlg,
                         TVRXBrushEditorDlg, TVRXFont3DEditorDlg, TVRXDateTimeFormatDlg, TVRXImageListDlg,
-                        TVRXSelectValueDlg, TVRXTextDlg>()
+                        TVRXSelectValueDlg, TVRXTextDlg, TVRXBitmapEffectDlg>()
       .Call();
   return registry.Dialogs();
 }
@@ -309,7 +318,7 @@ TEST_F(DialogSuite, NothingBeyondItsLimitsCanBeTypedIntoASpinEdit) {
       ++edits;
     }
   });
-  EXPECT_EQ(edits, 10 + 1 + 1 + 3 + 1 + 2 + 2 + 4 + 2 + 3);
+  EXPECT_EQ(edits, 10 + 1 + 1 + 3 + 1 + 2 + 2 + 4 + 2 + 3 + 1);
 }
 
 TEST_F(DialogSuite, AllColoursOfADialogShareTheirCustomColours) {
@@ -328,7 +337,7 @@ TEST_F(DialogSuite, AllColoursOfADialogShareTheirCustomColours) {
     dialog.reject();
     EXPECT_EQ(LoadIDECustomColors(), colors);
   });
-  EXPECT_EQ(shared, 2 + 1 + 3 + 4 + 2 + 1 + 2 + 3 + 1 + 2);
+  EXPECT_EQ(shared, 2 + 1 + 3 + 4 + 2 + 1 + 2 + 3 + 1 + 2 + 1);
 }
 
 TEST_F(DialogSuite, TheExtendedColourDialogKeepsTheLastSixteenCustomColours) {

@@ -41,10 +41,10 @@ TEST_F(EffectLauncher, OkGivesTheButtonItsPicturesAndTheirSize) {
   TBitmap up, down, disabled;
   VRXDrawButton3D(BarOnSilver(), up, down, disabled, clSilver, clWhite, clGray, clWhite, clNone, clNone,
                   clBlack, false, 2, nullptr);
-  TVRXButtonFace expected;
+  TVRX3DButtonFace expected;
   expected.SetPictures(VRXBmpCreateMasksExt(up, clSilver), VRXBmpCreateMasksExt(down, clSilver),
                        VRXBmpCreateMasksExt(disabled, clSilver));
-  for (const auto state : {TVRXButtonState::Up, TVRXButtonState::Down, TVRXButtonState::Disabled}) {
+  for (const auto state : {TVRX3DButtonState::Up, TVRX3DButtonState::Down, TVRX3DButtonState::Disabled}) {
     ASSERT_FALSE(expected.Picture(state).isNull());
     EXPECT_EQ(button.ButtonFace()->Picture(state), expected.Picture(state));
   }

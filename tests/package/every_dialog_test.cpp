@@ -8,6 +8,7 @@
 #include "library_design/Font3DDialog.h"
 #include "library_design/FontDialogs.h"
 #include "library_design/LookDialogs.h"
+#include "library_design/SettingEditors.h"
 #include "package/property_editors/pVRXCPGetMain.h"
 #include "package/registration/VRX_RegMainEditors.h"
 #include "rtl/PropAccess.h"
@@ -101,6 +102,7 @@ TEST_F(EveryDialog, OfAValueKeepsIt) {
   ExpectKept<TVRXShapeFill>([](TVRXShapeFill& v) { return VRXCPGetShapeFill(v); }, "shape fill");
   ExpectKept<TVRXBevel>(VRXCPGetBevel, "bevel");
   ExpectKept<TBrush>(VRXCPGetBrush, "brush");
+  ExpectKept<TVRXBitmapEffect>(VRXCPGetBitmapEffect, "bitmap effect");
   ExpectKept<TVRXFont3D>(VRXCPGetFont3D, "light and shadow");
   ExpectKept<TFont>(VRXCPGetFont, "font");
   ExpectKept<TFont>(EditFont, "font of the inspector");

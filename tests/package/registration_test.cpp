@@ -204,33 +204,36 @@ TEST_F(Registering, ShapesLightsSwitchesAndLinesStandAtTheirPlacesWithTheirEdito
   QStringList pages;
   for (const QString& call : calls)
     if (call.startsWith(QStringLiteral("page "))) pages << call + u' ';
-  ASSERT_EQ(pages.size(), 9);
-  EXPECT_TRUE(InOrder(pages[0], "Std: TVRXStaticText"));
+  ASSERT_EQ(pages.size(), 10);
+  EXPECT_TRUE(InOrder(pages[0], "Std: TVRXFaceController TVRXStaticText"));
   EXPECT_TRUE(InOrder(pages[1],
                       "Ext: TVRXClock TVRXButtonBar TVRXButtonBarPopupMenu TVRXDlgButtonPanel TVRXCalendar "
                       "TVRXCalculator TVRXTechnicalLine TVRXClock TVRXLEDLabel "
                       "TVRXSwitch TVRXWSwitch "
                       "TVRXLight"));
-  EXPECT_TRUE(InOrder(pages[2], "Dlg: TVRXFormOpenDialog TVRXFormSaveDialog"));
-  EXPECT_TRUE(InOrder(pages[3],
+  EXPECT_TRUE(InOrder(pages[2], "Cont: TVRXMMButtonFaceController"));
+  EXPECT_TRUE(InOrder(pages[3], "Dlg: TVRXFormOpenDialog TVRXFormSaveDialog"));
+  EXPECT_TRUE(InOrder(pages[4],
                       "Edit: TVRXCalendarEdit TVRXCalculatorEdit TVRXEditAutoComplete TVRXTagEditor "
                       "TVRXEditControlPrintTask TVRXDateTimePicker TVRXFormComboBox"));
-  EXPECT_TRUE(InOrder(pages[4],
+  EXPECT_TRUE(InOrder(pages[5],
                       "List: TVRXDriveComboBox TVRXListComboBox TVRXTreeComboBox TVRXHeaderListComboBox "
                       "TVRXCheckListComboBox TVRXCalculatorComboBox TVRXCalendarComboBox "
                       "TVRXTrackBarComboBox TVRXValueListBox TVRXValueComboBox"));
-  EXPECT_TRUE(InOrder(pages[5],
+  EXPECT_TRUE(InOrder(pages[6],
                       "Form: TVRXForm TVRXBack TVRXFormFill TVRXFormStyler TVRXFormShadow TVRXFormShape "
                       "TVRXSysMenu TVRXCaptionButtons"));
-  EXPECT_TRUE(InOrder(pages[6],
-                      "MM: TVRXLabelFill TVRXScrollText TVRX3DEffectButton TVRXHiTimer TVRXShapeControl "
+  EXPECT_TRUE(InOrder(pages[7],
+                      "MM: TVRXLabelFill TVRXScrollText TVRXMMButton TVRXShapeButton TVRX3DEffectButton "
+                      "TVRXHiTimer TVRXShapeControl "
                       "TVRXRepeatedShape TVRXAniCtrl TVRXPanelShape TVRXWndButtonShape"));
-  EXPECT_TRUE(InOrder(pages[7], "Sys: TVRXSendKeys TVRXRegExpr TVRXExpressionEval"));
-  EXPECT_TRUE(InOrder(pages[8],
+  EXPECT_TRUE(InOrder(pages[8], "Sys: TVRXSendKeys TVRXRegExpr TVRXExpressionEval"));
+  EXPECT_TRUE(InOrder(pages[9],
                       "HTML: TVRXHTMLExtListBox TVRXHTMLComboBox TVRXHTMLListBox TVRXHTMLListBoxExt "
                       "TVRXHTMLHeaderControl"));
   qsizetype last = -1;
-  for (const char* call : {"TVRXLEDCustomLabel by TVRXLEDLabelComponentEditor",
+  for (const char* call : {"TVRXFaceController by TVRXFaceControllerEditor",
+                           "TVRXLEDCustomLabel by TVRXLEDLabelComponentEditor",
                            "TVRXClock by TVRXClockComponentEditor",
                            "TVRXTechnicalLine by TVRXTechnicalLineComponentEditor",
                            "TCollection TVRXButtonBar.Sections by TVRXButtonBarCollectionProperty",
@@ -240,6 +243,7 @@ TEST_F(Registering, ShapesLightsSwitchesAndLinesStandAtTheirPlacesWithTheirEdito
                            "TVRXLightColor any. by TVRXLightColorProperty",
                            "TVRXCustomLight by TVRXLightComponentEditor",
                            "TVRXFill by TVRXFillComponentEditor",
+                           "TVRXMMButtonFaceController by TVRXButtonFaceControllerEditor",
                            "TVRXFormStyler by TVRXFormStylerComponentEditor",
                            "TVRXCustomFormFill by TVRXFormFillComponentEditor",
                            "TVRXFormShadow by TVRXShadowComponentEditor",
@@ -252,8 +256,15 @@ TEST_F(Registering, ShapesLightsSwitchesAndLinesStandAtTheirPlacesWithTheirEdito
                            "TVRXScrollText by TVRXScrollTextComponentEditor",
                            "TVRXCustom3DButton by TVRXExtGraphicButtonComponentEditor",
                            "TVRXSendKeys by TVRXSendKeyComponentEditor",
+                           "TVRXCustomMMButton by TVRXExtGraphicButtonComponentEditor",
                            "TCustomImageList TVRXButtonBar.LargeImageList by TVRXCustomImageListProperty",
                            "TCustomImageList TVRXButtonBar.SmallImageList by TVRXCustomImageListProperty",
+                           "TCustomImageList TVRXCustomMMButton.ButtonFaceImageList by "
+                           "TVRXCustomImageListProperty",
+                           "TCustomImageList TVRXCustomShapeButton.ShapeFillImageList by "
+                           "TVRXCustomImageListProperty",
+                           "TCustomImageList TVRXMMButtonFaceController.ButtonFaceImageList by "
+                           "TVRXCustomImageListProperty",
                            "TVRXShadow any. by TVRXShadowProperty",
                            "TVRXShapeFill any. by TVRXShapeFillProperty",
                            "TVRXPointList any. by TVRXPointListProperty",
@@ -263,6 +274,7 @@ TEST_F(Registering, ShapesLightsSwitchesAndLinesStandAtTheirPlacesWithTheirEdito
                            "string TVRXFormSaveDialog.Filter by TVRXFilterProperty",
                            "TVRXRegionMask any. by TVRXRegionMaskProperty",
                            "TVRXRegExString any.Expression by TVRXVldRegExprProperty",
+                           "TVRXButtonFace any. by TVRXButtonFaceProperty",
                            "TVRXSimpleBevel any. by TVRXSimpleBevelProperty",
                            "TVRXShapeType any. by TVRXShapeProperty",
                            "TVRXTeeth any. by TVRXTeethProperty",

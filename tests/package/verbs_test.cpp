@@ -237,5 +237,5 @@ TEST(EveryComponentEditor, LedLabelsAndButtonsHaveTheVerbsOfTheirDialogs) {
   EXPECT_EQ(Menu(TVRXLEDLabelComponentEditor(&label, nullptr)).join(u'|'),
             QStringLiteral("|Caption|AutoSize: True|Bevel|LED|"));
   EXPECT_EQ(Menu(TVRXExtGraphicButtonComponentEditor(&button, nullptr)).join(u'|'),
-            QStringLiteral("|Button-Editor|"));
+            QStringLiteral("|Button-Editor|Caption|Font|Down: False|Enabled: True|"));
 }

@@ -1,0 +1,20 @@
+// Values of an object as lines of text ("Bitmap.Data = ...", "Style = [fsBold]") and back, for files that
+// people and later versions may have written.
+#pragma once
+#include <QStringList>
+
+class TPersistent;
+
+// A text in quotes, on one line, and back. False for what is no such text.
+QString QuotedText(const QString& text);
+bool UnquotedText(QStringView quoted, QString& text);
+
+// What is not at its default, in the order of the properties.
+QStringList ValueLines(const TPersistent& object);
+
+enum class TValueRead {
+  Taken,
+  Foreign,  // well-formed, but nothing that this object knows
+};
+// One such line, which changes the object. Throws Exception with what is wrong; the object is then unchanged.
+TValueRead ReadValueLine(TPersistent& object, QStringView line);
