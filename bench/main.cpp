@@ -6,6 +6,7 @@
 
 #include "bench/Generate.h"
 #include "bench/HtmlTasks.h"
+#include "bench/LabelTasks.h"
 #include "bench/Measure.h"
 #include "bench/PaintTasks.h"
 #include "bench/PixelTasks.h"
@@ -19,7 +20,7 @@ const std::map<QString, void (*)(const QString&, const QString&)>& TaskTable() {
       {QStringLiteral("save-form"), MeasureFormSave}, {QStringLiteral("edit-form"), MeasureEdit},
       {QStringLiteral("modified"), MeasureModified},  {QStringLiteral("pixels"), MeasurePixels},
       {QStringLiteral("window"), MeasureWindow},      {QStringLiteral("paint"), MeasurePaint},
-      {QStringLiteral("html"), MeasureHtml},
+      {QStringLiteral("html"), MeasureHtml},          {QStringLiteral("label"), MeasureGraphicLabel},
   };
   return table;
 }
@@ -79,6 +80,7 @@ class Bench {
       Window();
       Paint();
       Html();
+      Label();
     }
     Pixels();
   }
@@ -209,6 +211,14 @@ class Bench {
         QStringLiteral("at most 1"), cold);
     Row(QStringLiteral("Draw 1,000 rows of markup again: time / the same by QTextDocument"),
         QStringLiteral("at most 1"), warm);
+  }
+
+  void Label() {
+    Pairs all;
+    for (int i = 0; i < 3; ++i)
+      all.Add(Results::RunApart({QStringLiteral("label"), {}, {}}).ThePairs("label"));
+    Row(QStringLiteral("Paint a bent text with fill, line and shadow: time / its outline filled once"),
+        QStringLiteral("at most 3"), all);
   }
 
   void Pixels() {

@@ -12,6 +12,7 @@
 #include "library/controls/Button3D.h"
 #include "library/controls/Calculator.h"
 #include "library/controls/Calendar.h"
+#include "library/controls/GraphicLabel.h"
 #include "library/controls/HTMLComboBox.h"
 #include "library/controls/HTMLHeaderControl.h"
 #include "library/controls/HTMLListBox.h"
@@ -75,11 +76,12 @@ const Row kRows[] = {
     Component<TVRXFormShadow, TVRXShadowComponentEditor>(),
     Component<TVRXFormShape, TVRXFormShapeComponentEditor>(),
 
-    Page("VRX MM",
-         TellingClasses<TVRXLabelFill, TVRXScrollText, TVRX3DEffectButton, TVRXHiTimer, TVRXShapeControl,
-                        TVRXRepeatedShape, TVRXAniCtrl, TVRXPanelShape, TVRXWndButtonShape>()),
+    Page("VRX MM", TellingClasses<TVRXLabelFill, TVRXGraphicLabel, TVRXScrollText, TVRX3DEffectButton,
+                                  TVRXHiTimer, TVRXShapeControl, TVRXRepeatedShape, TVRXAniCtrl,
+                                  TVRXPanelShape, TVRXWndButtonShape>()),
     Component<TVRXAniCtrl, TVRXAniCtrlComponentEditor>(),
     Component<TVRXCustomLabelFill, TVRXLabelFillComponentEditor>(),
+    Component<TVRXGraphicLabel, TVRXGraphicLabelComponentEditor>(),
     Component<TVRXBaseShape, TVRXCustomShapeComponentEditor>(),
     Component<TVRXWndButtonShape, TVRXWndButtonShapeComponentEditor>(),
     Component<TVRXPanelShape, TVRXPanelShapeComponentEditor>(),

@@ -20,6 +20,7 @@
 #include "package/dialogs/pVRXCaptionEditorDlg.h"
 #include "package/dialogs/pVRXDateListEditorDlg.h"
 #include "package/dialogs/pVRXFilterPropertyEditorDlg.h"
+#include "package/dialogs/pVRXGraphicLabelEditorDlg.h"
 #include "package/dialogs/pVRXLEDEditorDlg.h"
 #include "package/dialogs/pVRXLightEditorDlg.h"
 #include "package/dialogs/pVRXPointListEditorDlg.h"
@@ -60,7 +61,7 @@ const Row kRows[] = {
     Dialogs<TVRXLEDEditorDlg, TVRXShadowEditorDlg, TVRXSimpleBevelEditorDlg, TVRXTeethEditorDlg,
             TVRXCaptionEditorDlg, TVRXShapeEditorDlg, TVRXLightEditorDlg, TVRX3DEffectEditorDlg,
             TVRXfrmRegionFromBMPdlg, TVRXFilterPropsDlg, TfrmTVRXPointListEditor, TVRXDateListEditorDlg,
-            TVRXValueListDlg, TVRXRegExprForm>(),
+            TVRXValueListDlg, TVRXRegExprForm, TVRXGraphicLabelEditorDlg>(),
 };
 }  // namespace
 

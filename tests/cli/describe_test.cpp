@@ -66,7 +66,8 @@ TEST_F(DescribeCli, JsonHasTheSameKeysForEveryControl) {
             "TVRXShapeEditorDlg=Shape Editor|TVRXLightEditorDlg=Light Editor|TVRX3DEffectEditorDlg=3D Effect "
             "Editor|TVRXfrmRegionFromBMPdlg=Region From Bitmap Editor|TVRXFilterPropsDlg=Filter Editor|"
             "TfrmTVRXPointListEditor=Point List Editor|TVRXDateListEditorDlg=Date List Property Editor|"
-            "TVRXValueListDlg=Value List Editor|TVRXRegExprForm=Regular Expression");
+            "TVRXValueListDlg=Value List Editor|TVRXRegExprForm=Regular Expression|"
+            "TVRXGraphicLabelEditorDlg=Graphic Label Editor");
 }
 
 TEST_F(DescribeCli, JsonKeepsAcceleratorsLineBreaksAndTypes) {

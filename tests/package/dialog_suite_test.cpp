@@ -51,6 +51,16 @@ constexpr TabRow TabRows[] = {
     {"TVRXValueListDlg", 0, "ValueListEditor AddRow OkButton CancelButton"},
     {"TVRXRegExprForm", 0,
      "edRegExpr edSample edExprName sgExpressions btAddExpr btLoad btSave btOK btCancel"},
+    {"TVRXGraphicLabelEditorDlg", 0,
+     "pages ComboBoxTransform VRXSpinEditFactor ButtonFillObjectDialog ButtonOK ButtonCancel"},
+    {"TVRXGraphicLabelEditorDlg", 1,
+     "pages ComboBoxStyle VRXSpinEditLightDepth VRXSpinEditShadowDepth VRXSpinEditAngle VRXSpinEditTracing "
+     "VRXLightColorComboBox VRXShadowColorComboBox ButtonOK ButtonCancel"},
+    {"TVRXGraphicLabelEditorDlg", 2,
+     "pages VRXFontComboBox VRXColorComboBox VRXFontSizeComboBox ButtonFontDialog ButtonOK ButtonCancel"},
+    {"TVRXGraphicLabelEditorDlg", 3,
+     "pages VRXSpinEditToggle ComboBoxPerspective VRXSpinEditPerspectiveDepth CheckBoxEqualLetters "
+     "CheckBoxAutoToggle CheckBoxToggled ButtonOK ButtonCancel"},
     {"TVRXFontFxEditorDlg", 0, "cmbstyle edlight cmbL edshadow cmbs edangle edtracing ok cancel reset"},
     {"FontDialog", 0,
      "cmbname edsize edheight cmbcolor cmbcharset cmbpitch bold italic underline strikeout ok cancel reset"},
@@ -117,7 +127,7 @@ QStringList TextsOf(const TPersistent& value) {
   for (const TPropInfo* prop : value.ClassType().Properties())
     if (prop->Is<QByteArray>())
       texts << QString::fromLatin1(GetBinaryProp(value, *prop).toHex());
-    else if (prop->Kind() == TTypeKind::tkClass)
+    else if (prop->IsPart())
       texts << TextsOf(*GetObjectProp(value, *prop));
     else
       texts << QString::fromLatin1(prop->Name) + u'=' + GetPropText(value, *prop);
@@ -281,7 +291,7 @@ TEST_F(DialogSuite, NothingBeyondItsLimitsCanBeTypedIntoASpinEdit) {
       ++edits;
     }
   });
-  EXPECT_EQ(edits, 10 + 1 + 1 + 3 + 1 + 2 + 2 + 4);
+  EXPECT_EQ(edits, 10 + 7 + 1 + 1 + 3 + 1 + 2 + 2 + 4);
 }
 
 TEST_F(DialogSuite, AllColoursOfADialogShareTheirCustomColours) {
@@ -300,7 +310,7 @@ TEST_F(DialogSuite, AllColoursOfADialogShareTheirCustomColours) {
     dialog.reject();
     EXPECT_EQ(LoadIDECustomColors(), colors);
   });
-  EXPECT_EQ(shared, 2 + 1 + 3 + 4 + 2 + 1 + 2 + 3 + 1 + 2);
+  EXPECT_EQ(shared, 2 + 1 + 3 + 4 + 3 + 2 + 1 + 2 + 3 + 1 + 2);
 }
 
 TEST_F(DialogSuite, TheExtendedColourDialogKeepsTheLastSixteenCustomColours) {
