@@ -1,14 +1,17 @@
 // Components that are on no palette page but in forms: known from the moment the library is in memory.
 #include "library/components/ShapeHint.h"
 #include "library/components/SpecialDates.h"
+#include "library/controls/Assist.h"
 #include "library/controls/FillControl.h"
+#include "library/controls/NoteBook.h"
 #include "library/controls/RegionControl.h"
 #include "rtl/ClassRegistry.h"
 
 namespace {
 [[maybe_unused]] const bool Registered = [] {
-  for (const TClass* cls : {&TVRXRegion::StaticClass(), &TVRXFill::StaticClass(),
-                            &TVRXShapeHint::StaticClass(), &TVRXSpecialDates::StaticClass()}) {
+  for (const TClass* cls :
+       {&TVRXRegion::StaticClass(), &TVRXFill::StaticClass(), &TVRXShapeHint::StaticClass(),
+        &TVRXSpecialDates::StaticClass(), &TVRXAssistPage::StaticClass(), &TVRXNoteBookPage::StaticClass()}) {
     RegisterClass(*cls);
     PromiseTelling(*cls);
   }

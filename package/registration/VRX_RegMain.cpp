@@ -9,16 +9,20 @@
 #include "library/components/HiTimer.h"
 #include "library/components/RegExpr.h"
 #include "library/components/TitleItems.h"
+#include "library/controls/Assist.h"
 #include "library/controls/Button3D.h"
 #include "library/controls/Calculator.h"
 #include "library/controls/Calendar.h"
+#include "library/controls/CaptionPanel.h"
 #include "library/controls/GraphicLabel.h"
 #include "library/controls/HTMLComboBox.h"
 #include "library/controls/HTMLHeaderControl.h"
 #include "library/controls/HTMLListBox.h"
+#include "library/controls/HeaderPanel.h"
 #include "library/controls/LEDLabel.h"
 #include "library/controls/LabeledBoxes.h"
 #include "library/controls/Light.h"
+#include "library/controls/NoteBook.h"
 #include "library/controls/RegionControl.h"
 #include "library/controls/ShapeControl.h"
 #include "library/controls/Switch.h"
@@ -28,6 +32,7 @@
 #include "library_design/pVRXCommon.h"
 #include "package/component_editors/pVRXCEForms.h"
 #include "package/component_editors/pVRXCEMain.h"
+#include "package/component_editors/pVRXCEPages.h"
 #include "package/property_editors/pVRXPeMain.h"
 
 using namespace registration;
@@ -39,16 +44,27 @@ bool WithLabels() { return VRXEditorOption(TVRXEditorOption::LabeledVariants); }
 const Row kRows[] = {
     Page("VRX Std", TellingClasses<TVRXStaticText>()),
 
-    Page("VRX Ext", TellingClasses<TVRXClock, TVRXCalendar, TVRXCalculator, TVRXTechnicalLine, TVRXClock,
+    Page("VRX Ext", TellingClasses<TVRXAssist, TVRXClock, TVRXNoteBook, TVRXCalendar, TVRXCalculator,
+                                   TVRXCaptionPanelGroup, TVRXCaptionPanel, TVRXHeaderPanel,
+                                   TVRXHeaderPanelButton, TVRXHeader, TVRXTechnicalLine, TVRXClock,
                                    TVRXLEDLabel, TVRXSwitch, TVRXWSwitch, TVRXLight>()),
+    Component<TVRXAssist, TVRXAssistComponentEditor>(),
+    Component<TVRXAssistPage, TVRXAssistComponentEditor>(),
     Property<TVRXLED, TVRXLEDProperty>(),
     Component<TVRXLEDCustomLabel, TVRXLEDLabelComponentEditor>(),
     Component<TVRXClock, TVRXClockComponentEditor>(),
     Component<TVRXTechnicalLine, TVRXTechnicalLineComponentEditor>(),
+    Property<TVRXNoteBookPage, TVRXNoteBookPageProperty>(),
+    Component<TVRXNoteBook, TVRXNoteBookComponentEditor>(),
+    Component<TVRXNoteBookPage, TVRXNoteBookComponentEditor>(),
     Component<TVRXCustomSwitch, TVRXSwitchComponentEditor>(),
     Property<TVRXLightColor, TVRXLightColorProperty>(),
     Component<TVRXCustomLight, TVRXLightComponentEditor>(),
     Component<TVRXFill, TVRXFillComponentEditor>(),
+    Property<TVRXPanelCaptionObject, TVRXPanelCaptionProperty, TVRXCaptionPanel>(),
+    Component<TVRXCaptionPanelGroup, TVRXCaptionPanelGroupEditor>(),
+    Component<TVRXCaptionPanel, TVRXCaptionPanelGroupEditor>(),
+    Hidden<bool, TVRXCaptionPanel>("AutoSize"),
 
     Page("VRX Dlg", TellingClasses<TVRXFormOpenDialog, TVRXFormSaveDialog>()),
 

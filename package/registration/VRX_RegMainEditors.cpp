@@ -5,6 +5,7 @@
 #include "library/components/RegExpr.h"
 #include "library/components/SpecialDates.h"
 #include "library/components/TitleItems.h"
+#include "library/controls/Assist.h"
 #include "library/controls/Clock.h"
 #include "library/controls/ValueListBox.h"
 #include "library/values/ButtonFace.h"
@@ -40,6 +41,7 @@ const Row kRows[] = {
     Property<TVRXShadow, TVRXShadowProperty>(),
     Property<TVRXShapeFill, TVRXShapeFillProperty>(),
     Property<TVRXPointList, TVRXPointListProperty>(),
+    Property<TVRXAssistPage, TVRXAssistPageProperty>(),
     Property<TVRXDateTimeFormat, TVRXDateTimeFormatProperty, TVRXClock>("CustomDateTimeFormat"),
     Property<TVRXCaption, TVRXCaptionProperty>(),
     Property<TVRXDateList, TVRXDateListProperty, TVRXSpecialDates>("Dates"),
