@@ -8,6 +8,7 @@
 #include "bench/DialogTasks.h"
 #include "bench/Generate.h"
 #include "bench/HtmlTasks.h"
+#include "bench/LabelTasks.h"
 #include "bench/Measure.h"
 #include "bench/PaintTasks.h"
 #include "bench/PixelTasks.h"
@@ -22,7 +23,7 @@ const std::map<QString, void (*)(const QString&, const QString&)>& TaskTable() {
       {QStringLiteral("modified"), MeasureModified},  {QStringLiteral("pixels"), MeasurePixels},
       {QStringLiteral("window"), MeasureWindow},      {QStringLiteral("paint"), MeasurePaint},
       {QStringLiteral("html"), MeasureHtml},          {QStringLiteral("dates"), MeasureDates},
-      {QStringLiteral("bars"), MeasureBars},
+      {QStringLiteral("bars"), MeasureBars},          {QStringLiteral("label"), MeasureGraphicLabel},
   };
   return table;
 }
@@ -68,6 +69,9 @@ constexpr PairRow HtmlRows[] = {
 constexpr PairRow BarRows[] = {
     {"bars", "Open a section of a button bar and paint it: 200 sections of 200 items / 10 of 10", "about 1"},
 };
+constexpr PairRow LabelRows[] = {
+    {"label", "Paint a bent text with fill, line and shadow: time / its outline filled once", "at most 3"},
+};
 constexpr PairRow DateRows[] = {
     {"dates", "Open the list of 100,000 dates / fill a standard item model with their texts", "at most 3"},
 };
@@ -99,6 +103,7 @@ class Bench {
       Bars();
       Html();
       Dates();
+      Label();
     }
     Pixels();
   }
@@ -226,6 +231,7 @@ class Bench {
   void Bars() { Alone(BarRows, {QStringLiteral("bars"), {}, {}}); }
   void Html() { Alone(HtmlRows, {QStringLiteral("html"), {}, {}}); }
   void Dates() { Alone(DateRows, {QStringLiteral("dates"), {}, {}}); }
+  void Label() { Alone(LabelRows, {QStringLiteral("label"), {}, {}}); }
 
   void Pixels() {
     for (const char* size : {"1920x1080", "4096x4096"})

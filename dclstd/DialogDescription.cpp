@@ -48,14 +48,15 @@ QString TextOf(const QWidget& widget) {
     return caption && caption->Kind() == TTypeKind::tkString ? GetStrProp(*view->Control(), *caption)
                                                              : QString();
   }
-  if (qobject_cast<const QDateTimeEdit*>(&widget)) return {};  // each country has it in another way
+  // Each country has it in another way, and each machine has fonts of its own.
+  if (widget.inherits("QDateTimeEdit") || widget.inherits("QFontComboBox")) return {};
   const QVariant text = widget.property(widget.inherits("QComboBox") ? "currentText" : "text");
   return text.toString();
 }
 
 QStringList ItemsOf(const QWidget& widget) {
   QStringList items;
-  if (const auto* combo = qobject_cast<const QComboBox*>(&widget))
+  if (const auto* combo = qobject_cast<const QComboBox*>(&widget); combo && !widget.inherits("QFontComboBox"))
     for (int i = 0; i < combo->count(); ++i) items << combo->itemText(i);
   if (const auto* list = qobject_cast<const QListWidget*>(&widget))
     for (int i = 0; i < list->count(); ++i) items << list->item(i)->text();

@@ -31,21 +31,11 @@ FontDialog::FontDialog(QWidget* owner) : EditorDialog(tr("Font Editor"), QSize(5
   Buttons({ok, "ok"}, {cancel, "cancel"}, {reset, "reset"});
   Finish();
 
-  // A name that begins like that of an installed font is a name of its own. Only what a person does is
-  // listened to: a combo of fonts changes its text also when fonts are installed.
-  cmbname->completer()->setCompletionMode(QCompleter::PopupCompletion);
-  connect(cmbname->lineEdit(), &QLineEdit::textEdited, this, &FontDialog::SetName);
-  // Leaving the field, the combo takes a family that differs from the text only in case; that is no choice.
-  connect(cmbname, &QComboBox::textActivated, this, [this](const QString& text) {
-    if (text.compare(font_.Name(), Qt::CaseInsensitive) != 0) return SetName(text);
-    const QSignalBlocker quiet(cmbname);
-    cmbname->setEditText(font_.Name());
-  });
-  connect(cmbname->lineEdit(), &QLineEdit::editingFinished, this, &FontDialog::SetLabels);  // no name is none
+  connect(cmbname, &FontNameCombo::Chosen, this, &FontDialog::SetName);
+  connect(cmbname, &FontNameCombo::Left, this, &FontDialog::SetLabels);  // no name is none
 }
 
 void FontDialog::SetName(const QString& name) {
-  if (name.trimmed().isEmpty()) return;
   Guarded([&] {
     font_.SetName(name);
     SetLabels();
@@ -54,8 +44,7 @@ void FontDialog::SetName(const QString& name) {
 
 void FontDialog::LoadControls() {
   EditorDialog::LoadControls();
-  // The name stands there whether or not such a font is installed.
-  if (cmbname->currentText() != font_.Name()) cmbname->setEditText(font_.Name());
+  cmbname->ShowName(font_.Name());
   // Light letters are shown on a dark ground.
   const auto light = [](TColor c) { return qGray(ToQColor(c).rgb()); };
   const bool faint = std::abs(light(font_.Color()) - light(clBtnFace)) < 64;

@@ -3,9 +3,8 @@
 #pragma once
 #include "dclstd/ColorComboBox.h"
 #include "dclstd/EditorDialog.h"
+#include "dclstd/FontNameCombo.h"
 #include "vcl/Label.h"
-
-class QFontComboBox;
 
 // Writes into the font only when the user confirms, and is true then.
 bool EditFont(TFont& font);
@@ -17,7 +16,7 @@ class FontDialog : public EditorDialog {
   // The copy that is edited.
   TFont& Font() { return font_; }
 
-  QFontComboBox* cmbname;
+  FontNameCombo* cmbname;
   SpinEdit* edsize;    // points
   SpinEdit* edheight;  // pixels; the same value in another unit
   ColorComboBox* cmbcolor;

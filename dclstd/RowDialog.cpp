@@ -10,11 +10,19 @@
 #include "designintf/IdeTheme.h"
 #include "rtl/Class.h"
 #include "rtl/Persistent.h"
+#include "rtl/PropAccess.h"
 
 namespace {
 void SetName(QWidget& widget, const char* name, const char* hint) {
   widget.setObjectName(QString::fromLatin1(name));
   widget.setToolTip(QString::fromLatin1(hint));
+}
+
+// What the last name of a path is a property of.
+TPersistent* OwnerOf(TPersistent* value, QList<QByteArray> path) {
+  path.removeLast();
+  for (const QByteArray& part : path) value = GetObjectProp(*value, value->ClassType().GetProp(part));
+  return value;
 }
 }  // namespace
 
@@ -49,9 +57,11 @@ void RowDialog::AddRow(QWidget& control, const char* name, const char* property,
   SetName(control, name, hint);
   order_.push_back(&control);
   const RowKind& kind = RowKindOf(control);
-  RowState& row = rows_.emplace_back(RowState{&control, {}, {}});
+  RowState& row = rows_.emplace_back(RowState{&control, nullptr, {}, {}});
   if (*property) {
-    row.property.Info = &value_->ClassType().GetProp(property);
+    const QList<QByteArray> path = QByteArray(property).split('.');
+    row.of = OwnerOf(value_, path);
+    row.property.Info = &row.of->ClassType().GetProp(path.last());
     row.changed = [this, &control] { Apply(&control); };
     kind.Prepare(control, *row.property.Info->PropType);
   }
@@ -157,7 +167,8 @@ RowDialog::RowState& RowDialog::StateOf(const QWidget* control) {
 }
 
 void RowDialog::Write(const QWidget* control) {
-  RowKindOf(*control).Write(*control, *value_, StateOf(control).property);
+  const RowState& row = StateOf(control);
+  RowKindOf(*control).Write(*control, *row.of, row.property);
 }
 
 void RowDialog::Apply(const QWidget* control) {
@@ -167,7 +178,7 @@ void RowDialog::Apply(const QWidget* control) {
 
 void RowDialog::LoadControls() {
   for (const RowState& row : rows_)
-    if (row.property.Info) RowKindOf(*row.control).Load(*row.control, *value_, row.property);
+    if (row.property.Info) RowKindOf(*row.control).Load(*row.control, *row.of, row.property);
 }
 
 QPushButton* RowDialog::NewButton(const char* name, const char* text, const char* hint) {

@@ -82,7 +82,8 @@ class RowDialog : public ModalDialog {
   void Edits(TPersistent& value) { value_ = &value; }
   // Where the next rows stand: label, control, button.
   void RowsInto(QGridLayout& grid) { grid_ = &grid; }
-  // Makes the control. Without a property it is the dialog that loads it and hears of its changes.
+  // Makes the control. "Font.Color" is a property of a part. Without a property it is the dialog that loads
+  // the control and hears of its changes.
   template <class W>
   RowOf<W> Row(W*& control, const char* name, const char* property, const char* label,
                const char* hint = "") {
@@ -135,6 +136,7 @@ class RowDialog : public ModalDialog {
   friend class RowOf;
   struct RowState {
     QWidget* control;
+    TPersistent* of;  // the value or a part of it
     RowProperty property;
     std::function<void()> changed;
   };

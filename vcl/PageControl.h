@@ -1,7 +1,6 @@
 // Pages behind tabs, one of them in front.
 #pragma once
-#include "vcl/Book.h"
-#include "vcl/TabControl.h"
+#include "vcl/PageBook.h"
 
 class TPageControl;
 
@@ -18,66 +17,36 @@ VRX_ENUM(TCTabControlOption, {"nboShowCloseButtons", "nboMultiLine", "nboHidePag
 using TCTabControlOptions = TSet<TCTabControlOption>;
 VRX_SET(TCTabControlOptions, TCTabControlOption)
 
-class TTabSheet : public TWinControl {
+class TTabSheet : public TBookPage {
   VRX_CLASS(TTabSheet)
  public:
-  explicit TTabSheet(TComponent* owner);
+  using TBookPage::TBookPage;
   static constexpr TKept<int> ImageIndex{"ImageIndex", 0};
   static constexpr TKept<bool> TabVisible{"TabVisible", true};
 
-  // Null for a sheet that stands anywhere else.
   TPageControl* Book() const;
-  int PageIndex() const;
-  void SetPageIndex(int v);
-
-  bool AcceptsControls() const override { return true; }
-  // The page control decides where its pages stand.
-  bool HasOwnPlace() const override { return !Book(); }
-  void SetBounds(int left, int top, int width, int height) override;
-  void Paint(TCanvas& canvas) override;
-  void Loaded() override;
-
- protected:
-  void DoChanged() override;
-
- private:
-  friend class TPageControl;
-  void TakePlace(const QRect& r) { TWinControl::SetBounds(r.left(), r.top(), r.width(), r.height()); }
-  int ShownLeft() const;
-
-  int pageIndex_ = -1;  // outside of a page control
+  bool HasTab() const override { return Get(TabVisible); }
+  int TabImage() const override { return Get(ImageIndex); }
 };
 
-class TPageControl : public TCustomTabControl, public IBook {
+class TPageControl : public TPageBook {
   VRX_CLASS(TPageControl)
  public:
-  using TCustomTabControl::TCustomTabControl;
+  using TPageBook::TPageBook;
 
-  std::vector<TTabSheet*> Pages() const;
-  TTabSheet* ActivePage() const { return active_; }
-  void SetActivePage(TTabSheet* v);
+  std::vector<TTabSheet*> Pages() const { return PagesOf<TTabSheet>(*this); }
+  TTabSheet* ActivePage() const { return static_cast<TTabSheet*>(active_); }
+  void SetActivePage(TTabSheet* v) { SetActiveBookPage(v); }
+  void SetActiveBookPage(TBookPage* v) override;
   // The same as a number, in files that give it; -1 in others.
   int TabIndex() const { return tabIndex_; }
   void SetTabIndex(int v);
-
-  bool HasPage(const TControl& control) const override;
-  TTabSheet* FrontPage() const override;
-  TTabSheet* PageAt(QPoint point) const override;
-  void ShowPage(const TControl& page) override;
-  void PlacePages() override;
-
-  int FrontTab() const override;
-  void ChooseTab(int index) override;
-  void SetBounds(int left, int top, int width, int height) override;
-  void Loaded() override;
+  TTabSheet* FrontPage() const override { return static_cast<TTabSheet*>(TPageBook::FrontPage()); }
 
  protected:
-  std::vector<TTab> TabList() const override;
-  void DoChanged() override;
-  void ControlsListed() override;
+  bool TakesAsPage(const TControl& control) const override { return As<TTabSheet>(&control) != nullptr; }
+  TBookPage* UsualPage() const override;
 
  private:
-  TTabSheet* active_ = nullptr;
   int tabIndex_ = -1;
-  const TControl* shown_ = nullptr;  // compared only
 };

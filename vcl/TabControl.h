@@ -23,7 +23,7 @@ class TCustomTabControl : public TWinControl {
   static constexpr TKept<std::int16_t> TabWidth{"TabWidth", 0};
 
   // Where the tabs stand; empty for what is not shown.
-  std::vector<QRect> TabRects() const;
+  virtual std::vector<QRect> TabRects() const;
   // -1 where there is none.
   int TabAt(QPoint point) const;
   virtual int FrontTab() const = 0;

@@ -139,6 +139,25 @@ const TVRXPanelShapeComponentEditor::Verbs TVRXPanelShapeComponentEditor::Table 
     FontVerb<TVRXPanelShape>(),
 };
 
+namespace {
+using G = TVRXGraphicLabel;
+bool IsBird(const G& g) { return g.Get(G::Perspective) == TVRXPerspective::tpBird; }
+}  // namespace
+const TVRXGraphicLabelComponentEditor::Verbs TVRXGraphicLabelComponentEditor::Table = {
+    {"Editor", VRXCPGetGraphicLabel},
+    {"-"},
+    {"Wave", [](G& g) { g.SetTransform(TVRXTransform::tmWave); }},
+    {"Normal", [](G& g) { g.SetTransform(TVRXTransform::tmNone); }},
+    BracketFlag("AutoSize"),
+    FillVerb<G>(),
+    FontVerb<G>(),
+    FontFxVerb<G>(),
+    // Unlike with lights the caption names what is, not what choosing it sets.
+    Verb([](const G& g) { return IsBird(g) ? "Perspective (tpBird)" : "Perspective (tpFrog)"; },
+         [](G& g) { g.SetPerspective(IsBird(g) ? TVRXPerspective::tpFrog : TVRXPerspective::tpBird); })
+        .When([](const G& g) { return g.Get(G::TransAttr).Contains(TVRXTransAttr::taPerspective); }),
+};
+
 const TVRXCustomLImageComponentEditor::Verbs TVRXCustomLImageComponentEditor::Table = {
     ImageListVerb<TVRXCustomLImage>(),
     {"Bitmap", Launch(&TVRXCustomLImage::Bitmap, EditPicture)},

@@ -8,6 +8,7 @@
 #include "library/controls/AniCtrl.h"
 #include "library/controls/Clock.h"
 #include "library/controls/FillControl.h"
+#include "library/controls/GraphicLabel.h"
 #include "library/controls/LabelFill.h"
 #include "library/controls/RegionControl.h"
 #include "library/controls/ScrollText.h"
@@ -17,6 +18,7 @@ VRX_VERB_EDITOR(TVRXClockComponentEditor, TVRXClock);
 VRX_VERB_EDITOR(TVRXFillComponentEditor, TVRXFill);
 VRX_VERB_EDITOR(TVRXFormFillComponentEditor, TVRXCustomFormFill);
 VRX_VERB_EDITOR(TVRXFormStylerComponentEditor, TVRXFormStyler);
+VRX_VERB_EDITOR(TVRXGraphicLabelComponentEditor, TVRXGraphicLabel);
 VRX_VERB_EDITOR(TVRXShapeHintComponentEditor, TVRXCustomShapeHint);
 VRX_VERB_EDITOR(TVRXShadowComponentEditor, TVRXFormShadow);
 VRX_VERB_EDITOR(TVRXFormShapeComponentEditor, TVRXFormShape);

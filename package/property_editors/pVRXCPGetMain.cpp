@@ -10,6 +10,7 @@
 #include "package/dialogs/pVRXCaptionEditorDlg.h"
 #include "package/dialogs/pVRXControlFaceEditorDlg.h"
 #include "package/dialogs/pVRXDateListEditorDlg.h"
+#include "package/dialogs/pVRXGraphicLabelEditorDlg.h"
 #include "package/dialogs/pVRXLEDEditorDlg.h"
 #include "package/dialogs/pVRXLightEditorDlg.h"
 #include "package/dialogs/pVRXPointListEditorDlg.h"
@@ -74,6 +75,14 @@ bool VRXCPGetPointList(TVRXPointList& list) {
   dialog.SetPointList(list);
   if (dialog.ShowModal() != mrOk) return false;
   dialog.GetPointList(list);
+  return true;
+}
+
+bool VRXCPGetGraphicLabel(TVRXGraphicLabel& label) {
+  TVRXGraphicLabelEditorDlg dialog(ApplicationOwner());
+  dialog.SetValue(label);
+  if (dialog.ShowModal() != mrOk) return false;
+  label.Assign(dialog.test);
   return true;
 }
 

@@ -3,6 +3,7 @@
 #pragma once
 #include "library/components/FaceController.h"
 #include "library/controls/Button3D.h"
+#include "library/controls/GraphicLabel.h"
 #include "library/values/Bevels.h"
 #include "library/values/Caption.h"
 #include "library/values/DateList.h"
@@ -24,6 +25,8 @@ bool VRXCPGetVRXCaption(TVRXCaption& caption, bool showMultiLine);
 // The list is rebuilt line by line. A line that is no date raises EConvertError; the list ends before it
 // then.
 bool VRXCPGetDateList(TVRXDateList& list);
+// All of the label, by its own editor.
+bool VRXCPGetGraphicLabel(TVRXGraphicLabel& label);
 bool VRXCPGetLED(TVRXLED& led);
 bool VRXCPGetPointList(TVRXPointList& list);
 // `window`: for the shape of a window; else for that of a button with two states.

@@ -1,7 +1,9 @@
 #include "package/property_editors/pVRXPeMain.h"
 
 #include "dclstd/EditValue.h"
+#include "library/controls/Assist.h"
 #include "library/controls/MMButton.h"
+#include "library/controls/NoteBook.h"
 #include "library/controls/ShapeControl.h"
 #include "library/values/ValueListControl.h"
 #include "package/dialogs/pVRXFilterPropertyEditorDlg.h"
@@ -150,4 +152,21 @@ void TVRXValueListValueProperty::GetValues(const TGetStrProc& proc) const {
   if (!control) return;
   for (const QString& item : control->ItemNames().Lines())
     if (!item.isEmpty()) proc(item);
+}
+
+TPropertyAttributes TVRXAssistPageProperty::GetAttributes() const { return {paValueList}; }
+void TVRXAssistPageProperty::GetValues(const TGetStrProc& proc) const {
+  const auto* assist = As<TVRXAssist>(GetComponent(0));
+  if (!assist) return;
+  for (const TVRXAssistPage* page : assist->Pages()) proc(page->Name());
+}
+TPropertyAttributes TVRXNoteBookPageProperty::GetAttributes() const { return {paValueList}; }
+void TVRXNoteBookPageProperty::GetValues(const TGetStrProc& proc) const {
+  const auto* book = As<TVRXCustomSheetControl>(GetComponent(0));
+  if (!book) return;
+  for (const TVRXCustomSheet* sheet : book->Sheets()) proc(sheet->Name());
+}
+
+TPropertyAttributes TVRXPanelCaptionProperty::GetAttributes() const {
+  return {paSubProperties, paMultiSelect};
 }

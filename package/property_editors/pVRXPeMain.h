@@ -147,3 +147,24 @@ class TVRXValueListValueProperty : public TStringProperty {
   TPropertyAttributes GetAttributes() const override;
   void GetValues(const TGetStrProc& proc) const override;
 };
+
+// Which page of a wizard or of a notebook is meant.
+class TVRXAssistPageProperty : public TComponentProperty {
+ public:
+  using TComponentProperty::TComponentProperty;
+  TPropertyAttributes GetAttributes() const override;
+  void GetValues(const TGetStrProc& proc) const override;
+};
+class TVRXNoteBookPageProperty : public TComponentProperty {
+ public:
+  using TComponentProperty::TComponentProperty;
+  TPropertyAttributes GetAttributes() const override;
+  void GetValues(const TGetStrProc& proc) const override;
+};
+
+// The title of a panel: expands only.
+class TVRXPanelCaptionProperty : public TClassProperty {
+ public:
+  using TClassProperty::TClassProperty;
+  TPropertyAttributes GetAttributes() const override;
+};

@@ -11,17 +11,22 @@
 #include "library/components/RegExpr.h"
 #include "library/components/SendKeys.h"
 #include "library/components/TitleItems.h"
+#include "library/controls/Assist.h"
 #include "library/controls/Button3D.h"
 #include "library/controls/Calculator.h"
 #include "library/controls/Calendar.h"
+#include "library/controls/CaptionPanel.h"
 #include "library/controls/DlgButtonPanel.h"
+#include "library/controls/GraphicLabel.h"
 #include "library/controls/HTMLComboBox.h"
 #include "library/controls/HTMLHeaderControl.h"
 #include "library/controls/HTMLListBox.h"
+#include "library/controls/HeaderPanel.h"
 #include "library/controls/LEDLabel.h"
 #include "library/controls/LabeledBoxes.h"
 #include "library/controls/Light.h"
 #include "library/controls/MMButton.h"
+#include "library/controls/NoteBook.h"
 #include "library/controls/RegionControl.h"
 #include "library/controls/ShapeControl.h"
 #include "library/controls/Switch.h"
@@ -32,6 +37,7 @@
 #include "package/component_editors/pVRXCEBars.h"
 #include "package/component_editors/pVRXCEForms.h"
 #include "package/component_editors/pVRXCEMain.h"
+#include "package/component_editors/pVRXCEPages.h"
 #include "package/property_editors/pVRXPeMain.h"
 
 using namespace registration;
@@ -44,9 +50,13 @@ const Row kRows[] = {
     Page("VRX Std", TellingClasses<TVRXFaceController, TVRXStaticText>()),
     Component<TVRXFaceController, TVRXFaceControllerEditor>(),
 
-    Page("VRX Ext", TellingClasses<TVRXClock, TVRXButtonBar, TVRXButtonBarPopupMenu, TVRXDlgButtonPanel,
-                                   TVRXCalendar, TVRXCalculator, TVRXTechnicalLine, TVRXClock, TVRXLEDLabel,
-                                   TVRXSwitch, TVRXWSwitch, TVRXLight>()),
+    Page("VRX Ext",
+         TellingClasses<TVRXAssist, TVRXClock, TVRXButtonBar, TVRXButtonBarPopupMenu, TVRXDlgButtonPanel,
+                        TVRXNoteBook, TVRXCalendar, TVRXCalculator, TVRXCaptionPanelGroup, TVRXCaptionPanel,
+                        TVRXHeaderPanel, TVRXHeaderPanelButton, TVRXHeader, TVRXTechnicalLine, TVRXClock,
+                        TVRXLEDLabel, TVRXSwitch, TVRXWSwitch, TVRXLight>()),
+    Component<TVRXAssist, TVRXAssistComponentEditor>(),
+    Component<TVRXAssistPage, TVRXAssistComponentEditor>(),
     Property<TVRXLED, TVRXLEDProperty>(),
     Component<TVRXLEDCustomLabel, TVRXLEDLabelComponentEditor>(),
     Component<TVRXClock, TVRXClockComponentEditor>(),
@@ -54,10 +64,17 @@ const Row kRows[] = {
     Property<TCollection, TVRXButtonBarCollectionProperty, TVRXButtonBar>("Sections"),
     Component<TVRXButtonBar, TVRXButtonBarComponentEditor>(),
     Component<TVRXDlgButtonPanel, TVRXDlgButtonComponentEditor>(),
+    Property<TVRXNoteBookPage, TVRXNoteBookPageProperty>(),
+    Component<TVRXNoteBook, TVRXNoteBookComponentEditor>(),
+    Component<TVRXNoteBookPage, TVRXNoteBookComponentEditor>(),
     Component<TVRXCustomSwitch, TVRXSwitchComponentEditor>(),
     Property<TVRXLightColor, TVRXLightColorProperty>(),
     Component<TVRXCustomLight, TVRXLightComponentEditor>(),
     Component<TVRXFill, TVRXFillComponentEditor>(),
+    Property<TVRXPanelCaptionObject, TVRXPanelCaptionProperty, TVRXCaptionPanel>(),
+    Component<TVRXCaptionPanelGroup, TVRXCaptionPanelGroupEditor>(),
+    Component<TVRXCaptionPanel, TVRXCaptionPanelGroupEditor>(),
+    Hidden<bool, TVRXCaptionPanel>("AutoSize"),
 
     Page("VRX Cont", TellingClasses<TVRXMMButtonFaceController>()),
     Component<TVRXMMButtonFaceController, TVRXButtonFaceControllerEditor>(),
@@ -88,11 +105,12 @@ const Row kRows[] = {
     Component<TVRXFormShadow, TVRXShadowComponentEditor>(),
     Component<TVRXFormShape, TVRXFormShapeComponentEditor>(),
 
-    Page("VRX MM", TellingClasses<TVRXLabelFill, TVRXScrollText, TVRXMMButton, TVRXShapeButton,
-                                  TVRX3DEffectButton, TVRXHiTimer, TVRXShapeControl, TVRXRepeatedShape,
-                                  TVRXAniCtrl, TVRXPanelShape, TVRXWndButtonShape>()),
+    Page("VRX MM", TellingClasses<TVRXLabelFill, TVRXGraphicLabel, TVRXScrollText, TVRXMMButton,
+                                  TVRXShapeButton, TVRX3DEffectButton, TVRXHiTimer, TVRXShapeControl,
+                                  TVRXRepeatedShape, TVRXAniCtrl, TVRXPanelShape, TVRXWndButtonShape>()),
     Component<TVRXAniCtrl, TVRXAniCtrlComponentEditor>(),
     Component<TVRXCustomLabelFill, TVRXLabelFillComponentEditor>(),
+    Component<TVRXGraphicLabel, TVRXGraphicLabelComponentEditor>(),
     Component<TVRXBaseShape, TVRXCustomShapeComponentEditor>(),
     Component<TVRXWndButtonShape, TVRXWndButtonShapeComponentEditor>(),
     Component<TVRXPanelShape, TVRXPanelShapeComponentEditor>(),

@@ -5,6 +5,7 @@
 #include "library/components/RegExpr.h"
 #include "library/components/SpecialDates.h"
 #include "library/components/TitleItems.h"
+#include "library/controls/Assist.h"
 #include "library/controls/Clock.h"
 #include "library/controls/MMButton.h"
 #include "library/controls/ValueListBox.h"
@@ -25,6 +26,7 @@
 #include "package/dialogs/pVRXDateListEditorDlg.h"
 #include "package/dialogs/pVRXDlgBtnEditorDlg.h"
 #include "package/dialogs/pVRXFilterPropertyEditorDlg.h"
+#include "package/dialogs/pVRXGraphicLabelEditorDlg.h"
 #include "package/dialogs/pVRXLEDEditorDlg.h"
 #include "package/dialogs/pVRXLightEditorDlg.h"
 #include "package/dialogs/pVRXMMButtonFaceEditorDlg.h"
@@ -64,6 +66,7 @@ const Row kRows[] = {
     Property<TVRXShadow, TVRXShadowProperty>(),
     Property<TVRXShapeFill, TVRXShapeFillProperty>(),
     Property<TVRXPointList, TVRXPointListProperty>(),
+    Property<TVRXAssistPage, TVRXAssistPageProperty>(),
     Property<TVRXDateTimeFormat, TVRXDateTimeFormatProperty, TVRXClock>("CustomDateTimeFormat"),
     Property<TVRXCaption, TVRXCaptionProperty>(),
     Property<TVRXDateList, TVRXDateListProperty, TVRXSpecialDates>("Dates"),
@@ -87,7 +90,7 @@ const Row kRows[] = {
             TVRXfrmRegionFromBMPdlg, TVRXFilterPropsDlg, TfrmTVRXPointListEditor, TVRXDateListEditorDlg,
             TVRXValueListDlg, TVRXRegExprForm, TVRXSendKeyEditorDlg, TVRXDlgBtnEditorDlg,
             TVRXButtonBarEditorDlg, TVRXControlFaceEditorDlg, TVRXControlFaceEditorDlgAddState,
-            TVRXButtonFaceDlg>(),
+            TVRXButtonFaceDlg, TVRXGraphicLabelEditorDlg>(),
 };
 }  // namespace
 

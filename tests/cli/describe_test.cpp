@@ -70,7 +70,8 @@ TEST_F(DescribeCli, JsonHasTheSameKeysForEveryControl) {
             "TVRXSendKeyEditorDlg=Send Keys Test Editor|TVRXDlgBtnEditorDlg=Panel Buttons Editor|"
             "TVRXButtonBarEditorDlg=Button Bar Editor|"
             "TVRXControlFaceEditorDlg=Face Controller Editor|TVRXControlFaceEditorDlgAddState=Add States|"
-            "TVRXButtonFaceDlg=Button Face Editor");
+            "TVRXButtonFaceDlg=Button Face Editor|"
+            "TVRXGraphicLabelEditorDlg=Graphic Label Editor");
 }
 
 TEST_F(DescribeCli, JsonKeepsAcceleratorsLineBreaksAndTypes) {

@@ -68,6 +68,16 @@ constexpr TabRow TabRows[] = {
      "edFilePath btnBrowse btnOk btnCancel"},
     {"TVRXControlFaceEditorDlgAddState", 0, "notUsedStates btnAll btnNone btnOk btnCancel"},
     {"TVRXButtonFaceDlg", 0, "lb SelectBtn nopicture ClearAll sync synchot VRXButton1 OKButton CancelButton"},
+    {"TVRXGraphicLabelEditorDlg", 0,
+     "pages ComboBoxTransform VRXSpinEditFactor ButtonFillObjectDialog ButtonOK ButtonCancel"},
+    {"TVRXGraphicLabelEditorDlg", 1,
+     "pages ComboBoxStyle VRXSpinEditLightDepth VRXSpinEditShadowDepth VRXSpinEditAngle VRXSpinEditTracing "
+     "VRXLightColorComboBox VRXShadowColorComboBox ButtonOK ButtonCancel"},
+    {"TVRXGraphicLabelEditorDlg", 2,
+     "pages VRXFontComboBox VRXColorComboBox VRXFontSizeComboBox ButtonFontDialog ButtonOK ButtonCancel"},
+    {"TVRXGraphicLabelEditorDlg", 3,
+     "pages VRXSpinEditToggle ComboBoxPerspective VRXSpinEditPerspectiveDepth CheckBoxEqualLetters "
+     "CheckBoxAutoToggle CheckBoxToggled ButtonOK ButtonCancel"},
     {"TVRXFontFxEditorDlg", 0, "cmbstyle edlight cmbL edshadow cmbs edangle edtracing ok cancel reset"},
     {"FontDialog", 0,
      "cmbname edsize edheight cmbcolor cmbcharset cmbpitch bold italic underline strikeout ok cancel reset"},
@@ -135,7 +145,7 @@ QStringList TextsOf(const TPersistent& value) {
   for (const TPropInfo* prop : value.ClassType().Properties())
     if (prop->Is<QByteArray>())
       texts << QString::fromLatin1(GetBinaryProp(value, *prop).toHex());
-    else if (prop->Kind() == TTypeKind::tkClass)
+    else if (prop->IsPart())
       texts << TextsOf(*GetObjectProp(value, *prop));
     else
       texts << QString::fromLatin1(prop->Name) + u'=' + GetPropText(value, *prop);
@@ -318,7 +328,7 @@ TEST_F(DialogSuite, NothingBeyondItsLimitsCanBeTypedIntoASpinEdit) {
       ++edits;
     }
   });
-  EXPECT_EQ(edits, 10 + 1 + 1 + 3 + 1 + 2 + 2 + 4 + 2 + 3 + 1);
+  EXPECT_EQ(edits, 10 + 1 + 1 + 3 + 1 + 2 + 2 + 4 + 2 + 3 + 1 + 7);
 }
 
 TEST_F(DialogSuite, AllColoursOfADialogShareTheirCustomColours) {
@@ -337,7 +347,7 @@ TEST_F(DialogSuite, AllColoursOfADialogShareTheirCustomColours) {
     dialog.reject();
     EXPECT_EQ(LoadIDECustomColors(), colors);
   });
-  EXPECT_EQ(shared, 2 + 1 + 3 + 4 + 2 + 1 + 2 + 3 + 1 + 2 + 1);
+  EXPECT_EQ(shared, 2 + 1 + 3 + 4 + 2 + 1 + 2 + 3 + 1 + 2 + 1 + 3);
 }
 
 TEST_F(DialogSuite, TheExtendedColourDialogKeepsTheLastSixteenCustomColours) {

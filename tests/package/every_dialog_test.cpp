@@ -24,7 +24,7 @@ QStringList TextsOf(const TPersistent& value) {
   for (const TPropInfo* prop : value.ClassType().Properties()) {
     if (prop->Is<QByteArray>())
       texts << QString::fromLatin1(GetBinaryProp(value, *prop).toHex());
-    else if (prop->Kind() == TTypeKind::tkClass)
+    else if (prop->IsPart())
       texts << TextsOf(*GetObjectProp(value, *prop));
     else
       texts << QString::fromLatin1(prop->Name) + u'=' + GetPropText(value, *prop);
@@ -34,11 +34,14 @@ QStringList TextsOf(const TPersistent& value) {
 
 enum class End { Low, High };
 void GoTo(End end, TPersistent& value) {
+  // What a component is called and where it stands is no matter of dialogs.
+  static const QByteArrayList others{"Name", "Left", "Top", "Width", "Height", "Align"};
   for (const TPropInfo* prop : value.ClassType().Properties()) {
+    if (As<TComponent>(&value) && others.contains(prop->Name)) continue;
     const TTypeInfo& type = *prop->PropType;
     switch (prop->Kind()) {
       case TTypeKind::tkClass:
-        GoTo(end, *GetObjectProp(value, *prop));
+        if (prop->IsPart()) GoTo(end, *GetObjectProp(value, *prop));
         break;
       case TTypeKind::tkString:
         SetStrProp(value, *prop,
