@@ -38,10 +38,14 @@ bool HasHoles(const QImage& image) {
   }
   return false;
 }
-// Of a picture that says nothing itself, the lower left pixel's.
+// Of a picture that says nothing itself, the lower left pixel's, unless nothing would be left of it.
 TColor TransparentOf(const QImage& image) {
   if (HasHoles(image)) return clNone;
-  return ColorOfPixel(image.pixel(0, image.height() - 1) | 0xFF000000);
+  const QRgb corner = image.pixel(0, image.height() - 1);
+  for (int y = 0; y < image.height(); ++y)
+    for (int x = 0; x < image.width(); ++x)
+      if (image.pixel(x, y) != corner) return ColorOfPixel(corner | 0xFF000000);
+  return clNone;
 }
 // As it is, with what may be transparent in it.
 QImage ReadImage(const QString& file) {

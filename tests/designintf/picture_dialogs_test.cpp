@@ -309,6 +309,19 @@ TEST_F(ImageListEditor, APictureThatCouldBeTransparentAndIsNotLeavesOutItsCorner
   EXPECT_EQ(list.Image(0).pixelColor(0, 7).alpha(), 0);
 }
 
+TEST_F(ImageListEditor, APictureOfOneColourStaysAsItIs) {
+  QImage plain(12, 8, QImage::Format_RGB32);
+  plain.fill(Qt::darkCyan);
+  prompts.files = {FileOf(plain, "plain.png")};
+  Run([](ImageListDialog& dialog) {
+    Click(dialog.clear);
+    Click(dialog.add);
+    EXPECT_EQ(dialog.transparent->Selected(), clNone);
+  });
+  EXPECT_EQ(list.Image(0).pixelColor(0, 7), QColor(Qt::darkCyan));
+  EXPECT_EQ(list.Image(0).pixelColor(5, 3), QColor(Qt::darkCyan));
+}
+
 TEST_F(ImageListEditor, ExportsAllSideBySide) {
   prompts.saveAs = folder.filePath(QStringLiteral("all.png"));
   Run([](ImageListDialog& dialog) { Click(dialog.exportAll); });
