@@ -1,4 +1,5 @@
 // Editing values in the inspector.
+#include "package/registration/VRX_RegMainEditors.h"
 #include "rtl/ClassRegistry.h"
 #include "rtl/Clock.h"
 #include "tests/designer/InspectingTest.h"
@@ -250,6 +251,7 @@ TEST_F(Inspecting, AnEmptyFilterLeavesUndoAndRedoToTheForm) {
 }
 
 TEST_F(Inspecting, WhatOnlyADialogEditsCannotBeTyped) {
+  VRX_RegMainEditors::Register();
   const TClass* const cls = FindClass("TVRXFormOpenDialog");
   ASSERT_NE(cls, nullptr);
   TComponent* const made = Session().CreateComponent(*cls, nullptr, {10, 10, 0, 0});
