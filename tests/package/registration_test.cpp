@@ -255,8 +255,8 @@ TEST_F(Registering, ShapesLightsSwitchesAndLinesStandAtTheirPlacesWithTheirEdito
                            "TVRXPanelShape by TVRXPanelShapeComponentEditor",
                            "TVRXScrollText by TVRXScrollTextComponentEditor",
                            "TVRXCustom3DButton by TVRXExtGraphicButtonComponentEditor",
-                           "TVRXSendKeys by TVRXSendKeyComponentEditor",
                            "TVRXCustomMMButton by TVRXExtGraphicButtonComponentEditor",
+                           "TVRXSendKeys by TVRXSendKeyComponentEditor",
                            "TCustomImageList TVRXButtonBar.LargeImageList by TVRXCustomImageListProperty",
                            "TCustomImageList TVRXButtonBar.SmallImageList by TVRXCustomImageListProperty",
                            "TCustomImageList TVRXCustomMMButton.ButtonFaceImageList by "
