@@ -126,7 +126,8 @@ TVRXLetters VRXLettersOf(const QString& text, const TVRXLetterStyle& style) {
   font.setUnderline(false);
   font.setStrikeOut(false);
   font.setHintingPreference(QFont::PreferNoHinting);
-  const double tracing = std::clamp<double>(style.Tracing, -pixels, MostTracing * pixels) / scale;
+  const double tracing =
+      std::clamp<double>(style.Tracing, -pixels, static_cast<double>(MostTracing) * pixels) / scale;
   if (!style.Equal) font.setLetterSpacing(QFont::AbsoluteSpacing, tracing);
   const QFontMetricsF metrics(font);
 
