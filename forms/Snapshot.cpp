@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "forms/CollectionPatch.h"
+
 namespace forms {
 
 Snapshot TakeSnapshot(const TComponent& component, const Document& document) {
@@ -69,6 +71,14 @@ bool Differs(const Object& object, const ValueChange& change, const Snapshot* in
   if (change.storedAfter && !was->stored) return true;
   return was->stored && !(change.after == was->value);
 }
+
+Property NewNode(Document& document, const ValueChange& change, const Property* replaced) {
+  if (!replaced || change.after.type != ValueType::Collection)
+    return document.MakeProperty(change.path, change.after, replaced);
+  Value value = PatchedCollection(document.Read(*replaced), change.before, change.after);
+  value.Own();
+  return document.MakeProperty(change.path, std::move(value), replaced);
+}
 }  // namespace
 
 void PatchObject(Object& object, Document& document, const Snapshot& after, std::vector<ValueChange>& changes,
@@ -81,9 +91,8 @@ void PatchObject(Object& object, Document& document, const Snapshot& after, std:
     if (at >= 0) change.nodeBefore = Remove(object, at);
     if (!written) continue;
     if (at < 0) change.index = InsertionIndex(object, after, change.path);
-    object.properties.insert(
-        object.properties.begin() + change.index,
-        document.MakeProperty(change.path, change.after, change.nodeBefore ? &*change.nodeBefore : nullptr));
+    object.properties.insert(object.properties.begin() + change.index,
+                             NewNode(document, change, change.nodeBefore ? &*change.nodeBefore : nullptr));
     change.nodeAfter.emplace();  // stands in the object now
   }
 }

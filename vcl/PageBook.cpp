@@ -70,12 +70,12 @@ void TBookPage::Paint(TCanvas& canvas) { canvas.FillRect(ClientRect(), ParentCol
 std::vector<TBookPage*> TPageBook::BookPages() const {
   std::vector<TBookPage*> pages;
   for (TControl* c : Controls())
-    if (TakesAsPage(*c)) pages.push_back(static_cast<TBookPage*>(c));
+    if (TakesAsPage(c->ClassType())) pages.push_back(static_cast<TBookPage*>(c));
   return pages;
 }
 
 bool TPageBook::HasPage(const TControl& control) const {
-  return control.Parent() == this && TakesAsPage(control);
+  return control.Parent() == this && TakesAsPage(control.ClassType());
 }
 
 TBookPage* TPageBook::FrontPage() const {

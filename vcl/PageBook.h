@@ -46,6 +46,8 @@ class TPageBook : public TCustomTabControl, public IBook {
  public:
   using TCustomTabControl::TCustomTabControl;
 
+  // What is a page of it.
+  virtual bool TakesAsPage(const TClass& cls) const = 0;
   std::vector<TBookPage*> BookPages() const;
   // The page that is in front by the book's own value; null for none.
   TBookPage* ActiveBookPage() const { return active_; }
@@ -63,8 +65,6 @@ class TPageBook : public TCustomTabControl, public IBook {
   void Loaded() override;
 
  protected:
-  // Which controls are pages of it.
-  virtual bool TakesAsPage(const TControl& control) const = 0;
   // In front where no page is active; null leaves it to the book.
   virtual TBookPage* UsualPage() const { return nullptr; }
   // What was shown for the moment no longer is.

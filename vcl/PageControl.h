@@ -43,8 +43,9 @@ class TPageControl : public TPageBook {
   void SetTabIndex(int v);
   TTabSheet* FrontPage() const override { return static_cast<TTabSheet*>(TPageBook::FrontPage()); }
 
+  bool TakesAsPage(const TClass& cls) const override { return cls.InheritsFrom(TTabSheet::StaticClass()); }
+
  protected:
-  bool TakesAsPage(const TControl& control) const override { return As<TTabSheet>(&control) != nullptr; }
   TBookPage* UsualPage() const override;
 
  private:

@@ -146,8 +146,8 @@ void PasteInto(FormSession& session, const IClipboard& clipboard, int grid) {
   forms::Document objects = ObjectsOfText(text);
   const TComponent& selected = *session.SelectedComponents().front();
   const bool one = session.SelectedComponents().size() == 1;
-  const auto* around = one ? &selected : selected.GetParentComponent();
-  TWinControl& container = ContainerAround(session, around ? *around : *session.GetRoot());
+  const TComponent* parent = one ? &selected : selected.GetParentComponent();
+  const TComponent& around = parent ? *parent : *session.GetRoot();
   forms::Object* const root = session.ObjectOf(session.Form());
   forms::Object* const at = session.ObjectOf(selected);
   std::vector<forms::Object*> parents;
@@ -159,7 +159,7 @@ void PasteInto(FormSession& session, const IClipboard& clipboard, int grid) {
                 "%1 is a control, and %2 is a data module: only components that are no controls can "
                 "stand on it.")
                 .arg(QString::fromUtf8(object->name), session.Form().Name()));
-      parents.push_back(session.ObjectOf(container));
+      parents.push_back(session.ObjectOf(ContainerAround(session, around, *object)));
     } else {
       // The part of another component goes to its like.
       const bool part = at && at->parent && at->parent != root && at->className == object->className;

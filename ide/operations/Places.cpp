@@ -4,7 +4,10 @@
 
 #include "ide/BoundsCheck.h"
 #include "ide/Tiles.h"
+#include "ide/Unknown.h"
+#include "rtl/ClassRegistry.h"
 #include "rtl/Exceptions.h"
+#include "vcl/PageBook.h"
 
 QString OperationText(const char* text, int n) {
   return QCoreApplication::translate("Operations", text, nullptr, n);
@@ -126,15 +129,45 @@ void RequireOwn(const FormSession& session, const TComponent& component, const Q
   RequireWhole(session, component, what);
 }
 
+namespace {
+// A stand-in takes what it has already.
+bool TakesPages(const TControl& control, const TClass& cls) {
+  if (const auto* book = dynamic_cast<const TPageBook*>(&control)) return book->TakesAsPage(cls);
+  const auto* other = dynamic_cast<const TUnknownControl*>(&control);
+  return other && std::any_of(other->Controls().begin(), other->Controls().end(),
+                              [&](const TControl* c) { return c->StreamClassName() == cls.ClassName(); });
+}
+
+bool MayGetChildren(const FormSession& session, const TComponent& container) {
+  const forms::Object* object = session.ObjectOf(container);
+  return object && (!object->parent || (!object->IsFrame() && !FrameAround(*object)));
+}
+}  // namespace
+
 bool CanHold(const FormSession& session, const TComponent& container) {
   const auto* control = As<TWinControl>(&container);
-  const forms::Object* object = session.ObjectOf(container);
-  if (!control || !object || !control->AcceptsControls()) return false;
-  return !object->parent || (!object->IsFrame() && !FrameAround(*object));
+  return control && control->AcceptsControls() && MayGetChildren(session, container);
 }
 
 TWinControl& ContainerAround(const FormSession& session, const TComponent& component) {
-  auto* at = As<TControl>(const_cast<TComponent*>(&component));
-  while (at && !CanHold(session, *at)) at = at->Parent();
-  return at ? *As<TWinControl>(at) : session.Form();
+  for (auto* at = As<TControl>(const_cast<TComponent*>(&component)); at; at = at->Parent()) {
+    if (CanHold(session, *at)) return *As<TWinControl>(at);
+    const auto* book = dynamic_cast<TPageBook*>(at);
+    if (TBookPage* front = book ? book->FrontPage() : nullptr; front && CanHold(session, *front))
+      return *front;
+  }
+  return session.Form();
+}
+
+TWinControl& ContainerAround(const FormSession& session, const TComponent& component,
+                             const forms::Object& comes) {
+  const TClass* cls = FindClass(comes.className);
+  const bool page =
+      cls && cls->InheritsFrom(TWinControl::StaticClass()) && cls->FindProp("PageIndex") != nullptr;
+  if (!page) return ContainerAround(session, component);
+  for (auto* at = As<TControl>(const_cast<TComponent*>(&component)); at; at = at->Parent())
+    if (TakesPages(*at, *cls) && MayGetChildren(session, *at)) return *As<TWinControl>(at);
+  throw EComponentError(
+      OperationText("%1 is a page. Select the control first whose page it is to become, or one of its pages.")
+          .arg(QString::fromUtf8(comes.name)));
 }

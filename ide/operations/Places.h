@@ -36,7 +36,11 @@ void RequireOwn(const FormSession& session, const TComponent& component, const Q
 void RequireWhole(const FormSession& session, const TComponent& component, const QString& what);
 // Whether a new control may stand in it. What stands in a frame is the frame's own.
 bool CanHold(const FormSession& session, const TComponent& container);
-// The control itself, or the nearest around it that can hold others; the form in the end.
+// The control itself, its page in front, or the nearest around it that can hold others; the form in the end.
 TWinControl& ContainerAround(const FormSession& session, const TComponent& component);
+// The same for what is to come there: pages go into what takes them, or nowhere.
+// EComponentError, naming it, when there is no such control.
+TWinControl& ContainerAround(const FormSession& session, const TComponent& component,
+                             const forms::Object& comes);
 
 QString OperationText(const char* text, int n = -1);

@@ -58,7 +58,9 @@ class TVRXAssist : public TPageBook {
   std::vector<TButtonPlace> ButtonPlaces() const;
 
  protected:
-  bool TakesAsPage(const TControl& control) const override { return As<TVRXAssistPage>(&control) != nullptr; }
+  bool TakesAsPage(const TClass& cls) const override {
+    return cls.InheritsFrom(TVRXAssistPage::StaticClass());
+  }
 
  private:
   QRect StepsRect() const;

@@ -30,11 +30,7 @@ class TVRXCustomSheetControl : public TPageBook {
   void SetActiveSheet(TVRXCustomSheet* v) { SetActiveBookPage(v); }
   // Of what its sheets are.
   virtual const TClass& SheetClass() const = 0;
-
- protected:
-  bool TakesAsPage(const TControl& control) const override {
-    return As<TVRXCustomSheet>(&control) && control.InheritsFrom(SheetClass());
-  }
+  bool TakesAsPage(const TClass& cls) const override { return cls.InheritsFrom(SheetClass()); }
 };
 
 class TVRXNoteBookPage : public TVRXCustomSheet {

@@ -1,5 +1,8 @@
 // Cut, copy, paste and duplicate.
+#include "library/controls/Assist.h"
+#include "library/controls/NoteBook.h"
 #include "tests/ide/OperationTest.h"
+#include "vcl/PageBook.h"
 
 using namespace ide;
 
@@ -250,6 +253,49 @@ TEST_F(OperationTest, ACopyInAGridOrAFlowTakesAPlaceOfItsOwn) {
   Run("duplicate", {"A"});
   EXPECT_EQ(Bounds("A1"), QRect(76, 1, 75, 25));
   ExpectOneCommand();
+}
+
+TEST_F(OperationTest, PagesGoIntoWhatTakesThemAndControlsOntoThePageInFront) {
+  const struct {
+    const char *book, *page, *active;
+  } kinds[] = {{"TPageControl", "TTabSheet", "ActivePage"},
+               {"TVRXNoteBook", "TVRXNoteBookPage", "ActivePage"},
+               {"TVRXAssist", "TVRXAssistPage", "ActivePage"},
+               {"TOtherPages", "TTabSheet", "ActivePage"}};
+  RegisterComponents(QStringLiteral("Pages"), {&TVRXNoteBook::StaticClass(), &TVRXAssist::StaticClass()});
+  for (const auto& kind : kinds) {
+    SCOPED_TRACE(kind.book);
+    const QByteArray page = QByteArray("    object %1: ") + kind.page +
+                            "\n      Caption = 'Caption %1'\n      object B%1: TButton\n        Left = 9\n"
+                            "        Top = 8\n        Width = 75\n        Height = 25\n      end\n    end\n";
+    Open(QByteArray("object F: TF\n  ClientHeight = 300\n  ClientWidth = 500\n  object Book: ") + kind.book +
+         "\n    Left = 10\n    Top = 10\n    Width = 400\n    Height = 250\n    " + kind.active + " = Q\n" +
+         QByteArray(page).replace("%1", "P") + QByteArray(page).replace("%1", "Q") +
+         "  end\n  object Panel: TPanel\n    Left = 0\n    Top = 270\n    Width = 90\n    Height = 20\n"
+         "  end\nend\n");
+    const auto parent = [&](const char* name) { return As<TControl>(name).Parent()->Name(); };
+    for (const char* at : {"P", "Book", "BQ"}) {
+      Run("copy", {"P"});
+      ASSERT_NO_THROW(Run("paste", {at})) << at;
+      ASSERT_EQ(Selected(), "P1") << at;
+      EXPECT_EQ(parent("P1"), QStringLiteral("Book")) << at;
+      EXPECT_EQ(As<TWinControl>("Book").ControlIndex(&As<TControl>("P1")), 2);
+      EXPECT_EQ(parent("BP1"), QStringLiteral("P1"));
+      ExpectOneCommand();
+      session_->Undo();
+    }
+    Run("cut", {"P"});
+    ASSERT_EQ(Selected(), "Book");
+    ASSERT_NO_THROW(Run("paste"));
+    EXPECT_EQ(parent("P"), QStringLiteral("Book"));
+    EXPECT_EQ(parent("BP"), QStringLiteral("P"));
+    for (const char* at : {"Panel", "F"})
+      EXPECT_NE(Refusal("paste", {at}).find("P is a page. Select the control"), std::string::npos) << at;
+    if (!dynamic_cast<TPageBook*>(&Get("Book"))) continue;
+    Run("copy", {"Panel"});
+    Run("paste", {"Book"});
+    EXPECT_EQ(parent("Panel1"), QStringLiteral("Q")) << "what is no page stands on the one in front";
+  }
 }
 
 TEST_F(OperationTest, TextsOfAnOldCodePageKeepTheirMeaningElsewhere) {
