@@ -108,6 +108,19 @@ TEST_F(UnreadItems, CopiesHaveThem) {
   EXPECT_EQ(session_->Bytes().count("Foreign = 5"), 1);
 }
 
+// The first that is set right takes along what was told of it, and of nothing else.
+TEST_F(UnreadItems, ANewValueTakesAlongWhatWasToldOfThisComponentOnly) {
+  session_ =
+      FormSession::FromBytes(QByteArray(Form).replace("    Panels =", "    Align = sideways\n    Panels ="));
+  const auto refused = [&] {
+    return std::count_if(session_->Findings().begin(), session_->Findings().end(),
+                         [](const auto& f) { return f.property.compare("Align", Qt::CaseInsensitive) == 0; });
+  };
+  ASSERT_EQ(refused(), 2);
+  Run([&] { Bar("Bar").SetAlign(TAlign::alTop); });
+  EXPECT_EQ(refused(), 1);
+}
+
 // --- References of items
 
 namespace {
@@ -301,4 +314,14 @@ TEST_F(ItemReferences, AreFoundAgainWhenBothComeBack) {
   EXPECT_EQ(Cells().Item(0)->Get(TControlItem::Control), here);
   SetRow(2, 0);
   EXPECT_EQ(Changes(session_->Bytes()), "-Row = 1|+Row = 0");
+}
+
+TEST_F(ItemReferences, WhatLeadsNowhereKeepsItsPlaceAmongWhatIsNotKnown) {
+  session_ = FormSession::FromBytes(QByteArray(GridForm).replace(
+      "        Control = Gone\n", "        Foreign = 1\n        Control = Gone\n        Strange = 2\n"));
+  Run([&] { Cells("Spare").Assign(&Cells()); });
+  const QByteArray copy = session_->Bytes().mid(session_->Bytes().indexOf("object Spare"));
+  EXPECT_LT(copy.indexOf("Foreign = 1"), copy.indexOf("Control = Gone")) << copy.toStdString();
+  EXPECT_LT(copy.indexOf("Control = Gone"), copy.indexOf("Strange = 2"));
+  EXPECT_GT(copy.indexOf("Foreign = 1"), 0);
 }
