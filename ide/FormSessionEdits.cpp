@@ -1,8 +1,9 @@
 // Components that a command makes, pastes, deletes and renames.
 #include "ide/FormSession.h"
 #include "ide/StandIns.h"
-#include "rtl/PropAccess.h"
 #include "rtl/Exceptions.h"
+#include "rtl/PropAccess.h"
+#include "vcl/GridPanel.h"
 #include "vcl/Nested.h"
 
 namespace {
@@ -64,6 +65,7 @@ TComponent* FormSession::CreateComponent(const TClass& cls, TComponent* parent, 
       const bool sized = bounds.width() > 1 && bounds.height() > 1;
       control->SetBounds(bounds.left(), bounds.top(), sized ? bounds.width() : control->Width(),
                          sized ? bounds.height() : control->Height());
+      if (auto* grid = As<TGridPanel>(container)) grid->MoveToCellAt(*control, bounds.topLeft());
       if (auto* windowed = As<TWinControl>(control))
         windowed->SetTabOrder(WindowsIn(*windowed->Parent(), *windowed));
     } else {

@@ -172,6 +172,33 @@ void TGridPanel::ArrangeControls(Placements& all, const QRect& client, const QMa
   }
 }
 
+const TGridControlItem* TGridPanel::ItemIn(int column, int row) const {
+  const TControlCollection& items = *Get(ControlCollection);
+  for (int i = 0; i < items.Count(); ++i) {
+    const auto& item = static_cast<const TGridControlItem&>(*items.Item(i));
+    const int left = item.Get(TGridControlItem::Column), top = item.Get(TGridControlItem::Row);
+    if (column >= left && column - left < item.Get(TGridControlItem::ColumnSpan) && row >= top &&
+        row - top < item.Get(TGridControlItem::RowSpan))
+      return &item;
+  }
+  return nullptr;
+}
+
+void TGridPanel::MoveToCellAt(const TControl& control, QPoint point) {
+  const QRect room = ClientRect().marginsRemoved(Insets());
+  TControlItem* item = Get(ControlCollection)->ItemOf(control);
+  if (!item || !room.contains(point)) return;
+  const auto at = [](const std::vector<int>& edges, int place) {
+    return static_cast<int>(std::upper_bound(edges.begin(), edges.end() - 1, place) - edges.begin()) - 1;
+  };
+  const int column = at(ColumnEdges(room.width()), point.x() - room.left());
+  const int row = at(RowEdges(room.height()), point.y() - room.top());
+  if (ItemIn(column, row)) return;
+  const TUpdateLock once(*this);
+  item->Set(TGridControlItem::Column, column);
+  item->Set(TGridControlItem::Row, row);
+}
+
 void TGridPanel::ControlsListed() {
   TCustomPanel::ControlsListed();
   if (IsLoading() || IsDestroying() || IsLayoutFrozen() || !IsDesigning()) return;
@@ -181,18 +208,8 @@ void TGridPanel::ControlsListed() {
   const int columns = std::max(Get(ColumnCollection)->Count(), 0), across = columns == 0 ? 2 : columns;
   for (TControl* c : Controls()) {
     if (items.ItemOf(*c)) continue;
-    const auto taken = [&](int column, int row) {
-      for (int i = 0; i < items.Count(); ++i) {
-        const TCollectionItem& item = *items.Item(i);
-        const int left = item.Get(TGridControlItem::Column), top = item.Get(TGridControlItem::Row);
-        if (column >= left && column - left < item.Get(TGridControlItem::ColumnSpan) && row >= top &&
-            row - top < item.Get(TGridControlItem::RowSpan))
-          return true;
-      }
-      return false;
-    };
     int cell = 0;
-    while (taken(cell % across, cell / across)) ++cell;
+    while (ItemIn(cell % across, cell / across)) ++cell;
     auto* item = static_cast<TGridControlItem*>(items.Add());
     item->Set(TControlItem::Control, c);
     item->Set(TGridControlItem::Column, cell % across);

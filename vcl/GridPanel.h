@@ -69,6 +69,9 @@ class TGridPanel : public TCustomPanel {
   std::vector<int> ColumnEdges(int room) const;
   std::vector<int> RowEdges(int room) const;
 
+  // The control comes to the cell at the point of the client area, unless another one has it.
+  void MoveToCellAt(const TControl& control, QPoint point);
+
   bool PlacesControls() const override { return true; }
   void ArrangeControls(Placements& all, const QRect& client, const QMargins& insets,
                        const Placements* before) const override;
@@ -81,5 +84,6 @@ class TGridPanel : public TCustomPanel {
   void ControlsListed() override;
 
  private:
+  const TGridControlItem* ItemIn(int column, int row) const;
   int Extent(const TCollection& items, int index, bool columns) const;
 };

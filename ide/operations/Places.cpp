@@ -7,6 +7,7 @@
 #include "ide/Unknown.h"
 #include "rtl/ClassRegistry.h"
 #include "rtl/Exceptions.h"
+#include "vcl/GridPanel.h"
 #include "vcl/PageBook.h"
 
 QString OperationText(const char* text, int n) {
@@ -25,7 +26,11 @@ QRect PlaceOf(const TComponent& c) {
 }
 
 void SetPlace(TComponent& c, const QRect& r) {
-  if (auto* control = As<TControl>(&c)) return control->SetBounds(r.left(), r.top(), r.width(), r.height());
+  if (auto* control = As<TControl>(&c)) {
+    control->SetBounds(r.left(), r.top(), r.width(), r.height());
+    if (auto* grid = As<TGridPanel>(control->Parent())) grid->MoveToCellAt(*control, r.center());
+    return;
+  }
   const auto word = [](int v) { return static_cast<std::int16_t>(std::clamp<int>(v, INT16_MIN, INT16_MAX)); };
   c.SetDesignInfo(DesignWordOf({word(r.left()), word(r.top())}));
 }

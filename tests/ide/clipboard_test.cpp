@@ -255,6 +255,39 @@ TEST_F(OperationTest, ACopyInAGridOrAFlowTakesAPlaceOfItsOwn) {
   ExpectOneCommand();
 }
 
+TEST_F(OperationTest, WhatIsPutOnAGridTakesTheFreeCellThatIsThere) {
+  const QByteArray grid =
+      "object F: TF\n  ClientHeight = 200\n  ClientWidth = 300\n  object Grid: TGridPanel\n    Left = 0\n"
+      "    Top = 0\n    Width = 200\n    Height = 100\n    ControlCollection = <\n      item\n"
+      "        Column = 0\n        Control = A\n        Row = 0\n      end>\n    object A: TButton\n"
+      "      Left = 1\n      Top = 1\n      Width = 75\n      Height = 25\n    end\n  end\n"
+      "  object B: TButton\n    Left = 210\n    Top = 0\n    Width = 75\n    Height = 25\n  end\nend\n";
+  const struct {
+    QPoint drop;
+    const char* cell;  // of the new button
+  } drops[] = {{{150, 80}, "Column = 1\n        Control = Button1\n        Row = 1"},
+               {{30, 90}, "Column = 0\n        Control = Button1\n        Row = 1"},
+               {{10, 10}, "Column = 1\n        Control = Button1\n        Row = 0"}};
+  for (const auto& [drop, cell] : drops) {
+    Open(grid);
+    session_->CreateComponent(TButton::StaticClass(), &Get("Grid"), {drop, QSize()});
+    EXPECT_TRUE(session_->Bytes().contains(cell)) << session_->Bytes().toStdString();
+    ExpectOneCommand();
+  }
+  // From outside, and from cell to cell.
+  Open(grid);
+  As<TControl>("B").SetBounds(30, 70, 75, 25);
+  MoveInto(*session_, {&Get("B")}, As<TWinControl>("Grid"));
+  EXPECT_TRUE(session_->Bytes().contains("Column = 0\n        Control = B\n        Row = 1"))
+      << session_->Bytes().toStdString();
+  session_->Run(QStringLiteral("Move"), {}, [&] { SetPlace(Get("A"), {120, 60, 75, 25}); });
+  EXPECT_TRUE(session_->Bytes().contains("Column = 1\n        Control = A\n        Row = 1"))
+      << session_->Bytes().toStdString();
+  session_->Run(QStringLiteral("Move"), {}, [&] { SetPlace(Get("B"), {120, 60, 75, 25}); });
+  EXPECT_TRUE(session_->Bytes().contains("Column = 0\n        Control = B\n        Row = 1"))
+      << "the cell is taken";
+}
+
 TEST_F(OperationTest, PagesGoIntoWhatTakesThemAndControlsOntoThePageInFront) {
   const struct {
     const char *book, *page, *active;
