@@ -4,6 +4,7 @@
 #include <QIconEngine>
 #include <QPainter>
 
+#include "designintf/DesignRegistry.h"
 #include "vcl/Theme.h"
 
 namespace {
@@ -12,15 +13,41 @@ struct Ink {
   QColor line, fill, accent;
 };
 
-Ink InkOn(const QPalette& palette, QIcon::Mode mode) {
+// By which the classes of a page are told apart; others have the accent of the theme.
+struct PageAccent {
+  const char* page;
+  QRgb onLight, onDark;
+};
+constexpr PageAccent PageAccents[] = {
+    {"VRX Std", 0xFF5B6B82, 0xFF9FB0C8},      // slate
+    {"VRX Ext", 0xFF2F6FDE, 0xFF6AA5FF},      // blue
+    {"VRX Cont", 0xFF8A5A34, 0xFFC9986B},     // brown
+    {"VRX Dlg", 0xFFC84B78, 0xFFF08AAE},      // rose
+    {"VRX Edit", 0xFFC77F0A, 0xFFF0B44C},     // amber
+    {"VRX Labeled", 0xFFA88A10, 0xFFE0C64E},  // gold
+    {"VRX List", 0xFF2E8B4A, 0xFF6CCB87},     // green
+    {"VRX Form", 0xFF14868C, 0xFF4CC7CC},     // teal
+    {"VRX MM", 0xFF7A4FC9, 0xFFB394F5},       // violet
+    {"VRX Sys", 0xFF707680, 0xFFA6ADB8},      // grey
+    {"VRX HTML", 0xFFD9622B, 0xFFFF9660},     // orange
+};
+const PageAccent* AccentOf(const TClass& cls) {
+  const QString page = DesignRegistry::PageOf(cls);
+  const auto* found = std::find_if(std::begin(PageAccents), std::end(PageAccents),
+                                   [&](const PageAccent& a) { return page == QLatin1StringView(a.page); });
+  return found == std::end(PageAccents) ? nullptr : found;
+}
+
+Ink InkOn(const QPalette& palette, QIcon::Mode mode, const PageAccent* own = nullptr) {
   if (mode == QIcon::Selected) {  // on a ground of the accent
     const QColor text = palette.color(QPalette::HighlightedText);
     QColor fill = text;
     fill.setAlpha(50);
     return {text, fill, text};
   }
-  const QColor accent = palette.color(QPalette::Highlight);
-  if (IsDark(palette)) return {QColor(0xC8, 0xCD, 0xD6), QColor(0x4A, 0x51, 0x5C), accent};
+  const bool dark = IsDark(palette);
+  const QColor accent = own ? QColor(dark ? own->onDark : own->onLight) : palette.color(QPalette::Highlight);
+  if (dark) return {QColor(0xC8, 0xCD, 0xD6), QColor(0x4A, 0x51, 0x5C), accent};
   return {QColor(0x4A, 0x52, 0x5E), Qt::white, accent};
 }
 
@@ -115,47 +142,54 @@ QByteArrayView DrawingOf(const TClass& cls) {
   return cls.Icon().isEmpty() ? plain : QByteArrayView(cls.Icon());
 }
 
-void Draw(QByteArrayView drawing, QPainter& painter, const QRectF& rect, const QPalette& palette,
+// A drawing and what it is painted with.
+struct Look {
+  QByteArrayView drawing;
+  const PageAccent* accent = nullptr;
+};
+Look LookOf(const TClass& cls) { return {DrawingOf(cls), AccentOf(cls)}; }
+
+void Draw(const Look& look, QPainter& painter, const QRectF& rect, const QPalette& palette,
           QIcon::Mode mode = QIcon::Normal) {
   painter.save();
   if (mode == QIcon::Disabled) painter.setOpacity(0.35);
   painter.setRenderHint(QPainter::Antialiasing);
   painter.translate(rect.topLeft());
   painter.scale(rect.width() / 24, rect.height() / 24);
-  Drawing(drawing, InkOn(palette, mode), &painter).Run();
+  Drawing(look.drawing, InkOn(palette, mode, look.accent), &painter).Run();
   painter.restore();
 }
 
 // Draws when it is shown, so that a change of theme needs no new icons.
 class Engine : public QIconEngine {
  public:
-  explicit Engine(QByteArrayView drawing) : drawing_(drawing) {}
+  explicit Engine(const Look& look) : look_(look) {}
   void paint(QPainter* painter, const QRect& rect, QIcon::Mode mode, QIcon::State) override {
-    Draw(drawing_, *painter, rect, QApplication::palette(), mode);
+    Draw(look_, *painter, rect, QApplication::palette(), mode);
   }
   QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State) override {
     QPixmap pixmap(size);
     pixmap.fill(Qt::transparent);
     QPainter p(&pixmap);
-    Draw(drawing_, p, QRectF(QPointF(0, 0), size), QApplication::palette(), mode);
+    Draw(look_, p, QRectF(QPointF(0, 0), size), QApplication::palette(), mode);
     return pixmap;
   }
-  QIconEngine* clone() const override { return new Engine(drawing_); }
+  QIconEngine* clone() const override { return new Engine(look_); }
 
  private:
-  QByteArrayView drawing_;
+  Look look_;
 };
 }  // namespace
 
-QIcon ComponentIcon(const TClass& cls) { return QIcon(new Engine(DrawingOf(cls))); }
-QIcon DrawnIcon(QByteArrayView drawing) { return QIcon(new Engine(drawing)); }
+QIcon ComponentIcon(const TClass& cls) { return QIcon(new Engine(LookOf(cls))); }
+QIcon DrawnIcon(QByteArrayView drawing) { return QIcon(new Engine({drawing})); }
 
 QPixmap ComponentPixmap(const TClass& cls, int pixels, qreal ratio, const QPalette& palette) {
   QPixmap pixmap(QSize(pixels, pixels) * ratio);
   pixmap.setDevicePixelRatio(ratio);
   pixmap.fill(Qt::transparent);
   QPainter p(&pixmap);
-  Draw(DrawingOf(cls), p, QRectF(0, 0, pixels, pixels), palette);
+  Draw(LookOf(cls), p, QRectF(0, 0, pixels, pixels), palette);
   return pixmap;
 }
 

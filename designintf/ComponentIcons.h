@@ -1,7 +1,7 @@
 // Icons of component classes: drawn, so that they are sharp at every size and follow the theme.
 //
 // A class names its icon where it describes itself (TClassBuilder::ClassDoc), as a drawing on a field of 24
-// by 24, word by word:
+// by 24, word by word. The accent is that of the palette page that the class is on:
 //   pen INK [WIDTH [dots]]   brush INK       line, fill or accent, which suit the theme; accent+50, that much
 //                                            lighter; #rrggbb; none
 //   box X Y W H RADIUS       oval X Y W H

@@ -184,6 +184,15 @@ std::vector<TPalettePage> DesignRegistry::Pages(TRegistrationKind kind) const {
   return pages;
 }
 
+QString DesignRegistry::PageOf(const TClass& cls) {
+  if (Registries().empty()) return {};
+  for (const TRegistration& row : Current().rows_)
+    if (row.Kind == TRegistrationKind::Components &&
+        std::find(row.Classes.begin(), row.Classes.end(), &cls) != row.Classes.end())
+      return row.PageOrCategory;
+  return {};
+}
+
 TPackageCall DesignRegistry::CallOf(const TPropertyEditor& editor, const char* member) const {
   const TPersistent& instance = *editor.GetComponent(0);
   const TRegistration* row = BestRow(instance, editor.GetPropInfo());

@@ -76,6 +76,8 @@ class DesignRegistry : public IEditorSource {
   TPackageCall ConstructorOf(const TClass& cls) const;
 
   std::vector<TPalettePage> PalettePages() const { return Pages(TRegistrationKind::Components); }
+  // The first page that the class is on, of the registry that is current; empty when it is on none.
+  static QString PageOf(const TClass& cls);
   std::vector<TPalettePage> ActionCategories() const { return Pages(TRegistrationKind::Actions); }
   // Categories of a property, in order of registration; "Miscellaneous" when there is none.
   QStringList CategoriesOf(const TClass& cls, const QByteArray& property) const;

@@ -220,6 +220,24 @@ TEST(ComponentIcons, ADrawingIsReadWordByWord) {
   EXPECT_EQ(UnknownWordOf("box 1 1 x"), "x");
 }
 
+TEST(ComponentIcons, APageHasItsAccent) {
+  const auto accents = [](const QColor& color) {
+    const QImage picture = ComponentPixmap(TComponent::StaticClass(), 48).toImage();
+    int count = 0;
+    for (int y = 0; y < 48; ++y)
+      for (int x = 0; x < 48; ++x) count += picture.pixelColor(x, y) == color;
+    return count;
+  };
+  const QColor theme = QApplication::palette().color(QPalette::Highlight), teal(0xFF14868C);
+  EXPECT_GT(accents(theme), 0);
+  EXPECT_EQ(accents(teal), 0);
+  DesignRegistry registry;
+  const RegistrationScope scope(registry, nullptr, "Unit");
+  RegisterComponents(QStringLiteral("VRX Form"), {&TComponent::StaticClass()});
+  EXPECT_EQ(accents(theme), 0);
+  EXPECT_GT(accents(teal), 0);
+}
+
 TEST(ComponentIcons, AreReadableInSelectedRows) {
   const QIcon icon = ComponentIcon(TComponent::StaticClass());
   const auto accents = [&](QIcon::Mode mode) {
