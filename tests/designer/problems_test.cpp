@@ -1,6 +1,7 @@
 // What is wrong with the open form: the list below the surface and the signs in the inspector follow edits.
 #include "designer/ProblemsList.h"
 #include "designer/RowDelegate.h"
+#include "ide/operations/FormText.h"
 #include "tests/designer/InspectingTest.h"
 #include "vcl/StatusBar.h"
 
@@ -135,6 +136,22 @@ TEST_F(Problems, TheListGoesWithTheLastAndComesWithTheNext) {
   Session().Undo();
   Session().Undo();
   EXPECT_TRUE(TellsNow("Line 12 clStrange|Line 24 perhaps|Line 32 sideways|Line 10 Nobody")) << Told();
+  EXPECT_FALSE(Dock().isHidden());
+}
+
+namespace {
+class ProblemsOfASoundForm : public Problems {
+ protected:
+  ProblemsOfASoundForm() : Problems("object Main: TMain\n  ClientHeight = 200\n  ClientWidth = 300\nend\n") {}
+};
+}  // namespace
+
+TEST_F(ProblemsOfASoundForm, ComeWithWhatIsPasted) {
+  EXPECT_TRUE(Dock().isHidden());
+  const forms::Document objects =
+      ObjectsOfText(QStringLiteral("object Button1: TButton\n  Enabled = 'perhaps'\nend\n"));
+  Session().Insert(objects, {{objects.Root().children[0].get(), Session().ObjectOf(Session().Form())}});
+  EXPECT_TRUE(TellsNow("Line 5 perhaps")) << Told();
   EXPECT_FALSE(Dock().isHidden());
 }
 

@@ -2,6 +2,7 @@
 // never written to where it comes from.
 #include "SessionTest.h"
 #include "ide/FormFolder.h"
+#include "ide/InspectorModel.h"
 #include "ide/UnitText.h"
 #include "ide/operations/Clipboard.h"
 #include "ide/operations/FormText.h"
@@ -289,6 +290,23 @@ TEST_F(AncestorTest, WhatIsInheritedIsNotCutAndWithoutItsAncestorNotCopied) {
   EXPECT_EQ(refusal([&] { CopySelection(*session, clipboard); }),
             "Button1 comes from the ancestor form, which was not found; it cannot be copied here.");
   EXPECT_EQ(clipboard.text, QString());
+}
+
+TEST_F(AncestorTest, OfWhatIsInheritedTheInspectorMarksWhatThisFormSays) {
+  const auto session = Open("Host.dfm");
+  InspectorModel model;
+  model.SetSession(session.get());
+  const auto marked = [&](TControl& control, const char* property) {
+    session->Select({&control});
+    const QModelIndex row = model.IndexOfPath(QLatin1StringView(property));
+    EXPECT_TRUE(row.isValid());
+    return row.data(InspectorModel::NotDefaultRole).toBool();
+  };
+  EXPECT_TRUE(marked(Inside(*session, "Head2", "Field"), "Caption"));
+  EXPECT_FALSE(marked(Inside(*session, "Head1", "Field"), "Caption")) << "the frame says it";
+  EXPECT_FALSE(marked(Inside(*session, "Head2", "Title"), "Caption"));
+  Edited(*session, [&] { Inside(*session, "Head1", "Field").SetCaption(QStringLiteral("Mine")); });
+  EXPECT_TRUE(marked(Inside(*session, "Head1", "Field"), "Caption"));
 }
 
 // --- Back to the ancestor
