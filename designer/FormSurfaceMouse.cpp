@@ -61,6 +61,7 @@ void FormSurface::mousePressEvent(QMouseEvent* event) {
 void FormSurface::TakeTab(TComponent& hit, QPoint p) {
   const QPoint at = p - FormRectOf(hit).topLeft();
   if (auto* tabs = As<TCustomTabControl>(&hit)) {
+    if (const int by = tabs->ArrowAt(at)) return tabs->ScrollTabs(by);
     if (const int tab = tabs->TabAt(at); tab >= 0 && tab != tabs->FrontTab())
       Guarded([&] { session_->Run(tr("Show page"), {tabs}, [&] { tabs->ChooseTab(tab); }); });
   } else if (auto* book = dynamic_cast<IBook*>(&hit)) {
@@ -267,7 +268,13 @@ void FormSurface::PlaceTool(const QRect& drawn, bool keep) {
 void FormSurface::mouseDoubleClickEvent(QMouseEvent* event) {
   if (!session_ || event->button() != Qt::LeftButton) return;
   CancelDrag();
-  if (TComponent* c = ComponentAt(event->pos())) Guarded([&] { session_->Edit(*c); });
+  TComponent* c = ComponentAt(event->pos());
+  if (!c) return;
+  // Two fast clicks on an arrow are two clicks.
+  const QPoint p = ToForm(event->pos());
+  if (const auto* tabs = As<TCustomTabControl>(c); tabs && tabs->ArrowAt(p - FormRectOf(*c).topLeft()) != 0)
+    return TakeTab(*c, p);
+  Guarded([&] { session_->Edit(*c); });
 }
 
 void FormSurface::contextMenuEvent(QContextMenuEvent* event) {

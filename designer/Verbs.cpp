@@ -1,6 +1,7 @@
 #include "designer/Verbs.h"
 
 #include "designintf/ComponentEditor.h"
+#include "ide/VerbTitle.h"
 
 std::vector<Verb> VerbsOfSelection(FormSession& session) {
   std::vector<Verb> verbs;
@@ -23,7 +24,7 @@ std::vector<Verb> VerbsOfSelection(FormSession& session) {
     const QString problem =
         AskPackage(callOf("GetVerbProblem"), QString(), [&] { return editor->GetVerbProblem(i); });
     verbs.push_back({text, problem, [&session, &component, editor, i, text, call = callOf("ExecuteVerb")] {
-                       session.Run(QString(text).remove(u'&'), {&component}, [&, where = call()] {
+                       session.Run(VerbTitle(text), {&component}, [&, where = call()] {
                          PackageCall([&] { return where; }, [&] { editor->ExecuteVerb(i); });
                        });
                      }});

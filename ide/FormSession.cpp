@@ -5,6 +5,7 @@
 #include "designintf/ComponentEditor.h"
 #include "designintf/DesignWindow.h"
 #include "forms/FormFile.h"
+#include "ide/VerbTitle.h"
 #include "rtl/Exceptions.h"
 #include "rtl/PropAccess.h"
 
@@ -163,7 +164,13 @@ void FormSession::ShowMethod(const QString& name) { emit HandlerShown(name); }
 
 void FormSession::Edit(TComponent& component) {
   const auto editor = Registry().GetComponentEditor(&component, this);
-  Run(tr("Edit %1").arg(component.Name()), {&component}, [&, call = Registry().CallOf(component, "Edit")] {
+  // A double click is the first verb, unless it is about a property.
+  QString text;
+  if (!dynamic_cast<const TDefaultEditor*>(editor.get()))
+    text = VerbTitle(AskPackage([&] { return Registry().CallOf(component, "GetVerb"); }, QString(),
+                                [&] { return editor->GetVerb(0); }));
+  if (text.isEmpty()) text = tr("Edit %1").arg(component.Name());
+  Run(text, {&component}, [&, call = Registry().CallOf(component, "Edit")] {
     PackageCall([&] { return call; }, [&] { editor->Edit(); });
   });
 }

@@ -5,6 +5,7 @@
 #include "rtl/PropAccess.h"
 #include "vcl/GridPanel.h"
 #include "vcl/Nested.h"
+#include "vcl/TabOrder.h"
 
 namespace {
 void RequireDepth(const forms::Object& object, const forms::Object& parent) {
@@ -29,10 +30,39 @@ void CollectComponents(TComponent& component, std::vector<TComponent*>& out) {
   for (TComponent* child : component.GetChildren()) CollectComponents(*child, out);
 }
 
-int WindowsIn(const TWinControl& parent, const TControl& without) {
-  return static_cast<int>(std::count_if(parent.Controls().begin(), parent.Controls().end(),
-                                        [&](TControl* c) { return c != &without && As<TWinControl>(c); }));
-}
+// Controls that their containers stand in a row, taken off it until it is their turn: who is put back does
+// not count those that are still to come.
+class WaitingOutside {
+ public:
+  WaitingOutside(const std::vector<TComponent*>& components, BoundForm& form) : form_(form) {
+    for (TComponent* c : components) {
+      auto* control = As<TControl>(c);
+      if (control && control->Parent() && control->Parent()->PlacesControls())
+        places_.push_back({control, control->Parent(), control->Parent()->ControlIndex(control)});
+    }
+    const auto building = form_.Build();
+    const auto frozen = form_.Freeze();
+    for (const Place& place : places_) place.control->SetParent(nullptr);
+  }
+  void Next(const TComponent& component) {
+    if (places_.empty() || places_.front().control != &component) return;
+    const auto building = form_.Build();
+    const auto frozen = form_.Freeze();
+    const Place place = places_.front();
+    places_.erase(places_.begin());
+    place.control->SetParent(place.parent);
+    place.parent->SetControlIndex(place.control, place.index);
+  }
+
+ private:
+  struct Place {
+    TControl* control;
+    TWinControl* parent;
+    int index;
+  };
+  BoundForm& form_;
+  std::vector<Place> places_;
+};
 }  // namespace
 
 // The nearest that takes controls and that the document knows.
@@ -66,8 +96,7 @@ TComponent* FormSession::CreateComponent(const TClass& cls, TComponent* parent, 
       control->SetBounds(bounds.left(), bounds.top(), sized ? bounds.width() : control->Width(),
                          sized ? bounds.height() : control->Height());
       if (auto* grid = As<TGridPanel>(container)) grid->MoveToCellAt(*control, bounds.topLeft());
-      if (auto* windowed = As<TWinControl>(control))
-        windowed->SetTabOrder(WindowsIn(*windowed->Parent(), *windowed));
+      if (auto* windowed = As<TWinControl>(control)) GiveLastTabOrder(*windowed);
     } else {
       component->SetDesignInfo(
           DesignWordOf({static_cast<std::int16_t>(bounds.left()), static_cast<std::int16_t>(bounds.top())}));
@@ -151,7 +180,11 @@ std::vector<TComponent*> FormSession::Insert(const forms::Document& from,
       made.push_back(recorder_->Insert(std::move(objects[i]), parent, index));
     }
     recorder_->SettleInserted(insertions.size());
-    for (TComponent* c : made) TakeIntoLayout(*c);
+    WaitingOutside waiting(made, form_);
+    for (TComponent* c : made) {
+      waiting.Next(*c);
+      TakeIntoLayout(*c);
+    }
   });
   return made;
 }

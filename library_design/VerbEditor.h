@@ -38,6 +38,11 @@ class VerbOf {
   VerbOf When(std::function<bool(const T&)> condition) && {
     return std::move(*this).Times([condition](const T& c) { return condition(c) ? 1 : 0; });
   }
+  // Not to be chosen while there is a reason; empty for none.
+  VerbOf Unless(std::function<QString(const T&)> reason) && {
+    reason_ = std::move(reason);
+    return std::move(*this);
+  }
   // So many entries, one behind the other.
   VerbOf Times(std::function<int(const T&)> count) && {
     count_ = std::move(count);
@@ -55,11 +60,12 @@ class VerbOf {
   }
   // Why it cannot be done now; empty when it can.
   QString Problem(const T& c) const {
-    return Available(c) ? QString() : QObject::tr("%1 has this from its data source").arg(c.Name());
+    if (!Available(c)) return QObject::tr("%1 has this from its data source").arg(c.Name());
+    return reason_ ? reason_(c) : QString();
   }
   // Whether the component was changed.
   bool Execute(T& c, IDesigner* designer, int item) const {
-    return Available(c) && action_(c, designer, item);
+    return Problem(c).isEmpty() && action_(c, designer, item);
   }
 
  private:
@@ -97,6 +103,7 @@ class VerbOf {
   std::function<QString(const T&, int)> caption_;
   std::function<bool(T&, IDesigner*, int)> action_;
   std::function<int(const T&)> count_;  // none: one
+  std::function<QString(const T&)> reason_;
   const char* unavailable_ = nullptr;
 };
 

@@ -2,6 +2,7 @@
 
 #include "rtl/Class.h"
 #include "vcl/ImageList.h"
+#include "vcl/LineRect.h"
 #include "vcl/PropertyGroups.h"
 
 void PaintDesignFrame(TCanvas& canvas, const QRect& rect) {
@@ -9,7 +10,7 @@ void PaintDesignFrame(TCanvas& canvas, const QRect& rect) {
   p.save();
   p.setPen(QPen(ToQColor(clBtnShadow), 1, Qt::DashLine));
   p.setBrush(Qt::NoBrush);
-  p.drawRect(rect.adjusted(0, 0, -1, -1));
+  p.drawRect(LineRect(rect));
   p.restore();
 }
 

@@ -5,6 +5,7 @@
 
 #include "vcl/Action.h"
 #include "vcl/FormColors.h"
+#include "vcl/LineRect.h"
 #include "vcl/ShownText.h"
 
 namespace {
@@ -198,7 +199,7 @@ void TMenuLook::PaintPane(QPainter& p, const TMenuPane& pane, const Place& curre
   } else {
     p.setPen(palette.color(QPalette::Mid));
     p.setBrush(palette.color(QPalette::Base));
-    p.drawRect(pane.Rect.adjusted(0, 0, -1, -1));
+    p.drawRect(LineRect(pane.Rect));
   }
   // What leads to the marked place is marked, too.
   const auto onTheWay = [&](const TMenuCell& cell) {

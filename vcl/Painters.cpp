@@ -8,6 +8,7 @@
 
 #include "vcl/Canvas.h"
 #include "vcl/FormColors.h"
+#include "vcl/LineRect.h"
 #include "vcl/ShownText.h"
 
 using enum TPartState;
@@ -226,7 +227,7 @@ void PaintTabPane(TCanvas& canvas, const QRect& rect, TPartStates states) {
   painter.fillRect(option.rect, option.palette.window());
   painter.setPen(option.palette.color(QPalette::Mid));
   painter.setBrush(Qt::NoBrush);
-  if (rect.width() > 1 && rect.height() > 1) painter.drawRect(option.rect.adjusted(0, 0, -1, -1));
+  if (rect.width() > 1 && rect.height() > 1) painter.drawRect(LineRect(option.rect));
 }
 
 void PaintProgress(TCanvas& canvas, const QRect& rect, TPartStates states, const TScrollRange& range,

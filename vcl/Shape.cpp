@@ -3,6 +3,7 @@
 #include <QPolygonF>
 #include <cmath>
 
+#include "vcl/LineRect.h"
 #include "vcl/PropertyGroups.h"
 
 const TClass& TShape::StaticClass() {
@@ -131,7 +132,7 @@ void TBevel::Paint(TCanvas& canvas) {
       if (IsDesigning()) {
         canvas.Painter().setPen(QPen(ToQColor(clBtnShadow), 1, Qt::DotLine));
         canvas.Painter().setBrush(Qt::NoBrush);
-        canvas.Painter().drawRect(r.adjusted(0, 0, -1, -1));
+        canvas.Painter().drawRect(LineRect(r));
       }
       break;
   }

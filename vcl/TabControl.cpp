@@ -1,6 +1,7 @@
 #include "vcl/TabControl.h"
 
 #include <algorithm>
+#include <climits>
 
 #include "rtl/Class.h"
 #include "vcl/Painters.h"
@@ -46,6 +47,7 @@ struct TCustomTabControl::TStrip {
   std::vector<Span> tabs;
   int rows = 1, thickness = 0, room = 0;
   bool cut = false;  // not all of them fit
+  int beyond = 0;    // of what does not fit, before the first that is seen
 };
 
 TCustomTabControl::TStrip TCustomTabControl::Strip() const {
@@ -74,16 +76,18 @@ TCustomTabControl::TStrip TCustomTabControl::Strip() const {
   }
   strip.rows = row + 1;
   strip.cut = !Get(MultiLine) && at > strip.room;
-  const int front = FrontTab();
-  if (front < 0 || front >= static_cast<int>(strip.tabs.size())) return strip;
-  // The row of the tab in front is the one beside the page, and the tab itself can be seen.
-  const TStrip::Span chosen = strip.tabs[static_cast<std::size_t>(front)];
-  const int beyond = strip.cut ? std::clamp(chosen.from + chosen.length - (strip.room - Arrows), 0,
-                                            std::max(chosen.from - Start, 0))
-                               : 0;
+  const int front = FrontTab(), sight = strip.room - Arrows;
+  const bool any = front >= 0 && front < static_cast<int>(strip.tabs.size());
+  const TStrip::Span chosen = any ? strip.tabs[static_cast<std::size_t>(front)] : TStrip::Span{};
+  // The tab in front can be seen, unless somebody looks for another one.
+  if (strip.cut && scrolled_ && scrolled_->front == front)
+    strip.beyond = std::clamp(scrolled_->by, 0, std::max(at - sight, 0));
+  else if (strip.cut && any)
+    strip.beyond = std::clamp(chosen.from + chosen.length - sight, 0, std::max(chosen.from - Start, 0));
   for (TStrip::Span& span : strip.tabs) {
-    span.row = (span.row - chosen.row - 1 + 2 * strip.rows) % strip.rows;
-    span.from -= beyond;
+    // Its row is the one beside the page.
+    if (any) span.row = (span.row - chosen.row - 1 + 2 * strip.rows) % strip.rows;
+    span.from -= strip.beyond;
   }
   return strip;
 }
@@ -117,7 +121,44 @@ std::vector<QRect> TCustomTabControl::TabRects() const {
   return rects;
 }
 
+std::array<QRect, 2> TCustomTabControl::ArrowRects() const {
+  if (!Get(ShowTabs) || !Strip().cut) return {};
+  constexpr int side = Arrows / 2;
+  const QRect all(0, 0, Width(), Height());
+  const bool far = Get(TabPosition) == TTabPosition::tpRight || Get(TabPosition) == TTabPosition::tpBottom;
+  const int across = far ? (IsUpright() ? Width() : Height()) - Start - side : Start;
+  const auto arrow = [&](int fromEnd) {
+    return IsUpright() ? QRect(across, Height() - fromEnd, side, side).intersected(all)
+                       : QRect(Width() - fromEnd, across, side, side).intersected(all);
+  };
+  return {arrow(Arrows), arrow(side)};
+}
+
+int TCustomTabControl::ArrowAt(QPoint point) const {
+  const auto arrows = ArrowRects();
+  return arrows[0].contains(point) ? -1 : arrows[1].contains(point) ? 1 : 0;
+}
+
+// To the next tab that would be the first to be seen.
+void TCustomTabControl::ScrollTabs(int by) {
+  const TStrip strip = Strip();
+  if (!strip.cut || by == 0) return;
+  int to = by < 0 ? 0 : INT_MAX;
+  for (const TStrip::Span& span : strip.tabs) {
+    const int begin = span.from + strip.beyond - Start;
+    if (span.length > 0 && by < 0 && begin < strip.beyond) to = std::max(to, begin);
+    if (span.length > 0 && by > 0 && begin > strip.beyond) to = std::min(to, begin);
+  }
+  if (to == INT_MAX) return;
+  scrolled_ = TScrolled{FrontTab(), to};
+  // Not beyond the last one, from where the way back would begin out of sight.
+  scrolled_->by = Strip().beyond;
+  Invalidate();
+}
+
 int TCustomTabControl::TabAt(QPoint point) const {
+  const QRect arrow = ArrowRects()[0];
+  if (!arrow.isEmpty() && (IsUpright() ? point.y() >= arrow.top() : point.x() >= arrow.left())) return -1;
   const auto rects = TabRects();
   const auto hit =
       std::find_if(rects.begin(), rects.end(), [&](const QRect& r) { return r.contains(point); });
@@ -191,21 +232,10 @@ void TCustomTabControl::Paint(TCanvas& canvas) {
     if (i != front) paint(i);
   if (front >= 0 && front < static_cast<int>(list.size())) paint(front);
   p.restore();
-  if (!strip.cut) return;
-  constexpr int side = Arrows / 2;
-  if (IsUpright()) {
-    const int x = Get(TabPosition) == TTabPosition::tpLeft ? Start : Width() - Start - side;
-    PaintArrowButton(canvas, QRect(x, Height() - Arrows, side, side).intersected(all), PartStates(),
-                     Qt::UpArrow);
-    PaintArrowButton(canvas, QRect(x, Height() - side, side, side).intersected(all), PartStates(),
-                     Qt::DownArrow);
-  } else {
-    const int y = Get(TabPosition) == TTabPosition::tpTop ? Start : Height() - Start - side;
-    PaintArrowButton(canvas, QRect(Width() - Arrows, y, side, side).intersected(all), PartStates(),
-                     Qt::LeftArrow);
-    PaintArrowButton(canvas, QRect(Width() - side, y, side, side).intersected(all), PartStates(),
-                     Qt::RightArrow);
-  }
+  const auto arrows = ArrowRects();
+  if (arrows[0].isEmpty()) return;
+  PaintArrowButton(canvas, arrows[0], PartStates(), IsUpright() ? Qt::UpArrow : Qt::LeftArrow);
+  PaintArrowButton(canvas, arrows[1], PartStates(), IsUpright() ? Qt::DownArrow : Qt::RightArrow);
 }
 
 const TClass& TTabControl::StaticClass() {

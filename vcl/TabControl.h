@@ -1,5 +1,8 @@
 // Rows of tabs at an edge of a surface.
 #pragma once
+#include <array>
+#include <optional>
+
 #include "rtl/Strings.h"
 #include "vcl/Control.h"
 #include "vcl/ImageList.h"
@@ -26,6 +29,11 @@ class TCustomTabControl : public TWinControl {
   virtual std::vector<QRect> TabRects() const;
   // -1 where there is none.
   int TabAt(QPoint point) const;
+  // Of the arrows beside tabs that do not all fit: -1 for the one that leads back, 1 for the other; 0
+  // elsewhere.
+  int ArrowAt(QPoint point) const;
+  // By a tab, until another one comes to the front; no value changes.
+  void ScrollTabs(int by);
   virtual int FrontTab() const = 0;
   // Makes that tab the one in front, as a value of the control.
   virtual void ChooseTab(int index) = 0;
@@ -41,11 +49,19 @@ class TCustomTabControl : public TWinControl {
     bool shown = true;
   };
   virtual std::vector<TTab> TabList() const = 0;
+  // Empty where all tabs fit.
+  virtual std::array<QRect, 2> ArrowRects() const;
 
  private:
   struct TStrip;
   TStrip Strip() const;
   bool IsUpright() const;
+
+  // How far they were scrolled, while that tab is in front.
+  struct TScrolled {
+    int front, by;
+  };
+  std::optional<TScrolled> scrolled_;
 };
 
 class TTabControl : public TCustomTabControl {

@@ -2,6 +2,7 @@
 
 #include "ide/BoundsCheck.h"
 #include "rtl/Exceptions.h"
+#include "vcl/TabOrder.h"
 
 TWinControl& ContainerAt(const FormSession& session, QPoint formPoint,
                          const std::vector<TComponent*>& dragged) {
@@ -54,14 +55,6 @@ QString WhyNotInto(const FormSession& session, const std::vector<TComponent*>& c
   } catch (const Exception& e) {
     return e.Message();
   }
-}
-
-void GiveLastTabOrder(TWinControl& control) {
-  int last = -1;
-  for (const TControl* c : control.Parent()->Controls())
-    if (const auto* other = As<TWinControl>(c); other && other != &control)
-      last = std::max(last, other->TabOrder());
-  control.SetTabOrder(std::min<int>(last + 1, INT16_MAX));
 }
 
 void MoveInto(FormSession& session, const std::vector<TComponent*>& controls, TWinControl& container) {

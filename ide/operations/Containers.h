@@ -12,5 +12,3 @@ QString WhyNotInto(const FormSession& session, const std::vector<TComponent*>& c
 // Moves them there, keeping their place on the screen; as one command, or a part of the one that goes on.
 // EComponentError with the reason, and nothing is changed then.
 void MoveInto(FormSession& session, const std::vector<TComponent*>& controls, TWinControl& container);
-// Behind all the others that the Tab key visits there.
-void GiveLastTabOrder(TWinControl& control);

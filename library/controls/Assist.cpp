@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "library/controls/DesignHint.h"
 #include "rtl/Class.h"
 #include "vcl/PropertyGroups.h"
 #include "vcl/ShownText.h"
@@ -209,6 +210,9 @@ void TVRXAssist::Paint(TCanvas& canvas) {
   canvas.FillRect(ClientRect(), Color());
   PaintSteps(canvas);
   PaintHeader(canvas);
+  if (IsDesigning() && Pages().empty())
+    PaintDesignHint(canvas, DisplayRect(), *Font(),
+                    QObject::tr("No pages yet: New Page in the context menu"));
   const QRect footer = FooterRect();
   if (footer.isEmpty()) return;
   canvas.FillRect(QRect(footer.left(), footer.top(), footer.width(), 1), clBtnShadow);

@@ -37,7 +37,7 @@ class TVRXAssist : public TPageBook {
   // The titles of all pages, the one in front marked.
   static constexpr TKept<bool> ShowSteps{"ShowSteps", true};
   static constexpr TKept<TColor> StepsColor{"StepsColor", clBtnShadow};
-  static constexpr TKept<int> StepsWidth{"StepsWidth", 120};
+  static constexpr TKept<int> StepsWidth{"StepsWidth", 136};
 
   std::vector<TVRXAssistPage*> Pages() const { return PagesOf<TVRXAssistPage>(*this); }
   TVRXAssistPage* ActivePage() const { return static_cast<TVRXAssistPage*>(active_); }
@@ -58,6 +58,8 @@ class TVRXAssist : public TPageBook {
   std::vector<TButtonPlace> ButtonPlaces() const;
 
  protected:
+  // The titles have all of the left side.
+  std::array<QRect, 2> ArrowRects() const override { return {}; }
   bool TakesAsPage(const TClass& cls) const override {
     return cls.InheritsFrom(TVRXAssistPage::StaticClass());
   }

@@ -144,6 +144,24 @@ void TVRXButtonBar::DelItem(int index) {
   if (index < selected || selected == section->ItemCount()) Set(ItemIndex, selected - 1);
 }
 
+void TVRXButtonBar::MoveSection(int from, int to) {
+  const TVRXBarSection* open = Current();
+  if (from == to || std::min(from, to) < 0 || std::max(from, to) >= SectionCount()) return;
+  const TUpdateLock lock(*this);
+  Sections()->Move(from, to);
+  if (Current() != open) Set(SectionIndex, open->Index());
+}
+void TVRXButtonBar::MoveItem(int from, int to) {
+  const TVRXBarSection* section = Current();
+  if (!section || from == to || std::min(from, to) < 0 || std::max(from, to) >= section->ItemCount()) return;
+  const int selected = Get(ItemIndex);
+  const bool any = selected >= 0 && selected < section->ItemCount();
+  const TVRXBarItem* item = any ? &section->Items()->At(selected) : nullptr;
+  const TUpdateLock lock(*this);
+  section->Items()->Move(from, to);
+  if (item) Set(ItemIndex, item->Index());
+}
+
 void TVRXButtonBar::Open(int section) {
   if (section < 0 || section >= SectionCount() || section == CurrentIndex()) return;
   const TUpdateLock lock(*this);

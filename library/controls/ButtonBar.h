@@ -68,6 +68,9 @@ class TVRXButtonBar : public TWinControl {
   void RenItem(int index, const QString& caption);
   void DelSection(int index = -1);
   void DelItem(int index = -1);
+  // The open section stays open, and the selected item, which is one of it, selected.
+  void MoveSection(int from, int to);
+  void MoveItem(int from, int to);
   // Up to the last and the first one.
   void NextSection() { Open(CurrentIndex() + 1); }
   void PrevSection() { Open(CurrentIndex() - 1); }

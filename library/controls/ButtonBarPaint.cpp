@@ -2,6 +2,7 @@
 
 #include "library/controls/ButtonBar.h"
 #include "vcl/ItemPainting.h"
+#include "vcl/LineRect.h"
 #include "vcl/ShownText.h"
 
 namespace {
@@ -147,7 +148,7 @@ void TVRXButtonBar::PaintEmpty(TCanvas& canvas, const Shape& s) const {
   p.setPen(QPen(ToQColor(clGrayText), 1, Qt::DashLine));
   p.setBrush(Qt::NoBrush);
   for (const int from : {0, length - 2 * s.heading, length - s.heading})
-    p.drawRect(Strip(s, from, s.heading).adjusted(1, 1, -2, -2));
+    p.drawRect(LineRect(Strip(s, from, s.heading).adjusted(1, 1, -1, -1)));
   constexpr int side = 32;
   const QRect middle = Strip(s, s.heading, length - 3 * s.heading);
   p.drawRect(QRect(middle.center() - QPoint(side / 2, side / 2), QSize(side, side)));

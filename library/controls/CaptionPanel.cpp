@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "library/controls/RowPlaces.h"
 #include "rtl/Class.h"
 #include "vcl/AsGiven.h"
 #include "vcl/Image.h"
@@ -108,7 +109,17 @@ void TVRXCaptionPanel::SetIndex(int v) {
   TVRXCaptionPanelGroup* group = Group();
   if (!group || v < 0 || v >= static_cast<int>(group->PanelList().size())) return;
   Changing();
+  // The Tab key goes through the panels as they stand: who comes to a place has its turn.
+  const auto inOrder = [group] {
+    auto panels = group->PanelList();
+    std::erase_if(panels, [](const TVRXCaptionPanel* p) { return p->TabOrder() < 0; });
+    return panels;
+  };
+  std::vector<int> turns;
+  for (const TVRXCaptionPanel* panel : inOrder()) turns.push_back(panel->TabOrder());
   SetSilentIndex(v);
+  auto turn = turns.cbegin();
+  for (TVRXCaptionPanel* panel : inOrder()) panel->SetTabOrder(*turn++);
   Changed();
 }
 
@@ -281,10 +292,12 @@ QMargins TVRXCaptionPanelGroup::Insets() const {
 }
 
 void TVRXCaptionPanelGroup::ArrangeControls(Placements& all, const QRect& client, const QMargins& insets,
-                                            const Placements*) const {
+                                            const Placements* before) const {
   const QRect room = client.marginsRemoved(insets);
   const bool down = IsUpright();
   int at = (down ? room.top() : room.left()) - Get(ScrollPos);
+  using Placed = Placements::value_type;
+  std::vector<Placed*> row;
   for (auto& p : all) {
     if (!p.takesPart) {
       PlaceAt(p, p.stands.topLeft());
@@ -303,7 +316,13 @@ void TVRXCaptionPanelGroup::ArrangeControls(Placements& all, const QRect& client
       p.height = std::max(room.height(), 0);
     }
     at += (down ? p.stands.height() : p.stands.width()) + Get(Distance);
+    row.push_back(&p);
   }
+  if (!before) return;
+  std::vector<const Placed*> was;
+  for (const Placed& p : *before)
+    if (p.takesPart) was.push_back(&p);
+  StandAsBefore(row, was, down);
 }
 
 int TVRXCaptionPanelGroup::Extent() const {

@@ -3,7 +3,7 @@
 #include "vcl/ShownText.h"
 
 namespace {
-constexpr int Around = 6;  // beside the text
+constexpr int Around = 8;  // beside the text
 TFont* BoldOf(const TFont& font, TFont& bold) {
   bold.Assign(&font);
   TFontStyles style = font.Style();

@@ -2,7 +2,9 @@
 
 #include <QPainter>
 
+#include "library/controls/RowPlaces.h"
 #include "rtl/Class.h"
+#include "vcl/LineRect.h"
 #include "vcl/PropertyGroups.h"
 
 const TClass& TVRXButton::StaticClass() {
@@ -60,9 +62,11 @@ void TVRXDlgButtonPanel::ArrangeControls(Placements& all, const QRect& client, c
                                          const Placements* before) const {
   Placements aligned;
   std::vector<Placed*> row;
+  const auto known = [this](const Placed& p) {
+    return std::find(known_.begin(), known_.end(), p.control) != known_.end();
+  };
   for (Placed& p : all) {
-    const bool known = std::find(known_.begin(), known_.end(), p.control) != known_.end();
-    const bool button = known || dynamic_cast<const TButton*>(p.control);
+    const bool button = known(p) || dynamic_cast<const TButton*>(p.control);
     if (!button && p.align != TAlign::alNone)
       aligned.push_back(p);
     else if (button && p.takesPart)
@@ -98,6 +102,11 @@ void TVRXDlgButtonPanel::ArrangeControls(Placements& all, const QRect& client, c
                        : QPoint(inside.left() + middle.x(), room.top() + at));
     at += along(p->stands.size());
   }
+  if (!before) return;
+  std::vector<const Placed*> was;
+  for (const Placed& p : *before)
+    if (p.takesPart && known(p)) was.push_back(&p);
+  StandAsBefore(row, was, !across);
 }
 
 void TVRXDlgButtonPanel::ControlsListed() {
@@ -127,7 +136,7 @@ void TVRXDlgButtonPanel::Paint(TCanvas& canvas) {
   for (int i = 0; i < 2; ++i) {
     const QPoint corner = across ? QPoint(border + at + i * step, (room.height() - size.height()) / 2)
                                  : QPoint((room.width() - size.width()) / 2, border + at + i * step);
-    p.drawRect(QRect(room.topLeft() + corner, size).adjusted(0, 0, -1, -1));
+    p.drawRect(LineRect(QRect(room.topLeft() + corner, size)));
   }
   p.restore();
 }

@@ -1,5 +1,6 @@
 #include "library/controls/NoteBook.h"
 
+#include "library/controls/DesignHint.h"
 #include "rtl/Class.h"
 #include "vcl/PropertyGroups.h"
 
@@ -66,4 +67,11 @@ const TClass& TVRXNoteBook::StaticClass() {
               "10 brush line shape 18.5 11.5 21.5 11.5 21.5 15.5 18.5 15.5 pen line 1.2 path 6.5 8.5 "
               "15.5 8.5 path 6.5 12 15.5 12 path 6.5 15.5 12 15.5"));
   return cls;
+}
+
+void TVRXNoteBook::Paint(TCanvas& canvas) {
+  TVRXCustomSheetControl::Paint(canvas);
+  if (IsDesigning() && SheetCount() == 0)
+    PaintDesignHint(canvas, DisplayRect(), *Font(),
+                    QObject::tr("No pages yet: New Page in the context menu"));
 }

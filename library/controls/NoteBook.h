@@ -53,4 +53,5 @@ class TVRXNoteBook : public TVRXCustomSheetControl {
   TVRXNoteBookPage* ActivePage() const { return static_cast<TVRXNoteBookPage*>(active_); }
   void SetActivePage(TVRXNoteBookPage* v) { SetActiveSheet(v); }
   const TClass& SheetClass() const override { return TVRXNoteBookPage::StaticClass(); }
+  void Paint(TCanvas& canvas) override;
 };

@@ -69,6 +69,18 @@ bool EditBar(TVRXButtonBar& bar, IDesigner& designer) {
   dialog.TakeBar(bar);
   return true;
 }
+QString WithoutSection(const TVRXButtonBar& bar) {
+  return bar.Current() ? QString() : QObject::tr("%1 has no sections").arg(bar.Name());
+}
+// Why no section stands so far from the open one.
+std::function<QString(const TVRXButtonBar&)> WithoutNeighbour(int by) {
+  return [by](const TVRXButtonBar& bar) {
+    const int to = bar.CurrentIndex() + by;
+    if (!bar.Current() || (to >= 0 && to < bar.SectionCount())) return WithoutSection(bar);
+    return QObject::tr("%1 has no other section there").arg(bar.Name());
+  };
+}
+using BarVerb = VerbOf<TVRXButtonBar>;
 }  // namespace
 
 void TVRXButtonBarCollectionProperty::Edit() {
@@ -85,14 +97,10 @@ const TVRXButtonBarComponentEditor::Verbs TVRXButtonBarComponentEditor::Table = 
     "-",
     {"Section Editor", EditSections},
     {"Add Section", [](TVRXButtonBar& bar) { bar.AddSection(); }},
-    {"Next section", [](TVRXButtonBar& bar) { bar.NextSection(); }},
-    {"Prev section", [](TVRXButtonBar& bar) { bar.PrevSection(); }},
+    BarVerb("Next section", [](TVRXButtonBar& bar) { bar.NextSection(); }).Unless(WithoutNeighbour(1)),
+    BarVerb("Prev section", [](TVRXButtonBar& bar) { bar.PrevSection(); }).Unless(WithoutNeighbour(-1)),
     "-",
-    {"Add item",
-     [](TVRXButtonBar& bar) {
-       bar.AddItem();
-       return bar.Current() != nullptr;
-     }},
+    BarVerb("Add item", [](TVRXButtonBar& bar) { bar.AddItem(); }).Unless(WithoutSection),
 };
 bool TVRXButtonBarComponentEditor::EditProperty(const TPropertyEditor& property) const {
   return property.GetName().compare(QStringLiteral("Sections"), Qt::CaseInsensitive) == 0;

@@ -7,6 +7,7 @@
 
 class QLineEdit;
 class QMenu;
+class QRubberBand;
 
 class BarView : public ControlView {
   Q_OBJECT
@@ -24,10 +25,12 @@ class BarView : public ControlView {
 
  signals:
   void SectionChanged();
+  // Or another one is the selected one now; -1 for none.
   void ItemClicked(int item);
 
  protected:
   void mousePressEvent(QMouseEvent* event) override;
+  void mouseMoveEvent(QMouseEvent* event) override;
   void mouseReleaseEvent(QMouseEvent* event) override;
   void wheelEvent(QWheelEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
@@ -42,6 +45,14 @@ class BarView : public ControlView {
   void OpenSection(int index);
   void SelectItem(int index);
   void Scroll(int steps);
+  void Run(TVRXBarCommand command);
+  // To another place in the order: headings among headings, items among those of their section.
+  void Move(const TVRXBarPlace& what, int to);
+  void MoveBy(bool section, int by);
+  QRect RectOf(TVRXBarPlace::Kind what, int index) const;
+  bool IsUpright() const;
+  int DropIndex(QPoint point) const;
+  void EndDrag();
   void Rename(const QRect& place, const QString& text, std::function<void(const QString&)> take);
   void EndRename(bool keep);
 
@@ -51,4 +62,8 @@ class BarView : public ControlView {
   std::function<void(const QString&)> take_;
   QBasicTimer scrolling_;
   int direction_ = 0;
+  TVRXBarPlace pressed_;  // what is dragged, or may be
+  QPoint from_;
+  bool dragging_ = false;
+  QRubberBand* mark_;
 };

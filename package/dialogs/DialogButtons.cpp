@@ -4,6 +4,8 @@
 #include <QPushButton>
 #include <array>
 
+#include "vcl/TabOrder.h"
+
 namespace {
 constexpr TVRXDialogButton Table[VRXDialogButtonCount] = {
     {"Yes", 6},    {"No", 7},   {"OK", 1},       {"Cancel", 2},    {"Abort", 3}, {"Retry", 4},
@@ -55,6 +57,7 @@ void VRXInsertDialogButtons(TVRXDlgButtonPanel& panel, IDesigner& designer, cons
     button->SetCancel(i == cancel);
     if (i == Help && what.WithGap) button->SetTag(TVRXDlgButtonPanel::GapTag);
     button->SetParent(&panel);
+    GiveLastTabOrder(*button);
   }
   if (what.RightBottom) panel.Set(TVRXDlgButtonPanel::ButtonAlignment, TVRXButtonAlignment::baRightBottom);
 }

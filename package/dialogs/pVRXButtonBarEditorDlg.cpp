@@ -47,7 +47,7 @@ TVRXButtonBarEditorDlg::TVRXButtonBarEditorDlg(QWidget* owner)
     : RowDialog(QStringLiteral("Button Bar Editor"), owner) {
   setObjectName(QStringLiteral("VRXButtonBarEditorDlg"));
   view = Named(new BarView(*bbar, *menu, this), "bbar",
-               "The bar: a click selects, the context menu renames and deletes");
+               "The bar: a click selects, dragging changes the order, the context menu renames and deletes");
   view->setAccessibleName(QStringLiteral("Button bar"));
   view->setMinimumSize(180, 300);
   OwnColors({view});
@@ -61,9 +61,10 @@ TVRXButtonBarEditorDlg::TVRXButtonBarEditorDlg(QWidget* owner)
   for (const bool ofSmall : {true, false}) panes->addLayout(BuildPane(ofSmall));
   OkButton(ok, "ok");
   CancelButton(cancel, "cancel");
-  connect(view, &BarView::SectionChanged, this, &D::SectionOrPageChanged);
+  connect(view, &BarView::SectionChanged, this, &D::SectionChanged);
   connect(view, &BarView::ItemClicked, this, [this](int item) {
     item_ = item;
+    chosen_ = true;
     RefreshItem();
   });
   connect(pages, &QTabWidget::currentChanged, this, &D::SectionOrPageChanged);
@@ -191,8 +192,9 @@ void TVRXButtonBarEditorDlg::SetBar(const TVRXButtonBar& bar, IDesigner& designe
   // It stands in the dialog, not where the bar does.
   bbar->SetAlign(TAlign::alNone);
   bbar->SetBounds(0, 0, view->width(), view->height());
-  SectionOrPageChanged();
   FillBoxes();
+  SectionOrPageChanged();
+  chosen_ = false;
 }
 
 void TVRXButtonBarEditorDlg::TakeBar(TVRXButtonBar& bar) {
@@ -200,7 +202,8 @@ void TVRXButtonBarEditorDlg::TakeBar(TVRXButtonBar& bar) {
   const QRect bounds = bar.BoundsRect();
   bbar->SetAlign(bar.Align());
   bbar->SetBounds(bounds.left(), bounds.top(), bounds.width(), bounds.height());
-  bbar->Set(B::ItemIndex, bar.Get(B::ItemIndex));
+  // What the dialog selected by itself is nobody's choice.
+  if (!chosen_) bbar->Set(B::ItemIndex, bar.Get(B::ItemIndex));
   bar.Assign(bbar.get());
 }
 
@@ -235,9 +238,13 @@ void TVRXButtonBarEditorDlg::FillBoxes() {
 
 TVRXBarItem* TVRXButtonBarEditorDlg::Clicked() const {
   const TVRXBarSection* section = bbar->Current();
-  return section && item_ < section->ItemCount() ? &section->Items()->At(item_) : nullptr;
+  return section && item_ >= 0 && item_ < section->ItemCount() ? &section->Items()->At(item_) : nullptr;
 }
 
+void TVRXButtonBarEditorDlg::SectionChanged() {
+  chosen_ = true;
+  SectionOrPageChanged();
+}
 void TVRXButtonBarEditorDlg::SectionOrPageChanged() {
   item_ = 0;
   bbar->Set(B::ItemIndex, Clicked() ? 0 : -1);
@@ -260,10 +267,10 @@ void TVRXButtonBarEditorDlg::RefreshItem() {
   const TVRXBarItem* item = Clicked();
   lgbtn->setEnabled(item);
   sgbtn->setEnabled(item);
-  if (!item) return;
-  const int index = section->Get(TVRXBarSection::ListIndex);
-  edImg->Show(index);
+  const int index = section ? section->Get(TVRXBarSection::ListIndex) : -1;
+  if (section) edImg->Show(index);
   SelectBoth(index);
+  if (!item) return;
   chkParentFont->setEnabled(true);
   chkParentFont->setChecked(section->Get(TVRXBarSection::ParentFont));
   const int picture = item->Get(TVRXBarItem::ImageIndex);
@@ -276,12 +283,12 @@ void TVRXButtonBarEditorDlg::RefreshItem() {
 
 void TVRXButtonBarEditorDlg::btnSectionAddClick() {
   bbar->AddSection();
-  SectionOrPageChanged();
+  SectionChanged();
 }
 void TVRXButtonBarEditorDlg::btnSectionRenameClick() { view->RenSection(-1); }
 void TVRXButtonBarEditorDlg::btnSectionDeleteClick() {
   bbar->DelSection();
-  SectionOrPageChanged();
+  SectionChanged();
 }
 // Letters of its own are seen without those of the bar.
 void TVRXButtonBarEditorDlg::btnSectionFontClick() {
@@ -307,7 +314,10 @@ void TVRXButtonBarEditorDlg::chkParentFontClick() {
 }
 void TVRXButtonBarEditorDlg::btnAddItemClick() {
   bbar->AddItem();
-  if (bbar->Current()) item_ = bbar->Get(B::ItemIndex);
+  if (bbar->Current()) {
+    item_ = bbar->Get(B::ItemIndex);
+    chosen_ = true;
+  }
   RefreshItem();
 }
 

@@ -65,6 +65,7 @@ class TVRXButtonBarEditorDlg : public RowDialog {
   void WithSection(F&& action) {
     if (TVRXBarSection* section = bbar->Current()) action(*section);
   }
+  void SectionChanged();
   void SectionOrPageChanged();
   void LoadGlyph(bool ofSmall);
   void ChooseList(bool ofSmall);
@@ -74,4 +75,5 @@ class TVRXButtonBarEditorDlg : public RowDialog {
   TCustomImageList* ListOf(bool ofSmall) const;
   IDesigner* designer_ = nullptr;
   int item_ = 0;
+  bool chosen_ = false;  // the selection is the person's
 };

@@ -11,6 +11,7 @@
 #include "library_design/pVRXCommon.h"
 #include "package/dialogs/LinesTable.h"
 #include "rtl/Registry.h"
+#include "vcl/TabOrder.h"
 
 using D = TVRXDlgBtnEditorDlg;
 
@@ -101,9 +102,12 @@ QWidget* TVRXDlgBtnEditorDlg::BuildOrderPage() {
   lines_ = new QStandardItemModel(this);
   lines_->setHorizontalHeaderLabels({QStringLiteral("Name"), QStringLiteral("Caption")});
   lb = new LinesTable(lines_, "lb", page);
-  lb->setToolTip(QStringLiteral("The buttons of the panel, in their order"));
+  lb->setToolTip(QStringLiteral("The buttons of the panel, in their order; dragging changes it"));
   lb->setAccessibleName(QStringLiteral("Buttons"));
   lb->setColumnWidth(0, 160);
+  new RowDrag(*lb, [this](const RowDrag::Target& target) {
+    if (const int row = lb->CurrentRow(); row >= 0) MoveLine(MovesTo({row}, target.Row(lines_->rowCount())));
+  });
   Follows(lb);
   const auto button = [&](const char* name, Qt::ArrowType arrow, const char* hint, void (D::*handler)()) {
     auto* made = Named(new QToolButton(page), name, hint);
@@ -146,8 +150,12 @@ void TVRXDlgBtnEditorDlg::GetIniSettings() {
   const auto read = [&](const char* name, int otherwise) {
     return settings.ReadInteger(Section, QString::fromLatin1(name), otherwise);
   };
-  ext1->Show(read("Width", 75));
-  ext2->Show(read("Height", 25));
+  // A size that could not be typed here is none to make buttons with.
+  const auto size = [&](SpinEdit& edit, const char* name, int otherwise) {
+    edit.Show(std::clamp(read(name, otherwise), edit.minimum(), edit.maximum()));
+  };
+  size(*ext1, "Width", 75);
+  size(*ext2, "Height", 25);
   mask_ = static_cast<std::uint16_t>(read("CheckGroup", 0));
   ShowMask();
   chkr->setChecked(read("RemoveButtons", 0) != 0);
@@ -214,23 +222,32 @@ void TVRXDlgBtnEditorDlg::lbClick() {
   up->setEnabled(row > 0);
 }
 
-void TVRXDlgBtnEditorDlg::MoveLine(int by) {
-  const int from = lb->CurrentRow(), to = from + by;
-  if (from < 0 || to < 0 || to >= lines_->rowCount()) return;
-  std::swap(order_[static_cast<std::size_t>(from)], order_[static_cast<std::size_t>(to)]);
-  lines_->insertRow(to, lines_->takeRow(from));
-  lb->Select(to);
+void TVRXDlgBtnEditorDlg::MoveLine(const RowMoves& moves) {
+  for (const auto& [from, to] : moves) {
+    TButton* const button = order_[static_cast<std::size_t>(from)];
+    order_.erase(order_.begin() + from);
+    order_.insert(order_.begin() + to, button);
+    lines_->insertRow(to, lines_->takeRow(from));
+    lb->Select(to);
+  }
   lbClick();
 }
-void TVRXDlgBtnEditorDlg::upClick() { MoveLine(-1); }
-void TVRXDlgBtnEditorDlg::DownClick() { MoveLine(1); }
+void TVRXDlgBtnEditorDlg::MoveLineBy(int by) {
+  if (const int row = lb->CurrentRow(); row >= 0) MoveLine(MovesBy({row}, by, lines_->rowCount()));
+}
+void TVRXDlgBtnEditorDlg::upClick() { MoveLineBy(-1); }
+void TVRXDlgBtnEditorDlg::DownClick() { MoveLineBy(1); }
 
 void TVRXDlgBtnEditorDlg::Execute() {
   if (pages->currentIndex() == 1) {
     if (order_ == panel_->Buttons()) return;
     const TUpdateLock lock(*panel_);
+    const LayoutChange once(panel_);
     for (TButton* button : order_) button->SetParent(nullptr);
-    for (TButton* button : order_) button->SetParent(panel_);
+    for (TButton* button : order_) {
+      button->SetParent(panel_);
+      if (button->TabOrder() >= 0) GiveLastTabOrder(*button);
+    }
   } else if (rb1->isChecked()) {
     InsertButtons(mask_, false);
   } else if (list2->currentRow() >= 0) {

@@ -5,6 +5,7 @@
 #include <array>
 
 #include "dclstd/RowDialog.h"
+#include "dclstd/RowDrag.h"
 #include "package/dialogs/DialogButtons.h"
 
 class LinesTable;
@@ -54,7 +55,8 @@ class TVRXDlgBtnEditorDlg : public RowDialog {
  private:
   QWidget* BuildButtonsPage();
   QWidget* BuildOrderPage();
-  void MoveLine(int by);
+  void MoveLine(const RowMoves& moves);
+  void MoveLineBy(int by);
   void ShowMask();
   TVRXDlgButtonPanel* panel_ = nullptr;
   IDesigner* designer_ = nullptr;

@@ -45,6 +45,12 @@ class PagesInTheDesigner : public DesignerTest {
       }
     ADD_FAILURE() << "no verb " << verb;
   }
+  void Open(const QByteArray& form) {
+    const QString file = folder_.filePath(QStringLiteral("other.dfm"));
+    Write(file, form);
+    ASSERT_TRUE(window_->OpenForm(file));
+    QCoreApplication::processEvents();
+  }
   template <class C>
   C& Drop(QPoint at) {
     Surface().SetTool(&C::StaticClass());
@@ -162,6 +168,123 @@ TEST_F(PagesInTheDesigner, PanelsOfAGroupFoldMoveAndComeBack) {
   EXPECT_EQ(Session().Bytes().toStdString(), open.toStdString());
   Run("VRXCaptionPanel2", "Select all Panels");
   EXPECT_EQ(Selected(), "VRXCaptionPanel1+VRXCaptionPanel2+VRXCaptionPanel3");
+}
+
+TEST_F(PagesInTheDesigner, PanelsThatStandFlushChangePlacesAndTurns) {
+  auto& made =
+      *Session().CreateComponent(TVRXCaptionPanelGroup::StaticClass(), nullptr, QRect(16, 16, 200, 300));
+  const std::string name = made.Name().toStdString();
+  for (int i = 0; i < 3; ++i) Run(name.c_str(), "Add Panel");
+  const char* names[] = {"VRXCaptionPanel1", "VRXCaptionPanel2", "VRXCaptionPanel3"};
+  const int heights[] = {80, 60, 90};
+  Session().Run(QStringLiteral("flush"), {}, [&] {
+    for (int i = 0; i < 3; ++i) As<TVRXCaptionPanel>(names[i]).SetHeight(heights[i]);
+    As<TVRXCaptionPanelGroup>(name.c_str()).Set(TVRXCaptionPanelGroup::ScrollPos, 0);
+  });
+  QByteArray flush = Session().Bytes();
+  flush.replace("Top = 4\n", "Top = 0\n")
+      .replace("Top = 88\n", "Top = 80\n")
+      .replace("Top = 152\n", "Top = 140\n");
+  Open(flush);
+  ASSERT_EQ(Bounds(names[2]).top(), 140);
+  const auto places = [&] {
+    QStringList all;
+    for (const char* n : names)
+      all << QStringLiteral("%1 %2").arg(Bounds(n).top()).arg(As<TVRXCaptionPanel>(n).TabOrder());
+    return all.join(u'|').toStdString();
+  };
+  EXPECT_EQ(places(), "0 0|80 1|140 2");
+  Run(names[0], "Move Down");
+  EXPECT_EQ(places(), "60 1|0 0|140 2");
+  Run(names[2], "Move Up");
+  EXPECT_EQ(places(), "150 2|0 0|60 1");
+  Session().Undo();
+  Session().Undo();
+  EXPECT_EQ(Session().Bytes().toStdString(), flush.toStdString());
+  Session().DeleteComponents({&Get(names[0])});
+  EXPECT_EQ(Bounds(names[1]).top(), 0) << "nobody leaves the group";
+  EXPECT_EQ(Bounds(names[2]).top(), 60);
+}
+
+TEST_F(PagesInTheDesigner, CopiesOfPanelsFollowEachOther) {
+  for (const auto& [count, height] : {std::pair(2, 280), std::pair(3, 280), std::pair(2, 150)}) {
+    auto& made =
+        *Session().CreateComponent(TVRXCaptionPanelGroup::StaticClass(), nullptr, QRect(16, 16, 200, height));
+    auto& group = dynamic_cast<TVRXCaptionPanelGroup&>(made);
+    const std::string name = made.Name().toStdString();
+    for (int i = 0; i < 3; ++i) Run(name.c_str(), "Add Panel");
+    std::vector<TVRXCaptionPanel*> panels = group.PanelList();
+    Session().Run(QStringLiteral("sizes"), {}, [&] {
+      for (TVRXCaptionPanel* panel : panels) panel->SetHeight(80);
+      group.Set(TVRXCaptionPanelGroup::ScrollPos, 0);
+    });
+    ASSERT_EQ(panels[2]->Top(), 172);
+    const QByteArray before = Session().Bytes();
+    Session().Select(std::vector<TComponent*>(panels.begin(), panels.begin() + count));
+    Action("duplicate").trigger();
+    panels = group.PanelList();
+    ASSERT_EQ(static_cast<int>(panels.size()), 3 + count);
+    for (int i = 0; i < 3 + count; ++i)
+      EXPECT_EQ(panels[static_cast<std::size_t>(i)]->Top(), 4 + 84 * i) << i;
+    Session().Undo();
+    EXPECT_EQ(Session().Bytes().toStdString(), before.toStdString());
+  }
+}
+
+TEST_F(PagesInTheDesigner, ADoubleClickIsCalledAsTheVerbThatItRuns) {
+  auto& made = *Session().CreateComponent(TVRXAssist::StaticClass(), nullptr, QRect(16, 16, 400, 250));
+  Session().Edit(made);
+  EXPECT_EQ(Session().UndoText(), QStringLiteral("New Page"));
+}
+
+TEST_F(PagesInTheDesigner, ArrowsBesideTabsScrollAndChangeNothing) {
+  auto& made = *Session().CreateComponent(TVRXNoteBook::StaticClass(), nullptr, QRect(16, 16, 220, 150));
+  const std::string name = made.Name().toStdString();
+  for (int i = 0; i < 5; ++i) Run(name.c_str(), "&New Page");
+  auto& book = As<TVRXNoteBook>(name.c_str());
+  Run(name.c_str(), "Display Page VRXNoteBookPage1");
+  Session().Select({&book});
+  const QByteArray before = Session().Bytes();
+  const QString undo = Session().UndoText();
+  const QPoint corner = Surface().WidgetRect(book).topLeft();
+  const QPoint forth = corner + QPoint(book.Width() - 8, 10), back = forth - QPoint(18, 0);
+  const int from = book.TabRects()[0].left(), to = book.TabRects()[4].left();
+  ASSERT_EQ(from, 2);
+  for (int i = 0; i < 2; ++i) {
+    Click(forth);
+    QTest::mouseDClick(&Surface(), Qt::LeftButton, {}, forth);
+  }
+  EXPECT_LT(book.TabRects()[4].left(), to);
+  EXPECT_LE(book.TabRects()[4].right(), book.Width() - 36) << "the last one can be read";
+  EXPECT_EQ(Session().Bytes().toStdString(), before.toStdString());
+  EXPECT_EQ(Session().UndoText(), undo);
+  EXPECT_EQ(book.FrontPage(), &Get("VRXNoteBookPage1"));
+  Click(Tab(book, 4));
+  EXPECT_EQ(book.ActivePage(), &Get("VRXNoteBookPage5"));
+  for (int i = 0; i < 6; ++i) Click(back);
+  EXPECT_EQ(book.TabRects()[0].left(), from);
+  EXPECT_EQ(book.ActivePage(), &Get("VRXNoteBookPage5"));
+}
+
+TEST_F(PagesInTheDesigner, WhatHasNoPagesSaysHowToGetOne) {
+  for (const TClass* cls : {&TVRXAssist::StaticClass(), &TVRXNoteBook::StaticClass()}) {
+    auto& made = dynamic_cast<TControl&>(*Session().CreateComponent(*cls, nullptr, QRect(16, 16, 400, 250)));
+    const auto picture = [&] {
+      QImage image(made.Width(), made.Height(), QImage::Format_RGB32);
+      QPainter painter(&image);
+      PaintControl(made, painter);
+      return image;
+    };
+    const QImage designed = picture();
+    made.SetDesigning(false);
+    EXPECT_NE(designed, picture()) << "when the program runs it is just empty";
+    made.SetDesigning(true);
+    Run(made.Name().toLatin1().constData(), "&New Page");
+    const QImage filled = picture();
+    made.SetDesigning(false);
+    EXPECT_EQ(filled, picture());
+    made.SetDesigning(true);
+  }
 }
 
 TEST_F(PagesInTheDesigner, AHeadersButtonComesToItsPlaceAndGoesAgain) {

@@ -35,7 +35,7 @@ TEST(Assist, ItsPagesFillWhatStepsHeaderAndButtonsLeave) {
   EXPECT_EQ(assist.FrontPage(), &one);
   const QRect area = assist.DisplayRect();
   EXPECT_EQ(Of(one), area);
-  EXPECT_EQ(area.left(), 120);
+  EXPECT_EQ(area.left(), 136);
   EXPECT_EQ(area.right(), assist.Width() - 1);
   EXPECT_GT(area.top(), 30);
   EXPECT_EQ(area.bottom() + 1, assist.Height() - 49);
@@ -51,6 +51,17 @@ TEST(Assist, ItsPagesFillWhatStepsHeaderAndButtonsLeave) {
   EXPECT_EQ(assist.Pages().size(), 1u);
   one.SetAssistControl(&assist);
   EXPECT_EQ(assist.Pages()[1], &one) << "it comes last";
+}
+
+TEST(Assist, TheUsualTitleOfAPageIsReadWhole) {
+  Stage s;
+  auto& assist = s.Put<TVRXAssist>(s.form, "VRXAssist1");
+  s.Put<TVRXAssistPage>(assist, "VRXAssistPage1").SetCaption(QStringLiteral("VRXAssistPage1"));
+  TFont bold;
+  bold.Assign(assist.Font());
+  bold.SetStyle({TFontStyle::fsBold});
+  EXPECT_LE(QFontMetrics(ToQFont(bold)).horizontalAdvance(QStringLiteral("VRXAssistPage1")),
+            assist.TabRects()[0].width() - 16);
 }
 
 TEST(Assist, ItsStepsLeadToTheirPages) {
@@ -244,6 +255,51 @@ TEST(HeaderPanel, ButtonsStandInItsHeaderAndTheRestBelow) {
   panel.Set(TVRXHeaderPanel::HeaderHeight, 40);
   EXPECT_EQ(Of(first), QRect(209, 11, 18, 18));
   EXPECT_EQ(Of(filling), QRect(0, 40, 230, 80));
+}
+
+// Whatever the scale of the screen is, no side of a frame is lost between two pixels.
+TEST(FramesOfOnePixel, HaveAllFourSidesAtEveryScale) {
+  Stage s;
+  auto& book = s.Put<TVRXNoteBook>(s.form, "Book");
+  book.SetBounds(16, 16, 289, 100);
+  s.Put<TVRXNoteBookPage>(book, "Page").SetCaption(QStringLiteral("Page"));
+  auto& header = s.Put<TVRXHeaderPanel>(s.form, "Header");
+  header.SetBounds(16, 150, 200, 121);
+  for (TControl* c : {static_cast<TControl*>(&book), static_cast<TControl*>(&header)}) c->SetDesigning(true);
+  const QPoint origin = s.form.ClientRect().topLeft();
+  const QRect pane = book.DisplayRect().adjusted(-4, -4, 4, 4).translated(origin + QPoint(16, 16));
+  const QRect dashes = header.BoundsRect().translated(origin).adjusted(0, 30, 0, 0);
+  for (const double scale : {1.0, 1.25, 1.302, 1.5, 1.7, 2.0}) {
+    QImage image((QSizeF(640, 480) * scale).toSize(), QImage::Format_RGB32);
+    image.fill(Qt::white);
+    {
+      QPainter painter(&image);
+      painter.scale(scale, scale);
+      PaintControl(s.form, painter);
+    }
+    const auto at = [&](double v) { return static_cast<int>(v * scale); };
+    // Of so many places along the edge, in how many a line is seen that is no thicker than it should be.
+    const auto seen = [&](const QRect& r, bool across, bool end) {
+      const QRgb ground = image.pixel(at(r.center().x()), at(r.center().y()));
+      int count = 0;
+      for (int k = 0; k < 30; ++k) {
+        const double along = 0.5 + k / 75.0;
+        const int edge = at(across ? (end ? r.top() + r.height() - 1 : r.top())
+                                   : (end ? r.left() + r.width() - 1 : r.left()));
+        bool line = false;
+        for (int d = 0; d <= static_cast<int>(scale); ++d)
+          line |= ground != (across ? image.pixel(at(r.left() + along * r.width()), edge + d)
+                                    : image.pixel(edge + d, at(r.top() + along * r.height())));
+        count += line;
+      }
+      return count;
+    };
+    for (const bool across : {true, false})
+      for (const bool end : {true, false}) {
+        EXPECT_EQ(seen(pane, across, end), 30) << scale << across << end;
+        EXPECT_GT(across && !end ? 30 : seen(dashes, across, end), 12) << scale << across << end;
+      }
+  }
 }
 
 namespace {

@@ -349,6 +349,158 @@ TEST_F(ButtonBars, TheTextsAreThoseOfTheEditor) {
     EXPECT_TRUE(labels.contains(QString::fromLatin1(text))) << text;
 }
 
+TEST_F(ButtonBars, TheSelectedItemIsTheOneThatWasChosen) {
+  session->Run(QStringLiteral("select"), {&Bar()}, [&] { Bar().Set(B::ItemIndex, 1); });
+  const QByteArray selected = session->Bytes();
+  RunVerb(0, [&](TVRXButtonBarEditorDlg& dialog) {
+    dialog.pages->setCurrentIndex(1);
+    dialog.accept();
+  });
+  EXPECT_EQ(session->Bytes(), selected) << "nobody chose another one";
+  RunVerb(0, [&](TVRXButtonBarEditorDlg& dialog) {
+    Click(dialog, dialog.bbar->ItemRect(0).center());
+    dialog.accept();
+  });
+  EXPECT_EQ(Bar().Get(B::ItemIndex), 0);
+  session->Undo();
+  RunVerb(0, [&](TVRXButtonBarEditorDlg& dialog) {
+    Click(dialog, dialog.bbar->SectionRect(1).center());
+    dialog.accept();
+  });
+  EXPECT_EQ(Bar().CurrentIndex(), 1);
+  EXPECT_EQ(Bar().Get(B::ItemIndex), -1) << "the open section has none";
+  session->Undo();
+  RunVerb(0, [&](TVRXButtonBarEditorDlg& dialog) {
+    dialog.view->setFocus();
+    for (int i = 0; i < 2; ++i) QTest::keyClick(dialog.view, Qt::Key_Delete);
+    EXPECT_TRUE(dialog.isVisible());
+    EXPECT_EQ(dialog.bbar->Current()->ItemCount(), 0);
+    QTest::keyClick(dialog.view, Qt::Key_Delete);
+    EXPECT_EQ(dialog.bbar->SectionCount(), 2) << "Delete is for items";
+    EXPECT_FALSE(dialog.lgbtn->isEnabled());
+    dialog.accept();
+  });
+  EXPECT_EQ(Bar().Get(B::ItemIndex), -1);
+}
+
+TEST_F(ButtonBars, TheKeyDeletesTheSelectedItemAndTheNextOneIsSelected) {
+  RunVerb(0, [&](TVRXButtonBarEditorDlg& dialog) {
+    dialog.btnAddItem->click();
+    Click(dialog, dialog.bbar->ItemRect(1).center());
+    QTest::keyClick(dialog.view, Qt::Key_Delete);
+    ASSERT_EQ(dialog.bbar->Current()->ItemCount(), 2);
+    EXPECT_EQ(dialog.ClickedItem(), 1);
+    EXPECT_EQ(dialog.bbar->Current()->Items()->At(1).Get(TVRXBarItem::Caption), QStringLiteral("Item 2"));
+    dialog.menu->Set(TVRXButtonBarPopupMenu::Commands, {});
+    QTest::keyClick(dialog.view, Qt::Key_Delete);
+    EXPECT_EQ(dialog.bbar->Current()->ItemCount(), 2) << "the menu does not offer it";
+    dialog.reject();
+  });
+}
+
+TEST_F(ButtonBars, TheListIndexIsThatOfTheOpenSection) {
+  session->Run(QStringLiteral("index"), {&Bar()}, [&] {
+    Bar().Sections()->At(0).Set(TVRXBarSection::ListIndex, 4);
+    Bar().Set(B::SmallImageList, &Pictures());
+  });
+  const QByteArray before = session->Bytes();
+  RunVerb(0, [&](TVRXButtonBarEditorDlg& dialog) {
+    EXPECT_EQ(dialog.edImg->Shown(), 4);
+    Click(dialog, dialog.bbar->SectionRect(1).center());
+    EXPECT_EQ(dialog.edImg->Shown(), 1) << "of a section without items";
+    EXPECT_EQ(dialog.smalllbx->currentRow(), 1);
+    dialog.btnSectionAdd->click();
+    EXPECT_EQ(dialog.edImg->Shown(), -1);
+    dialog.btnAddItem->click();
+    EXPECT_EQ(dialog.edImg->Shown(), -1);
+    EXPECT_EQ(dialog.bbar->Current()->Get(TVRXBarSection::ListIndex), -1);
+    dialog.reject();
+  });
+  EXPECT_EQ(session->Bytes(), before);
+}
+
+TEST_F(ButtonBars, WhatIsSelectedWhenTheEditorOpensHasItsPictureSelected) {
+  session->Run(QStringLiteral("pictures"), {&Bar()}, [&] {
+    Bar().Set(B::SmallImageList, &Pictures());
+    Bar().Set(B::LargeImageList, &Pictures());
+    Bar().Sections()->At(0).Items()->At(0).Set(TVRXBarItem::ImageIndex, 12);
+  });
+  RunVerb(0, [&](TVRXButtonBarEditorDlg& dialog) {
+    EXPECT_EQ(dialog.bbar->Get(B::ItemIndex), 0);
+    EXPECT_EQ(dialog.smalllbx->currentRow(), 12);
+    EXPECT_EQ(dialog.largelbx->currentRow(), 12);
+    dialog.reject();
+  });
+}
+
+TEST_F(ButtonBars, TheOrderIsChangedByDraggingAndWithTheKeys) {
+  RunVerb(0, [&](TVRXButtonBarEditorDlg& dialog) {
+    B& bar = *dialog.bbar;
+    dialog.btnAddItem->click();
+    const auto items = [&] {
+      QStringList names;
+      for (int i = 0; i < bar.Current()->ItemCount(); ++i)
+        names << bar.Current()->Items()->At(i).Get(TVRXBarItem::Caption);
+      return names.join(u'|').toStdString();
+    };
+    const auto drag = [&](QPoint from, QPoint to, bool escape = false) {
+      QTest::mousePress(dialog.view, Qt::LeftButton, {}, from);
+      for (const QPoint at : {from + QPoint(0, 2), to}) {
+        QMouseEvent move(QEvent::MouseMove, at, dialog.view->mapToGlobal(at), Qt::NoButton, Qt::LeftButton,
+                         {});
+        QCoreApplication::sendEvent(dialog.view, &move);
+      }
+      if (escape) QTest::keyClick(dialog.view, Qt::Key_Escape);
+      QTest::mouseRelease(dialog.view, Qt::LeftButton, {}, to);
+    };
+    const auto low = [](const QRect& r) { return QPoint(r.center().x(), r.bottom() - 2); };
+    drag(bar.ItemRect(0).center(), low(bar.ItemRect(1)), true);
+    EXPECT_TRUE(dialog.isVisible()) << "Escape ends what is dragged";
+    EXPECT_EQ(items(), "In|Out|Item 2");
+    drag(bar.ItemRect(0).center(), low(bar.ItemRect(1)));
+    EXPECT_EQ(items(), "Out|In|Item 2");
+    EXPECT_EQ(bar.Get(B::ItemIndex), 1) << "what is moved stays selected";
+    EXPECT_EQ(dialog.ClickedItem(), 1);
+    drag(bar.ItemRect(1).center(), bar.ItemRect(0).topLeft() + QPoint(20, 2));
+    EXPECT_EQ(items(), "In|Out|Item 2");
+    drag(bar.ItemRect(0).center(), bar.ItemRect(0).center() + QPoint(0, 2));
+    EXPECT_EQ(items(), "In|Out|Item 2") << "a trembling click";
+    QTest::keyClick(dialog.view, Qt::Key_Up, Qt::ControlModifier);
+    QTest::keyClick(dialog.view, Qt::Key_Down, Qt::ControlModifier);
+    QTest::keyClick(dialog.view, Qt::Key_Down, Qt::ControlModifier);
+    QTest::keyClick(dialog.view, Qt::Key_Down, Qt::ControlModifier);
+    EXPECT_EQ(items(), "Out|Item 2|In");
+    EXPECT_EQ(dialog.ClickedItem(), 2);
+    // Headings among headings; the section that was pressed is open.
+    drag(bar.SectionRect(1).center(), bar.SectionRect(0).topLeft() + QPoint(20, 2));
+    EXPECT_EQ(CaptionOf(bar, 0), QStringLiteral("Notes"));
+    EXPECT_EQ(bar.CurrentIndex(), 0);
+    QTest::keyClick(dialog.view, Qt::Key_Down, Qt::ControlModifier);
+    EXPECT_EQ(CaptionOf(bar, 1), QStringLiteral("Notes")) << "without an item it is the section";
+    EXPECT_EQ(bar.CurrentIndex(), 1);
+    QTest::keyClick(dialog.view, Qt::Key_PageUp, Qt::ControlModifier);
+    EXPECT_EQ(CaptionOf(bar, 0), QStringLiteral("Notes"));
+    dialog.accept();
+  });
+  EXPECT_EQ(CaptionOf(Bar(), 1), QStringLiteral("Mail"));
+  session->Undo();
+  EXPECT_EQ(session->Bytes(), bytes);
+}
+
+TEST_F(ButtonBars, VerbsThatLeadNowhereSayWhy) {
+  const auto problems = [&] {
+    const auto editor = registry.GetComponentEditor(&Bar(), session.get());
+    QString told;
+    for (const int i : {6, 7, 8, 10}) told += editor->GetVerbProblem(i).isEmpty() ? u'+' : u'-';
+    return told.toStdString();
+  };
+  EXPECT_EQ(problems(), "++-+");
+  RunVerb(7);
+  EXPECT_EQ(problems(), "+-++");
+  session->Run(QStringLiteral("empty"), {}, [&] { Bar().Sections()->Clear(); });
+  EXPECT_EQ(problems(), "+---");
+}
+
 TEST_F(ButtonBars, SectionsHaveTheirWindow) {
   for (const bool doubleClick : {true, false}) {
     if (doubleClick)

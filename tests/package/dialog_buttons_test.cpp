@@ -8,6 +8,7 @@
 #include "package/dialogs/pVRXDlgBtnEditorDlg.h"
 #include "rtl/Registry.h"
 #include "tests/package/ListEditorTest.h"
+#include "vcl/CheckBox.h"
 
 namespace {
 TRegIniFile Settings() { return TRegIniFile(QStringLiteral("SOFTWARE\\Orlenvo\\Orlenvo-Kit 2025")); }
@@ -37,6 +38,13 @@ class DialogButtons : public ListEditors {
     modal::NextOf<TVRXDlgBtnEditorDlg>([&](TVRXDlgBtnEditorDlg& dialog) { act(dialog); });
     const auto editor = registry.GetComponentEditor(&Panel(), session.get());
     session->Run(QStringLiteral("a verb"), {&Panel()}, [&] { editor->ExecuteVerb(index); });
+  }
+  // "btnOK1 3|btnNo1 4"
+  std::string Turns() {
+    QStringList turns;
+    for (const TButton* button : Panel().Buttons())
+      turns << QStringLiteral("%1 %2").arg(button->Name()).arg(button->TabOrder());
+    return turns.join(u'|').toStdString();
   }
   // "btnOK1 OK 1 default"
   static QJsonArray Describe(const TButton& button, int index, const QString& part) {
@@ -246,10 +254,13 @@ TEST_F(DialogButtons, SettingsAreKeptWhenConfirmedOnly) {
   EXPECT_EQ(read("Checked"), 1);
   // A mask may hold what the dialog has no item for.
   Settings().WriteInteger(Section, QStringLiteral("CheckGroup"), 2049);
-  Settings().WriteInteger(Section, QStringLiteral("Width"), 750);
+  Settings().WriteInteger(Section, QStringLiteral("Width"), 9999);
+  Settings().WriteInteger(Section, QStringLiteral("Height"), -5);
   RunVerb(0, [&](TVRXDlgBtnEditorDlg& dialog) {
     EXPECT_TRUE(dialog.items[0]->isChecked());
-    EXPECT_EQ(dialog.ext1->text(), QStringLiteral("750"));
+    EXPECT_EQ(dialog.ext1->text(), QStringLiteral("500")) << "what could not be typed is cut";
+    EXPECT_EQ(dialog.ext2->text(), QStringLiteral("0"));
+    dialog.ext2->setValue(31);
     dialog.items[3]->click();
     EXPECT_EQ(dialog.Mask(), 2057);
     dialog.rb1->setChecked(true);
@@ -257,7 +268,8 @@ TEST_F(DialogButtons, SettingsAreKeptWhenConfirmedOnly) {
   });
   EXPECT_EQ(Names(), "btnYes1 btnCancel1 btnClose1");
   EXPECT_EQ(read("CheckGroup"), 2057);
-  EXPECT_EQ(read("Width"), 750) << "what nobody touched stays";
+  EXPECT_EQ(read("Width"), 500);
+  EXPECT_EQ(Panel().Buttons()[0]->BoundsRect().size(), QSize(500, 31));
 }
 
 TEST_F(DialogButtons, ChangeTheirOrderAsOneStep) {
@@ -295,6 +307,76 @@ TEST_F(DialogButtons, ChangeTheirOrderAsOneStep) {
   RunVerb(1, [&](TVRXDlgBtnEditorDlg& dialog) { dialog.accept(); });
   EXPECT_EQ(session->Bytes(), before);
   EXPECT_EQ(session->UndoText(), command) << "an order that nobody changed is no step";
+}
+
+TEST_F(DialogButtons, TakeTheirTurnBehindTheTabStopsThatAreThere) {
+  auto* check =
+      As<TCheckBox>(session->CreateComponent(TCheckBox::StaticClass(), panel, QRect(400, 8, 90, 19)));
+  session->Run(QStringLiteral("turn"), {check}, [&] { check->SetTabOrder(4); });
+  RunVerb(0, [&](TVRXDlgBtnEditorDlg& dialog) {
+    for (const std::size_t i : {0, 1, 3}) dialog.items[i]->click();
+    dialog.accept();
+  });
+  EXPECT_EQ(Turns(), "btnYes1 5|btnNo1 6|btnCancel1 7");
+  EXPECT_TRUE(session->Bytes().contains("TabOrder = 7"));
+  RunVerb(1, [&](TVRXDlgBtnEditorDlg& dialog) {
+    dialog.lb->Select(2);
+    dialog.up->click();
+    dialog.up->click();
+    dialog.accept();
+  });
+  EXPECT_EQ(Turns(), "btnCancel1 5|btnYes1 6|btnNo1 7");
+  session->Undo();
+  EXPECT_EQ(Turns(), "btnYes1 5|btnNo1 6|btnCancel1 7");
+}
+
+TEST_F(DialogButtons, RowsOfTheOrderAreDraggedToo) {
+  RunVerb(0, [&](TVRXDlgBtnEditorDlg& dialog) {
+    for (const std::size_t i : {0, 1, 3}) dialog.items[i]->click();
+    dialog.accept();
+  });
+  RunVerb(1, [&](TVRXDlgBtnEditorDlg& dialog) {
+    const auto rect = [&](int row) { return dialog.lb->visualRect(dialog.lb->model()->index(row, 0)); };
+    QWidget* view = dialog.lb->viewport();
+    QTest::mousePress(view, Qt::LeftButton, {}, rect(0).center());
+    for (const int dy : {4, 40, 0}) {
+      const QPoint at = QPoint(rect(2).center().x(), rect(2).bottom() - 2 - dy);
+      QMouseEvent move(QEvent::MouseMove, at, view->mapToGlobal(at), Qt::NoButton, Qt::LeftButton, {});
+      QCoreApplication::sendEvent(view, &move);
+    }
+    QTest::mouseRelease(view, Qt::LeftButton, {}, QPoint(rect(2).center().x(), rect(2).bottom() - 2));
+    EXPECT_EQ(dialog.lb->CurrentRow(), 2);
+    EXPECT_FALSE(dialog.Down->isEnabled());
+    dialog.accept();
+  });
+  EXPECT_EQ(Names(), "btnNo1 btnCancel1 btnYes1");
+}
+
+TEST_F(DialogButtons, ThatStandCloseTogetherChangePlacesWithinThePanel) {
+  RunVerb(0, [&](TVRXDlgBtnEditorDlg& dialog) {
+    for (const std::size_t i : {0, 1}) dialog.items[i]->click();
+    dialog.accept();
+  });
+  session = FormSession::FromBytes(
+      session->Bytes().replace("Left = 8", "Left = 0").replace("Left = 91", "Left = 75"), {}, registry);
+  ASSERT_EQ(Panel().Buttons()[1]->Left(), 75);
+  RunVerb(1, [&](TVRXDlgBtnEditorDlg& dialog) {
+    dialog.Down->click();
+    dialog.accept();
+  });
+  EXPECT_EQ(Names(), "btnNo1 btnYes1");
+  EXPECT_EQ(Panel().Buttons()[0]->Left(), 0);
+  EXPECT_EQ(Panel().Buttons()[1]->Left(), 75);
+}
+
+TEST_F(DialogButtons, ADoubleClickOnThePanelIsCalledAsItsVerb) {
+  modal::NextOf<TVRXDlgBtnEditorDlg>([](TVRXDlgBtnEditorDlg& dialog) {
+    dialog.items[2]->click();
+    dialog.accept();
+  });
+  session->Edit(Panel());
+  EXPECT_EQ(Names(), "btnOK1");
+  EXPECT_EQ(session->UndoText(), QStringLiteral("Add Buttons..."));
 }
 
 TEST_F(DialogButtons, OfAnEmptyPanelHaveNoOrder) {
