@@ -192,8 +192,17 @@ void TVRXControlFaceEditorDlg::Renamed(QTreeWidgetItem* item) {
   if (taken || name.isEmpty()) {
     const QScopedValueRollback quiet(refreshing_, true);
     item->setText(0, before);
+    // Not before the field is closed, which would hear of the message's window: whoever clicked a button has
+    // not confirmed then, and goes on with the row.
     if (taken)
-      Prompts().Inform(this, windowTitle(), QStringLiteral("This name exists in object list already!"));
+      QMetaObject::invokeMethod(
+          this,
+          [this, index] {
+            Prompts().Inform(this, windowTitle(), QStringLiteral("This name exists in object list already!"));
+            controllerObjectsList->setCurrentItem(controllerObjectsList->topLevelItem(index));
+            controllerObjectsList->setFocus();
+          },
+          Qt::QueuedConnection);
     return;
   }
   settings.SetObjName(index, name);
