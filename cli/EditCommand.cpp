@@ -11,7 +11,7 @@
 #include "rtl/Exceptions.h"
 
 namespace {
-// Which window an editor opens, and how it is closed. Messages are not meant.
+// Which window an editor opens, and how it is closed. Messages are no editors; what they say is said.
 class WindowWatch : public QObject {
  public:
   WindowWatch() { qApp->installEventFilter(this); }
@@ -24,12 +24,14 @@ class WindowWatch : public QObject {
     loop.exec();
   }
   bool Came() const { return came_; }
+  bool Told() const { return told_; }
   // A window without OK and Cancel has done what it did.
   bool Confirmed() const { return !cancelled_; }
 
  private:
   bool eventFilter(QObject* object, QEvent* event) override {
     auto* window = qobject_cast<QWidget*>(object);
+    told_ |= event->type() == QEvent::Show && qobject_cast<QMessageBox*>(object);
     if (event->type() == QEvent::Show && !came_ && IsEditor(window)) {
       came_ = true;
       window_ = window;
@@ -47,7 +49,7 @@ class WindowWatch : public QObject {
 
   QPointer<QWidget> window_;
   QEventLoop* wait_ = nullptr;
-  bool came_ = false, cancelled_ = false;
+  bool came_ = false, cancelled_ = false, told_ = false;
 };
 }  // namespace
 
@@ -82,6 +84,7 @@ int EditCommand(const QStringList& list, Console& console) {
   if (const QString problem = inspector.RunDialog(row); !problem.isEmpty())
     throw Exception(QStringLiteral("%1: %2").arg(full, problem));
   watch.WaitUntilClosed();
+  if (!watch.Came() && watch.Told()) return ExitFindings;
   if (!watch.Came()) throw Exception(QStringLiteral("The editor of %1 opened nothing").arg(full));
   if (!watch.Confirmed()) return ExitCancelled;
   if (args.Has(QStringLiteral("-o")) || session->Bytes() != before)

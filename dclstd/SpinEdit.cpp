@@ -49,9 +49,31 @@ QString SpinEdit::textFromValue(int value) const {
   return outside_ && value == this->value() ? QString::number(*outside_) : QSpinBox::textFromValue(value);
 }
 
+namespace {
+std::optional<qlonglong> NumberIn(const QString& text) {
+  bool is = false;
+  const qlonglong number = text.toLongLong(&is);
+  return is ? std::optional(number) : std::nullopt;
+}
+}  // namespace
+
+// A spin box of its own refuses the digit with which a number would get too large, and keeps those before it.
+QValidator::State SpinEdit::validate(QString& text, int& place) const {
+  const QValidator::State state = QSpinBox::validate(text, place);
+  const std::optional<qlonglong> number = NumberIn(text);
+  const bool outside = number && (*number >= 0 || minimum() < 0);
+  return state == QValidator::Invalid && outside ? QValidator::Intermediate : state;
+}
+
+void SpinEdit::fixup(QString& text) const {
+  if (const std::optional<qlonglong> number = NumberIn(text))
+    text = QString::number(std::clamp<qlonglong>(*number, minimum(), maximum()));
+  else
+    QSpinBox::fixup(text);
+}
+
 // From a value outside of the range the first step leads to the limit.
 void SpinEdit::stepBy(int steps) {
-  if (typing_) interpretText();
   EndTyping();
   if (!outside_) return QSpinBox::stepBy(steps);
   Show(value());
@@ -59,7 +81,12 @@ void SpinEdit::stepBy(int steps) {
 }
 
 void SpinEdit::EndTyping() {
-  if (!std::exchange(typing_, false)) return;
+  if (!typing_) return;
+  const bool limited = replaced_ && NumberIn(text()) && !hasAcceptableInput();
+  interpretText();
+  typing_ = false;
+  // The limit stood in for the value before, too: no change of the spin box's own.
+  if (limited && std::exchange(replaced_, std::nullopt)) emit valueChanged(value());
   if (const std::optional<int> shown = pending_ ? pending_ : replaced_) Show(*shown);
   if (hasFocus()) selectAll();
 }
@@ -67,7 +94,6 @@ void SpinEdit::EndTyping() {
 void SpinEdit::keyPressEvent(QKeyEvent* event) {
   if (event->key() != Qt::Key_Return && event->key() != Qt::Key_Enter) return QSpinBox::keyPressEvent(event);
   // The spin box's own Return reports a value that nobody changed.
-  if (typing_) interpretText();
   EndTyping();
   selectAll();
   event->ignore();  // for the default button
@@ -79,6 +105,6 @@ void SpinEdit::focusInEvent(QFocusEvent* event) {
 }
 
 void SpinEdit::focusOutEvent(QFocusEvent* event) {
-  QSpinBox::focusOutEvent(event);
   EndTyping();
+  QSpinBox::focusOutEvent(event);
 }

@@ -18,12 +18,15 @@ class SpinEdit : public QSpinBox {
   // What is shown.
   int Shown() const { return outside_.value_or(value()); }
 
-  // A text that is being typed is taken, and what waits to be shown is.
+  // A text that is being typed is taken, and what waits to be shown is. A number outside of the range can be
+  // typed and becomes the limit then.
   void EndTyping();
   void stepBy(int steps) override;
 
  protected:
   QString textFromValue(int value) const override;
+  QValidator::State validate(QString& text, int& place) const override;
+  void fixup(QString& text) const override;
   void keyPressEvent(QKeyEvent* event) override;
   void focusInEvent(QFocusEvent* event) override;
   void focusOutEvent(QFocusEvent* event) override;

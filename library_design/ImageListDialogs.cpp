@@ -12,7 +12,7 @@ TVRXImageListDlg::TVRXImageListDlg(QWidget* owner) : RowDialog(QStringLiteral("S
   auto* grid = new QGridLayout;
   RowsInto(*grid);
   Row(lists, "lists", "", "&ImageList:", "The image lists of the form.")
-      .Changes(&TVRXImageListDlg::listChange);
+      .Changes(&TVRXImageListDlg::ShowImages);
   static constexpr const char* names[] = {"images", "images2"};
   for (int i = 0; i < 2; ++i) {
     images[i] = Named(new QListWidget(this), names[i], "A click chooses the picture, another one none.");
@@ -24,6 +24,8 @@ TVRXImageListDlg::TVRXImageListDlg(QWidget* owner) : RowDialog(QStringLiteral("S
     Wide({images[i]});
     Follows(images[i]);
     connect(images[i], &QListWidget::itemDoubleClicked, this, &QDialog::accept);
+    connect(images[i], &QListWidget::itemSelectionChanged, this,
+            [this, i] { wanted_[static_cast<std::size_t>(i)] = Chosen(static_cast<std::size_t>(i)); });
   }
   facts = QuietLine(this, "facts");
   Wide({facts});
@@ -40,7 +42,7 @@ TVRXImageListDlg::TVRXImageListDlg(QWidget* owner) : RowDialog(QStringLiteral("S
   SetTabSequence();
   FormCreate();
   images[1]->hide();
-  ShowImages({-1, -1});
+  ShowImages();
 }
 
 void TVRXImageListDlg::SetLists(const std::vector<TCustomImageList*>& all, const TCustomImageList* current,
@@ -48,15 +50,15 @@ void TVRXImageListDlg::SetLists(const std::vector<TCustomImageList*>& all, const
   const QSignalBlocker quiet(lists);
   all_ = all;
   count_ = indexes.size();
-  images[1]->setVisible(count_ > 1);
+  for (std::size_t i = 0; i < 2; ++i) images[i]->setVisible(i < count_);
   lists->clear();
   for (const TCustomImageList* list : all_)
     lists->addItem(list ? QStringLiteral("%1 (%2)").arg(list->Name()).arg(list->Count()) : tr("(none)"));
   const auto at = std::find(all_.begin(), all_.end(), current);
   lists->setCurrentIndex(at == all_.end() ? 0 : static_cast<int>(at - all_.begin()));
-  std::vector<int> both = indexes;
-  both.resize(2, -1);
-  ShowImages(both);
+  wanted_ = indexes;
+  wanted_.resize(2, -1);
+  ShowImages();
 }
 
 TCustomImageList* TVRXImageListDlg::List() const {
@@ -64,13 +66,18 @@ TCustomImageList* TVRXImageListDlg::List() const {
   return row < all_.size() ? all_[row] : nullptr;
 }
 
+// The focus alone chooses none.
+int TVRXImageListDlg::Chosen(std::size_t place) const {
+  return images[place]->selectedItems().isEmpty() ? -1 : images[place]->currentRow();
+}
+
 std::vector<int> TVRXImageListDlg::Indexes() const {
   std::vector<int> indexes;
-  for (std::size_t i = 0; i < count_; ++i) indexes.push_back(images[i]->currentRow());
+  for (std::size_t i = 0; i < count_; ++i) indexes.push_back(Chosen(i));
   return indexes;
 }
 
-void TVRXImageListDlg::ShowImages(std::vector<int> selected) {
+void TVRXImageListDlg::ShowImages() {
   const TCustomImageList* list = List();
   const int count = list ? list->Count() : 0;
   for (std::size_t i = 0; i < 2; ++i) {
@@ -81,7 +88,7 @@ void TVRXImageListDlg::ShowImages(std::vector<int> selected) {
                                  .boundedTo(QSize(64, 64)));
     for (int n = 0; n < count; ++n)
       images[i]->addItem(new QListWidgetItem(QIcon(QPixmap::fromImage(list->Image(n))), QString::number(n)));
-    images[i]->setCurrentRow(selected[i] < count ? selected[i] : -1);
+    images[i]->setCurrentRow(wanted_[i] < count ? wanted_[i] : -1);
   }
   facts->setText(
       all_.empty() || (all_.size() == 1 && !all_[0]) ? tr("The form has no image list.")
@@ -126,6 +133,11 @@ bool VRXCPGetIMLExt(IDesigner& designer, TCustomImageList*& list, int& index0, i
   return true;
 }
 
+bool VRXCPGetIMLExt(IDesigner& designer, TCustomImageList*& list) {
+  std::vector<int> none;
+  return Choose(designer, list, none);
+}
+
 bool VRXCPGetIML(TCustomImageList& container, int& listIndex, int& imageIndex) {
   std::vector<TCustomImageList*> lists;
   std::vector<int> places;
@@ -138,10 +150,15 @@ bool VRXCPGetIML(TCustomImageList& container, int& listIndex, int& imageIndex) {
   const auto place = std::find(places.begin(), places.end(), listIndex);
   TVRXImageListDlg dialog(ApplicationOwner());
   dialog.setWindowTitle(QStringLiteral("Select Picture"));
-  dialog.SetLists(lists, nullptr, {-1});
+  // Where there was none the first one is offered.
+  const bool none = listIndex == 0 && imageIndex == 0;
+  dialog.SetLists(lists,
+                  place == places.end() ? nullptr : lists[static_cast<std::size_t>(place - places.begin())],
+                  {valid  ? imageIndex
+                   : none ? 0
+                          : -1});
   dialog.SetLabels();
-  if (place != places.end()) dialog.lists->setCurrentIndex(static_cast<int>(place - places.begin()));
-  if (valid) dialog.images[0]->setCurrentRow(imageIndex);
+  dialog.images[0]->setFocus();
   if (dialog.ShowModal() != mrOk) return false;
   const int chosen = dialog.Indexes()[0];
   const int list = chosen < 0 ? 0 : places[static_cast<std::size_t>(dialog.lists->currentIndex())];

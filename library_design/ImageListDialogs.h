@@ -10,6 +10,8 @@ class QListWidget;
 // no picture. IMLExt asks for two pictures, as of a control that has one for each of two states.
 bool VRXCPGetIML(IDesigner& designer, TCustomImageList*& list, int& index);
 bool VRXCPGetIMLExt(IDesigner& designer, TCustomImageList*& list, int& index0, int& index1);
+// The list alone.
+bool VRXCPGetIMLExt(IDesigner& designer, TCustomImageList*& list);
 // Another picture of the lists of a container, which are counted from 1 on. None is 0 and 0.
 bool VRXCPGetIML(TCustomImageList& container, int& listIndex, int& imageIndex);
 // The same for a component's reference and, where it publishes one, its "ImageIndex".
@@ -19,7 +21,8 @@ class TVRXImageListDlg : public RowDialog {
   Q_OBJECT
  public:
   explicit TVRXImageListDlg(QWidget* owner = nullptr);
-  // `lists` may hold a null for none; `indexes` says how many pictures are chosen.
+  // `lists` may hold a null for none; `indexes` says how many pictures are chosen. They stay chosen in
+  // another list that has them.
   void SetLists(const std::vector<TCustomImageList*>& lists, const TCustomImageList* current,
                 const std::vector<int>& indexes);
   TCustomImageList* List() const;
@@ -31,9 +34,10 @@ class TVRXImageListDlg : public RowDialog {
   QPushButton *ok, *cancel;
 
  private:
-  void listChange() { ShowImages({-1, -1}); }
-  void ShowImages(std::vector<int> selected);
+  void ShowImages();
+  int Chosen(std::size_t place) const;
 
   std::vector<TCustomImageList*> all_;
   std::size_t count_ = 1;
+  std::vector<int> wanted_{-1, -1};  // pictures that were chosen last
 };

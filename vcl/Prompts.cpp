@@ -4,8 +4,30 @@
 #include <QFileDialog>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QRegularExpression>
 
 namespace {
+QStringList EndingsOf(const QString& filter) {
+  static const QRegularExpression pattern(QStringLiteral("\\*\\.(\\w+)"));
+  QStringList endings;
+  for (auto found = pattern.globalMatch(filter); found.hasNext();) endings << found.next().captured(1);
+  return endings;
+}
+// That of the name that a dialog starts with, as the filter spells it; empty when the filter has none of
+// that.
+QString OwnEnding(const QString& name, const QString& filter) {
+  const QString own = QFileInfo(name).suffix();
+  for (const QString& ending : EndingsOf(filter))
+    if (ending.compare(own, Qt::CaseInsensitive) == 0) return ending;
+  return {};
+}
+// The dialog itself adds the ending to a name that is typed without one: only so it asks before the file of
+// that name is replaced.
+QString AskForFile(QFileDialog& dialog, const QString& ending) {
+  dialog.setDefaultSuffix(ending);
+  return dialog.exec() == QDialog::Accepted ? dialog.selectedFiles().value(0) : QString();
+}
+
 // Texts hold names out of strangers' files, which must not become markup.
 QMessageBox::StandardButton Show(QMessageBox::Icon icon, QWidget* parent, const QString& title,
                                  const QString& text, QMessageBox::StandardButtons buttons = QMessageBox::Ok,
@@ -54,7 +76,9 @@ class WidgetPrompts : public IPrompts {
   }
   QString OpenFileName(QWidget* parent, const QString& title, const QString& folder,
                        const QString& filter) override {
-    return QFileDialog::getOpenFileName(parent, title, InPromptFolder(folder), filter);
+    QFileDialog dialog(parent, title, InPromptFolder(folder), filter);
+    dialog.setFileMode(QFileDialog::ExistingFile);
+    return AskForFile(dialog, OwnEnding(folder, filter));
   }
   QStringList OpenFileNames(QWidget* parent, const QString& title, const QString& folder,
                             const QString& filter) override {
@@ -62,7 +86,11 @@ class WidgetPrompts : public IPrompts {
   }
   QString SaveFileName(QWidget* parent, const QString& title, const QString& file,
                        const QString& filter) override {
-    return QFileDialog::getSaveFileName(parent, title, InPromptFolder(file), filter);
+    QFileDialog dialog(parent, title, InPromptFolder(file), filter);
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    dialog.setFileMode(QFileDialog::AnyFile);
+    const QString own = OwnEnding(file, filter);
+    return AskForFile(dialog, own.isEmpty() ? EndingsOf(filter).value(0) : own);
   }
 };
 QString& Folder() {

@@ -57,8 +57,8 @@ class OutlinedFusion : public QProxyStyle {
     const bool dark = option && IsDark(option->palette);
     const bool mark = element == PE_IndicatorCheckBox || element == PE_IndicatorRadioButton;
     const bool frame = element == PE_FrameLineEdit || element == PE_Frame;
-    const Recolored outline(mark || (dark && frame) ? option : nullptr,
-                            QPalette::Window, [&](const QPalette& p) {
+    const Recolored outline(mark || (dark && frame) ? option : nullptr, QPalette::Window,
+                            [&](const QPalette& p) {
                               return !dark  ? p.color(QPalette::Window).darker(130)
                                      : mark ? p.color(QPalette::WindowText).darker(140)
                                             : p.color(QPalette::Window).lighter(230);
@@ -82,6 +82,17 @@ class OutlinedFusion : public QProxyStyle {
     if (hint == SH_Table_GridLineColor && option && IsDark(option->palette))
       return static_cast<int>(option->palette.color(QPalette::Mid).rgb());
     return QProxyStyle::styleHint(hint, option, widget, data);
+  }
+
+  // Fusion's rows are as high as their marks, which then touch each other.
+  QSize sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& contents,
+                         const QWidget* widget) const override {
+    QSize size = QProxyStyle::sizeFromContents(type, option, contents, widget);
+    const auto* row =
+        type == CT_ItemViewItem ? qstyleoption_cast<const QStyleOptionViewItem*>(option) : nullptr;
+    if (row && row->features.testFlag(QStyleOptionViewItem::HasCheckIndicator))
+      size.setHeight(std::max(size.height(), pixelMetric(PM_IndicatorHeight, option, widget) + 4));
+    return size;
   }
 
   // Fusion greys a disabled icon towards the light: in a dark theme it stands out more than before.

@@ -31,8 +31,9 @@ TVRXFaceController::~TVRXFaceController() = default;
 void TVRXFaceController::RemoveSettingObject(int index) {
   const TUpdateLock lock(*this);
   const QString name = settings_->Setting(index)->Get(TVRXCFCSettingObject::ObjName);
+  const bool meant = settings_->IndexOf(name) == index;
   settings_->Delete(index);
-  states_->RemoveName(name);
+  if (meant) states_->RemoveName(name);
 }
 
 void TVRXFaceController::LoadFromFile(const QString& fileName) {

@@ -165,6 +165,17 @@ QSize TVRXCustomMMButton::AutoSizeHint() const {
   return size + QSize(2 * around, 2 * around);
 }
 
+namespace {
+// As much of a text as there is room for, line by line.
+QString Elided(const QString& text, const TFont& font, int room) {
+  if (TextExtent(text, font, Qt::TextShowMnemonic).width() <= room) return text;
+  QStringList lines = ShownText(text).split(u'\n');
+  const QFontMetrics metrics(ToQFont(font));
+  for (QString& line : lines) line = metrics.elidedText(line, Qt::ElideRight, room, Qt::TextShowMnemonic);
+  return lines.join(u'\n');
+}
+}  // namespace
+
 // A picture that is not the state's own tells by its place and strength which state it is.
 void TVRXCustomMMButton::PaintContent(TCanvas& canvas, const QRect& rect, const TShown& shown,
                                       const TVRXFaceLook& look) const {
@@ -177,9 +188,11 @@ void TVRXCustomMMButton::PaintContent(TCanvas& canvas, const QRect& rect, const 
   if (disabled && !look.HasLetters(false)) letters.SetColor(clGrayText);
   glyph = look.Picture(glyph);
   if (disabled && !shown.own) glyph = Faint(glyph);
+  const bool across = Get(Layout) == TButtonLayout::blGlyphLeft || Get(Layout) == TButtonLayout::blGlyphRight;
+  const int beside = across && !glyph.isNull() ? glyph.width() + std::max(Get(Spacing), 0) : 0;
   PaintFace(canvas, rect.translated(pressed && !shown.own, pressed && !shown.own),
             {.glyph = glyph,
-             .text = Get(ShowCaption) ? Caption() : QString(),
+             .text = Get(ShowCaption) ? Elided(Caption(), letters, rect.width() - beside) : QString(),
              .layout = Get(Layout),
              .margin = Get(Margin),
              .spacing = Get(Spacing)},
@@ -229,7 +242,7 @@ const TClass& TVRXShapeButton::StaticClass() {
 
 TVRXCustomShapeButton::TVRXCustomShapeButton(TComponent* owner) : TVRXCustomMMButton(owner) {
   transparent_ = true;
-  SetBounds(0, 0, 104, 56);
+  SetBounds(0, 0, 136, 56);
 }
 
 QSize TVRXCustomShapeButton::AutoSizeHint() const {

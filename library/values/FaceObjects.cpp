@@ -1,5 +1,6 @@
 #include "library/values/FaceObjects.h"
 
+#include "rtl/Exceptions.h"
 #include "rtl/PropAccess.h"
 #include "rtl/PropText.h"
 
@@ -116,7 +117,8 @@ int TVRXCFCSettingObjects::IndexOfObject(const TPersistent* object) const {
 
 void TVRXCFCSettingObjects::SetObjName(int index, const QString& name) {
   TSetting* const setting = Setting(index);
-  if (setting->former_.isEmpty()) setting->former_ = setting->Get(TSetting::ObjName);
+  const QString before = setting->Get(TSetting::ObjName);
+  if (setting->former_.isEmpty() && IndexOf(before) == index) setting->former_ = before;
   setting->Set(TSetting::ObjName, name);
 }
 
@@ -170,7 +172,9 @@ QString VRXCFCDescriptionOf(const TPersistent& object) {
   QStringList parts;
   for (const TPropInfo* prop : object.ClassType().Properties()) {
     const bool says = prop->Is<QString>() || prop->IsOrdinal();
-    if (!says || (prop->IsOrdinal() && !IsStoredProp(object, *prop))) continue;
+    // What has a style or a kind says which, also the one that it begins with.
+    const bool kind = prop->Kind() == TTypeKind::tkEnumeration && prop->PropType->Elements.size() > 2;
+    if (!says || (prop->IsOrdinal() && !kind && !IsStoredProp(object, *prop))) continue;
     const QString value = GetPropText(object, *prop);
     const bool alone = object.ClassType().Properties().size() == 1;
     if (!value.isEmpty()) parts << (alone ? value : QString::fromLatin1(prop->Name) + u' ' + value);
@@ -218,6 +222,10 @@ void TVRXCFCStateObject::Add(const TPersistent* object, bool once) {
   const TVRXCFCSettingObjects* settings = Settings();
   if (!settings || settings->IndexOfObject(object) < 0) return;
   const QString name = settings->NameOfObject(object);
+  if (settings->Items(settings->IndexOf(name)) != object)
+    throw Exception(QStringLiteral("Another object is named \"%1\", too, and states would use that one. Give "
+                                   "this object another name first.")
+                        .arg(name));
   if (!once || !Names().contains(name, Qt::CaseInsensitive)) SetNames(Names() + QStringList{name});
 }
 

@@ -85,7 +85,8 @@ class TVRXCFCSettingObjects : public TCollection {
   TVRXCFCSettingObject* Setting(int index) const { return static_cast<TVRXCFCSettingObject*>(Item(index)); }
   TPersistent* Items(int index) const { return Setting(index)->Object(); }
   QString NameOfObject(const TPersistent* object) const;
-  // -1 when there is none. Names are compared without regard to case.
+  // -1 when there is none. Names are compared without regard to case. Of several objects of a name the first
+  // is meant: what happens to the others is nothing to states.
   int IndexOf(const QString& name) const;
   int IndexOfObject(const TPersistent* object) const;
   // States go on with the old name until they are told to synchronise theirs.
@@ -117,7 +118,7 @@ class TVRXCFCSettingObjects : public TCollection {
 };
 
 TVRXCFCSettingObjectKind VRXCFCGetSettingsKindObject(const TPersistent* object);
-// One line that says how a library object is: what is not as it begins.
+// One line that says how a library object is: its style or kind, and what else is not as it begins.
 QString VRXCFCDescriptionOf(const TPersistent& object);
 
 class TVRXCFCStateObject : public TCollectionItem {
@@ -136,7 +137,8 @@ class TVRXCFCStateObject : public TCollectionItem {
   int Count() const { return static_cast<int>(Names().size()); }
   // Null when the settings have no object of that name.
   TPersistent* Items(int index) const;
-  // `once`: an object that is there already is not added again.
+  // `once`: an object that is there already is not added again. Throws Exception for one whose name means
+  // another object.
   void Add(const TPersistent* object, bool once);
   void Delete(int index);
   QString DisplayName() const override { return VRXCFCGetStateDescription(getKind()); }

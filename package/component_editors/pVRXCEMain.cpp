@@ -48,8 +48,7 @@ template <class C>
 bool ChooseList(C& component, const TKept<TCustomImageList*>& property, IDesigner& designer) {
   TCustomImageList* list = component.Get(property);
   const TCustomImageList* const before = list;
-  int up = -1, down = -1;
-  if (!VRXCPGetIMLExt(designer, list, up, down) || list == before) return false;
+  if (!VRXCPGetIMLExt(designer, list) || list == before) return false;
   component.Set(property, list);
   return true;
 }

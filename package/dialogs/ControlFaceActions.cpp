@@ -21,16 +21,14 @@ QString PromptFilter(const QString& filter) {
 
 // --- States
 
-QString TVRXControlFaceEditorDlg::ChooseFile(bool save, const QString& name, const QString& filter,
-                                             const QString& extension) {
+// The file dialogs find the default extension in name and filter.
+QString TVRXControlFaceEditorDlg::ChooseFile(bool save, const QString& name, const QString& filter) {
   const QString folder = edFilePath->text();
   const QString start = folder.isEmpty() ? name : QDir(folder).filePath(name);
-  QString file = save ? Prompts().SaveFileName(this, windowTitle(), start, PromptFilter(filter))
-                      : Prompts().OpenFileName(this, windowTitle(), start, PromptFilter(filter));
+  const QString file = save ? Prompts().SaveFileName(this, windowTitle(), start, PromptFilter(filter))
+                            : Prompts().OpenFileName(this, windowTitle(), start, PromptFilter(filter));
   // The pattern that the field starts with is no name.
-  if (file.isEmpty() || file.section(u'/', -1).contains(u'*')) return {};
-  if (!file.section(u'/', -1).contains(u'.')) file += u'.' + extension;
-  return file;
+  return file.section(u'/', -1).contains(u'*') ? QString() : file;
 }
 
 void TVRXControlFaceEditorDlg::ClearStates() {
@@ -39,8 +37,7 @@ void TVRXControlFaceEditorDlg::ClearStates() {
 }
 
 void TVRXControlFaceEditorDlg::LoadStates() {
-  const QString file =
-      ChooseFile(false, QStringLiteral("*.fcstates"), StatesFilter, QStringLiteral("fcstates"));
+  const QString file = ChooseFile(false, QStringLiteral("*.fcstates"), StatesFilter);
   if (file.isEmpty()) return;
   controller_.LoadFromFile(file);
   used_.clear();
@@ -69,9 +66,7 @@ void TVRXControlFaceEditorDlg::StateHandler(int tag) {
     case tagLoad:
       return LoadStates();
     case tagSave:
-      if (const QString file =
-              ChooseFile(true, QStringLiteral("*.fcstates"), StatesFilter, QStringLiteral("fcstates"));
-          !file.isEmpty())
+      if (const QString file = ChooseFile(true, QStringLiteral("*.fcstates"), StatesFilter); !file.isEmpty())
         controller_.SaveToFile(file);
       return;
     case tagAdd:
@@ -100,8 +95,7 @@ void TVRXControlFaceEditorDlg::StateHandler(int tag) {
 // --- Setting objects
 
 void TVRXControlFaceEditorDlg::LoadSettings() {
-  const QString file =
-      ChooseFile(false, QStringLiteral("*.fcSettings"), LoadSettingsFilter, QStringLiteral("fcsettings"));
+  const QString file = ChooseFile(false, QStringLiteral("*.fcSettings"), LoadSettingsFilter);
   if (file.isEmpty()) return;
   controller_.SettingObjects()->LoadFromFile(file);
   ClearStates();
@@ -117,8 +111,7 @@ void TVRXControlFaceEditorDlg::SettingHandler(int tag) {
     case tagLoadSettings:
       return LoadSettings();
     case tagSaveSettings:
-      if (const QString file = ChooseFile(true, QStringLiteral("*.fcSettings"), SaveSettingsFilter,
-                                          QStringLiteral("fcsettings"));
+      if (const QString file = ChooseFile(true, QStringLiteral("*.fcSettings"), SaveSettingsFilter);
           !file.isEmpty())
         settings.SaveToFile(file);
       return;
@@ -199,8 +192,17 @@ void TVRXControlFaceEditorDlg::Renamed(QTreeWidgetItem* item) {
   if (taken || name.isEmpty()) {
     const QScopedValueRollback quiet(refreshing_, true);
     item->setText(0, before);
+    // Not before the field is closed, which would hear of the message's window: whoever clicked a button has
+    // not confirmed then, and goes on with the row.
     if (taken)
-      Prompts().Inform(this, windowTitle(), QStringLiteral("This name exists in object list already!"));
+      QMetaObject::invokeMethod(
+          this,
+          [this, index] {
+            Prompts().Inform(this, windowTitle(), QStringLiteral("This name exists in object list already!"));
+            controllerObjectsList->setCurrentItem(controllerObjectsList->topLevelItem(index));
+            controllerObjectsList->setFocus();
+          },
+          Qt::QueuedConnection);
     return;
   }
   settings.SetObjName(index, name);

@@ -151,8 +151,8 @@ QLayout* TVRXControlFaceEditorDlg::SettingPart() {
   add(VRXSpeedButton1, "VRXSpeedButton1", "Load Settings List\r\nAll current settings will be lost!",
       face_icons::Load, tagLoadSettings);
   add(VRXSpeedButton2, "VRXSpeedButton2", "Saves Settings List to a file", face_icons::Save, tagSaveSettings);
-  add(VRXSpeedButton4, "VRXSpeedButton4", "Clear List", face_icons::Clear, tagClearSettings);
   add(VRXSpeedButton3, "VRXSpeedButton3", "Remove Item", face_icons::Remove, tagRemoveSetting);
+  add(VRXSpeedButton4, "VRXSpeedButton4", "Clear List", face_icons::Clear, tagClearSettings);
   add(btnProp, "btnProp", "Properties", face_icons::Properties, tagProperties);
   tools->addSpacing(12);
   using enum TVRXCFCSettingObjectKind;

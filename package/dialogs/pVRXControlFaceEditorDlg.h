@@ -81,7 +81,7 @@ class TVRXControlFaceEditorDlg : public RowDialog {
   void AddStates();
   void LoadSettings();
   // Empty when it was cancelled.
-  QString ChooseFile(bool save, const QString& name, const QString& filter, const QString& extension);
+  QString ChooseFile(bool save, const QString& name, const QString& filter);
   void browseClick();
 
   TVRXFaceController controller_{nullptr};

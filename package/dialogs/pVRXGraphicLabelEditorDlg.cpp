@@ -10,6 +10,17 @@ using D = TVRXGraphicLabelEditorDlg;
 
 namespace {
 constexpr int LargestSize = 999;
+const QString Sample = QStringLiteral("Aaaaaaaaaaaaaaa");
+// A field that is left without a size shows that of the font again.
+class SizeLimits : public QIntValidator {
+ public:
+  SizeLimits(const TFont& font, QObject* parent)
+      : QIntValidator(-LargestSize, LargestSize, parent), font_(font) {}
+  void fixup(QString& text) const override { text = QString::number(font_.Size()); }
+
+ private:
+  const TFont& font_;
+};
 // In the order of the list.
 enum { None, Bird, Frog };
 const QStringList& PerspectiveTexts() {
@@ -21,11 +32,12 @@ const QStringList& PerspectiveTexts() {
 TVRXGraphicLabelEditorDlg::TVRXGraphicLabelEditorDlg(QWidget* owner)
     : EditorDialog(QStringLiteral("Graphic Label Editor"), QSize(640, 340), owner, 330) {
   Preview(test, "", Qt::AlignCenter);
-  test->SetCaption(QStringLiteral("Aaaaaaaaaaaaaaa"));
+  test->SetCaption(Sample);
   Edits(*test);
   pages = new QTabWidget(this);
   pages->setObjectName(QStringLiteral("pages"));
   static_cast<QVBoxLayout*>(SettingsPanel().layout())->insertWidget(0, pages, 1);
+  delete SettingsPanel().layout()->takeAt(2);  // the room below the rows
 
   AddPage(QStringLiteral("Form"));
   Row(ComboBoxTransform, "ComboBoxTransform", "Transform", "Transform");
@@ -54,7 +66,7 @@ TVRXGraphicLabelEditorDlg::TVRXGraphicLabelEditorDlg(QWidget* owner)
   Row(VRXFontSizeComboBox, "VRXFontSizeComboBox", "", "Fontsize");
   VRXFontSizeComboBox->setEditable(true);
   VRXFontSizeComboBox->setInsertPolicy(QComboBox::NoInsert);
-  VRXFontSizeComboBox->setValidator(new QIntValidator(-LargestSize, LargestSize, this));
+  VRXFontSizeComboBox->setValidator(new SizeLimits(*test->Font(), this));
   for (const int size : QFontDatabase::standardSizes()) VRXFontSizeComboBox->addItem(QString::number(size));
   connect(VRXFontSizeComboBox, &QComboBox::editTextChanged, this,
           [this] { Guarded([this] { VRXFontSizeComboBoxChange(); }); });
@@ -95,7 +107,14 @@ void TVRXGraphicLabelEditorDlg::AddPage(const QString& title) {
 
 void TVRXGraphicLabelEditorDlg::SetValue(const TVRXGraphicLabel& label) {
   test->Assign(&label);
+  caption_ = label.Caption();
+  test->SetCaption(Sample);
   SetLabels();
+}
+
+void TVRXGraphicLabelEditorDlg::GetValue(TVRXGraphicLabel& label) {
+  test->SetCaption(caption_);
+  label.Assign(test);
 }
 
 void TVRXGraphicLabelEditorDlg::LoadControls() {
@@ -139,5 +158,5 @@ void TVRXGraphicLabelEditorDlg::VRXFontComboBoxChange(const QString& name) {
 void TVRXGraphicLabelEditorDlg::VRXFontSizeComboBoxChange() {
   bool number = false;
   const int size = VRXFontSizeComboBox->currentText().toInt(&number);
-  if (number && size != 0) test->Font()->SetSize(size);
+  if (number && size != 0 && size != test->Font()->Size()) test->Font()->SetSize(size);
 }

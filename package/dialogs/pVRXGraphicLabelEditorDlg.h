@@ -1,5 +1,5 @@
-// Edits a graphic label on a live preview, which is a copy of it. Whoever shows the dialog takes the copy
-// over when ShowModal returns 1.
+// Edits a graphic label on a live preview, which is a copy of it with a sample for a caption. Whoever shows
+// the dialog takes the copy over when ShowModal returns 1.
 #pragma once
 #include "dclstd/EditorDialog.h"
 #include "dclstd/FontNameCombo.h"
@@ -14,6 +14,8 @@ class TVRXGraphicLabelEditorDlg : public EditorDialog {
  public:
   explicit TVRXGraphicLabelEditorDlg(QWidget* owner);
   void SetValue(const TVRXGraphicLabel& label);
+  // Everything but the sample.
+  void GetValue(TVRXGraphicLabel& label);
 
   void ButtonFillObjectDialogClick();
   void ButtonFontDialogClick();
@@ -44,4 +46,5 @@ class TVRXGraphicLabelEditorDlg : public EditorDialog {
 
  private:
   void AddPage(const QString& title);
+  QString caption_;
 };

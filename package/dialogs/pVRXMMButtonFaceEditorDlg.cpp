@@ -37,7 +37,7 @@ class FaceRows : public QStyledItemDelegate {
     widget->style()->drawControl(QStyle::CE_ItemViewItem, &option, painter, widget);
     const int row = index.row();
     const QRect room =
-        index.column() == 0 ? option.rect.adjusted(Gap, 0, -Gap, 0) : option.rect.adjusted(Gap, 0, 0, 0);
+        index.column() == 0 ? option.rect.adjusted(0, 0, -Gap, 0) : option.rect.adjusted(Gap, 0, 0, 0);
     if (index.column() == 1 && dialog_.IsValidRow(row)) {
       const TVRXButtonFaceIndex& face = dialog_.At(row);
       return VRXIMLDrawExt(dialog_.images_, face.ListIndex, face.ImageIndex, *painter, room,
@@ -63,13 +63,15 @@ TVRXButtonFaceDlg::TVRXButtonFaceDlg(QWidget* owner)
   lb->setHeaderLabels({QStringLiteral("State"), QStringLiteral("Picture")});
   lb->setRootIsDecorated(false);
   lb->setUniformRowHeights(true);
-  lb->setAllColumnsShowFocus(true);
   lb->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   lb->setItemDelegate(new FaceRows(*this));
   lb->header()->setFixedHeight(HeaderHeight);
   lb->header()->setStretchLastSection(false);
   lb->header()->setMinimumSectionSize(1);
-  lb->header()->resizeSection(0, FirstColumn);
+  int widest = FirstColumn;
+  for (int row = 0; row < Count; ++row)
+    widest = std::max(widest, lb->fontMetrics().horizontalAdvance(StateName(row)) + 2 * Gap);
+  lb->header()->resizeSection(0, widest);
   lb->installEventFilter(this);
   Follows(lb);
   connect(lb, &QTreeWidget::itemDoubleClicked, this, [this] { Guarded([this] { SelectBtnClick(); }); });
@@ -89,7 +91,7 @@ TVRXButtonFaceDlg::TVRXButtonFaceDlg(QWidget* owner)
   auto* content = new QVBoxLayout;
   content->addWidget(lb);
   FinishBeside(content, {SelectBtn, nopicture, ClearAll, sync, synchot, VRXButton1}, {OKButton, CancelButton},
-               {600, 400});
+               {600, 440});
   for (int i = 0; i < Count; ++i) lb->addTopLevelItem(new QTreeWidgetItem);
   lb->setCurrentItem(lb->topLevelItem(0));
   ShowFace();

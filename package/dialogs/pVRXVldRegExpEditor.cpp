@@ -156,9 +156,9 @@ void TVRXRegExprForm::btLoadClick() {
 }
 
 void TVRXRegExprForm::btSaveClick() {
-  QString file = Prompts().SaveFileName(this, btSave->text().remove(u'&'), RememberedFile(), FileFilter);
+  const QString file =
+      Prompts().SaveFileName(this, btSave->text().remove(u'&'), RememberedFile(), FileFilter);
   if (file.isEmpty()) return;
-  if (!file.section(u'/', -1).contains(u'.')) file += QStringLiteral(".txt");
   SaveRegExprFile(file);
   Remember(file);
 }

@@ -82,7 +82,7 @@ bool VRXCPGetGraphicLabel(TVRXGraphicLabel& label) {
   TVRXGraphicLabelEditorDlg dialog(ApplicationOwner());
   dialog.SetValue(label);
   if (dialog.ShowModal() != mrOk) return false;
-  label.Assign(dialog.test);
+  dialog.GetValue(label);
   return true;
 }
 

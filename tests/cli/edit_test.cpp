@@ -127,6 +127,24 @@ TEST_F(EditCli, WaitsForAWindowThatStaysOpen) {
   EXPECT_EQ(Read(form_), Form);
 }
 
+TEST_F(EditCli, WhatTheEditorSaysIsSaidOnce) {
+  const QString form = Write("button.dfm",
+                             "object Form1: TForm1\n  Left = 0\n  Top = 0\n  object Go: TVRXMMButton\n"
+                             "    Left = 8\n    Top = 8\n  end\nend\n");
+  const QByteArray before = Read(form);
+  int boxes = 0;
+  modal::NextOf<QMessageBox>([&](QMessageBox& box) {
+    ++boxes;
+    EXPECT_EQ(box.text(), L("Can't run Editor because no ButtonFaceImageList is selected."));
+    box.accept();
+  });
+  const Result r = Vrx({L("edit"), form, L("Go.ButtonFace")});
+  EXPECT_EQ(boxes, 1);
+  EXPECT_EQ(r.code, 1);
+  EXPECT_EQ(r.err + r.out, QString());
+  EXPECT_EQ(Read(form), before);
+}
+
 TEST_F(EditCli, SaysWhatIsWrong) {
   const auto error = [&](const QStringList& arguments, int code, const char* text) {
     const Result r = Vrx(QStringList{L("edit")} + arguments);

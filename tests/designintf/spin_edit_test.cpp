@@ -73,6 +73,50 @@ TEST_F(SpinEditTest, OneThatIsTypedOverByNothingComesBack) {
   EXPECT_EQ(reported, Values{});
 }
 
+TEST_F(SpinEditTest, ANumberOverTheLimitIsTypedAsItIsAndBecomesTheLimit) {
+  const auto type = [&](const char* text) {
+    edit->Show(50);
+    edit->setFocus();
+    edit->selectAll();
+    QTest::keyClicks(edit, QString::fromLatin1(text));
+    reported.clear();
+  };
+  type("400");
+  EXPECT_EQ(edit->text(), QStringLiteral("400"));
+  Leave();
+  EXPECT_EQ(edit->text(), QStringLiteral("100"));
+  EXPECT_EQ(reported, Values{100});
+  type("999");
+  QTest::keyClick(edit, Qt::Key_Return);
+  EXPECT_EQ(edit->text(), QStringLiteral("100"));
+  EXPECT_EQ(reported, Values{100});
+  type("201");
+  QTest::keyClick(edit, Qt::Key_Down);
+  EXPECT_EQ(edit->value(), 99);
+  type("400");
+  edit->EndTyping();
+  EXPECT_EQ(edit->value(), 100);
+  type("4");
+  Leave();
+  EXPECT_EQ(edit->value(), 10) << "the limit that is nearest";
+  edit->Show(-5);
+  edit->setFocus();
+  edit->selectAll();
+  reported.clear();
+  QTest::keyClicks(edit, QStringLiteral("3"));
+  Leave();
+  EXPECT_EQ(edit->Shown(), 10) << "in place of a value outside of the range, too";
+  EXPECT_EQ(edit->text(), QStringLiteral("10"));
+  EXPECT_EQ(reported, Values{10});
+}
+
+TEST_F(SpinEditTest, WhatIsNoNumberCannotBeTyped) {
+  edit->Show(50);
+  edit->selectAll();
+  QTest::keyClicks(edit, QStringLiteral("-7x"));
+  EXPECT_EQ(edit->text(), QStringLiteral("7")) << "nothing below zero in this range";
+}
+
 TEST_F(SpinEditTest, AStepFromOutsideLeadsToTheLimit) {
   edit->Show(300);
   QTest::keyClick(edit, Qt::Key_Down);

@@ -152,7 +152,7 @@ TEST(FaceSettings, SayWhatTheyAre) {
   color.Set(TVRXColorObject::Color, clBtnFace);
   EXPECT_EQ(VRXCFCDescriptionOf(color), QStringLiteral("clBtnFace"));
   TVRXFont3D font;
-  EXPECT_EQ(VRXCFCDescriptionOf(font), QString());
+  EXPECT_EQ(VRXCFCDescriptionOf(font), QStringLiteral("Style tdNone"));
   font.Set(TVRXFont3D::Style, TVRX3DTextStyle::tdRaised);
   font.Set(TVRXFont3D::LightDepth, std::uint8_t{4});
   EXPECT_EQ(VRXCFCDescriptionOf(font), QStringLiteral("LightDepth 4, Style tdRaised"));
@@ -161,6 +161,66 @@ TEST(FaceSettings, SayWhatTheyAre) {
   EXPECT_EQ(VRXCFCDescriptionOf(style), QStringLiteral(".Checked"));
   TVRXFillObject fill;
   EXPECT_EQ(VRXCFCDescriptionOf(fill), fill.Description());
+}
+
+TEST(FaceSettings, NewOnesSayWhatTheyAre) {
+  TVRXFaceController face(nullptr);
+  QStringList texts;
+  for (const auto kind : {okFont3D, okFontFx, okFillObject, okBitmapEffect, okBevel, okColor, okBrush})
+    texts << VRXCFCDescriptionOf(*face.SettingObjects()->Items(face.AddSettingObject(kind)));
+  EXPECT_EQ(texts.join(u'|').toStdString(),
+            "Style tdNone|Style tdNone|Gradient, clBtnHighlight to clBtnShadow|Kind beGray|"
+            "Inner bvNone, Outer bvNone|clBtnFace|Style bsSolid");
+}
+
+TEST(FaceStateObjects, OfTwoObjectsOfANameTheFirstIsMeant) {
+  const auto make = [](TVRXFaceController& face) -> TVRXCFCStateObject& {
+    Made<TFont>(face, okFont);
+    auto& color = Made<TVRXColorObject>(face, okColor);
+    Made<TVRXBevel>(face, okBevel);
+    TVRXCFCStateObject& state = MadeState(face, {skChecked}, {&color});
+    // As a form or a file may tell it.
+    face.SettingObjects()->Setting(2)->Set(Setting::ObjName, QStringLiteral("color1"));
+    return state;
+  };
+  enum { First = 1, Second };
+  {
+    TVRXFaceController face(nullptr);
+    TVRXCFCStateObject& state = make(face);
+    EXPECT_EQ(state.Items(0), face.SettingObjects()->Items(First));
+    face.SettingObjects()->SetObjName(Second, QStringLiteral("Edge"));
+    face.States()->SynchronizeNames();
+    EXPECT_EQ(state.Names().join(u' '), QStringLiteral("Color1")) << "the other got a new name";
+    EXPECT_EQ(state.Items(0), face.SettingObjects()->Items(First));
+  }
+  {
+    TVRXFaceController face(nullptr);
+    TVRXCFCStateObject& state = make(face);
+    face.SettingObjects()->SetObjName(First, QStringLiteral("Ground"));
+    face.SettingObjects()->SetObjName(Second, QStringLiteral("Edge"));
+    face.States()->SynchronizeNames();
+    EXPECT_EQ(state.Names().join(u' '), QStringLiteral("Ground"));
+    EXPECT_EQ(state.Items(0), face.SettingObjects()->Items(First));
+  }
+  {
+    TVRXFaceController face(nullptr);
+    TVRXCFCStateObject& state = make(face);
+    face.RemoveSettingObject(Second);
+    EXPECT_EQ(state.Names().join(u' '), QStringLiteral("Color1"));
+    EXPECT_EQ(state.Items(0), face.SettingObjects()->Items(First));
+  }
+  {
+    TVRXFaceController face(nullptr);
+    TVRXCFCStateObject& state = make(face);
+    face.RemoveSettingObject(First);
+    EXPECT_EQ(state.Count(), 0) << "what is removed is not replaced by another object";
+    state.Add(face.SettingObjects()->Items(First), true);
+    EXPECT_EQ(state.Names().join(u' '), QStringLiteral("color1"));
+  }
+  TVRXFaceController face(nullptr);
+  TVRXCFCStateObject& state = make(face);
+  EXPECT_THROW(state.Add(face.SettingObjects()->Items(Second), true), Exception);
+  EXPECT_EQ(state.Count(), 1);
 }
 
 TEST(FaceStateObjects, KeepObjectsByNameAndFollowThemWhenTold) {

@@ -307,6 +307,43 @@ TEST(MMButton, EveryPropertyIsSeen) {
   }
 }
 
+TEST(MMButton, ACaptionWithoutRoomShowsItsBeginning) {
+  const auto pictures = ListOf({13, 9}, 1);
+  for (const bool glyph : {false, true}) {
+    TVRXMMButton button(nullptr);
+    if (glyph) {
+      button.Set(B::ButtonFaceImageList, pictures.get());
+      button.SetButtonFaceIndices(AllStates());
+    }
+    button.SetBounds(0, 0, 90, 27);
+    const auto shown = [&](const char* caption) {
+      button.SetCaption(QString::fromLatin1(caption));
+      return Draw(button, Qt::white);
+    };
+    const QImage picture = shown("Beginning and more of the same, up to the end");
+    EXPECT_EQ(shown("Beginning and more of the same, but with another and much longer end"), picture);
+    EXPECT_NE(shown("beginning and more of the same, up to the end"), picture);
+    EXPECT_NE(shown("Begin"), picture);
+    EXPECT_NE(shown("Begin\nand end"), shown("Begin\n")) << "each line by itself";
+    // The edge stays free.
+    const QImage empty = shown("");
+    shown("Beginning and more of the same, up to the end");
+    const QImage again = Draw(button, Qt::white);
+    for (int y = 0; y < again.height(); ++y)
+      for (const int x : {0, 1, 2, 87, 88, 89}) EXPECT_EQ(again.pixel(x, y), empty.pixel(x, y));
+  }
+}
+
+TEST(MMButton, NewOnesHaveRoomForTheirNames) {
+  const auto expectRoom = [](TVRXCustomMMButton& button, const char* name) {
+    EXPECT_LE(TextExtent(QString::fromLatin1(name), *button.Font()).width(), button.Width() * 9 / 10) << name;
+  };
+  TVRXMMButton button(nullptr);
+  TVRXShapeButton shape(nullptr);
+  expectRoom(button, "VRXMMButton1");
+  expectRoom(shape, "VRXShapeButton1");
+}
+
 TEST(MMButton, SizesItselfByPictureAndCaption) {
   const auto list = ListOf({50, 31}, 1);
   TVRXMMButton button(nullptr);

@@ -116,6 +116,37 @@ TEST_F(ButtonFaceEditor, DrawsNamesTextsAndPictures) {
   EXPECT_FALSE(d.IsValidRow(2));
 }
 
+TEST_F(ButtonFaceEditor, ThePictureOfTheFocusedRowHasItsOwnColours) {
+  Dlg d(nullptr);
+  TVRXButtonFaceIndices face{};
+  face[1] = {1, 2};
+  d.SetFace(*small, face);
+  fields::ShowActive(d);
+  d.lb->setFocus(Qt::TabFocusReason);
+  QTest::keyClick(d.lb, Qt::Key_Down);
+  ASSERT_EQ(Selected(d), 1);
+  EXPECT_EQ(QApplication::focusWidget(), d.lb);
+  const QImage row = RowPicture(d, 1, 1);
+  const QImage picture = small->Image(2);
+  for (int y = 0; y < picture.height(); ++y)
+    for (int x = 0; x < picture.width(); ++x)
+      ASSERT_EQ(row.pixelColor(2 + x, y), picture.pixelColor(x, y)) << x << ' ' << y;
+  EXPECT_NE(RowPicture(d, 1, 0), RowPicture(d, 0, 0)) << "the row is marked all the same";
+}
+
+TEST_F(ButtonFaceEditor, EveryStateIsSeenWhole) {
+  Dlg d(nullptr);
+  TVRXButtonFaceIndices face{};
+  face[0] = {1, 1};
+  d.SetFace(*tall, face);
+  fields::ShowActive(d);
+  EXPECT_EQ(d.RowHeight(), 40);
+  const QRect last = d.lb->visualItemRect(d.lb->topLevelItem(8));
+  EXPECT_LE(last.bottom(), d.lb->viewport()->rect().bottom());
+  EXPECT_LE(d.lb->fontMetrics().horizontalAdvance(QStringLiteral("bsCheckedDisabled")),
+            d.lb->header()->sectionSize(0) - 2);
+}
+
 TEST_F(ButtonFaceEditor, RowsAreAsHighAsTheTallestPictureUpToForty) {
   TVRXImageListContainer container(&form);
   for (TImageList* list : {small, tall})
@@ -198,6 +229,24 @@ TEST_F(ButtonFaceEditor, EveryActionChangesTheFaceAndKeepsTheRow) {
   EXPECT_EQ(d.Face(), face) << "without a row nothing is done";
 }
 
+TEST_F(ButtonFaceEditor, ThePicturesOfTheChooserHaveTheFocus) {
+  int list = 0, image = 0;
+  modal::NextOf<TVRXImageListDlg>([](TVRXImageListDlg& d) {
+    EXPECT_EQ(d.focusWidget(), d.images[0]);
+    EXPECT_EQ(d.images[0]->currentRow(), 0) << "there was none";
+    QTest::keyClick(d.images[0], Qt::Key_Return);
+  });
+  EXPECT_TRUE(VRXCPGetIML(*small, list, image));
+  EXPECT_EQ(std::pair(list, image), std::pair(1, 0));
+  image = 1;
+  modal::NextOf<TVRXImageListDlg>([](TVRXImageListDlg& d) {
+    QTest::keyClick(d.images[0], Qt::Key_Right);
+    QTest::keyClick(d.images[0], Qt::Key_Return);
+  });
+  EXPECT_TRUE(VRXCPGetIML(*small, list, image));
+  EXPECT_EQ(std::pair(list, image), std::pair(1, 2));
+}
+
 TEST_F(ButtonFaceEditor, ChoosesAmongTheListsOfAContainer) {
   TVRXImageListContainer container(&form);
   for (TImageList* list : {small, static_cast<TImageList*>(nullptr), tall})
@@ -216,7 +265,10 @@ TEST_F(ButtonFaceEditor, ChoosesAmongTheListsOfAContainer) {
   EXPECT_FALSE(VRXCPGetIML(container, list, image)) << "nothing else was chosen";
   // A picture that is not there any more stays until another one is chosen.
   image = 7;
-  modal::NextOf<TVRXImageListDlg>([](TVRXImageListDlg& d) { d.accept(); });
+  modal::NextOf<TVRXImageListDlg>([](TVRXImageListDlg& d) {
+    fields::TabThrough(d);
+    d.accept();
+  });
   EXPECT_FALSE(VRXCPGetIML(container, list, image));
   EXPECT_EQ(std::pair(list, image), std::pair(3, 7));
 }
@@ -348,6 +400,7 @@ TEST_F(ButtonFaceEditor, AListIsChosenWhereThereIsNone) {
   TVRXButtonFaceControllerEditor controllerEditor(&controller, &designer2);
   const auto choose = [&](TComponentEditor& which, int verb, const char* name, bool ok) {
     modal::NextOf<TVRXImageListDlg>([=](TVRXImageListDlg& d) {
+      EXPECT_FALSE(d.images[0]->isVisible() || d.images[1]->isVisible()) << "the list alone is taken";
       d.lists->setCurrentIndex(d.lists->findText(QString::fromLatin1(name), Qt::MatchStartsWith));
       ok ? d.accept() : d.reject();
     });

@@ -63,7 +63,7 @@ constexpr TabRow TabRows[] = {
      "largebtn largelbx ok cancel"},
     {"TVRXControlFaceEditorDlg", 0,
      "btnLoad btnSave btnAddState remove clear controllerStateList stateObjectList VRXSpeedButton1 "
-     "VRXSpeedButton2 VRXSpeedButton4 VRXSpeedButton3 btnProp btnAddFont btnAddFont3D btnAddFontFx "
+     "VRXSpeedButton2 VRXSpeedButton3 VRXSpeedButton4 btnProp btnAddFont btnAddFont3D btnAddFontFx "
      "btnAddFillObject btnAddBitmapEffect btnAddBevel btnAddColor btnAddStyles controllerObjectsList "
      "edFilePath btnBrowse btnOk btnCancel"},
     {"TVRXControlFaceEditorDlgAddState", 0, "notUsedStates btnAll btnNone btnOk btnCancel"},

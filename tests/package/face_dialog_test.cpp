@@ -14,6 +14,7 @@
 #include "package/property_editors/pVRXCPGetMain.h"
 #include "rtl/Registry.h"
 #include "tests/package/ListEditorTest.h"
+#include "vcl/Theme.h"
 
 namespace {
 using Dlg = TVRXControlFaceEditorDlg;
@@ -134,7 +135,7 @@ void Rename(Dlg& d, int row, const QString& name) {
   EXPECT_EQ(field->text(), list->topLevelItem(row)->text(0));
   field->setText(name);
   QTest::keyClick(field, Qt::Key_Return);
-  QCoreApplication::processEvents();
+  for (int i = 0; i < 3; ++i) QCoreApplication::processEvents();
 }
 }  // namespace
 
@@ -156,7 +157,8 @@ TEST_F(FaceDialog, ShowsACopyAndSelectsTheFirstState) {
   EXPECT_EQ(Text(Rows(d.stateObjectList)), "Big");
   EXPECT_EQ(Text(Rows(d.controllerObjectsList)), "Big|Color1|Bevel1");
   EXPECT_EQ(Text(Rows(d.controllerObjectsList, 1)), "TFont|TVRXColorObject|TVRXBevel");
-  EXPECT_EQ(Text(Rows(d.controllerObjectsList, 2)), "{Nowhere-17-clMaroon}|clBtnFace|");
+  EXPECT_EQ(Text(Rows(d.controllerObjectsList, 2)),
+            "{Nowhere-17-clMaroon}|clBtnFace|Inner bvNone, Outer bvNone");
   d.controllerStateList->setCurrentRow(1);
   EXPECT_EQ(Text(Rows(d.stateObjectList)), "Color1");
   AddStates(d, {"Pressed"});
@@ -370,6 +372,93 @@ TEST_F(FaceDialog, RenamesInPlaceAndStatesFollow) {
   EXPECT_EQ(prompts.informed.size(), 1);
 }
 
+namespace {
+// Answers with the message boxes that a person sees.
+struct RealPrompts {
+  explicit RealPrompts(IPrompts& own) : own_(own) { SetPrompts(nullptr); }
+  ~RealPrompts() { SetPrompts(&own_); }
+  IPrompts& own_;
+};
+}  // namespace
+
+TEST_F(FaceDialog, ANameThatIsThereIsToldOnceAndTheRowHasTheFocusAgain) {
+  TVRXFaceController face(nullptr);
+  FillFace(face);
+  Dlg d(nullptr);
+  d.Edit(face);
+  fields::ShowActive(d);
+  const RealPrompts real(prompts);
+  for (const bool clicksOk : {false, true}) {
+    d.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&d));
+    int boxes = 0;
+    QTimer answers;
+    QObject::connect(&answers, &QTimer::timeout, [&] {
+      auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+      if (!box) return;
+      ++boxes;
+      EXPECT_EQ(box->text(), QStringLiteral("This name exists in object list already!"));
+      box->accept();
+    });
+    answers.start(0);
+    QTreeWidget* list = d.controllerObjectsList;
+    list->setFocus();
+    list->setCurrentItem(list->topLevelItem(1));
+    QTest::keyClick(list, Qt::Key_F2);
+    auto* field = qobject_cast<QLineEdit*>(QApplication::focusWidget());
+    ASSERT_NE(field, nullptr);
+    field->setText(QStringLiteral("Bevel1"));
+    if (clicksOk)
+      QTest::mousePress(d.btnOk, Qt::LeftButton);
+    else
+      QTest::keyClick(field, Qt::Key_Return);
+    for (int i = 0; i < 5; ++i) QCoreApplication::processEvents();
+    EXPECT_EQ(boxes, 1);
+    EXPECT_FALSE(d.btnOk->isDown());
+    EXPECT_TRUE(d.isVisible());
+    EXPECT_EQ(d.focusWidget(), list);
+    EXPECT_EQ(list->indexOfTopLevelItem(list->currentItem()), 1);
+    EXPECT_EQ(Text(Rows(list)), "Font1|Color1|Bevel1");
+  }
+}
+
+TEST_F(FaceDialog, ASavedNameWithoutAnEndingDoesNotReplaceAFileUnasked) {
+  QTemporaryDir folder;
+  const QString file = folder.filePath(QStringLiteral("mine.fcstates"));
+  QFile there(file);
+  ASSERT_TRUE(there.open(QIODevice::WriteOnly));
+  there.write("mine");
+  there.close();
+  Dlg d(nullptr);
+  fields::ShowActive(d);
+  d.edFilePath->setText(folder.path());
+  const RealPrompts real(prompts);
+  modal::NextOf<QFileDialog>([](QFileDialog& dialog) {
+    auto* name = dialog.findChild<QLineEdit*>();
+    EXPECT_EQ(name->text(), QStringLiteral("*.fcstates"));
+    name->setText(QStringLiteral("mine"));
+    modal::NextOf<QMessageBox>([](QMessageBox& box) { box.button(QMessageBox::No)->click(); });
+    QTest::keyClick(name, Qt::Key_Return);
+    EXPECT_TRUE(dialog.isVisible());
+    dialog.reject();
+  });
+  Click(d.btnSave);
+  ASSERT_TRUE(there.open(QIODevice::ReadOnly));
+  EXPECT_EQ(there.readAll(), QByteArray("mine"));
+}
+
+TEST_F(FaceDialog, RowsWithMarksStandApart) {
+  ApplyTheme(TTheme::Light);
+  AddDlg add(nullptr);
+  add.SetUsedStates({});
+  fields::ShowActive(add);
+  const auto height = [&](int row) {
+    return add.notUsedStates->visualItemRect(add.notUsedStates->item(row)).height();
+  };
+  const QStyle& style = *add.notUsedStates->style();
+  EXPECT_GE(height(1), style.pixelMetric(QStyle::PM_IndicatorHeight, nullptr, add.notUsedStates) + 4);
+}
+
 TEST_F(FaceDialog, EditsAnObjectFromBothLists) {
   TVRXFaceController face(nullptr);
   FillFace(face);
@@ -466,12 +555,12 @@ TEST_F(FaceDialog, SavesAndLoadsBothFiles) {
                                      statesFilter);
   EXPECT_TRUE(prompts.warned.isEmpty());
   prompts.asked.clear();
-  prompts.file = folder.filePath(QStringLiteral("mine"));
+  prompts.file = folder.filePath(QStringLiteral("mine.fcstates"));
   Click(d.btnSave);
+  prompts.file = folder.filePath(QStringLiteral("mine.fcsettings"));
   Click(d.VRXSpeedButton2);
   EXPECT_EQ(QDir(folder.path()).entryList(QDir::Files).join(u' '),
-            QStringLiteral("mine.fcsettings mine.fcstates"))
-      << "the extensions are added";
+            QStringLiteral("mine.fcsettings mine.fcstates"));
   EXPECT_EQ(prompts.asked[1].toStdString(),
             "save " + path + "/*.fcSettings|FaceController Settings (*.fcsettings) (*.fcsettings)");
 

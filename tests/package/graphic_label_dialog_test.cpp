@@ -59,9 +59,11 @@ TEST_F(GraphicLabelEditor, BeginsWithItsSample) {
 }
 
 TEST_F(GraphicLabelEditor, ShowsEveryValueOfTheLabel) {
+  label.SetAutoSize(false);
   D dialog(nullptr);
   dialog.SetValue(label);
-  EXPECT_EQ(ValuesOf(*dialog.test), ValuesOf(label));
+  EXPECT_EQ(Changed(ValuesOf(label), ValuesOf(*dialog.test)), "Caption=Aaaaaaaaaaaaaaa")
+      << "a sample in place of the label's own caption";
   EXPECT_EQ(dialog.ComboBoxTransform->currentText(), QStringLiteral("tmChair"));
   EXPECT_EQ(dialog.ComboBoxTransform->currentIndex(), 7);
   EXPECT_EQ(dialog.ComboBoxTransform->count(), 18);
@@ -130,6 +132,7 @@ TEST_F(GraphicLabelEditor, EachControlWritesItsValueAtOnceAndNoOther) {
       {[](D& d) { d.CheckBoxToggled->click(); }, "TransAttr=[taPerspective,taToggled,taEqualLetters]"},
   };
   label.SetAutoSize(false);
+  const QStringList own = ValuesOf(label);
   for (const Row& row : rows) {
     SCOPED_TRACE(row.value);
     D dialog(nullptr);
@@ -146,7 +149,7 @@ TEST_F(GraphicLabelEditor, EachControlWritesItsValueAtOnceAndNoOther) {
     if (!QByteArray(row.value).startsWith("Toggle") && !QByteArray(row.value).startsWith("Name")) {
       EXPECT_NE(Draw(*dialog.test, Qt::white), picture);
     }
-    EXPECT_EQ(ValuesOf(label), before) << "the label itself is left alone";
+    EXPECT_EQ(ValuesOf(label), own) << "the label itself is left alone";
   }
 }
 
@@ -174,6 +177,45 @@ TEST_F(GraphicLabelEditor, NumbersEndAtTheirLimits) {
   dialog.VRXFontSizeComboBox->setEditText(QString());
   dialog.VRXFontSizeComboBox->setEditText(QStringLiteral("0"));
   EXPECT_NE(dialog.test->Font()->Size(), 0);
+}
+
+TEST_F(GraphicLabelEditor, ASizeThatIsLeftEmptyComesBack) {
+  D dialog(nullptr);
+  dialog.SetValue(label);
+  fields::ShowActive(dialog);
+  dialog.pages->setCurrentIndex(2);
+  QLineEdit* field = dialog.VRXFontSizeComboBox->lineEdit();
+  const int height = dialog.test->Font()->Height();
+  for (const char* text : {"", "-", "0"}) {
+    dialog.VRXFontSizeComboBox->setFocus();
+    field->selectAll();
+    QTest::keyClick(field, Qt::Key_Delete);
+    QTest::keyClicks(field, QString::fromLatin1(text));
+    EXPECT_EQ(field->text(), QString::fromLatin1(text));
+    QTest::keyClick(field, Qt::Key_Tab);
+    EXPECT_FALSE(dialog.VRXFontSizeComboBox->hasFocus());
+    EXPECT_EQ(field->text(), QStringLiteral("21")) << text;
+    EXPECT_EQ(dialog.test->Font()->Height(), height);
+  }
+}
+
+TEST_F(GraphicLabelEditor, AnAngleOverItsLimitBecomesTheLimit) {
+  D dialog(nullptr);
+  dialog.SetValue(label);
+  fields::ShowActive(dialog);
+  dialog.pages->setCurrentIndex(1);
+  fields::Type(*dialog.VRXSpinEditAngle, QStringLiteral("400"));
+  EXPECT_EQ(dialog.VRXSpinEditAngle->text(), QStringLiteral("360"));
+  EXPECT_EQ(dialog.test->FontFX()->Angle(), 360);
+  dialog.pages->setCurrentIndex(3);
+  fields::Type(*dialog.VRXSpinEditPerspectiveDepth, QStringLiteral("7777"));
+  EXPECT_EQ(dialog.test->Get(G::PerspectiveDepth), 1000);
+}
+
+TEST_F(GraphicLabelEditor, ThePagesFillTheirSide) {
+  D dialog(nullptr);
+  fields::ShowActive(dialog);
+  EXPECT_LE(dialog.pages->parentWidget()->height() - dialog.pages->geometry().bottom(), 16);
 }
 
 TEST_F(GraphicLabelEditor, BothButtonsOpenTheFill) {
@@ -226,6 +268,23 @@ TEST_F(GraphicLabelEditor, WithoutATouchOkChangesNothing) {
   EXPECT_TRUE(VRXCPGetGraphicLabel(label));
   EXPECT_EQ(ValuesOf(label), before);
   EXPECT_EQ(label.BoundsRect(), QRect(17, 23, 99, 44));
+  // The sample is another size, which is the preview's alone.
+  for (const bool fits : {true, false}) {
+    label.SetAutoSize(fits);
+    label.Set(G::Alignment, TAlignment::taRightJustify);
+    label.SetAnchors({TAnchorKind::akRight, TAnchorKind::akBottom});
+    const QRect bounds = label.BoundsRect();
+    const QStringList now = ValuesOf(label);
+    modal::NextOf<D>([&](D& dialog) {
+      EXPECT_EQ(dialog.test->BoundsRect().size() != bounds.size(), fits);
+      dialog.VRXSpinEditAngle->setValue(40);
+      dialog.VRXSpinEditAngle->setValue(15);
+      dialog.ButtonOK->click();
+    });
+    EXPECT_TRUE(VRXCPGetGraphicLabel(label));
+    EXPECT_EQ(Changed(now, ValuesOf(label)), "");
+    EXPECT_EQ(label.BoundsRect(), bounds);
+  }
 }
 
 namespace {

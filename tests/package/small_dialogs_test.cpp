@@ -177,6 +177,36 @@ TEST(ImageListDialogs, ChooseAListAndPicturesOfIt) {
   EXPECT_EQ(index0, -1);
 }
 
+TEST(ImageListDialogs, AnotherListThatHasThePictureKeepsIt) {
+  TForm form(nullptr);
+  FakeDesigner designer(&form);
+  TImageList* first = NewList(form, "First", {Plain(Qt::red), Plain(Qt::green), Plain(Qt::blue)});
+  TImageList* second = NewList(form, "Second", {Plain(Qt::red), Plain(Qt::green)});
+  TCustomImageList* list = nullptr;
+  int index = 1;
+  modal::NextOf<TVRXImageListDlg>([](auto& dialog) {
+    dialog.lists->setCurrentIndex(2);
+    EXPECT_EQ(dialog.images[0]->currentRow(), 1);
+    dialog.accept();
+  });
+  EXPECT_TRUE(VRXCPGetIML(designer, list, index));
+  EXPECT_EQ(list, second);
+  EXPECT_EQ(index, 1);
+  modal::NextOf<TVRXImageListDlg>([](auto& dialog) {
+    dialog.lists->setCurrentIndex(0);
+    dialog.lists->setCurrentIndex(1);
+    EXPECT_EQ(dialog.images[0]->currentRow(), 1) << "also behind none";
+    dialog.images[0]->setCurrentRow(0);
+    dialog.lists->setCurrentIndex(2);
+    EXPECT_EQ(dialog.images[0]->currentRow(), 0) << "what was chosen last";
+    dialog.lists->setCurrentIndex(1);
+    dialog.accept();
+  });
+  EXPECT_TRUE(VRXCPGetIML(designer, list, index));
+  EXPECT_EQ(list, first);
+  EXPECT_EQ(index, 0);
+}
+
 TEST(ImageListDialogs, AFormWithoutListsSaysSo) {
   TForm form(nullptr);
   FakeDesigner designer(&form);
