@@ -12,6 +12,7 @@
 #include "bench/Measure.h"
 #include "bench/PaintTasks.h"
 #include "bench/PixelTasks.h"
+#include "bench/StyleTasks.h"
 #include "bench/Tasks.h"
 #include "bench/WindowTasks.h"
 
@@ -24,6 +25,7 @@ const std::map<QString, void (*)(const QString&, const QString&)>& TaskTable() {
       {QStringLiteral("window"), MeasureWindow},      {QStringLiteral("paint"), MeasurePaint},
       {QStringLiteral("html"), MeasureHtml},          {QStringLiteral("dates"), MeasureDates},
       {QStringLiteral("bars"), MeasureBars},          {QStringLiteral("label"), MeasureGraphicLabel},
+      {QStringLiteral("styles"), MeasureStyles},
   };
   return table;
 }
@@ -72,6 +74,13 @@ constexpr PairRow BarRows[] = {
 constexpr PairRow LabelRows[] = {
     {"label", "Paint a bent text with fill, line and shadow: time / its outline filled once", "at most 3"},
 };
+constexpr PairRow StyleRows[] = {
+    {"register", "Register the classes of 5,000 components / walk their published properties once",
+     "at most 2"},
+    {"apply", "Apply a style of six values to 10,000 fields / call the setters", "at most 2"},
+    {"open", "Open the style editor on 1,000 styles of 20 values / fill a tree of as many items",
+     "at most 2"},
+};
 constexpr PairRow DateRows[] = {
     {"dates", "Open the list of 100,000 dates / fill a standard item model with their texts", "at most 3"},
 };
@@ -104,6 +113,7 @@ class Bench {
       Html();
       Dates();
       Label();
+      Styles();
     }
     Pixels();
   }
@@ -231,6 +241,7 @@ class Bench {
   void Bars() { Alone(BarRows, {QStringLiteral("bars"), {}, {}}); }
   void Html() { Alone(HtmlRows, {QStringLiteral("html"), {}, {}}); }
   void Dates() { Alone(DateRows, {QStringLiteral("dates"), {}, {}}); }
+  void Styles() { Alone(StyleRows, {QStringLiteral("styles"), {}, {}}); }
   void Label() { Alone(LabelRows, {QStringLiteral("label"), {}, {}}); }
 
   void Pixels() {

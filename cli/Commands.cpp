@@ -42,6 +42,18 @@ const std::vector<CommandRow>& CommandTable() {
        "says why, and nothing is written. The clipboard is a file: paste reads it, copy and\n"
        "cut write it; without --clipboard it is standard input and output.",
        DoCommand},
+      {"style",
+       "list|export|import|apply FORM... [--manager NAME] [--style PATH] [--class CLASS] [--from FILE] [-o "
+       "FILE] "
+       "[--dry-run]",
+       "Works on the styles that style managers of forms hold. list prints their paths, with\n"
+       "--style what one says; export writes them to the style file -o; import puts those of\n"
+       "the style file --from into forms; apply gives the style --style to all components of\n"
+       "the class --class, or of the last class in its path, from the style file --from or\n"
+       "from the form's own manager. import and apply work on all cores and replace each\n"
+       "form as a whole; --dry-run prints the lines that would change instead. What does not\n"
+       "fit a component is told, the rest is set, and the exit code is 1.",
+       StyleCommand},
       {"actions", "[--json]", "Lists the actions and what they do.", ActionsCommand},
       {"package", "[PACKAGE] [--json]",
        "Prints the description record of a package, without running its code. PACKAGE is\n"

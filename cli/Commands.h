@@ -57,4 +57,5 @@ int PackageCommand(const QStringList& arguments, Console& console);
 int DescribeCommand(const QStringList& arguments, Console& console);
 int Effect3DCommand(const QStringList& arguments, Console& console);
 int RegionCommand(const QStringList& arguments, Console& console);
+int StyleCommand(const QStringList& arguments, Console& console);
 int RegistrationsCommand(const QStringList& arguments, Console& console);

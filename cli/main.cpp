@@ -19,11 +19,15 @@ int main(int argc, char** argv) {
     if (type == QtCriticalMsg || type == QtFatalMsg)
       std::fprintf(TakeStandardError(), "vrx: %s\n", qPrintable(Printable(text)));
   });
-  QApplication app(argc, argv);
+  // Qt takes options of its own out of the words ("--style"); all of ours are ours.
+  QStringList words;
+  for (int i = 1; i < argc; ++i) words << QString::fromLocal8Bit(argv[i]);
+  int own = 1;
+  QApplication app(own, argv);
   app.setProperty("vrxNoDisplay", !display);
   ApplyTheme(TTheme::Light);
   QTextStream out(stdout);
   QTextStream err(messages);
   Console console{out, err};
-  return RunVrx(app.arguments().mid(1), console);
+  return RunVrx(words, console);
 }

@@ -6,6 +6,7 @@
 #include "ide/Tiles.h"
 #include "ide/operations/Places.h"
 #include "rtl/Exceptions.h"
+#include "rtl/HiddenIcon.h"
 #include "vcl/Book.h"
 #include "vcl/DropDown.h"
 #include "vcl/FormFrame.h"
@@ -43,12 +44,7 @@ void FormSurface::TakeChange(const FormChange& change) {
     action_ = Action::None;
     grabbed_ = target_ = nullptr;
     starts_.clear();
-    icons_.clear();
-    if (session_) {
-      ArrangePages(session_->Form());
-      for (TComponent* c : session_->Form().Components())
-        if (HasTile(*session_, *c)) icons_.push_back(c);
-    }
+    if (session_) ArrangePages(session_->Form());
   }
   // Controls show values of their actions, and pictures of the lists that what they refer to refers to.
   QSet<const TComponent*> asked;
@@ -62,12 +58,22 @@ void FormSurface::TakeChange(const FormChange& change) {
   };
   for (const TComponent* c : change.values) touchHolders(*c);
   const auto icon = [](const TComponent* c) { return HasIcon(*c); };
+  const bool icons = change.structure || std::any_of(change.values.begin(), change.values.end(), icon);
+  if (icons) ListIcons();
   if (sizeHint() != minimumSize())
     UpdateSize();
-  else if (change.structure || std::any_of(change.values.begin(), change.values.end(), icon))
+  else if (icons)
     update();
   else
     UpdateFrames();
+}
+
+// An icon may be hidden, or come back.
+void FormSurface::ListIcons() {
+  icons_.clear();
+  if (!session_) return;
+  for (TComponent* c : session_->Form().Components())
+    if (HasTile(*session_, *c)) icons_.push_back(c);
 }
 
 // A control paints within what it covers.
@@ -142,12 +148,14 @@ void FormSurface::SetRect(TComponent& c, const QRect& r) {
 QRect FormSurface::FormRectOf(const TComponent& c) const {
   const TForm& form = session_->Form();
   const QMargins m = form.FrameMargins();
-  if (&c == &form) return QRect({-m.left(), -m.top()}, form.OuterSize());
+  const QRect whole({-m.left(), -m.top()}, form.OuterSize());
+  if (&c == &form) return whole;
   if (auto* item = As<TMenuItem>(const_cast<TComponent*>(&c)))
     if (const auto menu = OpenMenu())
       if (const QRect cell = menu->RectOf({item->Around(), item}); !cell.isNull())
         return cell.translated(MenuOrigin());
-  return FormPlaceOf(ShownFor(*session_, c));
+  const TComponent& shown = ShownFor(*session_, c);
+  return &shown == &form ? whole : FormPlaceOf(shown);
 }
 
 QRect FormSurface::WidgetRect(const TComponent& c) const {
@@ -224,9 +232,13 @@ bool FormSurface::event(QEvent* event) {
 void FormSurface::WalkSelection(int step) {
   const auto all = session_->AllComponents();
   const auto selected = session_->SelectedComponents();
-  const auto at = std::find(all.begin(), all.end(), selected.front());
+  const auto from = std::find(all.begin(), all.end(), selected.front()) - all.begin();
   const auto count = static_cast<std::ptrdiff_t>(all.size());
-  session_->Select({all[static_cast<std::size_t>(((at - all.begin()) + step + count) % count)]});
+  const auto after = [&](std::ptrdiff_t i) { return (i + step + count) % count; };
+  // The form is always in sight.
+  auto to = after(from);
+  while (HasHiddenIcon(*all[static_cast<std::size_t>(to)])) to = after(to);
+  session_->Select({all[static_cast<std::size_t>(to)]});
 }
 
 void FormSurface::Nudge(int dx, int dy, bool resize) {

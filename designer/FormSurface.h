@@ -96,6 +96,7 @@ class FormSurface : public QWidget {
   void PaintDrag(QPainter& p) const;
   void UpdateSize();
   void TakeChange(const FormChange& change);
+  void ListIcons();
   void Touch(const TControl& control);
   QRect FrameRect(const TComponent& component) const;
   void UpdateFrames();

@@ -148,8 +148,10 @@ void FormSurface::PaintSelection(QPainter& p) {
   else
     frames_ = rect();
   p.setRenderHint(QPainter::Antialiasing, false);
+  const QRect form = WidgetRect(session_->Form());
   for (const TComponent* c : selected) {
-    if (c == session_->GetRoot()) continue;
+    // The form, and what is hidden, stand for nothing in it.
+    if (WidgetRect(*c) == form) continue;
     p.setPen(QPen(accent, 1));
     p.setBrush(Qt::NoBrush);
     p.drawRect(WidgetRect(*c).adjusted(0, 0, -1, -1));

@@ -172,11 +172,24 @@ TPackageCall DesignRegistry::CallFrom(const TRegistration* row, const QByteArray
 
 std::vector<TPalettePage> DesignRegistry::Pages(TRegistrationKind kind) const {
   std::vector<TPalettePage> pages;
+  // The unit of a package that registers most gives a page its place: one that only adds to another's page
+  // does not move it, whichever is called first.
+  QHash<std::pair<const void*, QByteArray>, int> calls;
+  for (const TRegistration& row : rows_)
+    if (row.Kind == kind) ++calls[{row.Package, row.Procedure}];
+  const auto weight = [&](const TRegistration& row) { return calls[{row.Package, row.Procedure}]; };
+  QHash<QString, const TRegistration*> main;
   for (const TRegistration& row : rows_) {
     if (row.Kind != kind) continue;
-    auto page =
+    const TRegistration*& first = main[row.PageOrCategory];
+    if (!first || weight(*first) < weight(row)) first = &row;
+  }
+  for (const TRegistration& row : rows_)
+    if (row.Kind == kind && main[row.PageOrCategory] == &row) pages.push_back({row.PageOrCategory, {}});
+  for (const TRegistration& row : rows_) {
+    if (row.Kind != kind) continue;
+    const auto page =
         std::find_if(pages.begin(), pages.end(), [&](const auto& p) { return p.Name == row.PageOrCategory; });
-    if (page == pages.end()) page = pages.insert(pages.end(), TPalettePage{row.PageOrCategory, {}});
     for (const TClass* cls : row.Classes)
       if (std::find(page->Classes.begin(), page->Classes.end(), cls) == page->Classes.end())
         page->Classes.push_back(cls);

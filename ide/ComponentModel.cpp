@@ -4,6 +4,7 @@
 #include <QPalette>
 
 #include "designintf/ComponentIcons.h"
+#include "rtl/HiddenIcon.h"
 
 ComponentModel::ComponentModel(Shape shape, QObject* parent) : QAbstractItemModel(parent), shape_(shape) {}
 
@@ -26,8 +27,13 @@ void ComponentModel::Take(const FormChange& change) {
     endResetModel();
     return;
   }
-  for (const TComponent* c : change.renamed)
+  const auto tell = [this](const TComponent* c) {
     if (const QModelIndex i = IndexOf(*c); i.isValid()) emit dataChanged(i, i);
+  };
+  for (const TComponent* c : change.renamed) tell(c);
+  // Icons are hidden and come back.
+  for (const TComponent* c : change.values)
+    if (!As<TControl>(c)) tell(c);
 }
 
 void ComponentModel::List() {
@@ -76,6 +82,10 @@ QVariant ComponentModel::data(const QModelIndex& index, int role) const {
   if (const forms::Object* o = ObjectAt(index); o->parent && o->kind == forms::ObjectKind::Inherited) {
     if (role == Qt::ForegroundRole) return QGuiApplication::palette().brush(QPalette::PlaceholderText);
     if (role == Qt::ToolTipRole || role == Qt::AccessibleDescriptionRole) return tr("inherited");
+  }
+  if (HasHiddenIcon(*c)) {
+    if (role == Qt::ForegroundRole) return QGuiApplication::palette().brush(QPalette::PlaceholderText);
+    if (role == Qt::ToolTipRole || role == Qt::AccessibleDescriptionRole) return tr("hidden on the form");
   }
   if (role != Qt::DisplayRole) return {};
   const QString cls = QString::fromUtf8(c->StreamClassName());

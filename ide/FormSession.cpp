@@ -5,7 +5,7 @@
 #include "designintf/ComponentEditor.h"
 #include "designintf/DesignWindow.h"
 #include "forms/FormFile.h"
-#include "ide/VerbTitle.h"
+#include "designintf/VerbTitle.h"
 #include "rtl/Exceptions.h"
 #include "rtl/PropAccess.h"
 

@@ -1,10 +1,11 @@
 #include "ide/Tiles.h"
 
 #include "designintf/ComponentTile.h"
+#include "rtl/HiddenIcon.h"
 #include "vcl/FormFrame.h"
 
 bool HasTile(const FormSession& session, const TComponent& component) {
-  if (As<TControl>(&component)) return false;
+  if (As<TControl>(&component) || HasHiddenIcon(component)) return false;
   const forms::Object* object = session.ObjectOf(component);
   return object && object->parent && !object->parent->parent;
 }

@@ -2,7 +2,8 @@
 #pragma once
 #include "ide/FormSession.h"
 
-// Parts of another component (the items of a menu, the fields of a query) have no tile of their own.
+// Parts of another component (the items of a menu, the fields of a query) have no tile of their own, and what
+// is hidden (rtl/HiddenIcon.h) has none.
 bool HasTile(const FormSession& session, const TComponent& component);
 // The component whose tile or place stands for this one: itself, or the nearest around it.
 const TComponent& ShownFor(const FormSession& session, const TComponent& component);

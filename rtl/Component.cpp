@@ -100,6 +100,10 @@ void TComponent::InsertComponent(TComponent* component) {
   component->designing_ = component->designing_ || designing_;
   EnterName(*component);
   ComponentListed(*component, TOperation::opInsert);
+  // Whoever asked this one for its free notification hears of what comes, too; the list may change meanwhile.
+  if (loading_ || freeNotifies_.begin() == freeNotifies_.end()) return;
+  const std::vector<TComponent*> asked(freeNotifies_.begin(), freeNotifies_.end());
+  for (TComponent* c : asked) c->Notification(component, TOperation::opInsert);
 }
 
 void TComponent::DoChanging() {

@@ -95,6 +95,23 @@ void TRegistry::WriteString(const QString& name, const QString& value) {
 void TRegistry::WriteInteger(const QString& name, int value) { WriteString(name, QString::number(value)); }
 void TRegistry::WriteBool(const QString& name, bool value) { WriteInteger(name, value ? 1 : 0); }
 
+// In the file a text as others: "hex:" and the digits.
+namespace {
+const QString BinaryMark = QStringLiteral("hex:");
+}
+
+std::optional<QByteArray> TRegistry::ReadBinary(const QString& name) const {
+  const QString text = ReadString(name);
+  if (!text.startsWith(BinaryMark)) return {};
+  const QByteArray digits = text.sliced(BinaryMark.size()).toLatin1().toLower();
+  QByteArray bytes = QByteArray::fromHex(digits);
+  if (bytes.toHex() != digits) return {};
+  return bytes;
+}
+void TRegistry::WriteBinary(const QString& name, const QByteArray& value) {
+  WriteString(name, BinaryMark + QString::fromLatin1(value.toHex()));
+}
+
 bool TRegistry::DeleteValue(const QString& name) {
   const QString key = Find(settings_->childKeys(), name);
   if (key.isNull()) return false;

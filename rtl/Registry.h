@@ -4,6 +4,7 @@
 #include <QStringList>
 #include <QVariant>
 #include <memory>
+#include <optional>
 
 #include "rtl/Exceptions.h"
 
@@ -31,6 +32,9 @@ class TRegistry {
   void WriteString(const QString& name, const QString& value);
   void WriteInteger(const QString& name, int value);
   void WriteBool(const QString& name, bool value);
+  // Bytes of any kind. A value that is none of these, or is damaged, reads as nothing at all.
+  std::optional<QByteArray> ReadBinary(const QString& name) const;
+  void WriteBinary(const QString& name, const QByteArray& value);
   bool DeleteValue(const QString& name);
   void DeleteKey(const QString& key);
   QStringList ValueNames() const;

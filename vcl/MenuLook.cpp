@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QPainter>
 
+#include "rtl/PropAccess.h"
 #include "vcl/Action.h"
 #include "vcl/FormColors.h"
 #include "vcl/LineRect.h"
@@ -33,13 +34,20 @@ int ImageIndexOf(const TMenuItem& item) {
   const int own = item.Get(TMenuItem::ImageIndex);
   return own < 0 && action ? action->Get(TCustomAction::ImageIndex) : own;
 }
+// That of the menu, under the name that its class has for it.
+const TCustomImageList* ImagesOf(const TMenu& menu) {
+  if (const TCustomImageList* images = menu.Get(TMenu::Images)) return images;
+  const TPropInfo* own = menu.ClassType().FindProp("ImageList");
+  return own && IsComponentRef(*own) ? As<TCustomImageList>(GetObjectProp(const_cast<TMenu&>(menu), *own))
+                                     : nullptr;
+}
 // Its own picture, or that of the list that the menu or the item around it has.
 QImage PictureOf(const TMenuItem& item, const TMenu& menu) {
   if (item.IsKept(&TMenuItem::Bitmap) && !item.Get(TMenuItem::Bitmap)->Empty())
     return item.Get(TMenuItem::Bitmap)->Transparent();
   const auto* around = As<TMenuItem>(item.Around());
   const TCustomImageList* own = around ? around->Get(TMenuItem::SubMenuImages) : nullptr;
-  const TCustomImageList* images = own ? own : menu.Get(TMenu::Images);
+  const TCustomImageList* images = own ? own : ImagesOf(menu);
   return images ? images->Image(ImageIndexOf(item)) : QImage();
 }
 QColor Mixed(const QColor& a, const QColor& b) {

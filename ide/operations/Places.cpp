@@ -7,6 +7,7 @@
 #include "ide/Unknown.h"
 #include "rtl/ClassRegistry.h"
 #include "rtl/Exceptions.h"
+#include "rtl/HiddenIcon.h"
 #include "vcl/GridPanel.h"
 #include "vcl/PageBook.h"
 
@@ -31,7 +32,10 @@ void SetPlace(TComponent& c, const QRect& r) {
     if (auto* grid = As<TGridPanel>(control->Parent())) grid->MoveToCellAt(*control, r.center());
     return;
   }
-  const auto word = [](int v) { return static_cast<std::int16_t>(std::clamp<int>(v, INT16_MIN, INT16_MAX)); };
+  // Nothing is hidden by being moved.
+  const auto word = [](int v) {
+    return static_cast<std::int16_t>(std::clamp<int>(v, HiddenIconAt + 1, INT16_MAX));
+  };
   c.SetDesignInfo(DesignWordOf({word(r.left()), word(r.top())}));
 }
 

@@ -65,6 +65,13 @@ TVRXFaceLook TVRXFaceController::LookIn(TVRXStateKinds kinds) const {
   return look;
 }
 
+void TVRXFaceLook::Take(TVRXCFCSettingObjectKind kind, std::shared_ptr<const TPersistent> object,
+                        bool forDisabled) {
+  objects_[static_cast<std::size_t>(kind)] = object.get();
+  if (kind == okFont) fontOfDisabled_ = forDisabled;
+  own_.push_back(std::move(object));
+}
+
 TColor TVRXFaceLook::Color(TColor own) const {
   const auto* color = static_cast<const TVRXColorObject*>(Of(okColor));
   return color ? color->Get(TVRXColorObject::Color) : own;

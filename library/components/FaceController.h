@@ -1,6 +1,8 @@
 // Gives controls another look in each of their states: a list of named setting objects, and states that say
 // which of them apply. Controls refer to the controller; one serves any number of them.
 #pragma once
+#include <memory>
+
 #include "library/values/FaceObjects.h"
 #include "rtl/Component.h"
 
@@ -25,6 +27,9 @@ class TVRXFaceLook {
   // Paints that; nothing when it says nothing.
   void PaintGround(TCanvas& canvas, const QPainterPath& area) const;
   void PaintGround(TCanvas& canvas, const QRect& rect) const;
+  // Takes an object of its own in the place of what it has of the kind. Letters of what is disabled have the
+  // colour of a font that is meant for them.
+  void Take(TVRXCFCSettingObjectKind kind, std::shared_ptr<const TPersistent> object, bool forDisabled);
   // What the look has for a kind; null for nothing.
   const TPersistent* Of(TVRXCFCSettingObjectKind kind) const {
     return objects_[static_cast<std::size_t>(kind)];
@@ -38,6 +43,7 @@ class TVRXFaceLook {
     return object ? *object : own;
   }
   std::array<const TPersistent*, VRXSettingKindCount> objects_{};
+  std::vector<std::shared_ptr<const TPersistent>> own_;
   bool fontOfDisabled_ = false;
 };
 

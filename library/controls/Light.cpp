@@ -1,5 +1,6 @@
 #include "library/controls/Light.h"
 
+#include "library/controls/Faced.h"
 #include "vcl/PropertyGroups.h"
 
 const TClass& TVRXCustomLight::StaticClass() {
@@ -21,10 +22,10 @@ const TClass& TVRXCustomLight::StaticClass() {
 }
 
 const TClass& TVRXLight::StaticClass() {
-  static const TClass cls(DescribeClass<TVRXLight>("TVRXLight", TVRXCustomLight::StaticClass())
-                              .PublishAll("Active", Placing, "Bevel", "Color", "Enabled", "LightColor",
-                                          "ParentColor", Hints, "Style", "Transparent", "Visible",
-                                          MouseEvents)
+  static const TClass cls(VRXWithStyles(DescribeClass<TVRXLight>("TVRXLight", TVRXCustomLight::StaticClass())
+                                            .PublishAll("Active", Placing, "Bevel", "Color", "Enabled",
+                                                        "LightColor", "ParentColor", Hints, "Style"))
+                              .PublishAll("Transparent", "Visible", MouseEvents)
                               .ClassDoc(QStringLiteral("A light that is on or off.")));
   return cls;
 }
@@ -55,7 +56,9 @@ QBrush Rim(const QRectF& r) {
 
 void TVRXCustomLight::Paint(TCanvas& canvas) {
   if (!Get(Transparent)) canvas.FillRect(ClientRect(), Color());
-  QRectF r = Bevel()->Draw(canvas, ClientRect()).adjusted(1, 1, -1, -1);
+  const TVRXFaceLook look = VRXFaceOf(*this);
+  look.PaintGround(canvas, ClientRect());
+  QRectF r = look.Bevel(*Bevel()).Draw(canvas, ClientRect()).adjusted(1, 1, -1, -1);
   const bool round = Get(Style) == TVRXLightStyle::ltRound;
   if (round) {
     const double side = std::min(r.width(), r.height());

@@ -6,6 +6,7 @@
 #include "rtl/Exceptions.h"
 #include "rtl/PropAccess.h"
 #include "rtl/PropText.h"
+#include "rtl/Strings.h"
 
 namespace {
 const QString ItemMark = QStringLiteral("item");
@@ -57,12 +58,37 @@ bool UnquotedText(QStringView quoted, QString& text) {
 }
 
 namespace {
+// "a", "b"
+QString QuotedTexts(const QStringList& texts) {
+  QStringList quoted;
+  for (const QString& text : texts) quoted << QuotedText(text);
+  return quoted.join(QStringLiteral(", "));
+}
+bool UnquotedTexts(QStringView quoted, QStringList& texts) {
+  texts.clear();
+  quoted = quoted.trimmed();
+  while (!quoted.isEmpty()) {
+    qsizetype end = 1;
+    while (end < quoted.size() && quoted[end] != u'"') end += quoted[end] == u'\\' ? 2 : 1;
+    QString text;
+    if (end >= quoted.size() || !UnquotedText(quoted.first(end + 1), text)) return false;
+    texts << text;
+    quoted = quoted.sliced(end + 1).trimmed();
+    if (quoted.isEmpty()) return true;
+    if (quoted.front() != u',') return false;
+    quoted = quoted.sliced(1).trimmed();
+    if (quoted.isEmpty()) return false;
+  }
+  return true;
+}
+
 QString TextOf(const TPersistent& object, const TPropInfo& prop) {
   if (prop.Is<QString>()) return QuotedText(GetStrProp(object, prop));
   if (prop.Is<QByteArray>()) return QString::fromLatin1(GetBinaryProp(object, prop).toBase64());
   return GetPropText(object, prop);
 }
 
+void CollectItems(const TCollection& items, const QString& name, QStringList& lines);
 void Collect(const TPersistent& object, const QString& prefix, QStringList& lines) {
   for (const TPropInfo* prop : object.ClassType().Properties()) {
     if (!IsStoredProp(object, *prop) || prop->Is<TReference>() || prop->IsEvent()) continue;
@@ -72,15 +98,19 @@ void Collect(const TPersistent& object, const QString& prefix, QStringList& line
       continue;
     }
     const TPersistent* part = GetObjectProp(object, *prop);
-    if (const auto* items = As<TCollection>(part)) {
-      for (int i = 0; i < items->Count(); ++i) {
-        const QString item = QStringLiteral("%1[%2]").arg(name).arg(i);
-        lines << item + QStringLiteral(" = ") + ItemMark;
-        Collect(*items->Item(i), item + u'.', lines);
-      }
-    } else {
+    if (const auto* texts = As<TStrings>(part))
+      lines << name + QStringLiteral(" = ") + QuotedTexts(texts->Lines());
+    else if (const auto* items = As<TCollection>(part))
+      CollectItems(*items, name, lines);
+    else
       Collect(*part, name + u'.', lines);
-    }
+  }
+}
+void CollectItems(const TCollection& items, const QString& name, QStringList& lines) {
+  for (int i = 0; i < items.Count(); ++i) {
+    const QString item = QStringLiteral("%1[%2]").arg(name).arg(i);
+    lines << item + QStringLiteral(" = ") + ItemMark;
+    Collect(*items.Item(i), item + u'.', lines);
   }
 }
 
@@ -108,6 +138,13 @@ TValueRead SetValue(TPersistent& object, const TPropInfo& prop, const QString& t
     SetBinaryProp(object, prop, *bytes);
     return TValueRead::Taken;
   }
+  if (auto* texts = prop.IsPart() ? As<TStrings>(GetObjectProp(object, prop)) : nullptr) {
+    QStringList lines;
+    if (!UnquotedTexts(text, lines))
+      Refuse(QStringLiteral("%1 needs texts in quotes").arg(QString::fromLatin1(prop.Name)));
+    texts->SetLines(lines);
+    return TValueRead::Taken;
+  }
   if (prop.Is<TReference>() || prop.IsEvent() || prop.IsPart() || !prop.IsWritable())
     return TValueRead::Foreign;
   try {
@@ -117,6 +154,12 @@ TValueRead SetValue(TPersistent& object, const TPropInfo& prop, const QString& t
     return TValueRead::Foreign;
   }
   return TValueRead::Taken;
+}
+
+std::pair<QStringView, QString> SplitLine(QStringView line) {
+  const qsizetype sign = line.indexOf(u'=');
+  if (sign < 0) Refuse(QStringLiteral("a value has no \"=\""));
+  return {line.left(sign).trimmed(), line.sliced(sign + 1).trimmed().toString()};
 }
 
 // What a step of a path leads to: "Colors[2]" to an item, "Bitmap" to a part.
@@ -136,7 +179,9 @@ std::vector<Step> StepsOf(QStringView path) {
   return steps;
 }
 
-TValueRead ReadAt(TPersistent& root, const std::vector<Step>& steps, const QString& text) {
+// `first`, when it is given, stands for the part that the first step leads to.
+TValueRead ReadAt(TPersistent& root, const std::vector<Step>& steps, const QString& text,
+                  TPersistent* first = nullptr) {
   TPersistent* object = &root;
   for (std::size_t i = 0;; ++i) {
     const TPropInfo* prop = object->ClassType().FindProp(steps[i].name);
@@ -144,7 +189,7 @@ TValueRead ReadAt(TPersistent& root, const std::vector<Step>& steps, const QStri
     const bool last = i + 1 == steps.size();
     if (last && steps[i].item < 0) return SetValue(*object, *prop, text);
     if (!prop->IsPart()) return TValueRead::Foreign;
-    object = GetObjectProp(*object, *prop);
+    object = i == 0 && first ? first : GetObjectProp(*object, *prop);
     if (steps[i].item < 0) continue;
     auto* items = As<TCollection>(object);
     if (!items) return TValueRead::Foreign;
@@ -168,7 +213,61 @@ QStringList ValueLines(const TPersistent& object) {
 }
 
 TValueRead ReadValueLine(TPersistent& object, QStringView line) {
-  const qsizetype sign = line.indexOf(u'=');
-  if (sign < 0) Refuse(QStringLiteral("a value has no \"=\""));
-  return ReadAt(object, StepsOf(line.left(sign).trimmed()), line.sliced(sign + 1).trimmed().toString());
+  const auto [path, value] = SplitLine(line);
+  return ReadAt(object, StepsOf(path), value);
+}
+
+QString ValueTextOf(const TPersistent& object, const TPropInfo& prop) {
+  if (!prop.IsPart()) return TextOf(object, prop);
+  const TPersistent* part = GetObjectProp(object, prop);
+  if (const auto* texts = As<TStrings>(part)) return QuotedTexts(texts->Lines());
+  const QString name = QString::fromLatin1(prop.Name);
+  QStringList lines;
+  if (const auto* items = As<TCollection>(part))
+    CollectItems(*items, name, lines);
+  else if (part)
+    Collect(*part, name + u'.', lines);
+  return lines.join(u'\n');
+}
+
+namespace {
+// Null for what exists as a part of its owner only.
+std::unique_ptr<TPersistent> FreshOf(const TPersistent& part) {
+  try {
+    return part.ClassType().NewPersistent();
+  } catch (const EComponentError&) {
+    return {};
+  }
+}
+}  // namespace
+
+TValueRead ReadValueText(TPersistent& object, const TPropInfo& prop, const QString& text,
+                         QStringList* foreign) {
+  TPersistent* const part = prop.IsPart() ? GetObjectProp(object, prop) : nullptr;
+  if (!part || As<TStrings>(part)) return SetValue(object, prop, text);
+  const auto read = [&](const QString& lines, TPersistent* into) {
+    for (const QString& line : lines.split(u'\n', Qt::SkipEmptyParts)) {
+      const auto [path, value] = SplitLine(line);
+      const std::vector<Step> steps = StepsOf(path);
+      const bool known =
+          steps[0].name == prop.Name && ReadAt(object, steps, value, into) == TValueRead::Taken;
+      if (!known && foreign) *foreign << line;
+    }
+  };
+  if (const std::unique_ptr<TPersistent> fresh = FreshOf(*part)) {
+    read(text, fresh.get());
+    part->Assign(fresh.get());
+    return TValueRead::Taken;
+  }
+  const QString before = ValueTextOf(object, prop);
+  const TUpdateLock lock(*part);
+  ResetProp(object, prop);
+  try {
+    read(text, part);
+  } catch (...) {
+    ResetProp(object, prop);
+    read(before, part);
+    throw;
+  }
+  return TValueRead::Taken;
 }

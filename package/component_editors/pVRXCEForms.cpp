@@ -2,6 +2,7 @@
 
 #include "dclstd/LinesDialog.h"
 #include "dclstd/PictureEditor.h"
+#include "designintf/ComponentVerbs.h"
 #include "library_design/DateTimeFormatDialog.h"
 #include "library_design/FillDialog.h"
 #include "library_design/Font3DDialog.h"
@@ -10,6 +11,7 @@
 #include "library_design/LookDialogs.h"
 #include "library_design/ValueDialogs.h"
 #include "package/component_editors/pVRXCEMain.h"
+#include "package/experts/pVRXHideNonVC.h"
 #include "package/property_editors/pVRXCPGetMain.h"
 
 namespace {
@@ -182,3 +184,10 @@ const TVRXLabelFillComponentEditor::Verbs TVRXLabelFillComponentEditor::Table = 
     ColorVerb<TVRXCustomLabelFill>("BrushBackColor"),
     ImageListVerb<TVRXCustomLabelFill>(),
 };
+
+const TVRXHideNonVCEditor::Verbs TVRXHideNonVCEditor::Table = {{"Editor", [](TVRXHideNonVC&) {}}};
+void TVRXHideNonVCEditor::ExecuteVerb(int index) {
+  if (auto* component = As<TVRXHideNonVC>(GetComponent()); component && GetDesigner() && index == 0)
+    TVRXHideNonVCfrm::Open(*component, *GetDesigner(), RegistryOf(*this));
+  TVerbEditor::ExecuteVerb(index);
+}

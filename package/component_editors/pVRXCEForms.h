@@ -4,6 +4,7 @@
 #include "library/components/FormShadow.h"
 #include "library/components/FormShape.h"
 #include "library/components/FormStyler.h"
+#include "library/components/HideNonVC.h"
 #include "library/components/ShapeHint.h"
 #include "library/controls/AniCtrl.h"
 #include "library/controls/Clock.h"
@@ -24,6 +25,12 @@ VRX_VERB_EDITOR(TVRXShadowComponentEditor, TVRXFormShadow);
 VRX_VERB_EDITOR(TVRXFormShapeComponentEditor, TVRXFormShape);
 VRX_VERB_EDITOR(TVRXScrollTextComponentEditor, TVRXScrollText);
 VRX_VERB_EDITOR(TVRXPanelShapeComponentEditor, TVRXPanelShape);
+
+// Opens the window that hides icons, whose entries have the menus of their own editors.
+class TVRXHideNonVCEditor : public TVerbEditor<TVRXHideNonVC> {
+  VRX_VERB_TABLE(TVRXHideNonVCEditor)
+  void ExecuteVerb(int index) override;
+};
 
 class TVRXWndButtonShapeComponentEditor : public TVerbEditor<TVRXWndButtonShape, TDefaultEditor> {
   VRX_VERB_TABLE(TVRXWndButtonShapeComponentEditor)

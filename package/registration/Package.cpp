@@ -5,13 +5,19 @@
 #include <string_view>
 
 #include "UnitNames.h"
+#include "package/experts/pVRXHideNonVC.h"
+#include "package/experts/pVRXRegOS.h"
 #include "package/registration/VRX_RegMain.h"
 #include "package/registration/VRX_RegMainEditors.h"
+#include "package/styles/pVRXStyleManProp.h"
 
 namespace {
 // What units do when the package is loaded and unloaded, and their Register procedures. All other units are
 // in the table by name, because it is what the IDE is told the package contains.
 constexpr TUnitEntry kWork[] = {
+    {"pVRXHideNonVC", nullptr, &TVRXHideNonVCfrm::Free, nullptr},
+    {"pVRXStyleManProp", &pVRXStyleManProp::Initialization, &pVRXStyleManProp::Finalization, nullptr},
+    {"pVRXRegOS", &pVRXRegOS::Initialization, &pVRXRegOS::Finalization, &pVRXRegOS::Register},
     {"VRX_RegMainEditors", nullptr, nullptr, &VRX_RegMainEditors::Register},
     {"VRX_RegMain", nullptr, nullptr, &VRX_RegMain::Register},
 };

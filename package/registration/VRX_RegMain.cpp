@@ -1,15 +1,24 @@
 #include "package/registration/VRX_RegMain.h"
 
 #include "designintf/RegistrationTable.h"
+#include "library/components/Alarm.h"
 #include "library/components/ButtonBarPopupMenu.h"
+#include "library/components/ClipboardMonitor.h"
+#include "library/components/Containers.h"
 #include "library/components/EditActions.h"
 #include "library/components/EditControlPrintTask.h"
+#include "library/components/EntryDialogs.h"
 #include "library/components/ExpressionEval.h"
 #include "library/components/FileDialogs.h"
+#include "library/components/FlyoutController.h"
 #include "library/components/FormComponent.h"
+#include "library/components/GlobalHotKey.h"
 #include "library/components/HiTimer.h"
+#include "library/components/HideNonVC.h"
+#include "library/components/PopupMenu.h"
 #include "library/components/RegExpr.h"
 #include "library/components/SendKeys.h"
+#include "library/components/TellingDialogs.h"
 #include "library/components/TitleItems.h"
 #include "library/controls/Assist.h"
 #include "library/controls/Button3D.h"
@@ -35,10 +44,12 @@
 #include "library/controls/ValueListBox.h"
 #include "library_design/pVRXCommon.h"
 #include "package/component_editors/pVRXCEBars.h"
+#include "package/component_editors/pVRXCEDialogs.h"
 #include "package/component_editors/pVRXCEForms.h"
 #include "package/component_editors/pVRXCEMain.h"
 #include "package/component_editors/pVRXCEPages.h"
 #include "package/property_editors/pVRXPeMain.h"
+#include "package/styles/pVRXCstMain.h"
 
 using namespace registration;
 
@@ -47,14 +58,15 @@ bool WithLabels() { return VRXEditorOption(TVRXEditorOption::LabeledVariants); }
 
 // Each page, and then the editors of what is on it.
 const Row kRows[] = {
-    Page("VRX Std", TellingClasses<TVRXFaceController, TVRXStaticText>()),
+    Page("VRX Std", TellingClasses<TVRXFaceController, TVRXStaticText, TVRXStyleManager>()),
+    Component<TVRXStyleManager, TVRXStyleManEditor>(),
     Component<TVRXFaceController, TVRXFaceControllerEditor>(),
 
     Page("VRX Ext",
          TellingClasses<TVRXAssist, TVRXClock, TVRXButtonBar, TVRXButtonBarPopupMenu, TVRXDlgButtonPanel,
                         TVRXNoteBook, TVRXCalendar, TVRXCalculator, TVRXCaptionPanelGroup, TVRXCaptionPanel,
                         TVRXHeaderPanel, TVRXHeaderPanelButton, TVRXHeader, TVRXTechnicalLine, TVRXClock,
-                        TVRXLEDLabel, TVRXSwitch, TVRXWSwitch, TVRXLight>()),
+                        TVRXLEDLabel, TVRXSwitch, TVRXWSwitch, TVRXLight, TVRXFlyoutController>()),
     Component<TVRXAssist, TVRXAssistComponentEditor>(),
     Component<TVRXAssistPage, TVRXAssistComponentEditor>(),
     Property<TVRXLED, TVRXLEDProperty>(),
@@ -76,10 +88,17 @@ const Row kRows[] = {
     Component<TVRXCaptionPanel, TVRXCaptionPanelGroupEditor>(),
     Hidden<bool, TVRXCaptionPanel>("AutoSize"),
 
-    Page("VRX Cont", TellingClasses<TVRXMMButtonFaceController>()),
+    Page("VRX Cont", TellingClasses<TVRXStackComponent, TVRXQueueComponent, TVRXListComponent,
+                                    TVRXMMButtonFaceController>()),
     Component<TVRXMMButtonFaceController, TVRXButtonFaceControllerEditor>(),
 
-    Page("VRX Dlg", TellingClasses<TVRXFormOpenDialog, TVRXFormSaveDialog>()),
+    Page("VRX Dlg",
+         TellingClasses<TVRXAboutDlg, TVRXDirDlg, TVRXTipDlg, TVRXMessageBoxDlg, TVRXInputDlg,
+                        TVRXCheckListDlg, TVRXCalendarDlg, TVRXCalculatorDlg, TVRXTextEditDlg,
+                        TVRXFormOpenDialog, TVRXFormSaveDialog, TVRXFormColorDialog, TVRXFormFontDialog,
+                        TVRXFormPageSetupDialog, TVRXFormPrinterSetupDialog, TVRXFormPrintCommDialog>()),
+    Component<TVRXMessageBoxDlg, TVRXMessageBoxComponentEditor>(),
+    Component<TVRXBaseDialog, TVRXExtDlgEditor>(),
 
     Page("VRX Edit", TellingClasses<TVRXCalendarEdit, TVRXCalculatorEdit, TVRXEditAutoComplete, TVRXTagEditor,
                                     TVRXEditControlPrintTask, TVRXDateTimePicker, TVRXFormComboBox>()),
@@ -118,7 +137,9 @@ const Row kRows[] = {
     Component<TVRXCustom3DButton, TVRXExtGraphicButtonComponentEditor>(),
     Component<TVRXCustomMMButton, TVRXExtGraphicButtonComponentEditor>(),
 
-    Page("VRX Sys", TellingClasses<TVRXSendKeys, TVRXRegExpr, TVRXExpressionEval>()),
+    Page("VRX Sys", TellingClasses<TVRXHideNonVC, TVRXAlarmComponent, TVRXSendKeys, TVRXGlobalHotKey,
+                                   TVRXPopupMenu, TVRXRegExpr, TVRXExpressionEval, TVRXClipboardMonitor>()),
+    Component<TVRXHideNonVC, TVRXHideNonVCEditor>(),
     Component<TVRXCustomShapeHint, TVRXShapeHintComponentEditor>(),
     Component<TVRXSendKeys, TVRXSendKeyComponentEditor>(),
 

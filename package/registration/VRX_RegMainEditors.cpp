@@ -2,8 +2,10 @@
 
 #include "dclstd/DialogRegistration.h"
 #include "library/components/FileDialogs.h"
+#include "library/components/PopupMenu.h"
 #include "library/components/RegExpr.h"
 #include "library/components/SpecialDates.h"
+#include "library/components/TellingDialogs.h"
 #include "library/components/TitleItems.h"
 #include "library/controls/Assist.h"
 #include "library/controls/Clock.h"
@@ -39,6 +41,7 @@
 #include "package/dialogs/pVRXValueListDlg.h"
 #include "package/dialogs/pVRXVldRegExpEditor.h"
 #include "package/property_editors/pVRXPeMain.h"
+#include "package/styles/pVRXStyleManProp.h"
 
 using namespace registration;
 
@@ -56,6 +59,9 @@ const Row kRows[] = {
                             {"FillSelectedItem", "FixedSectionLeftBorder", "FixedSectionRightBorder",
                              "FocusStyle", "LargeItemHeight", "SmallItemHeight", "Orientation",
                              "SectionBtnSize", "SingleSectionMode", "TransparentButtons"}),
+    Property<TCustomImageList, TVRXCustomImageListProperty, TVRXBaseDialog>("ImageList"),
+    Property<TCustomImageList, TVRXCustomImageListProperty, TVRXMessageBoxDlg>("ImageList"),
+    Property<TCustomImageList, TVRXCustomImageListProperty, TVRXMessageBoxDlg>("CustomGlyphImageList"),
     Property<TCustomImageList, TVRXCustomImageListProperty, TVRXCaptionButtons>("ImageList"),
     Property<TCustomImageList, TVRXCustomImageListProperty, TVRXButtonBar>("LargeImageList"),
     Property<TCustomImageList, TVRXCustomImageListProperty, TVRXButtonBar>("SmallImageList"),
@@ -63,6 +69,7 @@ const Row kRows[] = {
     Property<TCustomImageList, TVRXCustomImageListProperty, TVRXCustomShapeButton>("ShapeFillImageList"),
     Property<TCustomImageList, TVRXCustomImageListProperty, TVRXMMButtonFaceController>(
         "ButtonFaceImageList"),
+    Property<TCustomImageList, TVRXCustomImageListProperty, TVRXPopupMenu>("ImageList"),
     Property<TVRXShadow, TVRXShadowProperty>(),
     Property<TVRXShapeFill, TVRXShapeFillProperty>(),
     Property<TVRXPointList, TVRXPointListProperty>(),
@@ -90,7 +97,7 @@ const Row kRows[] = {
             TVRXfrmRegionFromBMPdlg, TVRXFilterPropsDlg, TfrmTVRXPointListEditor, TVRXDateListEditorDlg,
             TVRXValueListDlg, TVRXRegExprForm, TVRXSendKeyEditorDlg, TVRXDlgBtnEditorDlg,
             TVRXButtonBarEditorDlg, TVRXControlFaceEditorDlg, TVRXControlFaceEditorDlgAddState,
-            TVRXButtonFaceDlg, TVRXGraphicLabelEditorDlg>(),
+            TVRXButtonFaceDlg, TVRXGraphicLabelEditorDlg, TfrmVRXStyleManProp>(),
 };
 }  // namespace
 

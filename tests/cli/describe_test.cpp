@@ -61,7 +61,8 @@ TEST_F(DescribeCli, JsonHasTheSameKeysForEveryControl) {
     for (const auto& control : dialog[u"controls"].toArray()) EXPECT_EQ(control.toObject().keys(), keys);
   }
   EXPECT_EQ(dialogs.join(u'|').toStdString(),
-            "TVRXLEDEditorDlg=LED Editor|TVRXShadowEditorDlg=Shadow Editor|TVRXSimpleBevelEditorDlg=Simple "
+            "TVRXOSPropForm=Stored Properties|TVRXLEDEditorDlg=LED Editor|TVRXShadowEditorDlg=Shadow "
+            "Editor|TVRXSimpleBevelEditorDlg=Simple "
             "Bevel Editor|TVRXTeethEditorDlg=Teeth Editor|TVRXCaptionEditorDlg=Caption Editor|"
             "TVRXShapeEditorDlg=Shape Editor|TVRXLightEditorDlg=Light Editor|TVRX3DEffectEditorDlg=3D Effect "
             "Editor|TVRXfrmRegionFromBMPdlg=Region From Bitmap Editor|TVRXFilterPropsDlg=Filter Editor|"
@@ -71,7 +72,7 @@ TEST_F(DescribeCli, JsonHasTheSameKeysForEveryControl) {
             "TVRXButtonBarEditorDlg=Button Bar Editor|"
             "TVRXControlFaceEditorDlg=Face Controller Editor|TVRXControlFaceEditorDlgAddState=Add States|"
             "TVRXButtonFaceDlg=Button Face Editor|"
-            "TVRXGraphicLabelEditorDlg=Graphic Label Editor");
+            "TVRXGraphicLabelEditorDlg=Graphic Label Editor|TfrmVRXStyleManProp=Orlenvo-Kit Style Editor");
 }
 
 TEST_F(DescribeCli, JsonKeepsAcceleratorsLineBreaksAndTypes) {

@@ -78,6 +78,24 @@ TEST_F(RepaintTest, ControlsFollowTheirFaceController) {
   ExpectAllPainted(QStringLiteral("undo"));
 }
 
+TEST_F(RepaintTest, ControlsFollowTheirStyles) {
+  auto* text = As<TVRXStaticText>(
+      Session().CreateComponent(TVRXStaticText::StaticClass(), nullptr, QRect(16, 200, 90, 20)));
+  auto* styles = As<TVRXStyleManager>(
+      Session().CreateComponent(TVRXStyleManager::StaticClass(), nullptr, QRect(300, 250, 0, 0)));
+  Session().Run(QStringLiteral("refer"), {}, [&] { text->Set(VRXStyleManagerRef, styles); });
+  ExpectAllPainted(QStringLiteral("refer"));
+  for (const TColor color : {clRed, clBlue}) {
+    Session().Run(QStringLiteral("color"), {}, [&] {
+      styles->WritePropValue(QStringLiteral("TVRXStaticText"), QStringLiteral("Color"),
+                             static_cast<std::int64_t>(color), QStringLiteral("TColor"));
+    });
+    ExpectAllPainted(QStringLiteral("color"));
+  }
+  Session().Undo();
+  ExpectAllPainted(QStringLiteral("undo"));
+}
+
 TEST_F(RepaintTest, ButtonsFollowThePicturesThatTheirControllerRefersTo) {
   auto* images =
       As<TImageList>(Session().CreateComponent(TImageList::StaticClass(), nullptr, QRect(340, 250, 0, 0)));

@@ -190,6 +190,23 @@ TEST(Palette, KeepsPagesInOrderAndEveryClassOnce) {
   EXPECT_EQ(DesignRegistry::Current().ActionCategories()[0].Name, QStringLiteral("Lick"));
 }
 
+TEST(Palette, AUnitThatOnlyAddsToAPageDoesNotMoveIt) {
+  DesignRegistry registry;
+  {
+    const RegistrationScope scope(registry, nullptr, "Adds");
+    RegisterComponents(QStringLiteral("Two"), {&TBigIce::StaticClass()});
+  }
+  {
+    const RegistrationScope scope(registry, nullptr, "Main");
+    RegisterComponents(QStringLiteral("One"), {&TIce::StaticClass()});
+    RegisterComponents(QStringLiteral("Two"), {&TIce::StaticClass()});
+  }
+  const auto pages = registry.PalettePages();
+  ASSERT_EQ(pages.size(), 2u);
+  EXPECT_EQ(pages[0].Name, QStringLiteral("One"));
+  EXPECT_EQ(pages[1].Classes, (std::vector{&TBigIce::StaticClass(), &TIce::StaticClass()}));
+}
+
 TEST(EditorChoice, NamedBeforeClassBeforeType) {
   TBigIce ice(nullptr);
   const auto editors = NumberedEditors();

@@ -205,14 +205,19 @@ TEST_F(Registering, ShapesLightsSwitchesAndLinesStandAtTheirPlacesWithTheirEdito
   for (const QString& call : calls)
     if (call.startsWith(QStringLiteral("page "))) pages << call + u' ';
   ASSERT_EQ(pages.size(), 10);
-  EXPECT_TRUE(InOrder(pages[0], "Std: TVRXFaceController TVRXStaticText"));
+  EXPECT_TRUE(InOrder(pages[0], "Std: TVRXFaceController TVRXStaticText TVRXStyleManager"));
   EXPECT_TRUE(InOrder(pages[1],
                       "Ext: TVRXClock TVRXButtonBar TVRXButtonBarPopupMenu TVRXDlgButtonPanel TVRXCalendar "
                       "TVRXCalculator TVRXTechnicalLine TVRXClock TVRXLEDLabel "
                       "TVRXSwitch TVRXWSwitch "
-                      "TVRXLight"));
-  EXPECT_TRUE(InOrder(pages[2], "Cont: TVRXMMButtonFaceController"));
-  EXPECT_TRUE(InOrder(pages[3], "Dlg: TVRXFormOpenDialog TVRXFormSaveDialog"));
+                      "TVRXLight TVRXFlyoutController"));
+  EXPECT_TRUE(InOrder(
+      pages[2], "Cont: TVRXStackComponent TVRXQueueComponent TVRXListComponent TVRXMMButtonFaceController"));
+  EXPECT_TRUE(InOrder(pages[3],
+                      "Dlg: TVRXAboutDlg TVRXDirDlg TVRXTipDlg TVRXMessageBoxDlg TVRXInputDlg "
+                      "TVRXCheckListDlg TVRXCalendarDlg TVRXCalculatorDlg TVRXTextEditDlg TVRXFormOpenDialog "
+                      "TVRXFormSaveDialog TVRXFormColorDialog TVRXFormFontDialog TVRXFormPageSetupDialog "
+                      "TVRXFormPrinterSetupDialog TVRXFormPrintCommDialog"));
   EXPECT_TRUE(InOrder(pages[4],
                       "Edit: TVRXCalendarEdit TVRXCalculatorEdit TVRXEditAutoComplete TVRXTagEditor "
                       "TVRXEditControlPrintTask TVRXDateTimePicker TVRXFormComboBox"));
@@ -227,12 +232,15 @@ TEST_F(Registering, ShapesLightsSwitchesAndLinesStandAtTheirPlacesWithTheirEdito
                       "MM: TVRXLabelFill TVRXScrollText TVRXMMButton TVRXShapeButton TVRX3DEffectButton "
                       "TVRXHiTimer TVRXShapeControl "
                       "TVRXRepeatedShape TVRXAniCtrl TVRXPanelShape TVRXWndButtonShape"));
-  EXPECT_TRUE(InOrder(pages[8], "Sys: TVRXSendKeys TVRXRegExpr TVRXExpressionEval"));
+  EXPECT_TRUE(InOrder(pages[8],
+                      "Sys: TVRXHideNonVC TVRXAlarmComponent TVRXSendKeys TVRXGlobalHotKey TVRXPopupMenu "
+                      "TVRXRegExpr TVRXExpressionEval TVRXClipboardMonitor"));
   EXPECT_TRUE(InOrder(pages[9],
                       "HTML: TVRXHTMLExtListBox TVRXHTMLComboBox TVRXHTMLListBox TVRXHTMLListBoxExt "
                       "TVRXHTMLHeaderControl"));
   qsizetype last = -1;
-  for (const char* call : {"TVRXFaceController by TVRXFaceControllerEditor",
+  for (const char* call : {"TVRXStyleManager by TVRXStyleManEditor",
+                           "TVRXFaceController by TVRXFaceControllerEditor",
                            "TVRXLEDCustomLabel by TVRXLEDLabelComponentEditor",
                            "TVRXClock by TVRXClockComponentEditor",
                            "TVRXTechnicalLine by TVRXTechnicalLineComponentEditor",
@@ -244,6 +252,8 @@ TEST_F(Registering, ShapesLightsSwitchesAndLinesStandAtTheirPlacesWithTheirEdito
                            "TVRXCustomLight by TVRXLightComponentEditor",
                            "TVRXFill by TVRXFillComponentEditor",
                            "TVRXMMButtonFaceController by TVRXButtonFaceControllerEditor",
+                           "TVRXMessageBoxDlg by TVRXMessageBoxComponentEditor",
+                           "TVRXBaseDialog by TVRXExtDlgEditor",
                            "TVRXFormStyler by TVRXFormStylerComponentEditor",
                            "TVRXCustomFormFill by TVRXFormFillComponentEditor",
                            "TVRXFormShadow by TVRXShadowComponentEditor",
@@ -256,7 +266,12 @@ TEST_F(Registering, ShapesLightsSwitchesAndLinesStandAtTheirPlacesWithTheirEdito
                            "TVRXScrollText by TVRXScrollTextComponentEditor",
                            "TVRXCustom3DButton by TVRXExtGraphicButtonComponentEditor",
                            "TVRXCustomMMButton by TVRXExtGraphicButtonComponentEditor",
+                           "TVRXHideNonVC by TVRXHideNonVCEditor",
                            "TVRXSendKeys by TVRXSendKeyComponentEditor",
+                           "TCustomImageList TVRXBaseDialog.ImageList by TVRXCustomImageListProperty",
+                           "TCustomImageList TVRXMessageBoxDlg.ImageList by TVRXCustomImageListProperty",
+                           "TCustomImageList TVRXMessageBoxDlg.CustomGlyphImageList by "
+                           "TVRXCustomImageListProperty",
                            "TCustomImageList TVRXButtonBar.LargeImageList by TVRXCustomImageListProperty",
                            "TCustomImageList TVRXButtonBar.SmallImageList by TVRXCustomImageListProperty",
                            "TCustomImageList TVRXCustomMMButton.ButtonFaceImageList by "
@@ -265,6 +280,7 @@ TEST_F(Registering, ShapesLightsSwitchesAndLinesStandAtTheirPlacesWithTheirEdito
                            "TVRXCustomImageListProperty",
                            "TCustomImageList TVRXMMButtonFaceController.ButtonFaceImageList by "
                            "TVRXCustomImageListProperty",
+                           "TCustomImageList TVRXPopupMenu.ImageList by TVRXCustomImageListProperty",
                            "TVRXShadow any. by TVRXShadowProperty",
                            "TVRXShapeFill any. by TVRXShapeFillProperty",
                            "TVRXPointList any. by TVRXPointListProperty",

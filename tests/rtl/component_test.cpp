@@ -259,3 +259,24 @@ TEST(DesignPoint, IsStreamedAsLeftAndTopOfOwnedComponents) {
   root.SetDesignInfo(DesignWordOf({5, 5}));
   EXPECT_FALSE(IsStoredProp(root, Prop(root, "Left")));
 }
+
+TEST(FreeNotification, WhoHasItFromAnOwnerHearsWhatComesThere) {
+  struct TListener : TComponent {
+    using TComponent::TComponent;
+    void Notification(TComponent* component, TOperation operation) override {
+      if (operation == TOperation::opInsert) came.push_back(component);
+      TComponent::Notification(component, operation);
+    }
+    std::vector<TComponent*> came;
+  };
+  TComponent owner(nullptr);
+  TListener listener(&owner), other(&owner);
+  owner.FreeNotification(&listener);
+  TComponent one(&owner), two(nullptr);
+  owner.InsertComponent(&two);
+  EXPECT_EQ(listener.came, (std::vector<TComponent*>{&one, &two}));
+  EXPECT_TRUE(other.came.empty());
+  owner.RemoveFreeNotification(&listener);
+  TComponent three(&owner);
+  EXPECT_EQ(listener.came.size(), 2u);
+}

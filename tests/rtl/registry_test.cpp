@@ -69,6 +69,25 @@ TEST_F(Registry, ValuesOfEveryKindComeBack) {
   EXPECT_FALSE(r.ReadBool(Q("No"), true));
 }
 
+TEST_F(Registry, BytesComeBackAndOtherValuesAreNone) {
+  TRegistry r;
+  ASSERT_TRUE(r.OpenKey(Key, true));
+  for (const QByteArray& bytes : {QByteArray(), QByteArray("\0\xFF\r\nx", 5)}) {
+    r.WriteBinary(Q("Bytes"), bytes);
+    ASSERT_TRUE(r.Flush());
+    TRegistry again;
+    ASSERT_TRUE(again.OpenKey(Key, false));
+    EXPECT_EQ(again.ReadBinary(Q("BYTES")), bytes);
+  }
+  EXPECT_FALSE(r.ReadBinary(Q("None")).has_value());
+  for (const char* text : {"", "ff", "hex:f", "hex:zz", "hex:f f"}) {
+    r.WriteString(Q("Bytes"), Q(text));
+    EXPECT_FALSE(r.ReadBinary(Q("Bytes")).has_value()) << text;
+  }
+  r.WriteString(Q("Bytes"), Q("hex:0aFF"));
+  EXPECT_EQ(r.ReadBinary(Q("Bytes")), QByteArray("\n\xFF"));
+}
+
 TEST_F(Registry, AValueIsATextWhateverItLooksLike) {
   // Other writers keep whole objects so; one of these asks for gigabytes.
   QFile file(TRegistry::StorageFile());
