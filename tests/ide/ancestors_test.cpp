@@ -1,6 +1,6 @@
 // Forms with an ancestor and forms with frames: what they inherit is there, is edited as differences, and is
 // never written to where it comes from.
-#include "SessionTest.h"
+#include "OperationTest.h"
 #include "ide/FormFolder.h"
 #include "ide/InspectorModel.h"
 #include "ide/UnitText.h"
@@ -290,6 +290,20 @@ TEST_F(AncestorTest, WhatIsInheritedIsNotCutAndWithoutItsAncestorNotCopied) {
   EXPECT_EQ(refusal([&] { CopySelection(*session, clipboard); }),
             "Button1 comes from the ancestor form, which was not found; it cannot be copied here.");
   EXPECT_EQ(clipboard.text, QString());
+}
+
+TEST_F(AncestorTest, NoPageIsPastedIntoWhatAFrameHolds) {
+  Write(
+      "Head.dfm",
+      "object Head: THead\n  Left = 0\n  Top = 0\n  Width = 160\n  Height = 80\n  object Book: TPageControl\n"
+      "    Left = 0\n    Top = 0\n    Width = 100\n    Height = 60\n  end\nend\n");
+  const auto session = Open("Host.dfm");
+  const QByteArray before = session->Bytes();
+  FakeClipboard clipboard;
+  clipboard.text = QStringLiteral("object P: TTabSheet\n  Caption = 'x'\nend\n");
+  session->Select({&Inside(*session, "Head1", "Book")});
+  EXPECT_THROW(PasteInto(*session, clipboard, 8), Exception);
+  EXPECT_EQ(session->Bytes(), before);
 }
 
 TEST_F(AncestorTest, OfWhatIsInheritedTheInspectorMarksWhatThisFormSays) {

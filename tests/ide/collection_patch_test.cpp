@@ -120,6 +120,21 @@ TEST_F(CollectionPatch, AMovedItemTakesItsLinesAlong) {
       end)") + Around[1]);
 }
 
+TEST_F(CollectionPatch, ANewValueStandsBehindWhatIsWrittenBeforeIt) {
+  Open("\n      item\n        Style = psOwnerDraw\n        Text = 'one'\n      end");
+  After([&] { SetWidth(0, 60); });
+  EXPECT_TRUE(session_->Bytes().contains("        Text = 'one'\n        Width = 60\n"))
+      << session_->Bytes().toStdString();
+}
+
+TEST_F(CollectionPatch, ItemsThatSayTheSameKeepTheirWords) {
+  Open(
+      "\n      item\n        Text = 'same'\n      end\n      item\n        Width = 50\n        Text = "
+      "'same'\n"
+      "      end\n      item\n        Text = 'other'\n      end");
+  EXPECT_EQ(After([&] { SetText(2, "new"); }), "-Text = 'other'|+Text = 'new'");
+}
+
 // Whatever is done to the items: what is written says what stands on the form, and the items that nobody
 // touched are in the file as they were.
 TEST_F(CollectionPatch, AnyRunOfEditsWritesWhatIsThereAndKeepsWhatWasNotTouched) {
