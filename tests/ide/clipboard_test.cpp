@@ -325,6 +325,9 @@ TEST_F(OperationTest, PagesGoIntoWhatTakesThemAndControlsOntoThePageInFront) {
     for (const char* at : {"Panel", "F"})
       EXPECT_NE(Refusal("paste", {at}).find("P is a page. Select the control"), std::string::npos) << at;
     if (!dynamic_cast<TPageBook*>(&Get("Book"))) continue;
+    const char* const other = QByteArray(kind.page) == "TTabSheet" ? "TVRXAssistPage" : "TTabSheet";
+    clipboard_.text = QStringLiteral("object Other: %1\nend\n").arg(QLatin1StringView(other));
+    EXPECT_NE(Refusal("paste", {"Book"}).find("Other is a page"), std::string::npos);
     Run("copy", {"Panel"});
     Run("paste", {"Book"});
     EXPECT_EQ(parent("Panel1"), QStringLiteral("Q")) << "what is no page stands on the one in front";
