@@ -10,8 +10,8 @@
 #include "dclstd/CellsModel.h"
 #include "dclstd/EditValue.h"
 #include "dclstd/SeparatedText.h"
-#include "dclstd/UserFile.h"
 #include "vcl/Prompts.h"
+#include "vcl/UserFile.h"
 
 namespace {
 const QString& Filter() {

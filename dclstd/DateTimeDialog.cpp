@@ -30,14 +30,10 @@ DateTimeDialog::DateTimeDialog(QWidget* owner) : RowDialog(tr("Date and Time"), 
   line->addStretch(1);
   line->addWidget(now);
   line->addWidget(clear);
-  auto* buttons = new QHBoxLayout;
-  buttons->addStretch(1);
-  buttons->addWidget(ok);
-  buttons->addWidget(cancel);
   auto* box = new QVBoxLayout(this);
   box->addWidget(calendar, 1);
   box->addLayout(line);
-  box->addLayout(buttons);
+  box->addLayout(ButtonLine({ok, cancel}));
   const auto chosen = [this] {
     changed_ = true;
     none_ = false;

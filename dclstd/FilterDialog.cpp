@@ -23,13 +23,9 @@ FilterDialog::FilterDialog(QWidget* owner) : RowDialog(tr("Filter Editor"), owne
   Button(down, "down", "Move Do&wn", &FilterDialog::downClick);
   OkButton(ok, "ok");
   CancelButton(cancel, "cancel");
-  auto* buttons = new QHBoxLayout;
-  for (QPushButton* button : {remove, up, down}) buttons->addWidget(button);
-  buttons->addStretch(1);
-  for (QPushButton* button : {ok, cancel}) buttons->addWidget(button);
   auto* box = new QVBoxLayout(this);
   box->addWidget(table, 1);
-  box->addLayout(buttons);
+  box->addLayout(ButtonLine({ok, cancel}, {remove, up, down}));
   connect(table, &QTableWidget::cellChanged, this, [this] {
     changed_ = true;
     KeepEmptyRow();

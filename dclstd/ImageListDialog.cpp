@@ -9,10 +9,10 @@
 
 #include "dclstd/CheckedGround.h"
 #include "dclstd/EditValue.h"
-#include "dclstd/UserFile.h"
 #include "vcl/PictureFile.h"
 #include "vcl/PixelPicture.h"
 #include "vcl/Prompts.h"
+#include "vcl/UserFile.h"
 
 namespace {
 constexpr int MostSide = 256;

@@ -7,9 +7,9 @@
 #include <QTextDocument>
 
 #include "dclstd/EditValue.h"
-#include "dclstd/UserFile.h"
 #include "rtl/Strings.h"
 #include "vcl/Prompts.h"
+#include "vcl/UserFile.h"
 
 namespace {
 const QString& Filter() {

@@ -10,10 +10,10 @@
 
 #include "dclstd/CheckedGround.h"
 #include "dclstd/EditValue.h"
-#include "dclstd/UserFile.h"
 #include "vcl/ColorSwatch.h"
 #include "vcl/PictureFile.h"
 #include "vcl/Prompts.h"
+#include "vcl/UserFile.h"
 
 namespace {
 // What a file of the picture is called.

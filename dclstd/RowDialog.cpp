@@ -91,6 +91,14 @@ void RowDialog::AddColorButton(QToolButton*& button, const QWidget& control, con
   grid_->addWidget(button, row, column + 1);
 }
 
+QLayout* RowDialog::ButtonLine(const std::vector<QPushButton*>& ends, const std::vector<QPushButton*>& left) {
+  auto* line = new QHBoxLayout;
+  for (QPushButton* button : left) line->addWidget(button);
+  line->addStretch(1);
+  for (QPushButton* button : ends) line->addWidget(button);
+  return line;
+}
+
 void RowDialog::Wide(const std::vector<QWidget*>& beside) {
   auto* box = new QHBoxLayout;
   box->setSpacing(8);

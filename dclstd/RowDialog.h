@@ -27,6 +27,7 @@
 #include "rtl/TypeInfo.h"
 
 class QGridLayout;
+class QLayout;
 class RowDialog;
 
 template <class W>
@@ -102,6 +103,9 @@ class RowDialog : public ModalDialog {
   void OkButton(QPushButton*& button, const char* name, const char* text = "OK");
   void CancelButton(QPushButton*& button, const char* name, const char* text = "Cancel");
   void ResetButton(QPushButton*& button, const char* name, const char* text = "Reset");
+  // The line below everything: buttons at its left, and those that end the dialog at its right.
+  static QLayout* ButtonLine(const std::vector<QPushButton*>& ends,
+                             const std::vector<QPushButton*>& left = {});
   // Something between the rows, under the controls.
   void Wide(const std::vector<QWidget*>& beside);
   // A quiet remark there.

@@ -64,15 +64,10 @@ ShortCutDialog::ShortCutDialog(QWidget* owner) : RowDialog(tr("Shortcut"), owner
   OkButton(ok, "ok");
   CancelButton(cancel, "cancel");
   connect(keys, &KeyField::Pressed, this, &ShortCutDialog::SetLabels);
-  auto* buttons = new QHBoxLayout;
-  buttons->addWidget(clear);
-  buttons->addStretch(1);
-  buttons->addWidget(ok);
-  buttons->addWidget(cancel);
   auto* box = new QVBoxLayout(this);
   box->addLayout(grid);
   box->addStretch(1);
-  box->addLayout(buttons);
+  box->addLayout(ButtonLine({ok, cancel}, {clear}));
   SetTabSequence();
   FormCreate();
   setFixedSize(QSize(340, 130).expandedTo(minimumSizeHint()));

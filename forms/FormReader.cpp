@@ -3,6 +3,7 @@
 #include "forms/ForeignWords.h"
 #include "forms/KeptValues.h"
 #include "rtl/ClassRegistry.h"
+#include "rtl/ContentProblem.h"
 #include "rtl/PropAccess.h"
 
 namespace forms {
@@ -162,6 +163,7 @@ void FormReader::ReadProperties(const Object& object, TComponent& component, boo
     Guarded(
         p, object, [&] { Apply(known, target, p); }, target.prop && target.prop->Is<QByteArray>());
     if (own && target.prop && target.prop->IsPart()) ReportUnread(target, p, object);
+    if (own && !target.prop) ReportContent(target, p, object);
     for (auto r = pending_.rbegin(); r != pending_.rend() && !r->holder; ++r) {
       r->holder = &component;
       r->source = own ? &p : nullptr;
@@ -182,6 +184,14 @@ void FormReader::ReportUnread(const PropertyTarget& target, const Property& prop
       Guarded(property, object, [&] { std::rethrow_exception(unread.refused); });
     else
       ReportUnknown(unread.path, property, object);
+}
+
+void FormReader::ReportContent(const PropertyTarget& target, const Property& property, const Object& object) {
+  const auto* content = As<IContentProblem>(target.instance);
+  const QString problem = content ? content->ContentProblem() : QString();
+  if (!problem.isEmpty())
+    ReportRefused(Severity::Error, object, property,
+                  QStringLiteral("%1: %2").arg(ObjectTitle(object), problem));
 }
 
 // A name that another framework gives to a value is no mistake in a file of that framework.

@@ -78,6 +78,7 @@ class FormReader {
   void ReadProperties(const Object& object, TComponent& component, bool reportUnknown);
   void ReportUnknown(QByteArrayView name, const Property& property, const Object& object);
   void ReportUnread(const PropertyTarget& target, const Property& property, const Object& object);
+  void ReportContent(const PropertyTarget& target, const Property& property, const Object& object);
   // Reads, and tells of what is refused. `data`: what is refused then is data.
   template <class F>
   void Guarded(const Property& property, const Object& object, F read, bool data = false);

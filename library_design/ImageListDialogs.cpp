@@ -31,13 +31,9 @@ TVRXImageListDlg::TVRXImageListDlg(QWidget* owner) : RowDialog(QStringLiteral("S
   Wide({facts});
   OkButton(ok, "ok");
   CancelButton(cancel, "cancel");
-  auto* buttons = new QHBoxLayout;
-  buttons->addStretch(1);
-  buttons->addWidget(ok);
-  buttons->addWidget(cancel);
   auto* box = new QVBoxLayout(this);
   box->addLayout(grid, 1);
-  box->addLayout(buttons);
+  box->addLayout(ButtonLine({ok, cancel}));
   VRXSetThemeMode(*this, 1);
   SetTabSequence();
   FormCreate();

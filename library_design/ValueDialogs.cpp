@@ -9,17 +9,6 @@
 #include "rtl/PropAccess.h"
 #include "rtl/PropText.h"
 
-namespace {
-// The buttons below everything else.
-QHBoxLayout* ButtonLine(QPushButton* ok, QPushButton* cancel) {
-  auto* line = new QHBoxLayout;
-  line->addStretch(1);
-  line->addWidget(ok);
-  line->addWidget(cancel);
-  return line;
-}
-}  // namespace
-
 TVRXSelectValueDlg::TVRXSelectValueDlg(QWidget* owner) : RowDialog(QStringLiteral("Select Value"), owner) {
   about = QuietLine(this, "about");
   names = Named(new QListWidget(this), "names", "The values that can be chosen.");
@@ -31,7 +20,7 @@ TVRXSelectValueDlg::TVRXSelectValueDlg(QWidget* owner) : RowDialog(QStringLitera
   auto* box = new QVBoxLayout(this);
   box->addWidget(about);
   box->addWidget(names, 1);
-  box->addLayout(ButtonLine(ok, cancel));
+  box->addLayout(ButtonLine({ok, cancel}));
   connect(names, &QListWidget::itemDoubleClicked, this, [this] {
     if (!set_) accept();
   });
@@ -92,7 +81,7 @@ TVRXTextDlg::TVRXTextDlg(QWidget* owner) : RowDialog(QStringLiteral("Value"), ow
   auto* box = new QVBoxLayout(this);
   box->addLayout(grid);
   box->addStretch(1);
-  box->addLayout(ButtonLine(ok, cancel));
+  box->addLayout(ButtonLine({ok, cancel}));
   VRXSetThemeMode(*this, 1);
   SetTabSequence();
   FormCreate();

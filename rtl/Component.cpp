@@ -1,6 +1,7 @@
 #include "rtl/Component.h"
 
 #include "rtl/Exceptions.h"
+#include "rtl/NameFollower.h"
 #include "rtl/PropAccess.h"
 #include "rtl/StreamedContent.h"
 
@@ -163,6 +164,11 @@ void TComponent::SetName(const QString& name) {
   const QString oldName = std::exchange(name_, name);
   if (owner_) owner_->EnterName(*this);
   NameChanged(oldName);
+  if (oldName.isEmpty()) return;
+  std::vector<TComponent*> asked(freeNotifies_.begin(), freeNotifies_.end());
+  if (owner_) asked.insert(asked.end(), owner_->freeNotifies_.begin(), owner_->freeNotifies_.end());
+  for (TComponent* c : asked)
+    if (auto* follower = As<INameFollower>(c)) follower->ComponentRenamed(*this, oldName);
 }
 
 void TComponent::NameChanged(const QString&) {}

@@ -47,6 +47,19 @@ const TClass& TVRXObjectStorage::StaticClass() {
   return cls;
 }
 
+TVRXObjectStorage::TVRXObjectStorage(TComponent* owner) : TComponent(owner) {
+  if (owner) owner->FreeNotification(this);
+}
+
+void TVRXObjectStorage::ComponentRenamed(TComponent& component, const QString& oldName) {
+  if (component.Name().isEmpty() || (&component != Owner() && component.Owner() != Owner())) return;
+  for (int i = 0; i < StoredProps()->Count(); ++i) {
+    StorageItem& item = *StoredProps()->Items(i);
+    if (item.Get(StorageItem::ComponentName).compare(oldName, Qt::CaseInsensitive) == 0)
+      item.Set(StorageItem::ComponentName, component.Name());
+  }
+}
+
 StorageItem* TVRXPropertyStorage::Add(const QString& component, const QString& property) {
   const TUpdateLock lock(*this);
   auto* item = static_cast<StorageItem*>(TCollection::Add());

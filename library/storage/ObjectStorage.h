@@ -1,6 +1,7 @@
 // Keeps chosen properties of a form's components from one run to the next, in a section of a settings file.
 #pragma once
 #include "rtl/Collection.h"
+#include "rtl/NameFollower.h"
 
 // One property of one component.
 class TVRXPropertyStorageItem : public TCollectionItem {
@@ -23,10 +24,10 @@ class TVRXPropertyStorage : public TCollection {
   TVRXPropertyStorageItem* Add(const QString& component, const QString& property);
 };
 
-class TVRXObjectStorage : public TComponent {
+class TVRXObjectStorage : public TComponent, public INameFollower {
   VRX_CLASS(TVRXObjectStorage)
  public:
-  using TComponent::TComponent;
+  explicit TVRXObjectStorage(TComponent* owner);
   static constexpr TKept<bool> Active{"Active", true};
   static constexpr TKept<QString> FileName{"FileName"};
   static constexpr TKept<QString> Section{"Section"};
@@ -42,6 +43,8 @@ class TVRXObjectStorage : public TComponent {
   // Save throws Exception when the file cannot be written. In it, nothing is changed but these values.
   QStringList Save() const;
   QStringList Load();
+  // What is kept of a component is kept of it under its new name.
+  void ComponentRenamed(TComponent& component, const QString& oldName) override;
 
  private:
   TComponent* Find(const QString& component) const;

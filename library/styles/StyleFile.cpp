@@ -1,24 +1,19 @@
-// Files of styles. The first line says what it is and in which version; then a block for each style in order
-// of its path, whose indented lines are its values in order of their names; the last line is "end", so that a
-// piece of a file is not taken for the whole. Blocks and ways of values that nobody here knows are kept and
-// written again.
-#include <QFile>
-#include <QFileInfo>
+// Files of styles: a block for each style in order of its path, whose lines are its values in order of their
+// names. Blocks and ways of values that nobody here knows are kept and written again.
 #include <QRegularExpression>
-#include <QSaveFile>
 #include <array>
 #include <charconv>
 #include <cmath>
 
 #include "library/styles/Styles.h"
+#include "library/values/BlockFile.h"
 #include "library/values/ValueText.h"
 #include "rtl/Exceptions.h"
 #include "rtl/PropValue.h"
+#include "vcl/UserFile.h"
 
 namespace {
-constexpr int Version = 1;
-const QString Title = QStringLiteral("Styles"), End = QStringLiteral("end"), Style = QStringLiteral("style"),
-              Indent = QStringLiteral("  ");
+const QString Title = QStringLiteral("Styles"), Style = QStringLiteral("style");
 
 QString FloatText(long double value) {
   std::array<char, 64> text{};
@@ -70,76 +65,31 @@ struct Way {
 };
 constexpr Way Ways[] = {
     {"text", ReadText}, {"integer", ReadInteger}, {"float", ReadFloat}, {"stream", ReadStream}};
-
-QString Short(const QString& text) {
-  constexpr int most = 40;
-  return text.size() > most ? text.left(most) + QStringLiteral("...") : text;
-}
 }  // namespace
 
-class VRXStyleReader {
+class VRXStyleReader : public VRXBlockReader {
  public:
-  explicit VRXStyleReader(const QStringList& lines) : lines_(lines) {}
-  TVRXStyles Read() {
-    if (lines_.isEmpty()) return {};
-    Head();
-    bool ended = false;
-    for (at_ = 1; at_ < lines_.size(); ++at_) {
-      const QString& line = lines_[at_];
-      if (line.trimmed().isEmpty()) continue;
-      if (ended) Refuse(QStringLiteral("there is something behind the end"));
-      if (line == End)
-        ended = true;
-      else if (line.startsWith(u' ') || line.startsWith(u'\t'))
-        Inside(line.trimmed());
-      else
-        Block(line);
-    }
-    if (!ended) {
-      at_ = lines_.size() - 1;
-      Refuse(QStringLiteral("it ends before its last line, \"end\""));
-    }
+  TVRXStyles Read(const QStringList& lines) {
+    if (lines.isEmpty()) return {};
+    ReadLines(Title, lines);
+    styles_.foreign_ = Foreign();
     return std::move(styles_);
   }
 
  private:
-  [[noreturn]] void Refuse(const QString& why) const {
-    throw Exception(QStringLiteral("line %1: %2").arg(at_ + 1).arg(why));
-  }
-  void Head() {
-    static const QRegularExpression head(QStringLiteral("^Styles ([0-9]{1,6})$"));
-    const auto match = head.match(lines_[0]);
-    if (!match.hasMatch())
-      Refuse(QStringLiteral("a file that begins with \"%1 %2\" is needed").arg(Title).arg(Version));
-    if (const int version = match.captured(1).toInt(); version != Version)
-      Refuse(QStringLiteral("the file is of version %1, and only version %2 is known")
-                 .arg(version)
-                 .arg(Version));
-  }
-  void Block(const QString& line) {
-    static const QRegularExpression head(QStringLiteral("^[A-Za-z][A-Za-z0-9_]*( .*)?$"));
-    if (!head.match(line).hasMatch()) Refuse(QStringLiteral("\"%1\" begins no block").arg(Short(line)));
-    values_ = nullptr;
-    if (line.section(u' ', 0, 0) != Style) {
-      styles_.foreign_ << line;
-      return;
-    }
+  bool Block(const QString& word, const QString& rest) override {
+    if (word != Style) return false;
     QString path;
-    if (!UnquotedText(line.section(u' ', 1).trimmed(), path))
-      Refuse(QStringLiteral("a style needs its path in quotes"));
+    if (!UnquotedText(rest, path)) Refuse(QStringLiteral("a style needs its path in quotes"));
     for (const QString& name : path.split(VRXStyleSeparator))
       if (name.isEmpty() || name == QStringLiteral("(Default)"))
         Refuse(QStringLiteral("\"%1\" is no path of a style").arg(Short(path)));
     const auto [at, isNew] = styles_.paths_.try_emplace(path);
     if (!isNew) Refuse(QStringLiteral("the style %1 is there already").arg(Short(path)));
     values_ = &at->second;
+    return true;
   }
-  void Inside(const QString& line) {
-    if (!values_) {
-      if (styles_.foreign_.isEmpty()) Refuse(QStringLiteral("a line of a block stands in none"));
-      styles_.foreign_ << Indent + line;
-      return;
-    }
+  void Inside(const QString& line) override {
     static const QRegularExpression form(QStringLiteral(
         "^([A-Za-z0-9_]+(?:\\.[A-Za-z0-9_]+)*):([A-Za-z0-9_]+) = ([A-Za-z][A-Za-z0-9_]*)(?: (.*))?$"));
     const auto match = form.match(line);
@@ -159,60 +109,33 @@ class VRXStyleReader {
     return TVRXForeignValue{(word + u' ' + rest).trimmed()};
   }
 
-  const QStringList& lines_;
-  qsizetype at_ = 0;
   TVRXStyles styles_;
   TVRXStyles::Values* values_ = nullptr;
 };
 
 QStringList TVRXStyles::Lines() const {
   if (IsEmpty()) return {};
-  QStringList lines{QStringLiteral("%1 %2").arg(Title).arg(Version)};
+  QStringList lines{VRXBlockTitle(Title)};
   for (const auto& [path, values] : paths_) {
     lines << Style + u' ' + QuotedText(path);
     for (const auto& [key, value] : values)
-      lines << Indent + key.Name + u':' + key.TypeName + QStringLiteral(" = ") + ValueText(value);
+      lines << VRXBlockIndent + key.Name + u':' + key.TypeName + QStringLiteral(" = ") + ValueText(value);
   }
-  return lines << foreign_ << End;
+  return lines << foreign_ << VRXBlockEnd;
 }
-TVRXStyles TVRXStyles::FromLines(const QStringList& lines) { return VRXStyleReader(lines).Read(); }
+TVRXStyles TVRXStyles::FromLines(const QStringList& lines) { return VRXStyleReader().Read(lines); }
 
 QByteArray TVRXStyles::Text() const {
-  const QStringList lines =
-      IsEmpty() ? QStringList{QStringLiteral("%1 %2").arg(Title).arg(Version), End} : Lines();
-  return (lines.join(u'\n') + u'\n').toUtf8();
+  return VRXBlockText(IsEmpty() ? QStringList{VRXBlockTitle(Title), VRXBlockEnd} : Lines());
 }
-
-TVRXStyles TVRXStyles::FromText(const QByteArray& bytes) {
-  const QByteArray mark = "\xEF\xBB\xBF";
-  const QByteArray plain = bytes.startsWith(mark) ? bytes.mid(mark.size()) : bytes;
-  QString text = QString::fromUtf8(plain);
-  if (text.toUtf8() != plain || text.contains(QChar(0)))
-    throw Exception(QStringLiteral("line 1: it is no text"));
-  return FromLines(text.replace(QStringLiteral("\r\n"), QStringLiteral("\n")).split(u'\n'));
-}
+TVRXStyles TVRXStyles::FromText(const QByteArray& bytes) { return FromLines(VRXBlockLines(bytes)); }
 
 TVRXStyles TVRXStyles::Load(const QString& fileName) {
-  constexpr qint64 most = qint64{64} << 20;
-  const auto refuse = [&](const QString& why) {
-    throw Exception(QStringLiteral("%1 cannot be read: %2.").arg(fileName, why));
-  };
-  const QFileInfo info(fileName);
-  if (info.exists() && !info.isFile()) refuse(QStringLiteral("it is no file"));
-  QFile file(fileName);
-  if (!file.open(QIODevice::ReadOnly)) refuse(file.errorString());
-  if (file.size() > most) refuse(QStringLiteral("it is larger than %1 MB").arg(most >> 20));
+  const QByteArray text = ReadUserFile(fileName);
   try {
-    return FromText(file.readAll());
+    return FromText(text);
   } catch (const Exception& error) {
-    refuse(error.Message());
+    CannotReadUserFile(fileName, error.Message());
   }
-  return {};
 }
-
-void TVRXStyles::Save(const QString& fileName) const {
-  const QByteArray text = Text();
-  QSaveFile file(fileName);
-  if (!file.open(QIODevice::WriteOnly) || file.write(text) != text.size() || !file.commit())
-    throw Exception(QStringLiteral("%1 cannot be written: %2.").arg(fileName, file.errorString()));
-}
+void TVRXStyles::Save(const QString& fileName) const { WriteUserFile(fileName, Text()); }

@@ -26,6 +26,12 @@ void TVRXStyleLines::DoChanging() {
 void TVRXStyleLines::DoChanged() {
   if (!showing_) TStrings::DoChanged();
 }
+QString TVRXStyleLines::ContentProblem() const {
+  const QString& problem = static_cast<const TVRXStyleManager*>(GetOwner())->Problem();
+  return problem.isEmpty()
+             ? QString()
+             : QStringLiteral("the styles cannot be read and are kept as they are: %1").arg(problem);
+}
 
 TVRXStyleManager::TVRXStyleManager(TComponent* owner) : TComponent(owner) {}
 TVRXStyleManager::~TVRXStyleManager() = default;

@@ -6,12 +6,14 @@
 #include "library/styles/StylePlan.h"
 #include "library/styles/Styles.h"
 #include "rtl/Component.h"
+#include "rtl/ContentProblem.h"
 #include "rtl/Strings.h"
 
 // The styles as a form file keeps them: the lines of a style file.
-class TVRXStyleLines : public TStrings {
+class TVRXStyleLines : public TStrings, public IContentProblem {
  public:
   using TStrings::TStrings;
+  QString ContentProblem() const override;
 
  private:
   friend class TVRXStyleManager;

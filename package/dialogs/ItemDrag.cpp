@@ -15,6 +15,11 @@ ItemDrag::ItemDrag(QAbstractItemView& list, QWidget& target, std::function<void(
   list.installEventFilter(this);
 }
 
+QModelIndex ItemDrag::Grip(const QPoint& at) const { return list_.indexAt(at); }
+QRect ItemDrag::Mark(const QMouseEvent&) const { return target_.rect(); }
+Qt::CursorShape ItemDrag::Cursor(const QMouseEvent&) const { return Qt::DragCopyCursor; }
+void ItemDrag::Drop(const QModelIndex& row, const QMouseEvent&) { drop_(row); }
+
 bool ItemDrag::IsOver(const QMouseEvent& event) const {
   return target_.rect().contains(target_.mapFromGlobal(event.globalPosition().toPoint()));
 }
@@ -31,8 +36,8 @@ bool ItemDrag::Moved(const QMouseEvent& event) {
   dragging_ |= (event.pos() - from_).manhattanLength() >= QApplication::startDragDistance();
   if (!dragging_) return true;
   const bool over = IsOver(event);
-  list_.viewport()->setCursor(over ? Qt::DragCopyCursor : Qt::ForbiddenCursor);
-  mark_->setGeometry(target_.rect());
+  list_.viewport()->setCursor(over ? Cursor(event) : Qt::ForbiddenCursor);
+  if (over) mark_->setGeometry(Mark(event));
   mark_->setVisible(over);
   return true;
 }
@@ -44,7 +49,7 @@ bool ItemDrag::Released(const QMouseEvent& event) {
   }
   const QModelIndex row = pressed_;
   End();
-  if (row.isValid() && IsOver(event)) drop_(row);
+  if (row.isValid() && IsOver(event)) Drop(row, event);
   return true;
 }
 
@@ -60,7 +65,7 @@ bool ItemDrag::eventFilter(QObject* watched, QEvent* event) {
     case QEvent::MouseButtonPress: {
       const auto& mouse = static_cast<const QMouseEvent&>(*event);
       from_ = mouse.pos();
-      pressed_ = mouse.button() == Qt::LeftButton ? list_.indexAt(from_) : QModelIndex();
+      pressed_ = mouse.button() == Qt::LeftButton ? Grip(from_) : QModelIndex();
       return false;
     }
     case QEvent::MouseMove:

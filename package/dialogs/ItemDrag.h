@@ -2,6 +2,7 @@
 #pragma once
 #include <QObject>
 #include <QPersistentModelIndex>
+#include <QRect>
 #include <functional>
 
 class QAbstractItemView;
@@ -16,6 +17,12 @@ class ItemDrag : public QObject {
 
  protected:
   bool eventFilter(QObject* watched, QEvent* event) override;
+  // The row that is taken there; none when it is not to be dragged.
+  virtual QModelIndex Grip(const QPoint& at) const;
+  // What is marked of the target, and how the mouse looks, while it is over it.
+  virtual QRect Mark(const QMouseEvent& event) const;
+  virtual Qt::CursorShape Cursor(const QMouseEvent& event) const;
+  virtual void Drop(const QModelIndex& row, const QMouseEvent& event);
 
  private:
   bool Moved(const QMouseEvent& event);

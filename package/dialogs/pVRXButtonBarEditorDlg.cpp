@@ -6,7 +6,6 @@
 #include <QScrollBar>
 #include <QTabWidget>
 
-#include "dclstd/UserFile.h"
 #include "library_design/FillDialog.h"
 #include "library_design/Font3DDialog.h"
 #include "library_design/FontDialogs.h"
@@ -16,6 +15,7 @@
 #include "library_design/pVRXCommon.h"
 #include "vcl/PictureFile.h"
 #include "vcl/Prompts.h"
+#include "vcl/UserFile.h"
 
 using D = TVRXButtonBarEditorDlg;
 using B = TVRXButtonBar;

@@ -6,12 +6,12 @@
 #include <QScopedValueRollback>
 #include <climits>
 
-#include "dclstd/UserFile.h"
 #include "library/components/RegExpr.h"
 #include "library_design/Named.h"
 #include "library_design/pVRXCommon.h"
 #include "rtl/Registry.h"
 #include "vcl/Prompts.h"
+#include "vcl/UserFile.h"
 
 using D = TVRXRegExprForm;
 

@@ -83,10 +83,6 @@ TVRXOSPropForm::TVRXOSPropForm(QWidget* owner) : RowDialog(QStringLiteral("Store
     box->addStretch(1);
     return box;
   };
-  auto* ends = new QHBoxLayout;
-  ends->addStretch(1);
-  ends->addWidget(OkBtn);
-  ends->addWidget(CancelBtn);
   auto* grid = new QGridLayout(this);
   grid->addWidget(ComponentsTree, 0, 0, 3, 1);
   grid->addLayout(column({ToBtn, FromBtn, AllDelBtn}), 0, 1);
@@ -94,7 +90,7 @@ TVRXOSPropForm::TVRXOSPropForm(QWidget* owner) : RowDialog(QStringLiteral("Store
   grid->addWidget(Label1, 1, 2);
   grid->addLayout(column({ExclAdd, ExclDel}), 2, 1);
   grid->addWidget(ExcludedPropertiesList, 2, 2);
-  grid->addLayout(ends, 3, 0, 1, 3);
+  grid->addLayout(ButtonLine({OkBtn, CancelBtn}), 3, 0, 1, 3);
   grid->setColumnStretch(0, 1);
   grid->setColumnStretch(2, 1);
   grid->setRowStretch(0, 3);

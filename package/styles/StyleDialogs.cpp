@@ -8,16 +8,6 @@
 #include "library_design/pVRXCommon.h"
 #include "package/styles/StyleMessages.h"
 
-namespace {
-QLayout* EndsOf(QPushButton* ok, QPushButton* cancel) {
-  auto* line = new QHBoxLayout;
-  line->addStretch(1);
-  line->addWidget(ok);
-  line->addWidget(cancel);
-  return line;
-}
-}  // namespace
-
 StyleInputDialog::StyleInputDialog(QWidget* owner, const char* prompt)
     : RowDialog(QString::fromLatin1(VRXStyleEditorTitle), owner) {
   input = Named(new QLineEdit(this), "input", "");
@@ -33,7 +23,7 @@ StyleInputDialog::StyleInputDialog(QWidget* owner, const char* prompt)
   box->addWidget(label);
   box->addWidget(input);
   box->addSpacing(8);
-  box->addLayout(EndsOf(OkBtn, CancelBtn));
+  box->addLayout(ButtonLine({OkBtn, CancelBtn}));
   SetTabSequence();
   FormCreate();
   setFixedSize(minimumSizeHint());
@@ -55,7 +45,7 @@ StyleComponentsDialog::StyleComponentsDialog(QWidget* owner, const QStringList& 
   VRXSetThemeMode(*this, 1);
   auto* box = new QVBoxLayout(this);
   box->addWidget(list, 1);
-  box->addLayout(EndsOf(OkBtn, CancelBtn));
+  box->addLayout(ButtonLine({OkBtn, CancelBtn}));
   SetTabSequence();
   FormCreate();
   setSizeGripEnabled(true);

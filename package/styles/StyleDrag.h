@@ -1,16 +1,11 @@
-// A row of a tree that is dragged with the mouse onto a row of another tree, or of the same. Escape ends it;
-// at the edges the target is scrolled.
+// A row of a tree that is dragged with the mouse onto a row of another tree, or of the same; at the edges the
+// target is scrolled.
 #pragma once
-#include <QModelIndex>
-#include <QObject>
-#include <QPersistentModelIndex>
-#include <functional>
+#include "package/dialogs/ItemDrag.h"
 
-class QMouseEvent;
-class QRubberBand;
 class QTreeView;
 
-class StyleDrag : public QObject {
+class StyleDrag : public ItemDrag {
   Q_OBJECT
  public:
   // Not valid below the last row. `copy` while Ctrl is held.
@@ -18,20 +13,15 @@ class StyleDrag : public QObject {
   StyleDrag(QTreeView& source, QTreeView& target, DropFunction drop);
 
  protected:
-  bool eventFilter(QObject* watched, QEvent* event) override;
+  QModelIndex Grip(const QPoint& at) const override;
+  QRect Mark(const QMouseEvent& event) const override;
+  Qt::CursorShape Cursor(const QMouseEvent& event) const override;
+  void Drop(const QModelIndex& row, const QMouseEvent& event) override;
 
  private:
-  bool Moved(const QMouseEvent& event);
-  bool Released(const QMouseEvent& event);
-  bool IsOver(const QMouseEvent& event) const;
   QModelIndex TargetAt(const QMouseEvent& event) const;
-  void End();
 
   QTreeView& source_;
   QTreeView& target_;
   DropFunction drop_;
-  QRubberBand* mark_;
-  QPersistentModelIndex pressed_;
-  QPoint from_;
-  bool dragging_ = false;
 };

@@ -210,7 +210,11 @@ QStringList TVRXPropList::TypeNames() const {
   return Names(items_, [](const auto& i) { return i.TypeName; });
 }
 
-void TVRXPropList::ExcludeProperty(const QString& name) { excluded_.insert(name.toUpper()); }
+void TVRXPropList::ExcludeProperty(const QString& name) {
+  excluded_.insert(name.toUpper());
+  typesExcluded_ |= name.contains(u':');
+  words_.clear();
+}
 
 QStringList TVRXPropList::ExcludedNames() const {
   QStringList names(excluded_.begin(), excluded_.end());
@@ -226,17 +230,17 @@ void TVRXPropList::Clear() {
   Forget();
 }
 
-const QString& TVRXPropList::TextOf(const QByteArray& name) {
-  auto it = texts_.find(name);
-  if (it == texts_.end()) it = texts_.insert(name, QString::fromLatin1(name));
+TVRXPropList::Word TVRXPropList::WordOf(const QByteArray& name) {
+  auto it = words_.find(name);
+  if (it == words_.end()) {
+    const QString text = QString::fromLatin1(name);
+    it = words_.insert(name, {text, PropertyExcluded(text)});
+  }
   return *it;
 }
 
-bool TVRXPropList::Excludes(const TPropInfo& prop) const {
-  if (excluded_.isEmpty()) return false;
-  const QString name = QString::fromLatin1(prop.Name).toUpper();
-  return excluded_.contains(name) ||
-         excluded_.contains(name + u':' + QString::fromLatin1(prop.PropType->Name).toUpper());
+bool TVRXPropList::ExcludesType(const TPropInfo& prop) const {
+  return typesExcluded_ && PropertyExcluded(QString::fromLatin1(prop.Name + ':' + prop.PropType->Name));
 }
 
 void TVRXPropList::Register(const TClass& cls, const QString& parent) {
@@ -246,17 +250,18 @@ void TVRXPropList::Register(const TClass& cls, const QString& parent) {
   if (!FindClass(cls.ClassName())) RegisterClass(cls, this);
   const bool nothing = !parent.isEmpty() && PropertyExcluded(parent);
   if (nothing) return;
-  const QString className = TextOf(cls.ClassName());
+  const QString className = WordOf(cls.ClassName()).text;
   const bool again = seenNames_.contains({className, parent});
   seenNames_.insert({className, parent});
   for (const TPropInfo* prop : cls.Properties()) {
     if (prop->Visibility != TPropVisibility::Published || !IsStylable(prop->Kind())) continue;
     const TClass* const value = ValueClass(*prop);
-    if (IsLeftOut(value) || Excludes(*prop)) continue;
-    const QString name = TextOf(prop->Name);
+    if (IsLeftOut(value)) continue;
+    const auto [name, excluded] = WordOf(prop->Name);
+    if (excluded || ExcludesType(*prop)) continue;
     if (!(foreign_ || again) || !IsThere(name, className, parent)) {
       items_.push_back(std::make_unique<TVRXPropListItem>(TVRXPropListItem{
-          name, prop->Kind(), TextOf(prop->PropType->Name), className, parent, prop->PropType}));
+          name, prop->Kind(), WordOf(prop->PropType->Name).text, className, parent, prop->PropType}));
       sorted_ = false;
     }
     if (IsPersistent(value) && !IsPicture(value)) Register(*value, name);

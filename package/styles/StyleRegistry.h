@@ -54,8 +54,12 @@ class TVRXPropList {
  private:
   friend void RegisterStyleMgrClass(const TClass& cls, const QString& parent, TVRXPropList& list);
   void Register(const TClass& cls, const QString& parent);
-  bool Excludes(const TPropInfo& prop) const;
-  const QString& TextOf(const QByteArray& name);
+  bool ExcludesType(const TPropInfo& prop) const;
+  struct Word {
+    QString text;
+    bool excluded = false;  // as a name
+  };
+  Word WordOf(const QByteArray& name);
   bool IsThere(const QString& name, const QString& className, const QString& parent);
   void Forget();
   void Sort() const;
@@ -70,7 +74,8 @@ class TVRXPropList {
   QSet<QPair<QString, QString>> seenNames_;   // the same by name, for a class that came anew
   bool foreign_ = false;                      // items that no class has brought
   QSet<QString> exact_;                       // items by all that tells them apart; made when needed
-  QHash<QByteArray, QString> texts_;          // names occur many times
+  QHash<QByteArray, Word> words_;             // names occur many times
+  bool typesExcluded_ = false;                // a name with its type is
 };
 
 // The one of the loaded package. It is made when the package's unit starts, or when somebody asks for it.

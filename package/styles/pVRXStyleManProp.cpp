@@ -63,13 +63,9 @@ TfrmVRXStyleManProp::TfrmVRXStyleManProp(QWidget* owner)
   halves->setChildrenCollapsible(false);
   OkButton(OkBtn, "OkBtn");
   CancelButton(CancelBtn, "CancelBtn");
-  auto* ends = new QHBoxLayout;
-  ends->addStretch(1);
-  ends->addWidget(OkBtn);
-  ends->addWidget(CancelBtn);
   auto* box = new QVBoxLayout(this);
   box->addWidget(halves, 1);
-  box->addLayout(ends);
+  box->addLayout(ButtonLine({OkBtn, CancelBtn}));
   BuildMenus();
   new StyleDrag(*PropTree, *Styles, [this](const QModelIndex& from, const QModelIndex& to, bool) {
     Guarded([&] { DropFromProperties(PropTree->itemFromIndex(from), model_->NodeAt(to)); });

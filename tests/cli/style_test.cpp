@@ -111,6 +111,19 @@ TEST_F(StyleCli, TellsWhatDoesNotFitAndSetsTheRest) {
   EXPECT_EQ(Difference(SmallForm, Read(form)), L("+Hint = 'h'"));
 }
 
+TEST_F(StyleCli, StylesThatCannotBeReadAreToldByACheckOfTheForm) {
+  const QString whole = Write("whole.dfm", Form(1)),
+                damaged = Write("damaged.dfm", Form(1).replace("text \"from", "text from"));
+  EXPECT_EQ(Vrx({L("check"), whole}).code, 0);
+  const Result r = Vrx({L("check"), damaged});
+  EXPECT_EQ(r.code, 1);
+  EXPECT_TRUE(
+      r.out.contains(L("error: Styles1: TVRXStyleManager: the styles cannot be read and are kept as "
+                       "they are: line 3: a text stands in quotes")))
+      << r.out.toStdString();
+  EXPECT_EQ(r.out.count(u'\n'), 1);
+}
+
 TEST_F(StyleCli, SaysWhatIsWrongAndGoesOnWithTheOtherForms) {
   const QString file = Write("s", Styles), good = Write("good.dfm", Form(1)), two = Write("two.dfm", Form(2)),
                 none = Write("none.dfm", SmallForm), bad = Write("bad.dfm", "object"),

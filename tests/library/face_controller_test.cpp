@@ -4,7 +4,6 @@
 #include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
-#include <random>
 
 #include "library/controls/Button3D.h"
 #include "library/controls/CustomLabel.h"
@@ -17,6 +16,7 @@
 #include "rtl/Exceptions.h"
 #include "rtl/PropAccess.h"
 #include "tests/library/LibraryTest.h"
+#include "tests/support/Mutations.h"
 #include "vcl/PictureFile.h"
 
 namespace {
@@ -608,29 +608,10 @@ TEST(FaceFile, ThatIsMutatedIsReadOrRefusedAndNeverHalfRead) {
   TVRXFaceController whole(nullptr);
   FillAll(whole);
   const QByteArray text = TextOf(whole);
-  std::mt19937 random(20);
-  const auto below = [&](qsizetype n) {
-    return static_cast<qsizetype>(random() % static_cast<std::size_t>(n));
-  };
+  Mutations mutations(text, 20);
   int read = 0, refused = 0;
   for (int i = 0; i < 4000; ++i) {
-    QByteArray bytes = text;
-    for (auto n = below(3); n >= 0; --n) {
-      const qsizetype at = below(bytes.size());
-      switch (below(4)) {
-        case 0:
-          bytes[at] = static_cast<char>(random());
-          break;
-        case 1:
-          bytes.remove(at, below(9));
-          break;
-        case 2:
-          bytes.insert(at, text.mid(below(text.size()), below(40)));
-          break;
-        default:
-          bytes[at] = static_cast<char>(bytes[at] ^ (1 << below(8)));
-      }
-    }
+    const QByteArray bytes = mutations.Next();
     TVRXFaceController face(nullptr);
     Made<TVRXBevel>(face, okBevel);
     const QByteArray before = TextOf(face);

@@ -240,7 +240,8 @@ TEST_F(Storage, EveryPropertyGoesThereAndBack) {
       if (prop->Visibility == TPropVisibility::Published && !prop->IsEvent())
         storage->StoredProps()->Add(component->Name(), QString::fromLatin1(prop->Name));
     for (const TPropInfo* prop : component->ClassType().Properties())
-      if (prop->Visibility == TPropVisibility::Published && prop->PropType->Name == "Boolean" && prop->Name != "Visible")
+      if (prop->Visibility == TPropVisibility::Published && prop->PropType->Name == "Boolean" &&
+          prop->Name != "Visible")
         SetOrdProp(*component, *prop, 1 - GetOrdProp(*component, *prop));
     const QStringList before = texts(*component);
     EXPECT_EQ(Save(), "");
@@ -250,4 +251,28 @@ TEST_F(Storage, EveryPropertyGoesThereAndBack) {
     EXPECT_EQ(Load(), "");
     EXPECT_EQ(texts(*component).join(u'\n').toStdString(), before.join(u'\n').toStdString());
   }
+}
+
+TEST_F(Storage, FollowsTheNamesOfComponentsAndOfTheForm) {
+  Keep("Edit1", "Text");
+  Keep("FORM1", "Caption");
+  Keep("Memo1", "Lines");
+  Keep("edit1", "Hint");
+  edit->SetName(Q("Field"));
+  form.SetName(Q("Main"));
+  QStringList kept;
+  for (int i = 0; i < storage->StoredProps()->Count(); ++i)
+    kept << storage->StoredProps()->Items(i)->DisplayName();
+  EXPECT_EQ(kept.join(u' ').toStdString(), "Field.Text Main.Caption Memo1.Lines Field.Hint");
+}
+
+TEST_F(Storage, KeepsTheNamesOfComponentsThatAreNoneOfItsForm) {
+  Keep("Edit1", "Text");
+  TForm other{nullptr};
+  auto* stranger = new TEdit(&other);
+  stranger->FreeNotification(storage);
+  stranger->SetName(Q("Edit1"));
+  stranger->SetName(Q("Edit2"));
+  edit->SetName(QString());
+  EXPECT_EQ(storage->StoredProps()->Items(0)->DisplayName().toStdString(), "Edit1.Text");
 }

@@ -6,7 +6,6 @@
 #include <QFile>
 #include <QTemporaryDir>
 #include <limits>
-#include <random>
 
 #include "library/controls/CustomLabel.h"
 #include "library/controls/Faced.h"
@@ -18,6 +17,7 @@
 #include "rtl/Exceptions.h"
 #include "rtl/PropAccess.h"
 #include "tests/library/LibraryTest.h"
+#include "tests/support/Mutations.h"
 #include "vcl/Button.h"
 #include "vcl/Edit.h"
 #include "vcl/Form.h"
@@ -320,29 +320,10 @@ TEST(StyleFile, ThatIsMutatedIsReadOrRefusedAndNeverHalfRead) {
   QTemporaryDir folder;
   const QString path = folder.filePath(Q("styles"));
   const QByteArray before = TextOf(m);
-  std::mt19937 random(91);
-  const auto below = [&](qsizetype n) {
-    return static_cast<qsizetype>(random() % static_cast<std::size_t>(n));
-  };
+  Mutations mutations(text, 91);
   int read = 0, refused = 0;
   for (int i = 0; i < 4000; ++i) {
-    QByteArray bytes = text;
-    for (auto n = below(3); n >= 0; --n) {
-      const qsizetype at = below(bytes.size());
-      switch (below(4)) {
-        case 0:
-          bytes[at] = static_cast<char>(random());
-          break;
-        case 1:
-          bytes.remove(at, below(9));
-          break;
-        case 2:
-          bytes.insert(at, text.mid(below(text.size()), below(40)));
-          break;
-        default:
-          bytes[at] = static_cast<char>(bytes[at] ^ (1 << below(8)));
-      }
-    }
+    const QByteArray bytes = mutations.Next();
     try {
       const TVRXStyles styles = TVRXStyles::FromText(bytes);
       ++read;

@@ -350,6 +350,21 @@ TEST_F(StorageDialog, OkIsOneStepThatUndoTakesBackToTheBytes) {
   EXPECT_EQ(session->Bytes(), after);
 }
 
+TEST_F(StorageDialog, WhatIsKeptFollowsARenamedComponentAndUndoTakesBothBack) {
+  const auto session = Sample();
+  const QByteArray before = session->Bytes();
+  session->Rename(*session->GetComponent(QStringLiteral("Led")), QStringLiteral("Lamp"));
+  QByteArray wanted = before;
+  wanted.replace("ComponentName = 'Led'", "ComponentName = 'Lamp'").replace("object Led:", "object Lamp:");
+  EXPECT_NE(wanted.count("ComponentName = 'Lamp'"), 0);
+  EXPECT_EQ(session->Bytes(), wanted);
+  session->Undo();
+  EXPECT_EQ(session->Bytes(), before);
+  EXPECT_FALSE(session->CanUndo());
+  session->Redo();
+  EXPECT_EQ(session->Bytes(), wanted);
+}
+
 TEST_F(StorageDialog, CancelKeepsTheCollectionButExclusionsStay) {
   const auto session = Sample();
   const QByteArray before = session->Bytes();

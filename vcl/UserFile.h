@@ -1,4 +1,4 @@
-// Files that a person names in a dialog of an editor.
+// Files that a person names.
 #pragma once
 #include <QByteArray>
 #include <QString>
@@ -9,3 +9,5 @@ QByteArray ReadUserFile(const QString& file);
 QString ReadUserText(const QString& file);
 // A file that is there already is replaced as a whole or stays.
 void WriteUserFile(const QString& file, const QByteArray& bytes);
+// Throws that it cannot be read, as the others do, for a reason that the reader of its content has.
+[[noreturn]] void CannotReadUserFile(const QString& file, const QString& why);

@@ -1,4 +1,4 @@
-#include "dclstd/UserFile.h"
+#include "vcl/UserFile.h"
 
 #include <QDir>
 #include <QFile>
@@ -7,11 +7,13 @@
 
 #include "rtl/Exceptions.h"
 
+void CannotReadUserFile(const QString& file, const QString& why) {
+  throw Exception(QStringLiteral("%1 cannot be read: %2.").arg(QDir::toNativeSeparators(file), why));
+}
+
 QByteArray ReadUserFile(const QString& file) {
   constexpr qint64 Most = qint64{256} << 20;
-  const auto fail = [&](const QString& why) {
-    throw Exception(QStringLiteral("%1 cannot be read: %2.").arg(QDir::toNativeSeparators(file), why));
-  };
+  const auto fail = [&](const QString& why) { CannotReadUserFile(file, why); };
   QFile source(file);
   if (QFileInfo(file).exists() && !QFileInfo(file).isFile()) fail(QStringLiteral("it is no file"));
   if (!source.open(QIODevice::ReadOnly)) fail(source.errorString());
