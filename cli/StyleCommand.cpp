@@ -67,8 +67,9 @@ TVRXStyles Part(const TVRXStyles& styles, const QString& path, const QString& so
   QStringList known;
   for (const auto& [at, values] : styles.All()) {
     known << at;
-    if (at == path || at.startsWith(path + VRXStyleSeparator))
-      for (const auto& [key, value] : values) part.Write(at, key, value);
+    if (at != path && !at.startsWith(path + VRXStyleSeparator)) continue;
+    part.Add(at);
+    for (const auto& [key, value] : values) part.Write(at, key, value);
   }
   if (!styles.Has(path))
     throw Exception(QStringLiteral("%1 has no style \"%2\".").arg(source, path) + DidYouMean(path, known));
@@ -125,9 +126,7 @@ bool Import(StyleJob& job, const QString& file) {
   const QByteArray before = session->Bytes();
   TVRXStyleManager& manager = ManagerOf(*session, job.Option(ManagerOption));
   TVRXStyles styles = manager.Styles();
-  const TVRXStyles wanted = Part(job.from->Styles(), job.style, job.Option(FromOption));
-  for (const auto& [path, values] : wanted.All())
-    for (const auto& [key, value] : values) styles.Write(path, key, value);
+  styles.Merge(Part(job.from->Styles(), job.style, job.Option(FromOption)));
   session->Run(QStringLiteral("import styles"), {&manager}, [&] { manager.SetStyles(styles); });
   Finish(job, *session, before);
   return true;
@@ -183,13 +182,22 @@ struct Action {
   const char* name;
   bool (*run)(StyleJob& job, const QString& file);
   QStringList (*needs)();
+  QStringList (*takes)();  // besides, and besides the manager and the style
   bool changes = false;
 };
 const Action Actions[] = {
-    {"list", List, [] { return QStringList(); }},
-    {"export", Export, [] { return QStringList{OutOption}; }},
-    {"import", Import, [] { return QStringList{FromOption}; }, true},
-    {"apply", Apply, [] { return QStringList{StyleOption}; }, true},
+    {"list", List, [] { return QStringList(); }, [] { return QStringList(); }},
+    {"export", Export, [] { return QStringList{OutOption}; }, [] { return QStringList(); }},
+    {"import", Import, [] { return QStringList{FromOption}; },
+     [] {
+       return QStringList{DryRun, Here};
+     },
+     true},
+    {"apply", Apply, [] { return QStringList{StyleOption}; },
+     [] {
+       return QStringList{FromOption, ClassOption, DryRun, Here};
+     },
+     true},
 };
 
 int RunHere(const Action& action, StyleJob& job, const QStringList& files) {
@@ -248,6 +256,10 @@ int StyleCommand(const QStringList& list, Console& console) {
   if (files.isEmpty()) throw UsageError{QStringLiteral("a form file is missing")};
   for (const QString& option : action->needs())
     if (!args.Has(option)) throw UsageError{QStringLiteral("%1 needs %2").arg(word, option)};
+  const QStringList taken = QStringList{ManagerOption, StyleOption} + action->needs() + action->takes();
+  for (auto it = args.options.begin(); it != args.options.end(); ++it)
+    if (!taken.contains(it.key()))
+      throw UsageError{QStringLiteral("%1 cannot be used with %2").arg(it.key(), word)};
   if (args.Has(OutOption) && files.size() > 1) throw UsageError{QStringLiteral("export takes one form")};
   if (action->run == Apply) ClassNameFor(args);
   StyleJob job{console, args, args.options.value(StyleOption), {}};

@@ -74,6 +74,10 @@ class WidgetPrompts : public IPrompts {
     return Show(QMessageBox::Question, parent, title, text, QMessageBox::Yes | QMessageBox::No) ==
            QMessageBox::Yes;
   }
+  bool ConfirmWarning(QWidget* parent, const QString& title, const QString& text) override {
+    return Show(QMessageBox::Warning, parent, title, text, QMessageBox::Yes | QMessageBox::No) ==
+           QMessageBox::Yes;
+  }
   QString OpenFileName(QWidget* parent, const QString& title, const QString& folder,
                        const QString& filter) override {
     QFileDialog dialog(parent, title, InPromptFolder(folder), filter);

@@ -19,6 +19,10 @@ class IPrompts {
     return TFileAnswer::Cancel;
   }
   virtual bool Confirm(QWidget* parent, const QString& title, const QString& text) = 0;
+  // The same with the sign of a warning.
+  virtual bool ConfirmWarning(QWidget* parent, const QString& title, const QString& text) {
+    return Confirm(parent, title, text);
+  }
   // Empty when cancelled.
   virtual QString OpenFileName(QWidget* parent, const QString& title, const QString& folder,
                                const QString& filter) = 0;

@@ -1,5 +1,5 @@
 // Files of styles: a block for each style in order of its path, whose lines are its values in order of their
-// names. Blocks and ways of values that nobody here knows are kept and written again.
+// names.
 #include <QRegularExpression>
 #include <array>
 #include <charconv>
@@ -28,8 +28,7 @@ QString ValueText(const TVRXStyleValue& value) {
               [](long double v) { return QStringLiteral("float ") + FloatText(v); },
               [](const QByteArray& v) {
                 return (QStringLiteral("stream ") + QString::fromLatin1(v.toBase64())).trimmed();
-              },
-              [](const TVRXForeignValue& v) { return v.Text; }},
+              }},
       value);
 }
 
@@ -72,13 +71,12 @@ class VRXStyleReader : public VRXBlockReader {
   TVRXStyles Read(const QStringList& lines) {
     if (lines.isEmpty()) return {};
     ReadLines(Title, lines);
-    styles_.foreign_ = Foreign();
     return std::move(styles_);
   }
 
  private:
   bool Block(const QString& word, const QString& rest) override {
-    if (word != Style) return false;
+    if (word != Style) Refuse(QStringLiteral("\"%1\" begins no style").arg(Short(word)));
     QString path;
     if (!UnquotedText(rest, path)) Refuse(QStringLiteral("a style needs its path in quotes"));
     for (const QString& name : path.split(VRXStyleSeparator))
@@ -106,7 +104,7 @@ class VRXStyleReader : public VRXBlockReader {
   static TVRXStyleValue Value(const QString& word, const QString& rest) {
     for (const Way& way : Ways)
       if (word == QLatin1StringView(way.word)) return way.read(rest);
-    return TVRXForeignValue{(word + u' ' + rest).trimmed()};
+    Wrong(QStringLiteral("\"%1\" is no way to keep a value: text, integer, float and stream are").arg(word));
   }
 
   TVRXStyles styles_;
@@ -121,7 +119,7 @@ QStringList TVRXStyles::Lines() const {
     for (const auto& [key, value] : values)
       lines << VRXBlockIndent + key.Name + u':' + key.TypeName + QStringLiteral(" = ") + ValueText(value);
   }
-  return lines << foreign_ << VRXBlockEnd;
+  return lines << VRXBlockEnd;
 }
 TVRXStyles TVRXStyles::FromLines(const QStringList& lines) { return VRXStyleReader().Read(lines); }
 

@@ -28,7 +28,7 @@ std::int64_t Ordinal(const TPropInfo& prop, const TVRXStyleValue& value) {
     else
       ordinal = TextToOrd(type, *text);
   } else {
-    Misfit(QStringLiteral("a %1 is kept as a number or a text").arg(Latin(type.Name)));
+    Misfit(QStringLiteral("%1 is kept as a number or a text").arg(Latin(type.Name)));
   }
   return ordinal;
 }
@@ -42,12 +42,15 @@ TPropValue Converted(const TPropInfo& prop, const TVRXStyleValue& value) {
   if (const auto* text = std::get_if<QString>(&value); text && (prop.Is<QString>() || prop.Is<TReference>()))
     return *text;
   if (const auto* bytes = std::get_if<QByteArray>(&value); bytes && prop.Is<QByteArray>()) return *bytes;
-  Misfit(QStringLiteral("a %1 is not kept in this way").arg(Latin(prop.PropType->Name)));
+  Misfit(QStringLiteral("%1 is not kept in this way").arg(Latin(prop.PropType->Name)));
 }
 
+// Where a control stands comes behind what may change its size.
 int PlaceOf(const TClass& cls, const TPropInfo& prop) {
+  static constexpr const char* bounds[] = {"Left", "Top", "Width", "Height", "ClientWidth", "ClientHeight"};
   const auto& all = cls.Properties();
-  return static_cast<int>(std::find(all.begin(), all.end(), &prop) - all.begin());
+  const bool last = std::find(std::begin(bounds), std::end(bounds), prop.Name) != std::end(bounds);
+  return static_cast<int>(std::find(all.begin(), all.end(), &prop) - all.begin() + (last ? all.size() : 0));
 }
 }  // namespace
 
@@ -85,12 +88,12 @@ void TVRXStylePlan::Add(const TClass& cls, const QString& style, const TVRXStyle
   }
   const TPropInfo* last = step.Path.back();
   if (last->PropType->Name.compare(key.TypeName.toLatin1(), Qt::CaseInsensitive) != 0)
-    Misfit(QStringLiteral("it is a %1 here, no %2").arg(Latin(last->PropType->Name), key.TypeName));
+    Misfit(QStringLiteral("its type is %1 here, not %2").arg(Latin(last->PropType->Name), key.TypeName));
   if (last->IsEvent()) Misfit(QStringLiteral("events are nothing of a style"));
   if (names.size() == 1 && last->Name == "Name") Misfit(QStringLiteral("names are a component's own"));
   if (last->IsPart()) {
     last = DataOf(last->PropType->ClassType());
-    if (!last) Misfit(QStringLiteral("a %1 has no data").arg(key.TypeName));
+    if (!last) Misfit(QStringLiteral("%1 has no data").arg(key.TypeName));
     step.Path.push_back(last);
   }
   if (!last->IsWritable()) Misfit(QStringLiteral("it is read-only"));

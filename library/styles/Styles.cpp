@@ -66,6 +66,16 @@ void TVRXStyles::Write(const QString& path, const TVRXStyleKey& key, TVRXStyleVa
   paths_[path].insert_or_assign(key, std::move(value));
 }
 
+void TVRXStyles::Add(const QString& path) {
+  RequirePath(path);
+  paths_.try_emplace(path);
+}
+
+void TVRXStyles::Merge(const TVRXStyles& others) {
+  for (const auto& [path, values] : others.paths_)
+    for (auto& mine = paths_[path]; const auto& [key, value] : values) mine.insert_or_assign(key, value);
+}
+
 bool TVRXStyles::Erase(const QString& path, const TVRXStyleKey& key) {
   const auto it = paths_.find(path);
   return it != paths_.end() && it->second.erase(key) > 0;

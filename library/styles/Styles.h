@@ -9,14 +9,9 @@
 #include <map>
 #include <variant>
 
-// A value in a way that nobody here knows, as the file says it.
-struct TVRXForeignValue {
-  QString Text;
-  bool operator==(const TVRXForeignValue&) const = default;
-};
 // Texts (of characters and sets, too), integers (ordinals of enumerations, too), floats, and what pictures
 // are stored as.
-using TVRXStyleValue = std::variant<QString, std::int64_t, long double, QByteArray, TVRXForeignValue>;
+using TVRXStyleValue = std::variant<QString, std::int64_t, long double, QByteArray>;
 
 struct TVRXStyleKey {
   QString Name, TypeName;
@@ -35,13 +30,17 @@ class TVRXStyles {
   using Paths = std::map<QString, Values, PathOrder>;
 
   const Paths& All() const { return paths_; }
-  bool IsEmpty() const { return paths_.empty() && foreign_.isEmpty(); }
+  bool IsEmpty() const { return paths_.empty(); }
   // Null when there is no such style, or no such value in it.
   const Values* Find(const QString& path) const;
   const TVRXStyleValue* Find(const QString& path, const TVRXStyleKey& key) const;
   // Whether a style or a substyle of it has this path.
   bool Has(const QString& path) const;
 
+  // A style that may have no values; nothing when it is there.
+  void Add(const QString& path);
+  // All of the others, over what is there.
+  void Merge(const TVRXStyles& others);
   // Makes the style when there is none.
   void Write(const QString& path, const TVRXStyleKey& key, TVRXStyleValue value);
   bool Erase(const QString& path, const TVRXStyleKey& key);
@@ -62,7 +61,6 @@ class TVRXStyles {
  private:
   friend class VRXStyleReader;
   Paths paths_;
-  QStringList foreign_;
 };
 
 inline constexpr QChar VRXStyleSeparator = u'|';

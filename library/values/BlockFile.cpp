@@ -11,10 +11,15 @@ constexpr int Version = 1;
 QStringList VRXBlockLines(const QByteArray& bytes) {
   const QByteArray mark = "\xEF\xBB\xBF";
   const QByteArray plain = bytes.startsWith(mark) ? bytes.mid(mark.size()) : bytes;
-  QString text = QString::fromUtf8(plain);
-  if (text.toUtf8() != plain || text.contains(QChar(0)))
-    throw Exception(QStringLiteral("line 1: it is no text"));
-  return text.replace(QStringLiteral("\r\n"), QStringLiteral("\n")).split(u'\n');
+  QStringList lines;
+  for (QByteArray bytesOfLine : plain.split('\n')) {
+    if (bytesOfLine.endsWith('\r')) bytesOfLine.chop(1);
+    const QString line = QString::fromUtf8(bytesOfLine);
+    if (line.toUtf8() != bytesOfLine || line.contains(QChar(0)))
+      throw Exception(QStringLiteral("line %1: it is no text").arg(lines.size() + 1));
+    lines << line;
+  }
+  return lines;
 }
 
 QByteArray VRXBlockText(const QStringList& lines) { return (lines.join(u'\n') + u'\n').toUtf8(); }

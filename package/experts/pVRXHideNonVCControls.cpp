@@ -15,9 +15,11 @@ TVRXHideNonVCfrm::TVRXHideNonVCfrm(QWidget* owner) : TDesignWindow(owner) {
   connect(cbList, &QListWidget::currentItemChanged, this, [this] {
     if (!loading_) CheckInfo();
   });
-  connect(cbList, &QWidget::customContextMenuRequested, this,
-          [this](const QPoint& at) { popMenu->popup(cbList->viewport()->mapToGlobal(at)); });
-  connect(popMenu, &QMenu::aboutToShow, this, &TVRXHideNonVCfrm::BuildMenu);
+  connect(cbList, &QWidget::customContextMenuRequested, this, [this](const QPoint& at) {
+    // An empty menu would never show, and be in the way of the next one.
+    BuildMenu();
+    if (!popMenu->isEmpty()) popMenu->popup(cbList->viewport()->mapToGlobal(at));
+  });
   const auto clicked = [this](QPushButton* button, auto action) {
     connect(button, &QPushButton::clicked, this, action);
   };

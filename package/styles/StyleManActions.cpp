@@ -29,8 +29,16 @@ const TVRXPropListItem* ItemOf(const QTreeWidgetItem* item) {
 // --- The edited manager
 
 bool TfrmVRXStyleManProp::Execute(TVRXStyleManager& manager) {
-  // Nothing could be written back to styles that nobody can read.
-  if (!manager.Problem().isEmpty()) throw Exception(manager.Problem());
+  // Styles that nobody can read are not replaced unasked.
+  const QString title = QString::fromLatin1(VRXStyleEditorTitle);
+  if (!manager.Problem().isEmpty() &&
+      !Prompts().ConfirmWarning(
+          ApplicationOwner(), title,
+          QStringLiteral(
+              "The styles of %1 cannot be read and are kept as they are: %2. Start with no styles? "
+              "What you make then takes their place.")
+              .arg(manager.Name(), manager.Problem())))
+    return false;
   TfrmVRXStyleManProp dialog(ApplicationOwner());
   dialog.SetData(manager);
   if (dialog.ShowModal() != mrOk) return false;

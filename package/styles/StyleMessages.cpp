@@ -48,6 +48,7 @@ TVRXStyleBox VRXStyleBox(TVRXStyleMessage message, const QStringList& names) {
 TVRXShowStyleBox VRXStyleBoxesOf(QWidget* parent) {
   return [parent](const TVRXStyleBox& box) {
     const QString title = QString::fromLatin1(VRXStyleEditorTitle);
+    if (box.Buttons == YesNo && box.Icon == Warning) return Prompts().ConfirmWarning(parent, title, box.Text);
     if (box.Buttons == YesNo) return Prompts().Confirm(parent, title, box.Text);
     Prompts().Warn(parent, title, box.Text);
     return false;

@@ -371,8 +371,6 @@ const TTypeInfo* TVRXStyleTree::TypeOf(const Node& property) const {
   return property.Item ? property.Item->Type : nullptr;
 }
 TVRXStyleEditor TVRXStyleTree::EditorOf(const Node& property) const {
-  const TVRXStyleValue* value = Value(property);
-  if (value && std::holds_alternative<TVRXForeignValue>(*value)) return TVRXStyleEditor::None;
   return VRXStyleEditorOf(KindOf(property), property.TypeName);
 }
 QString TVRXStyleTree::DisplayValue(const Node& property) const {

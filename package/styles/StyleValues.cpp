@@ -64,8 +64,7 @@ QString VRXDisplayValue(const TVRXStyleValue* value, TTypeKind kind, const QStri
                             },
                             [&](const QByteArray& v) {
                               return v.isEmpty() ? QStringLiteral("(none)") : u'(' + typeName + u')';
-                            },
-                            [](const TVRXForeignValue& v) { return v.Text; }},
+                            }},
                     *value);
 }
 

@@ -147,8 +147,37 @@ TEST_F(StyleCli, SaysWhatIsWrongAndGoesOnWithTheOtherForms) {
                                           {L("apply"), good},
                                           {L("import"), good},
                                           {L("export"), good},
+                                          {L("list"), good, L("--from"), file},
+                                          {L("list"), good, L("--dry-run")},
+                                          {L("export"), good, L("-o"), Path("x"), L("--dry-run")},
+                                          {L("import"), good, L("--from"), file, L("-o"), Path("x")},
+                                          {L("import"), good, L("--from"), file, L("--class"), L("TLabel")},
+                                          {L("apply"), good, L("--style"), L("TLabel"), L("-o"), Path("x")},
                                           {L("export"), good, two, L("-o"), L("x")}})
     EXPECT_EQ(Style(wrong).code, 2) << wrong.join(u' ').toStdString();
+  EXPECT_FALSE(QFile::exists(Path("x")));
+}
+
+TEST_F(StyleCli, SizesAreTheStylesAlsoOfLabelsThatFitTheirText) {
+  const QString form = Write("one.dfm", SmallForm),
+                file = Write("s",
+                             "Styles 1\nstyle \"TLabel\"\n  Caption:TCaption = text \"A longer text\"\n"
+                             "  Font.Size:Integer = integer 20\n  Width:Integer = integer 200\nend\n");
+  const QStringList apply{L("apply"), form, L("--from"), file, L("--style"), L("TLabel")};
+  EXPECT_EQ(Style(apply).code, 0);
+  const QByteArray once = Read(form);
+  EXPECT_TRUE(once.contains("Width = 200")) << once.toStdString();
+  EXPECT_EQ(Style(apply).code, 0);
+  EXPECT_EQ(Read(form), once);
+}
+
+TEST_F(StyleCli, StylesWithoutValuesAreImportedToo) {
+  const QString form = Write("one.dfm", Form(1)),
+                file = Write("s", "Styles 1\nstyle \"Empty\"\nstyle \"Empty|.Y\"\nend\n");
+  for (const char* style : {"Empty", ""}) {
+    EXPECT_EQ(Style({L("import"), form, L("--from"), file, L("--style"), L(style)}).code, 0);
+    EXPECT_EQ(Difference(Form(1), Read(form)), L("+'style \"Empty\"'|+'style \"Empty|.Y\"'"));
+  }
 }
 
 namespace {

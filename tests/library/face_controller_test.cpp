@@ -569,7 +569,7 @@ TEST(FaceFile, ThatIsDamagedIsRefusedWithLineAndReason) {
        "line 3: there is no item 3"},
       {"FaceController states 1\nstate skFocused\n  use x\nend\n",
        "line 3: what a state uses stands in quotes"},
-      {"FaceController states 1\n\xFF\nend\n", "line 1: it is no text"},
+      {"FaceController states 1\n\xFF\nend\n", "line 2: it is no text"},
   };
   for (const auto& [text, reason] : rows) {
     TVRXFaceController face(nullptr);

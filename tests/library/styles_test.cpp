@@ -28,7 +28,7 @@ const QString Integer = QStringLiteral("Integer"), String = QStringLiteral("stri
               Color = QStringLiteral("TColor"), Double = QStringLiteral("Double");
 std::int64_t Code(TColor color) { return static_cast<std::int32_t>(color); }
 
-// A value of each form, substyles, and what only a later version knows.
+// A value of each form, and substyles.
 void FillAll(TVRXStyleManager& m) {
   m.WritePropValue(Q("TButton"), Q("Caption"), Q("Größe \"x\"\n\\ü\u2028"), String);
   m.WritePropValue(Q("TButton"), Q("Tag"), std::numeric_limits<std::int64_t>::min(), Integer);
@@ -41,7 +41,6 @@ void FillAll(TVRXStyleManager& m) {
                    Q("TBitmap"));
   m.WritePropValue(Q(".Header"), Q("Empty"), QByteArray(), Q("TBitmap"));
   m.WritePropValue(Q("TButton-like"), Q("Font.Color"), Code(clRed), Color);
-  m.WritePropValue(Q(".Header"), Q("Later"), TVRXForeignValue{Q("gradient 1 2 3")}, Color);
 }
 QByteArray TextOf(const TVRXStyleManager& m) { return m.Styles().Text(); }
 QString Refusal(const QByteArray& text) {
@@ -234,7 +233,6 @@ TEST(StyleFile, HasOneLineForAValueInAnOrderThatStays) {
                                             "style \".Header\"\n"
                                             "  Empty:TBitmap = stream\n"
                                             "  Glyph:TBitmap = stream AP9hYmM=\n"
-                                            "  Later:TColor = gradient 1 2 3\n"
                                             "style \"TButton\"\n"
                                             "  Caption:string = text \"Größe \\\"x\\\"\\u000a\\\\ü\\u2028\"\n"
                                             "  Tag:Integer = integer -9223372036854775808\n"
@@ -258,19 +256,10 @@ TEST(StyleFile, HasOneLineForAValueInAnOrderThatStays) {
   EXPECT_EQ(lines.join(u'\n').toUtf8(), TextOf(m));
 }
 
-TEST(StyleFile, KeepsBlocksAndValuesOfLaterVersionsAndForgetsWhatIsWrittenOver) {
+TEST(StyleFile, KeepsStylesWithoutValues) {
   const QByteArray text =
-      "Styles 1\nstyle \"A\"\n  Fill:TFill = gradient clRed clBlue\n  Tag:Integer = integer 1\n"
-      "palette \"x\"\n  one = 1\n  two = 2\npalette \"y\"\nend\n";
-  TVRXStyleManager m(nullptr);
-  m.SetStyles(TVRXStyles::FromText(text));
-  EXPECT_EQ(TextOf(m), text);
-  TVRXStyleManager copy(nullptr);
-  copy.Assign(&m);
-  copy.RenameStyle(Q("A"), Q("B"));
-  EXPECT_EQ(TextOf(copy), QByteArray(text).replace("style \"A\"", "style \"B\""));
-  m.WritePropValue(Q("A"), Q("Fill"), std::int64_t{3}, Q("TFill"));
-  EXPECT_EQ(TextOf(m), QByteArray(text).replace("gradient clRed clBlue", "integer 3"));
+      "Styles 1\nstyle \"A\"\nstyle \"A|b\"\n  Tag:Integer = integer 1\nstyle \"B\"\nend\n";
+  EXPECT_EQ(TVRXStyles::FromText(text).Text(), text);
 }
 
 TEST(StyleFile, ThatIsDamagedIsRefusedWithLineAndReason) {
@@ -297,7 +286,10 @@ TEST(StyleFile, ThatIsDamagedIsRefusedWithLineAndReason) {
       {"Styles 1\nstyle \"A\"\n  T:I = float inf\nend\n", "line 3: \"inf\" is no number"},
       {"Styles 1\nstyle \"A\"\n  T:I = text x\nend\n", "line 3: a text stands in quotes"},
       {"Styles 1\nstyle \"A\"\n  T:I = stream %%%\nend\n", "line 3: the data of a stream is damaged"},
-      {"Styles 1\n\xFF\nend\n", "line 1: it is no text"},
+      {"Styles 1\nstlye \"A\"\nend\n", "line 2: \"stlye\" begins no style"},
+      {"Styles 1\nstyle \"A\"\n  T:I = integr 5\nend\n",
+       "line 3: \"integr\" is no way to keep a value: text, integer, float and stream are"},
+      {"Styles 1\n\xFF\nend\n", "line 2: it is no text"},
   };
   for (const auto& [text, reason] : rows) EXPECT_EQ(Refusal(text).toStdString(), reason);
 }
@@ -398,15 +390,14 @@ TEST(StyleApply, TellsWhatDoesNotFitAndSetsTheRest) {
   m.WritePropValue(path, Q("OnClick"), Q("Click"), Q("TNotifyEvent"));
   m.WritePropValue(path, Q("PopupMenu"), Q("Menu9"), Q("TPopupMenu"));
   m.WritePropValue(path, Q("Font"), QByteArray("x"), Q("TFont"));
-  m.WritePropValue(path, Q("Later"), TVRXForeignValue{Q("x")}, Q("Boolean"));
-  m.WritePropValue(path, Q("ShowHint"), TVRXForeignValue{Q("x")}, Q("Boolean"));
+  m.WritePropValue(path, Q("ShowHint"), QByteArray("x"), Q("Boolean"));
   m.WritePropValue(path, Q("MaxLength"), std::int64_t{12}, Integer);
   const QStringList texts = Texts(m.ApplyStyle(edit, path));
-  EXPECT_EQ(texts.size(), 12) << texts.join(u'\n').toStdString();
+  EXPECT_EQ(texts.size(), 11) << texts.join(u'\n').toStdString();
   for (const char* wanted :
        {"Style TEdit, Gone: TEdit has no property Gone", "Style TEdit, Font.Gone: TFont has no property Gone",
         "Style TEdit, Hint.Gone: Hint has no parts of its own",
-        "Style TEdit, Color: it is a TColor here, no Integer",
+        "Style TEdit, Color: its type is TColor here, not Integer",
         "Style TEdit, Name: names are a component's own"})
     EXPECT_TRUE(texts.contains(Q(wanted))) << wanted << "\n" << texts.join(u'\n').toStdString();
   EXPECT_EQ(edit.Name(), Q("Edit1"));

@@ -805,6 +805,37 @@ TEST_F(StyleDialog, StylesGoToAFileAndBack) {
   EXPECT_EQ(S(Seen(*d)), S(without));
 }
 
+TEST_F(StyleDialog, AskingWhetherToGoOnWithoutAPropertyIsAWarning) {
+  SetPrompts(nullptr);
+  const auto icon = [](TVRXStyleMessage message) {
+    QMessageBox::Icon shown = QMessageBox::NoIcon;
+    modal::NextOf<QMessageBox>([&](QMessageBox& box) {
+      shown = box.icon();
+      EXPECT_EQ(box.standardButtons(), QMessageBox::Yes | QMessageBox::No);
+      box.button(QMessageBox::Yes)->click();
+    });
+    EXPECT_TRUE(VRXStyleBoxesOf(nullptr)(VRXStyleBox(message, {Q("TButton"), Q("Gone")})));
+    return shown;
+  };
+  EXPECT_EQ(icon(TVRXStyleMessage::NoSuchProperty), QMessageBox::Warning);
+  EXPECT_EQ(icon(TVRXStyleMessage::DeleteStyle), QMessageBox::Question);
+}
+
+TEST_F(StyleDialog, StylesThatNobodyCanReadAreReplacedOnlyWhenThePersonWantsIt) {
+  auto& lines = *As<TStrings>(GetObjectProp(manager, manager.ClassType().GetProp("Styles")));
+  lines.SetLines({Q("Styles 1"), Q("style A"), Q("end")});
+  EXPECT_FALSE(Dlg::Execute(manager));
+  ASSERT_EQ(answers.asked.size(), 1);
+  EXPECT_TRUE(
+      answers.asked[0].contains(manager.Name() + Q(" cannot be read and are kept as they are: line 2: ")))
+      << S(answers.asked[0]);
+  EXPECT_EQ(lines.Count(), 3);
+  answers.yes = true;
+  modal::NextOf<Dlg>([](Dlg& d) { Click(d.OkBtn); });
+  EXPECT_TRUE(Dlg::Execute(manager));
+  EXPECT_EQ(manager.Problem(), QString());
+}
+
 // Drops, names, values, deletions and undo at random; after each, what is seen, the tree, the store and its
 // file agree. At the end undo leads back to the beginning, and the manager was never touched.
 TEST_F(StyleDialog, RandomStepsKeepTreeStoreAndFileInStep) {
