@@ -286,6 +286,8 @@ TEST_F(Bar, TheMenuOffersWhatCanBeDone) {
   EXPECT_EQ(words(),
             "Large images (x), Small images, | Add section, Rename section, Delete section, | Add item, "
             "Rename item (off), Delete item (off)");
+  bar.Set(B::ItemIndex, bar.Current()->ItemCount());
+  EXPECT_TRUE(words().ends_with("Rename item (off), Delete item (off)")) << "no such item";
   bar.Set(B::ItemIndex, 0);
   TVRXButtonBarPopupMenu::Execute(bar, TVRXBarCommand::bcSmallImages);
   menu.Set(TVRXButtonBarPopupMenu::Commands,
