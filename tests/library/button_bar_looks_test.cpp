@@ -56,20 +56,21 @@ TEST_F(BarLook, TheHeadingsAroundTheOpenSectionAreShown) {
 TEST_F(BarLook, ArrowsStandWhereThereIsMoreAndPointThere) {
   Make(TVRXBarOrientation::boVertical);
   EXPECT_EQ(bar.PlaceAt({100, 240}), (P{P::ScrollDown}));
-  const QImage down = Draw(bar, Qt::magenta).copy(93, 231, 16, 16);
+  // The middle of each, where the arrow alone is.
+  const QImage down = Draw(bar, Qt::magenta).copy(97, 235, 8, 8);
   bar.ScrollTo(99);
   EXPECT_NE(bar.PlaceAt({100, 240}), (P{P::ScrollDown})) << "there is no more";
   EXPECT_EQ(bar.PlaceAt({100, 35}), (P{P::ScrollUp}));
-  const QImage up = Draw(bar, Qt::magenta).copy(93, 28, 16, 16);
+  const QImage up = Draw(bar, Qt::magenta).copy(97, 32, 8, 8);
   bar.SetBounds(0, 0, 251, 113);
   bar.Set(B::Orientation, TVRXBarOrientation::boHorizontal);
   bar.ScrollTo(0);
   EXPECT_EQ(bar.PlaceAt({240, 100}), (P{P::ScrollDown}));
-  const QImage right = Draw(bar, Qt::magenta).copy(231, 93, 16, 16);
+  const QImage right = Draw(bar, Qt::magenta).copy(235, 97, 8, 8);
   bar.ScrollTo(99);
   EXPECT_NE(bar.PlaceAt({240, 100}), (P{P::ScrollDown}));
   EXPECT_EQ(bar.PlaceAt({35, 100}), (P{P::ScrollUp}));
-  const QImage left = Draw(bar, Qt::magenta).copy(28, 93, 16, 16);
+  const QImage left = Draw(bar, Qt::magenta).copy(32, 97, 8, 8);
   const QImage all[] = {down, up, right, left};
   for (int i = 0; i < 4; ++i)
     for (int j = 0; j < i; ++j) EXPECT_NE(all[i], all[j]) << i << j;
