@@ -338,7 +338,7 @@ void TVRXCaptionPanelGroup::Paint(TCanvas& canvas) {
   if (IsDesigning() && Bevel()->Room() == 0) PaintDesignFrame(canvas, all);
   const QRect inside = Bevel()->Draw(canvas, all);
   // A narrow mark beside the panels shows how far they reach.
-  const QRect room = inside.marginsRemoved(Insets());
+  const QRect room = all.marginsRemoved(Insets());
   const int space = IsUpright() ? room.height() : room.width(), extent = Extent();
   if (space <= 0 || extent <= space) return;
   constexpr int thick = 3;

@@ -8,7 +8,7 @@
 
 const TClass& TVRXGraphicLabel::StaticClass() {
   static const TTypeInfo factor = OrdinalType("TVRXFactor", 0, VRXStrongestFactor);
-  static const TTypeInfo depth = OrdinalType("TVRXPerspectiveDepth", 0, 1000);
+  static const TTypeInfo depth = OrdinalType("TVRXPerspectiveDepth", 0, VRXDeepestPerspective);
   static const TClass cls(
       DescribeClass<TVRXGraphicLabel>("TVRXGraphicLabel", TGraphicControl::StaticClass())
           .PublishAll(Placing)
@@ -69,7 +69,7 @@ void TVRXGraphicLabel::SetInteger(int selector, int value) {
   if (selector != 2 && selector != 4)
     throw EPropertyError(QStringLiteral("TVRXGraphicLabel has no number %1.").arg(selector));
   selector == 2 ? Set(Factor, std::clamp(value, 0, VRXStrongestFactor))
-                : Set(PerspectiveDepth, std::max(value, 0));
+                : Set(PerspectiveDepth, std::clamp(value, 0, VRXDeepestPerspective));
 }
 
 void TVRXGraphicLabel::SetBoolean(int selector, bool value) {

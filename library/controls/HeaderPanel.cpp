@@ -173,7 +173,8 @@ void TVRXHeaderPanel::Paint(TCanvas& canvas) {
   // The title gives room to the buttons.
   int atStart = 0, atEnd = 0;
   for (const TControl* c : Controls())
-    if (As<TVRXHeaderPanelButton>(c)) (c->Align() == TAlign::alLeft ? atStart : atEnd) += c->Width();
+    if (StandsInHeader(*c) && (c->Visible() || c->IsDesigning()))
+      (c->Align() == TAlign::alLeft ? atStart : atEnd) += c->Width();
   const QRect header = HeaderRect();
   if (Get(Filled) && atStart > 0) {
     QPainterPath area;

@@ -147,7 +147,7 @@ QPainterPath VRXTransformed(const TVRXLetters& letters, const TVRXTextForm& form
     }
   }
   for (const QPainterPath& bar : letters.Bars) all.addPath(plain ? bar : MappedOutline(bar, map, close));
-  const double depth = std::clamp(form.PerspectiveDepth, 0, 1000) / 100.0;
+  const double depth = std::clamp(form.PerspectiveDepth, 0, VRXDeepestPerspective) / 100.0;
   const QRectF bounds = all.boundingRect();
   if (!form.Attributes.Contains(TVRXTransAttr::taPerspective) || depth == 0 || bounds.isEmpty()) return all;
   return MappedOutline(all, Seen(bounds, form.Perspective, depth), close);

@@ -45,5 +45,6 @@ struct TVRXTextForm {
   bool operator==(const TVRXTextForm&) const = default;
 };
 constexpr int VRXStrongestFactor = 10000;
+constexpr int VRXDeepestPerspective = 1000;
 
 QPainterPath VRXTransformed(const TVRXLetters& letters, const TVRXTextForm& form);

@@ -51,6 +51,9 @@ const QByteArray Form = R"(object Main: TMain
 end
 )";
 
+// The list looks again at once here.
+constexpr int Patience = 60'000;  // milliseconds
+
 class Problems : public Inspecting {
  protected:
   explicit Problems(const QByteArray& form = Form) : Inspecting(form) {}
@@ -73,7 +76,7 @@ class Problems : public Inspecting {
     return told.join(u'|').toStdString();
   }
   bool TellsNow(const char* told) {
-    return QTest::qWaitFor([&] { return Told() == told; }, WaitLimit);
+    return QTest::qWaitFor([&] { return Told() == told; }, Patience);
   }
   QString Problem(const char* path) {
     return Inspector()
@@ -180,7 +183,7 @@ TEST_F(Problems, TheSignGoesWithTheRefusedValueAtOnce) {
   EXPECT_EQ(Problem("Enabled"), QString());
   EXPECT_FALSE(HasSign("Enabled"));
   Session().Undo();
-  EXPECT_TRUE(QTest::qWaitFor([&] { return !Problem("Enabled").isEmpty(); }, WaitLimit));
+  EXPECT_TRUE(QTest::qWaitFor([&] { return !Problem("Enabled").isEmpty(); }, Patience));
   EXPECT_TRUE(HasSign("Enabled"));
 }
 

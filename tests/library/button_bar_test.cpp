@@ -129,6 +129,28 @@ TEST_F(Bar, SectionsAndItemsComeAndGo) {
   EXPECT_EQ(bar.Current()->Get(TVRXBarSection::Caption), QStringLiteral("Section 0"));
 }
 
+TEST_F(Bar, WhatIsOpenAndSelectedIsThereAfterADeletion) {
+  bar.Set(B::ItemIndex, 2);
+  bar.DelSection(1);
+  EXPECT_EQ(bar.Get(B::ItemIndex), 2) << "it stands in the section that stays open";
+  bar.DelSection(0);
+  EXPECT_EQ(bar.Current()->Get(TVRXBarSection::Caption), QStringLiteral("Notes"));
+  EXPECT_EQ(bar.Get(B::ItemIndex), -1) << "it went with its section";
+  bar.AddSection();
+  bar.DelSection();
+  EXPECT_EQ(bar.Get(B::SectionIndex), 0) << "one that is there";
+  bar.Set(B::ItemIndex, 0);
+  bar.DelItem(1);
+  EXPECT_EQ(bar.Get(B::ItemIndex), 0);
+  // As a form may tell it: beyond the end the last one is open.
+  bar.AddSection();
+  bar.AddItem();
+  bar.Set(B::SectionIndex, 99);
+  bar.DelSection();
+  EXPECT_EQ(bar.Get(B::SectionIndex), 0);
+  EXPECT_EQ(bar.Get(B::ItemIndex), -1);
+}
+
 TEST_F(Bar, ShowsLargeAndSmallPicturesOfListsAndOfItemsThemselves) {
   TImageList large(nullptr), little(nullptr);
   large.Set(TCustomImageList::Width, 24);
@@ -264,6 +286,8 @@ TEST_F(Bar, TheMenuOffersWhatCanBeDone) {
   EXPECT_EQ(words(),
             "Large images (x), Small images, | Add section, Rename section, Delete section, | Add item, "
             "Rename item (off), Delete item (off)");
+  bar.Set(B::ItemIndex, bar.Current()->ItemCount());
+  EXPECT_TRUE(words().ends_with("Rename item (off), Delete item (off)")) << "no such item";
   bar.Set(B::ItemIndex, 0);
   TVRXButtonBarPopupMenu::Execute(bar, TVRXBarCommand::bcSmallImages);
   menu.Set(TVRXButtonBarPopupMenu::Commands,

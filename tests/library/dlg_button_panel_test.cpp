@@ -137,3 +137,40 @@ TEST(DlgButtonPanel, ShowsItsPropertiesAndOnFormsWhatItIsFor) {
   }
   EXPECT_NE(Draw(designed, Qt::magenta), Draw(plain, Qt::magenta));
 }
+
+TEST_F(ButtonRow, ButtonsStandInItWhateverTheirAlignIs) {
+  Add(75, 25);
+  Add(50, 25).SetAlign(TAlign::alRight);
+  EXPECT_EQ(Places(), "8,8 91,8");
+}
+
+TEST_F(ButtonRow, TooManyButtonsBeginAtTheBeginning) {
+  panel.Set(P::ButtonAlignment, TVRXButtonAlignment::baRightBottom);
+  for (int i = 0; i < 6; ++i) Add(75, 25);
+  EXPECT_EQ(panel.Buttons()[0]->Left(), 8);
+}
+
+TEST_F(ButtonRow, WithoutButtonsTheFormShowsWhereTheyWillStand) {
+  using enum TVRXButtonAlignment;
+  panel.SetDesigning(true);
+  visible::Apply(panel,
+                 QStringLiteral("Color=clYellow ButtonSpacing=13 BorderSpacing=17 Bevel.Outer=bvRaised"));
+  for (const auto orientation : {TVRXPanelOrientation::poHorizontal, TVRXPanelOrientation::poVertical})
+    for (const auto alignment : {baLeftTop, baRightBottom, baCenter}) {
+      SCOPED_TRACE(static_cast<int>(alignment));
+      panel.Set(P::Orientation, orientation);
+      panel.Set(P::ButtonAlignment, alignment);
+      panel.SetBounds(0, 0, 311, 207);
+      const QImage hint = Draw(panel, Qt::magenta);
+      QRect dashes;
+      for (int y = 5; y < 202; ++y)
+        for (int x = 5; x < 306; ++x)
+          if (hint.pixelColor(x, y) == ToQColor(clGrayText)) dashes |= QRect(x, y, 1, 1);
+      TVRXButton *first = &Add(75, 25), *last = &Add(75, 25);
+      const QRect all = first->BoundsRect() | last->BoundsRect();
+      EXPECT_LE((dashes.topLeft() - all.topLeft()).manhattanLength(), 2);
+      EXPECT_LE((dashes.bottomRight() - all.bottomRight()).manhattanLength(), 2);
+      delete first;
+      delete last;
+    }
+}

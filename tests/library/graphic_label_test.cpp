@@ -2,7 +2,7 @@
 #include "library/controls/GraphicLabel.h"
 
 #include "rtl/Exceptions.h"
-#include "tests/library/VisibleProperties.h"
+#include "tests/library/GraphicLabelTest.h"
 
 using enum TVRXTransform;
 using enum TVRXTransAttr;
@@ -11,11 +11,6 @@ namespace {
 constexpr int Forms = static_cast<int>(tmHalfmoon) + 1;
 constexpr int Factors[] = {0, 1, 37, 1000, 5000, 9999, 10000};
 
-TVRXLetterStyle StyleOf(int pixels) {
-  TVRXLetterStyle style;
-  style.Font.setPixelSize(pixels);
-  return style;
-}
 TVRXTextForm FormOf(int transform, int factor, TVRXTransAttrs attributes = {}) {
   return {static_cast<TVRXTransform>(transform), factor, attributes, 40, TVRXPerspective::tpBird, 80};
 }
@@ -49,15 +44,6 @@ double Farthest(const std::vector<QPointF>& a, const std::vector<QPointF>& b) {
   for (std::size_t i = 0; i < a.size(); ++i)
     far = std::max(far, std::hypot(a[i].x() - b[i].x(), a[i].y() - b[i].y()));
   return far;
-}
-std::unique_ptr<TVRXGraphicLabel> Label(const char* values, QSize size = {157, 61},
-                                        const QString& caption = QStringLiteral("Agiv")) {
-  auto label = std::make_unique<TVRXGraphicLabel>(nullptr);
-  label->SetAutoSize(false);
-  label->SetCaption(caption);
-  label->SetBounds(0, 0, size.width(), size.height());
-  visible::Apply(*label, QString::fromLatin1(values));
-  return label;
 }
 }  // namespace
 

@@ -142,10 +142,10 @@ TEST(KeyMacro, MistakesAreToldWithTheirPlace) {
       {u"{LEFT +1}", 6}, {u"{LEFT }", 6},   {u"{LEFT 10001}", 6}, {u"{LEFT 99999999999}", 6},
       {u"{LEFT 3", 0},   {u"{LEFT  ", 0},   {u"a(b", 1},          {u"ab)", 2},
       {u"a+()", 2},      {u"()", 0},        {u"(())", 1},         {u"ab+", 2},
-      {u"^", 0},         {u"(a%)", 2},      {u"++a", 1},          {u"+^+a", 2},
-      {u"a\u0001", 1},   {u"\u0085", 0},    {u"a\xD800", 1},      {u"\xDC00", 0},
-      {u"{\xD800}", 1},  {u"{{", 0},        {u"{ENTER{}", 1},     {u"{}}}", 3},
-      {u"{\u0002}", 1},
+      {u"^", 0},         {u"(a%)", 2},      {u"(a%)b", 2},        {u"++a", 1},
+      {u"+^+a", 2},      {u"a\u0001", 1},   {u"\u0085", 0},       {u"a\xD800", 1},
+      {u"\xDC00", 0},    {u"{\xD800}", 1},  {u"{{", 0},           {u"{ENTER{}", 1},
+      {u"{}}}", 3},      {u"{\u0002}", 1},
   };
   for (const Row& row : rows)
     EXPECT_EQ(Mistake(row.macro), row.place) << QString::fromUtf16(row.macro).toStdString();

@@ -231,13 +231,16 @@ TEST(MMButton, LeavesTheColourOfTheLowerLeftPixelOutOfOpaquePictures) {
   QImage opaque(6, 4, QImage::Format_ARGB32);
   opaque.fill(Qt::yellow);
   opaque.setPixelColor(2, 1, Qt::blue);
+  opaque.setPixelColor(0, 0, Qt::red);
   list.SetPictures({opaque, Picture({6, 4}, Colors[0])});
   TVRXMMButton button(nullptr);
   button.Set(B::ButtonFaceImageList, &list);
   button.SetButtonFaceIndices({TVRXButtonFaceIndex{1, 0}, TVRXButtonFaceIndex{1, 1}});
-  EXPECT_EQ(button.PictureOf(bsUp).pixelColor(0, 0), QColor(Qt::yellow));
+  EXPECT_EQ(button.PictureOf(bsUp).pixelColor(0, 3), QColor(Qt::yellow));
   button.SetTransparent(true);
-  EXPECT_EQ(qAlpha(button.PictureOf(bsUp).pixel(0, 0)), 0);
+  EXPECT_EQ(qAlpha(button.PictureOf(bsUp).pixel(0, 3)), 0);
+  EXPECT_EQ(qAlpha(button.PictureOf(bsUp).pixel(5, 0)), 0);
+  EXPECT_EQ(button.PictureOf(bsUp).pixelColor(0, 0), QColor(Qt::red));
   EXPECT_EQ(button.PictureOf(bsUp).pixelColor(2, 1), QColor(Qt::blue));
   EXPECT_EQ(button.PictureOf(bsDown).pixelColor(0, 0), Colors[0]) << "it has transparent pixels of its own";
 }

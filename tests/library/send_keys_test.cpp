@@ -10,9 +10,10 @@
 #include <csignal>
 
 #include "tests/support/FakeDesktop.h"
-#include "tests/support/Waiting.h"
 
 namespace {
+// One key or one window takes far less, on a slow and busy machine, too.
+constexpr int Patience = 60'000;  // milliseconds
 const QString Reader = QStringLiteral(VRX_BINARY_DIR "/bin/keyreader");
 
 // A window system of its own, without a window manager.
@@ -25,20 +26,20 @@ class RealWindows : public testing::Test {
                             QStringLiteral("0"), QStringLiteral("640x480x24"), QStringLiteral("-nolisten"),
                             QStringLiteral("tcp")});
     QByteArray number;
-    while (!number.endsWith('\n') && server_.waitForReadyRead(WaitLimit))
+    while (!number.endsWith('\n') && server_.waitForReadyRead(Patience))
       number += server_.readAllStandardOutput();
     ASSERT_FALSE(number.trimmed().isEmpty());
     before_ = qgetenv("DISPLAY");
     qputenv("DISPLAY", ":" + number.trimmed());
     sender_.Set(TVRXSendKeys::RaiseException, true);
-    sender_.Set(TVRXSendKeys::Timeout, WaitLimit);
+    sender_.Set(TVRXSendKeys::Timeout, Patience);
   }
   void TearDown() override {
     if (server_.state() == QProcess::NotRunning) return;
     before_.isEmpty() ? qunsetenv("DISPLAY") : qputenv("DISPLAY", before_);
     readers_.clear();
     server_.terminate();
-    server_.waitForFinished(WaitLimit);
+    server_.waitForFinished(Patience);
   }
 
   struct Window {
@@ -46,7 +47,7 @@ class RealWindows : public testing::Test {
     QByteArray text;
     ~Window() {
       process.kill();
-      process.waitForFinished(WaitLimit);
+      process.waitForFinished(Patience);
     }
     // Up to that line; the lines before it.
     QStringList Until(const char* line) {
@@ -57,7 +58,7 @@ class RealWindows : public testing::Test {
           text = text.mid(end + qstrlen(line));
           return lines;
         }
-        if (!process.waitForReadyRead(WaitLimit)) break;
+        if (!process.waitForReadyRead(Patience)) break;
         text += process.readAllStandardOutput();
       }
       ADD_FAILURE() << "the window ended: " << text.toStdString();
@@ -131,8 +132,7 @@ TEST_F(RealWindows, GetCharactersThatNoKeyTypes) {
   Window& window = Open(QStringLiteral("Letters"));
   ASSERT_TRUE(sender_.AppActivate(QStringLiteral("Letters")));
   EXPECT_EQ(Pressed(window, QStringLiteral("\u00E9a\u20ACb\u00E9")), "eacute,a,U20AC,b,eacute");
-  EXPECT_EQ(Pressed(window, QStringLiteral("+\u20AC{\u0416 2}")),
-            "Shift_L,U20AC Shift,U0416,U0416");
+  EXPECT_EQ(Pressed(window, QStringLiteral("+\u20AC{\u0416 2}")), "Shift_L,U20AC Shift,U0416,U0416");
   // More of them than there are keys to spare.
   QString many;
   QStringList expected;
@@ -164,9 +164,50 @@ TEST_F(RealWindows, AreFoundByCaptionAndByItsBeginning) {
     came = true;
   });
   EXPECT_FALSE(came) << "it waits for nothing";
-  ASSERT_TRUE(QTest::qWaitFor([&] { return came; }, WaitLimit));
+  ASSERT_TRUE(QTest::qWaitFor([&] { return came; }, Patience));
   captions.sort();
   EXPECT_EQ(captions.join(u'|').toStdString(), "Caf\u00E9 \u20AC|Notes|Notes of Monday");
+}
+
+TEST_F(RealWindows, WithoutACaptionAreNotListedAndOfLongOnesTheBeginningIs) {
+  Open(QString(300, u'x'));
+  Open(QStringLiteral(" "));
+  Window& nameless = Open(QString());
+  EXPECT_TRUE(sender_.AppActivate(QString(300, u'x').left(255)));
+  QStringList captions;
+  bool came = false;
+  sender_.BeginWindows([&](const QStringList& all, const QString&) {
+    captions = all;
+    came = true;
+  });
+  ASSERT_TRUE(QTest::qWaitFor([&] { return came; }, Patience));
+  captions.sort();
+  EXPECT_EQ(captions.join(u'|').toStdString(), " |" + std::string(255, 'x'));
+  nameless.process.kill();
+}
+
+TEST_F(RealWindows, KeysThatWereBorrowedAreGivenBack) {
+  Window& window = Open(QStringLiteral("Letters"));
+  const auto type = [&](char16_t first) {
+    TVRXSendKeys sender(nullptr);
+    sender.Set(TVRXSendKeys::RaiseException, true);
+    sender.Set(TVRXSendKeys::Timeout, Patience);
+    ASSERT_TRUE(sender.AppActivate(QStringLiteral("Letters")));
+    // As many as there are keys to spare, at least.
+    QString many;
+    QStringList expected, keys;
+    for (char16_t c = first; c < first + 60; ++c) {
+      many += QChar(c);
+      expected << QStringLiteral("U%1").arg(c, 4, 16, QChar(u'0')).toUpper();
+    }
+    EXPECT_TRUE(sender.SendKeys(many + QStringLiteral("{F12}"), true));
+    for (const QString& line : window.Until("down F12\n"))
+      if (line.startsWith(u"down ")) keys << line.mid(5);
+    window.Until("up F12\n");
+    EXPECT_EQ(keys.join(u',').toStdString(), expected.join(u',').toStdString());
+  };
+  type(0x3041);
+  type(0x4E00);
 }
 
 TEST_F(RealWindows, OfStartedProgramsAreFound) {
@@ -191,7 +232,7 @@ TEST_F(RealWindows, ThatAreGoneGetNoKeys) {
     Open(QStringLiteral("Another"));
     ASSERT_TRUE(sender_.AppActivate(QStringLiteral("Short life")));
     window.process.kill();
-    window.process.waitForFinished(WaitLimit);
+    window.process.waitForFinished(Patience);
   }
   sender_.Set(TVRXSendKeys::Timeout, 50);
   EXPECT_THROW(sender_.SendKeys(QStringLiteral("abc"), true), ESendKeysError);
@@ -307,14 +348,14 @@ TEST_F(Sending, NobodyWaitsForASlowDesktop) {
     EXPECT_EQ(error, QString());
     told = true;
   });
-  begun.acquire();  // the first key is on its way, and this thread is free
+  ASSERT_TRUE(begun.tryAcquire(1, Patience));  // the first key is on its way, and this thread is free
   EXPECT_TRUE(sender_->IsBusy());
   QCoreApplication::processEvents();
   EXPECT_FALSE(told);
   goOn.release(2);
-  ASSERT_TRUE(QTest::qWaitFor([&] { return told; }, WaitLimit));
+  ASSERT_TRUE(QTest::qWaitFor([&] { return told; }, Patience));
   EXPECT_EQ(Done(), "U0061 U0062");
-  EXPECT_TRUE(QTest::qWaitFor([&] { return !sender_->IsBusy(); }, WaitLimit));
+  EXPECT_TRUE(QTest::qWaitFor([&] { return !sender_->IsBusy(); }, Patience));
 }
 
 TEST_F(Sending, WithoutWaitingIsDoneInTurn) {
@@ -334,10 +375,10 @@ TEST_F(Sending, CanBeStopped) {
   const auto note = [&](const QString& error) { errors << error; };
   sender_->BeginSend(QStringLiteral("Fake"), QStringLiteral("+(abc)"), note);
   sender_->BeginSend(QStringLiteral("Fake"), QStringLiteral("d"), note);
-  begun.acquire();
+  ASSERT_TRUE(begun.tryAcquire(1, Patience));
   sender_->Stop();
   goOn.release(10);
-  ASSERT_TRUE(QTest::qWaitFor([&] { return errors.size() == 2; }, WaitLimit));
+  ASSERT_TRUE(QTest::qWaitFor([&] { return errors.size() == 2; }, Patience));
   EXPECT_EQ(errors.join(u'|'), QStringLiteral("It was stopped.|It was stopped."));
   EXPECT_EQ(Done(), "down Shift_L U0061 up Shift_L");
 }
@@ -350,11 +391,11 @@ TEST_F(Sending, FreedMeanwhileItTellsNobody) {
   };
   bool told = false;
   sender_->BeginSend(QStringLiteral("Fake"), QStringLiteral("abc"), [&](const QString&) { told = true; });
-  begun.acquire();
+  ASSERT_TRUE(begun.tryAcquire(1, Patience));
   goOn.release(1);
   sender_.reset();
   goOn.release(10);
-  scene_.gone.acquire();
+  ASSERT_TRUE(scene_.gone.tryAcquire(1, Patience));
   for (int i = 0; i < 10; ++i) QCoreApplication::processEvents();
   EXPECT_FALSE(told);
 }

@@ -9,82 +9,7 @@
 #include "library_design/Font3DDialog.h"
 #include "library_design/ImageListDialogs.h"
 #include "library_design/LookDialogs.h"
-#include "package/component_editors/pVRXCEBars.h"
-#include "package/dialogs/pVRXButtonBarEditorDlg.h"
-#include "tests/package/ListEditorTest.h"
-
-namespace {
-using B = TVRXButtonBar;
-
-class ButtonBars : public ListEditors {
- protected:
-  void SetUp() override {
-    ListEditors::SetUp();
-    session = FormSession::FromBytes(R"(object Form1: TForm1
-  Left = 0
-  Top = 0
-  Width = 400
-  Height = 400
-  object Bar: TVRXButtonBar
-    Left = 8
-    Top = 8
-    Width = 130
-    Height = 300
-    Align = alLeft
-    Sections = <
-      item
-        Caption = 'Mail'
-        Items = <
-          item
-            Caption = 'In'
-          end
-          item
-            Caption = 'Out'
-          end>
-      end
-      item
-        Caption = 'Notes'
-        ListIndex = 1
-      end>
-  end
-  object Pictures: TImageList
-  end
-end
-)",
-                                     {}, registry);
-    auto* pictures = As<TImageList>(session->GetComponent(QStringLiteral("Pictures")));
-    QList<QImage> images;
-    for (int i = 0; i < 30; ++i) {
-      QImage image(16, 16, QImage::Format_ARGB32);
-      image.fill(QColor::fromHsv(i * 10, 200, 200));
-      images << image;
-    }
-    session->Run(QStringLiteral("pictures"), {pictures}, [&] { pictures->SetPictures(images); });
-    bytes = session->Bytes();
-  }
-  B& Bar() { return *As<B>(session->GetComponent(QStringLiteral("Bar"))); }
-  TImageList& Pictures() { return *As<TImageList>(session->GetComponent(QStringLiteral("Pictures"))); }
-  void RunVerb(int index, const std::function<void(TVRXButtonBarEditorDlg&)>& act = {}) {
-    if (act) modal::NextOf<TVRXButtonBarEditorDlg>([&](TVRXButtonBarEditorDlg& dialog) { act(dialog); });
-    const auto editor = registry.GetComponentEditor(&Bar(), session.get());
-    session->Run(QStringLiteral("a verb"), {&Bar()}, [&] { editor->ExecuteVerb(index); });
-  }
-  static void Click(TVRXButtonBarEditorDlg& dialog, QPoint place) {
-    QTest::mouseClick(dialog.view, Qt::LeftButton, {}, place);
-  }
-  static void DoubleClick(QListWidget& box, int row) {
-    box.scrollToItem(box.item(row));
-    const QPoint place = box.visualItemRect(box.item(row)).center();
-    QTest::mouseClick(box.viewport(), Qt::LeftButton, {}, place);
-    QTest::mouseDClick(box.viewport(), Qt::LeftButton, {}, place);
-  }
-  std::unique_ptr<FormSession> session;
-  QByteArray bytes;
-};
-QString CaptionOf(const B& bar, int section) {
-  return bar.Sections()->At(section).Get(TVRXBarSection::Caption);
-}
-}  // namespace
+#include "tests/package/ButtonBarTest.h"
 
 TEST_F(ButtonBars, OfferTheVerbsOfTheirTable) {
   const auto editor = registry.GetComponentEditor(&Bar(), session.get());
@@ -187,13 +112,7 @@ TEST_F(ButtonBars, TheLiveBarOpensSelectsRenamesAndScrolls) {
     for (int i = 0; i < 20; ++i) dialog.btnAddItem->click();
     EXPECT_GT(bar.TopItem(), 0) << "what is new is seen";
     bar.ScrollTo(0);
-    const auto down = [&] {
-      for (int y = 0; y < bar.Height(); ++y)
-        if (bar.PlaceAt({bar.Width() - 10, y}).What == TVRXBarPlace::ScrollDown)
-          return QPoint(bar.Width() - 10, y + 3);
-      return QPoint();
-    };
-    QTest::mouseClick(dialog.view, Qt::LeftButton, {}, down());
+    QTest::mouseClick(dialog.view, Qt::LeftButton, {}, ScrollArrow(bar));
     EXPECT_EQ(bar.TopItem(), 1);
     fields::Wheel(*dialog.view, -1);
     EXPECT_EQ(bar.TopItem(), 2);
@@ -437,22 +356,8 @@ TEST_F(ButtonBars, TheOrderIsChangedByDraggingAndWithTheKeys) {
   RunVerb(0, [&](TVRXButtonBarEditorDlg& dialog) {
     B& bar = *dialog.bbar;
     dialog.btnAddItem->click();
-    const auto items = [&] {
-      QStringList names;
-      for (int i = 0; i < bar.Current()->ItemCount(); ++i)
-        names << bar.Current()->Items()->At(i).Get(TVRXBarItem::Caption);
-      return names.join(u'|').toStdString();
-    };
-    const auto drag = [&](QPoint from, QPoint to, bool escape = false) {
-      QTest::mousePress(dialog.view, Qt::LeftButton, {}, from);
-      for (const QPoint at : {from + QPoint(0, 2), to}) {
-        QMouseEvent move(QEvent::MouseMove, at, dialog.view->mapToGlobal(at), Qt::NoButton, Qt::LeftButton,
-                         {});
-        QCoreApplication::sendEvent(dialog.view, &move);
-      }
-      if (escape) QTest::keyClick(dialog.view, Qt::Key_Escape);
-      QTest::mouseRelease(dialog.view, Qt::LeftButton, {}, to);
-    };
+    const auto items = [&] { return ItemsOf(bar); };
+    const auto drag = [&](QPoint from, QPoint to, bool escape = false) { Drag(dialog, from, to, escape); };
     const auto low = [](const QRect& r) { return QPoint(r.center().x(), r.bottom() - 2); };
     drag(bar.ItemRect(0).center(), low(bar.ItemRect(1)), true);
     EXPECT_TRUE(dialog.isVisible()) << "Escape ends what is dragged";

@@ -398,3 +398,62 @@ TEST_F(DialogButtons, VerbsStandBeforeThoseOfPanels) {
   editor->ExecuteVerb(5);
   EXPECT_TRUE(panel->Get(TVRXSimplePanel::Transparent));
 }
+
+TEST_F(DialogButtons, AGroupIsChosenWithTheKeysToo) {
+  RunVerb(0, [&](TVRXDlgBtnEditorDlg& dialog) {
+    fields::ShowActive(dialog);
+    EXPECT_TRUE(dialog.rb1->isChecked());
+    dialog.list2->setFocus();
+    for (const auto key : {Qt::Key_Down, Qt::Key_End}) QTest::keyClick(dialog.list2, key);
+    EXPECT_EQ(dialog.list2->currentRow(), 4);
+    EXPECT_TRUE(dialog.rb2->isChecked());
+    dialog.accept();
+  });
+  EXPECT_EQ(Names(), "btnAbort1 btnRetry1 btnIgnore1");
+}
+
+TEST_F(DialogButtons, TheOrderIsChangedWithTheKeysAlone) {
+  RunVerb(0, [&](TVRXDlgBtnEditorDlg& dialog) {
+    for (const std::size_t i : {0, 1}) dialog.items[i]->click();
+    dialog.accept();
+  });
+  RunVerb(1, [&](TVRXDlgBtnEditorDlg& dialog) {
+    fields::ShowActive(dialog);
+    EXPECT_EQ(QApplication::focusWidget(), dialog.lb);
+    QWidget* focus = dialog.lb;
+    for (int i = 0; i < 10 && focus && focus != dialog.Down; ++i) {
+      QTest::keyClick(focus, Qt::Key_Tab);
+      focus = QApplication::focusWidget();
+    }
+    EXPECT_EQ(focus, dialog.Down);
+    QTest::keyClick(dialog.Down, Qt::Key_Space);
+    dialog.accept();
+  });
+  EXPECT_EQ(Names(), "btnNo1 btnYes1");
+}
+
+TEST_F(DialogButtons, AButtonWithoutATurnGetsNoneByAnotherOrder) {
+  RunVerb(0, [&](TVRXDlgBtnEditorDlg& dialog) {
+    for (const std::size_t i : {0, 1, 3}) dialog.items[i]->click();
+    dialog.accept();
+  });
+  session->Run(QStringLiteral("turn"), {Panel().Buttons()[1]},
+               [&] { Panel().Buttons()[1]->SetTabOrder(-1); });
+  RunVerb(1, [&](TVRXDlgBtnEditorDlg& dialog) {
+    dialog.Down->click();
+    dialog.accept();
+  });
+  EXPECT_EQ(Names(), "btnNo1 btnYes1 btnCancel1");
+  const std::vector<TButton*> buttons = Panel().Buttons();
+  EXPECT_EQ(buttons[0]->TabOrder(), -1);
+  EXPECT_GE(buttons[1]->TabOrder(), 0);
+  EXPECT_LT(buttons[1]->TabOrder(), buttons[2]->TabOrder());
+}
+
+TEST_F(DialogButtons, AnEmptyChoiceLeavesThePanelsAlignmentAlone) {
+  RunVerb(0, [&](TVRXDlgBtnEditorDlg& dialog) {
+    dialog.chkr2->setChecked(true);
+    dialog.accept();
+  });
+  EXPECT_EQ(Panel().Get(TVRXDlgButtonPanel::ButtonAlignment), TVRXButtonAlignment::baLeftTop);
+}

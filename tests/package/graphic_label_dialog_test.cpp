@@ -328,3 +328,44 @@ TEST_F(GraphicLabelEditor, TheVerbsAreThoseOfItsState) {
   editor.ExecuteVerb(0);
   EXPECT_EQ(designer.modified, 6);
 }
+
+TEST_F(GraphicLabelEditor, TheFillHasThePicturesOfTheLabel) {
+  TImageList images(nullptr);
+  label.Set(G::ImageList, &images);
+  D dialog(nullptr);
+  dialog.SetValue(label);
+  fields::ShowActive(dialog);
+  modal::NextOf<TVRXFillEditorDlg>([&](TVRXFillEditorDlg& fill) {
+    EXPECT_EQ(fill.test->Get(TVRXBaseShape::ShapeFillImageList), &images);
+    fill.reject();
+  });
+  dialog.ButtonFillObjectDialog->click();
+}
+
+TEST_F(GraphicLabelEditor, AFontWithoutANameHasItsOwnAgain) {
+  D dialog(nullptr);
+  dialog.SetValue(label);
+  fields::ShowActive(dialog);
+  dialog.pages->setCurrentIndex(2);
+  QLineEdit* field = dialog.VRXFontComboBox->lineEdit();
+  dialog.VRXFontComboBox->setFocus();
+  field->selectAll();
+  QTest::keyClick(field, Qt::Key_Delete);
+  EXPECT_EQ(field->text(), QString());
+  QTest::keyClick(field, Qt::Key_Tab);
+  EXPECT_EQ(field->text(), QStringLiteral("Courier"));
+  EXPECT_EQ(dialog.test->Font()->Name(), QStringLiteral("Courier"));
+}
+
+TEST_F(GraphicLabelEditor, OffersTheUsualSizesAndAnyColour) {
+  D dialog(nullptr);
+  dialog.SetValue(label);
+  EXPECT_GT(dialog.VRXFontSizeComboBox->count(), 5);
+  EXPECT_GE(dialog.VRXFontSizeComboBox->findText(QStringLiteral("24")), 0);
+  const QStringList colors = fields::Texts(*dialog.VRXColorComboBox);
+  EXPECT_TRUE(colors.contains(QStringLiteral("clMaroon")));
+  EXPECT_FALSE(colors.contains(QStringLiteral("clBtnFace"))) << "the system's are not among them";
+  EXPECT_TRUE(colors.contains(QStringLiteral("Custom...")));
+  dialog.VRXColorComboBox->SetCustomColors({QStringLiteral("ColorA=123456")});
+  EXPECT_GE(dialog.VRXColorComboBox->findData(0x123456u), 0) << "one of the person's own";
+}
