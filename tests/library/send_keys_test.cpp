@@ -5,12 +5,11 @@
 
 #include <QCoreApplication>
 #include <QProcess>
-#include <QStandardPaths>
 #include <QTest>
 #include <csignal>
 
 #include "tests/support/FakeDesktop.h"
-#include "tests/support/Waiting.h"
+#include "tests/support/OwnXServer.h"
 
 namespace {
 const QString Reader = QStringLiteral(VRX_BINARY_DIR "/bin/keyreader");
@@ -19,26 +18,14 @@ const QString Reader = QStringLiteral(VRX_BINARY_DIR "/bin/keyreader");
 class RealWindows : public testing::Test {
  protected:
   void SetUp() override {
-    const QString program = QStandardPaths::findExecutable(QStringLiteral("Xvfb"));
-    if (program.isEmpty()) GTEST_SKIP() << "Xvfb is not installed";
-    server_.start(program, {QStringLiteral("-displayfd"), QStringLiteral("1"), QStringLiteral("-screen"),
-                            QStringLiteral("0"), QStringLiteral("640x480x24"), QStringLiteral("-nolisten"),
-                            QStringLiteral("tcp")});
-    QByteArray number;
-    while (!number.endsWith('\n') && server_.waitForReadyRead(WaitLimit))
-      number += server_.readAllStandardOutput();
-    ASSERT_FALSE(number.trimmed().isEmpty());
-    before_ = qgetenv("DISPLAY");
-    qputenv("DISPLAY", ":" + number.trimmed());
+    if (!OwnXServer::IsInstalled()) GTEST_SKIP() << "Xvfb is not installed";
+    server_.emplace();
     sender_.Set(TVRXSendKeys::RaiseException, true);
     sender_.Set(TVRXSendKeys::Timeout, WaitLimit);
   }
   void TearDown() override {
-    if (server_.state() == QProcess::NotRunning) return;
-    before_.isEmpty() ? qunsetenv("DISPLAY") : qputenv("DISPLAY", before_);
     readers_.clear();
-    server_.terminate();
-    server_.waitForFinished(WaitLimit);
+    server_.reset();
   }
 
   struct Window {
@@ -88,8 +75,7 @@ class RealWindows : public testing::Test {
   TVRXSendKeys sender_{nullptr};
 
  private:
-  QProcess server_;
-  QByteArray before_;
+  std::optional<OwnXServer> server_;
   std::vector<std::unique_ptr<Window>> readers_;
 };
 }  // namespace
@@ -131,8 +117,7 @@ TEST_F(RealWindows, GetCharactersThatNoKeyTypes) {
   Window& window = Open(QStringLiteral("Letters"));
   ASSERT_TRUE(sender_.AppActivate(QStringLiteral("Letters")));
   EXPECT_EQ(Pressed(window, QStringLiteral("\u00E9a\u20ACb\u00E9")), "eacute,a,U20AC,b,eacute");
-  EXPECT_EQ(Pressed(window, QStringLiteral("+\u20AC{\u0416 2}")),
-            "Shift_L,U20AC Shift,U0416,U0416");
+  EXPECT_EQ(Pressed(window, QStringLiteral("+\u20AC{\u0416 2}")), "Shift_L,U20AC Shift,U0416,U0416");
   // More of them than there are keys to spare.
   QString many;
   QStringList expected;
