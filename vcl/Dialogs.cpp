@@ -20,17 +20,17 @@ TClassBuilder CommonRows(TClassBuilder b) {
 TClassBuilder OpenRows(TClassBuilder b) {
   using enum TOpenOption;
   return std::move(b)
-      .Passive<QString>("DefaultExt")
+      .Published(TOpenDialog::DefaultExt)
       .Doc(QStringLiteral("Added to a name that has no extension."))
-      .Passive<QString>("FileName")
-      .Passive<QString>("Filter")
+      .Published(TOpenDialog::FileName)
+      .Published(TOpenDialog::Filter)
       .Doc(QStringLiteral("Pairs of name and pattern: \"Texts|*.txt|All files|*\"."))
-      .Passive("FilterIndex", 1)
-      .Passive<QString>("InitialDir")
-      .Passive("Options", TOpenOptions{ofHideReadOnly, ofEnableSizing})
+      .Published(TOpenDialog::FilterIndex)
+      .Published(TOpenDialog::InitialDir)
+      .Published(TOpenDialog::Options)
       .OtherDefault(TOpenOptions{ofEnableSizing, ofViewDetail})
       .Passive("OptionsEx", TOpenOptionsEx{})
-      .Passive<QString>("Title")
+      .Published(TOpenDialog::Title)
       .Event("OnCanClose", "TCloseQueryEvent")
       .Event("OnFolderChange")
       .Event("OnIncludeItem", "TIncludeItemEvent")
@@ -39,40 +39,24 @@ TClassBuilder OpenRows(TClassBuilder b) {
 }
 TClassBuilder ColorRows(TClassBuilder b) {
   return std::move(b)
-      .Passive("Color", clBlack)
-      .Passive<TStrings*>("CustomColors")
+      .Published(TColorDialog::Color)
+      .Published(TColorDialog::CustomColors)
       .Doc(QStringLiteral("Colours of one's own, as \"ColorA=FFFFFF\", to \"ColorP\"."))
       .Passive("Options", TColorDialogOptions{})
-      .Passive<QString>("Title");
+      .Published(TColorDialog::Title);
 }
 TClassBuilder PrintRows(TClassBuilder b) {
-  return std::move(b)
-      .Passive("Collate", false)
-      .Passive("Copies", 0)
-      .Passive("FromPage", 0)
-      .Passive("MaxPage", 0)
-      .Passive("MinPage", 0)
-      .Passive("Options", TPrintDialogOptions{})
-      .Passive("PrintRange", TPrintRange::prAllPages)
-      .Passive("PrintToFile", false)
-      .Passive<QString>("Title")
-      .Passive("ToPage", 0);
+  return std::move(b).PublishedAll(TPrintDialog::Collate, TPrintDialog::Copies, TPrintDialog::FromPage,
+                                   TPrintDialog::MaxPage, TPrintDialog::MinPage, TPrintDialog::Options,
+                                   TPrintDialog::PrintRange, TPrintDialog::PrintToFile, TPrintDialog::Title,
+                                   TPrintDialog::ToPage);
 }
 TClassBuilder PageSetupRows(TClassBuilder b) {
+  using D = TPageSetupDialog;
   return std::move(b)
-      .Passive("MarginBottom", 0)
-      .Passive("MarginLeft", 0)
-      .Passive("MarginRight", 0)
-      .Passive("MarginTop", 0)
-      .Passive("MinMarginBottom", 0)
-      .Passive("MinMarginLeft", 0)
-      .Passive("MinMarginRight", 0)
-      .Passive("MinMarginTop", 0)
-      .Passive("Options", TPageSetupDialogOptions{TPageSetupDialogOption::psoDefaultMinMargins})
-      .Passive("PageHeight", 0)
-      .Passive("PageWidth", 0)
-      .Passive<QString>("Title")
-      .Passive("Units", TPageMeasureUnits::pmDefault)
+      .PublishedAll(D::MarginBottom, D::MarginLeft, D::MarginRight, D::MarginTop, D::MinMarginBottom,
+                    D::MinMarginLeft, D::MinMarginRight, D::MinMarginTop, D::Options, D::PageHeight,
+                    D::PageWidth, D::Title, D::Units)
       .Event("OnDrawEnvelope", "TPaintPageEvent")
       .Event("OnDrawFullPage", "TPaintPageEvent")
       .Event("OnDrawGreekText", "TPaintPageEvent")
@@ -92,11 +76,8 @@ TClassBuilder ReplaceRows(TClassBuilder b) {
 }
 TClassBuilder FontRows(TClassBuilder b) {
   return std::move(b)
-      .Passive("MaxFontSize", 0)
-      .Passive("MinFontSize", 0)
-      .Passive("Options", TFontDialogOptions{TFontDialogOption::fdEffects})
-      .Passive<QString>("PreviewText")
-      .Passive<QString>("Title")
+      .PublishedAll(TFontDialog::MaxFontSize, TFontDialog::MinFontSize, TFontDialog::Options,
+                    TFontDialog::PreviewText, TFontDialog::Title)
       .Event("OnApply", "TFDApplyEvent");
 }
 }  // namespace

@@ -1,6 +1,6 @@
 // The dialogs that a program opens: a component keeps how one begins.
 #pragma once
-#include "rtl/Component.h"
+#include "rtl/Strings.h"
 #include "vcl/Colors.h"
 #include "vcl/Font.h"
 
@@ -161,14 +161,71 @@ class TCommonDialog : public TComponent {
     using Base::Base;          \
   };
 
-VRX_DIALOG(TOpenDialog, TCommonDialog)
+class TOpenDialog : public TCommonDialog {
+  VRX_CLASS(TOpenDialog)
+ public:
+  using TCommonDialog::TCommonDialog;
+  static constexpr TKept<QString> DefaultExt{"DefaultExt"};
+  static constexpr TKept<QString> FileName{"FileName"};
+  static constexpr TKept<QString> Filter{"Filter"};
+  static constexpr TKept<int> FilterIndex{"FilterIndex", 1};
+  static constexpr TKept<QString> InitialDir{"InitialDir"};
+  static constexpr TKept<TOpenOptions> Options{"Options",
+                                               {TOpenOption::ofHideReadOnly, TOpenOption::ofEnableSizing}};
+  static constexpr TKept<QString> Title{"Title"};
+};
 VRX_DIALOG(TSaveDialog, TOpenDialog)
 VRX_DIALOG(TOpenPictureDialog, TOpenDialog)
 VRX_DIALOG(TSavePictureDialog, TOpenPictureDialog)
-VRX_DIALOG(TColorDialog, TCommonDialog)
+
+class TColorDialog : public TCommonDialog {
+  VRX_CLASS(TColorDialog)
+ public:
+  using TCommonDialog::TCommonDialog;
+  static constexpr TKept<TColor> Color{"Color", clBlack};
+  static constexpr TKept<TStrings*> CustomColors{"CustomColors"};
+  static constexpr TKept<QString> Title{"Title"};
+};
+
 VRX_DIALOG(TPrinterSetupDialog, TCommonDialog)
-VRX_DIALOG(TPrintDialog, TCommonDialog)
-VRX_DIALOG(TPageSetupDialog, TCommonDialog)
+
+class TPrintDialog : public TCommonDialog {
+  VRX_CLASS(TPrintDialog)
+ public:
+  using TCommonDialog::TCommonDialog;
+  static constexpr TKept<bool> Collate{"Collate", false};
+  static constexpr TKept<int> Copies{"Copies", 0};
+  static constexpr TKept<int> FromPage{"FromPage", 0};
+  static constexpr TKept<int> MaxPage{"MaxPage", 0};
+  static constexpr TKept<int> MinPage{"MinPage", 0};
+  static constexpr TKept<TPrintDialogOptions> Options{"Options", {}};
+  static constexpr TKept<TPrintRange> PrintRange{"PrintRange", TPrintRange::prAllPages};
+  static constexpr TKept<bool> PrintToFile{"PrintToFile", false};
+  static constexpr TKept<QString> Title{"Title"};
+  static constexpr TKept<int> ToPage{"ToPage", 0};
+};
+
+// Sizes are hundredths of a millimetre or thousandths of an inch.
+class TPageSetupDialog : public TCommonDialog {
+  VRX_CLASS(TPageSetupDialog)
+ public:
+  using TCommonDialog::TCommonDialog;
+  static constexpr TKept<int> MarginBottom{"MarginBottom", 0};
+  static constexpr TKept<int> MarginLeft{"MarginLeft", 0};
+  static constexpr TKept<int> MarginRight{"MarginRight", 0};
+  static constexpr TKept<int> MarginTop{"MarginTop", 0};
+  static constexpr TKept<int> MinMarginBottom{"MinMarginBottom", 0};
+  static constexpr TKept<int> MinMarginLeft{"MinMarginLeft", 0};
+  static constexpr TKept<int> MinMarginRight{"MinMarginRight", 0};
+  static constexpr TKept<int> MinMarginTop{"MinMarginTop", 0};
+  static constexpr TKept<TPageSetupDialogOptions> Options{"Options",
+                                                          {TPageSetupDialogOption::psoDefaultMinMargins}};
+  static constexpr TKept<int> PageHeight{"PageHeight", 0};
+  static constexpr TKept<int> PageWidth{"PageWidth", 0};
+  static constexpr TKept<QString> Title{"Title"};
+  static constexpr TKept<TPageMeasureUnits> Units{"Units", TPageMeasureUnits::pmDefault};
+};
+
 VRX_DIALOG(TFindDialog, TCommonDialog)
 VRX_DIALOG(TReplaceDialog, TFindDialog)
 
@@ -177,6 +234,11 @@ class TFontDialog : public TCommonDialog {
   VRX_CLASS(TFontDialog)
  public:
   using TCommonDialog::TCommonDialog;
+  static constexpr TKept<int> MaxFontSize{"MaxFontSize", 0};
+  static constexpr TKept<int> MinFontSize{"MinFontSize", 0};
+  static constexpr TKept<TFontDialogOptions> Options{"Options", {TFontDialogOption::fdEffects}};
+  static constexpr TKept<QString> PreviewText{"PreviewText"};
+  static constexpr TKept<QString> Title{"Title"};
   TFont* Font() const { return font_.get(); }
   void SetFont(const TFont* v) { font_->Assign(v); }
 

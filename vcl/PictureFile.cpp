@@ -44,6 +44,12 @@ TBitmap LoadPicture(const QString& file) {
                                          : PixelPictureFromBytes(bytes, file));
 }
 
+QList<QImage> LoadIcons(const QString& file) {
+  const QByteArray bytes = ReadRegularFile(file);
+  if (IsSvg(bytes)) return {DecodedPicture(SelfContainedSvg(bytes, file), "svg", file)};
+  return PixelPicturesFromBytes(bytes, file);
+}
+
 QImage ImageFromBytes(const QByteArray& bytes) {
   const TPictureHead head = StoredPictureHead(bytes, bytes.size());
   QImage image = DecodedPicture(LeanPng(bytes), head.format,

@@ -10,6 +10,8 @@
 // Any format of the list that the toolkit reads; the picture is turned upright when it says that it lies.
 // Only regular files are opened, and drawings that refer to anything outside are refused.
 TBitmap LoadPicture(const QString& file);
+// The same for icons: all that are in an icon file, in its order; of another file the one picture.
+QList<QImage> LoadIcons(const QString& file);
 // A picture that a form keeps (BMP, PNG), as QImage::Format_ARGB32 or RGB32. Throws EInvalidPicture,
 // std::bad_alloc when memory is short.
 QImage ImageFromBytes(const QByteArray& bytes);

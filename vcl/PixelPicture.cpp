@@ -38,16 +38,16 @@ QStringList PictureEndings() {
   return endings;
 }
 
-QImage DecodedPicture(const QByteArray& bytes, const char* format, const QString& what) {
-  // Ours is the limit for formats that tell the size at once, the toolkit's, in megabytes, for the others.
-  static const bool limited = (QImageReader::setAllocationLimit(1024), true);
-  Q_UNUSED(limited)
-  QBuffer buffer;
-  buffer.setData(bytes);
-  buffer.open(QIODevice::ReadOnly);
-  QImageReader reader(&buffer, format);
-  reader.setAutoDetectImageFormat(false);
-  reader.setAutoTransform(true);
+namespace {
+const char* FormatOf(const QByteArray& bytes, const QString& what) {
+  for (const FormatRow& row : Formats)
+    if (bytes.startsWith(row.start)) return row.format;
+  throw EInvalidPicture(QStringLiteral("%1 is not a picture of a format that can be read (%2).")
+                            .arg(what, PictureEndings().join(QStringLiteral(", "))));
+}
+
+// The picture that the reader stands at.
+QImage ReadOne(QImageReader& reader, const QString& what) {
   const QSize size = reader.size();
   if (size.isValid()) {
     RequirePictureSize(what, size.width(), size.height());
@@ -62,9 +62,35 @@ QImage DecodedPicture(const QByteArray& bytes, const char* format, const QString
   return image;
 }
 
+QList<QImage> ReadFirst(int most, const QByteArray& bytes, const char* format, const QString& what) {
+  // Ours is the limit for formats that tell the size at once, the toolkit's, in megabytes, for the others.
+  static const bool limited = (QImageReader::setAllocationLimit(1024), true);
+  Q_UNUSED(limited)
+  QBuffer buffer;
+  buffer.setData(bytes);
+  buffer.open(QIODevice::ReadOnly);
+  QImageReader reader(&buffer, format);
+  reader.setAutoDetectImageFormat(false);
+  reader.setAutoTransform(true);
+  QList<QImage> images{ReadOne(reader, what)};
+  const int count = std::min(most, reader.imageCount());
+  for (int i = 1; i < count && reader.jumpToImage(i); ++i) images << ReadOne(reader, what);
+  return images;
+}
+}  // namespace
+
+QImage DecodedPicture(const QByteArray& bytes, const char* format, const QString& what) {
+  return ReadFirst(1, bytes, format, what).first();
+}
+
 QImage PixelPictureFromBytes(const QByteArray& bytes, const QString& what) {
-  for (const FormatRow& row : Formats)
-    if (bytes.startsWith(row.start)) return DecodedPicture(LeanPng(bytes), row.format, what);
-  throw EInvalidPicture(QStringLiteral("%1 is not a picture of a format that can be read (%2).")
-                            .arg(what, PictureEndings().join(QStringLiteral(", "))));
+  const char* const format = FormatOf(bytes, what);
+  return DecodedPicture(LeanPng(bytes), format, what);
+}
+
+QList<QImage> PixelPicturesFromBytes(const QByteArray& bytes, const QString& what) {
+  constexpr int most = 256;
+  const QByteArrayView format(FormatOf(bytes, what));
+  if (format != "ico" && format != "cur") return {PixelPictureFromBytes(bytes, what)};
+  return ReadFirst(most, bytes, format.data(), what);
 }

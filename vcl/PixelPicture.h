@@ -9,5 +9,7 @@
 QImage PixelPictureFromBytes(const QByteArray& bytes, const QString& what);
 // Of a format that is known already.
 QImage DecodedPicture(const QByteArray& bytes, const char* format, const QString& what);
+// Every picture of an icon file, in its order; of others the one that it has.
+QList<QImage> PixelPicturesFromBytes(const QByteArray& bytes, const QString& what);
 // The endings of files that can be read here.
 QStringList PictureEndings();

@@ -2,6 +2,8 @@
 
 #include <cmath>
 
+#include "rtl/Clock.h"
+#include "rtl/Exceptions.h"
 #include "vcl/Calendar.h"
 
 const TClass& TVRXAlarmComponent::StaticClass() {
@@ -37,7 +39,9 @@ QDateTime TVRXAlarmComponent::NextAfter(const QDateTime& moment) const {
           : 0;
   // The same day of next week counts when it is too late today.
   for (int i = 0; i <= 7; ++i) {
-    const QDateTime candidate(moment.date().addDays(i), QTime::fromMSecsSinceStartOfDay(at));
+    QDateTime candidate = moment;  // in its time zone
+    candidate.setDate(moment.date().addDays(i));
+    candidate.setTime(QTime::fromMSecsSinceStartOfDay(at));
     const auto day = static_cast<TVRXWeekday>(candidate.date().dayOfWeek() - 1);
     if (candidate > moment && Get(Days).Contains(day)) return candidate;
   }
@@ -46,4 +50,65 @@ QDateTime TVRXAlarmComponent::NextAfter(const QDateTime& moment) const {
 
 QDateTime TVRXAlarmComponent::PutOff(const QDateTime& moment) const {
   return Get(Enabled) ? moment.addSecs(60ll * std::max(0, Get(SnoozeMinutes))) : QDateTime();
+}
+
+void TVRXAlarmComponent::Start(Ring ring) {
+  Stop();
+  if (IsDesigning())
+    throw EComponentError(
+        QStringLiteral("%1 rings when the form runs, not while it is designed.").arg(Name()));
+  ring_ = std::move(ring);
+  next_ = NextAfter(ClockDateTime());
+  Plan();
+}
+
+void TVRXAlarmComponent::Stop() {
+  ring_ = nullptr;
+  next_ = snoozed_ = {};
+  timer_.Cancel();
+}
+
+void TVRXAlarmComponent::Snooze() {
+  if (!ring_) return;
+  snoozed_ = PutOff(ClockDateTime());
+  Plan();
+}
+
+QDateTime TVRXAlarmComponent::Next() const {
+  if (!next_.isValid() || !snoozed_.isValid()) return next_.isValid() ? next_ : snoozed_;
+  return std::min(next_, snoozed_);
+}
+
+void TVRXAlarmComponent::Plan() {
+  timer_.Cancel();
+  // Clocks are set, and machines sleep: the time is looked at now and then.
+  constexpr qint64 often = 30'000;
+  if (const QDateTime next = Next(); next.isValid())
+    timer_.Wait(std::clamp<qint64>(ClockDateTime().msecsTo(next), 0, often));
+}
+
+bool TVRXAlarmComponent::IsDue(const QDateTime& now) const { return Next().isValid() && Next() <= now; }
+
+void TVRXAlarmComponent::Look() {
+  const QDateTime now = ClockDateTime();
+  const bool due = IsDue(now);
+  if (due) {
+    next_ = NextAfter(now);
+    snoozed_ = {};
+  }
+  Plan();
+  if (!due) return;
+  // Who hears of it may free the component.
+  const Ring ring = ring_;
+  ring();
+}
+
+void TVRXAlarmComponent::DoChanged() {
+  TComponent::DoChanged();
+  const QDateTime now = ClockDateTime();
+  // What is due is about to be told.
+  if (!ring_ || (Get(Enabled) && IsDue(now))) return;
+  next_ = NextAfter(now);
+  if (!Get(Enabled)) snoozed_ = {};
+  Plan();
 }

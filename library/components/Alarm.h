@@ -3,6 +3,7 @@
 #include <QDateTime>
 
 #include "rtl/Component.h"
+#include "rtl/DueTimer.h"
 
 enum class TVRXWeekday : std::uint8_t {
   wdMonday,
@@ -21,7 +22,7 @@ VRX_SET(TVRXWeekdays, TVRXWeekday)
 class TVRXAlarmComponent : public TComponent {
   VRX_CLASS(TVRXAlarmComponent)
  public:
-  using TComponent::TComponent;
+  explicit TVRXAlarmComponent(TComponent* owner) : TComponent(owner) {}
   static constexpr TKept<TDateTime> AlarmTime{"AlarmTime"};
   static constexpr TKept<TVRXWeekdays> Days{
       "Days",
@@ -34,4 +35,26 @@ class TVRXAlarmComponent : public TComponent {
   QDateTime NextAfter(const QDateTime& moment) const;
   // When it tells once more after it was put off.
   QDateTime PutOff(const QDateTime& moment) const;
+
+  // From now on `ring` hears whenever it is time, once for all times that a machine slept through; until
+  // Stop or the end of the component. Throws EComponentError while the form is being designed.
+  using Ring = std::function<void()>;
+  void Start(Ring ring);
+  void Stop();
+  bool IsRunning() const { return ring_ != nullptr; }
+  // Rings once more, so many minutes from now as it can be put off.
+  void Snooze();
+  // When it rings next; invalid when it does not.
+  QDateTime Next() const;
+
+ protected:
+  void DoChanged() override;
+
+ private:
+  bool IsDue(const QDateTime& now) const;
+  void Plan();
+  void Look();
+  Ring ring_;
+  QDateTime next_, snoozed_;
+  TDueTimer timer_{[this] { Look(); }};
 };

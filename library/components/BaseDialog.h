@@ -1,26 +1,7 @@
 // What the library's dialogs have in common: a component keeps what its dialog shows, and what was entered.
 #pragma once
-#include <functional>
-
+#include "library/components/DialogFrame.h"
 #include "vcl/ImageList.h"
-
-class QDialog;
-class QWidget;
-
-// Shows a dialog and waits for its result; 1 is OK. Tests answer in the person's place.
-int VRXRunDialog(QDialog& dialog);
-class TVRXDialogAnswers {
- public:
-  using Answer = std::function<int(QDialog& dialog)>;
-  // While it lives; inside of each other the inner one counts.
-  explicit TVRXDialogAnswers(Answer answer);
-  ~TVRXDialogAnswers();
-  TVRXDialogAnswers(const TVRXDialogAnswers&) = delete;
-  TVRXDialogAnswers& operator=(const TVRXDialogAnswers&) = delete;
-
- private:
-  Answer before_;
-};
 
 class TVRXBaseDialog : public TComponent {
   VRX_CLASS(TVRXBaseDialog)
@@ -37,14 +18,12 @@ class TVRXBaseDialog : public TComponent {
   void Preview() { Run(false); }
 
  protected:
-  struct Content {
-    QWidget* widget = nullptr;   // becomes the dialog's
-    std::function<void()> take;  // keeps what was entered
-    bool answers = true;         // there is something to confirm: OK and Cancel
-    QString caption{};           // unless the component has one
-  };
+  using Content = TVRXDialogContent;
   virtual Content MakeContent() { return {}; }
+  // Whether nothing that is done in the dialog may stay.
+  bool IsPreview() const { return preview_; }
 
  private:
   bool Run(bool keep);
+  bool preview_ = false;
 };

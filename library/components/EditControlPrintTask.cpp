@@ -1,10 +1,9 @@
 #include "library/components/EditControlPrintTask.h"
 
-#include <QPainter>
 #include <QPdfWriter>
-#include <QTextLayout>
 #include <QtPrintSupport/QPrinter>
 
+#include "library/components/PrinterSetup.h"
 #include "rtl/Exceptions.h"
 #include "vcl/Memo.h"
 
@@ -16,9 +15,10 @@ const TClass& TVRXEditControlPrintTask::StaticClass() {
           .Published("Font", &TVRXEditControlPrintTask::Font, &TVRXEditControlPrintTask::SetFont)
           .Doc(QStringLiteral("The font of the pages, unless they have the edit's."))
           .Published(FooterText)
-          .Doc(QStringLiteral("A line at the foot of each page."))
+          .Doc(QStringLiteral(
+              "A line at the foot of each page; {page}, {pages}, {title}, {date} and {time} are filled in."))
           .Published(HeaderText)
-          .Doc(QStringLiteral("A line at the head of each page."))
+          .Doc(QStringLiteral("A line at the head of each page, filled in like that at the foot."))
           .Published(LineNumbers)
           .Doc(QStringLiteral("The number of each line in front of it."))
           .Published(MarginBottom)
@@ -68,67 +68,24 @@ QStringList TVRXEditControlPrintTask::Lines() const {
   return text.split(u'\n');
 }
 
-std::vector<QStringList> TVRXEditControlPrintTask::Pages(const QFont& font, QPaintDevice* device,
-                                                         QSizeF room) const {
-  const QFontMetricsF metrics(font, device);
-  const auto most = static_cast<qsizetype>(std::max(1.0, std::floor(room.height() / metrics.lineSpacing())));
-  std::vector<QStringList> pages(1);
-  const auto add = [&](const QString& line) {
-    if (pages.back().size() >= most) pages.emplace_back();
-    pages.back() << line;
-  };
-  int number = 0;
-  for (QString line : Lines()) {
-    if (Get(LineNumbers)) line.prepend(QStringLiteral("%1  ").arg(number + 1, 4));
-    ++number;
-    line.replace(u'\t', QStringLiteral("    "));
-    QTextLayout layout(line, font, device);
-    layout.beginLayout();
-    QTextLine piece = layout.createLine();
-    if (!piece.isValid()) add(line);
-    for (; piece.isValid(); piece = layout.createLine()) {
-      piece.setLineWidth(std::max(room.width(), 1.0));
-      add(line.mid(piece.textStart(), piece.textLength()));
-      if (!Get(WordWrap)) break;
-    }
-    layout.endLayout();
-  }
+TVRXTextPages TVRXEditControlPrintTask::Pages() const {
+  TVRXTextPages pages{
+      .lines = Lines(),
+      .header = Get(HeaderText),
+      .footer = Get(FooterText),
+      .title = Get(Title),
+      .lineNumbers = Get(LineNumbers),
+      .pageNumbers = Get(ShowPageNumbers),
+      .wordWrap = Get(WordWrap),
+      .margins = VRXTextMargins(Get(MarginLeft), Get(MarginTop), Get(MarginRight), Get(MarginBottom)),
+      .orientation = Get(Orientation)};
+  pages.SetFont(PrintFont());
   return pages;
 }
 
 int TVRXEditControlPrintTask::Print(QPagedPaintDevice& device) const {
   if (!Get(EditControl)) throw EComponentError(QStringLiteral("%1 has no edit to print.").arg(Name()));
-  const auto margin = [](int v) { return std::clamp(v, 0, 150) * 1.0; };
-  const bool upright = Get(Orientation) == TVRXPrintOrientation::poPortrait;
-  device.setPageOrientation(upright ? QPageLayout::Portrait : QPageLayout::Landscape);
-  device.setPageMargins(
-      {margin(Get(MarginLeft)), margin(Get(MarginTop)), margin(Get(MarginRight)), margin(Get(MarginBottom))},
-      QPageLayout::Millimeter);
-  QPainter painter;
-  if (!painter.begin(&device)) throw EComponentError(QStringLiteral("%1 cannot print there.").arg(Name()));
-  // Letters are as large on paper as on a screen of 96 dpi.
-  QFont font = ToQFont(PrintFont());
-  constexpr double inch = 72, screen = 96;
-  if (font.pixelSize() > 0) font.setPointSizeF(font.pixelSize() * inch / screen);
-  painter.setFont(font);
-  const double line = QFontMetricsF(font, &device).lineSpacing();
-  QRectF room(0, 0, device.width(), device.height());
-  const QRectF all = room;
-  if (!Get(HeaderText).isEmpty()) room.setTop(room.top() + 2 * line);
-  if (!Get(FooterText).isEmpty() || Get(ShowPageNumbers)) room.setBottom(room.bottom() - 2 * line);
-  const auto pages = Pages(font, &device, room.size());
-  for (std::size_t i = 0; i < pages.size(); ++i) {
-    if (i > 0) device.newPage();
-    painter.drawText(all, Qt::AlignTop | Qt::AlignHCenter | Qt::TextSingleLine, Get(HeaderText));
-    painter.drawText(all, Qt::AlignBottom | Qt::AlignLeft | Qt::TextSingleLine, Get(FooterText));
-    if (Get(ShowPageNumbers))
-      painter.drawText(all, Qt::AlignBottom | Qt::AlignRight,
-                       QStringLiteral("%1 / %2").arg(i + 1).arg(pages.size()));
-    for (qsizetype k = 0; k < pages[i].size(); ++k)
-      painter.drawText(QRectF(room.left(), room.top() + static_cast<double>(k) * line, room.width(), line),
-                       Qt::AlignLeft | Qt::TextSingleLine, pages[i][k]);
-  }
-  return static_cast<int>(pages.size());
+  return Pages().Print(device, Name(), {});
 }
 
 int TVRXEditControlPrintTask::PrintToPdf(QIODevice& device) const {
@@ -139,6 +96,7 @@ int TVRXEditControlPrintTask::PrintToPdf(QIODevice& device) const {
 
 int TVRXEditControlPrintTask::PrintToPrinter() const {
   QPrinter printer(QPrinter::HighResolution);
+  VRXPrinterSetup().ApplyOrThrow(printer, Name());
   printer.setDocName(Get(Title));
   return Print(printer);
 }

@@ -1,14 +1,9 @@
 // Prints what is in an edit, on as many pages as it takes.
 #pragma once
-#include <QFontMetricsF>
-
+#include "library/values/TextPages.h"
 #include "vcl/Edit.h"
 
 class QIODevice;
-class QPagedPaintDevice;
-
-enum class TVRXPrintOrientation : std::uint8_t { poPortrait, poLandscape };
-VRX_ENUM(TVRXPrintOrientation, {"poPortrait", "poLandscape"})
 
 class TVRXEditControlPrintTask : public TComponent {
   VRX_CLASS(TVRXEditControlPrintTask)
@@ -35,14 +30,13 @@ class TVRXEditControlPrintTask : public TComponent {
 
   // What will be printed, a password as the edit shows it.
   QStringList Lines() const;
-  // The lines as they stand on each page, wrapped at the width and cut where there is nothing to wrap at. At
-  // least one page, and one line on each.
-  std::vector<QStringList> Pages(const QFont& font, QPaintDevice* device, QSizeF room) const;
+  // Those lines, and how they stand on pages.
+  TVRXTextPages Pages() const;
 
   // Returns the number of pages. Throws EComponentError when there is no edit or the device takes nothing.
   int Print(QPagedPaintDevice& device) const;
   int PrintToPdf(QIODevice& device) const;
-  // To the printer that the system prefers.
+  // To the printer of the program (PrinterSetup.h).
   int PrintToPrinter() const;
 
  private:

@@ -2,6 +2,7 @@
 
 #include <QtWidgets>
 
+#include "library/components/FolderTree.h"
 #include "library/values/CalculatorEngine.h"
 #include "rtl/Clock.h"
 #include "vcl/Calendar.h"
@@ -201,28 +202,6 @@ TVRXBaseDialog::Content TVRXCalculatorDlg::MakeContent() {
 }
 
 TVRXBaseDialog::Content TVRXDirDlg::MakeContent() {
-  auto* both = Named(new QWidget, "folders");
-  auto* tree = Named(new QTreeView, "tree");
-  auto* edit = Named(new QLineEdit(Get(Directory)), "directory");
-  auto* model = new QFileSystemModel(tree);
-  model->setFilter(QDir::Dirs | QDir::NoDotAndDotDot | QDir::Drives |
-                   (Get(ShowHidden) ? QDir::Hidden : QDir::Filters()));
-  model->setRootPath(QDir::rootPath());
-  tree->setModel(model);
-  tree->setHeaderHidden(true);
-  for (int column = 1; column < model->columnCount(); ++column) tree->hideColumn(column);
-  tree->setMinimumSize(320, 240);
-  if (const QModelIndex at = model->index(Get(Directory)); at.isValid()) {
-    tree->setCurrentIndex(at);
-    tree->scrollTo(at);
-  }
-  QObject::connect(tree->selectionModel(), &QItemSelectionModel::currentChanged, edit,
-                   [edit, model](const QModelIndex& row) { edit->setText(model->filePath(row)); });
-  auto* column = new QVBoxLayout(both);
-  column->setContentsMargins(0, 0, 0, 0);
-  column->setSpacing(6);
-  column->addWidget(tree, 1);
-  column->addWidget(edit);
-  both->setFocusProxy(edit);
-  return {both, [this, edit] { Set(Directory, edit->text()); }, true, QObject::tr("Folder")};
+  auto* folders = new FolderTree(Get(Directory), {.hidden = Get(ShowHidden)});
+  return {folders, [this, folders] { Set(Directory, folders->Folder()); }, true, QObject::tr("Folder")};
 }

@@ -1,5 +1,10 @@
 #include "library/components/FileDialogs.h"
 
+#include <QtWidgets>
+
+#include "library/components/DialogFrame.h"
+#include "vcl/Prompts.h"
+
 const TClass& TVRXFormOpenDialog::StaticClass() {
   static const TClass cls(
       DescribeClass<TVRXFormOpenDialog>("TVRXFormOpenDialog", TOpenDialog::StaticClass())
@@ -20,47 +25,90 @@ const TClass& TVRXFormSaveDialog::StaticClass() {
   return cls;
 }
 
-const TClass& TVRXFormColorDialog::StaticClass() {
-  static const TClass cls(
-      DescribeClass<TVRXFormColorDialog>("TVRXFormColorDialog", TColorDialog::StaticClass())
-          .ClassDoc(QStringLiteral("Asks for a colour."),
-                    "pen line 1.5 brush fill box 3 4 18 16 2 path 3 8 21 8 brush accent box 6 11 4 3.5 0 "
-                    "brush none box 13 11 5 6.5 0 path 6 17.5 10 17.5"));
-  return cls;
+QStringList VRXNameFilters(const QString& filter) {
+  if (filter.isEmpty()) return {};
+  const QStringList parts = filter.split(u'|');
+  QStringList filters;
+  for (qsizetype i = 0; i < parts.size(); i += 2) {
+    // A name whose pattern is left out shows every file.
+    QString pattern = parts.value(i + 1).simplified().replace(u';', u' ').simplified();
+    if (pattern.isEmpty()) pattern = QStringLiteral("*");
+    // Many names end with the pattern already.
+    const QString shown = QStringLiteral("(%1)").arg(pattern);
+    filters << (parts[i].endsWith(shown) ? parts[i] : parts[i] + u' ' + shown);
+  }
+  return filters;
 }
 
-const TClass& TVRXFormFontDialog::StaticClass() {
-  static const TClass cls(DescribeClass<TVRXFormFontDialog>("TVRXFormFontDialog", TFontDialog::StaticClass())
-                              .ClassDoc(QStringLiteral("Asks for a font."),
-                                        "pen line 1.5 brush fill box 3 4 18 16 2 path 3 8 21 8 pen accent 2 "
-                                        "path 7.5 17.5 12 10 16.5 17.5 path 9.2 15 14.8 15"));
-  return cls;
+namespace {
+using enum TOpenOption;
+
+void Prepare(QFileDialog& dialog, const TOpenDialog& component, QFileDialog::AcceptMode mode) {
+  const TOpenOptions options = component.Get(TOpenDialog::Options);
+  const bool opens = mode == QFileDialog::AcceptOpen;
+  dialog.setObjectName(component.Name());
+  if (const QString title = component.Get(TOpenDialog::Title); !title.isEmpty()) dialog.setWindowTitle(title);
+  dialog.setAcceptMode(mode);
+  dialog.setFileMode(opens && options.Contains(ofAllowMultiSelect) ? QFileDialog::ExistingFiles
+                     : opens && options.Contains(ofFileMustExist)  ? QFileDialog::ExistingFile
+                                                                   : QFileDialog::AnyFile);
+  dialog.setOption(QFileDialog::DontConfirmOverwrite, !options.Contains(ofOverwritePrompt));
+  dialog.setOption(QFileDialog::DontResolveSymlinks, options.Contains(ofNoDereferenceLinks));
+  if (options.Contains(ofForceShowHidden)) dialog.setFilter(dialog.filter() | QDir::Hidden);
+  if (options.Contains(ofViewDetail)) dialog.setViewMode(QFileDialog::Detail);
+  dialog.setDefaultSuffix(component.Get(TOpenDialog::DefaultExt));
+  const QStringList filters = VRXNameFilters(component.Get(TOpenDialog::Filter));
+  if (!filters.isEmpty()) dialog.setNameFilters(filters);
+  const int index = component.Get(TOpenDialog::FilterIndex) - 1;
+  if (index >= 0 && index < filters.size()) dialog.selectNameFilter(filters[index]);
+  const QString folder = component.Get(TOpenDialog::InitialDir), name = component.Get(TOpenDialog::FileName);
+  dialog.setDirectory(folder.isEmpty() ? InPromptFolder({}) : folder);
+  if (!name.isEmpty()) dialog.selectFile(name);
 }
 
-const TClass& TVRXFormPageSetupDialog::StaticClass() {
-  static const TClass cls(
-      DescribeClass<TVRXFormPageSetupDialog>("TVRXFormPageSetupDialog", TPageSetupDialog::StaticClass())
-          .ClassDoc(QStringLiteral("Asks for paper and margins."),
-                    "pen line 1.5 brush fill box 3 4 18 16 2 path 3 8 21 8 box 8 10 8 8.5 0 pen accent 1.5 "
-                    "dots brush none box 9.8 11.8 4.4 4.9 0"));
-  return cls;
+// Whether the name may be taken; else the person has been told why.
+bool MayTake(QFileDialog& dialog, const QString& name, TOpenOptions options) {
+  if (options.Contains(ofNoValidate)) return true;
+  const QFileInfo info(name);
+  if (options.Contains(ofPathMustExist) && !info.dir().exists()) {
+    Prompts().Warn(&dialog, dialog.windowTitle(),
+                   QObject::tr("There is no folder \"%1\". Choose one that exists.").arg(info.path()));
+    return false;
+  }
+  if (!options.Contains(ofCreatePrompt) || info.exists()) return true;
+  return Prompts().Confirm(&dialog, dialog.windowTitle(),
+                           QObject::tr("There is no file \"%1\". Create it?").arg(name));
 }
 
-const TClass& TVRXFormPrinterSetupDialog::StaticClass() {
-  static const TClass cls(
-      DescribeClass<TVRXFormPrinterSetupDialog>("TVRXFormPrinterSetupDialog",
-                                                TPrinterSetupDialog::StaticClass())
-          .ClassDoc(QStringLiteral("Asks for a printer."),
-                    "pen line 1.5 brush fill box 3 4 18 16 2 path 3 8 21 8 box 6 12.5 12 5 1 path 8.5 12.5 "
-                    "8.5 10 15.5 10 15.5 12.5 pen accent 2 path 15.5 15 15.7 15"));
-  return cls;
+// The names that were chosen; none when it was cancelled.
+QStringList Ask(TOpenDialog& component, QFileDialog::AcceptMode mode) {
+  QFileDialog dialog(QApplication::activeWindow());
+  Prepare(dialog, component, mode);
+  const TOpenOptions options = component.Get(TOpenDialog::Options);
+  QStringList names;
+  do {
+    if (VRXRunDialog(dialog) != QDialog::Accepted) return {};
+    names = dialog.selectedFiles();
+  } while (!names.isEmpty() && !MayTake(dialog, names.first(), options));
+  if (names.isEmpty()) return {};
+  component.Set(TOpenDialog::FileName, names.first());
+  const qsizetype filter =
+      VRXNameFilters(component.Get(TOpenDialog::Filter)).indexOf(dialog.selectedNameFilter());
+  if (filter >= 0) component.Set(TOpenDialog::FilterIndex, static_cast<int>(filter) + 1);
+  const QString usual = component.Get(TOpenDialog::DefaultExt);
+  const bool different = !usual.isEmpty() && QFileInfo(names.first()).suffix() != usual;
+  const std::uint64_t mark = TOpenOptions{ofExtensionDifferent}.Bits();
+  component.Set(TOpenDialog::Options,
+                TOpenOptions::FromBits((options.Bits() & ~mark) | (different ? mark : 0)));
+  return names;
+}
+}  // namespace
+
+bool TVRXFormOpenDialog::Execute() {
+  const QStringList names = Ask(*this, QFileDialog::AcceptOpen);
+  if (names.isEmpty()) return false;
+  files_ = names;
+  return true;
 }
 
-const TClass& TVRXFormPrintCommDialog::StaticClass() {
-  static const TClass cls(
-      DescribeClass<TVRXFormPrintCommDialog>("TVRXFormPrintCommDialog", TPrintDialog::StaticClass())
-          .ClassDoc(QStringLiteral("Asks what to print, where and how often."),
-                    "pen line 1.5 brush fill box 3 4 18 16 2 path 3 8 21 8 box 6 10.5 7.5 5 1 pen accent 1.6 "
-                    "box 10 13 8 5 1"));
-  return cls;
-}
+bool TVRXFormSaveDialog::Execute() { return !Ask(*this, QFileDialog::AcceptSave).isEmpty(); }

@@ -1,11 +1,26 @@
-// The common dialogs of the library: the framework's, known to its editors by classes of their own.
+// The common dialogs for files: the framework's, known to the library's editors by classes of their own.
 #pragma once
 #include "vcl/Dialogs.h"
 
-VRX_DIALOG(TVRXFormOpenDialog, TOpenDialog)
-VRX_DIALOG(TVRXFormSaveDialog, TSaveDialog)
-VRX_DIALOG(TVRXFormColorDialog, TColorDialog)
-VRX_DIALOG(TVRXFormFontDialog, TFontDialog)
-VRX_DIALOG(TVRXFormPageSetupDialog, TPageSetupDialog)
-VRX_DIALOG(TVRXFormPrinterSetupDialog, TPrinterSetupDialog)
-VRX_DIALOG(TVRXFormPrintCommDialog, TPrintDialog)
+class TVRXFormOpenDialog : public TOpenDialog {
+  VRX_CLASS(TVRXFormOpenDialog)
+ public:
+  using TOpenDialog::TOpenDialog;
+  // Whether a file was chosen: it is in FileName then, and nothing has changed otherwise.
+  bool Execute();
+  // All that were chosen.
+  const QStringList& Files() const { return files_; }
+
+ private:
+  QStringList files_;
+};
+
+class TVRXFormSaveDialog : public TSaveDialog {
+  VRX_CLASS(TVRXFormSaveDialog)
+ public:
+  using TSaveDialog::TSaveDialog;
+  bool Execute();
+};
+
+// "Texts|*.txt;*.md|All (*)|*" as the toolkit has it: "Texts (*.txt *.md)", "All (*)".
+QStringList VRXNameFilters(const QString& filter);

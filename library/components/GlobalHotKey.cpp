@@ -1,5 +1,7 @@
 #include "library/components/GlobalHotKey.h"
 
+#include "library/keys/XKeyGrab.h"
+
 const TClass& TVRXGlobalHotKey::StaticClass() {
   static const TClass cls(
       DescribeClass<TVRXGlobalHotKey>("TVRXGlobalHotKey", TComponent::StaticClass())
@@ -25,4 +27,51 @@ QString TVRXGlobalHotKey::Problem() const {
     return QStringLiteral("%1 would be taken from every program: add Ctrl or Alt.")
         .arg(ShortCutToText(Get(HotKey)));
   return {};
+}
+
+TVRXGlobalHotKey::TVRXGlobalHotKey(TComponent* owner) : TComponent(owner) {}
+TVRXGlobalHotKey::~TVRXGlobalHotKey() = default;
+
+void TVRXGlobalHotKey::Start(Pressed pressed) {
+  Stop();
+  if (IsDesigning())
+    throw EHotKeyError(
+        QStringLiteral("%1 takes its key when the form runs, not while it is designed.").arg(Name()));
+  pressed_ = std::move(pressed);
+  try {
+    Take();
+  } catch (...) {
+    Stop();
+    throw;
+  }
+}
+
+void TVRXGlobalHotKey::Stop() {
+  pressed_ = nullptr;
+  grab_.reset();
+  lastError_.clear();
+}
+
+void TVRXGlobalHotKey::Take() {
+  const TShortCut wanted = Get(Enabled) ? Get(HotKey) : TShortCut{};
+  if (grab_ && wanted == taken_) return;
+  grab_.reset();
+  lastError_.clear();
+  if (!Get(Enabled)) return;
+  if (const QString why = Problem(); !why.isEmpty()) throw EHotKeyError(why);
+  grab_ = std::make_unique<XKeyGrab>(wanted, [this] {
+    const Pressed call = pressed_;
+    call();
+  });
+  taken_ = wanted;
+}
+
+void TVRXGlobalHotKey::DoChanged() {
+  TComponent::DoChanged();
+  if (!pressed_) return;
+  try {
+    Take();
+  } catch (const EHotKeyError& error) {
+    lastError_ = error.Message();
+  }
 }

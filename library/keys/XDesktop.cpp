@@ -3,10 +3,10 @@
 #include <QByteArray>
 #include <QObject>
 #include <deque>
-#include <mutex>
 #include <span>
 
 #include "library/keys/KeyMacro.h"
+#include "library/keys/XErrors.h"
 
 // Last: its macros are named like anybody's.
 extern "C" {
@@ -16,47 +16,6 @@ extern "C" {
 #include <X11/keysym.h>
 
 namespace {
-// What goes wrong with a window that is closed meanwhile must not end the program, which is what X does
-// unless somebody takes its errors. Those of other displays go where they went before.
-class XErrors {
- public:
-  static void Take(Display* display) {
-    static const XErrorHandler before = XSetErrorHandler(&Handle);
-    // A server that goes away answers nothing from then on; programs need not go with it.
-    static const XIOErrorHandler lostBefore = XSetIOErrorHandler(&HandleLost);
-    XSetIOErrorExitHandler(display, &GoOn, nullptr);
-    const std::lock_guard lock(guard_);
-    others_ = before;
-    lostOthers_ = lostBefore;
-    ours_.push_back(display);
-  }
-  static void Leave(Display* display) {
-    const std::lock_guard lock(guard_);
-    std::erase(ours_, display);
-  }
-
- private:
-  static void GoOn(Display*, void*) {}
-  // That of whoever was there before, for displays that are not ours.
-  template <class H>
-  static H HandlerFor(Display* display, const H& others) {
-    const std::lock_guard lock(guard_);
-    return std::find(ours_.begin(), ours_.end(), display) == ours_.end() ? others : nullptr;
-  }
-  static int Handle(Display* display, XErrorEvent* event) {
-    const XErrorHandler others = HandlerFor(display, others_);
-    return others ? others(display, event) : 0;
-  }
-  static int HandleLost(Display* display) {
-    const XIOErrorHandler others = HandlerFor(display, lostOthers_);
-    return others ? others(display) : 0;
-  }
-  static inline std::mutex guard_;
-  static inline std::vector<Display*> ours_;
-  static inline XErrorHandler others_ = nullptr;
-  static inline XIOErrorHandler lostOthers_ = nullptr;
-};
-
 useconds_t Microseconds(int milliseconds) { return static_cast<useconds_t>(milliseconds) * 1000; }
 
 class XDesktop final : public IDesktop {

@@ -4,6 +4,7 @@
 #include "library/components/Alarm.h"
 #include "library/components/ButtonBarPopupMenu.h"
 #include "library/components/ClipboardMonitor.h"
+#include "library/components/ColorFontDialogs.h"
 #include "library/components/Containers.h"
 #include "library/components/EditActions.h"
 #include "library/components/EditControlPrintTask.h"
@@ -15,11 +16,16 @@
 #include "library/components/GlobalHotKey.h"
 #include "library/components/HiTimer.h"
 #include "library/components/HideNonVC.h"
+#include "library/components/IconDialog.h"
+#include "library/components/ObjectDialog.h"
+#include "library/components/PickDialogs.h"
 #include "library/components/PopupMenu.h"
+#include "library/components/PrinterDialogs.h"
 #include "library/components/RegExpr.h"
 #include "library/components/SendKeys.h"
 #include "library/components/TellingDialogs.h"
 #include "library/components/TitleItems.h"
+#include "library/components/TxtPrinter.h"
 #include "library/controls/Assist.h"
 #include "library/controls/Button3D.h"
 #include "library/controls/Calculator.h"
@@ -93,10 +99,11 @@ const Row kRows[] = {
     Component<TVRXMMButtonFaceController, TVRXButtonFaceControllerEditor>(),
 
     Page("VRX Dlg",
-         TellingClasses<TVRXAboutDlg, TVRXDirDlg, TVRXTipDlg, TVRXMessageBoxDlg, TVRXInputDlg,
-                        TVRXCheckListDlg, TVRXCalendarDlg, TVRXCalculatorDlg, TVRXTextEditDlg,
+         TellingClasses<TVRXAboutDlg, TVRXDirDlg, TVRXTipDlg, TVRXWindowListDlg, TVRXMessageBoxDlg,
+                        TVRXInputDlg, TVRXCheckListDlg, TVRXCalendarDlg, TVRXCalculatorDlg, TVRXTextEditDlg,
                         TVRXFormOpenDialog, TVRXFormSaveDialog, TVRXFormColorDialog, TVRXFormFontDialog,
-                        TVRXFormPageSetupDialog, TVRXFormPrinterSetupDialog, TVRXFormPrintCommDialog>()),
+                        TVRXFormPageSetupDialog, TVRXFormPrinterSetupDialog, TVRXFormPrintCommDialog,
+                        TVRXFormFolderDialog, TVRXFormChangeIconDialog, TVRXFormInsertObjectDialog>()),
     Component<TVRXMessageBoxDlg, TVRXMessageBoxComponentEditor>(),
     Component<TVRXBaseDialog, TVRXExtDlgEditor>(),
 
@@ -137,8 +144,9 @@ const Row kRows[] = {
     Component<TVRXCustom3DButton, TVRXExtGraphicButtonComponentEditor>(),
     Component<TVRXCustomMMButton, TVRXExtGraphicButtonComponentEditor>(),
 
-    Page("VRX Sys", TellingClasses<TVRXHideNonVC, TVRXAlarmComponent, TVRXSendKeys, TVRXGlobalHotKey,
-                                   TVRXPopupMenu, TVRXRegExpr, TVRXExpressionEval, TVRXClipboardMonitor>()),
+    Page("VRX Sys",
+         TellingClasses<TVRXHideNonVC, TVRXAlarmComponent, TVRXSendKeys, TVRXGlobalHotKey, TVRXTxtPrinter,
+                        TVRXPopupMenu, TVRXRegExpr, TVRXExpressionEval, TVRXClipboardMonitor>()),
     Component<TVRXHideNonVC, TVRXHideNonVCEditor>(),
     Component<TVRXCustomShapeHint, TVRXShapeHintComponentEditor>(),
     Component<TVRXSendKeys, TVRXSendKeyComponentEditor>(),

@@ -219,7 +219,7 @@ struct Printing {
         ->SetLines({QStringLiteral("First line of some words that go on"), QString(), QStringLiteral("a\tb"),
                     QStringLiteral("last")});
   }
-  std::vector<QStringList> Pages(QSizeF room) const { return task.Pages(QFont(), &paper, room); }
+  std::vector<QStringList> Pages(QSizeF room) const { return task.Pages().Break(QFont(), &paper, room); }
   QByteArray Pdf() const {
     QBuffer buffer;
     buffer.open(QIODevice::WriteOnly);
@@ -241,7 +241,7 @@ QStringList All(const std::vector<QStringList>& pages) {
 TEST(PrintTask, PrintsAllLinesOnAsManyPagesAsItTakes) {
   Printing p;
   EXPECT_EQ(All(p.Pages({5000, 5000})).join(u'|'),
-            QStringLiteral("First line of some words that go on||a    b|last"));
+            QStringLiteral("First line of some words that go on||a   b|last"));
   const double line = QFontMetricsF(QFont(), &p.paper).lineSpacing();
   const auto pages = p.Pages({5000, 3.5 * line});
   ASSERT_EQ(pages.size(), 2u);

@@ -5,11 +5,11 @@
 
 #include <QCoreApplication>
 #include <QProcess>
-#include <QStandardPaths>
 #include <QTest>
 #include <csignal>
 
 #include "tests/support/FakeDesktop.h"
+#include "tests/support/OwnXServer.h"
 
 namespace {
 // One key or one window takes far less, on a slow and busy machine, too.
@@ -20,26 +20,14 @@ const QString Reader = QStringLiteral(VRX_BINARY_DIR "/bin/keyreader");
 class RealWindows : public testing::Test {
  protected:
   void SetUp() override {
-    const QString program = QStandardPaths::findExecutable(QStringLiteral("Xvfb"));
-    if (program.isEmpty()) GTEST_SKIP() << "Xvfb is not installed";
-    server_.start(program, {QStringLiteral("-displayfd"), QStringLiteral("1"), QStringLiteral("-screen"),
-                            QStringLiteral("0"), QStringLiteral("640x480x24"), QStringLiteral("-nolisten"),
-                            QStringLiteral("tcp")});
-    QByteArray number;
-    while (!number.endsWith('\n') && server_.waitForReadyRead(Patience))
-      number += server_.readAllStandardOutput();
-    ASSERT_FALSE(number.trimmed().isEmpty());
-    before_ = qgetenv("DISPLAY");
-    qputenv("DISPLAY", ":" + number.trimmed());
+    if (!OwnXServer::IsInstalled()) GTEST_SKIP() << "Xvfb is not installed";
+    server_.emplace();
     sender_.Set(TVRXSendKeys::RaiseException, true);
     sender_.Set(TVRXSendKeys::Timeout, Patience);
   }
   void TearDown() override {
-    if (server_.state() == QProcess::NotRunning) return;
-    before_.isEmpty() ? qunsetenv("DISPLAY") : qputenv("DISPLAY", before_);
     readers_.clear();
-    server_.terminate();
-    server_.waitForFinished(Patience);
+    server_.reset();
   }
 
   struct Window {
@@ -89,8 +77,7 @@ class RealWindows : public testing::Test {
   TVRXSendKeys sender_{nullptr};
 
  private:
-  QProcess server_;
-  QByteArray before_;
+  std::optional<OwnXServer> server_;
   std::vector<std::unique_ptr<Window>> readers_;
 };
 }  // namespace

@@ -14,6 +14,9 @@
 #include "library/components/FlyoutController.h"
 #include "library/components/GlobalHotKey.h"
 #include "library/components/PopupMenu.h"
+#include "rtl/Clock.h"
+#include "rtl/Exceptions.h"
+#include "vcl/Form.h"
 #include "vcl/MenuLook.h"
 #include "vcl/Panel.h"
 
@@ -55,6 +58,112 @@ TEST(Alarm, OneThatIsOffNeverTells) {
   EXPECT_FALSE(alarm.NextAfter(now).isValid());
   alarm.Set(TVRXAlarmComponent::Enabled, false);
   EXPECT_FALSE(alarm.PutOff(now).isValid());
+}
+
+namespace {
+// The first day of 2000 was a Saturday.
+struct Ticking {
+  std::int64_t now = 0;
+  TClockOverride clock{[this] { return now; }};
+  void Go(std::int64_t milliseconds) {
+    now += milliseconds;
+    TDueTimer::RunDue();
+  }
+  void GoMinutes(int minutes) {
+    for (int i = 0; i < minutes; ++i) Go(60'000);
+  }
+};
+}  // namespace
+
+TEST(Alarm, RingsAtItsTimeOnItsDays) {
+  Ticking time;
+  TVRXAlarmComponent alarm(nullptr);
+  alarm.Set(TVRXAlarmComponent::AlarmTime, TDateTime{90 / 1440.0});
+  alarm.Set(TVRXAlarmComponent::Days, {TVRXWeekday::wdSaturday, TVRXWeekday::wdMonday});
+  QStringList rung;
+  EXPECT_FALSE(alarm.IsRunning());
+  alarm.Start([&] { rung << ClockDateTime().toString(QStringLiteral("ddd HH:mm")); });
+  time.GoMinutes(89);
+  EXPECT_TRUE(rung.isEmpty());
+  time.GoMinutes(1);
+  EXPECT_EQ(rung.join(u','), QStringLiteral("Sat 01:30"));
+  time.GoMinutes(3 * 1440);
+  EXPECT_EQ(rung.join(u','), QStringLiteral("Sat 01:30,Mon 01:30"));
+  alarm.Stop();
+  EXPECT_FALSE(alarm.Next().isValid());
+  time.GoMinutes(7 * 1440);
+  EXPECT_EQ(rung.size(), 2);
+}
+
+TEST(Alarm, RingsOnceForWhatAMachineSleptThrough) {
+  Ticking time;
+  int rung = 0;
+  TVRXAlarmComponent alarm(nullptr);
+  alarm.Set(TVRXAlarmComponent::AlarmTime, TDateTime{0.5});
+  alarm.Start([&] { ++rung; });
+  time.Go(std::int64_t{50} * 3600 * 1000);
+  EXPECT_EQ(rung, 1);
+  EXPECT_EQ(alarm.Next().toString(QStringLiteral("yyyy-MM-dd HH:mm")), QStringLiteral("2000-01-03 12:00"));
+}
+
+TEST(Alarm, PutOffItRingsOnceMore) {
+  Ticking time;
+  int rung = 0;
+  TVRXAlarmComponent alarm(nullptr);
+  alarm.Snooze();
+  EXPECT_FALSE(alarm.Next().isValid());
+  alarm.Set(TVRXAlarmComponent::AlarmTime, TDateTime{10 / 1440.0});
+  alarm.Set(TVRXAlarmComponent::SnoozeMinutes, 7);
+  alarm.Start([&] {
+    if (++rung == 1) alarm.Snooze();
+  });
+  time.GoMinutes(16);
+  EXPECT_EQ(rung, 1);
+  time.GoMinutes(1);
+  EXPECT_EQ(rung, 2);
+  time.GoMinutes(60);
+  EXPECT_EQ(rung, 2);
+  alarm.Snooze();
+  alarm.Set(TVRXAlarmComponent::Enabled, false);
+  time.GoMinutes(60);
+  EXPECT_EQ(rung, 2) << "one that is off is put off no more";
+}
+
+TEST(Alarm, AnotherTimeCountsAtOnce) {
+  Ticking time;
+  int rung = 0;
+  auto alarm = std::make_unique<TVRXAlarmComponent>(nullptr);
+  alarm->Set(TVRXAlarmComponent::AlarmTime, TDateTime{0.9});
+  alarm->Start([&] { ++rung; });
+  alarm->Set(TVRXAlarmComponent::AlarmTime, TDateTime{5 / 1440.0});
+  time.GoMinutes(5);
+  EXPECT_EQ(rung, 1);
+  alarm->Set(TVRXAlarmComponent::AlarmTime, TDateTime{8 / 1440.0});
+  alarm->Set(TVRXAlarmComponent::Enabled, false);
+  time.GoMinutes(5);
+  EXPECT_EQ(rung, 1);
+  alarm->Set(TVRXAlarmComponent::Enabled, true);
+  alarm->Set(TVRXAlarmComponent::AlarmTime, TDateTime{12 / 1440.0});
+  alarm->Start([&] {
+    ++rung;
+    alarm.reset();
+  });
+  time.GoMinutes(5);
+  EXPECT_EQ(rung, 2) << "it may be freed by who hears of it";
+  EXPECT_EQ(alarm, nullptr);
+}
+
+TEST(Alarm, IsSilentWhileItsFormIsDesigned) {
+  TVRXAlarmComponent alarm(nullptr);
+  alarm.SetName(QStringLiteral("Lunch"));
+  alarm.SetDesigning(true);
+  try {
+    alarm.Start([] {});
+    ADD_FAILURE();
+  } catch (const EComponentError& error) {
+    EXPECT_TRUE(error.Message().startsWith(QStringLiteral("Lunch")));
+  }
+  EXPECT_FALSE(alarm.IsRunning());
 }
 
 // --- The clipboard
@@ -157,6 +266,120 @@ TEST(Flyout, StandsOnItsSideWithTheHandleInSight) {
   }
   fly.Set(TVRXFlyoutController::HandleSize, 5000);
   EXPECT_EQ(fly.PlaceAt(0, {400, 300}), QRect(7, 240, 110, 60));
+}
+
+namespace {
+struct Flying {
+  Flying() {
+    form.SetBounds(0, 0, 400, 300);
+    panel.SetParent(&form);
+    panel.SetBounds(20, 40, 110, 60);
+    fly.SetName(QStringLiteral("Fly"));
+    fly.Set(TVRXFlyoutController::Control, &panel);
+    fly.Set(TVRXFlyoutController::HandleSize, 10);
+    fly.Set(TVRXFlyoutController::Delay, 100);
+    fly.Set(TVRXFlyoutController::Duration, 200);
+  }
+  Ticking time;
+  TForm form{nullptr};
+  TPanel panel{nullptr};
+  TVRXFlyoutController fly{nullptr};
+  QByteArrayList heard;
+};
+constexpr QPoint OnHandle(5, 60), Away(300, 200);
+}  // namespace
+
+TEST(Flyout, OpensUnderThePointerAndClosesWhenItGoes) {
+  Flying f;
+  f.fly.Start([&f](bool open) { f.heard << (open ? "open" : "closed"); });
+  EXPECT_EQ(f.panel.BoundsRect(), QRect(-100, 40, 110, 60));
+  f.fly.PointerAt(Away);
+  f.time.Go(500);
+  EXPECT_EQ(f.panel.Left(), -100);
+  f.fly.PointerAt(OnHandle);
+  f.time.Go(100);
+  EXPECT_EQ(f.panel.Left(), -100) << "the delay";
+  f.time.Go(100);
+  EXPECT_EQ(f.panel.Left(), -50);
+  EXPECT_TRUE(f.heard.isEmpty());
+  f.time.Go(100);
+  EXPECT_EQ(f.panel.Left(), 0);
+  EXPECT_EQ(f.heard.join(' '), "open");
+  f.fly.PointerAt(QPoint(90, 70));
+  f.time.Go(1000);
+  EXPECT_EQ(f.panel.Left(), 0) << "the pointer is on it";
+  EXPECT_EQ(TDueTimer::RunDue(), 0) << "nothing moves";
+  f.fly.PointerAt({});
+  f.time.Go(150);
+  EXPECT_EQ(f.panel.Left(), -25);
+  f.time.Go(150);
+  EXPECT_EQ(f.panel.Left(), -100);
+  EXPECT_EQ(f.heard.join(' '), "open closed");
+  f.fly.Stop();
+  EXPECT_EQ(f.panel.BoundsRect(), QRect(20, 40, 110, 60)) << "where it stood";
+  f.fly.PointerAt(QPoint(30, 60));
+  f.time.Go(1000);
+  EXPECT_EQ(f.panel.Left(), 20);
+}
+
+TEST(Flyout, TurnsWhereItIs) {
+  Flying f;
+  f.fly.Start();
+  f.fly.PointerAt(OnHandle);
+  f.time.Go(200);
+  EXPECT_EQ(f.panel.Left(), -50);
+  f.fly.PointerAt(Away);
+  f.time.Go(150);
+  EXPECT_EQ(f.panel.Left(), -75);
+  f.fly.PointerAt(OnHandle);
+  f.time.Go(100);
+  EXPECT_EQ(f.panel.Left(), -75);
+  f.time.Go(1000);
+  EXPECT_EQ(f.panel.Left(), 0);
+}
+
+TEST(Flyout, StaysOutWhilePinnedOrNotEnabled) {
+  Flying f;
+  f.fly.Set(TVRXFlyoutController::Pinned, true);
+  f.fly.Start();
+  EXPECT_EQ(f.panel.Left(), 0);
+  f.fly.PointerAt(Away);
+  f.time.Go(1000);
+  EXPECT_EQ(f.panel.Left(), 0);
+  f.fly.Set(TVRXFlyoutController::Pinned, false);
+  EXPECT_EQ(f.panel.Left(), 0);
+  f.time.Go(200);
+  EXPECT_EQ(f.panel.Left(), -50);
+  f.time.Go(200);
+  EXPECT_EQ(f.panel.Left(), -100);
+  f.fly.Set(TVRXFlyoutController::Side, TVRXFlyoutSide::fsTop);
+  EXPECT_EQ(f.panel.Top(), -50);
+  f.fly.Set(TVRXFlyoutController::Enabled, false);
+  EXPECT_EQ(f.panel.Top(), 0);
+}
+
+TEST(Flyout, NeedsAPanelAndAFormThatRuns) {
+  Flying f;
+  f.fly.SetDesigning(true);
+  EXPECT_THROW(f.fly.Start(), EComponentError);
+  f.fly.SetDesigning(false);
+  f.panel.SetParent(nullptr);
+  EXPECT_THROW(f.fly.Start(), EComponentError);
+  EXPECT_FALSE(f.fly.IsRunning());
+  EXPECT_EQ(f.panel.BoundsRect(), QRect(20, 40, 110, 60));
+  f.panel.SetParent(&f.form);
+  {
+    TPanel other(nullptr);
+    other.SetParent(&f.form);
+    other.SetBounds(50, 50, 60, 30);
+    f.fly.Set(TVRXFlyoutController::Control, &other);
+    f.fly.Start();
+    EXPECT_EQ(other.Left(), -50);
+    f.fly.PointerAt(QPoint(5, 60));
+  }
+  f.time.Go(1000);
+  EXPECT_EQ(f.fly.Get(TVRXFlyoutController::Control), nullptr);
+  f.fly.PointerAt(Away);
 }
 
 // --- Keys

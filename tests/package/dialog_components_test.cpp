@@ -8,27 +8,10 @@
 #include "library/components/TellingDialogs.h"
 #include "package/component_editors/pVRXCEDialogs.h"
 #include "rtl/Clock.h"
+#include "tests/support/AnsweredDialog.h"
 #include "vcl/Calendar.h"
 
 namespace {
-template <class W>
-W& In(QDialog& dialog, const char* name) {
-  auto* found = dialog.findChild<W*>(QLatin1StringView(name));
-  if (!found) throw std::runtime_error(name);
-  return *found;
-}
-// Shows it, does that to it, and gives the answer.
-bool Answered(TVRXBaseDialog& component, int result, const std::function<void(QDialog&)>& act = {}) {
-  int shown = 0;
-  const TVRXDialogAnswers answers([&](QDialog& dialog) {
-    ++shown;
-    if (act) act(dialog);
-    return result;
-  });
-  const bool confirmed = component.Execute();
-  EXPECT_EQ(shown, 1);
-  return confirmed;
-}
 constexpr int Ok = QDialog::Accepted, Cancelled = QDialog::Rejected;
 }  // namespace
 

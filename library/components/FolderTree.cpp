@@ -1,0 +1,62 @@
+#include "library/components/FolderTree.h"
+
+#include <QtWidgets>
+
+FolderTree::FolderTree(const QString& folder, const Offer& offer)
+    : tree_(new QTreeView), line_(new QLineEdit(folder)), model_(new QFileSystemModel(tree_)) {
+  setObjectName(QStringLiteral("folders"));
+  tree_->setObjectName(QStringLiteral("tree"));
+  line_->setObjectName(QStringLiteral("directory"));
+  QDir::Filters filter = QDir::Dirs | QDir::NoDotAndDotDot | QDir::Drives;
+  if (offer.hidden) filter |= QDir::Hidden;
+  if (offer.files) filter |= QDir::Files;
+  model_->setFilter(filter);
+  model_->setReadOnly(false);
+  model_->setRootPath(offer.root.isEmpty() ? QDir::rootPath() : offer.root);
+  tree_->setModel(model_);
+  // Nobody renames a folder by mistake.
+  tree_->setEditTriggers(QAbstractItemView::NoEditTriggers);
+  tree_->setHeaderHidden(true);
+  for (int column = 1; column < model_->columnCount(); ++column) tree_->hideColumn(column);
+  tree_->setMinimumSize(320, 240);
+  if (!offer.root.isEmpty()) tree_->setRootIndex(model_->index(offer.root));
+  if (const QModelIndex at = model_->index(folder); at.isValid()) {
+    tree_->setCurrentIndex(at);
+    // Folders come as they are read; the one that is picked stays in sight meanwhile.
+    connect(model_, &QFileSystemModel::directoryLoaded, tree_,
+            [this] { tree_->scrollTo(tree_->currentIndex(), QAbstractItemView::PositionAtCenter); });
+  }
+  connect(tree_->selectionModel(), &QItemSelectionModel::currentChanged, line_,
+          [this](const QModelIndex& row) { Show(row); });
+  connect(model_, &QFileSystemModel::fileRenamed, line_, [this] { Show(tree_->currentIndex()); });
+  auto* column = new QVBoxLayout(this);
+  column->setContentsMargins(0, 0, 0, 0);
+  column->setSpacing(6);
+  column->addWidget(tree_, 1);
+  column->addWidget(line_);
+  line_->setVisible(offer.line);
+  setFocusProxy(offer.line ? static_cast<QWidget*>(line_) : tree_);
+}
+
+QString FolderTree::Folder() const { return line_->text(); }
+
+void FolderTree::Show(const QModelIndex& row) {
+  line_->setText(model_->isDir(row) ? model_->filePath(row) : QFileInfo(model_->filePath(row)).path());
+}
+
+QString FolderTree::MakeFolder() {
+  const QDir above(Folder());
+  if (Folder().isEmpty() || !above.exists())
+    return tr("There is no folder \"%1\" that a new one could stand in. Pick one in the tree first.")
+        .arg(Folder());
+  const QString first = tr("New Folder");
+  QString name = first;
+  for (int i = 2; above.exists(name); ++i) name = QStringLiteral("%1 %2").arg(first).arg(i);
+  const QModelIndex made = model_->mkdir(model_->index(above.path()), name);
+  if (!made.isValid())
+    return tr("No folder can be made in \"%1\". Pick one that you may write to.").arg(above.path());
+  tree_->setCurrentIndex(made);
+  tree_->scrollTo(made);
+  tree_->edit(made);
+  return {};
+}

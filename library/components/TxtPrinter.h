@@ -1,0 +1,59 @@
+// Prints a text, to a printer or a PDF file.
+#pragma once
+#include "library/values/TextPages.h"
+#include "rtl/Strings.h"
+#include "vcl/Font.h"
+
+class QIODevice;
+
+enum class TVRXPaperSize : std::uint8_t { ppDefault, ppA3, ppA4, ppA5, ppLetter, ppLegal, ppTabloid };
+VRX_ENUM(TVRXPaperSize, {"ppDefault", "ppA3", "ppA4", "ppA5", "ppLetter", "ppLegal", "ppTabloid"})
+
+class TVRXTxtPrinter : public TComponent {
+  VRX_CLASS(TVRXTxtPrinter)
+ public:
+  using TComponent::TComponent;
+  static constexpr TKept<bool> Collate{"Collate", true};
+  static constexpr TKept<int> Copies{"Copies", 1};
+  static constexpr TKept<QString> FooterText{"FooterText"};
+  static constexpr TKept<int> FromPage{"FromPage", 0};
+  static constexpr TKept<QString> HeaderText{"HeaderText"};
+  static constexpr TKept<bool> LineNumbers{"LineNumbers", false};
+  static constexpr TKept<TStrings*> Lines{"Lines"};
+  static constexpr TKept<int> MarginBottom{"MarginBottom", 20};
+  static constexpr TKept<int> MarginLeft{"MarginLeft", 20};
+  static constexpr TKept<int> MarginRight{"MarginRight", 20};
+  static constexpr TKept<int> MarginTop{"MarginTop", 20};
+  static constexpr TKept<TVRXPrintOrientation> Orientation{"Orientation", TVRXPrintOrientation::poPortrait};
+  static constexpr TKept<QString> OutputFile{"OutputFile"};
+  static constexpr TKept<TVRXPaperSize> PaperSize{"PaperSize", TVRXPaperSize::ppDefault};
+  static constexpr TKept<QString> PrinterName{"PrinterName"};
+  static constexpr TKept<bool> ShowPageNumbers{"ShowPageNumbers", true};
+  static constexpr TKept<int> TabWidth{"TabWidth", 4};
+  static constexpr TKept<QString> Title{"Title"};
+  static constexpr TKept<int> ToPage{"ToPage", 0};
+  static constexpr TKept<bool> WordWrap{"WordWrap", true};
+  TFont* Font() const { return font_.get(); }
+  void SetFont(const TFont* v) { font_->Assign(v); }
+
+  // Before each page; false ends printing.
+  using Progress = std::function<bool(int page, int pages)>;
+  void SetProgress(Progress progress) { progress_ = std::move(progress); }
+
+  // These return the number of pages that were printed, all copies together, and throw EComponentError where
+  // it cannot be done.
+  // To OutputFile, PrinterName, or else where the program prints (PrinterSetup.h).
+  int Print() const { return PrintText(Get(Lines)->Lines()); }
+  // The text of a file in place of Lines.
+  int PrintFile(const QString& name) const;
+  int PrintToPdf(QIODevice& device) const;
+  // How many pages the lines have.
+  int PageCount() const;
+
+ private:
+  TVRXTextPages Pages(const QStringList& lines) const;
+  TVRXTextPages::Run HowToRun(bool deviceCopies) const;
+  int PrintText(const QStringList& lines) const;
+  std::unique_ptr<TFont> font_ = std::make_unique<TFont>(this);
+  Progress progress_;
+};
