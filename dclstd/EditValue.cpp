@@ -2,4 +2,10 @@
 
 #include <QApplication>
 
-QWidget* ApplicationOwner() { return QApplication::activeWindow(); }
+QWidget* ApplicationOwner() {
+  QWidget* window = QApplication::activeWindow();
+  // A menu goes before what it opened.
+  while (window && window->windowType() == Qt::Popup)
+    window = window->parentWidget() ? window->parentWidget()->window() : nullptr;
+  return window;
+}

@@ -316,7 +316,11 @@ void TfrmVRXStyleManProp::UpdateMenu() {
   mnuRedo->setEnabled(!redo_.empty());
 }
 
-bool TfrmVRXStyleManProp::ReturnConfirms() const { return !Styles->Delegate().Editor(); }
+// In the filter and on a row it means these, not the whole.
+bool TfrmVRXStyleManProp::ReturnConfirms() const {
+  const QWidget* focus = focusWidget();
+  return !Styles->Delegate().Editor() && focus != fltEdit && focus != Styles && focus != PropTree;
+}
 
 void TfrmVRXStyleManProp::done(int result) {
   SavePropValue();

@@ -805,6 +805,19 @@ TEST_F(StyleDialog, StylesGoToAFileAndBack) {
   EXPECT_EQ(S(Seen(*d)), S(without));
 }
 
+TEST_F(StyleDialog, ReturnInTheFilterAndOnARowDoesNotEndIt) {
+  const auto d = Shown();
+  for (QWidget* widget : {static_cast<QWidget*>(d->fltEdit), static_cast<QWidget*>(d->PropTree),
+                          static_cast<QWidget*>(d->Styles)}) {
+    widget->setFocus();
+    QTest::keyClick(widget, Qt::Key_Return);
+    EXPECT_TRUE(d->isVisible()) << S(widget->objectName());
+  }
+  d->OkBtn->setFocus();
+  QTest::keyClick(d->OkBtn, Qt::Key_Return);
+  EXPECT_FALSE(d->isVisible());
+}
+
 TEST_F(StyleDialog, AskingWhetherToGoOnWithoutAPropertyIsAWarning) {
   SetPrompts(nullptr);
   const auto icon = [](TVRXStyleMessage message) {

@@ -3,3 +3,4 @@
 
 #include <QtCore>
 #include <QtTest>
+#include <QtWidgets>
