@@ -4,7 +4,7 @@ JOBS ?= 2
 EXAMPLE ?= examples/control-panel.dfm
 BIN = build/$(PRESET)/bin
 
-.PHONY: build setup run test bench screenshots format asan clean
+.PHONY: build setup run test bench screenshots docs format asan clean
 
 build: setup
 	cmake --preset $(PRESET) $(if $(shell command -v ccache),-DCMAKE_CXX_COMPILER_LAUNCHER=ccache)
@@ -33,6 +33,14 @@ bench: build
 # The pictures of the README.
 screenshots: build
 	QT_QPA_PLATFORM=offscreen $(BIN)/vrxdesigner --pictures docs/pictures $(EXAMPLE)
+
+# The page of all components and its pictures.
+docs: build
+	rm -f docs/pictures/components/*.png
+	$(BIN)/vrx gallery -o docs/pictures/components >/dev/null
+	rm docs/pictures/components/gallery.png
+	$(BIN)/vrx describe --page > build/components.md
+	mv build/components.md docs/components.md
 
 asan:
 	$(MAKE) PRESET=asan test

@@ -44,13 +44,27 @@ double Median(QList<double> values) {
   return values[values.size() / 2];
 }
 
-double Pairs::OfMinima() const {
+std::pair<double, double> Pairs::Minima() const {
   double a = 1e300, b = 1e300;
   for (const auto& [first, second] : pairs_) {
     a = std::min(a, first);
     b = std::min(b, second);
   }
+  return {a, b};
+}
+
+double Pairs::OfMinima() const {
+  const auto [a, b] = Minima();
   return a / b;
+}
+double Pairs::MoreOfMinima() const {
+  const auto [a, b] = Minima();
+  return a - b;
+}
+double Pairs::MedianMore() const {
+  QList<double> more;
+  for (const auto& [first, second] : pairs_) more << first - second;
+  return Median(more);
 }
 
 double Pairs::MedianRatio() const {
@@ -59,10 +73,10 @@ double Pairs::MedianRatio() const {
   return Median(ratios);
 }
 
-Results Results::RunApart(const QStringList& task) {
+Results Results::RunApart(const QStringList& task, const QString& program) {
   QProcess process;
   process.setProcessChannelMode(QProcess::ForwardedErrorChannel);
-  process.start(QCoreApplication::applicationFilePath(), task);
+  process.start(program.isEmpty() ? QCoreApplication::applicationFilePath() : program, task);
   if (!process.waitForFinished(-1) || process.exitStatus() != QProcess::NormalExit || process.exitCode() != 0)
     qFatal("The task \"%s\" failed", qPrintable(task.join(u' ')));
   Results results;

@@ -38,15 +38,19 @@ class Pairs {
   double OfMinima() const;
   // The median of the ratios of the pairs.
   double MedianRatio() const;
+  // How much more A is than B: of both minima, and the median of the pairs.
+  double MoreOfMinima() const;
+  double MedianMore() const;
 
  private:
+  std::pair<double, double> Minima() const;
   QList<std::pair<double, double>> pairs_;
 };
 
-// Runs this program again with a task and collects the numbers that it reports, by name.
+// Runs this program again, or another one, with a task and collects the numbers that it reports, by name.
 class Results {
  public:
-  static Results RunApart(const QStringList& task);
+  static Results RunApart(const QStringList& task, const QString& program = {});
   bool Has(const char* name) const { return numbers_.contains(QByteArray(name)); }
   double Value(const char* name) const;
   Pairs ThePairs(const char* name) const;

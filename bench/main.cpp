@@ -96,11 +96,12 @@ constexpr PairRow PixelRows[] = {
 
 class Bench {
  public:
-  explicit Bench(bool pixelsOnly) : pixelsOnly_(pixelsOnly) {}
+  // One part alone, "--pixels" or "--start"; all without one.
+  explicit Bench(QString only) : only_(std::move(only)) {}
 
   void Run() {
     out_ << "| What | Target | Of the minima | Median |\n| --- | --- | --- | --- |\n";
-    if (!pixelsOnly_) {
+    if (only_.isEmpty()) {
       AgainstUiLoader();
       Growth("load-form", QStringLiteral("Load"), QStringLiteral("at most 1.5"));
       Growth("save-form", QStringLiteral("Save"), QStringLiteral("at most 1.3"));
@@ -115,7 +116,8 @@ class Bench {
       Label();
       Styles();
     }
-    Pixels();
+    if (only_.isEmpty() || only_ == QStringLiteral("--start")) Start();
+    if (only_.isEmpty() || only_ == QStringLiteral("--pixels")) Pixels();
   }
 
  private:
@@ -244,6 +246,23 @@ class Bench {
   void Styles() { Alone(StyleRows, {QStringLiteral("styles"), {}, {}}); }
   void Label() { Alone(LabelRows, {QStringLiteral("label"), {}, {}}); }
 
+  // The designer's program in small, which is linked as it is: nothing of the package is in memory before.
+  void Start() {
+    const QString program = QCoreApplication::applicationDirPath() + QStringLiteral("/start_bench");
+    Pairs time, memory;
+    for (int i = 0; i < 2 * Rounds; ++i) {
+      const Results with = Results::RunApart({QStringLiteral("with")}, program);
+      const Results without = Results::RunApart({QStringLiteral("without")}, program);
+      time.Add(with.Value("time") / 1e6, without.Value("time") / 1e6);
+      memory.Add(with.Value("memory"), without.Value("memory"));
+    }
+    out_ << "| Start the designer: milliseconds more with the package than without | at most 30 | "
+         << QString::number(time.MoreOfMinima(), 'f', 1) << " | "
+         << QString::number(time.MedianMore(), 'f', 1) << " |" << Qt::endl;
+    Row(QStringLiteral("Designer at rest: resident memory with the package / without"),
+        QStringLiteral("at most 1.5"), memory);
+  }
+
   void Pixels() {
     for (const char* size : {"1920x1080", "4096x4096"})
       for (const char* kind : {"noise", "blobs", "text"}) {
@@ -252,7 +271,7 @@ class Bench {
       }
   }
 
-  bool pixelsOnly_;
+  QString only_;
   Files files_;
   QTextStream out_{stdout};
 };
@@ -274,6 +293,6 @@ int main(int argc, char** argv) {
   }
   QCoreApplication app(argc, argv);
   const QStringList options = app.arguments();
-  Bench(options.contains(QStringLiteral("--pixels"))).Run();
+  Bench(options.value(1)).Run();
   return 0;
 }

@@ -1,6 +1,7 @@
 #include "cli/Commands.h"
 
 #include "dclstd/StandardEditors.h"
+#include "designintf/EditorOptions.h"
 #include "designintf/PackageCall.h"
 #include "ide/PackageManager.h"
 #include "rtl/Exceptions.h"
@@ -64,12 +65,20 @@ const std::vector<CommandRow>& CommandTable() {
        "name or a file; without it, the library's design-time package. --labeled\n"
        "switches the labeled variants on. Exit code 1 when nothing is registered.",
        RegistrationsCommand},
-      {"describe", "--dialogs [PACKAGE] [--json]",
-       "Describes the dialogs of a package: every control with its texts, hint, entries,\n"
-       "limits and place in the tab order. PACKAGE is a name or a file; without it, the\n"
-       "library's design-time package. Exit code 1 when it has no dialogs, or one that\n"
+      {"describe", "[CLASS[.PROPERTY]] [--json] | --page | --dialogs [PACKAGE] [--json]",
+       "Describes what a class publishes: its purpose, ancestors, palette page, editor, the verbs\n"
+       "of a new component, properties and events; without CLASS it lists all classes. A\n"
+       "PROPERTY may be one of a part (LED.Thickness). With --json without CLASS: an array of\n"
+       "everything. --page prints the documentation of all components as Markdown.\n"
+       "--dialogs describes the dialogs of a package: every control with its texts, hint,\n"
+       "entries, limits and place in the tab order. PACKAGE is a name or a file; without it,\n"
+       "the library's design-time package. Exit code 1 when it has no dialogs, or one that\n"
        "cannot be opened.",
        DescribeCommand},
+      {"gallery", "-o DIR [--theme light|dark] [--scale F]",
+       "Draws a picture of every component on the palette and of every other visible one,\n"
+       "CLASS.png, and a sheet of them all, gallery.png.",
+       GalleryCommand},
       {"effect3d",
        "SOURCE --up PNG --down PNG --disabled PNG [--transparent C] [--light C] [--shadow C] [--dither C] "
        "[--bevel C] [--width N] [--semi KEY,SECOND]",
@@ -138,8 +147,10 @@ DesignRegistry& Host() {
 
 QString LoadClasses(Console& console, bool labeled, const QString& package) {
   static PackageManager* packages = nullptr;
+  static unsigned char registered = 0;  // the options that the loaded packages have registered by
   const QString wanted = package.isEmpty() ? PackageManager::DefaultPackage() : package;
-  if (labeled) qputenv("ORLENVOKITEDITOROPTIONS", "1");
+  static const bool always = EditorOption(TEditorOption::LabeledVariants);  // the environment says so
+  SetEditorOption(TEditorOption::LabeledVariants, labeled || always);
   if (!packages) {
     RegisterStandard(Host());
     packages = new PackageManager(PackageManager::DefaultFolders(), Host());  // as long
@@ -148,6 +159,7 @@ QString LoadClasses(Console& console, bool labeled, const QString& package) {
   }
   try {
     const QString name = packages->ReadRecord(wanted).Name;
+    if (std::exchange(registered, EditorOptions()) != EditorOptions()) packages->LoadAgain();
     if (packages->IsLoaded(name)) return name;
     packages->Load(wanted);
     for (const QString& warning : packages->Warnings())

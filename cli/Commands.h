@@ -54,6 +54,7 @@ int EditCommand(const QStringList& arguments, Console& console);
 int DoCommand(const QStringList& arguments, Console& console);
 int ActionsCommand(const QStringList& arguments, Console& console);
 int PackageCommand(const QStringList& arguments, Console& console);
+int GalleryCommand(const QStringList& arguments, Console& console);
 int DescribeCommand(const QStringList& arguments, Console& console);
 int Effect3DCommand(const QStringList& arguments, Console& console);
 int RegionCommand(const QStringList& arguments, Console& console);

@@ -1,84 +1,176 @@
-#include <QDialog>
+// vrx describe: what classes publish.
 #include <QJsonArray>
 #include <QJsonDocument>
 
 #include "cli/Commands.h"
-#include "dclstd/DialogDescription.h"
-#include "designintf/DesignRegistry.h"
+#include "cli/ComponentsPage.h"
+#include "cli/DescribeDialogs.h"
+#include "cli/Suggest.h"
+#include "ide/ClassDescription.h"
+#include "rtl/Exceptions.h"
 #include "rtl/Printable.h"
 
 namespace {
-QJsonValue Number(const std::optional<int>& number) { return number ? QJsonValue(*number) : QJsonValue(); }
+const QString kComma = QStringLiteral(", ");
 
-QJsonObject ToJson(const ControlDescription& c) {
-  return {{QStringLiteral("name"), c.name},
-          {QStringLiteral("kind"), c.kind},
-          {QStringLiteral("text"), c.text},
-          {QStringLiteral("label"), c.label},
-          {QStringLiteral("hint"), c.hint},
-          {QStringLiteral("items"), QJsonArray::fromStringList(c.items)},
-          {QStringLiteral("minimum"), Number(c.minimum)},
-          {QStringLiteral("maximum"), Number(c.maximum)},
-          {QStringLiteral("tab"), Number(c.tab)},
-          {QStringLiteral("enabled"), c.enabled},
-          {QStringLiteral("visible"), c.visible}};
+// --- JSON
+
+QJsonValue TextOrNull(const QString& text) { return text.isEmpty() ? QJsonValue() : QJsonValue(text); }
+
+QJsonObject ToJson(const PropertyDescription& p) {
+  return {{QStringLiteral("name"), p.name},
+          {QStringLiteral("type"), p.type},
+          {QStringLiteral("kind"), p.kind},
+          {QStringLiteral("default"), p.defaultText ? QJsonValue(*p.defaultText) : QJsonValue()},
+          {QStringLiteral("stored"), p.stored},
+          {QStringLiteral("doc"), p.doc},
+          {QStringLiteral("editor"), TextOrNull(p.editor)},
+          {QStringLiteral("attributes"), QJsonArray::fromStringList(p.attributes)},
+          {QStringLiteral("values"), QJsonArray::fromStringList(p.values)}};
+}
+QJsonArray ToJson(const std::vector<PropertyDescription>& properties) {
+  QJsonArray all;
+  for (const PropertyDescription& p : properties) all << ToJson(p);
+  return all;
+}
+QJsonObject ToJson(const ClassDescription& c) {
+  return {{QStringLiteral("class"), c.name},
+          {QStringLiteral("ancestors"), QJsonArray::fromStringList(c.ancestors)},
+          {QStringLiteral("page"), TextOrNull(c.page)},
+          {QStringLiteral("doc"), c.doc},
+          {QStringLiteral("editor"), TextOrNull(c.editor)},
+          {QStringLiteral("verbs"), QJsonArray::fromStringList(c.verbs)},
+          {QStringLiteral("properties"), ToJson(c.properties)},
+          {QStringLiteral("events"), ToJson(c.events)}};
+}
+template <class Json>
+void PrintJson(Console& console, const Json& json) {
+  console.out << QString::fromUtf8(QJsonDocument(json).toJson());
 }
 
-// A line for the control itself, and one for whatever else there is to say.
-void Print(QTextStream& out, const ControlDescription& c) {
-  const auto quoted = [](QString text) {
-    text.replace(u'\r', QStringLiteral("\\r")).replace(u'\n', QStringLiteral("\\n"));
-    return u'"' + text + u'"';
-  };
-  QStringList words{c.name + QStringLiteral(": ") + c.kind};
-  if (!c.text.isEmpty()) words << quoted(c.text);
-  if (!c.label.isEmpty()) words << QStringLiteral("label ") + quoted(c.label);
-  if (c.minimum) words << QStringLiteral("%1 to %2").arg(*c.minimum).arg(*c.maximum);
-  if (c.tab) words << QStringLiteral("tab %1").arg(*c.tab);
-  if (!c.enabled) words << QStringLiteral("disabled");
-  if (!c.visible) words << QStringLiteral("hidden");
-  out << "  " << Printable(words.join(QStringLiteral(", "))) << '\n';
-  if (!c.hint.isEmpty()) out << "      hint: " << Printable(quoted(c.hint)) << '\n';
-  if (!c.items.isEmpty()) out << "      items: " << Printable(c.items.join(QStringLiteral(", "))) << '\n';
+// --- Text
+
+void PrintLine(Console& console, const char* label, const QString& text) {
+  if (text.isEmpty()) return;
+  console.out << QString::fromLatin1(label).leftJustified(12) << Printable(text) << '\n';
+}
+void PrintDoc(Console& console, const QString& doc, const char* indent) {
+  if (!doc.isEmpty()) console.out << indent << Printable(doc.simplified()) << '\n';
+}
+
+void Print(Console& console, const char* title, const std::vector<PropertyDescription>& properties) {
+  if (properties.empty()) return;
+  console.out << '\n' << title << " (" << properties.size() << "):\n";
+  for (const PropertyDescription& p : properties) {
+    console.out << "  " << Printable(p.name) << ": " << Printable(p.type);
+    if (p.defaultText && !p.defaultText->isEmpty()) console.out << " = " << Printable(*p.defaultText);
+    console.out << '\n';
+    PrintDoc(console, p.doc, "      ");
+  }
+}
+
+void Print(Console& console, const ClassDescription& c) {
+  console.out << Printable(c.name) << '\n';
+  PrintDoc(console, c.doc, "  ");
+  console.out << '\n';
+  PrintLine(console, "Page:", c.page);
+  PrintLine(console, "Ancestors:", c.ancestors.join(kComma));
+  PrintLine(console, "Editor:", c.editor);
+  PrintLine(console, "Verbs:", c.verbs.join(kComma));
+  Print(console, "Properties", c.properties);
+  Print(console, "Events", c.events);
+}
+
+void Print(Console& console, const QString& path, const PropertyDescription& p) {
+  console.out << Printable(path) << ": " << Printable(p.type) << '\n';
+  PrintDoc(console, p.doc, "  ");
+  console.out << '\n';
+  PrintLine(console, "Kind:", p.kind);
+  PrintLine(console, "Default:", p.defaultText.value_or(QString()));
+  PrintLine(console, "Stored:", p.stored);
+  PrintLine(console, "Editor:", p.editor.isEmpty() ? QStringLiteral("none, inspectors hide it") : p.editor);
+  PrintLine(console, "Attributes:", p.attributes.join(kComma));
+  PrintLine(console, "Values:", p.values.join(kComma));
+}
+
+// --- What is asked for
+
+const TClass& ClassNamed(const QString& name) {
+  QStringList known;
+  for (const TClass* cls : DescribedClasses(Host())) {
+    known << QString::fromLatin1(cls->ClassName());
+    if (name.compare(known.last(), Qt::CaseInsensitive) == 0) return *cls;
+  }
+  throw Exception(QStringLiteral("There is no class \"%1\".").arg(name) + DidYouMean(name, known));
+}
+
+const TPropInfo& PropertyNamed(const TClass& cls, const QString& name) {
+  QStringList known;
+  for (const TPropInfo* prop : cls.Properties()) {
+    if (prop->Visibility != TPropVisibility::Published) continue;
+    known << QString::fromLatin1(prop->Name);
+    if (name.compare(known.last(), Qt::CaseInsensitive) == 0) return *prop;
+  }
+  throw Exception(
+      QStringLiteral("%1 has no property \"%2\".").arg(QString::fromLatin1(cls.ClassName()), name) +
+      DidYouMean(name, known));
+}
+
+void DescribeProperty(Console& console, const TClass& whole, const QStringList& path, bool json) {
+  const TClass* cls = &whole;
+  QStringList names{QString::fromLatin1(cls->ClassName())};
+  for (qsizetype i = 1; i < path.size(); ++i) {
+    const TPropInfo& prop = PropertyNamed(*cls, path[i]);
+    names << QString::fromLatin1(prop.Name);
+    if (i + 1 == path.size()) {
+      const ClassDescription of = Describe(*cls, Host());
+      const auto& all = prop.IsEvent() ? of.events : of.properties;
+      const auto p =
+          std::find_if(all.begin(), all.end(), [&](const auto& d) { return d.name == names.last(); });
+      return json ? PrintJson(console, ToJson(*p)) : Print(console, names.join(u'.'), *p);
+    }
+    if (!prop.PropType->ClassType)
+      throw Exception(QStringLiteral("%1 is no object and has no properties.").arg(names.join(u'.')));
+    cls = &prop.PropType->ClassType();
+  }
+}
+
+void DescribeAll(Console& console, bool json) {
+  QJsonArray all;
+  for (const TClass* cls : DescribedClasses(Host())) {
+    if (json) {
+      all << ToJson(Describe(*cls, Host()));
+      continue;
+    }
+    console.out << Printable(QString::fromLatin1(cls->ClassName()));
+    if (!cls->Description().isEmpty()) console.out << ": " << Printable(cls->Description().simplified());
+    console.out << '\n';
+  }
+  if (json) PrintJson(console, all);
 }
 }  // namespace
 
 int DescribeCommand(const QStringList& list, Console& console) {
-  const Arguments args = ParseArguments(list, {}, {QStringLiteral("--dialogs"), QStringLiteral("--json")});
-  if (!args.Has(QStringLiteral("--dialogs")))
-    throw UsageError{QStringLiteral("what is to be described? --dialogs")};
-  if (args.values.size() > 1) throw UsageError{QStringLiteral("one PACKAGE is expected, not several")};
-  // The designer's own dialogs belong to no package.
-  const bool own = args.values.value(0) == QStringLiteral("standard");
-  const QString package = LoadClasses(console, false, own ? QString() : args.values.value(0));
-  const bool json = args.Has(QStringLiteral("--json"));
-  QJsonArray dialogs;
-  bool failed = false;
-  for (const TDialogRegistration& entry : Host().Dialogs()) {
-    if (own ? entry.Package != nullptr : !entry.Package || Host().PackageName(entry.Package) != package)
-      continue;
-    try {
-      const std::unique_ptr<QDialog> dialog = Host().Open(entry);
-      const QString caption = dialog->windowTitle();
-      if (!json)
-        console.out << (dialogs.isEmpty() ? "" : "\n") << Printable(QString::fromLatin1(entry.Name)) << " \""
-                    << Printable(caption) << "\"\n";
-      QJsonArray controls;
-      for (const ControlDescription& control : DescribeControls(*dialog)) {
-        controls << ToJson(control);
-        if (!json) Print(console.out, control);
-      }
-      dialogs << QJsonObject{{QStringLiteral("dialog"), QString::fromLatin1(entry.Name)},
-                             {QStringLiteral("caption"), caption},
-                             {QStringLiteral("controls"), controls}};
-    } catch (const EPackageError& e) {
-      failed = true;
-      console.Tell(QStringLiteral("vrx describe: ") + e.Message());
-    }
+  const QString dialogs = QStringLiteral("--dialogs"), page = QStringLiteral("--page"),
+                json = QStringLiteral("--json");
+  const Arguments args = ParseArguments(list, {}, {dialogs, page, json});
+  if (args.Has(dialogs)) return DescribeDialogs(args, console);
+  if (args.values.size() > 1)
+    throw UsageError{QStringLiteral("one CLASS or CLASS.PROPERTY is expected, not several")};
+  if (LoadClasses(console, true).isEmpty()) return ExitFindings;
+  const QStringList path = args.values.value(0).split(u'.');
+  if (args.Has(page)) {
+    if (!args.values.isEmpty() || args.Has(json)) throw UsageError{QStringLiteral("--page stands alone")};
+    console.out << ComponentsPage(Host());
+  } else if (args.values.isEmpty()) {
+    DescribeAll(console, args.Has(json));
+  } else if (path.size() > 1) {
+    DescribeProperty(console, ClassNamed(path[0]), path, args.Has(json));
+  } else if (args.Has(json)) {
+    PrintJson(console, ToJson(Describe(ClassNamed(path[0]), Host())));
+  } else {
+    Print(console, Describe(ClassNamed(path[0]), Host()));
   }
-  if (json) console.out << QString::fromUtf8(QJsonDocument(dialogs).toJson());
   console.out.flush();
-  if (!package.isEmpty() && dialogs.isEmpty() && !failed)
-    console.Tell(QStringLiteral("vrx describe: package %1 has no dialogs").arg(package));
-  return failed || dialogs.isEmpty() ? ExitFindings : ExitOk;
+  return ExitOk;
 }

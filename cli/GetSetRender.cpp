@@ -5,6 +5,7 @@
 
 #include "cli/Commands.h"
 #include "cli/OpenForm.h"
+#include "cli/PictureOptions.h"
 #include "cli/Suggest.h"
 #include "forms/FormFile.h"
 #include "forms/KeptValues.h"
@@ -15,7 +16,6 @@
 #include "ide/Tiles.h"
 #include "rtl/Exceptions.h"
 #include "rtl/Printable.h"
-#include "vcl/FormColors.h"
 
 using namespace forms;
 
@@ -237,16 +237,9 @@ int RenderCommand(const QStringList& list, Console& console) {
       ParseArguments(list, {QStringLiteral("-o"), QStringLiteral("--scale"), QStringLiteral("--theme")}, {});
   if (args.values.size() != 1 || !args.Has(QStringLiteral("-o")))
     throw UsageError{QStringLiteral("FORM and -o PICTURE are needed")};
-  bool ok = true;
-  const QString scaleText = args.options.value(QStringLiteral("--scale"), QStringLiteral("1"));
-  const double scale = scaleText.toDouble(&ok);
-  if (!ok || !(scale >= 0.05 && scale <= 20))
-    throw UsageError{QStringLiteral("--scale takes a number from 0.05 to 20, not \"%1\"").arg(scaleText)};
+  const double scale = ScaleOption(args);
   const QByteArray format = PictureFormat(args.options.value(QStringLiteral("-o")));
-  const QString theme = args.options.value(QStringLiteral("--theme"), QStringLiteral("light"));
-  if (theme != QStringLiteral("light") && theme != QStringLiteral("dark"))
-    throw UsageError{QStringLiteral("--theme takes light or dark, not \"%1\"").arg(theme)};
-  const FormColorScope colors(theme == QStringLiteral("dark") ? TFormColors::Dark : TFormColors::Light);
+  const FormColorScope colors(ThemeOption(args));
   LoadClasses(console);
   const auto session = OpenWholeForm(args.values[0]);
   constexpr double MaxPixels = 200e6;

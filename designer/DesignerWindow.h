@@ -2,6 +2,8 @@
 #pragma once
 #include <QString>
 
+#include "designintf/EditorOptions.h"
+
 class FormSession;
 
 enum class WindowPane : std::uint8_t { Structure, Inspector, Problems };
@@ -25,6 +27,8 @@ class IDesignerWindow {
   virtual void SetZoom(double factor) = 0;
   virtual bool ShowsPane(WindowPane pane) const = 0;
   virtual void ShowPane(WindowPane pane, bool shown) = 0;
+  // The packages are loaded again, so that the palette follows.
+  virtual void ChoosePackageOption(TEditorOption option, bool on) = 0;
   virtual void GoToFormOrInspector() = 0;
   virtual void GoToPalette() = 0;
   // Everything that can be done, to be searched.

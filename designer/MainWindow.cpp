@@ -10,6 +10,7 @@
 #include "designer/InspectorPane.h"
 #include "designer/LookSettings.h"
 #include "designer/MessageBar.h"
+#include "designer/PackageSettings.h"
 #include "designer/PalettePane.h"
 #include "designer/ProblemsList.h"
 #include "designer/ReportException.h"
@@ -193,7 +194,8 @@ void MainWindow::BuildMenus() {
   form_->AddTo(edit, {ActionGroup::Undo, ActionGroup::Clipboard, ActionGroup::Select});
   commands_->AddTo(edit, WindowMenu::Commands);
   QMenu& view = *menuBar()->addMenu(tr("&View"));
-  for (const WindowMenu part : {WindowMenu::Panes, WindowMenu::Go, WindowMenu::Zoom, WindowMenu::Theme})
+  for (const WindowMenu part :
+       {WindowMenu::Panes, WindowMenu::Palette, WindowMenu::Go, WindowMenu::Zoom, WindowMenu::Theme})
     commands_->AddTo(view, part);
   commands_->AddTo(*view.addMenu(tr("Form &colours")), WindowMenu::FormColors);
   form_->AddTo(*menuBar()->addMenu(tr("F&orm")), {ActionGroup::Align, ActionGroup::Size, ActionGroup::Spacing,
@@ -214,6 +216,12 @@ bool MainWindow::ShowsPane(WindowPane pane) const {
 }
 void MainWindow::ShowPane(WindowPane pane, bool shown) {
   docks_[static_cast<std::size_t>(pane)]->setVisible(shown);
+}
+
+void MainWindow::ChoosePackageOption(TEditorOption option, bool on) {
+  if (session_ && (session_->IsBusy() || !CommitTyping())) return;
+  ChooseEditorOption(option, on);
+  packages_.LoadAgain();
 }
 
 void MainWindow::GoToFormOrInspector() {

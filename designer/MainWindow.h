@@ -45,6 +45,7 @@ class MainWindow : public QMainWindow, public IDesignerWindow {
   void SetZoom(double factor) override;
   bool ShowsPane(WindowPane pane) const override;
   void ShowPane(WindowPane pane, bool shown) override;
+  void ChoosePackageOption(TEditorOption option, bool on) override;
   void GoToFormOrInspector() override;
   void GoToPalette() override;
   void ShowCommands() override;

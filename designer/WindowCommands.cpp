@@ -44,6 +44,15 @@ bool ShowsPane(const Window& w) {
   return w.ShowsPane(pane);
 }
 
+template <TEditorOption option>
+bool IsOption(const Window&) {
+  return EditorOption(option);
+}
+template <TEditorOption option>
+void RunOption(Window& w) {
+  w.ChoosePackageOption(option, !EditorOption(option));
+}
+
 void RunNew(Window& w) { w.AskForNewForm(); }
 void RunOpen(Window& w) { w.AskForForm(); }
 void RunSave(Window& w) { w.Save(); }
@@ -86,6 +95,8 @@ const std::vector<WindowCommand>& WindowCommandTable() {
       {"structurePane", Menu::Panes, QT_TRANSLATE_NOOP("WindowCommands", "&Structure"), "", "", false, RunPane<WindowPane::Structure>, nullptr, ShowsPane<WindowPane::Structure>},
       {"inspectorPane", Menu::Panes, QT_TRANSLATE_NOOP("WindowCommands", "&Inspector"), "", "", false, RunPane<WindowPane::Inspector>, nullptr, ShowsPane<WindowPane::Inspector>},
       {"problemsPane",  Menu::Panes, QT_TRANSLATE_NOOP("WindowCommands", "P&roblems"),  "", "", false, RunPane<WindowPane::Problems>,  nullptr, ShowsPane<WindowPane::Problems>},
+
+      {"labeledVariants", Menu::Palette, QT_TRANSLATE_NOOP("WindowCommands", "Palette with labeled &variants"), "", "", false, RunOption<TEditorOption::LabeledVariants>, nullptr, IsOption<TEditorOption::LabeledVariants>},
 
       {"formOrInspector", Menu::Go, QT_TRANSLATE_NOOP("WindowCommands", "&Form or inspector"), "F11",    "", false, RunFormOrInspector, nullptr, nullptr},
       {"findComponent",   Menu::Go, QT_TRANSLATE_NOOP("WindowCommands", "&Palette"),           "Ctrl+F", "", false, RunFindComponent,   nullptr, nullptr},

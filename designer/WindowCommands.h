@@ -9,7 +9,7 @@
 class QMenu;
 class QToolBar;
 
-enum class WindowMenu : std::uint8_t { File, Commands, Panes, Go, Zoom, Theme, FormColors, Help };
+enum class WindowMenu : std::uint8_t { File, Commands, Panes, Palette, Go, Zoom, Theme, FormColors, Help };
 
 struct WindowCommand {
   const char* id;

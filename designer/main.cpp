@@ -5,6 +5,7 @@
 #include "designer/Application.h"
 #include "designer/LookSettings.h"
 #include "designer/MainWindow.h"
+#include "designer/PackageSettings.h"
 #include "designer/Pictures.h"
 #include "rtl/Exceptions.h"
 #include "rtl/OwnMessages.h"
@@ -40,6 +41,7 @@ int main(int argc, char** argv) {
                                                  : TTheme::System);
   if (wanted.isEmpty()) RestoreTheme();
   UseThemeIcons();
+  RestoreEditorOptions();
   DesignRegistry registry;
   RegisterStandard(registry);
   PackageManager packages(PackageManager::DefaultFolders(), registry);

@@ -33,7 +33,7 @@ struct Fit {
   auto operator<=>(const Fit&) const = default;
 };
 
-std::optional<Fit> FitOf(const TRegistration& row, const TPersistent& instance, const TPropInfo& prop) {
+std::optional<Fit> FitOf(const TRegistration& row, const TClass& cls, const TPropInfo& prop) {
   if (row.Kind != TRegistrationKind::PropertyEditor) return {};
   const TTypeInfo& type = *prop.PropType;
   Fit fit;
@@ -45,7 +45,7 @@ std::optional<Fit> FitOf(const TRegistration& row, const TPersistent& instance, 
   else
     return {};
   if (row.ComponentClass) {
-    if (!instance.InheritsFrom(*row.ComponentClass)) return {};
+    if (!cls.InheritsFrom(*row.ComponentClass)) return {};
     fit.componentDepth = Depth(row.ComponentClass);
   }
   if (!row.PropertyName.isEmpty()) {
@@ -135,21 +135,21 @@ void DesignRegistry::UnregisterPackage(const void* package) {
   UnRegisterClasses(OwnerOf(package));
 }
 
-const TRegistration* DesignRegistry::BestRow(const TPersistent& instance, const TPropInfo& prop) const {
+const TRegistration* DesignRegistry::BestRow(const TClass& cls, const TPropInfo& prop) const {
   const TRegistration* best = nullptr;
   Fit bestFit;
   for (const TRegistration& row : rows_)
-    if (const auto fit = FitOf(row, instance, prop); fit && (!best || *fit >= bestFit)) {
+    if (const auto fit = FitOf(row, cls, prop); fit && (!best || *fit >= bestFit)) {
       best = &row;
       bestFit = *fit;
     }
   return best;
 }
 
-const TRegistration* DesignRegistry::BestRow(const TComponent& component) const {
+const TRegistration* DesignRegistry::BestRow(const TClass& cls) const {
   const TRegistration* best = nullptr;
   for (const TRegistration& row : rows_)
-    if (row.Kind == TRegistrationKind::ComponentEditor && component.InheritsFrom(*row.ComponentClass) &&
+    if (row.Kind == TRegistrationKind::ComponentEditor && cls.InheritsFrom(*row.ComponentClass) &&
         (!best || Depth(row.ComponentClass) >= Depth(best->ComponentClass)))
       best = &row;
   return best;
@@ -207,23 +207,32 @@ QString DesignRegistry::PageOf(const TClass& cls) {
 }
 
 TPackageCall DesignRegistry::CallOf(const TPropertyEditor& editor, const char* member) const {
-  const TPersistent& instance = *editor.GetComponent(0);
-  const TRegistration* row = BestRow(instance, editor.GetPropInfo());
-  return CallFrom(row, row && row->PropertyEditor ? row->PropertyEditor->Name : QByteArray(),
-                  instance.ClassType(), member);
+  const TClass& cls = editor.GetComponent(0)->ClassType();
+  const TRegistration* row = BestRow(cls, editor.GetPropInfo());
+  return CallFrom(row, row && row->PropertyEditor ? row->PropertyEditor->Name : QByteArray(), cls, member);
 }
 TPackageCall DesignRegistry::CallOf(const TComponent& component, const char* member) const {
-  const TRegistration* row = BestRow(component);
+  const TRegistration* row = BestRow(component.ClassType());
   return CallFrom(row, row ? row->ComponentEditor->Name : QByteArray(), component.ClassType(), member);
 }
 TPackageCall DesignRegistry::ConstructorOf(const TClass& cls) const {
   return {PackageOf(cls), QString::fromLatin1(cls.ClassName() + ".constructor")};
 }
 
+std::optional<TPropertyEditorClass> DesignRegistry::PropertyEditorOf(const TClass& cls,
+                                                                     const TPropInfo& prop) const {
+  const TRegistration* row = BestRow(cls, prop);
+  return row ? row->PropertyEditor : EditorForKind(prop);
+}
+QByteArray DesignRegistry::ComponentEditorOf(const TClass& cls) const {
+  const TRegistration* row = BestRow(cls);
+  return row ? row->ComponentEditor->Name : QByteArray("TDefaultEditor");
+}
+
 std::unique_ptr<TPropertyEditor> DesignRegistry::CreatePropertyEditor(IDesigner* designer,
                                                                       TInstProps props) const {
   const TInstProp& first = props.front();
-  const TRegistration* row = BestRow(*first.Instance, *first.PropInfo);
+  const TRegistration* row = BestRow(first.Instance->ClassType(), *first.PropInfo);
   if (row && !row->PropertyEditor) return nullptr;
   const TPropertyEditorClass usual = EditorForKind(*first.PropInfo);
   std::unique_ptr<TPropertyEditor> made;
@@ -262,7 +271,7 @@ void DesignRegistry::GetComponentProperties(const TDesignerSelections& objects, 
 std::unique_ptr<TComponentEditor> DesignRegistry::GetComponentEditor(TComponent* component,
                                                                      IDesigner* designer) const {
   std::unique_ptr<TComponentEditor> made;
-  if (const TRegistration* row = BestRow(*component)) {
+  if (const TRegistration* row = BestRow(component->ClassType())) {
     const TComponentEditorClass editor = *row->ComponentEditor;
     made =
         AskPackage([&] { return CallFrom(row, editor.Name, component->ClassType(), "constructor"); },

@@ -82,6 +82,12 @@ class DesignRegistry : public IEditorSource {
   // Categories of a property, in order of registration; "Miscellaneous" when there is none.
   QStringList CategoriesOf(const TClass& cls, const QByteArray& property) const;
 
+  // The class of editors that serves a property of a class: a registered one, or the host's for the kind;
+  // none when the property is hidden.
+  std::optional<TPropertyEditorClass> PropertyEditorOf(const TClass& cls, const TPropInfo& prop) const;
+  // The name of the component editor that serves a class.
+  QByteArray ComponentEditorOf(const TClass& cls) const;
+
   // The editor for a property of an object; null when it is hidden. An editor that throws while it is made is
   // told of (TellPackageProblem) and replaced by the host's; so is a component editor.
   std::unique_ptr<TPropertyEditor> CreatePropertyEditor(IDesigner* designer, TInstProps props) const;
@@ -96,8 +102,8 @@ class DesignRegistry : public IEditorSource {
     QString name;
   };
   const void* OwnerOf(const void* package);
-  const TRegistration* BestRow(const TPersistent& instance, const TPropInfo& prop) const;
-  const TRegistration* BestRow(const TComponent& component) const;
+  const TRegistration* BestRow(const TClass& cls, const TPropInfo& prop) const;
+  const TRegistration* BestRow(const TClass& cls) const;
   QString PackageOf(const TClass& cls) const;
   TPackageCall CallFrom(const TRegistration* row, const QByteArray& editor, const TClass& cls,
                         const char* member) const;

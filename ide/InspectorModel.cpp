@@ -1,5 +1,6 @@
 #include "ide/InspectorModel.h"
 
+#include "designintf/Purposes.h"
 #include "ide/BoundsCheck.h"
 #include "ide/InspectorNode.h"
 #include "rtl/Exceptions.h"
@@ -217,7 +218,7 @@ QVariant InspectorModel::data(const QModelIndex& index, int role) const {
              values[1] == QStringLiteral("True");
     }
     case DescriptionRole:
-      return editor->GetPropInfo().Description;
+      return PurposeOf(editor->GetComponent(0)->ClassType(), editor->GetPropInfo());
     default:
       return {};
   }

@@ -213,6 +213,13 @@ void PackageManager::Unload(const QString& name) {
   Finalize(going.record, *going.package);
 }
 
+void PackageManager::LoadAgain() {
+  QStringList files;
+  for (const Loaded& l : loaded_) files << l.loader->fileName();
+  while (!loaded_.empty()) Unload(loaded_.back().record.Name);
+  for (const QString& file : files) Load(file);
+}
+
 bool PackageManager::IsLoaded(const QString& name) const {
   return LoadedPackages().contains(name, Qt::CaseInsensitive);
 }

@@ -27,6 +27,9 @@ class PackageManager : public QObject {
   // Drops the package's registrations and finalises it. The package is gone, too, when its Finalize throws;
   // EPackageError tells of it then.
   void Unload(const QString& name);
+  // What is loaded, unloaded and loaded again in the same order: so packages register by options that are
+  // others now. Throws as Load and Unload do; the packages after the one that failed are gone then, too.
+  void LoadAgain();
   DesignRegistry& Registry() const { return registry_; }
   bool IsLoaded(const QString& name) const;
   QStringList LoadedPackages() const;

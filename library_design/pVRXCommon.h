@@ -1,13 +1,11 @@
 // What the library's design-time packages share.
 #pragma once
+#include "designintf/EditorOptions.h"
 
 class QWidget;
 
-// Editor options, set before packages are loaded. Bit 0: the labeled variants of edits and combo boxes are
-// registered, too.
-enum class TVRXEditorOption : unsigned char { LabeledVariants = 0 };
-extern unsigned char ORLENVOKITEDITOROPTIONS;
-bool VRXEditorOption(TVRXEditorOption option);
+// The options that the person has set (designintf/EditorOptions.h), under the library's own name.
+extern unsigned char& ORLENVOKITEDITOROPTIONS;
 
 // Mode 1: the dialog and what is on it take part in theming. The mode is kept with the window.
 void VRXSetThemeMode(QWidget& dialog, int mode);

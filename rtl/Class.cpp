@@ -3,6 +3,7 @@
 #include <cstring>
 
 #include "rtl/Exceptions.h"
+#include "rtl/StoredRule.h"
 
 namespace {
 unsigned char Fold(char c) { return static_cast<unsigned char>(c >= 'A' && c <= 'Z' ? c + ('a' - 'A') : c); }
@@ -175,8 +176,14 @@ TClassBuilder&& TClassBuilder::Alphabetical() && {
   return std::move(*this);
 }
 
+bool NeverStoredRule(const TPersistent&) { return false; }
+bool IsNeverStored(const TPropInfo& prop) {
+  const auto* rule = prop.Stored.target<bool (*)(const TPersistent&)>();
+  return !prop.IsWritable() || (rule && *rule == &NeverStoredRule);
+}
+
 TClassBuilder&& TClassBuilder::NeverStored() && {
-  Last().Stored = [](const TPersistent&) { return false; };
+  Last().Stored = &NeverStoredRule;
   return std::move(*this);
 }
 

@@ -56,8 +56,8 @@ const TClass& TApplicationProperties::StaticClass() {
           .Event("OnUserInput", "TOnUserInputEvent")
           .ClassDoc(
               QStringLiteral("Settings and events of the program as a whole."),
-              "pen line 1.5 brush fill box 3 4.5 18 15 2 path 3 8.5 21 8.5 pen accent 2 path 7 12 17 12 "
-              "path 7 16 13 16"));
+              "pen line 1.5 brush fill box 3 4.5 18 15 2 path 3 8.5 21 8.5 pen accent 2.4 path 6.5 12 7 12 "
+              "path 6.5 16 7 16 pen line 1.8 path 10.5 12 17.5 12 path 10.5 16 17.5 16"));
   return cls;
 }
 

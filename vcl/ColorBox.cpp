@@ -82,7 +82,7 @@ const TClass& TColorBox::StaticClass() {
           .Event("OnGetColors", "TGetColorsEvent")
           .Alphabetical()
           .ClassDoc(QStringLiteral("A field with a list of colours to choose from."),
-                    "pen line 1.5 brush fill box 2.5 7.5 19 9 2 pen none brush accent box 5 9.5 5 5 0 pen "
+                    "pen line 1.5 brush fill box 2.5 7.5 19 9 2 pen none brush accent box 4 9 8.5 6 0 pen "
                     "accent 2 brush none path 14.5 11 17 13.5 19.5 11"));
   return cls;
 }

@@ -58,7 +58,8 @@ const TClass& TDateTimePicker::StaticClass() {
           .Alphabetical()
           .ClassDoc(
               QStringLiteral("A field for a day or a time of day."),
-              "pen line 1.5 brush fill box 2.5 7.5 19 9 2 path 5.5 12 7 12 path 9 12 10.5 12 pen accent 2 "
+              "pen line 1.5 brush fill box 2.5 7.5 19 9 2 pen none brush accent box 4.5 9.5 8 2 0 brush line "
+              "box 4.5 12.7 2 1.8 0 box 7.5 12.7 2 1.8 0 box 10.5 12.7 2 1.8 0 brush none pen accent 2 "
               "path 14.5 11 17 13.5 19.5 11"));
   return cls;
 }

@@ -130,7 +130,7 @@ const TClass& TColorDialog::StaticClass() {
   static const TClass cls(
       ColorRows(DescribeClass<TColorDialog>("TColorDialog", TCommonDialog::StaticClass()))
           .ClassDoc(
-              QStringLiteral("Asks for a colour."),
+              QStringLiteral("The system's dialog for a color."),
               "pen line 1.5 brush fill oval 3.5 4.5 17 15 pen none brush accent oval 6.5 10 3 3 oval 10 "
               "6.5 3 3 oval 14.5 8 3 3 pen line 1.5 brush none oval 13.5 13 3.5 3"));
   return cls;
@@ -142,7 +142,7 @@ const TClass& TFontDialog::StaticClass() {
                    .Passive("Device", TFontDialogDevice::fdScreen)
                    .Published("Font", &TFontDialog::Font, &TFontDialog::SetFont))
           .ClassDoc(
-              QStringLiteral("Asks for a font."),
+              QStringLiteral("The system's dialog for a font."),
               "pen line 1.5 brush fill box 3.5 3.5 17 17 1 pen accent 2 brush none path 8 17 12 7 16 17 "
               "path 9.5 13.5 14.5 13.5"));
   return cls;
@@ -170,7 +170,7 @@ const TClass& TPrintDialog::StaticClass() {
 const TClass& TPageSetupDialog::StaticClass() {
   static const TClass cls(
       PageSetupRows(DescribeClass<TPageSetupDialog>("TPageSetupDialog", TCommonDialog::StaticClass()))
-          .ClassDoc(QStringLiteral("Asks for paper and margins."),
+          .ClassDoc(QStringLiteral("The system's dialog for paper and margins."),
                     "pen line 1.5 brush fill box 5 3.5 14 17 0 pen accent 1.5 brush none box 8 6.5 8 11 0"));
   return cls;
 }

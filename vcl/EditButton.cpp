@@ -81,9 +81,10 @@ const TClass& TFileNameEdit::StaticClass() {
           .Passive<QString>("InitialDir")
           .Event("OnAcceptFileName", "TAcceptFileNameEvent")
           .Alphabetical()
-          .ClassDoc(QStringLiteral("A field for the name of a file, with a button that asks for one."),
-                    "pen line 1.5 brush fill box 2.5 7.5 12 9 2 pen accent 1.8 path 16 16.5 16 8 18 8 19 9.5 "
-                    "21.5 9.5 21.5 16.5 16 16.5"));
+          .ClassDoc(
+              QStringLiteral("A field for the name of a file, with a button that asks for one."),
+              "pen line 1.5 brush fill box 2.5 7.5 12 9 2 pen accent 1.8 path 16 18.5 16 5.5 19 5.5 21.5 8 "
+              "21.5 18.5 16 18.5 path 18 12 19.5 12 path 18 15 19.5 15"));
   return cls;
 }
 

@@ -67,7 +67,9 @@ const TClass& TVirtualImageList::StaticClass() {
           .Published(Height)
           .Published(Width)
           .Event("OnChange")
-          .ClassDoc(QStringLiteral("Pictures of one size, taken from a collection."),
-                    "pen line 1.5 dots brush fill box 3.5 7.5 13 13 0 pen accent 1.5 box 7.5 3.5 13 13 0"));
+          .ClassDoc(
+              QStringLiteral("Pictures of one size, taken from a collection."),
+              "pen line 1.5 brush fill box 3.5 7.5 13 13 0 pen accent 2 brush none path 7.5 4.5 7.5 3.5 20.5 "
+              "3.5 20.5 16.5 19.5 16.5 path 7 14 10 17 path 13 11 13 11.2"));
   return cls;
 }

@@ -32,7 +32,7 @@ const TClass& TVRXQueueComponent::StaticClass() {
       DescribeClass<TVRXQueueComponent>("TVRXQueueComponent", TVRXContainerComponent::StaticClass())
           .ClassDoc(QStringLiteral("Holds texts of which the oldest is taken first."),
                     "pen line 1.5 brush fill box 5.5 5 3.6 14 1 box 10.2 5 3.6 14 1 box 14.9 5 3.6 14 1 pen "
-                    "accent 2 path 0.8 12 4 12 path 20 12 23.2 12 path 21.3 9.8 23.4 12 21.3 14.2"));
+                    "accent 2 path 2 12 4 12 path 20 12 22 12 path 20.4 10 22.2 12 20.4 14"));
   return cls;
 }
 

@@ -14,7 +14,7 @@
 VRX_LABELED(CalendarEdit, "An edit for a day with a label of its own.",
             "box 13 11.5 6 4.5 0 path 13 13 19 13 path 5.5 11.5 5.5 15.5")
 VRX_LABELED(CalculatorEdit, "An edit for a number with a label of its own.",
-            "box 14 11 4.5 5 0 path 14 12.8 18.5 12.8 path 5.5 11.5 5.5 15.5")
+            "path 5.5 11.5 5.5 15.5 pen accent 1.6 path 16 11.2 16 15.8 path 13.7 13.5 18.3 13.5")
 VRX_LABELED(ListComboBox, "A field with a list of texts and a label of its own.",
             "path 15 12.5 17 14.5 19 12.5 path 5 13.5 11 13.5 path 5 20 13 20 path 5 22 10 22")
 VRX_LABELED(DriveComboBox, "A field with the computer's drives and a label of its own.",
@@ -26,7 +26,7 @@ VRX_LABELED(TrackBarComboBox, "A field for a position with a label of its own.",
 VRX_LABELED(CalendarComboBox, "A field for a day, with a calendar and a label of its own.",
             "path 15 12.5 17 14.5 19 12.5 box 4 18.5 10 4 0 path 4 20 14 20")
 VRX_LABELED(HeaderListComboBox, "A field with a table and a label of its own.",
-            "path 15 12.5 17 14.5 19 12.5 box 4 18.5 16 4 0 path 9.5 18.5 9.5 22.5 path 15 18.5 15 22.5")
+            "path 15 12.5 17 14.5 19 12.5 box 4 18.4 16 3 0 path 9.5 18.4 9.5 21.4 path 15 18.4 15 21.4")
 VRX_LABELED(CheckListComboBox, "A field with a list to check and a label of its own.",
             "path 15 12.5 17 14.5 19 12.5 path 5 13.2 6.5 14.7 9 11.7 path 5 20.5 6.5 22 9 19")
 VRX_LABELED(TreeComboBox, "A field with a tree and a label of its own.",

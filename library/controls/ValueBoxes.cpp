@@ -78,8 +78,7 @@ const TClass& TVRXCalculatorEdit::StaticClass() {
           .ClassDoc(
               QStringLiteral("An edit for a number, with a calculator behind its button."),
               "pen line 1.5 brush fill box 2.5 6.5 19 11 2 path 5.5 9.5 5.5 14.5 pen line 1.2 brush none "
-              "box 12.5 8.5 6.5 7 0 pen none brush accent box 14 9.8 3.5 1.4 0 brush line box 14 12.3 1.2 "
-              "1.2 0 box 16.3 12.3 1.2 1.2 0"));
+              "pen accent 2 path 16 9 16 15 path 13 12 19 12"));
   return cls;
 }
 

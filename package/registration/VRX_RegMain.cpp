@@ -60,7 +60,7 @@
 using namespace registration;
 
 namespace {
-bool WithLabels() { return VRXEditorOption(TVRXEditorOption::LabeledVariants); }
+bool WithLabels() { return EditorOption(TEditorOption::LabeledVariants); }
 
 // Each page, and then the editors of what is on it.
 const Row kRows[] = {

@@ -7,7 +7,6 @@
 #include "designintf/RegistrationTable.h"
 #include "library/controls/LEDLabel.h"
 #include "library_design/pVRXCommon.h"
-#include "package/registration/VRX_RegMainEditors.h"
 #include "rtl/ClassRegistry.h"
 #include "rtl/Exceptions.h"
 
@@ -39,7 +38,7 @@ class TCountProperty : public TIntegerProperty {
   using TIntegerProperty::TIntegerProperty;
 };
 const TTypeInfo& TagType() { return *TComponent::StaticClass().GetProp("Tag").PropType; }
-bool Labeled() { return VRXEditorOption(TVRXEditorOption::LabeledVariants); }
+bool Labeled() { return EditorOption(TEditorOption::LabeledVariants); }
 
 using namespace registration;
 const Row kRows[] = {
@@ -176,182 +175,6 @@ TEST_F(Registering, ThePackagePutsTheLedLabelOnItsPageWithItsEditors) {
   EXPECT_EQ((*editor)->ComponentClass, nullptr);
   EXPECT_TRUE((*editor)->PropertyName.isEmpty());
   EXPECT_EQ((*editor)->Procedure, "VRX_RegMain");
-}
-
-namespace {
-// Whether all words stand in the text, in this order.
-bool InOrder(const QString& text, const char* words) {
-  qsizetype at = 0;
-  for (const QString& word : QString::fromLatin1(words).split(u' ')) {
-    at = text.indexOf(word + u' ', at);
-    if (at < 0) return false;
-    at += word.size();
-  }
-  return true;
-}
-}  // namespace
-
-TEST_F(Registering, ShapesLightsSwitchesAndLinesStandAtTheirPlacesWithTheirEditors) {
-  {
-    const RegistrationScope scope(registry_, this, "VRX_RegMain");
-    VRX_RegMain::Register();
-  }
-  {
-    const RegistrationScope scope(registry_, this, "VRX_RegMainEditors");
-    VRX_RegMainEditors::Register();
-  }
-  const QStringList calls = Calls();
-  QStringList pages;
-  for (const QString& call : calls)
-    if (call.startsWith(QStringLiteral("page "))) pages << call + u' ';
-  ASSERT_EQ(pages.size(), 10);
-  EXPECT_TRUE(InOrder(pages[0], "Std: TVRXFaceController TVRXStaticText TVRXStyleManager"));
-  EXPECT_TRUE(InOrder(pages[1],
-                      "Ext: TVRXClock TVRXButtonBar TVRXButtonBarPopupMenu TVRXDlgButtonPanel TVRXCalendar "
-                      "TVRXCalculator TVRXTechnicalLine TVRXClock TVRXLEDLabel "
-                      "TVRXSwitch TVRXWSwitch "
-                      "TVRXLight TVRXFlyoutController"));
-  EXPECT_TRUE(InOrder(
-      pages[2], "Cont: TVRXStackComponent TVRXQueueComponent TVRXListComponent TVRXMMButtonFaceController"));
-  EXPECT_TRUE(InOrder(pages[3],
-                      "Dlg: TVRXAboutDlg TVRXDirDlg TVRXTipDlg TVRXMessageBoxDlg TVRXInputDlg "
-                      "TVRXCheckListDlg TVRXCalendarDlg TVRXCalculatorDlg TVRXTextEditDlg TVRXFormOpenDialog "
-                      "TVRXFormSaveDialog TVRXFormColorDialog TVRXFormFontDialog TVRXFormPageSetupDialog "
-                      "TVRXFormPrinterSetupDialog TVRXFormPrintCommDialog"));
-  EXPECT_TRUE(InOrder(pages[4],
-                      "Edit: TVRXCalendarEdit TVRXCalculatorEdit TVRXEditAutoComplete TVRXTagEditor "
-                      "TVRXEditControlPrintTask TVRXDateTimePicker TVRXFormComboBox"));
-  EXPECT_TRUE(InOrder(pages[5],
-                      "List: TVRXDriveComboBox TVRXListComboBox TVRXTreeComboBox TVRXHeaderListComboBox "
-                      "TVRXCheckListComboBox TVRXCalculatorComboBox TVRXCalendarComboBox "
-                      "TVRXTrackBarComboBox TVRXValueListBox TVRXValueComboBox"));
-  EXPECT_TRUE(InOrder(pages[6],
-                      "Form: TVRXForm TVRXBack TVRXFormFill TVRXFormStyler TVRXFormShadow TVRXFormShape "
-                      "TVRXSysMenu TVRXCaptionButtons"));
-  EXPECT_TRUE(InOrder(pages[7],
-                      "MM: TVRXLabelFill TVRXScrollText TVRXMMButton TVRXShapeButton TVRX3DEffectButton "
-                      "TVRXHiTimer TVRXShapeControl "
-                      "TVRXRepeatedShape TVRXAniCtrl TVRXPanelShape TVRXWndButtonShape"));
-  EXPECT_TRUE(InOrder(pages[8],
-                      "Sys: TVRXHideNonVC TVRXAlarmComponent TVRXSendKeys TVRXGlobalHotKey TVRXPopupMenu "
-                      "TVRXRegExpr TVRXExpressionEval TVRXClipboardMonitor"));
-  EXPECT_TRUE(InOrder(pages[9],
-                      "HTML: TVRXHTMLExtListBox TVRXHTMLComboBox TVRXHTMLListBox TVRXHTMLListBoxExt "
-                      "TVRXHTMLHeaderControl"));
-  qsizetype last = -1;
-  for (const char* call : {"TVRXStyleManager by TVRXStyleManEditor",
-                           "TVRXFaceController by TVRXFaceControllerEditor",
-                           "TVRXLEDCustomLabel by TVRXLEDLabelComponentEditor",
-                           "TVRXClock by TVRXClockComponentEditor",
-                           "TVRXTechnicalLine by TVRXTechnicalLineComponentEditor",
-                           "TCollection TVRXButtonBar.Sections by TVRXButtonBarCollectionProperty",
-                           "TVRXButtonBar by TVRXButtonBarComponentEditor",
-                           "TVRXDlgButtonPanel by TVRXDlgButtonComponentEditor",
-                           "TVRXCustomSwitch by TVRXSwitchComponentEditor",
-                           "TVRXLightColor any. by TVRXLightColorProperty",
-                           "TVRXCustomLight by TVRXLightComponentEditor",
-                           "TVRXFill by TVRXFillComponentEditor",
-                           "TVRXMMButtonFaceController by TVRXButtonFaceControllerEditor",
-                           "TVRXMessageBoxDlg by TVRXMessageBoxComponentEditor",
-                           "TVRXBaseDialog by TVRXExtDlgEditor",
-                           "TVRXFormStyler by TVRXFormStylerComponentEditor",
-                           "TVRXCustomFormFill by TVRXFormFillComponentEditor",
-                           "TVRXFormShadow by TVRXShadowComponentEditor",
-                           "TVRXFormShape by TVRXFormShapeComponentEditor",
-                           "TVRXAniCtrl by TVRXAniCtrlComponentEditor",
-                           "TVRXCustomLabelFill by TVRXLabelFillComponentEditor",
-                           "TVRXBaseShape by TVRXCustomShapeComponentEditor",
-                           "TVRXWndButtonShape by TVRXWndButtonShapeComponentEditor",
-                           "TVRXPanelShape by TVRXPanelShapeComponentEditor",
-                           "TVRXScrollText by TVRXScrollTextComponentEditor",
-                           "TVRXCustom3DButton by TVRXExtGraphicButtonComponentEditor",
-                           "TVRXCustomMMButton by TVRXExtGraphicButtonComponentEditor",
-                           "TVRXHideNonVC by TVRXHideNonVCEditor",
-                           "TVRXSendKeys by TVRXSendKeyComponentEditor",
-                           "TCustomImageList TVRXBaseDialog.ImageList by TVRXCustomImageListProperty",
-                           "TCustomImageList TVRXMessageBoxDlg.ImageList by TVRXCustomImageListProperty",
-                           "TCustomImageList TVRXMessageBoxDlg.CustomGlyphImageList by "
-                           "TVRXCustomImageListProperty",
-                           "TCustomImageList TVRXButtonBar.LargeImageList by TVRXCustomImageListProperty",
-                           "TCustomImageList TVRXButtonBar.SmallImageList by TVRXCustomImageListProperty",
-                           "TCustomImageList TVRXCustomMMButton.ButtonFaceImageList by "
-                           "TVRXCustomImageListProperty",
-                           "TCustomImageList TVRXCustomShapeButton.ShapeFillImageList by "
-                           "TVRXCustomImageListProperty",
-                           "TCustomImageList TVRXMMButtonFaceController.ButtonFaceImageList by "
-                           "TVRXCustomImageListProperty",
-                           "TCustomImageList TVRXPopupMenu.ImageList by TVRXCustomImageListProperty",
-                           "TVRXShadow any. by TVRXShadowProperty",
-                           "TVRXShapeFill any. by TVRXShapeFillProperty",
-                           "TVRXPointList any. by TVRXPointListProperty",
-                           "TVRXCaption any. by TVRXCaptionProperty",
-                           "TVRXDateList TVRXSpecialDates.Dates by TVRXDateListProperty",
-                           "string TVRXFormOpenDialog.Filter by TVRXFilterProperty",
-                           "string TVRXFormSaveDialog.Filter by TVRXFilterProperty",
-                           "TVRXRegionMask any. by TVRXRegionMaskProperty",
-                           "TVRXRegExString any.Expression by TVRXVldRegExprProperty",
-                           "TVRXButtonFace any. by TVRXButtonFaceProperty",
-                           "TVRXSimpleBevel any. by TVRXSimpleBevelProperty",
-                           "TVRXShapeType any. by TVRXShapeProperty",
-                           "TVRXTeeth any. by TVRXTeethProperty",
-                           "TStrings TVRXValueListBox.Items by TVRXValueListProperty",
-                           "TStrings TVRXValueListBox.Values by TVRXValueListProperty",
-                           "string TVRXValueListBox.Value by TVRXValueListValueProperty",
-                           "TStrings TVRXValueComboBox.Items by TVRXValueListProperty",
-                           "TStrings TVRXValueComboBox.Values by TVRXValueListProperty",
-                           "string TVRXValueComboBox.Value by TVRXValueListValueProperty"}) {
-    const qsizetype at = calls.indexOf(QString::fromLatin1(call));
-    EXPECT_GT(at, last) << call;
-    last = at;
-  }
-}
-
-TEST_F(Registering, PropertiesOfButtonBarsAreInThreeCategoriesFirstOfAll) {
-  {
-    const RegistrationScope scope(registry_, this, "VRX_RegMainEditors");
-    VRX_RegMainEditors::Register();
-  }
-  const QStringList calls = Calls();
-  ASSERT_GE(calls.size(), 3);
-  EXPECT_EQ(calls[0].toStdString(),
-            "Orlenvo-Kit of TVRXButtonBar: Sections FillSelectedItem FixedSectionLeftBorder "
-            "FixedSectionRightBorder FocusStyle IniSaveOptions IniSection IniKey LargeItemHeight "
-            "SmallItemHeight Orientation SaveAndRestore ScrollDelay ScrollStep SectionBtnSize "
-            "SingleSectionMode SoftScroll TransparentButtons");
-  EXPECT_EQ(calls[1].toStdString(),
-            "Layout of TVRXButtonBar: FixedSectionLeftBorder FixedSectionRightBorder LargeItemHeight "
-            "SmallItemHeight Orientation SectionBtnSize SingleSectionMode");
-  EXPECT_EQ(calls[2].toStdString(),
-            "Visual of TVRXButtonBar: FillSelectedItem FixedSectionLeftBorder FixedSectionRightBorder "
-            "FocusStyle LargeItemHeight SmallItemHeight Orientation SectionBtnSize SingleSectionMode "
-            "TransparentButtons");
-}
-
-TEST_F(Registering, LabeledVariantsComeBehindTheirPagesAndShareOne) {
-  ORLENVOKITEDITOROPTIONS = 1;
-  {
-    const RegistrationScope scope(registry_, this, "VRX_RegMain");
-    VRX_RegMain::Register();
-  }
-  QStringList pages;
-  for (const QString& call : Calls())
-    if (call.startsWith(QStringLiteral("page VRX L")) || call.startsWith(QStringLiteral("page VRX Edit")) ||
-        call.startsWith(QStringLiteral("actions")))
-      pages << call.section(u':', 0, 0);
-  EXPECT_EQ(pages.join(u'|'), QStringLiteral("page VRX Edit|page VRX Labeled|actions VRXEdit|page VRX List|"
-                                             "page VRX Labeled"));
-  EXPECT_TRUE(Calls().contains(
-      QStringLiteral("actions VRXEdit: TVRXEditCut TVRXEditCopy TVRXEditPaste TVRXEditSelectAll TVRXEditUndo "
-                     "TVRXEditRedo TVRXEditDelete TVRXEditFind TVRXEditReplace")));
-  for (const TPalettePage& page : registry_.PalettePages()) {
-    if (page.Name != QStringLiteral("VRX Labeled")) continue;
-    QStringList names;
-    for (const TClass* cls : page.Classes) names << QString::fromLatin1(cls->ClassName()).mid(11);
-    EXPECT_EQ(names.join(u' '),
-              QStringLiteral("CalendarEdit CalculatorEdit ListComboBox DriveComboBox CalculatorComboBox "
-                             "TrackBarComboBox CalendarComboBox HeaderListComboBox CheckListComboBox "
-                             "TreeComboBox"));
-  }
 }
 
 TEST_F(Registering, UnregisteringLeavesNoRowAndNoClass) {
