@@ -78,8 +78,12 @@ class TVRXHideNonVCfrm : public TDesignWindow, private INewComponentHandler {
   void changeEvent(QEvent* event) override;
   bool eventFilter(QObject* watched, QEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
+  bool event(QEvent* event) override;
 
  private:
+  // The button with that letter; null when there is none.
+  QPushButton* Lettered(const QKeyEvent& event) const;
+  bool placed_ = false;
   struct Entry;
   void NewComponent(TVRXHideNonVC&) override { newComponentPending_ = true; }
   void HideComponentFreed(TVRXHideNonVC&) override { component_ = nullptr; }

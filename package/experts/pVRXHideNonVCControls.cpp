@@ -111,7 +111,9 @@ void TVRXHideNonVCfrm::showEvent(QShowEvent* event) {
   if (event->spontaneous()) return;
   ApplyIDETheme(*this);
   CheckInfo();
-  if (const QScreen* s = screen()) move(s->availableGeometry().center() - rect().center());
+  // Where the person puts it is where it stays.
+  if (const QScreen* s = screen(); s && !std::exchange(placed_, true))
+    move(s->availableGeometry().center() - rect().center());
 }
 
 void TVRXHideNonVCfrm::changeEvent(QEvent* event) {
@@ -119,9 +121,29 @@ void TVRXHideNonVCfrm::changeEvent(QEvent* event) {
   if (event->type() == QEvent::PaletteChange && d) CheckInfo();
 }
 
+QPushButton* TVRXHideNonVCfrm::Lettered(const QKeyEvent& event) const {
+  for (QPushButton* button : {btHide, btShow, btDelete, CloseButton})
+    if (QKeySequence::mnemonic(button->text()) == QKeySequence(event.keyCombination())) return button;
+  return nullptr;
+}
+
+// Menus of the main window have some of these letters, too, and would come first.
+bool TVRXHideNonVCfrm::event(QEvent* event) {
+  if (event->type() == QEvent::ShortcutOverride && Lettered(*static_cast<QKeyEvent*>(event))) {
+    event->accept();
+    return true;
+  }
+  return TDesignWindow::event(event);
+}
+
 bool TVRXHideNonVCfrm::eventFilter(QObject*, QEvent* event) {
-  if (event->type() != QEvent::KeyPress || !static_cast<QKeyEvent*>(event)->matches(QKeySequence::Delete))
-    return false;
+  if (event->type() != QEvent::KeyPress) return false;
+  const auto& key = *static_cast<QKeyEvent*>(event);
+  if (QPushButton* button = Lettered(key)) {
+    button->click();
+    return true;
+  }
+  if (!key.matches(QKeySequence::Delete)) return false;
   EditAction(TEditAction::eaDelete);
   return true;
 }
@@ -129,6 +151,8 @@ bool TVRXHideNonVCfrm::eventFilter(QObject*, QEvent* event) {
 void TVRXHideNonVCfrm::keyPressEvent(QKeyEvent* event) {
   if (event->key() == Qt::Key_Escape && !event->modifiers()) {
     close();
+  } else if (QPushButton* lettered = Lettered(*event)) {
+    lettered->click();
   } else if (auto* button = qobject_cast<QPushButton*>(focusWidget());
              button && (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)) {
     button->click();

@@ -102,8 +102,12 @@ bool StylesView::edit(const QModelIndex& index, EditTrigger trigger, QEvent* eve
 }
 
 void StylesView::closeEditor(QWidget* editor, QAbstractItemDelegate::EndEditHint hint) {
+  // A message about what was typed took the focus; the keys go on here.
+  const QWidget* focus = window()->focusWidget();
+  const bool hadFocus = focus == editor || editor->isAncestorOf(focus);
   delegate_->Closed(editor);
   QTreeView::closeEditor(editor, hint);
+  if (hadFocus) setFocus();
 }
 
 QStringList StylesView::Open() const {

@@ -473,6 +473,37 @@ TEST_F(HideWindow, TheMenuHasTheVerbsOfTheEntrysOwnEditor) {
   EXPECT_GT(QApplication::topLevelWidgets().size(), before) << "the menu's own window";
 }
 
+TEST_F(HideWindow, LettersOfItsButtonsAreItsOwnAlsoWhereTheMainWindowHasThem) {
+  Open();
+  Pick({0});
+  QWidget* list = Window().cbList;
+  const auto taken = [&](Qt::Key key) {
+    QKeyEvent event(QEvent::ShortcutOverride, key, Qt::AltModifier);
+    event.ignore();
+    QApplication::sendEvent(list, &event);
+    return event.isAccepted();
+  };
+  EXPECT_TRUE(taken(Qt::Key_H));
+  EXPECT_FALSE(taken(Qt::Key_F));
+  const QByteArray before = session_->Bytes();
+  QTest::keyClick(list, Qt::Key_H, Qt::AltModifier);
+  const QByteArray hidden = session_->Bytes();
+  EXPECT_NE(hidden, before);
+  QTest::keyClick(Window().btHide, Qt::Key_S, Qt::AltModifier);
+  EXPECT_NE(session_->Bytes(), hidden);
+  QTest::keyClick(list, Qt::Key_C, Qt::AltModifier);
+  EXPECT_FALSE(Window().isVisible());
+}
+
+TEST_F(HideWindow, StaysWhereItWasMovedTo) {
+  Open();
+  const QPoint moved = Window().pos() + QPoint(17, 23);
+  Window().move(moved);
+  Window().close();
+  Open();
+  EXPECT_EQ(Window().pos(), moved);
+}
+
 TEST_F(HideWindow, EditActionsSelectAndDelete) {
   TVRXHideNonVCfrm& window = Open();
   EXPECT_EQ(window.GetEditState(), (TEditStates{TEditState::esCanSelectAll}));
