@@ -76,7 +76,7 @@ TEST(WindowListDialog, TheOneThatIsPickedComesToTheFront) {
   EXPECT_NE(QGuiApplication::focusWindow(), ants.window.windowHandle());
   ants.window.showMinimized();
   EXPECT_TRUE(Executed(dlg, Ok, pickAnts));
-  EXPECT_EQ(dlg.Picked(), QStringLiteral("Ants"));
+  ASSERT_EQ(dlg.Picked(), QStringLiteral("Ants"));
   EXPECT_TRUE(QTest::qWaitFor([&] { return ants.window.isActiveWindow(); }, WaitLimit));
   EXPECT_TRUE(QTest::qWaitFor([&] { return !ants.window.isMinimized(); }, WaitLimit));
 }
@@ -142,6 +142,18 @@ TEST(WindowListDialog, ClosesWindowsThatLetItButNoneInAPreview) {
   EXPECT_EQ(prompts.warned, QStringList{QStringLiteral("There is no window to go to. Press Cancel.")});
   dlg.Set(TVRXWindowListDlg::AllowClose, false);
   Answered(dlg, 0, [](QDialog& dialog) { EXPECT_THROW(In<QPushButton>(dialog, "close"), std::exception); });
+}
+
+TEST(WindowListDialog, WhatIsClosedIsInNobodysPlace) {
+  Opened zoo("Zoo"), ants("Ants"), bees("Bees");
+  TVRXWindowListDlg dlg(nullptr);
+  EXPECT_TRUE(Executed(dlg, Ok, [](QDialog& dialog) {
+    In<QListWidget>(dialog, "windows").setCurrentRow(0);
+    In<QPushButton>(dialog, "close").click();
+    In<QListWidget>(dialog, "windows").setCurrentRow(1);
+  }));
+  ASSERT_EQ(dlg.Picked(), QStringLiteral("Bees"));
+  EXPECT_TRUE(QTest::qWaitFor([&] { return bees.window.isActiveWindow(); }, WaitLimit));
 }
 
 // --- Folders

@@ -144,9 +144,12 @@ TEST(Alarm, AnotherTimeCountsAtOnce) {
   EXPECT_EQ(rung, 1);
   alarm->Set(TVRXAlarmComponent::Enabled, true);
   alarm->Set(TVRXAlarmComponent::AlarmTime, TDateTime{12 / 1440.0});
-  alarm->Start([&] {
+  auto held = std::make_shared<int>(0);
+  const std::weak_ptr<int> hearing = held;
+  alarm->Start([&, held = std::move(held)] {
     ++rung;
     alarm.reset();
+    EXPECT_FALSE(hearing.expired()) << "who hears of it lives until it is done";
   });
   time.GoMinutes(5);
   EXPECT_EQ(rung, 2) << "it may be freed by who hears of it";
