@@ -123,13 +123,28 @@ void TfrmVRXStyleManProp::Change(const std::function<void()>& change) {
   ShowPreviewControl();
 }
 
+namespace {
+// The first style that is not as it was; above it, where one has gone.
+QString FirstChanged(const TVRXStyles& before, const TVRXStyles& after) {
+  for (const auto& [path, values] : after.All())
+    if (const auto* old = before.Find(path); !old || *old != values) return path;
+  for (const auto& [path, values] : before.All())
+    if (!after.Find(path)) return VRXParentStyle(path);
+  return {};
+}
+}  // namespace
+
 void TfrmVRXStyleManProp::Travel(std::deque<State>& from, std::deque<State>& to) {
   SavePropValue();
   if (from.empty()) return;
   to.push_back(Now());
   const State state = std::move(from.back());
   from.pop_back();
+  const QString changed = FirstChanged(to.back().Styles, state.Styles);
   GoTo(state);
+  const Node* selected = Styles->Selected();
+  if (!changed.isEmpty() && !(selected && selected->StylePath() == changed))
+    Styles->Select(tree_->Find(changed));
 }
 void TfrmVRXStyleManProp::Undo() { Travel(undo_, redo_); }
 void TfrmVRXStyleManProp::Redo() { Travel(redo_, undo_); }

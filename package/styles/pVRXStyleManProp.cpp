@@ -190,6 +190,7 @@ QLayout* TfrmVRXStyleManProp::StylePart() {
           [this](const QModelIndex& index) { Guarded([&] { ChoosePicture(*model_->NodeAt(index)); }); });
   Styles->Delegate().Named = [this](TVRXStyleNode& style, const QString& name) {
     Guarded([&] { Change([&] { tree_->Rename(style, name); }); });
+    Styles->scrollTo(Styles->currentIndex());
   };
   Styles->Delegate().Valued = [this](TVRXStyleNode& property, const TVRXStyleValue& value) {
     Guarded([&] { Change([&] { tree_->SetValue(property, value); }); });

@@ -449,8 +449,7 @@ TEST_F(HideWindow, TheMenuHasTheVerbsOfTheEntrysOwnEditor) {
   Open();
   QMenu& menu = *Window().popMenu;
   const auto popUp = [&] {
-    QContextMenuEvent asked(QContextMenuEvent::Keyboard, QPoint(3, 3));
-    QApplication::sendEvent(Window().cbList->viewport(), &asked);
+    emit Window().cbList->customContextMenuRequested(QPoint(3, 3));
     EXPECT_NE(menu.isVisible(), menu.isEmpty());
     QStringList texts;
     for (const QAction* action : menu.actions())

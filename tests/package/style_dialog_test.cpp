@@ -805,6 +805,21 @@ TEST_F(StyleDialog, StylesGoToAFileAndBack) {
   EXPECT_EQ(S(Seen(*d)), S(without));
 }
 
+TEST_F(StyleDialog, UndoAndRedoShowTheStyleThatTheyChange) {
+  manager.WritePropValue(Q("TButton|.Big"), Q("Tag"), std::int64_t{1}, Q("NativeInt"));
+  manager.WritePropValue(Q("TCheckBox"), Q("Tag"), std::int64_t{2}, Q("NativeInt"));
+  const auto d = Shown();
+  const auto at = [&] { return d->Styles->Selected() ? S(d->Styles->Selected()->StylePath()) : "nothing"; };
+  Select(*d, "TButton|.Big");
+  d->Styles->Delegate().Named(*d->Tree().Find(Q("TButton|.Big")), Q(".Tall"));
+  Select(*d, "TCheckBox");
+  d->Undo();
+  EXPECT_EQ(at(), "TButton|.Big");
+  Select(*d, "TCheckBox");
+  d->Redo();
+  EXPECT_EQ(at(), "TButton|.Tall");
+}
+
 TEST_F(StyleDialog, ReturnInTheFilterAndOnARowDoesNotEndIt) {
   const auto d = Shown();
   for (QWidget* widget : {static_cast<QWidget*>(d->fltEdit), static_cast<QWidget*>(d->PropTree),
