@@ -171,6 +171,14 @@ TEST_F(StyleCli, SizesAreTheStylesAlsoOfLabelsThatFitTheirText) {
   EXPECT_EQ(Read(form), once);
 }
 
+TEST_F(StyleCli, WhatIsImportedTakesThePlaceOfWhatIsThere) {
+  const QString form = Write("one.dfm", Form(1)),
+                file = Write("s", "Styles 1\nstyle \"TLabel\"\n  Hint:string = text \"new\"\nend\n");
+  EXPECT_EQ(Style({L("import"), form, L("--from"), file}).code, 0);
+  EXPECT_EQ(Difference(Form(1), Read(form)),
+            L("+'  Hint:string = text \"new\"'|-'  Hint:string = text \"from 1\"'"));
+}
+
 TEST_F(StyleCli, StylesWithoutValuesAreImportedToo) {
   const QString form = Write("one.dfm", Form(1)),
                 file = Write("s", "Styles 1\nstyle \"Empty\"\nstyle \"Empty|.Y\"\nend\n");

@@ -1,6 +1,7 @@
 // Keys and wheel in dialogs, and handlers that throw.
 #include "dclstd/DialogInput.h"
 
+#include "dclstd/EditValue.h"
 #include "dclstd/ModalDialog.h"
 #include "dclstd/OneShotComboBox.h"
 #include "rtl/Exceptions.h"
@@ -186,4 +187,21 @@ TEST(Dialog, WhatCannotBeKeptOnClosingIsToldAndTheResultStands) {
   dlg.closeThrows = true;
   EXPECT_EQ(ResultOf(dlg, [&] { dlg.ok->click(); }), mrOk);
   EXPECT_EQ(prompts.warned, QStringList{QStringLiteral("No place to keep it.")});
+}
+
+TEST(DialogOwner, IsTheWindowThatIsWorkedInAndNeverAMenu) {
+  QWidget window;
+  window.show();
+  window.activateWindow();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+  EXPECT_EQ(ApplicationOwner(), &window);
+  // A menu that has closed may be active for a moment still.
+  QMenu menu(&window), submenu(&menu), alone;
+  for (QMenu* closed : {&menu, &submenu}) {
+    QApplication::setActiveWindow(closed);
+    EXPECT_EQ(ApplicationOwner(), &window);
+  }
+  QApplication::setActiveWindow(&alone);
+  EXPECT_EQ(ApplicationOwner(), nullptr);
+  QApplication::setActiveWindow(&window);
 }
