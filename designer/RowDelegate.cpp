@@ -27,7 +27,8 @@ void RowDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
     painter->save();
     painter->setFont(o.font);
     painter->setPen(
-        o.palette.color(o.state & QStyle::State_Selected ? QPalette::HighlightedText : QPalette::Text));
+        o.palette.color(o.state & QStyle::State_Active ? QPalette::Active : QPalette::Inactive,
+                        o.state & QStyle::State_Selected ? QPalette::HighlightedText : QPalette::Text));
     painter->drawText(o.rect.adjusted(22, 0, 0, 0), Qt::AlignVCenter, text);
     painter->restore();
   } else {

@@ -9,12 +9,12 @@
 namespace {
 struct Shades {
   const char *window, *text, *base, *alternate, *button, *mid, *dark, *light, *disabled, *quiet, *highlight,
-      *tip, *link;
+      *unfocused, *tip, *link;
 };
 constexpr Shades LightShades{"#f3f4f6", "#1e2227", "#ffffff", "#f7f8fa", "#eceef1", "#c3c8cf", "#9aa1ab",
-                             "#ffffff", "#9aa1ab", "#5f6672", "#2f6fd6", "#fffbe6", "#1d5dc4"};
+                             "#ffffff", "#9aa1ab", "#5f6672", "#2f6fd6", "#6a7587", "#fffbe6", "#1d5dc4"};
 constexpr Shades DarkShades{"#2b2e33", "#e4e6ea", "#1f2226", "#26292e", "#363a40", "#4a4f57", "#17191c",
-                            "#4d535c", "#7d838d", "#a3a9b3", "#3a72cf", "#3a3d43", "#78a9f5"};
+                            "#4d535c", "#7d838d", "#a3a9b3", "#3a72cf", "#4a5568", "#3a3d43", "#78a9f5"};
 
 QPalette Palette(const Shades& s) {
   QPalette p;
@@ -43,6 +43,7 @@ QPalette Palette(const Shades& s) {
   for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
     p.setColor(QPalette::Disabled, role, QColor(QLatin1StringView(s.disabled)));
   p.setColor(QPalette::Disabled, QPalette::Highlight, QColor(QLatin1StringView(s.mid)));
+  p.setColor(QPalette::Inactive, QPalette::Highlight, QColor(QLatin1StringView(s.unfocused)));
   return p;
 }
 // Fusion draws the outlines of boxes and fields a little darker than the window. They disappear in a dark
@@ -81,6 +82,7 @@ class OutlinedFusion : public QProxyStyle {
     if (hint == SH_ComboBox_Popup) return 0;
     if (hint == SH_Table_GridLineColor && option && IsDark(option->palette))
       return static_cast<int>(option->palette.color(QPalette::Mid).rgb());
+    if (hint == SH_ItemView_ChangeHighlightOnFocus) return IsLeft(widget);
     return QProxyStyle::styleHint(hint, option, widget, data);
   }
 
@@ -110,6 +112,13 @@ class OutlinedFusion : public QProxyStyle {
   }
 
  private:
+  // Of several lists in a window the one with the keys has the accent. Lists that open below a field belong
+  // to it, and an open editor to its list.
+  static bool IsLeft(const QWidget* list) {
+    return list && !list->isAncestorOf(QApplication::focusWidget()) &&
+           list->window()->windowType() != Qt::Popup;
+  }
+
   // Another colour for a role of the option's palette while it lives; nothing without an option.
   class Recolored {
    public:

@@ -35,7 +35,7 @@ bool ItemDrag::Moved(const QMouseEvent& event) {
   if (!pressed_.isValid() || (event.buttons() & Qt::LeftButton) == 0) return false;
   dragging_ |= (event.pos() - from_).manhattanLength() >= QApplication::startDragDistance();
   if (!dragging_) return true;
-  const bool over = IsOver(event);
+  const bool over = IsOver(event) && CanDrop(pressed_, event);
   list_.viewport()->setCursor(over ? Cursor(event) : Qt::ForbiddenCursor);
   if (over) mark_->setGeometry(Mark(event));
   mark_->setVisible(over);
@@ -49,7 +49,7 @@ bool ItemDrag::Released(const QMouseEvent& event) {
   }
   const QModelIndex row = pressed_;
   End();
-  if (row.isValid() && IsOver(event)) Drop(row, event);
+  if (row.isValid() && IsOver(event) && CanDrop(row, event)) Drop(row, event);
   return true;
 }
 

@@ -23,6 +23,8 @@ class ItemDrag : public QObject {
   virtual QRect Mark(const QMouseEvent& event) const;
   virtual Qt::CursorShape Cursor(const QMouseEvent& event) const;
   virtual void Drop(const QModelIndex& row, const QMouseEvent& event);
+  // Whether the row can be dropped there, over the target.
+  virtual bool CanDrop(const QModelIndex&, const QMouseEvent&) const { return true; }
 
  private:
   bool Moved(const QMouseEvent& event);

@@ -8,8 +8,8 @@
 #include "library_design/pVRXCommon.h"
 #include "package/styles/StyleMessages.h"
 
-StyleInputDialog::StyleInputDialog(QWidget* owner, const char* prompt)
-    : RowDialog(QString::fromLatin1(VRXStyleEditorTitle), owner) {
+StyleInputDialog::StyleInputDialog(QWidget* owner, const char* prompt, TakeFunction take)
+    : RowDialog(QString::fromLatin1(VRXStyleEditorTitle), owner), take_(std::move(take)) {
   input = Named(new QLineEdit(this), "input", "");
   input->setMaxLength(INT_MAX);
   input->setMinimumWidth(280);
@@ -27,6 +27,17 @@ StyleInputDialog::StyleInputDialog(QWidget* owner, const char* prompt)
   SetTabSequence();
   FormCreate();
   setFixedSize(minimumSizeHint());
+}
+
+void StyleInputDialog::done(int result) {
+  bool taken = true;
+  if (result == Accepted && take_) {
+    taken = false;
+    Guarded([&] { taken = take_(input->text()); });
+  }
+  if (taken) return RowDialog::done(result);
+  input->setFocus();
+  input->selectAll();
 }
 
 StyleComponentsDialog::StyleComponentsDialog(QWidget* owner, const QStringList& names)

@@ -9,9 +9,17 @@ class StyleInputDialog : public RowDialog {
  public:
   static constexpr const char* StylePrompt = "Please enter style name:";
   static constexpr const char* ClassPrompt = "Please enter component class name:";
-  explicit StyleInputDialog(QWidget* owner, const char* prompt = StylePrompt);
+  // Stays open, with what was typed, while `take` is false for it.
+  using TakeFunction = std::function<bool(const QString& text)>;
+  explicit StyleInputDialog(QWidget* owner, const char* prompt = StylePrompt, TakeFunction take = {});
   QLineEdit* input;
   QPushButton *OkBtn, *CancelBtn;
+
+ protected:
+  void done(int result) override;
+
+ private:
+  TakeFunction take_;
 };
 
 class StyleComponentsDialog : public RowDialog {

@@ -11,12 +11,17 @@ class StyleDrag : public ItemDrag {
   // Not valid below the last row. `copy` while Ctrl is held.
   using DropFunction = std::function<void(const QModelIndex& dragged, const QModelIndex& target, bool copy)>;
   StyleDrag(QTreeView& source, QTreeView& target, DropFunction drop);
+  // What cannot be dropped there at all; what is refused with a reason can.
+  std::function<bool(const QModelIndex& dragged, const QModelIndex& target)> Takes;
 
  protected:
   QModelIndex Grip(const QPoint& at) const override;
   QRect Mark(const QMouseEvent& event) const override;
   Qt::CursorShape Cursor(const QMouseEvent& event) const override;
   void Drop(const QModelIndex& row, const QMouseEvent& event) override;
+  bool CanDrop(const QModelIndex& row, const QMouseEvent& event) const override {
+    return !Takes || Takes(row, TargetAt(event));
+  }
 
  private:
   QModelIndex TargetAt(const QMouseEvent& event) const;

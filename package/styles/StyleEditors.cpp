@@ -1,6 +1,7 @@
 #include "package/styles/StyleEditors.h"
 
 #include <QtWidgets>
+#include <cfloat>
 
 #include "dclstd/ColorComboBox.h"
 #include "dclstd/SpinEdit.h"
@@ -8,15 +9,16 @@
 #include "rtl/DateText.h"
 
 namespace {
-// Goes with its editor.
+// Goes with its editor. An editor over no value shows one all the same; that is the person's only after they
+// have typed or chosen something.
 class Reader : public QObject {
  public:
-  Reader(QWidget* editor, std::function<TVRXStyleValue()> readFrom, bool stored)
-      : QObject(editor), read(std::move(readFrom)) {
-    if (stored) shown = read();
-  }
-  std::function<TVRXStyleValue()> read;
-  std::optional<TVRXStyleValue> shown;  // of what is stored
+  Reader(QWidget* editor, std::function<TVRXStyleValue()> readFrom, bool isStored)
+      : QObject(editor), read(std::move(readFrom)), shown(read()), stored(isStored) {}
+  const std::function<TVRXStyleValue()> read;
+  const TVRXStyleValue shown;
+  const bool stored;
+  bool touched = false;
 };
 
 std::int64_t IntegerIn(const TVRXStyleValue* value) {
@@ -34,18 +36,27 @@ QString TextIn(const TVRXStyleValue* value) {
 
 // --- Numbers
 
+// Any float, in as few digits as tell it from all others; an exponent can be typed.
 class ExactSpin : public QDoubleSpinBox {
  public:
   explicit ExactSpin(QWidget* parent) : QDoubleSpinBox(parent) {
-    constexpr double most = 1e15;
-    setRange(-most, most);
-    setDecimals(10);
+    constexpr int all = 323;
+    setDecimals(all);
+    setRange(-DBL_MAX, DBL_MAX);
   }
 
  protected:
   QString textFromValue(double value) const override {
-    constexpr int digits = 15;
-    return locale().toString(value, 'g', digits);
+    return locale().toString(value, 'g', QLocale::FloatingPointShortest);
+  }
+  double valueFromText(const QString& text) const override { return locale().toDouble(text); }
+  QValidator::State validate(QString& text, int&) const override {
+    static const QRegularExpression part(QStringLiteral("^\\s*[+-]?[\\d.,\\s]*([eE][+-]?\\d*)?\\s*$"));
+    bool isNumber = false;
+    locale().toDouble(text, &isNumber);
+    return isNumber                      ? QValidator::Acceptable
+           : part.match(text).hasMatch() ? QValidator::Intermediate
+                                         : QValidator::Invalid;
   }
 };
 
@@ -121,7 +132,20 @@ Made MakeColor(const TTypeInfo*, const TVRXStyleValue* value, QWidget* parent) {
   if (value) combo->SetSelected(TColor(static_cast<std::uint32_t>(IntegerIn(value))));
   return {combo, [combo] { return static_cast<std::int64_t>(static_cast<std::int32_t>(combo->Selected())); }};
 }
+// Of integers that have more than 31 bits.
+Made MakeWideSpin(const TTypeInfo& type, const TVRXStyleValue* value, QWidget* parent) {
+  auto* edit = new QDoubleSpinBox(parent);
+  edit->setDecimals(0);
+  edit->setGroupSeparatorShown(false);
+  edit->setRange(static_cast<double>(type.MinValue), static_cast<double>(type.MaxValue));
+  edit->setValue(static_cast<double>(IntegerIn(value)));
+  return {edit, [edit] {
+            edit->interpretText();
+            return static_cast<std::int64_t>(edit->value());
+          }};
+}
 Made MakeSpin(const TTypeInfo* type, const TVRXStyleValue* value, QWidget* parent) {
+  if (type && type->MaxValue > INT32_MAX) return MakeWideSpin(*type, value, parent);
   auto* edit = new SpinEdit(parent);
   const auto limit = [](std::int64_t v) {
     return static_cast<int>(std::clamp<std::int64_t>(v, INT32_MIN, INT32_MAX));
@@ -197,9 +221,9 @@ QWidget* VRXNewValueEditor(TVRXStyleEditor kind, const TTypeInfo* type, const TV
 }
 
 namespace {
-const Reader* ReaderOf(const QWidget& editor) {
-  for (const QObject* child : editor.children())
-    if (const auto* reader = dynamic_cast<const Reader*>(child)) return reader;
+Reader* ReaderOf(const QWidget& editor) {
+  for (QObject* child : editor.children())
+    if (auto* reader = dynamic_cast<Reader*>(child)) return reader;
   return nullptr;
 }
 }  // namespace
@@ -208,7 +232,7 @@ std::optional<TVRXStyleValue> VRXEditedValue(const QWidget& editor) {
   const Reader* reader = ReaderOf(editor);
   if (!reader) return {};
   TVRXStyleValue value = reader->read();
-  if (reader->shown == value) return {};
+  if (reader->shown == value && (reader->stored || !reader->touched)) return {};
   // An entry of a list that nobody has chosen yet is no value.
   if (const auto* list = qobject_cast<const QComboBox*>(&editor);
       list && value == TVRXStyleValue(std::int64_t{-1}) && !qobject_cast<const ColorComboBox*>(&editor))
@@ -216,7 +240,15 @@ std::optional<TVRXStyleValue> VRXEditedValue(const QWidget& editor) {
   return value;
 }
 
-void VRXWhenChosen(QWidget& editor, const std::function<void()>& chosen) {
+void VRXTouch(const QWidget& editor) {
+  if (Reader* reader = ReaderOf(editor)) reader->touched = true;
+}
+
+void VRXWhenChosen(QWidget& editor, const std::function<void()>& choose) {
+  const auto chosen = [&editor, choose] {
+    VRXTouch(editor);
+    choose();
+  };
   if (auto* color = qobject_cast<ColorComboBox*>(&editor))
     QObject::connect(color, &ColorComboBox::Change, color, chosen);
   else if (auto* combo = qobject_cast<QComboBox*>(&editor); combo && !combo->isEditable())

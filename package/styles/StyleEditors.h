@@ -10,7 +10,9 @@ class QWidget;
 QWidget* VRXNewValueEditor(TVRXStyleEditor kind, const TTypeInfo* type, const TVRXStyleValue* value,
                            QWidget* parent);
 // What is to be stored; nothing when the stored value is still shown as it was, so that what a widget cannot
-// show exactly stays.
+// show exactly stays. Where none is stored, what is shown counts after the editor was touched.
 std::optional<TVRXStyleValue> VRXEditedValue(const QWidget& editor);
+// The person has typed something there.
+void VRXTouch(const QWidget& editor);
 // Calls back whenever a choice is complete, so that it is seen at once.
 void VRXWhenChosen(QWidget& editor, const std::function<void()>& chosen);

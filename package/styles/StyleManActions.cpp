@@ -19,10 +19,8 @@ using Node = TVRXStyleNode;
 
 namespace {
 const QString FileFilter = QStringLiteral("Style files (*.vrxstyles);;All files (*)");
-// Of an item of the property view; a class or a type has none.
-constexpr int ItemRole = Qt::UserRole;
 const TVRXPropListItem* ItemOf(const QTreeWidgetItem* item) {
-  return item ? static_cast<const TVRXPropListItem*>(item->data(0, ItemRole).value<void*>()) : nullptr;
+  return item ? static_cast<const TVRXPropListItem*>(item->data(0, D::PropertyRole).value<void*>()) : nullptr;
 }
 }  // namespace
 
@@ -157,7 +155,7 @@ TVRXPropViewGrouping TfrmVRXStyleManProp::Grouping() const {
 
 QTreeWidgetItem* TfrmVRXStyleManProp::PropertyItem(const TVRXPropListItem& item) const {
   auto* made = new QTreeWidgetItem({item.Name});
-  made->setData(0, ItemRole, QVariant::fromValue<void*>(const_cast<TVRXPropListItem*>(&item)));
+  made->setData(0, D::PropertyRole, QVariant::fromValue<void*>(const_cast<TVRXPropListItem*>(&item)));
   if (VRXIsExpandable(item)) made->addChild(new QTreeWidgetItem({QStringLiteral("Dummy")}));
   return made;
 }
@@ -165,9 +163,12 @@ QTreeWidgetItem* TfrmVRXStyleManProp::PropertyItem(const TVRXPropListItem& item)
 void TfrmVRXStyleManProp::FillPropTree(TVRXPropViewGrouping grouping) {
   const bool byClass = grouping == TVRXPropViewGrouping::pvgClassName;
   const TVRXPropList& registry = VRXStyleRegistry();
-  QStringList open;
-  for (int i = 0; i < PropTree->topLevelItemCount(); ++i)
-    if (PropTree->topLevelItem(i)->isExpanded()) open << PropTree->topLevelItem(i)->text(0);
+  if (!filtered_) {
+    open_.clear();
+    for (int i = 0; i < PropTree->topLevelItemCount(); ++i)
+      if (PropTree->topLevelItem(i)->isExpanded()) open_ << PropTree->topLevelItem(i)->text(0);
+  }
+  filtered_ = !fltEdit->text().isEmpty();
   PropTree->clear();
   PropView->clear();
   QList<QTreeWidgetItem*> groups;
@@ -180,7 +181,9 @@ void TfrmVRXStyleManProp::FillPropTree(TVRXPropViewGrouping grouping) {
   }
   PropTree->addTopLevelItems(groups);
   PropTree->sortItems(0, Qt::AscendingOrder);
-  for (QTreeWidgetItem* top : groups) top->setExpanded(open.contains(top->text(0)));
+  // What was found is in sight.
+  for (QTreeWidgetItem* top : groups)
+    top->setExpanded(filtered_ ? top->childCount() > 0 : open_.contains(top->text(0)));
 }
 
 void TfrmVRXStyleManProp::PropTreeExpanding(QTreeWidgetItem* item) {
@@ -265,11 +268,12 @@ void TfrmVRXStyleManProp::btnSaveToFileClick() {
 
 void TfrmVRXStyleManProp::btnAddStyleClick() {
   SavePropValue();
-  StyleInputDialog dialog(this, StyleInputDialog::StylePrompt);
-  if (dialog.ShowModal() != mrOk) return;
   Node* made = nullptr;
-  Step([&] { made = tree_->AddStyle(Styles->Selected(), dialog.input->text(), cbStateStyles->isChecked()); });
-  Styles->Select(made);
+  StyleInputDialog dialog(this, StyleInputDialog::StylePrompt, [&](const QString& name) {
+    Step([&] { made = tree_->AddStyle(Styles->Selected(), name, cbStateStyles->isChecked()); });
+    return made != nullptr;
+  });
+  if (dialog.ShowModal() == mrOk) Styles->Select(made);
 }
 
 void TfrmVRXStyleManProp::btnDeleteStyleClick() {
@@ -282,8 +286,9 @@ void TfrmVRXStyleManProp::btnDeleteStyleClick() {
 }
 
 void TfrmVRXStyleManProp::btnAddComponentClick() {
-  StyleInputDialog dialog(this, StyleInputDialog::ClassPrompt);
-  if (dialog.ShowModal() != mrOk || !tree_->AddComponent(dialog.input->text())) return;
+  StyleInputDialog dialog(this, StyleInputDialog::ClassPrompt,
+                          [this](const QString& name) { return tree_->AddComponent(name); });
+  if (dialog.ShowModal() != mrOk) return;
   if (byComponent->isChecked())
     FillPropTree(Grouping());
   else

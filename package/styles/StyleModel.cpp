@@ -1,5 +1,7 @@
 #include "package/styles/StyleModel.h"
 
+#include <QApplication>
+#include <QPalette>
 #include <QPixmap>
 
 #include "designintf/ComponentIcons.h"
@@ -85,9 +87,16 @@ QVariant StyleModel::data(const QModelIndex& index, int role) const {
   const Node& node = *NodeAt(index);
   const bool value = index.column() == 1;
   if (value && !node.IsProperty()) return {};
+  const bool without = value && !tree_.Value(node);
   switch (role) {
     case Qt::DisplayRole:
-      return value ? tree_.DisplayValue(node) : node.Name;
+      if (!value) return node.Name;
+      if (const QString text = tree_.DisplayValue(node); !without || !text.isEmpty()) return text;
+      return QStringLiteral("no value yet");
+    case Qt::ForegroundRole:
+      return without ? QVariant(qApp->palette().brush(QPalette::PlaceholderText)) : QVariant();
+    case Qt::ToolTipRole:
+      return without ? QStringLiteral("A property is kept with its style once it has a value") : QVariant();
     case Qt::EditRole:
       return value ? QVariant() : node.Name;
     case Qt::DecorationRole: {

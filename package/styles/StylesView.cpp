@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QHeaderView>
+#include <QKeyEvent>
 #include <QLineEdit>
 
 #include "package/styles/StyleEditors.h"
@@ -52,6 +53,13 @@ QSize StyleDelegate::sizeHint(const QStyleOptionViewItem& option, const QModelIn
 }
 
 bool StyleDelegate::eventFilter(QObject* watched, QEvent* event) {
+  if (event->type() == QEvent::KeyPress) {
+    static constexpr int passing[] = {Qt::Key_Tab,     Qt::Key_Backtab, Qt::Key_Escape, Qt::Key_Shift,
+                                      Qt::Key_Control, Qt::Key_Alt,     Qt::Key_Meta};
+    const int key = static_cast<QKeyEvent*>(event)->key();
+    if (std::find(std::begin(passing), std::end(passing), key) == std::end(passing))
+      VRXTouch(*static_cast<QWidget*>(watched));
+  }
   // An editor that opens a dialog of its own loses the focus and goes on afterwards.
   if (event->type() == QEvent::FocusOut) {
     const QWidget* modal = QApplication::activeModalWidget();

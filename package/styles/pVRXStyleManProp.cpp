@@ -67,12 +67,25 @@ TfrmVRXStyleManProp::TfrmVRXStyleManProp(QWidget* owner)
   box->addWidget(halves, 1);
   box->addLayout(ButtonLine({OkBtn, CancelBtn}));
   BuildMenus();
-  new StyleDrag(*PropTree, *Styles, [this](const QModelIndex& from, const QModelIndex& to, bool) {
-    Guarded([&] { DropFromProperties(PropTree->itemFromIndex(from), model_->NodeAt(to)); });
-  });
-  new StyleDrag(*Styles, *Styles, [this](const QModelIndex& from, const QModelIndex& to, bool copy) {
-    Guarded([&] { DropStyle(model_->NodeAt(from), model_->NodeAt(to), copy); });
-  });
+  // Only styles stand below the root, which keeps no values.
+  const auto ofRoot = [this](const QModelIndex& at) {
+    const TVRXStyleNode* node = model_->NodeAt(at);
+    return !node || node->IsRoot();
+  };
+  auto& fromProperties =
+      *new StyleDrag(*PropTree, *Styles, [this](const QModelIndex& from, const QModelIndex& to, bool) {
+        Guarded([&] { DropFromProperties(PropTree->itemFromIndex(from), model_->NodeAt(to)); });
+      });
+  fromProperties.Takes = [this, ofRoot](const QModelIndex& from, const QModelIndex& to) {
+    return !PropTree->itemFromIndex(from)->data(0, PropertyRole).value<void*>() || !ofRoot(to);
+  };
+  auto& fromStyles =
+      *new StyleDrag(*Styles, *Styles, [this](const QModelIndex& from, const QModelIndex& to, bool copy) {
+        Guarded([&] { DropStyle(model_->NodeAt(from), model_->NodeAt(to), copy); });
+      });
+  fromStyles.Takes = [this, ofRoot](const QModelIndex& from, const QModelIndex& to) {
+    return !model_->NodeAt(from)->IsProperty() || !ofRoot(to);
+  };
   VRXSetThemeMode(*this, 1);
   SetTabSequence();
   FormCreate();
@@ -236,16 +249,16 @@ QLayout* TfrmVRXStyleManProp::PreviewPart() {
         [this](bool) { ApplyStyleToPreviewControl(); });
   PreviewPanel = Named(new StylePreview(this), "PreviewPanel", "");
   OwnColors({PreviewPanel});
-  auto* options = new QGridLayout;
-  options->addWidget(cbCtlXp, 0, 0);
-  options->addWidget(cbAlign, 0, 1);
-  options->addWidget(cbUseBgr, 1, 0);
-  options->addWidget(cbCascade, 1, 1);
-  options->setColumnStretch(2, 1);
+  // Beside the control, which has all of their height then.
+  auto* options = new QVBoxLayout;
+  for (QCheckBox* box : {cbCtlXp, cbAlign, cbUseBgr, cbCascade}) options->addWidget(box);
+  options->addStretch(1);
+  auto* beside = new QHBoxLayout;
+  beside->addLayout(options);
+  beside->addWidget(PreviewPanel, 1);
   auto* part = new QVBoxLayout;
   part->addWidget(Label2);
-  part->addLayout(options);
-  part->addWidget(PreviewPanel, 1);
+  part->addLayout(beside, 1);
   return part;
 }
 

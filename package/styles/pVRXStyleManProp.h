@@ -41,6 +41,8 @@ class TfrmVRXStyleManProp : public RowDialog {
   TVRXStyleNode* FindNodeByFullStyleName(const QString& path) const { return tree_->Find(path); }
   TVRXPropViewGrouping Grouping() const;
   void FillPropTree(TVRXPropViewGrouping grouping);
+  // Of a row of the property view: its TVRXPropListItem; a class or a type has none.
+  static constexpr int PropertyRole = Qt::UserRole;
   void PropTreeClick();
   void PropTreeExpanding(QTreeWidgetItem* item);
   // A row of the property view, dropped on a node of the style tree; null is below all of them.
@@ -123,5 +125,7 @@ class TfrmVRXStyleManProp : public RowDialog {
   std::deque<State> undo_, redo_;
   TVRXStyleNode* cut_ = nullptr;  // to be pasted
   bool cutCopies_ = false;
+  QStringList open_;  // of the property view, while nothing is filtered
+  bool filtered_ = false;
   bool stepping_ = false;
 };
