@@ -1,6 +1,7 @@
 #include "designintf/BasicEditors.h"
 
 #include "designintf/EditorSource.h"
+#include "designintf/TextChoices.h"
 #include "rtl/ClassRegistry.h"
 #include "rtl/Exceptions.h"
 #include "rtl/PropText.h"
@@ -19,6 +20,16 @@ TPropertyAttributes TEnumProperty::GetAttributes() const {
 }
 void TEnumProperty::GetValues(const TGetStrProc& proc) const {
   for (const QByteArray& element : GetPropType().Elements) proc(QString::fromLatin1(element));
+}
+
+TPropertyAttributes TStringProperty::GetAttributes() const {
+  TPropertyAttributes attributes = TPropertyEditor::GetAttributes();
+  if (!TextChoicesOf(*Props().front().Instance, GetPropInfo().Name).isEmpty())
+    attributes.Include(paValueList);
+  return attributes;
+}
+void TStringProperty::GetValues(const TGetStrProc& proc) const {
+  for (const QString& text : TextChoicesOf(*Props().front().Instance, GetPropInfo().Name)) proc(text);
 }
 
 TPropertyAttributes TCaptionProperty::GetAttributes() const {

@@ -28,6 +28,9 @@ class TFloatProperty : public TPropertyEditor {
 class TStringProperty : public TPropertyEditor {
  public:
   using TPropertyEditor::TPropertyEditor;
+  // A list where the property suggests texts (designintf/TextChoices.h).
+  TPropertyAttributes GetAttributes() const override;
+  void GetValues(const TGetStrProc& proc) const override;
   int GetEditLimit() const override { return 32767; }
 };
 // Captions and the like: the form follows every keystroke.

@@ -3,6 +3,7 @@
 #include <QCoreApplication>
 
 #include "ide/operations/Arrange.h"
+#include "ide/operations/HiddenIcons.h"
 #include "rtl/Exceptions.h"
 
 namespace {
@@ -31,6 +32,11 @@ template <std::size_t N>
 QString Controls(const FormSession& session) {
   if (session.Form().AcceptsControls()) return Components<N>(session);
   return OperationText("%1 is a data module: what stands on it are no controls.").arg(session.Form().Name());
+}
+
+QString HiddenIcons(const FormSession& session) {
+  if (!SelectedHiddenIcons(session).empty()) return {};
+  return OperationText("No icon of what is selected is hidden.");
 }
 
 template <TEdge edge>
@@ -63,6 +69,7 @@ void RunSelectAll(Context& c, const Row&) {
   c.session.Select(all);
 }
 void RunToGrid(Context& c, const Row& row) { AlignToGrid(c.session, row.Title(), c.grid); }
+void RunShowIcons(Context& c, const Row& row) { ShowHiddenIcons(c.session, row.Title()); }
 }  // namespace
 
 // clang-format off
@@ -104,6 +111,7 @@ const std::vector<ActionRow>& ActionTable() {
       {"bringToFront", Group::Order, "Bring to &front", "", "object-order-front", true, Controls<1>, nullptr, RunOrder<true>},
       {"sendToBack",   Group::Order, "Send to &back",   "", "object-order-back",  true, Controls<1>, nullptr, RunOrder<false>},
       {"alignToGrid",  Group::Grid, "Align to &grid", "", "grid-rectangular", true, Components<1>, nullptr, RunToGrid},
+      {"showIcons",    Group::Grid, "Show hidden &icons", "", "view-visible", false, HiddenIcons, nullptr, RunShowIcons},
   };
   return table;
 }

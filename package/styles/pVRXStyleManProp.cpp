@@ -9,6 +9,8 @@
 #include <QTreeWidget>
 
 #include "designintf/ComponentIcons.h"
+#include "designintf/TextChoices.h"
+#include "library/controls/Faced.h"
 #include "library_design/Named.h"
 #include "library_design/pVRXCommon.h"
 #include "package/dialogs/FaceIcons.h"
@@ -19,11 +21,27 @@
 
 using D = TfrmVRXStyleManProp;
 
+namespace {
+// What a control that names its style can take; states are styles of others.
+QStringList StylesFor(const TPersistent& object) {
+  const auto* control = dynamic_cast<const TControl*>(&object);
+  const bool takes = control && control->ClassType().FindProp(VRXStyleManagerRef.Name);
+  const TVRXStyleManager* manager = takes ? control->Get(VRXStyleManagerRef) : nullptr;
+  if (!manager) return {};
+  QStringList names;
+  manager->GetStyleNames(names);
+  names.removeIf([&](const QString& path) { return manager->IsStateStyle(VRXStyleName(path)); });
+  return names;
+}
+}  // namespace
+
 void pVRXStyleManProp::Initialization() {
   VRXCreateStyleRegistry();
   VRXEditStyles = &TfrmVRXStyleManProp::Execute;
+  RegisterTextChoices(VRXStyleRef.Name, &StylesFor);
 }
 void pVRXStyleManProp::Finalization() {
+  RegisterTextChoices(VRXStyleRef.Name, nullptr);
   VRXEditStyles = nullptr;
   VRXFreeStyleRegistry();
 }

@@ -285,3 +285,28 @@ TEST_F(Arranging, ContainersOfUnknownClassesTakeControlsFramesDoNot) {
   EXPECT_EQ(Bounds("A"), QRect(192, 30, 61, 27));
   ExpectOneCommand();
 }
+
+TEST_F(Arranging, HiddenIconsComeBackWhereNoOtherOneStands) {
+  std::string form =
+      "object F: TF\n  ClientHeight = 300\n  ClientWidth = 100\n"
+      "  object Shown: TTimer\n    Left = 8\n    Top = 8\n  end\n"
+      "  object A: TTimer\n    Left = -32768\n    Top = -32768\n    Tag = 77\n  end\n"
+      "  object B: TTimer\n    Left = -32768\n    Top = -32768\n  end\n"
+      "  object C: TTimer\n    Left = -32768\n    Top = -32768\n  end\nend\n";
+  Open(form.c_str());
+  EXPECT_EQ(Refusal("showIcons", {"Shown"}), "No icon of what is selected is hidden.");
+  EXPECT_FALSE(Refusal("showIcons", {"F"}).empty());
+  Run("showIcons", {"Shown", "A", "B"});
+  const QRect shown = Bounds("Shown"), a = Bounds("A"), b = Bounds("B");
+  EXPECT_EQ(shown.topLeft(), QPoint(8, 8));
+  for (const QRect& place : {a, b}) {
+    EXPECT_FALSE(place.intersects(shown));
+    EXPECT_TRUE(QRect(0, 0, 100, 300).contains(place));
+  }
+  EXPECT_FALSE(a.intersects(b));
+  EXPECT_EQ(a.top(), shown.top()) << "beside it as long as there is room";
+  EXPECT_GT(b.top(), shown.top()) << "and below it then";
+  EXPECT_EQ(Bounds("C").topLeft(), QPoint(-32768, -32768)) << "was not selected";
+  EXPECT_EQ(Get("A").Tag(), 77);
+  ExpectOneCommand();
+}

@@ -1,5 +1,8 @@
 // Values in the style editor that nobody has given yet, numbers at the ends of their types, and what its
 // lists show while something is looked for or dragged.
+#include "library/controls/CustomLabel.h"
+#include "library/controls/Faced.h"
+#include "library/values/FaceStates.h"
 #include "tests/package/StyleDialogTest.h"
 
 using namespace style_dialog;
@@ -172,6 +175,31 @@ TEST_F(StyleEditing, WhatTheFilterFindsIsInSightAndTheRestComesBack) {
   EXPECT_TRUE(Property(*d, "TVRXLEDLabel")->isExpanded());
   EXPECT_FALSE(Property(*d, "TButton")->isExpanded());
   EXPECT_FALSE(Property(*d, "TCheckBox")->isExpanded());
+}
+
+TEST_F(StyleEditing, AControlListsTheStylesOfItsManager) {
+  Fill(manager);
+  const QString state = QString::fromLatin1(StateStyleNames[0]);
+  manager.WritePropValue(VRXStylePath(Q("TButton"), state), Q("Width"), std::int64_t{5}, Q("Integer"));
+  TVRXStaticText label(nullptr);
+  const auto listed = [&] {
+    const auto editor = Of({&label}, "Style");
+    QStringList values;
+    editor->GetValues([&](const QString& value) { values << value; });
+    EXPECT_EQ(editor->GetAttributes().Contains(TPropertyAttribute::paValueList), !values.isEmpty());
+    return S(values.join(u' '));
+  };
+  EXPECT_EQ(listed(), "") << "without a manager";
+  label.Set(VRXStyleManagerRef, &manager);
+  EXPECT_EQ(listed(), ".Body TButton TButton|.Big");
+  const auto editor = Of({&label}, "Style");
+  editor->SetValue(Q(".Coming"));
+  EXPECT_EQ(S(label.Get(VRXStyleRef)), ".Coming") << "one that is still to be made";
+  const auto hint = Of({&label}, "Hint");
+  EXPECT_FALSE(hint->GetAttributes().Contains(TPropertyAttribute::paValueList));
+  pVRXStyleManProp::Finalization();
+  EXPECT_EQ(listed(), "");
+  pVRXStyleManProp::Initialization();
 }
 
 TEST_F(StyleEditing, TheControlHasRoomInTheDialogOfTheUsualSize) {
