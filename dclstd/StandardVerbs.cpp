@@ -10,6 +10,7 @@
 #include "vcl/Grid.h"
 #include "vcl/ListItems.h"
 #include "vcl/Picture.h"
+#include "vcl/Previewed.h"
 #include "vcl/TreeNodes.h"
 
 namespace {
@@ -38,8 +39,12 @@ std::vector<const TPropInfo*> TStandardEditor::Listed() const {
   return listed;
 }
 
+int TStandardEditor::Previews() const { return dynamic_cast<const IPreviewed*>(GetComponent()) ? 1 : 0; }
+
 QString TStandardEditor::GetVerb(int index) const {
+  if (index == 0 && Previews()) return QObject::tr("Preview...");
   const auto listed = Listed();
+  index -= Previews();
   if (index < 0 || index >= static_cast<int>(listed.size())) return {};
   const TPropInfo& property = *listed[static_cast<std::size_t>(index)];
   const QString name = QString::fromLatin1(property.Name);
@@ -47,7 +52,10 @@ QString TStandardEditor::GetVerb(int index) const {
 }
 
 void TStandardEditor::ExecuteVerb(int index) {
+  if (auto* dialog = dynamic_cast<IPreviewed*>(GetComponent()); dialog && index == 0)
+    return dialog->Preview();
   const auto listed = Listed();
+  index -= Previews();
   if (index >= 0 && index < static_cast<int>(listed.size()))
     EditProperty(*listed[static_cast<std::size_t>(index)]);
 }
@@ -64,6 +72,7 @@ void TStandardEditor::EditProperty(const TPropInfo& property) {
 }
 
 void TStandardEditor::Edit() {
+  if (Previews()) return ExecuteVerb(0);
   const auto listed = Listed();
   if (!listed.empty() && IsItems(*listed.front())) return EditProperty(*listed.front());
   if (const TPropInfo* picture = PictureOf(*GetComponent())) return EditProperty(*picture);

@@ -10,9 +10,11 @@ class TStandardEditor : public TDefaultEditor {
   void Edit() override;
   void ExecuteVerb(int index) override;
   QString GetVerb(int index) const override;
-  int GetVerbCount() const override { return static_cast<int>(Listed().size()); }
+  int GetVerbCount() const override { return Previews() + static_cast<int>(Listed().size()); }
 
  private:
+  // Dialogs have a verb to look at them, the first one; else none.
+  int Previews() const;
   std::vector<const TPropInfo*> Listed() const;
   void EditProperty(const TPropInfo& property);
   using TDefaultEditor::EditProperty;

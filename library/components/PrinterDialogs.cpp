@@ -227,3 +227,17 @@ bool TVRXFormPrintCommDialog::Execute() {
   VRXPrinterSetup().OutputFile = printer.outputFileName();
   return true;
 }
+
+namespace {
+// The program's choice is not the designer's to make.
+template <class T>
+void PreviewOnPrinters(const T& dialog) {
+  const TVRXPrinterSetup setup = VRXPrinterSetup();
+  const auto back = qScopeGuard([&] { VRXPrinterSetup() = setup; });
+  PreviewCopyOf(dialog);
+}
+}  // namespace
+
+void TVRXFormPageSetupDialog::Preview() { PreviewOnPrinters(*this); }
+void TVRXFormPrinterSetupDialog::Preview() { PreviewOnPrinters(*this); }
+void TVRXFormPrintCommDialog::Preview() { PreviewOnPrinters(*this); }

@@ -3,7 +3,7 @@
 #include "library_design/ImageListDialogs.h"
 
 const TVRXDlgEditor::Verbs TVRXDlgEditor::Table = {
-    {"Preview",
+    {"Preview...",
      [](TVRXBaseDialog& dialog) {
        dialog.Preview();
        return false;

@@ -8,6 +8,7 @@
 #include "library/components/TellingDialogs.h"
 #include "package/component_editors/pVRXCEDialogs.h"
 #include "rtl/Clock.h"
+#include "tests/package/ListEditorTest.h"
 #include "tests/support/AnsweredDialog.h"
 #include "vcl/Calendar.h"
 
@@ -240,4 +241,39 @@ TEST(DialogEditors, OfferWhatTheyAreSupposedTo) {
   EXPECT_EQ(demo.GetVerb(1), QString());
   demo.ExecuteVerb(0);
   EXPECT_EQ(shown, 2);
+}
+
+namespace {
+class DialogVerbs : public ListEditors {};
+}  // namespace
+
+// A dialog that is confirmed while somebody looks at it leaves no trace on the form.
+TEST_F(DialogVerbs, ADoubleClickShowsEveryDialogOfThePage) {
+  SetPrompts(&prompts);
+  const auto pages = registry.PalettePages();
+  const auto page = std::find_if(pages.begin(), pages.end(),
+                                 [](const TPalettePage& p) { return p.Name == QStringLiteral("VRX Dlg"); });
+  ASSERT_NE(page, pages.end());
+  ASSERT_EQ(page->Classes.size(), 20u);
+  for (const TClass* cls : page->Classes) {
+    SCOPED_TRACE(cls->ClassName().constData());
+    const auto session = FormWith("  object Dialog1: " + cls->ClassName() + "\n  end\n", registry);
+    TComponent* dialog = session->GetComponent(QStringLiteral("Dialog1"));
+    ASSERT_NE(dialog, nullptr);
+    const QByteArray before = session->Bytes();
+    int shown = 0;
+    const TVRXDialogAnswers answers([&](QDialog&) {
+      ++shown;
+      return Ok;
+    });
+    const auto editor = registry.GetComponentEditor(dialog, session.get());
+    EXPECT_TRUE(
+        QStringList({QStringLiteral("Preview..."), QStringLiteral("Demo")}).contains(editor->GetVerb(0)));
+    editor->Edit();
+    EXPECT_EQ(shown, 1);
+    editor->ExecuteVerb(0);
+    EXPECT_EQ(shown, 2);
+    EXPECT_EQ(session->Bytes(), before);
+    EXPECT_FALSE(session->CanUndo());
+  }
 }
