@@ -82,9 +82,9 @@ const std::vector<CommandRow>& CommandTable() {
       {"effect3d",
        "SOURCE --up PNG --down PNG --disabled PNG [--transparent C] [--light C] [--shadow C] [--dither C] "
        "[--bevel C] [--width N] [--semi KEY,SECOND]",
-       "Makes the pictures of a three-dimensional button. C is a colour: clRed, $00BBGGRR\n"
-       "or #rrggbb. Without --transparent it is the colour of the lower left pixel; the\n"
-       "bevel is 2 wide. --semi makes pixels of the colour KEY half transparent.\n"
+       "Makes the pictures of a three-dimensional button. C is a color: clRed, $00BBGGRR\n"
+       "or #rrggbb. Without --transparent it is the color of the lower left pixel; the\n"
+       "bevel is 2 wide. --semi makes pixels of the color KEY half transparent.\n"
        "With --out-dir DIR instead of the three files it takes many sources, on all cores,\n"
        "and writes NAME-up.png, NAME-down.png and NAME-disabled.png.",
        Effect3DCommand},
@@ -92,7 +92,7 @@ const std::vector<CommandRow>& CommandTable() {
        "SOURCE --transparent C[,C...] [--border STYLE | --button LOOK --first PNG --second PNG] [--region "
        "FILE] "
        "[--picture PNG] [--json]",
-       "Makes the region of a shaped window or button: what is of none of the colours.\n"
+       "Makes the region of a shaped window or button: what is of none of the colors.\n"
        "STYLE: none, single, raised, lowered, single-raised, single-lowered; LOOK: win31,\n"
        "win40, simple. --transparent may be given several times. --region writes region\n"
        "data, --picture the picture with its border; --json prints bounds, count and\n"

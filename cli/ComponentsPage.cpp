@@ -43,6 +43,11 @@ class Page {
     for (const Chapter& chapter : chapters_) Contents(chapter);
     for (const Chapter& chapter : chapters_) {
       text_ += QStringLiteral("\n## %1\n").arg(chapter.title);
+      if (chapter.title == QStringLiteral("VRX Labeled"))
+        text_ += QStringLiteral(
+            "\nOn the palette while View > Palette with labeled variants is checked; forms may hold them at "
+            "any "
+            "time.\n");
       for (const ClassDescription& c : chapter.classes) Write(c);
     }
     text_ += QStringLiteral("\n## Values\n\nWhat components have as parts.\n");

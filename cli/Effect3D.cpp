@@ -72,7 +72,7 @@ Effect ReadOptions(const Arguments& args) {
   }
   if (args.Has(QStringLiteral("--semi"))) {
     const QStringList parts = args.options[QStringLiteral("--semi")].split(u',');
-    if (parts.size() != 2) throw UsageError{QStringLiteral("--semi takes two colours, KEY,SECOND")};
+    if (parts.size() != 2) throw UsageError{QStringLiteral("--semi takes two colors, KEY,SECOND")};
     e.semi = true;
     e.semiKey = ColorOption(QStringLiteral("--semi"), parts[0]);
     e.semiSecond = ColorToRGB(ColorOption(QStringLiteral("--semi"), parts[1]));

@@ -67,9 +67,9 @@ Shape ReadShape(const QStringList& colors, const Arguments& args) {
   Shape shape;
   for (const QString& text : colors)
     shape.transparent.push_back(ColorOption(QStringLiteral("--transparent"), text));
-  if (shape.transparent.empty()) throw UsageError{QStringLiteral("--transparent needs at least one colour")};
+  if (shape.transparent.empty()) throw UsageError{QStringLiteral("--transparent needs at least one color")};
   if (shape.transparent.size() > MaxTransparentColors)
-    throw UsageError{QStringLiteral("--transparent takes at most %1 colours").arg(MaxTransparentColors)};
+    throw UsageError{QStringLiteral("--transparent takes at most %1 colors").arg(MaxTransparentColors)};
   const QString border = QStringLiteral("--border"), button = QStringLiteral("--button");
   if (args.Has(border) && args.Has(button))
     throw UsageError{QStringLiteral("--border is for windows, --button for buttons; give one")};

@@ -137,6 +137,6 @@ QToolButton* NewColorButton(const char* name, QWidget* parent) {
   button->setObjectName(QString::fromLatin1(name));
   button->setIcon(ColorsIcon());
   button->setFixedSize(23, 23);
-  button->setAccessibleName(QObject::tr("Choose a colour"));
+  button->setAccessibleName(QObject::tr("Choose a color"));
   return button;
 }

@@ -82,7 +82,7 @@ ImageListDialog::ImageListDialog(QWidget* owner) : RowDialog(tr("Image List Edit
 
   auto* grid = new QGridLayout;
   RowsInto(*grid);
-  Row(transparent, "transparent", "", "&Transparent:", "The colour that the selected pictures leave out")
+  Row(transparent, "transparent", "", "&Transparent:", "The color that the selected pictures leave out")
       .Changes(&ImageListDialog::transparentChange);
   Row(width, "width", "", "&Width:", "Of every picture; they are scaled")
       .Range(1, MostSide, 3)

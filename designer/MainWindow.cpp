@@ -197,7 +197,7 @@ void MainWindow::BuildMenus() {
   for (const WindowMenu part :
        {WindowMenu::Panes, WindowMenu::Palette, WindowMenu::Go, WindowMenu::Zoom, WindowMenu::Theme})
     commands_->AddTo(view, part);
-  commands_->AddTo(*view.addMenu(tr("Form &colours")), WindowMenu::FormColors);
+  commands_->AddTo(*view.addMenu(tr("Form &colors")), WindowMenu::FormColors);
   form_->AddTo(*menuBar()->addMenu(tr("F&orm")), {ActionGroup::Align, ActionGroup::Size, ActionGroup::Spacing,
                                                   ActionGroup::Order, ActionGroup::Grid});
   commands_->AddTo(*menuBar()->addMenu(tr("&Help")), WindowMenu::Help);

@@ -74,7 +74,7 @@ QString TitleOf(Menu menu) {
     case Menu::Theme:
       return WindowCommands::tr("Designer");
     case Menu::FormColors:
-      return WindowCommands::tr("Form colours");
+      return WindowCommands::tr("Form colors");
     default:
       return {};
   }

@@ -25,7 +25,7 @@ struct WindowCommand {
   bool (*isOn)(const IDesignerWindow& window);
 
   QString Text() const;
-  QString Title() const;  // "Form colours: Dark"
+  QString Title() const;  // "Form colors: Dark"
 };
 const std::vector<WindowCommand>& WindowCommandTable();
 

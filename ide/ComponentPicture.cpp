@@ -7,9 +7,11 @@
 #include "ide/Tiles.h"
 #include "rtl/ClassRegistry.h"
 #include "rtl/PropText.h"
+#include "vcl/Action.h"
 #include "vcl/Form.h"
 #include "vcl/FormColors.h"
 #include "vcl/FormDecor.h"
+#include "vcl/Menu.h"
 
 namespace {
 constexpr int Margin = 8, Around = 40, Icon = 48;
@@ -44,6 +46,12 @@ QRect InkOf(const QImage& image) {
 QRect Scaled(const QRect& rect, double scale) {
   return {QPointF(rect.topLeft() * scale).toPoint(), QSizeF(rect.size() * scale).toSize()};
 }
+// What a person can have on a form though no page offers it. Actions and items of menus stand inside of
+// others.
+bool CanStandOnForms(const TClass& cls) {
+  return !cls.IsAbstract() && cls.InheritsFrom(TComponent::StaticClass()) &&
+         !cls.InheritsFrom(TBasicAction::StaticClass()) && !cls.InheritsFrom(TMenuItem::StaticClass());
+}
 }  // namespace
 
 std::vector<TPalettePage> PagesOfPictures(const DesignRegistry& registry) {
@@ -53,8 +61,7 @@ std::vector<TPalettePage> PagesOfPictures(const DesignRegistry& registry) {
     const bool placed = std::any_of(pages.begin(), pages.end(), [&](const TPalettePage& page) {
       return std::find(page.Classes.begin(), page.Classes.end(), cls) != page.Classes.end();
     });
-    if (!placed && !cls->IsAbstract() && cls->InheritsFrom(TControl::StaticClass()))
-      others.Classes.push_back(cls);
+    if (!placed && CanStandOnForms(*cls)) others.Classes.push_back(cls);
   }
   if (!others.Classes.empty()) pages.push_back(std::move(others));
   return pages;

@@ -56,7 +56,7 @@ ColorEnhDialog::ColorEnhDialog(TColor color, const QStringList& customColors, QW
 
 void ColorEnhDialog::Build() {
   filter_ = new QLineEdit;
-  filter_->setPlaceholderText(tr("Find a colour..."));
+  filter_->setPlaceholderText(tr("Find a color..."));
   filter_->setClearButtonEnabled(true);
   named_ = new QListWidget;
   named_->setIconSize(QSize(28, 14));
@@ -96,7 +96,7 @@ void ColorEnhDialog::Build() {
   customList_->setMaximumHeight(120);
   auto* add = new QPushButton(tr("&Add"));
   add->setObjectName(QStringLiteral("addCustom"));
-  add->setToolTip(tr("Keeps the new colour among the custom colours"));
+  add->setToolTip(tr("Keeps the new color among the custom colors"));
   auto* remove = new QPushButton(tr("Re&move"));
   remove->setObjectName(QStringLiteral("removeCustom"));
   connect(add, &QPushButton::clicked, this, &ColorEnhDialog::AddCustom);
@@ -111,7 +111,7 @@ void ColorEnhDialog::Build() {
   connect(named_, &QListWidget::itemDoubleClicked, this, &QDialog::accept);
 
   sample_ = new Sample(original_, color_, this);
-  sample_->setToolTip(tr("Left: the colour so far. Right: the new colour."));
+  sample_->setToolTip(tr("Left: the color so far. Right: the new color."));
   auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
   connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
   connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);

@@ -15,19 +15,19 @@ TVRXFillEditorDlg::TVRXFillEditorDlg(QWidget* owner)
   Preview(test, "Shows the current settings.");
   test->Set(TVRXBaseShape::FillStyle, TVRXShapeFillStyle::sfShapeFill);
   Edits(*test->ShapeFill());
-  Row(cmbkind, "cmbkind", "Kind", "&Kind:", "A colour, a gradient, a hatch or a bitmap.");
+  Row(cmbkind, "cmbkind", "Kind", "&Kind:", "A color, a gradient, a hatch or a bitmap.");
   Row(cmbcolor, "cmbcolor", "Color",
-      "&Color:", "Colour of the area, of the gradient's beginning or of the hatch's lines.")
+      "&Color:", "Color of the area, of the gradient's beginning or of the hatch's lines.")
       .WithButton(dlgc, "dlgc", &D::btn);
-  Row(cmbend, "cmbend", "EndColor", "&EndColor:", "Colour of the gradient's end or of the hatch's ground.")
+  Row(cmbend, "cmbend", "EndColor", "&EndColor:", "Color of the gradient's end or of the hatch's ground.")
       .WithButton(dlge, "dlge", &D::btn);
   Row(cmbdirection, "cmbdirection", "Direction", "&Direction:", "Where the gradient runs to.");
-  colors = Named(new QListWidget(this), "colors", "All colours of a gradient that has more than two.");
+  colors = Named(new QListWidget(this), "colors", "All colors of a gradient that has more than two.");
   colors->setMaximumHeight(72);
   Wide({colors});
   Follows(colors);
-  Button(btnadd, "btnadd", "&Add colour...", &D::btnaddClick);
-  Button(btndelete, "btndelete", "De&lete colour", &D::btndeleteClick);
+  Button(btnadd, "btnadd", "&Add color...", &D::btnaddClick);
+  Button(btndelete, "btndelete", "De&lete color", &D::btndeleteClick);
   Wide({btnadd, btndelete});
   Row(cmbhatch, "cmbhatch", "Hatch", "&Hatch:", "The lines of a hatch.");
   Row(cmbplace, "cmbplace", "BitmapPlace",

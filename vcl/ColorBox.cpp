@@ -81,7 +81,7 @@ const TClass& TColorBox::StaticClass() {
           .Publish("TabStop", true)
           .Event("OnGetColors", "TGetColorsEvent")
           .Alphabetical()
-          .ClassDoc(QStringLiteral("A field with a list of colours to choose from."),
+          .ClassDoc(QStringLiteral("A field with a list of colors to choose from."),
                     "pen line 1.5 brush fill box 2.5 7.5 19 9 2 pen none brush accent box 4 9 8.5 6 0 pen "
                     "accent 2 brush none path 14.5 11 17 13.5 19.5 11"));
   return cls;
@@ -133,7 +133,7 @@ const TClass& TColorListBox::StaticClass() {
           .Publish("TabStop", true)
           .Event("OnGetColors", "TLBGetColorsEvent")
           .Alphabetical()
-          .ClassDoc(QStringLiteral("A list of colours."),
+          .ClassDoc(QStringLiteral("A list of colors."),
                     "pen line 1.5 brush fill box 4 3.5 16 17 2 pen none brush accent box 6.5 6 4 4 0 brush "
                     "line box 6.5 13.5 4 4 0 pen line 1.5 path 13 8 17.5 8 path 13 15.5 17.5 15.5"));
   return cls;

@@ -117,7 +117,7 @@ TColor StringToColor(const QString& input) {
     if (ok && v >= INT32_MIN && v <= UINT32_MAX) return TColor(static_cast<std::uint32_t>(v));
   }
   throw EConvertError(
-      QStringLiteral("\"%1\" is not a colour: use a name (clRed), $00BBGGRR or #rrggbb.").arg(input));
+      QStringLiteral("\"%1\" is not a color: use a name (clRed), $00BBGGRR or #rrggbb.").arg(input));
 }
 
 TColor FromQColor(const QColor& c) {

@@ -41,7 +41,7 @@ TClassBuilder ColorRows(TClassBuilder b) {
   return std::move(b)
       .Published(TColorDialog::Color)
       .Published(TColorDialog::CustomColors)
-      .Doc(QStringLiteral("Colours of one's own, as \"ColorA=FFFFFF\", to \"ColorP\"."))
+      .Doc(QStringLiteral("Colors of one's own, as \"ColorA=FFFFFF\", to \"ColorP\"."))
       .Passive("Options", TColorDialogOptions{})
       .Published(TColorDialog::Title);
 }

@@ -19,7 +19,7 @@ const TClass& TCustomEdit::StaticClass() {
                               .Type(CaptionType())
                               .Doc(QStringLiteral("What is in the field."))
                               .Declared(TextHint)
-                              .Doc(QStringLiteral("What the field shows in grey while it is empty."))
+                              .Doc(QStringLiteral("What the field shows in gray while it is empty."))
                               .DeclaredEvent("OnChange"));
   return cls;
 }

@@ -35,7 +35,7 @@ constexpr auto Rows = std::to_array<TStandardActionRow>({
     {"THelpTopicSearch", "Help", "Looks for a topic of the help."},
     {"THelpOnHelp", "Help", "Shows how the help is used."},
     {"THelpContextAction", "Help", "Shows the help of what has the focus."},
-    {"TColorSelect", "Dialog", "Asks for a colour."},
+    {"TColorSelect", "Dialog", "Asks for a color."},
     {"TFontEdit", "Dialog", "Asks for a font."},
     {"TPrintDlg", "Dialog", "Asks what to print."},
     {"TNextTab", "Tab", "Shows the next page."},

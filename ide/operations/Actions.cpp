@@ -98,7 +98,7 @@ const std::vector<ActionRow>& ActionTable() {
       {"delete",       Group::Clipboard, "&Delete",       "Del",                  "edit-delete",     true,  Components<1>, nullptr, RunDelete},
       {"selectAll",    Group::Select,    "Select &all",   "Ctrl+A",               "edit-select-all", false, Always,        nullptr, RunSelectAll},
       {"alignLeft",    Group::Align, "&Left edges",   "", "align-horizontal-left",   true, Components<2>, nullptr, RunAlign<TEdge::Left>},
-      {"alignCenter",  Group::Align, "&Centres",      "", "align-horizontal-center", true, Components<2>, nullptr, RunAlign<TEdge::Center>},
+      {"alignCenter",  Group::Align, "&Centers",      "", "align-horizontal-center", true, Components<2>, nullptr, RunAlign<TEdge::Center>},
       {"alignRight",   Group::Align, "&Right edges",  "", "align-horizontal-right",  true, Components<2>, nullptr, RunAlign<TEdge::Right>},
       {"alignTop",     Group::Align, "&Top edges",    "", "align-vertical-top",      true, Components<2>, nullptr, RunAlign<TEdge::Top>},
       {"alignMiddle",  Group::Align, "&Middles",      "", "align-vertical-center",   true, Components<2>, nullptr, RunAlign<TEdge::Middle>},

@@ -8,7 +8,7 @@
 const TClass& TVRXFormColorDialog::StaticClass() {
   static const TClass cls(
       DescribeClass<TVRXFormColorDialog>("TVRXFormColorDialog", TColorDialog::StaticClass())
-          .ClassDoc(QStringLiteral("Asks for a colour."),
+          .ClassDoc(QStringLiteral("Asks for a color."),
                     "pen line 1.5 brush fill box 3 4 18 16 2 path 3 8 21 8 brush accent box 6 11 4 3.5 0 "
                     "brush none box 13 11 5 6.5 0 path 6 17.5 10 17.5"));
   return cls;

@@ -8,7 +8,7 @@ const TClass& TVRXForm::StaticClass() {
           .Passive("ClientMove", false)
           .Doc(QStringLiteral("The form can be moved by its client area."))
           .Published(FrameColor)
-          .Doc(QStringLiteral("Colour of a line along the frame; clNone is none."))
+          .Doc(QStringLiteral("Color of a line along the frame; clNone is none."))
           .Published(FrameWidth)
           .Doc(QStringLiteral("Width of the line along the frame, in pixels."))
           .Passive("KeepOnScreen", false)

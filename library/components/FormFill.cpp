@@ -35,7 +35,7 @@ const TClass& TVRXBack::StaticClass() {
                      TVRXBitmapPlace::bpTile)
           .Doc(QStringLiteral("Whether the picture stands in the middle, is repeated or stretched."))
           .Published("Color", &TVRXBack::Color, &TVRXBack::SetColor, clBtnFace)
-          .Doc(QStringLiteral("Colour of what the picture leaves free."))
+          .Doc(QStringLiteral("Color of what the picture leaves free."))
           .PublishAll("DefaultFill", "Enabled")
           .Published("ImageIndex", &TVRXBack::ImageIndex, &TVRXBack::SetImageIndex, -1)
           .Doc(QStringLiteral("A picture of the image list, in place of the bitmap; -1 is none."))

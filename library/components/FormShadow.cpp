@@ -5,7 +5,7 @@ const TClass& TVRXFormShadow::StaticClass() {
                               .Published(Enabled)
                               .Doc(QStringLiteral("Whether the form has a shadow."))
                               .Published(ShadowPart)
-                              .Doc(QStringLiteral("Colour and depth of the shadow."))
+                              .Doc(QStringLiteral("Color and depth of the shadow."))
                               .Published(ShowInActive)
                               .Doc(QStringLiteral("Whether the shadow stays while another form is active."))
                               .ClassDoc(QStringLiteral("Gives the form a shadow."),

@@ -4,7 +4,7 @@ const TClass& TVRXFormShape::StaticClass() {
   static const TClass cls(
       DescribeClass<TVRXFormShape>("TVRXFormShape", TFormDecor::StaticClass())
           .Published(BorderColor)
-          .Doc(QStringLiteral("Colour of the line along the outline; clNone is none."))
+          .Doc(QStringLiteral("Color of the line along the outline; clNone is none."))
           .Published(BorderWidth)
           .Doc(QStringLiteral("Width of the line along the outline, in pixels."))
           .Published(Enabled)

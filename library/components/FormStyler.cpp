@@ -11,22 +11,22 @@ const TClass& TVRXFormStyler::StaticClass() {
           .Published(Enabled)
           .Doc(QStringLiteral("Whether it changes the title bar."))
           .Published(EndColor)
-          .Doc(QStringLiteral("Colour of the title bar's end while the form is active."))
+          .Doc(QStringLiteral("Color of the title bar's end while the form is active."))
           .Published("Font", &TVRXFormStyler::Font, &TVRXFormStyler::SetFont)
           .StoredIf(&TVRXFormStyler::FontStored)
           .Published(Font3DPart)
           .Doc(QStringLiteral("Light and shadow of the caption's letters."))
           .Published(InactiveColor)
-          .Doc(QStringLiteral("Colour of the title bar while another form is active."))
+          .Doc(QStringLiteral("Color of the title bar while another form is active."))
           .Published(InactiveEndColor)
-          .Doc(QStringLiteral("Colour of the title bar's end while another form is active."))
+          .Doc(QStringLiteral("Color of the title bar's end while another form is active."))
           .Published("Options", &TVRXFormStyler::Options, &TVRXFormStyler::SetOptions, DefaultOptions)
           .Doc(QStringLiteral("What is done to the title bar."))
           .Published(StartColor)
-          .Doc(QStringLiteral("Colour of the title bar while the form is active."))
+          .Doc(QStringLiteral("Color of the title bar while the form is active."))
           .Event("OnDrawCaption")
           .ClassDoc(
-              QStringLiteral("Gives the form's title bar colours and its caption a font."),
+              QStringLiteral("Gives the form's title bar colors and its caption a font."),
               "pen line 1.5 brush fill box 3 4 18 16 2 pen none brush accent box 3.75 4.75 16.5 5 0 pen "
               "line 1.8 path 8.5 18 12 11.5 15.5 18 path 10 16 14 16"));
   return cls;

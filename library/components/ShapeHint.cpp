@@ -5,9 +5,9 @@
 const TClass& TVRXCustomShapeHint::StaticClass() {
   static const TClass cls(DescribeClass<TVRXCustomShapeHint>("TVRXCustomShapeHint", TComponent::StaticClass())
                               .Declared(BorderColor)
-                              .Doc(QStringLiteral("Colour of the outline."))
+                              .Doc(QStringLiteral("Color of the outline."))
                               .Declared(Color)
-                              .Doc(QStringLiteral("Colour of the ground."))
+                              .Doc(QStringLiteral("Color of the ground."))
                               .Declared(Enabled)
                               .Doc(QStringLiteral("Whether hints look like this."))
                               .Declared("Font", &TVRXCustomShapeHint::Font, &TVRXCustomShapeHint::SetFont)

@@ -14,7 +14,7 @@ const TClass& TVRXFill::StaticClass() {
                       .Doc(QStringLiteral("The text, with its place, font and effects."))
                       .PublishAll("Color", "Enabled"))
           .Published(Filled)
-          .Doc(QStringLiteral("Fills the area; else it has its colour."))
+          .Doc(QStringLiteral("Fills the area; else it has its color."))
           .Published(FillPart)
           .Doc(QStringLiteral("What the area is filled with."))
           .PublishAll(Hints)

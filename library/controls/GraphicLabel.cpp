@@ -27,7 +27,7 @@ const TClass& TVRXGraphicLabel::StaticClass() {
           .Doc(QStringLiteral("Pictures to fill with."))
           .Published(Layout)
           .Published(OutlineWidth)
-          .Doc(QStringLiteral("The line around the letters, in the colour of the font; 0 is none."))
+          .Doc(QStringLiteral("The line around the letters, in the color of the font; 0 is none."))
           .PublishAll("ParentColor")
           .Publish("ParentFont", false)
           .Published(Perspective)

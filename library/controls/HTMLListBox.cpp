@@ -151,7 +151,7 @@ const TClass& TVRXHTMLListBox::StaticClass() {
       Publishing(DescribeClass<TVRXHTMLListBox>("TVRXHTMLListBox", TVRXCustomHTMLListBox::StaticClass()))
           .Alphabetical()
           .ClassDoc(
-              QStringLiteral("A list of texts with markup: bold, colours, pictures, links."),
+              QStringLiteral("A list of texts with markup: bold, colors, pictures, links."),
               "pen line 1.5 brush fill box 3.5 3.5 17 17 2 pen accent 2.4 path 6.5 8 11 8 pen line 1.5 path "
               "13 8 17 8 path 6.5 12 17 12 pen accent 1.5 path 6.5 16 13 16 path 6.5 18 13 18"));
   return cls;
@@ -164,14 +164,14 @@ const TClass& TVRXHTMLListBoxExt::StaticClass() {
           .Published(AlternateColor)
           .Doc(QStringLiteral("Ground of every other row; clNone for that of the list."))
           .Published(LineColor)
-          .Doc(QStringLiteral("Colour of the lines between rows."))
+          .Doc(QStringLiteral("Color of the lines between rows."))
           .Published(RowSpacing)
           .Doc(QStringLiteral("Pixels above and below the text of a row."))
           .Published(SelectedColor)
           .Doc(QStringLiteral("Ground of the selected row."))
           .Published(SelectedTextColor)
           .Doc(QStringLiteral(
-              "Letters of the selected row, where they have no colour that can be read there."))
+              "Letters of the selected row, where they have no color that can be read there."))
           .Published(ShowLines)
           .Doc(QStringLiteral("Whether lines stand between the rows."))
           .Alphabetical()

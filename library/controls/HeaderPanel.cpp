@@ -17,7 +17,7 @@ const TClass& TVRXCustomHeader::StaticClass() {
                               .Doc(QStringLiteral("Whether the title is bold."))
                               .PublishAll("Caption", Look)
                               .Published(Filled)
-                              .Doc(QStringLiteral("Fills the header; else it has its colour."))
+                              .Doc(QStringLiteral("Fills the header; else it has its color."))
                               .Published(FillPart)
                               .Doc(QStringLiteral("What the header is filled with."))
                               .PublishAll(Hints)

@@ -16,7 +16,7 @@ const TClass& TVRXLEDCustomLabel::StaticClass() {
           .Declared(BevelPart)
           .Doc(QStringLiteral("A frame in light and shadow around the letters."))
           .Declared("LED", &TVRXLEDCustomLabel::LED, &TVRXLEDCustomLabel::SetLED)
-          .Doc(QStringLiteral("Size and colours of the segment letters."))
+          .Doc(QStringLiteral("Size and colors of the segment letters."))
           .Declared("Transparent", &TVRXLEDCustomLabel::Transparent, &TVRXLEDCustomLabel::SetTransparent,
                     false)
           .Doc(QStringLiteral("Lets what is behind the letters show through.")));

@@ -8,7 +8,7 @@ const TClass& TVRXCustomLabelFill::StaticClass() {
   static const TClass cls(
       DescribeClass<TVRXCustomLabelFill>("TVRXCustomLabelFill", TVRXCustomLabel::StaticClass())
           .Declared(BrushBackColor)
-          .Doc(QStringLiteral("Colour between the lines of a hatch; clNone leaves it to the fill."))
+          .Doc(QStringLiteral("Color between the lines of a hatch; clNone leaves it to the fill."))
           .Declared(FillPart)
           .Doc(QStringLiteral("What the letters are filled with."))
           .Declared(ImageList)

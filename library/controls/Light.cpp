@@ -13,7 +13,7 @@ const TClass& TVRXCustomLight::StaticClass() {
           .Declared(BevelPart)
           .Doc(QStringLiteral("The frame around the light."))
           .Declared(LightColor)
-          .Doc(QStringLiteral("The colours that the light is on and off with."))
+          .Doc(QStringLiteral("The colors that the light is on and off with."))
           .Declared(Style)
           .Doc(QStringLiteral("Round or rectangular."))
           .Declared(Transparent)

@@ -49,7 +49,7 @@ const TClass& TVRXCustomMMButton::StaticClass() {
           .Declared(Spacing)
           .Declared("Transparent", &C::Transparent, &C::SetTransparent, false)
           .Doc(QStringLiteral(
-              "Leaves the colour of the lower left pixel out of pictures without transparency.")));
+              "Leaves the color of the lower left pixel out of pictures without transparency.")));
   return cls;
 }
 

@@ -32,7 +32,7 @@ const TClass& TVRXNoteBookPage::StaticClass() {
       DescribeClass<TVRXNoteBookPage>("TVRXNoteBookPage", TVRXCustomSheet::StaticClass())
           .PublishAll("Caption", Look)
           .Published(Filled)
-          .Doc(QStringLiteral("Fills the page; else it has its colour."))
+          .Doc(QStringLiteral("Fills the page; else it has its color."))
           .Published(FillPart)
           .Doc(QStringLiteral("What the page is filled with."))
           .PublishAll(Hints, "ImageIndex", ParentLook, "PopupMenu", "TabVisible", FocusEvents, MouseEvents,

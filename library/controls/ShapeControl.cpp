@@ -12,7 +12,7 @@ const TClass& TVRXBaseShape::StaticClass() {
           .Declared(BevelPart)
           .Doc(QStringLiteral("The bevel inside of the outline."))
           .Declared(BevelColor)
-          .Doc(QStringLiteral("Colour of the outline; clNone is none."))
+          .Doc(QStringLiteral("Color of the outline; clNone is none."))
           .Declared(BrushPart)
           .Doc(QStringLiteral("How the area is filled."))
           .Declared(CaptionPart)
@@ -21,7 +21,7 @@ const TClass& TVRXBaseShape::StaticClass() {
           .Doc(QStringLiteral("Draws a rectangle with a toothed side in place of the shape."))
           .Declared(FillStyle)
           .Doc(QStringLiteral(
-              "Filled by the brush, in the control's colour, not at all, or by the shape fill."))
+              "Filled by the brush, in the control's color, not at all, or by the shape fill."))
           .Declared(RoundPercent)
           .Doc(QStringLiteral("How round the corners of a round rectangle are; 100 is as round as can be."))
           .Declared(ShadowPart)

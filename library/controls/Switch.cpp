@@ -17,9 +17,9 @@ const TClass& TVRXCustomSwitch::StaticClass() {
           .Declared(Checked)
           .Doc(QStringLiteral("Whether the switch is on."))
           .Declared(ColorChecked)
-          .Doc(QStringLiteral("Colour of the switch that is on."))
+          .Doc(QStringLiteral("Color of the switch that is on."))
           .Declared(ColorUnChecked)
-          .Doc(QStringLiteral("Colour of the switch that is off."))
+          .Doc(QStringLiteral("Color of the switch that is off."))
           .Declared(Transparent)
           .Doc(QStringLiteral("Lets what is behind the switch show through around it.")));
   return cls;
@@ -57,7 +57,7 @@ const TClass& TVRXWSwitch::StaticClass() {
 TVRXCustomSwitch::TVRXCustomSwitch(TComponent* owner) : TWinControl(owner) { tabStop_ = true; }
 
 const TKept<TColor>& TVRXCustomSwitch::ColorOf(int index) {
-  if (index != 0 && index != 1) throw EPropertyError(QStringLiteral("A switch has no colour %1.").arg(index));
+  if (index != 0 && index != 1) throw EPropertyError(QStringLiteral("A switch has no color %1.").arg(index));
   return index == 0 ? ColorChecked : ColorUnChecked;
 }
 

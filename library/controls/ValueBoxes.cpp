@@ -100,7 +100,7 @@ const TClass& TVRXCustomCalendarBox::StaticClass() {
           .Declared(AllowEmpty)
           .Doc(QStringLiteral("A date of 0 is none, not today."))
           .Declared(CalColors)
-          .Doc(QStringLiteral("Colours of the calendar."))
+          .Doc(QStringLiteral("Colors of the calendar."))
           .Declared(DateFormat)
           .Type(TVRXDateTimeFormat())
           .Doc(QStringLiteral("How the day is written, as dd.mm.yyyy; empty is as the country has it."))

@@ -9,7 +9,7 @@ const TClass& TVRXBitmapEffect::StaticClass() {
                               .Type(percent)
                               .Doc(QStringLiteral("How much of the effect, in percent."))
                               .Published(Color)
-                              .Doc(QStringLiteral("The colour that a tint leads to."))
+                              .Doc(QStringLiteral("The color that a tint leads to."))
                               .Published(Kind)
                               .Doc(QStringLiteral("What is done to the picture.")));
   return cls;

@@ -6,7 +6,7 @@
 const TClass& TVRXFillColor::StaticClass() {
   static const TClass cls(DescribeClass<TVRXFillColor>("TVRXFillColor", TCollectionItem::StaticClass())
                               .Published(Color)
-                              .Doc(QStringLiteral("A colour of the gradient.")));
+                              .Doc(QStringLiteral("A color of the gradient.")));
   return cls;
 }
 const TClass& TVRXFillColors::StaticClass() {
@@ -22,13 +22,13 @@ const TClass& TVRXFillObject::StaticClass() {
           .Published(BitmapPlace)
           .Doc(QStringLiteral("Whether the bitmap stands in the middle, is repeated or stretched."))
           .Published(Color)
-          .Doc(QStringLiteral("Colour of the area, of the gradient's beginning or of the hatch's lines."))
+          .Doc(QStringLiteral("Color of the area, of the gradient's beginning or of the hatch's lines."))
           .Published(ColorsPart)
-          .Doc(QStringLiteral("All colours of a gradient that has more than two."))
+          .Doc(QStringLiteral("All colors of a gradient that has more than two."))
           .Published(Direction)
           .Doc(QStringLiteral("Where the gradient runs to."))
           .Published(EndColor)
-          .Doc(QStringLiteral("Colour of the gradient's end or of the hatch's ground."))
+          .Doc(QStringLiteral("Color of the gradient's end or of the hatch's ground."))
           .Published(Hatch)
           .Doc(QStringLiteral("The lines of a hatch."))
           .Published(ImageIndex)

@@ -8,7 +8,7 @@ const TClass& TVRXFont3D::StaticClass() {
   static const TClass cls(
       DescribeClass<TVRXFont3D>("TVRXFont3D", TPersistent::StaticClass())
           .Published(LightColor)
-          .Doc(QStringLiteral("Colour of the lit side of the letters."))
+          .Doc(QStringLiteral("Color of the lit side of the letters."))
           .Published(LightDepth)
           .Doc(QStringLiteral("How far the lit side stands out, in pixels."))
           .Published(OffsetX)
@@ -16,7 +16,7 @@ const TClass& TVRXFont3D::StaticClass() {
           .Published(OffsetY)
           .Doc(QStringLiteral("How far the shadow lies below beyond its depth, in pixels."))
           .Published(ShadowColor)
-          .Doc(QStringLiteral("Colour of the shaded side of the letters."))
+          .Doc(QStringLiteral("Color of the shaded side of the letters."))
           .Published(ShadowDepth)
           .Doc(QStringLiteral("How far the shaded side stands out, in pixels."))
           .Published(Style)

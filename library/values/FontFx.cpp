@@ -9,11 +9,11 @@ const TClass& TVRXFxCaption::StaticClass() {
           .Published("Angle", &TVRXFxCaption::Angle, &TVRXFxCaption::SetAngle, 0)
           .Doc(QStringLiteral("Direction of the text, in degrees against the clock."))
           .Published("LightColor", &TVRXFxCaption::LightColor, &TVRXFxCaption::SetLightColor, clWhite)
-          .Doc(QStringLiteral("Colour of the lit side of the letters."))
+          .Doc(QStringLiteral("Color of the lit side of the letters."))
           .Published("LightDepth", &TVRXFxCaption::LightDepth, &TVRXFxCaption::SetLightDepth, 1)
           .Doc(QStringLiteral("How far the lit side stands out, in pixels."))
           .Published("ShadowColor", &TVRXFxCaption::ShadowColor, &TVRXFxCaption::SetShadowColor, clGray)
-          .Doc(QStringLiteral("Colour of the shaded side of the letters."))
+          .Doc(QStringLiteral("Color of the shaded side of the letters."))
           .Published("ShadowDepth", &TVRXFxCaption::ShadowDepth, &TVRXFxCaption::SetShadowDepth, 1)
           .Doc(QStringLiteral("How far the shaded side stands out, in pixels."))
           .Published("Style", &TVRXFxCaption::Style, &TVRXFxCaption::SetStyle, TVRX3DTextStyle::tdNone)
@@ -31,6 +31,6 @@ void TVRXFxCaption::SetDepth(int index, std::uint8_t pixels) {
 
 void TVRXFxCaption::SetColor(int index, TColor color) {
   if (index != 0 && index != 1)
-    throw EPropertyError(QStringLiteral("TVRXFxCaption has no colour %1.").arg(index));
+    throw EPropertyError(QStringLiteral("TVRXFxCaption has no color %1.").arg(index));
   Change(index == 0 ? lightColor_ : shadowColor_, color);
 }

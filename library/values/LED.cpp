@@ -7,13 +7,13 @@ const TClass& TVRXLED::StaticClass() {
   static const TClass cls(
       DescribeClass<TVRXLED>("TVRXLED", TPersistent::StaticClass())
           .Published("ActiveColor", &TVRXLED::ActiveColor, &TVRXLED::SetActiveColor, DefaultActive)
-          .Doc(QStringLiteral("Colour of the lit segments."))
+          .Doc(QStringLiteral("Color of the lit segments."))
           .Published("DisabledDigits", &TVRXLED::DisabledDigits, &TVRXLED::SetDisabledDigits, false)
-          .Doc(QStringLiteral("Shows the letters of a disabled control in the inactive colour."))
+          .Doc(QStringLiteral("Shows the letters of a disabled control in the inactive color."))
           .Published("HorzSize", &TVRXLED::HorzSize, &TVRXLED::SetHorzSize, DefaultHorz)
           .Doc(QStringLiteral("Length of the horizontal segments, in pixels."))
           .Published("InActiveColor", &TVRXLED::InActiveColor, &TVRXLED::SetInActiveColor, DefaultInActive)
-          .Doc(QStringLiteral("Colour of the dark segments; clNone hides them."))
+          .Doc(QStringLiteral("Color of the dark segments; clNone hides them."))
           .Published("Thickness", &TVRXLED::Thickness, &TVRXLED::SetThickness, DefaultThickness)
           .Doc(QStringLiteral("Thickness of the segments, in pixels."))
           .Published("VertSize", &TVRXLED::VertSize, &TVRXLED::SetVertSize, DefaultVert)
@@ -22,7 +22,7 @@ const TClass& TVRXLED::StaticClass() {
 }
 
 void TVRXLED::SetColor(int index, TColor color) {
-  if (index != 0 && index != 1) throw EPropertyError(QStringLiteral("TVRXLED has no colour %1.").arg(index));
+  if (index != 0 && index != 1) throw EPropertyError(QStringLiteral("TVRXLED has no color %1.").arg(index));
   Change(index == 0 ? activeColor_ : inActiveColor_, color);
 }
 

@@ -7,7 +7,7 @@ const TClass& TVRXRegionMask::StaticClass() {
       DescribeClass<TVRXRegionMask>("TVRXRegionMask", TPersistent::StaticClass())
           .Published("ColorDepth", &TVRXRegionMask::ColorDepth, &TVRXRegionMask::SetColorDepth,
                      TVRXColorDepth::spfDefault)
-          .Doc(QStringLiteral("How many colours the pictures are stored with."))
+          .Doc(QStringLiteral("How many colors the pictures are stored with."))
           .Published("Compress", &TVRXRegionMask::Compress, &TVRXRegionMask::SetCompress, false)
           .Doc(QStringLiteral("Stores the pictures compressed."))
           .Streamed("RegionData", &TVRXRegionMask::RegionData, &TVRXRegionMask::SetRegionData)

@@ -6,7 +6,7 @@ const TClass& TVRXShadow::StaticClass() {
   static const TClass cls(
       DescribeClass<TVRXShadow>("TVRXShadow", TPersistent::StaticClass())
           .Published(Color)
-          .Doc(QStringLiteral("Colour of the shadow."))
+          .Doc(QStringLiteral("Color of the shadow."))
           .Published(Depth)
           .Doc(QStringLiteral("How far the shadow falls to the right and down, in pixels; "
                               "negative to the left and up."))

@@ -246,7 +246,7 @@ void TVRXfrmRegionFromBMPdlg::Pick(TColor color) {
   if (cl->findItems(text, Qt::MatchExactly | Qt::MatchCaseSensitive).isEmpty()) {
     if (cl->count() >= static_cast<int>(MaxTransparentColors)) {
       Prompts().Inform(this, windowTitle(),
-                       tr("The list is full: %1 colours can be transparent.").arg(cl->count()));
+                       tr("The list is full: %1 colors can be transparent.").arg(cl->count()));
       return;
     }
     cl->addItem(text);

@@ -1,5 +1,6 @@
 // vrx gallery, and the documentation that is made of it.
 #include <QImage>
+#include <QImageReader>
 #include <QRegularExpression>
 
 #include "CliTest.h"
@@ -48,8 +49,10 @@ TEST_F(GalleryCli, IsDrawnAtTheScaleThatIsAskedFor) {
   ASSERT_GT(Pngs(Path("one")).size(), 170);
   EXPECT_EQ(Pngs(Path("one")), Pngs(Path("two")));
   for (const QString& name : Pngs(Path("one"))) {
-    const QSize small = QImage(Path("one") + u'/' + name + L(".png")).size();
-    EXPECT_EQ(QImage(Path("two") + u'/' + name + L(".png")).size(), small * 2) << name.toStdString();
+    // Sheets are more than some readers unpack.
+    const QSize small = QImageReader(Path("one") + u'/' + name + L(".png")).size();
+    EXPECT_TRUE(small.isValid());
+    EXPECT_EQ(QImageReader(Path("two") + u'/' + name + L(".png")).size(), small * 2) << name.toStdString();
   }
 }
 

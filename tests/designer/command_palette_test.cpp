@@ -143,7 +143,7 @@ TEST_F(Commands, TheArrowsWalkRoundAndPagesStopAtTheEnds) {
 }
 
 TEST_F(Commands, WhatWasUsedLastComesFirstTheNextTime) {
-  for (const char* text : {"zoom in", "form colours designer", "zoom in"}) {
+  for (const char* text : {"zoom in", "form colors designer", "zoom in"}) {
     CommandPalette& palette = Open();
     Type(palette, text);
     Hit(palette, Qt::Key_Return);
@@ -152,7 +152,7 @@ TEST_F(Commands, WhatWasUsedLastComesFirstTheNextTime) {
   CommandPalette& palette = Open();
   const QStringList titles = Titles(palette);
   EXPECT_EQ(titles[0], QStringLiteral("Zoom in"));
-  EXPECT_EQ(titles[1], QStringLiteral("Form colours: As the designer"));
+  EXPECT_EQ(titles[1], QStringLiteral("Form colors: As the designer"));
   Hit(palette, Qt::Key_Escape);
   Action("formLight").trigger();
 }

@@ -79,7 +79,13 @@ TEST_F(RealPackage, GoesAndComesWithAnOpenFormWhole) {
   session.CreateComponent(GetClass("TVRXLEDLabel"), nullptr, QRect(24, 90, 150, 37));
   const QByteArray bytes = session.Bytes();
   Choice().trigger();
-  EXPECT_EQ(FindClass("TVRXLabeledCalendarEdit"), nullptr);
+  const auto pages = DesignRegistry::Current().PalettePages();
+  EXPECT_TRUE(std::none_of(pages.begin(), pages.end(), [](const TPalettePage& page) {
+    return page.Name == QStringLiteral("VRX Labeled");
+  }));
+  EXPECT_EQ(session.GetComponent(QStringLiteral("VRXLabeledCalendarEdit1"))->ClassType().ClassName(),
+            "TVRXLabeledCalendarEdit")
+      << "a form has what it has, whatever the palette offers";
   EXPECT_EQ(session.Bytes().toStdString(), bytes.toStdString());
   EXPECT_EQ(session.GetComponent(QStringLiteral("VRXLEDLabel1"))->ClassType().ClassName(), "TVRXLEDLabel");
   Choice().trigger();

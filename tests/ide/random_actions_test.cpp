@@ -60,6 +60,12 @@ class RandomActions : public OperationTest, public testing::WithParamInterface<u
         MoveInto(*session_, chosen, *container);
         return true;
       }
+      // On an empty form there would be nothing to do any more.
+      if (session_->AllComponents().size() < 4) {
+        session_->CreateComponent(TButton::StaticClass(), nullptr,
+                                  QRect(static_cast<int>(Below(200)), static_cast<int>(Below(200)), 75, 25));
+        return true;
+      }
       const auto& row = ActionTable()[2 + Below(ActionTable().size() - 2)];
       // The form would grow without end.
       if (session_->AllComponents().size() > 120 &&
