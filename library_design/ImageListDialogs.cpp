@@ -173,7 +173,9 @@ bool VRXCPGetImageListOf(TComponent& component, const char* property, IDesigner&
   auto* list = static_cast<TCustomImageList*>(GetObjectProp(component, reference));
   int index = image ? static_cast<int>(GetOrdProp(component, *image)) : -1;
   const auto before = std::pair(list, index);
-  if (!VRXCPGetIML(designer, list, index) || before == std::pair(list, index)) return false;
+  // No picture is offered where none could be kept.
+  const bool confirmed = image ? VRXCPGetIML(designer, list, index) : VRXCPGetIMLExt(designer, list);
+  if (!confirmed || before == std::pair(list, index)) return false;
   SetObjectProp(component, reference, list);
   if (image) SetOrdProp(component, *image, index);
   return true;

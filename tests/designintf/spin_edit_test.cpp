@@ -19,10 +19,10 @@ class SpinEditTest : public testing::Test {
     edit->setFocus();
   }
   void Leave() { other->setFocus(); }
+  std::vector<int> reported;  // what goes last still reports
   QWidget window;
   SpinEdit* edit;
   QLineEdit* other;
-  std::vector<int> reported;
   using Values = std::vector<int>;
 };
 

@@ -152,6 +152,30 @@ TEST(FormsVerbs, OfShadowAndShapeOfAForm) {
   EXPECT_EQ(shape.Run(0), 1);
 }
 
+// Where no picture could be kept, none is offered.
+TEST(FormsVerbs, APictureIsChosenOnlyWhereThereIsAPlaceForIt) {
+  const auto offered = [](auto& menu, int verb) {
+    bool pictures = false;
+    modal::NextOf<TVRXImageListDlg>([&](TVRXImageListDlg& dialog) {
+      pictures = !dialog.images[0]->isHidden();
+      EXPECT_TRUE(dialog.images[1]->isHidden());
+      dialog.cancel->click();
+    });
+    EXPECT_EQ(menu.Run(verb), 0);
+    return pictures;
+  };
+  Menu<TVRXFillComponentEditor, TVRXFill> fill;
+  EXPECT_FALSE(offered(fill, 0));
+  Menu<TVRXFormFillComponentEditor, TVRXFormFill> form;
+  EXPECT_FALSE(offered(form, 3));
+  Menu<TVRXLabelFillComponentEditor, TVRXLabelFill> label;
+  EXPECT_FALSE(offered(label, 9));
+  Menu<TVRXFormFillComponentEditor, TVRXBack> back;
+  EXPECT_TRUE(offered(back, 0));
+  Menu<TVRXAniCtrlComponentEditor, TVRXAniCtrl> picture;
+  EXPECT_TRUE(offered(picture, 0));
+}
+
 TEST(FormsVerbs, OfPicturesThatRun) {
   Menu<TVRXAniCtrlComponentEditor, TVRXAniCtrl> menu;
   EXPECT_EQ(menu.Text(), "ImageList|Bitmap|AutoSize{0}|Stretch{0}|Transparent{1}|Animate{0}");
