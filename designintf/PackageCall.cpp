@@ -37,7 +37,23 @@ QString CurrentExceptionMessage() {
   }
 }
 
+namespace {
+// A value that is refused is the person's matter, in the setter's words; anything else that a setter throws
+// is the package's.
+void RethrowRefusal() {
+  try {
+    throw;
+  } catch (const EPropertyError& e) {
+    throw EPropertyError(e.Message());
+  } catch (const EConvertError& e) {
+    throw EConvertError(e.Message());
+  } catch (...) {
+  }
+}
+}  // namespace
+
 void RethrowFrom(const TPackageCall& where) {
+  if (where.Call.endsWith(QStringLiteral(".SetValue"))) RethrowRefusal();
   if (!where.Package.isEmpty()) throw EPackageError(where, CurrentExceptionMessage());
   try {
     throw;

@@ -1,5 +1,5 @@
-// The one way into the code of a package. A package is foreign code and may throw anything; whatever it
-// throws comes out as an EPackageError that names the package and the call.
+// The one way into the code of a package. A package is foreign code and may throw anything; what it throws
+// comes out as an EPackageError that names package and call, but for values that a SetValue refuses.
 #pragma once
 #include <functional>
 

@@ -370,3 +370,26 @@ TEST(Attributes, HaveTheirBitsInDeclaredOrder) {
   EXPECT_EQ(static_cast<int>(TPropertyAttribute::paValueEditable), 14);
   EXPECT_EQ(TypeInfoOf<TPropertyAttributes>::Get().MaxValue, (1 << 15) - 1);
 }
+
+TEST(PackageCalls, ARefusedValueIsToldInTheSettersWords) {
+  const auto message = [](const char* call, auto error) {
+    try {
+      PackageCall(
+          [&] {
+            return TPackageCall{QStringLiteral("Guest"), QString::fromLatin1(call)};
+          },
+          [&] { throw error; });
+    } catch (const Exception& e) {
+      return e.Message().toStdString();
+    }
+    return std::string();
+  };
+  const EPropertyError refused(QStringLiteral("No such flavor."));
+  const EConvertError unread(QStringLiteral("That is no number."));
+  EXPECT_EQ(message("TFlavorProperty.SetValue", refused), "No such flavor.");
+  EXPECT_EQ(message("TFlavorProperty.SetValue", unread), "That is no number.");
+  EXPECT_EQ(message("TFlavorProperty.SetValue", std::runtime_error("torn")),
+            "torn (TFlavorProperty.SetValue of package Guest)");
+  EXPECT_EQ(message("TFlavorProperty.GetValue", refused),
+            "No such flavor. (TFlavorProperty.GetValue of package Guest)");
+}
