@@ -155,7 +155,7 @@ void XKeyGrab::Connection::Grab() {
   XSync(display_, False);
   if (XErrors::First(display_) == 0) return;
   Release();
-  throw EHotKeyError(QObject::tr("%1 is taken by another program. Choose another key, or end that program.")
+  throw EHotKeyError(QObject::tr("%1 is taken already, here or by another program. Choose another key, or free that one.")
                          .arg(ShortCutToText(key_)));
 }
 

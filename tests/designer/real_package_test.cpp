@@ -78,7 +78,12 @@ TEST_F(RealPackage, GoesAndComesWithAnOpenFormWhole) {
   session.CreateComponent(GetClass("TVRXLabeledCalendarEdit"), nullptr, QRect(24, 40, 141, 23));
   session.CreateComponent(GetClass("TVRXLEDLabel"), nullptr, QRect(24, 90, 150, 37));
   const QByteArray bytes = session.Bytes();
+  session.Select({session.GetComponent(QStringLiteral("VRXLEDLabel1")),
+                  session.GetComponent(QStringLiteral("VRXLabeledCalendarEdit1"))});
   Choice().trigger();
+  QStringList selected;
+  for (const TComponent* c : session.SelectedComponents()) selected << c->Name();
+  EXPECT_EQ(selected.join(u' ').toStdString(), "VRXLEDLabel1 VRXLabeledCalendarEdit1");
   const auto pages = DesignRegistry::Current().PalettePages();
   EXPECT_TRUE(std::none_of(pages.begin(), pages.end(), [](const TPalettePage& page) {
     return page.Name == QStringLiteral("VRX Labeled");

@@ -132,7 +132,7 @@ TEST_F(HotKeys, BelongToOneAtATime) {
   TVRXGlobalHotKey other(nullptr);
   Ask(other, "Ctrl+Alt+K");
   EXPECT_EQ(Refusal(other),
-            "Ctrl+Alt+K is taken by another program. Choose another key, or end that program.");
+            "Ctrl+Alt+K is taken already, here or by another program. Choose another key, or free that one.");
   EXPECT_FALSE(other.HasKey());
   Ask(other, "Ctrl+J");
   other.Start([this] { ++heard_; });
