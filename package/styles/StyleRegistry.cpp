@@ -212,7 +212,7 @@ QStringList TVRXPropList::TypeNames() const {
 
 void TVRXPropList::ExcludeProperty(const QString& name) {
   excluded_.insert(name.toUpper());
-  typesExcluded_ |= name.contains(u':');
+  if (name.contains(u':')) typed_.insert(name.toUpper().section(u':', 0, 0));
   words_.clear();
 }
 
@@ -234,13 +234,9 @@ TVRXPropList::Word TVRXPropList::WordOf(const QByteArray& name) {
   auto it = words_.find(name);
   if (it == words_.end()) {
     const QString text = QString::fromLatin1(name);
-    it = words_.insert(name, {text, PropertyExcluded(text)});
+    it = words_.insert(name, {text, PropertyExcluded(text), typed_.contains(text.toUpper())});
   }
   return *it;
-}
-
-bool TVRXPropList::ExcludesType(const TPropInfo& prop) const {
-  return typesExcluded_ && PropertyExcluded(QString::fromLatin1(prop.Name + ':' + prop.PropType->Name));
 }
 
 void TVRXPropList::Register(const TClass& cls, const QString& parent) {
@@ -257,8 +253,9 @@ void TVRXPropList::Register(const TClass& cls, const QString& parent) {
     if (prop->Visibility != TPropVisibility::Published || !IsStylable(prop->Kind())) continue;
     const TClass* const value = ValueClass(*prop);
     if (IsLeftOut(value)) continue;
-    const auto [name, excluded] = WordOf(prop->Name);
-    if (excluded || ExcludesType(*prop)) continue;
+    const auto [name, excluded, typed] = WordOf(prop->Name);
+    if (excluded || (typed && PropertyExcluded(name + u':' + QString::fromLatin1(prop->PropType->Name))))
+      continue;
     if (!(foreign_ || again) || !IsThere(name, className, parent)) {
       items_.push_back(std::make_unique<TVRXPropListItem>(TVRXPropListItem{
           name, prop->Kind(), WordOf(prop->PropType->Name).text, className, parent, prop->PropType}));

@@ -54,10 +54,10 @@ class TVRXPropList {
  private:
   friend void RegisterStyleMgrClass(const TClass& cls, const QString& parent, TVRXPropList& list);
   void Register(const TClass& cls, const QString& parent);
-  bool ExcludesType(const TPropInfo& prop) const;
   struct Word {
     QString text;
     bool excluded = false;  // as a name
+    bool typed = false;     // with some of its types
   };
   Word WordOf(const QByteArray& name);
   bool IsThere(const QString& name, const QString& className, const QString& parent);
@@ -75,7 +75,7 @@ class TVRXPropList {
   bool foreign_ = false;                      // items that no class has brought
   QSet<QString> exact_;                       // items by all that tells them apart; made when needed
   QHash<QByteArray, Word> words_;             // names occur many times
-  bool typesExcluded_ = false;                // a name with its type is
+  QSet<QString> typed_;                       // names that are excluded with a type
 };
 
 // The one of the loaded package. It is made when the package's unit starts, or when somebody asks for it.
