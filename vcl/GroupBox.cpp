@@ -102,6 +102,9 @@ const TClass& TRadioGroup::StaticClass() {
           .Publish("TabStop", true)
           .Alphabetical()
           .ClassDoc(QStringLiteral("Choices that exclude each other, in a frame."),
-                    "pen line 1.5 brush fill box 3 5.5 18 15 2 pen accent 2 path 6 5.5 12 5.5"));
+                                        "pen line 1.5 brush fill box 3 3.5 18 17 2 oval 5.8 6 4.4 4.4 oval "
+                                        "5.8 13.6 4.4 4.4 pen none brush "
+                                        "accent oval 6.6 6.8 2.8 2.8 pen accent 1.8 path 12.5 8.2 18 8.2 pen "
+                                        "line 1.5 path 12.5 15.8 18 15.8"));
   return cls;
 }
