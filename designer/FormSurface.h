@@ -90,8 +90,9 @@ class FormSurface : public QWidget {
   QPoint MenuOrigin() const;
   void PaintMenu(QPainter& p) const;
   // Where the only selected component, a field, shows what drops down from it, in client coordinates; empty
-  // for none, and while something is dragged.
+  // for none, where it would hide another component, and while something is dragged.
   QRect DropDownRect() const;
+  bool HidesOthers(const QRect& formRect, const TControl& field) const;
   void PaintDropDown(QPainter& p) const;
   void PaintDrag(QPainter& p) const;
   void UpdateSize();

@@ -77,7 +77,26 @@ QRect FormSurface::DropDownRect() const {
       place.bottom() + size.height() > desk.bottom() && place.top() - size.height() >= desk.top();
   QRect open(QPoint(place.left(), above ? place.top() - size.height() : place.bottom() + 1), size);
   open.moveLeft(std::max(std::min(open.left(), desk.right() - size.width()), desk.left()));
-  return open;
+  const auto* control = As<TControl>(selected.front());
+  return control && HidesOthers(open, *control) ? QRect() : open;
+}
+
+// What is being designed stays in sight: a field opens only over its containers and over the desk.
+bool FormSurface::HidesOthers(const QRect& formRect, const TControl& field) const {
+  if (std::any_of(icons_.begin(), icons_.end(),
+                  [&](const TComponent* icon) { return PlaceOf(*icon).intersects(formRect); }))
+    return true;
+  const TControl* own = &field;
+  for (const TWinControl* around = field.Parent(); around; own = around, around = around->Parent()) {
+    const QRect place = FormPlaceOf(*own);
+    for (const TControl* other : around->Controls()) {
+      if (other == own) continue;
+      // Pages of a book lie in one place, and one of them is seen.
+      const QRect covered = FormPlaceOf(*other);
+      if (covered.intersects(formRect) && covered != place) return true;
+    }
+  }
+  return false;
 }
 
 void FormSurface::PaintDropDown(QPainter& p) const {

@@ -26,7 +26,11 @@ void Choose(const char* name, const Setting<T> (&settings)[N], void (*apply)(T),
 }
 }  // namespace
 
-void RestoreTheme() { Restore("Theme", Themes, &ApplyTheme); }
+// Before anybody has chosen one it is the one of ours that is nearest to the platform's.
+void RestoreTheme() {
+  ApplyTheme(IsDarkTheme() ? TTheme::Dark : TTheme::Light);
+  Restore("Theme", Themes, &ApplyTheme);
+}
 void ChooseTheme(TTheme theme) { Choose("Theme", Themes, &ApplyTheme, theme); }
 void RestoreFormColors() { Restore("FormColors", Colors, &SetFormColors); }
 void ChooseFormColors(TFormColors colors) { Choose("FormColors", Colors, &SetFormColors, colors); }

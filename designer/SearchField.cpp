@@ -3,12 +3,18 @@
 #include <QKeyEvent>
 #include <QToolButton>
 
+#include "designintf/ComponentIcons.h"
+
 SearchField::SearchField(const QString& placeholder, const QString& accessibleName, QWidget* parent)
     : QLineEdit(parent) {
   setPlaceholderText(placeholder);
   setAccessibleName(accessibleName);
   setClearButtonEnabled(true);
-  for (QToolButton* button : findChildren<QToolButton*>()) button->setAccessibleName(tr("Clear"));
+  for (QToolButton* button : findChildren<QToolButton*>()) {
+    button->setAccessibleName(tr("Clear"));
+    // The style's own is of the theme that the field was made in.
+    button->defaultAction()->setIcon(DrawnIcon("pen line 2 path 6 6 18 18 path 18 6 6 18"));
+  }
 }
 
 bool SearchField::event(QEvent* event) {

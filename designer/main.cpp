@@ -36,10 +36,9 @@ int main(int argc, char** argv) {
   options.process(app);
 
   const QString wanted = options.value(theme);
-  ApplyTheme(wanted == QStringLiteral("dark")    ? TTheme::Dark
-             : wanted == QStringLiteral("light") ? TTheme::Light
-                                                 : TTheme::System);
-  if (wanted.isEmpty()) RestoreTheme();
+  RestoreTheme();
+  if (wanted == QStringLiteral("dark")) ApplyTheme(TTheme::Dark);
+  if (wanted == QStringLiteral("light")) ApplyTheme(TTheme::Light);
   UseThemeIcons();
   RestoreEditorOptions();
   DesignRegistry registry;

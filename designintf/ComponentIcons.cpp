@@ -11,6 +11,7 @@ namespace {
 // Two tones and the accent, readable on the current theme.
 struct Ink {
   QColor line, fill, accent;
+  bool onDark = false;
 };
 
 // By which the classes of a page are told apart; others have the accent of the theme.
@@ -46,8 +47,10 @@ Ink InkOn(const QPalette& palette, QIcon::Mode mode, const PageAccent* own = nul
     return {text, fill, text};
   }
   const bool dark = IsDark(palette);
-  const QColor accent = own ? QColor(dark ? own->onDark : own->onLight) : palette.color(QPalette::Highlight);
-  if (dark) return {QColor(0xC8, 0xCD, 0xD6), QColor(0x4A, 0x51, 0x5C), accent};
+  const QColor accent = own    ? QColor(dark ? own->onDark : own->onLight)
+                        : dark ? palette.color(QPalette::Link)  // the highlight of a dark theme is a ground
+                               : palette.color(QPalette::Highlight);
+  if (dark) return {QColor(0xC8, 0xCD, 0xD6), QColor(0x4A, 0x51, 0x5C), accent, true};
   return {QColor(0x4A, 0x52, 0x5E), Qt::white, accent};
 }
 
@@ -118,7 +121,10 @@ class Drawing {
                                       : QColor(QLatin1StringView(name));
     if (!color.isValid()) return Qt::transparent;  // not taken: Run ends here
     ++at_;
-    return plus < 0 ? color : color.lighter(100 + word.mid(plus + 1).toInt());
+    if (plus < 0) return color;
+    // What is lighter still than a color for dark grounds would be white.
+    const int factor = 100 + word.mid(plus + 1).toInt();
+    return ink_.onDark ? color.darker(factor) : color.lighter(factor);
   }
 
   void Text(QPointF center, qreal size, const QString& text) {

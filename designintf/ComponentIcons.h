@@ -3,7 +3,7 @@
 // A class names its icon where it describes itself (TClassBuilder::ClassDoc), as a drawing on a field of 24
 // by 24, word by word. The accent is that of the palette page that the class is on:
 //   pen INK [WIDTH [dots]]   brush INK       line, fill or accent, which suit the theme; accent+50, that much
-//                                            lighter; #rrggbb; none
+//                                            nearer to the ground; #rrggbb; none
 //   box X Y W H RADIUS       oval X Y W H
 //   path X Y X Y ...         shape X Y X Y ...      open and closed
 //   text X Y SIZE WORD       around that point

@@ -1,4 +1,5 @@
-// What a field shows below itself when it is opened. A designer shows it while the field alone is selected.
+// What a field shows below itself when it is opened. A designer shows it while the field alone is selected
+// and nothing on the form would be hidden by it.
 #pragma once
 #include <QRect>
 

@@ -16,11 +16,24 @@ QImage GlyphOf(const QImage& all, int count, int state) {
   return all.copy(width * (state < count ? state : 0), 0, width, all.height());
 }
 
+namespace {
+// A line that is too long ends with an ellipsis.
+std::pair<QString, QSize> TextThatFits(const QString& text, const TFont& font, int width) {
+  QString shown = ShownText(text);
+  if (shown.isEmpty()) return {shown, QSize(0, 0)};
+  QSize size = TextExtent(shown, font, Qt::TextShowMnemonic);
+  if (size.width() > width && !shown.contains(u'\n')) {
+    shown = QFontMetrics(ToQFont(font)).elidedText(shown, Qt::ElideRight, width, Qt::TextShowMnemonic);
+    size = TextExtent(shown, font, Qt::TextShowMnemonic);
+  }
+  return {shown, size};
+}
+}  // namespace
+
 void PaintFace(TCanvas& canvas, const QRect& rect, const TFace& face, const TFont& font, bool enabled) {
-  const QString shown = ShownText(face.text);
-  const QSize text = shown.isEmpty() ? QSize(0, 0) : TextExtent(face.text, font, Qt::TextShowMnemonic);
   const QSize glyph = face.glyph.size();
   const bool across = face.layout == TButtonLayout::blGlyphLeft || face.layout == TButtonLayout::blGlyphRight;
+  const auto [shown, text] = TextThatFits(face.text, font, rect.width() - (across ? glyph.width() : 0));
   const auto along = [across](QSize s) { return across ? s.width() : s.height(); };
   const int room = along(rect.size());
   int spacing = glyph.isEmpty() || text.isEmpty() ? 0 : face.spacing;
@@ -41,8 +54,8 @@ void PaintFace(TCanvas& canvas, const QRect& rect, const TFace& face, const TFon
     canvas.Painter().setOpacity(1);
   }
   if (!text.isEmpty())
-    canvas.TextRect(place(text, textAt).adjusted(-1, 0, 1, 0), Qt::AlignCenter | Qt::TextShowMnemonic,
-                    face.text, font, enabled);
+    canvas.TextRect(place(text, textAt).adjusted(-1, 0, 1, 0), Qt::AlignCenter | Qt::TextShowMnemonic, shown,
+                    font, enabled);
 }
 
 namespace {

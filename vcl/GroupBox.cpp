@@ -4,6 +4,7 @@
 
 #include "rtl/Class.h"
 #include "vcl/AsGiven.h"
+#include "vcl/DesignMarks.h"
 #include "vcl/Painters.h"
 #include "vcl/PropertyGroups.h"
 
@@ -64,7 +65,7 @@ void TChoiceGroup::Paint(TCanvas& canvas) {
   inside.setTop(std::max(inside.top(), TextExtent(QStringLiteral("Wg"), *Font()).height()));
   const QStringList& items = Get(Items)->Lines();
   const int count = static_cast<int>(items.size());
-  if (count == 0) return;
+  if (count == 0) return PaintEmpty(canvas, inside);
   const int columns = std::min(Get(Columns), count), rows = (count + columns - 1) / columns;
   const int mark = CheckMarkSize().width();
   for (int i = 0; i < count; ++i) {
@@ -75,6 +76,18 @@ void TChoiceGroup::Paint(TCanvas& canvas) {
     canvas.TextRect(cell.adjusted(mark + 5, 0, 0, 0), Qt::AlignVCenter | Qt::AlignLeft | Qt::TextShowMnemonic,
                     items[i], *Font(), Enabled());
   }
+}
+
+// A choice in place of those to come tells the group from other frames.
+void TChoiceGroup::PaintEmpty(TCanvas& canvas, const QRect& inside) const {
+  if (!IsDesigning()) return;
+  const QRect mark(inside.topLeft(), QSize(CheckMarkSize().width(), inside.height()));
+  canvas.Painter().save();
+  canvas.Painter().setOpacity(0.6);
+  PaintItemMark(canvas, mark, 0);
+  canvas.Painter().restore();
+  PaintDesignName(canvas, QRect(QPoint(mark.right() + 6, inside.top()), inside.bottomRight()), *this,
+                  Qt::AlignLeft | Qt::AlignVCenter);
 }
 
 const TClass& TCustomRadioGroup::StaticClass() {
@@ -93,15 +106,18 @@ void TCustomRadioGroup::PaintItemMark(TCanvas& canvas, const QRect& rect, int in
 }
 
 const TClass& TRadioGroup::StaticClass() {
-  static const TClass cls(
-      DescribeClass<TRadioGroup>("TRadioGroup", TCustomRadioGroup::StaticClass())
-          .PublishAll(Placing, Look, ParentLook, Hints, Placement, Direction, Dragging, Windowed, Help,
-                      Styling, WheelEvents, Container, "AutoSize", "Caption", "Columns", "ItemIndex", "Items",
-                      "WordWrap", "OnClick", FocusEvents, DragEvents)
-          .Passive("AutoFill", true)
-          .Publish("TabStop", true)
-          .Alphabetical()
-          .ClassDoc(QStringLiteral("Choices that exclude each other, in a frame."),
-                    "pen line 1.5 brush fill box 3 5.5 18 15 2 pen accent 2 path 6 5.5 12 5.5"));
+  static const TClass cls(DescribeClass<TRadioGroup>("TRadioGroup", TCustomRadioGroup::StaticClass())
+                              .PublishAll(Placing, Look, ParentLook, Hints, Placement, Direction, Dragging,
+                                          Windowed, Help, Styling, WheelEvents, Container, "AutoSize",
+                                          "Caption", "Columns", "ItemIndex", "Items", "WordWrap", "OnClick",
+                                          FocusEvents, DragEvents)
+                              .Passive("AutoFill", true)
+                              .Publish("TabStop", true)
+                              .Alphabetical()
+                              .ClassDoc(QStringLiteral("Choices that exclude each other, in a frame."),
+                                        "pen line 1.5 brush fill box 3 3.5 18 17 2 oval 5.8 6 4.4 4.4 oval "
+                                        "5.8 13.6 4.4 4.4 pen none brush "
+                                        "accent oval 6.6 6.8 2.8 2.8 pen accent 1.8 path 12.5 8.2 18 8.2 pen "
+                                        "line 1.5 path 12.5 15.8 18 15.8"));
   return cls;
 }

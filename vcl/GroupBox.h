@@ -43,6 +43,9 @@ class TChoiceGroup : public TCustomGroupBox {
 
  protected:
   virtual void PaintItemMark(TCanvas& canvas, const QRect& rect, int index) const = 0;
+
+ private:
+  void PaintEmpty(TCanvas& canvas, const QRect& inside) const;
 };
 
 class TCustomRadioGroup : public TChoiceGroup {

@@ -1,18 +1,9 @@
 #include "vcl/Image.h"
 
 #include "rtl/Class.h"
+#include "vcl/DesignMarks.h"
 #include "vcl/ImageList.h"
-#include "vcl/LineRect.h"
 #include "vcl/PropertyGroups.h"
-
-void PaintDesignFrame(TCanvas& canvas, const QRect& rect) {
-  QPainter& p = canvas.Painter();
-  p.save();
-  p.setPen(QPen(ToQColor(clBtnShadow), 1, Qt::DashLine));
-  p.setBrush(Qt::NoBrush);
-  p.drawRect(LineRect(rect));
-  p.restore();
-}
 
 const TClass& TImage::StaticClass() {
   static const TClass cls(

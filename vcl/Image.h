@@ -6,9 +6,6 @@
 enum class TAntialiasingMode : std::uint8_t { amDontCare, amOn, amOff };
 VRX_ENUM(TAntialiasingMode, {"amDontCare", "amOn", "amOff"})
 
-// The dashes that say, while a form is designed, where something will be that shows nothing yet.
-void PaintDesignFrame(TCanvas& canvas, const QRect& rect);
-
 class TImage : public TGraphicControl {
   VRX_CLASS(TImage)
  public:

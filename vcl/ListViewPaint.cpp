@@ -1,3 +1,4 @@
+#include "vcl/DesignMarks.h"
 #include "vcl/ItemPainting.h"
 #include "vcl/ListView.h"
 
@@ -58,6 +59,7 @@ void TCustomListView::Paint(TCanvas& canvas) {
     default:
       PaintInColumns(canvas, inside);
   }
+  if (Get(Items)->Items().isEmpty()) PaintDesignName(canvas, inside, *this);
   canvas.Painter().restore();
 }
 

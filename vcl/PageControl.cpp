@@ -46,8 +46,8 @@ const TClass& TPageControl::StaticClass() {
           .Alphabetical()
           .ClassDoc(
               QStringLiteral("Pages behind tabs."),
-              "pen line 1.5 brush fill shape 3 9 21 9 21 19.5 3 19.5 path 10 9 10 5.5 15.5 5.5 15.5 9 pen "
-              "accent 1.8 brush none path 3 9 3 4.5 10 4.5 10 9 path 6.5 13 17.5 13"));
+              "pen line 1.5 brush fill box 8 3 13 13.5 1 shape 3 8 9 8 11 10.5 17 10.5 17 21 3 21 pen accent "
+              "1.8 brush none path 3 8 9 8 11 10.5 path 6 14 14 14 path 6 17.5 11 17.5"));
   return cls;
 }
 

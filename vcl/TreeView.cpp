@@ -1,6 +1,7 @@
 #include "vcl/TreeView.h"
 
 #include "rtl/Class.h"
+#include "vcl/DesignMarks.h"
 #include "vcl/ItemPainting.h"
 #include "vcl/PropertyGroups.h"
 
@@ -164,5 +165,6 @@ void TCustomTreeView::Paint(TCanvas& canvas) {
     PaintLine(canvas,
               QRect(inside.left(), inside.top() + static_cast<int>(i) * height, inside.width(), height),
               lines[i]);
+  if (lines.empty()) PaintDesignName(canvas, inside, *this);
   canvas.Painter().restore();
 }

@@ -19,8 +19,9 @@ TVRXFormShadow::TVRXFormShadow(TComponent* owner) : TFormDecor(owner) {}
 // One that somebody puts on a form is there to be seen.
 void TVRXFormShadow::NameChanged(const QString& oldName) {
   TFormDecor::NameChanged(oldName);
-  if (oldName.isEmpty() && IsDesigning() && !IsLoading())
-    Shadow()->Set(TVRXShadow::Style, TVRXShadowStyle::hssSolid);
+  if (!oldName.isEmpty() || !IsDesigning() || IsLoading()) return;
+  Shadow()->Set(TVRXShadow::Style, TVRXShadowStyle::hssSolid);
+  Shadow()->Set(TVRXShadow::Color, clGrayText);  // stands out from a dark desk, too
 }
 
 QMargins TVRXFormShadow::Around(bool active) const { return Shows(active) ? Shadow()->Room() : QMargins(); }

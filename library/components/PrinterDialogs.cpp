@@ -32,9 +32,10 @@ const TClass& TVRXFormPrinterSetupDialog::StaticClass() {
 const TClass& TVRXFormPrintCommDialog::StaticClass() {
   static const TClass cls(
       DescribeClass<TVRXFormPrintCommDialog>("TVRXFormPrintCommDialog", TPrintDialog::StaticClass())
-          .ClassDoc(QStringLiteral("Asks what to print, where and how often."),
-                    "pen line 1.5 brush fill box 3 4 18 16 2 path 3 8 21 8 box 6 10.5 7.5 5 1 pen accent 1.6 "
-                    "box 10 13 8 5 1"));
+          .ClassDoc(
+              QStringLiteral("Asks what to print, where and how often."),
+              "pen line 1.5 brush fill box 3 3 18 18 2 path 3 7 21 7 box 5.8 11.5 12.4 5 1 path 8.5 11.5 "
+              "8.5 9.2 15.5 9.2 15.5 11.5 pen accent 1.6 box 8.6 14.2 6.8 4.8 0"));
   return cls;
 }
 

@@ -1,7 +1,7 @@
 #include "library/controls/AniCtrl.h"
 
 #include "rtl/Clock.h"
-#include "vcl/Image.h"
+#include "vcl/DesignMarks.h"
 #include "vcl/PropertyGroups.h"
 
 const TClass& TVRXCustomLImage::StaticClass() {
@@ -63,6 +63,7 @@ void TVRXCustomLImage::Paint(TCanvas& canvas) {
   const int frame = Current();
   if (Frames() == 0) {
     if (IsDesigning()) PaintDesignFrame(canvas, ClientRect());
+    PaintDesignName(canvas, ClientRect(), *this);
     return;
   }
   if (frame < 0 || frame >= Frames()) return;

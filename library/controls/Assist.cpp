@@ -2,8 +2,8 @@
 
 #include <algorithm>
 
-#include "library/controls/DesignHint.h"
 #include "rtl/Class.h"
+#include "vcl/DesignMarks.h"
 #include "vcl/PropertyGroups.h"
 #include "vcl/ShownText.h"
 

@@ -1,8 +1,8 @@
 #include <QPainterPath>
 
 #include "library/controls/ButtonBar.h"
+#include "vcl/DesignMarks.h"
 #include "vcl/ItemPainting.h"
-#include "vcl/LineRect.h"
 #include "vcl/ShownText.h"
 
 namespace {
@@ -143,14 +143,10 @@ void TVRXButtonBar::PaintItem(TCanvas& canvas, const QRect& rect, const TVRXBarI
 // On the form a bar without sections shows what it is for; when the program runs it is just empty.
 void TVRXButtonBar::PaintEmpty(TCanvas& canvas, const Shape& s) const {
   const int length = Down() ? s.room.height() : s.room.width();
-  QPainter& p = canvas.Painter();
-  p.save();
-  p.setPen(QPen(ToQColor(clGrayText), 1, Qt::DashLine));
-  p.setBrush(Qt::NoBrush);
   for (const int from : {0, length - 2 * s.heading, length - s.heading})
-    p.drawRect(LineRect(Strip(s, from, s.heading).adjusted(1, 1, -1, -1)));
+    PaintDesignFrame(canvas, Strip(s, from, s.heading).adjusted(1, 1, -1, -1));
   constexpr int side = 32;
   const QRect middle = Strip(s, s.heading, length - 3 * s.heading);
-  p.drawRect(QRect(middle.center() - QPoint(side / 2, side / 2), QSize(side, side)));
-  p.restore();
+  PaintDesignFrame(canvas, QRect(middle.center() - QPoint(side / 2, side / 2), QSize(side, side)));
+  PaintDesignName(canvas, Strip(s, 0, s.heading), *this);
 }

@@ -5,7 +5,7 @@
 #include "library/controls/RowPlaces.h"
 #include "rtl/Class.h"
 #include "vcl/AsGiven.h"
-#include "vcl/Image.h"
+#include "vcl/DesignMarks.h"
 #include "vcl/PropertyGroups.h"
 
 const TClass& TVRXPanelCaptionObject::StaticClass() {
@@ -336,6 +336,7 @@ void TVRXCaptionPanelGroup::Paint(TCanvas& canvas) {
   const QRect all(0, 0, Width(), Height());
   if (!Get(Transparent)) canvas.FillRect(all, Color());
   if (IsDesigning() && Bevel()->Room() == 0) PaintDesignFrame(canvas, all);
+  if (Controls().empty()) PaintDesignName(canvas, all, *this);
   const QRect inside = Bevel()->Draw(canvas, all);
   // A narrow mark beside the panels shows how far they reach.
   const QRect room = all.marginsRemoved(Insets());

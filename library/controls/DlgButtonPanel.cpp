@@ -4,7 +4,7 @@
 
 #include "library/controls/RowPlaces.h"
 #include "rtl/Class.h"
-#include "vcl/LineRect.h"
+#include "vcl/DesignMarks.h"
 #include "vcl/PropertyGroups.h"
 
 const TClass& TVRXButton::StaticClass() {
@@ -131,12 +131,20 @@ void TVRXDlgButtonPanel::Paint(TCanvas& canvas) {
   QPainter& p = canvas.Painter();
   p.save();
   p.setClipRect(room, Qt::IntersectClip);
-  p.setPen(QPen(ToQColor(clGrayText), 1, Qt::DashLine));
-  p.setBrush(Qt::NoBrush);
+  QRect rest = room;
   for (int i = 0; i < 2; ++i) {
     const QPoint corner = across ? QPoint(border + at + i * step, (room.height() - size.height()) / 2)
                                  : QPoint((room.width() - size.width()) / 2, border + at + i * step);
-    p.drawRect(LineRect(QRect(room.topLeft() + corner, size)));
+    const QRect button(room.topLeft() + corner, size);
+    PaintDesignFrame(canvas, button);
+    // The name stands on the larger side.
+    const QRect before = across ? QRect(rest.topLeft(), QPoint(button.left() - 1, rest.bottom())) & rest
+                                : QRect(rest.topLeft(), QPoint(rest.right(), button.top() - 1)) & rest;
+    const QRect behind = across ? QRect(QPoint(button.right() + 1, rest.top()), rest.bottomRight())
+                                : QRect(QPoint(rest.left(), button.bottom() + 1), rest.bottomRight());
+    rest = across ? (before.width() > behind.width() ? before : behind)
+                  : (before.height() > behind.height() ? before : behind);
   }
+  PaintDesignName(canvas, rest, *this);
   p.restore();
 }

@@ -2,6 +2,7 @@
 
 #include "library/controls/Faced.h"
 #include "rtl/PropAccess.h"
+#include "vcl/DesignMarks.h"
 #include "vcl/FormColors.h"
 #include "vcl/ItemPainting.h"
 #include "vcl/PropertyGroups.h"
@@ -69,10 +70,13 @@ void TVRXCustomDropDownBox::PaintKnob(TCanvas& canvas, const QRect& rect) const 
 
 void TVRXCustomDropDownBox::PaintText(TCanvas& canvas, const QRect& room) const {
   const QString text = ShownText();
-  const QString hint = Get(TextHint).isEmpty() && IsDesigning() ? Name() : Get(TextHint);
+  const QString hint = Get(TextHint);
   const TVRXFaceLook look = VRXFaceOf(*this);
-  PaintPlainText(canvas, room, AlignmentFlag(Get(Alignment)), text.isEmpty() ? hint : text,
-                 look.Font(*Font()), look.HasLetters(Enabled()) && !text.isEmpty());
+  const int alignment = AlignmentFlag(Get(Alignment));
+  PaintPlainText(canvas, room, alignment, text.isEmpty() ? hint : text, look.Font(*Font()),
+                 look.HasLetters(Enabled()) && !text.isEmpty());
+  if (text.isEmpty() && hint.isEmpty())
+    PaintDesignName(canvas, room, *this, Qt::Alignment::fromInt(alignment) | Qt::AlignVCenter);
 }
 
 int TVRXCustomDropDownBox::RowsHeight(int rows) const {

@@ -2,7 +2,7 @@
 
 #include "library/values/TextLayers.h"
 #include "rtl/Exceptions.h"
-#include "vcl/Image.h"
+#include "vcl/DesignMarks.h"
 #include "vcl/PropertyGroups.h"
 #include "vcl/ShownText.h"
 

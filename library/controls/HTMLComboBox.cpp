@@ -1,5 +1,6 @@
 #include "library/controls/HTMLComboBox.h"
 
+#include "vcl/DesignMarks.h"
 #include "vcl/PropertyGroups.h"
 
 const TClass& TVRXHTMLComboBox::StaticClass() {
@@ -42,11 +43,9 @@ void TVRXHTMLComboBox::PaintField(TCanvas& canvas, const QRect& inside) {
   if (Get(Sorted)) items.sort(Qt::CaseInsensitive);
   const int index = Get(ItemIndex);
   const bool chosen = index >= 0 && index < items.size();
+  if (!chosen && Get(TextHint).isEmpty())
+    return PaintDesignName(canvas, inside, *this, Qt::AlignLeft | Qt::AlignVCenter);
   html::Setup setup = html::SetupFor(*Font(), Enabled() && chosen, inside.width(), Get(Images));
   setup.wrap = false;
-  html::Draw(canvas, inside, Qt::AlignVCenter,
-             chosen                                       ? items[index]
-             : !Get(TextHint).isEmpty() || !IsDesigning() ? Get(TextHint)
-                                                          : Name().toHtmlEscaped(),
-             setup, Get(Images));
+  html::Draw(canvas, inside, Qt::AlignVCenter, chosen ? items[index] : Get(TextHint), setup, Get(Images));
 }

@@ -4,7 +4,7 @@
 
 #include "rtl/Class.h"
 #include "vcl/AsGiven.h"
-#include "vcl/Image.h"
+#include "vcl/DesignMarks.h"
 #include "vcl/PropertyGroups.h"
 
 const TClass& TVRXCustomHeader::StaticClass() {

@@ -56,6 +56,14 @@ QPainterPath LettersOf(const QString& caption, const QFont& font, const QRect& r
 }
 }  // namespace
 
+// The colors of a fill are those of a ground; letters that somebody puts on a form are there to be read.
+void TVRXLabelFill::NameChanged(const QString& oldName) {
+  TVRXCustomLabelFill::NameChanged(oldName);
+  if (!oldName.isEmpty() || !IsDesigning() || IsLoading()) return;
+  FillObject()->Set(TVRXFillObject::Color, clHighlight);
+  FillObject()->Set(TVRXFillObject::EndColor, clWindowText);
+}
+
 void TVRXCustomLabelFill::PaintText(TCanvas& canvas, const QRect& rect) {
   if (!Enabled()) return TVRXCustomLabel::PaintText(canvas, rect);
   Font3D()->DrawEffect(canvas, rect, TextFlags(), Caption(), *Font());

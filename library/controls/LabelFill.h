@@ -23,4 +23,7 @@ class TVRXLabelFill : public TVRXCustomLabelFill {
   VRX_CLASS(TVRXLabelFill)
  public:
   using TVRXCustomLabelFill::TVRXCustomLabelFill;
+
+ protected:
+  void NameChanged(const QString& oldName) override;
 };

@@ -1,7 +1,7 @@
 #include "library/controls/NoteBook.h"
 
-#include "library/controls/DesignHint.h"
 #include "rtl/Class.h"
+#include "vcl/DesignMarks.h"
 #include "vcl/PropertyGroups.h"
 
 const TClass& TVRXCustomSheet::StaticClass() {

@@ -2,6 +2,8 @@
 
 #include "library/controls/Faced.h"
 #include "library/values/TextDraw.h"
+#include "vcl/DesignMarks.h"
+#include "vcl/LineRect.h"
 #include "vcl/PropertyGroups.h"
 
 const TClass& TVRXRegion::StaticClass() {
@@ -44,11 +46,11 @@ void TVRXRegion::Paint(TCanvas& canvas) {
     return;
   }
   // Nothing to show yet: an outline says where the shape will be.
+  QPainterPath outline;
+  outline.addEllipse(LineRect(ClientRect()));
   p.save();
   p.setRenderHint(QPainter::Antialiasing);
-  p.setPen(QPen(ToQColor(clBtnShadow), 1, Qt::DashLine));
-  p.setBrush(Qt::NoBrush);
-  p.drawEllipse(QRectF(ClientRect()).adjusted(0.5, 0.5, -0.5, -0.5));
+  PaintDesignOutline(canvas, outline);
   p.restore();
 }
 

@@ -1,7 +1,7 @@
 #include "library/controls/ScrollText.h"
 
 #include "rtl/Clock.h"
-#include "vcl/Image.h"
+#include "vcl/DesignMarks.h"
 #include "vcl/PropertyGroups.h"
 
 const TClass& TVRXScrollText::StaticClass() {
@@ -45,7 +45,10 @@ int TVRXScrollText::Offset(int way) const {
 
 void TVRXScrollText::Paint(TCanvas& canvas) {
   if (!Get(Transparent)) canvas.FillRect(ClientRect(), Color());
-  if (IsDesigning() && Lines()->Lines().isEmpty()) PaintDesignFrame(canvas, ClientRect());
+  if (IsDesigning() && Lines()->Lines().isEmpty()) {
+    PaintDesignFrame(canvas, ClientRect());
+    PaintDesignName(canvas, ClientRect(), *this);
+  }
   const QRect room = Bevel()->Draw(canvas, ClientRect());
   if (room.isEmpty()) return;
   const TVRXScrollDirection to = Get(Direction);

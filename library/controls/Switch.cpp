@@ -80,7 +80,8 @@ void TVRXCustomSwitch::Paint(TCanvas& canvas) {
 }
 
 namespace {
-QPen Line() { return QPen(ToQColor(cl3DDkShadow), 1); }
+// Dark on a light form and light on a dark one.
+QPen Line() { return QPen(ToQColor(clWindowText), 1); }
 // A button of metal.
 void PaintKnob(QPainter& p, const QRectF& r, bool enabled) {
   QLinearGradient metal(r.topLeft(), r.bottomLeft());
@@ -125,7 +126,7 @@ void TVRXWSwitch::PaintSwitch(TCanvas& canvas, const QRect& room) {
   p.setBrush(ToQColor(PresentColor()));
   p.drawRoundedRect(plate, 2, 2);
   const QPointF tip(foot.x() + lean, foot.y() - side / 2);
-  p.setPen(QPen(ToQColor(Enabled() ? cl3DDkShadow : clBtnShadow), std::max(2.0, side / 8), Qt::SolidLine,
+  p.setPen(QPen(ToQColor(Enabled() ? clWindowText : clGrayText), std::max(2.0, side / 8), Qt::SolidLine,
                 Qt::RoundCap));
   p.drawLine(foot, tip);
   const double radius = side / 7;

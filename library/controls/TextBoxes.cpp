@@ -1,6 +1,7 @@
 #include "library/controls/TextBoxes.h"
 
 #include "library/controls/Faced.h"
+#include "vcl/DesignMarks.h"
 #include "vcl/Form.h"
 #include "vcl/FormColors.h"
 #include "vcl/ItemPainting.h"
@@ -265,6 +266,8 @@ void TVRXTagEditor::Paint(TCanvas& canvas) {
     rest = QRect(QPoint(places.back().right() + TagMargin, places.back().top()),
                  QPoint(rest.right(), places.back().bottom()));
   PaintPlainText(canvas, rest, Qt::AlignLeft, Get(TextHint), *Font(), false);
+  if (tags.isEmpty() && Get(TextHint).isEmpty())
+    PaintDesignName(canvas, rest, *this, Qt::AlignLeft | Qt::AlignVCenter);
   canvas.Painter().restore();
 }
 

@@ -1,6 +1,8 @@
 #include "library/controls/ValueListBox.h"
 
 #include "rtl/Class.h"
+#include "vcl/DesignMarks.h"
+#include "vcl/ItemPainting.h"
 #include "vcl/PropertyGroups.h"
 
 namespace {
@@ -52,7 +54,8 @@ const TClass& TVRXValueComboBox::StaticClass() {
 
 void TVRXValueComboBox::PaintField(TCanvas& canvas, const QRect& inside) {
   const int chosen = ItemOfValue();
-  const QString hint = Get(TextHint).isEmpty() && IsDesigning() ? Name() : Get(TextHint);
-  canvas.TextRect(inside, Qt::AlignLeft | Qt::AlignVCenter, chosen >= 0 ? Names()[chosen] : hint, *Font(),
-                  Enabled() && chosen >= 0);
+  if (chosen < 0 && Get(TextHint).isEmpty())
+    return PaintDesignName(canvas, inside, *this, Qt::AlignLeft | Qt::AlignVCenter);
+  PaintPlainText(canvas, inside, Qt::AlignLeft, chosen >= 0 ? Names()[chosen] : Get(TextHint), *Font(),
+                 Enabled() && chosen >= 0);
 }

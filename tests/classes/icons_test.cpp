@@ -73,6 +73,43 @@ TEST(PaletteIcons, NoTwoAreAlike) {
     }
 }
 
+TEST(PaletteIcons, OfRelativesAreToldApartAtAGlance) {
+  const auto icon = [](const char* name, TTheme theme) {
+    const auto classes = PaletteClasses();
+    const auto it = std::find_if(classes.begin(), classes.end(),
+                                 [&](const TClass* cls) { return cls->ClassName() == name; });
+    return Icon(**it, 24, theme);
+  };
+  constexpr const char* relatives[][2] = {{"TGroupBox", "TRadioGroup"}, {"TTabControl", "TPageControl"}};
+  for (const TTheme theme : kThemes)
+    for (const auto& [a, b] : relatives)
+      EXPECT_GE(Difference(icon(a, theme), icon(b, theme)), 0.12) << a << " and " << b;
+}
+
+// Quiet tones are quiet: in the dark nothing is brighter than the lines and the accents.
+TEST(PaletteIcons, HaveNothingThatGlaresInTheDark) {
+  for (const TClass* cls : PaletteClasses()) {
+    const QImage icon = Icon(*cls, 48, TTheme::Dark);
+    const auto glares = [&](int x, int y) { return icon.pixelColor(x, y).lightness() > 215; };
+    EXPECT_LE(CountPixels(icon, glares), 48) << cls->ClassName().constData();
+  }
+}
+
+TEST(PaletteIcons, HaveAccentsThatStandOutFromADarkGround) {
+  for (const TClass* cls : PaletteClasses()) {
+    if (!cls->Icon().contains("accent")) continue;
+    const QImage icon = Icon(*cls, 48, TTheme::Dark);
+    double most = 0;
+    for (int y = 0; y < 48; ++y)
+      for (int x = 0; x < 48; ++x)
+        if (const QColor color = icon.pixelColor(x, y); color.hsvSaturation() > 60)
+          most = std::max(most, Contrast(color, GroundOf(TTheme::Dark)));
+    if (most > 0) {  // one page has grey for its accent
+      EXPECT_GE(most, 3.5) << cls->ClassName().constData();
+    }
+  }
+}
+
 TEST(PaletteIcons, AreLegibleOnTheirGround) {
   for (const TTheme theme : kThemes)
     for (const int size : kSizes)

@@ -41,11 +41,44 @@ TEST_F(DropDownTest, IsShownWhileTheFieldAloneIsSelected) {
   EXPECT_EQ(Shown(Surface(), below), closed);
 }
 
-TEST_F(DropDownTest, HidesNothingFromTheMouse) {
+TEST_F(DropDownTest, HidesNothingThatStandsOnTheForm) {
   TVRXListComboBox& field = Field({240, 120});
-  auto* below = Session().CreateComponent(TButton::StaticClass(), nullptr, QRect(240, 150, 80, 24));
+  auto* button =
+      As<TControl>(Session().CreateComponent(TButton::StaticClass(), nullptr, QRect(240, 150, 80, 24)));
+  const QRect below = OpenBelow(Surface(), field);
+  Session().Select({Session().GetRoot()});
+  const QImage closed = Shown(Surface(), below);
   Session().Select({&field});
-  EXPECT_EQ(Surface().ComponentAt(Surface().WidgetRect(*below).center()), below);
+  EXPECT_EQ(Shown(Surface(), below), closed);
+  EXPECT_EQ(Surface().ComponentAt(Surface().WidgetRect(*button).center()), button);
+  Session().Run(QStringLiteral("move"), {button}, [&] { button->SetBounds(240, 280, 80, 24); });
+  const QImage open = Shown(Surface(), below);
+  EXPECT_NE(open, closed);
+  // Nor an icon.
+  auto* timer = Session().CreateComponent(TTimer::StaticClass(), nullptr, QRect(320, 150, 0, 0));
+  Session().Select({Session().GetRoot()});
+  const QImage withTimer = Shown(Surface(), below);
+  Session().Select({&field});
+  EXPECT_EQ(Shown(Surface(), below), withTimer);
+  EXPECT_EQ(Surface().ComponentAt(Surface().WidgetRect(*timer).center()), timer);
+}
+
+// The container is behind the field anyway, and what stands beside it counts.
+TEST_F(DropDownTest, OfAFieldInAContainerHidesNothingAroundIt) {
+  auto* made =
+      Session().CreateComponent(TVRXListComboBox::StaticClass(), &Get("Panel1"), QRect(16, 88, 160, 24));
+  auto& field = dynamic_cast<TVRXListComboBox&>(*made);
+  const QRect below = OpenBelow(Surface(), field);
+  Session().Select({Session().GetRoot()});
+  const QImage closed = Shown(Surface(), below);
+  Session().Select({&field});
+  EXPECT_NE(Shown(Surface(), below), closed);
+  auto* button = Session().CreateComponent(TButton::StaticClass(), nullptr, QRect(40, 140, 80, 24));
+  Session().Select({Session().GetRoot()});
+  const QImage withButton = Shown(Surface(), below);
+  Session().Select({&field});
+  EXPECT_EQ(Shown(Surface(), below), withButton);
+  EXPECT_EQ(Surface().ComponentAt(Surface().WidgetRect(*button).center()), button);
 }
 
 TEST_F(DropDownTest, OpensAboveWhereThereIsNoRoomBelow) {

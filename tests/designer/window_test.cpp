@@ -1,8 +1,10 @@
 // Files, undo, questions, errors and looks of the main window.
+#include "designer/DesignerSettings.h"
 #include "designer/LookSettings.h"
 #include "designer/MessageBar.h"
 #include "rtl/Exceptions.h"
 #include "tests/designer/DesignerTest.h"
+#include "tests/support/Contrast.h"
 #include "vcl/FormColors.h"
 #include "vcl/PageControl.h"
 #include "vcl/Theme.h"
@@ -316,6 +318,35 @@ TEST_F(Window, TheThemeIsRemembered) {
   ApplyTheme(TTheme::Dark);
   RestoreTheme();
   EXPECT_FALSE(IsDarkTheme());
+}
+
+TEST_F(Window, BeforeAThemeIsChosenItIsTheOneThatIsTicked) {
+  const QString before = DesignerSetting("Theme");
+  KeepDesignerSetting("Theme", {});
+  for (const TTheme theme : {TTheme::Dark, TTheme::Light}) {
+    QPalette platform = ThemePalette(theme);
+    platform.setColor(QPalette::Highlight, QColor(0x30, 0x8C, 0xC6));
+    platform.setColor(QPalette::Mid, QColor(0x77, 0x78, 0x79));
+    QApplication::setPalette(platform);
+    RestoreTheme();
+    const QPalette wanted = ThemePalette(theme);
+    for (const auto role : {QPalette::Highlight, QPalette::Mid, QPalette::Window})
+      EXPECT_EQ(QApplication::palette().color(role), wanted.color(role)) << role;
+  }
+  KeepDesignerSetting("Theme", before);
+}
+
+TEST_F(Window, AFilterCanBeSeenToBeClearedInEveryTheme) {
+  auto* button = window_->Palette().findChild<QLineEdit*>()->findChild<QToolButton*>();
+  ASSERT_TRUE(button);
+  for (const TTheme theme : {TTheme::Dark, TTheme::Light, TTheme::Dark, TTheme::Light}) {
+    ApplyTheme(theme);
+    QCoreApplication::processEvents();
+    QImage shown(16, 16, QImage::Format_RGB32);
+    shown.fill(QApplication::palette().color(QPalette::Base));
+    QPainter(&shown).drawPixmap(0, 0, button->icon().pixmap(QSize(16, 16), 1.0));
+    EXPECT_GE(Contrast(shown), 4.5) << (theme == TTheme::Dark ? "dark" : "light");
+  }
 }
 
 TEST_F(Window, FileDialogsStartBesideTheForm) {

@@ -67,7 +67,7 @@ TEST(RegionMask, OnlyAPanelTakesOtherControlsAndShowsThemOnItself) {
   inner.SetTransparent(false);
   inner.SetColor(clBlue);
   EXPECT_EQ(Painted(panel).pixel(5, 20), qRgb(255, 0, 0));
-  EXPECT_EQ(Painted(panel).pixel(12, 7), qRgb(0, 0, 255));
+  EXPECT_EQ(Painted(panel).pixel(20, 9), qRgb(0, 0, 255));
 }
 
 TEST(RegionMask, ARegionIsTheSameAsItsData) {
