@@ -184,18 +184,27 @@ TVRXBaseDialog::Content TVRXCalculatorDlg::MakeContent() {
     auto* button = Named(new QPushButton(QLatin1StringView(key)), key);
     button->setAutoDefault(false);
     button->setFixedWidth(52);
-    // "&" stands in no key, and digits and signs are their own.
-    if (qstrlen(key) == 1) button->setShortcut(QKeySequence(QLatin1StringView(key)));
-    QObject::connect(button, &QPushButton::clicked, display, [engine, display, key] {
+    const auto press = [engine, display, key] {
       engine->Press(QString(QLatin1StringView(key)));
       display->setText(engine->Display());
-    });
+    };
+    QObject::connect(button, &QPushButton::clicked, display, press);
+    // "&" stands in no key, and digits and signs are their own. A shortcut of the button's would click it,
+    // and it takes no other click for as long as it is shown pressed.
+    if (qstrlen(key) == 1) {
+      auto* typed = new QShortcut(QKeySequence(QLatin1StringView(key)), button);
+      QObject::connect(typed, &QShortcut::activated, display, [button, press] {
+        press();
+        button->setDown(true);
+        QTimer::singleShot(100, button, [button] { button->setDown(false); });
+      });
+    }
     grid->addWidget(button, at / 4, at % 4);
     ++at;
   }
   return {pad,
           [this, engine] {
-            engine->Press(u"=");
+            if (engine->IsPending()) engine->Press(u"=");
             if (!engine->HasError()) Set(Value, engine->Value());
           },
           true, QObject::tr("Calculator")};
