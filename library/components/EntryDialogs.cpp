@@ -6,6 +6,7 @@
 #include "library/values/CalculatorEngine.h"
 #include "rtl/Clock.h"
 #include "vcl/Calendar.h"
+#include "vcl/DayPicker.h"
 
 const TClass& TVRXInputDlg::StaticClass() {
   static const TClass cls(
@@ -154,11 +155,14 @@ TVRXBaseDialog::Content TVRXCheckListDlg::MakeContent() {
 }
 
 TVRXBaseDialog::Content TVRXCalendarDlg::MakeContent() {
-  auto* calendar = Named(new QCalendarWidget, "calendar");
+  auto* calendar = Named(new DayPicker, "calendar");
   if (const QDate first = DateOf(Get(MinDate)); first.isValid()) calendar->setMinimumDate(first);
   if (const QDate last = DateOf(Get(MaxDate)); last.isValid()) calendar->setMaximumDate(last);
   const QDate day = DateOf(Get(Date));
   calendar->setSelectedDate(day.isValid() ? day : ClockDateTime().date());
+  // Return, or a double-click.
+  QObject::connect(calendar, &QCalendarWidget::activated, calendar,
+                   [calendar] { VRXConfirmDialog(*calendar); });
   return {calendar,
           [this, calendar] {
             Set(Date, TDateTime{static_cast<double>(calendar->selectedDate().toJulianDay() - Day0)});
