@@ -10,6 +10,7 @@
 #include "tests/support/AnsweredDialog.h"
 #include "tests/support/Contrast.h"
 #include "tests/support/Fields.h"
+#include "tests/support/Waiting.h"
 #include "vcl/Theme.h"
 
 TEST(CalculatorDialog, CountsEveryKeyAtAnySpeed) {
@@ -105,4 +106,47 @@ TEST_F(CalendarDialog, DaysThatCannotBePickedAreGreyAndAllOthersCanBeRead) {
       }
     });
   }
+}
+
+// --- Folders
+
+TEST(FolderTree, ShowsADeepFolderInSightWithItsWholeName) {
+  const QTemporaryDir root;
+  QString path = root.path();
+  for (int level = 1; level <= 12; ++level) {
+    const QDir above(path);
+    for (int i = 0; i < 15; ++i) above.mkdir(QStringLiteral("neighbor %1").arg(i));
+    path += QStringLiteral("/zone of level %1").arg(level);
+    ASSERT_TRUE(above.mkpath(path));
+  }
+  TVRXDirDlg dlg(nullptr);
+  dlg.Set(TVRXDirDlg::Directory, path);
+  Answered(dlg, QDialog::Accepted, [&](QDialog& dialog) {
+    fields::ShowActive(dialog);
+    auto& tree = In<QTreeView>(dialog, "tree");
+    const auto name = [&] {
+      QRect rect = tree.visualRect(tree.currentIndex());
+      rect.setWidth(std::min(rect.width(), tree.sizeHintForIndex(tree.currentIndex()).width()));
+      return rect;
+    };
+    const auto inSight = [&] {
+      return tree.currentIndex().data().toString() == u"zone of level 12" &&
+             name().width() >= tree.sizeHintForIndex(tree.currentIndex()).width() &&
+             tree.viewport()->rect().contains(name());
+    };
+    // All levels are read, and it is still there.
+    EXPECT_TRUE(
+        QTest::qWaitFor([&] { return inSight() && tree.verticalScrollBar()->maximum() > 100; }, WaitLimit));
+    QTest::qWait(300);
+    EXPECT_TRUE(inSight());
+    EXPECT_GT(tree.horizontalScrollBar()->maximum(), 0);
+    EXPECT_TRUE(tree.horizontalScrollBar()->isVisible());
+    // The person looks somewhere else; what is read meanwhile takes nobody back.
+    const QModelIndex above = tree.currentIndex().parent();
+    QTest::keyClick(&tree, Qt::Key_PageUp);
+    tree.verticalScrollBar()->setValue(0);
+    ASSERT_TRUE(QDir(path).mkpath(QStringLiteral("../new")));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return tree.model()->rowCount(above) == 17; }, WaitLimit));
+    EXPECT_EQ(tree.verticalScrollBar()->value(), 0);
+  });
 }
