@@ -1,14 +1,14 @@
 #include "dclstd/DateTimeDialog.h"
 
-#include <QCalendarWidget>
 #include <QHBoxLayout>
 #include <QTableView>
 #include <QTimeEdit>
 
 #include "dclstd/EditValue.h"
+#include "vcl/DayPicker.h"
 
 DateTimeDialog::DateTimeDialog(QWidget* owner) : RowDialog(tr("Date and Time"), owner) {
-  calendar = new QCalendarWidget(this);
+  calendar = new DayPicker(this);
   calendar->setObjectName(QStringLiteral("calendar"));
   calendar->setAccessibleName(tr("Date"));
   calendar->setVerticalHeaderFormat(QCalendarWidget::NoVerticalHeader);
@@ -40,6 +40,11 @@ DateTimeDialog::DateTimeDialog(QWidget* owner) : RowDialog(tr("Date and Time"), 
   };
   connect(calendar, &QCalendarWidget::selectionChanged, this, chosen);
   connect(calendar, &QCalendarWidget::clicked, this, chosen);
+  // Return, or a double-click. A value that has this day already stays as it is, to the last fraction.
+  connect(calendar, &QCalendarWidget::activated, this, [this, chosen] {
+    if (none_ || empty_) chosen();
+    ok->click();
+  });
   connect(time, &QTimeEdit::timeChanged, this, chosen);
   SetTabSequence();
   FormCreate();
@@ -62,6 +67,7 @@ void DateTimeDialog::Show(const QDateTime& value) {
 void DateTimeDialog::SetDateTime(TDateTime value) {
   Show(value.Days == 0 ? QDateTime(QDate::currentDate(), QTime(0, 0), Qt::UTC) : SplitDateTime(value));
   changed_ = none_ = false;
+  empty_ = value.Days == 0;
 }
 
 TDateTime DateTimeDialog::DateTime() const {

@@ -31,4 +31,5 @@ class DateTimeDialog : public RowDialog {
   void Show(const QDateTime& value);
   bool changed_ = false;
   bool none_ = false;
+  bool empty_ = true;  // the value that it began with had no day
 };

@@ -49,6 +49,7 @@ bool VRXShowContent(const TVRXDialogHead& head, const TVRXDialogContent& content
                                            : QDialogButtonBox::StandardButtons(QDialogButtonBox::Ok));
   buttons->setObjectName(QStringLiteral("answers"));
   QObject::connect(buttons, &QDialogButtonBox::accepted, &dialog, [&dialog, &content] {
+    if (content.shows && content.shows()) return;
     const QString why = content.refuse ? content.refuse() : QString();
     if (why.isEmpty()) return dialog.accept();
     Prompts().Warn(&dialog, dialog.windowTitle(), why);

@@ -29,6 +29,9 @@ struct TVRXDialogContent {
   QString caption{};           // unless the component has one
   // Why what was entered will not do: the person is told, and the dialog stays. Empty when it will.
   std::function<QString()> refuse{};
+  // Where the dialog shows by itself why it will not do, and leads the person to it: whether it does now.
+  // Nothing is told then.
+  std::function<bool()> shows{};
 };
 struct TVRXDialogHead {
   QString name, caption, prompt{};

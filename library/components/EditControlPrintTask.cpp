@@ -9,36 +9,14 @@
 
 const TClass& TVRXEditControlPrintTask::StaticClass() {
   static const TClass cls(
-      DescribeClass<TVRXEditControlPrintTask>("TVRXEditControlPrintTask", TComponent::StaticClass())
+      VRXWithPrintedText(
+          DescribeClass<TVRXEditControlPrintTask>("TVRXEditControlPrintTask", TComponent::StaticClass()),
+          QStringLiteral("The font of the pages, unless they have the edit's."))
           .Published(EditControl)
           .Doc(QStringLiteral("The edit whose text is printed."))
-          .Published("Font", &TVRXEditControlPrintTask::Font, &TVRXEditControlPrintTask::SetFont)
-          .Doc(QStringLiteral("The font of the pages, unless they have the edit's."))
-          .Published(FooterText)
-          .Doc(QStringLiteral(
-              "A line at the foot of each page; {page}, {pages}, {title}, {date} and {time} are filled in."))
-          .Published(HeaderText)
-          .Doc(QStringLiteral("A line at the head of each page, filled in like that at the foot."))
-          .Published(LineNumbers)
-          .Doc(QStringLiteral("The number of each line in front of it."))
-          .Published(MarginBottom)
-          .Doc(QStringLiteral("Millimetres that stay free at the foot of the page."))
-          .Published(MarginLeft)
-          .Doc(QStringLiteral("Millimetres that stay free at the left edge."))
-          .Published(MarginRight)
-          .Doc(QStringLiteral("Millimetres that stay free at the right edge."))
-          .Published(MarginTop)
-          .Doc(QStringLiteral("Millimetres that stay free at the head of the page."))
-          .Published(Orientation)
-          .Doc(QStringLiteral("Upright pages, or pages across."))
-          .Published(ShowPageNumbers)
-          .Doc(QStringLiteral("The number of the page at its foot."))
-          .Published(Title)
-          .Doc(QStringLiteral("The name of the document, as print queues show it."))
           .Published(UseControlFont)
           .Doc(QStringLiteral("Prints in the edit's own font."))
-          .Published(WordWrap)
-          .Doc(QStringLiteral("Goes on in a new line where one is full; else it is cut off."))
+          .Alphabetical()
           .Event("OnAfterPrint")
           .Event("OnBeforePrint")
           .ClassDoc(
@@ -48,12 +26,9 @@ const TClass& TVRXEditControlPrintTask::StaticClass() {
   return cls;
 }
 
-TVRXEditControlPrintTask::TVRXEditControlPrintTask(TComponent* owner)
-    : TComponent(owner), font_(std::make_unique<TFont>(this)) {}
-
 const TFont& TVRXEditControlPrintTask::PrintFont() const {
   const TCustomEdit* edit = Get(EditControl);
-  return edit && Get(UseControlFont) ? *edit->Font() : *font_;
+  return edit && Get(UseControlFont) ? *edit->Font() : *Font();
 }
 
 QStringList TVRXEditControlPrintTask::Lines() const {
@@ -66,21 +41,6 @@ QStringList TVRXEditControlPrintTask::Lines() const {
       edit->Get(TCustomEdit::EchoMode) == TEchoMode::emPassword)
     text.fill(u'*');
   return text.split(u'\n');
-}
-
-TVRXTextPages TVRXEditControlPrintTask::Pages() const {
-  TVRXTextPages pages{
-      .lines = Lines(),
-      .header = Get(HeaderText),
-      .footer = Get(FooterText),
-      .title = Get(Title),
-      .lineNumbers = Get(LineNumbers),
-      .pageNumbers = Get(ShowPageNumbers),
-      .wordWrap = Get(WordWrap),
-      .margins = VRXTextMargins(Get(MarginLeft), Get(MarginTop), Get(MarginRight), Get(MarginBottom)),
-      .orientation = Get(Orientation)};
-  pages.SetFont(PrintFont());
-  return pages;
 }
 
 int TVRXEditControlPrintTask::Print(QPagedPaintDevice& device) const {

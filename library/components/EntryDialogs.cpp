@@ -6,6 +6,7 @@
 #include "library/values/CalculatorEngine.h"
 #include "rtl/Clock.h"
 #include "vcl/Calendar.h"
+#include "vcl/DayPicker.h"
 
 const TClass& TVRXInputDlg::StaticClass() {
   static const TClass cls(
@@ -154,11 +155,14 @@ TVRXBaseDialog::Content TVRXCheckListDlg::MakeContent() {
 }
 
 TVRXBaseDialog::Content TVRXCalendarDlg::MakeContent() {
-  auto* calendar = Named(new QCalendarWidget, "calendar");
+  auto* calendar = Named(new DayPicker, "calendar");
   if (const QDate first = DateOf(Get(MinDate)); first.isValid()) calendar->setMinimumDate(first);
   if (const QDate last = DateOf(Get(MaxDate)); last.isValid()) calendar->setMaximumDate(last);
   const QDate day = DateOf(Get(Date));
   calendar->setSelectedDate(day.isValid() ? day : ClockDateTime().date());
+  // Return, or a double-click.
+  QObject::connect(calendar, &QCalendarWidget::activated, calendar,
+                   [calendar] { VRXConfirmDialog(*calendar); });
   return {calendar,
           [this, calendar] {
             Set(Date, TDateTime{static_cast<double>(calendar->selectedDate().toJulianDay() - Day0)});
@@ -184,18 +188,27 @@ TVRXBaseDialog::Content TVRXCalculatorDlg::MakeContent() {
     auto* button = Named(new QPushButton(QLatin1StringView(key)), key);
     button->setAutoDefault(false);
     button->setFixedWidth(52);
-    // "&" stands in no key, and digits and signs are their own.
-    if (qstrlen(key) == 1) button->setShortcut(QKeySequence(QLatin1StringView(key)));
-    QObject::connect(button, &QPushButton::clicked, display, [engine, display, key] {
+    const auto press = [engine, display, key] {
       engine->Press(QString(QLatin1StringView(key)));
       display->setText(engine->Display());
-    });
+    };
+    QObject::connect(button, &QPushButton::clicked, display, press);
+    // "&" stands in no key, and digits and signs are their own. A shortcut of the button's would click it,
+    // and it takes no other click for as long as it is shown pressed.
+    if (qstrlen(key) == 1) {
+      auto* typed = new QShortcut(QKeySequence(QLatin1StringView(key)), button);
+      QObject::connect(typed, &QShortcut::activated, display, [button, press] {
+        press();
+        button->setDown(true);
+        QTimer::singleShot(100, button, [button] { button->setDown(false); });
+      });
+    }
     grid->addWidget(button, at / 4, at % 4);
     ++at;
   }
   return {pad,
           [this, engine] {
-            engine->Press(u"=");
+            if (engine->IsPending()) engine->Press(u"=");
             if (!engine->HasError()) Set(Value, engine->Value());
           },
           true, QObject::tr("Calculator")};

@@ -1,5 +1,6 @@
 // A tree of folders, and a line that has the path of the one that is picked.
 #pragma once
+#include <QPersistentModelIndex>
 #include <QWidget>
 
 class QFileSystemModel;
@@ -21,9 +22,19 @@ class FolderTree : public QWidget {
   // be made, or nothing.
   QString MakeFolder();
 
+ protected:
+  bool eventFilter(QObject* watched, QEvent* event) override;
+
  private:
   void Show(const QModelIndex& row);
+  // The column is as wide as the names, and not narrower than the tree.
+  void FitColumn();
+  void FitSoon();
+  // The row and as much of its name as there is room for.
+  void ScrollTo(const QModelIndex& row);
   QTreeView* tree_;
   QLineEdit* line_;
   QFileSystemModel* model_;
+  QPersistentModelIndex sought_;  // to be kept in sight until the person does anything in the tree
+  bool fits_ = true;
 };

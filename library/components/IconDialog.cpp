@@ -83,9 +83,15 @@ struct IconPage : QWidget {
     problem->setText(why);
     problem->setVisible(!why.isEmpty());
   }
+  // What is wrong with the file stands below it: the person goes on there.
+  bool ShowProblem() {
+    if (problem->text().isEmpty()) return false;
+    file->setFocus();
+    file->selectAll();
+    return true;
+  }
   QString WhyNot() const {
     if (icons->currentRow() >= 0) return {};
-    if (!problem->text().isEmpty()) return problem->text();
     return file->text().isEmpty() ? tr("No file is given. Type the name of one, or press Browse.")
                                   : tr("No icon is picked. Pick one in the list.");
   }
@@ -105,5 +111,8 @@ TVRXBaseDialog::Content TVRXFormChangeIconDialog::MakeContent() {
             Set(FileName, page->file->text());
             Set(IconIndex, page->icons->currentRow());
           },
-          true, QObject::tr("Change Icon"), [page] { return page->WhyNot(); }};
+          true,
+          QObject::tr("Change Icon"),
+          [page] { return page->WhyNot(); },
+          [page] { return page->ShowProblem(); }};
 }

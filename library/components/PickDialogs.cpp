@@ -129,7 +129,10 @@ TVRXBaseDialog::Content TVRXFormFolderDialog::MakeContent() {
     auto* make = new QPushButton(QObject::tr("&New Folder"));
     make->setObjectName(QStringLiteral("newFolder"));
     make->setAutoDefault(false);
-    make->setEnabled(!IsPreview());
+    if (IsPreview()) {
+      make->setEnabled(false);
+      make->setToolTip(QObject::tr("A preview makes no folders."));
+    }
     folders->layout()->addWidget(make);
     folders->layout()->setAlignment(make, Qt::AlignLeft);
     QObject::connect(make, &QPushButton::clicked, folders, [folders] {

@@ -84,6 +84,13 @@ TVRXBaseDialog::Content TVRXAboutDlg::MakeContent() {
     }
     column->addWidget(label);
   }
+  if (column->isEmpty() && IsPreview()) {
+    auto* nothing = new QLabel(
+        QObject::tr("There is nothing to tell yet. Set ProgramName, Version, Copyright or Comment."));
+    nothing->setObjectName(QStringLiteral("nothing"));
+    nothing->setWordWrap(true);
+    column->addWidget(nothing);
+  }
   lines->setMinimumWidth(260);
   return {lines, nullptr, false,
           Get(ProgramName).isEmpty() ? QObject::tr("About") : QObject::tr("About %1").arg(Get(ProgramName))};

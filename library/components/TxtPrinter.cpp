@@ -11,50 +11,27 @@
 
 const TClass& TVRXTxtPrinter::StaticClass() {
   static const TClass cls(
-      DescribeClass<TVRXTxtPrinter>("TVRXTxtPrinter", TComponent::StaticClass())
+      VRXWithPrintedText(DescribeClass<TVRXTxtPrinter>("TVRXTxtPrinter", TComponent::StaticClass()),
+                         QStringLiteral("The font of the pages."))
           .Published(Collate)
           .Doc(QStringLiteral("All pages of a copy before those of the next one."))
           .Published(Copies)
           .Doc(QStringLiteral("How often it is printed."))
-          .Published("Font", &TVRXTxtPrinter::Font, &TVRXTxtPrinter::SetFont)
-          .Doc(QStringLiteral("The font of the pages."))
-          .Published(FooterText)
-          .Doc(QStringLiteral(
-              "A line at the foot of each page; {page}, {pages}, {title}, {date} and {time} are filled in."))
           .Published(FromPage)
           .Doc(QStringLiteral("The first page that is printed; 0 begins at the beginning."))
-          .Published(HeaderText)
-          .Doc(QStringLiteral("A line at the head of each page, filled in like that at the foot."))
-          .Published(LineNumbers)
-          .Doc(QStringLiteral("The number of each line in front of it."))
           .Published(Lines)
           .Doc(QStringLiteral("The text. A form feed begins a new page."))
-          .Published(MarginBottom)
-          .Doc(QStringLiteral("Millimetres that stay free at the foot of the page."))
-          .Published(MarginLeft)
-          .Doc(QStringLiteral("Millimetres that stay free at the left edge."))
-          .Published(MarginRight)
-          .Doc(QStringLiteral("Millimetres that stay free at the right edge."))
-          .Published(MarginTop)
-          .Doc(QStringLiteral("Millimetres that stay free at the head of the page."))
-          .Published(Orientation)
-          .Doc(QStringLiteral("Upright pages, or pages across."))
           .Published(OutputFile)
           .Doc(QStringLiteral("A PDF file that is written instead of printing."))
           .Published(PaperSize)
           .Doc(QStringLiteral("The paper; by default the one that the program prints on."))
           .Published(PrinterName)
           .Doc(QStringLiteral("The printer; the one of the program when it is empty."))
-          .Published(ShowPageNumbers)
-          .Doc(QStringLiteral("The number of the page at its foot."))
           .Published(TabWidth)
           .Doc(QStringLiteral("The letters from one tab stop to the next."))
-          .Published(Title)
-          .Doc(QStringLiteral("The name of the document, as print queues show it."))
           .Published(ToPage)
           .Doc(QStringLiteral("The last page that is printed; 0 goes on to the end."))
-          .Published(WordWrap)
-          .Doc(QStringLiteral("Goes on in a new line where one is full; else it is cut off."))
+          .Alphabetical()
           .Event("OnAfterPrint")
           .Event("OnBeforePrint")
           .Event("OnNextPage", "TVRXNextPageEvent")
@@ -77,19 +54,9 @@ QPageSize SizeOf(TVRXPaperSize paper) {
 }  // namespace
 
 TVRXTextPages TVRXTxtPrinter::Pages(const QStringList& lines) const {
-  TVRXTextPages pages{
-      .lines = lines,
-      .header = Get(HeaderText),
-      .footer = Get(FooterText),
-      .title = Get(Title),
-      .lineNumbers = Get(LineNumbers),
-      .pageNumbers = Get(ShowPageNumbers),
-      .wordWrap = Get(WordWrap),
-      .tabWidth = Get(TabWidth),
-      .paper = SizeOf(Get(PaperSize)),
-      .margins = VRXTextMargins(Get(MarginLeft), Get(MarginTop), Get(MarginRight), Get(MarginBottom)),
-      .orientation = Get(Orientation)};
-  pages.SetFont(*font_);
+  TVRXTextPages pages = PagesOf(lines, *Font());
+  pages.tabWidth = Get(TabWidth);
+  pages.paper = SizeOf(Get(PaperSize));
   return pages;
 }
 

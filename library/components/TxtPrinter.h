@@ -1,40 +1,26 @@
 // Prints a text, to a printer or a PDF file.
 #pragma once
-#include "library/values/TextPages.h"
+#include "library/components/PrintedText.h"
 #include "rtl/Strings.h"
-#include "vcl/Font.h"
 
 class QIODevice;
 
 enum class TVRXPaperSize : std::uint8_t { ppDefault, ppA3, ppA4, ppA5, ppLetter, ppLegal, ppTabloid };
 VRX_ENUM(TVRXPaperSize, {"ppDefault", "ppA3", "ppA4", "ppA5", "ppLetter", "ppLegal", "ppTabloid"})
 
-class TVRXTxtPrinter : public TComponent {
+class TVRXTxtPrinter : public TVRXPrintedText {
   VRX_CLASS(TVRXTxtPrinter)
  public:
-  using TComponent::TComponent;
+  using TVRXPrintedText::TVRXPrintedText;
   static constexpr TKept<bool> Collate{"Collate", true};
   static constexpr TKept<int> Copies{"Copies", 1};
-  static constexpr TKept<QString> FooterText{"FooterText"};
   static constexpr TKept<int> FromPage{"FromPage", 0};
-  static constexpr TKept<QString> HeaderText{"HeaderText"};
-  static constexpr TKept<bool> LineNumbers{"LineNumbers", false};
   static constexpr TKept<TStrings*> Lines{"Lines"};
-  static constexpr TKept<int> MarginBottom{"MarginBottom", 20};
-  static constexpr TKept<int> MarginLeft{"MarginLeft", 20};
-  static constexpr TKept<int> MarginRight{"MarginRight", 20};
-  static constexpr TKept<int> MarginTop{"MarginTop", 20};
-  static constexpr TKept<TVRXPrintOrientation> Orientation{"Orientation", TVRXPrintOrientation::poPortrait};
   static constexpr TKept<QString> OutputFile{"OutputFile"};
   static constexpr TKept<TVRXPaperSize> PaperSize{"PaperSize", TVRXPaperSize::ppDefault};
   static constexpr TKept<QString> PrinterName{"PrinterName"};
-  static constexpr TKept<bool> ShowPageNumbers{"ShowPageNumbers", true};
   static constexpr TKept<int> TabWidth{"TabWidth", 4};
-  static constexpr TKept<QString> Title{"Title"};
   static constexpr TKept<int> ToPage{"ToPage", 0};
-  static constexpr TKept<bool> WordWrap{"WordWrap", true};
-  TFont* Font() const { return font_.get(); }
-  void SetFont(const TFont* v) { font_->Assign(v); }
 
   // Before each page; false ends printing.
   using Progress = std::function<bool(int page, int pages)>;
@@ -54,6 +40,5 @@ class TVRXTxtPrinter : public TComponent {
   TVRXTextPages Pages(const QStringList& lines) const;
   TVRXTextPages::Run HowToRun(bool deviceCopies) const;
   int PrintText(const QStringList& lines) const;
-  std::unique_ptr<TFont> font_ = std::make_unique<TFont>(this);
   Progress progress_;
 };

@@ -23,38 +23,69 @@ QMargins VRXTextMargins(int left, int top, int right, int bottom) {
 }
 
 namespace {
-QString WithoutTabs(const QString& line, int width) {
-  QString text;
-  for (const QChar c : line) {
-    if (c != u'\t')
-      text += c;
-    else
-      do text += u' ';
-      while (width > 0 && text.size() % width != 0);
-  }
-  return text;
+QTextOption WithTabs(double tab, QTextOption::WrapMode wrap) {
+  QTextOption option;
+  option.setTabStopDistance(tab);
+  option.setWrapMode(wrap);
+  return option;
+}
+
+// What makes a layout set tab stops that far apart, and never farther: a text that ends at one goes on at the
+// next. Layouts count in pixels of a screen of their own, whatever device they are for.
+double TabDistance(double wanted, const QFont& font, QPaintDevice* device) {
+  constexpr double probe = 1000, step = 64;  // lengths of layouts are multiples of a step
+  QTextLayout layout(QStringLiteral("\t"), font, device);
+  layout.setTextOption(WithTabs(probe, QTextOption::NoWrap));
+  layout.beginLayout();
+  QTextLine line = layout.createLine();
+  layout.endLayout();
+  return std::floor(wanted * probe / line.cursorToX(1) * step) / step;
+}
+
+// The letters of a line with their tabs, standing on the same ground line as any other text of the font.
+void DrawLine(QPainter& painter, QPointF at, const QString& text, const QFont& font, double tab) {
+  if (text.isEmpty()) return;
+  QTextLayout layout(text, font, painter.device());
+  layout.setTextOption(WithTabs(tab, QTextOption::NoWrap));
+  layout.beginLayout();
+  QTextLine line = layout.createLine();
+  line.setLineWidth(painter.device()->width());
+  layout.endLayout();
+  layout.draw(&painter, at + QPointF(0, QFontMetricsF(font, painter.device()).ascent() - line.ascent()));
 }
 }  // namespace
 
-std::vector<QStringList> TVRXTextPages::Break(const QFont& with, QPaintDevice* device, QSizeF room) const {
+TVRXTextPages::Columns TVRXTextPages::ColumnsOf(const QFont& with, QPaintDevice* device) const {
+  constexpr int gap = 2;  // letters between the numbers and the texts
+  const QFontMetricsF metrics(with, device);
+  double digit = 0;
+  for (char16_t c = u'0'; c <= u'9'; ++c) digit = std::max(digit, metrics.horizontalAdvance(QChar(c)));
+  Columns columns{.tab = TabDistance(std::max(1, tabWidth) * digit, with, device)};
+  if (!lineNumbers) return columns;
+  columns.numbers = static_cast<double>(QString::number(lines.size()).size()) * digit;
+  columns.text = columns.numbers + gap * digit;
+  return columns;
+}
+
+std::vector<TVRXTextPages::Page> TVRXTextPages::Break(const QFont& with, QPaintDevice* device,
+                                                      QSizeF room) const {
   const double height = QFontMetricsF(with, device).lineSpacing();
-  const auto most = static_cast<qsizetype>(std::max(1.0, std::floor(room.height() / height)));
-  std::vector<QStringList> pages(1);
-  const auto add = [&](const QString& line) {
+  const auto most = static_cast<std::size_t>(std::max(1.0, std::floor(room.height() / height)));
+  const Columns columns = ColumnsOf(with, device);
+  std::vector<Page> pages(1);
+  const auto add = [&](const QString& number, const QString& text) {
     if (pages.back().size() >= most) pages.emplace_back();
-    pages.back() << line;
+    pages.back().push_back({number, text});
   };
-  QTextOption option;
-  option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
-  const auto addWrapped = [&](const QString& line) {
+  const auto addWrapped = [&](QString number, const QString& line) {
     QTextLayout layout(line, with, device);
-    layout.setTextOption(option);
+    layout.setTextOption(WithTabs(columns.tab, QTextOption::WrapAtWordBoundaryOrAnywhere));
     layout.beginLayout();
     QTextLine piece = layout.createLine();
-    if (!piece.isValid()) add(line);
+    if (!piece.isValid()) add(number, line);
     for (; piece.isValid(); piece = layout.createLine()) {
-      piece.setLineWidth(std::max(room.width(), 1.0));
-      add(line.mid(piece.textStart(), piece.textLength()));
+      piece.setLineWidth(std::max(room.width() - columns.text, 1.0));
+      add(std::exchange(number, QString()), line.mid(piece.textStart(), piece.textLength()));
       if (!wordWrap) break;
     }
     layout.endLayout();
@@ -65,9 +96,7 @@ std::vector<QStringList> TVRXTextPages::Break(const QFont& with, QPaintDevice* d
       // Nothing follows the last form feed of all.
       if (i > 0 && i + 1 == parts.size() && number + 1 == lines.size() && parts[i].isEmpty()) break;
       if (i > 0) pages.emplace_back();
-      QString line = WithoutTabs(parts[i], tabWidth);
-      if (lineNumbers && i == 0) line.prepend(QStringLiteral("%1  ").arg(number + 1, 4));
-      addWrapped(line);
+      addWrapped(lineNumbers && i == 0 ? QString::number(number + 1) : QString(), parts[i]);
     }
   }
   return pages;
@@ -92,7 +121,8 @@ struct TVRXTextPages::Sheet {
   QFont font;
   QRectF all{}, room{};
   double line = 0;
-  std::vector<QStringList> pages{};
+  Columns columns{};
+  std::vector<Page> pages{};
 };
 
 TVRXTextPages::Sheet TVRXTextPages::MakeSheet(QPagedPaintDevice& device, const QString& who) const {
@@ -117,6 +147,7 @@ TVRXTextPages::Sheet TVRXTextPages::MakeSheet(QPagedPaintDevice& device, const Q
   sheet.all = sheet.room = QRectF(0, 0, device.width(), device.height());
   if (!header.isEmpty()) sheet.room.setTop(2 * sheet.line);
   if (!footer.isEmpty() || pageNumbers) sheet.room.setBottom(sheet.all.bottom() - 2 * sheet.line);
+  sheet.columns = ColumnsOf(font, &device);
   sheet.pages = Break(font, &device, sheet.room.size());
   return sheet;
 }
@@ -150,6 +181,7 @@ int TVRXTextPages::Print(QPagedPaintDevice& device, const QString& who, const Ru
   if (!painter.begin(&device)) throw EComponentError(QStringLiteral("%1 cannot print there.").arg(who));
   painter.setFont(sheet.font);
   painter.setPen(ink);
+  const QFontMetricsF metrics(sheet.font, &device);
   int printed = 0;
   for (const int page : order) {
     if (run.next && !run.next(page, pages)) break;
@@ -163,11 +195,13 @@ int TVRXTextPages::Print(QPagedPaintDevice& device, const QString& who, const Ru
     if (pageNumbers)
       painter.drawText(sheet.all, Qt::AlignBottom | Qt::AlignRight,
                        QStringLiteral("%1 / %2").arg(page).arg(pages));
-    const QStringList& text = sheet.pages[static_cast<std::size_t>(page) - 1];
-    for (qsizetype k = 0; k < text.size(); ++k)
-      painter.drawText(QRectF(sheet.room.left(), sheet.room.top() + static_cast<double>(k) * sheet.line,
-                              sheet.room.width(), sheet.line),
-                       Qt::AlignLeft | Qt::TextSingleLine, text[k]);
+    QPointF at = sheet.room.topLeft();
+    for (const Line& line : sheet.pages[static_cast<std::size_t>(page) - 1]) {
+      const auto numberAt = sheet.columns.numbers - metrics.horizontalAdvance(line.number);
+      DrawLine(painter, at + QPointF(numberAt, 0), line.number, sheet.font, sheet.columns.tab);
+      DrawLine(painter, at + QPointF(sheet.columns.text, 0), line.text, sheet.font, sheet.columns.tab);
+      at.ry() += sheet.line;
+    }
   }
   return printed;
 }

@@ -29,16 +29,21 @@ struct TVRXTextPages {
   bool lineNumbers = false;
   bool pageNumbers = true;
   bool wordWrap = true;
-  int tabWidth = 4;
+  int tabWidth = 8;                  // letters from one tab stop to the next, counted from where texts begin
   QPageSize paper{};                 // that of the device when it is none
   QMargins margins{20, 20, 20, 20};  // millimetres
   TVRXPrintOrientation orientation = TVRXPrintOrientation::poPortrait;
 
   // Letters are as large on paper as on a screen, and black where they have a colour of the system.
   void SetFont(const TFont& value);
+  // A line of a page. What goes on below, or on another page, has no number.
+  struct Line {
+    QString number{}, text{};
+  };
+  using Page = std::vector<Line>;
   // The lines as they stand on each page. A form feed begins a new page. At least one page, and one line on
   // each.
-  std::vector<QStringList> Break(const QFont& with, QPaintDevice* device, QSizeF room) const;
+  std::vector<Page> Break(const QFont& with, QPaintDevice* device, QSizeF room) const;
 
   struct Run {
     int copies = 1;
@@ -55,6 +60,11 @@ struct TVRXTextPages {
 
  private:
   struct Sheet;
+  // Numbers end where the widest of them would, and all texts begin behind them.
+  struct Columns {
+    double numbers = 0, text = 0, tab = 0;
+  };
+  Columns ColumnsOf(const QFont& with, QPaintDevice* device) const;
   Sheet MakeSheet(QPagedPaintDevice& device, const QString& who) const;
   QString Filled(const QString& text, int page, int pages) const;
 };

@@ -234,6 +234,30 @@ TEST_F(StandardDialogs, ADateIsTakenOnlyWhenOneIsChosen) {
   EXPECT_EQ(value.Days, 0);
 }
 
+TEST_F(StandardDialogs, ReturnInTheCalendarTakesTheDay) {
+  const auto run = [](TDateTime& value, std::initializer_list<Qt::Key> keys) {
+    modal::NextOf<DateTimeDialog>([&](DateTimeDialog& dialog) {
+      auto* days = dialog.calendar->findChild<QTableView*>();
+      days->setFocus();
+      for (const Qt::Key key : keys) {
+        EXPECT_TRUE(dialog.isVisible());
+        QTest::keyClick(days, key);
+      }
+      EXPECT_FALSE(dialog.isVisible());
+      if (dialog.isVisible()) dialog.reject();
+    });
+    return EditDateTime(value);
+  };
+  TDateTime value{45360.123456789};
+  EXPECT_FALSE(run(value, {Qt::Key_Return})) << "it has this day already";
+  EXPECT_EQ(value.Days, 45360.123456789);
+  EXPECT_TRUE(run(value, {Qt::Key_Right, Qt::Key_Return}));
+  EXPECT_EQ(std::floor(value.Days), 45361);
+  value = {};
+  EXPECT_TRUE(run(value, {Qt::Key_Return}));
+  EXPECT_GT(value.Days, 45000) << "today";
+}
+
 TEST_F(StandardDialogs, AFilterIsATable) {
   const auto run = [&](QString& filter, std::function<void(FilterDialog&)> act) {
     modal::NextOf<FilterDialog>([act](FilterDialog& dialog) {

@@ -219,7 +219,9 @@ struct Printing {
         ->SetLines({QStringLiteral("First line of some words that go on"), QString(), QStringLiteral("a\tb"),
                     QStringLiteral("last")});
   }
-  std::vector<QStringList> Pages(QSizeF room) const { return task.Pages().Break(QFont(), &paper, room); }
+  std::vector<TVRXTextPages::Page> Pages(QSizeF room) const {
+    return task.Pages().Break(QFont(), &paper, room);
+  }
   QByteArray Pdf() const {
     QBuffer buffer;
     buffer.open(QIODevice::WriteOnly);
@@ -231,9 +233,10 @@ struct Printing {
   mutable QImage paper{1, 1, QImage::Format_RGB32};
   mutable int pages = 0;
 };
-QStringList All(const std::vector<QStringList>& pages) {
+QStringList All(const std::vector<TVRXTextPages::Page>& pages) {
   QStringList all;
-  for (const QStringList& page : pages) all << page;
+  for (const auto& page : pages)
+    for (const auto& line : page) all << line.text;
   return all;
 }
 }  // namespace
@@ -241,12 +244,12 @@ QStringList All(const std::vector<QStringList>& pages) {
 TEST(PrintTask, PrintsAllLinesOnAsManyPagesAsItTakes) {
   Printing p;
   EXPECT_EQ(All(p.Pages({5000, 5000})).join(u'|'),
-            QStringLiteral("First line of some words that go on||a   b|last"));
+            QStringLiteral("First line of some words that go on||a\tb|last"));
   const double line = QFontMetricsF(QFont(), &p.paper).lineSpacing();
   const auto pages = p.Pages({5000, 3.5 * line});
   ASSERT_EQ(pages.size(), 2u);
-  EXPECT_EQ(pages[0].size(), 3);
-  EXPECT_EQ(pages[1], QStringList{QStringLiteral("last")});
+  EXPECT_EQ(pages[0].size(), 3u);
+  EXPECT_EQ(All({pages[1]}), QStringList{QStringLiteral("last")});
   EXPECT_EQ(p.Pages({5000, 0}).size(), 4u) << "one line at least";
 }
 
@@ -257,7 +260,7 @@ TEST(PrintTask, WrapsBetweenWordsOrCutsOff) {
   EXPECT_GT(wrapped.size(), 5);
   EXPECT_EQ(wrapped[0].trimmed(), QStringLiteral("First line of"));
   EXPECT_EQ(QString(wrapped.join(QString())).remove(u' '),
-            QStringLiteral("Firstlineofsomewordsthatgoonablast"));
+            QStringLiteral("Firstlineofsomewordsthatgoona\tblast"));
   p.task.Set(TVRXEditControlPrintTask::WordWrap, false);
   EXPECT_EQ(All(p.Pages({width, 5000})).size(), 4);
 }
@@ -265,7 +268,9 @@ TEST(PrintTask, WrapsBetweenWordsOrCutsOff) {
 TEST(PrintTask, NumbersLinesAndHidesPasswords) {
   Printing p;
   p.task.Set(TVRXEditControlPrintTask::LineNumbers, true);
-  EXPECT_EQ(All(p.Pages({5000, 5000})).last(), QStringLiteral("   4  last"));
+  const auto pages = p.Pages({5000, 5000});
+  for (std::size_t i = 0; i < 4; ++i) EXPECT_EQ(pages[0].at(i).number, QString::number(i + 1));
+  EXPECT_EQ(pages[0].at(3).text, QStringLiteral("last"));
   TEdit edit(nullptr);
   edit.SetText(QStringLiteral("secret"));
   edit.Set(TCustomEdit::PasswordChar, TPasswordChar{u'#'});

@@ -239,7 +239,9 @@ TEST_F(FolderDialog, MakesFoldersWithNamesThatNobodyHas) {
   EXPECT_EQ(prompts_.warned.size(), 1);
   {
     const TVRXDialogAnswers answers([](QDialog& dialog) {
-      EXPECT_FALSE(In<QPushButton>(dialog, "newFolder").isEnabled()) << "a preview makes nothing";
+      const auto& make = In<QPushButton>(dialog, "newFolder");
+      EXPECT_FALSE(make.isEnabled()) << "a preview makes nothing";
+      EXPECT_EQ(make.toolTip(), QStringLiteral("A preview makes no folders."));
       return 0;
     });
     dlg_.Preview();
@@ -375,8 +377,8 @@ TEST_F(IconDialog, AFileWithoutIconsIsNotTaken) {
       EXPECT_TRUE(problem.text().contains(name)) << problem.text().toStdString();
       EXPECT_EQ(In<QListWidget>(dialog, "icons").count(), 0);
     })) << name.toStdString();
-    ASSERT_EQ(prompts_.warned.size(), 1);
-    EXPECT_TRUE(prompts_.warned[0].contains(name)) << prompts_.warned[0].toStdString();
+    // What the dialog shows already is not told once more.
+    EXPECT_EQ(prompts_.warned.size(), name.isEmpty() ? 1 : 0) << prompts_.warned.join(u'|').toStdString();
   }
   EXPECT_EQ(dlg_.Get(TVRXFormChangeIconDialog::FileName), icons_);
   dlg_.Set(TVRXFormChangeIconDialog::FileName, text);

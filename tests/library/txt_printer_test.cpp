@@ -154,7 +154,7 @@ TEST_F(TxtPrinter, BreaksLinesTabsAndPages) {
   const PdfText pdf = Printed();
   ASSERT_EQ(pdf.Pages.size(), 2u);
   const QString first = pdf.Pages[0].Texts().join(u'|');
-  EXPECT_TRUE(first.endsWith(QStringLiteral("|a     bc    d|one"))) << first.toStdString();
+  EXPECT_TRUE(first.endsWith(QStringLiteral("|a|bc|d|one"))) << first.toStdString();
   EXPECT_EQ(first.count(QStringLiteral("word")), 60);
   EXPECT_EQ(QString(first).remove(u'|').count(u'w'), 360) << "no letter is lost";
   EXPECT_FALSE(first.contains(QStringLiteral("wo|rd")));
@@ -162,9 +162,71 @@ TEST_F(TxtPrinter, BreaksLinesTabsAndPages) {
   printer_.Set(P::WordWrap, false);
   printer_.Set(P::LineNumbers, true);
   const QStringList cut = Printed().Pages.at(0).Texts();
-  ASSERT_EQ(cut.size(), 4);
-  EXPECT_TRUE(cut[0].startsWith(QStringLiteral("   1  word")));
-  EXPECT_EQ(cut[3], QStringLiteral("   4  one"));
+  EXPECT_EQ(cut.filter(QStringLiteral("word")).size(), 1);
+  EXPECT_EQ(cut.mid(cut.size() - 2).join(u'|'), QStringLiteral("4|one"));
+}
+
+TEST_F(TxtPrinter, KeepsLineNumbersInAColumnOfTheirOwn) {
+  // A line that goes on three times, a word that fills more than a line, and lines of two digits.
+  QStringList lines{QStringLiteral("word ").repeated(50).trimmed(), QString(130, u'w')};
+  for (int i = 3; i <= 12; ++i) lines << QStringLiteral("line");
+  Write(lines);
+  printer_.Set(P::ShowPageNumbers, false);
+  printer_.Set(P::LineNumbers, true);
+  for (const char* font : {"DejaVu Sans", "DejaVu Sans Mono"}) {
+    SCOPED_TRACE(font);
+    printer_.Font()->SetName(QString::fromLatin1(font));
+    const PdfPage page = Printed().Pages.at(0);
+    double text = 0, one = 0, ten = 0;
+    QHash<double, QStringList> rows;
+    for (const PdfRun& run : page.runs) {
+      rows[run.y] << run.text;
+      bool isNumber = false;
+      const int number = run.text.toInt(&isNumber);
+      if (isNumber && number == 1) one = run.x;
+      if (isNumber && number == 10) ten = run.x;
+      if (isNumber) {
+        EXPECT_NEAR(run.x, number < 10 ? one : ten, 0.1) << number;
+        continue;
+      }
+      if (text == 0) text = run.x;
+      EXPECT_NEAR(run.x, text, 0.1) << run.text.toStdString();
+    }
+    constexpr double mm = 72 / 25.4, digit = 4;
+    EXPECT_NEAR(ten, 20 * mm, 1) << "as wide as the largest number";
+    EXPECT_GT(one, ten + digit) << "units below each other";
+    EXPECT_GT(text, one + 2 * digit);
+    EXPECT_LT(text, one + 6 * digit) << "and no wider";
+    EXPECT_GT(rows.size(), 14);
+    const auto second =
+        std::find_if(rows.begin(), rows.end(), [](const auto& row) { return row[0] == u"2"; });
+    ASSERT_NE(second, rows.end());
+    ASSERT_EQ(second->size(), 2) << "the long word begins beside its number";
+    EXPECT_TRUE(second->at(1).startsWith(u"www"));
+  }
+}
+
+TEST_F(TxtPrinter, LinesTabsUpFromWhereTextsBegin) {
+  Write({QStringLiteral("i\tx"), QStringLiteral("WWW\tx"), QStringLiteral("01234\t\tx"),
+         QStringLiteral("012345\tx"), QStringLiteral("\t\tx")});
+  printer_.Set(P::ShowPageNumbers, false);
+  printer_.Set(P::TabWidth, 6);
+  for (const bool numbers : {false, true})
+    for (const char* font : {"DejaVu Sans", "DejaVu Sans Mono"}) {
+      SCOPED_TRACE(font);
+      printer_.Set(P::LineNumbers, numbers);
+      printer_.Font()->SetName(QString::fromLatin1(font));
+      // Of each row, from the top: the number, the text, and what stands behind the tabs.
+      std::map<double, std::vector<double>> rows;
+      for (const PdfRun& run : Printed().Pages.at(0).runs) rows[run.y].push_back(run.x);
+      ASSERT_EQ(rows.size(), 5u);
+      const double text = rows.begin()->second.at(numbers ? 1 : 0);
+      std::vector<double> stops;
+      for (const auto& [y, places] : rows) stops.push_back(places.back() - text);
+      EXPECT_GT(stops[0], 20);
+      EXPECT_NEAR(stops[1], stops[0], 0.1);
+      for (const std::size_t i : {2u, 3u, 4u}) EXPECT_NEAR(stops[i], 2 * stops[0], 0.1) << i;
+    }
 }
 
 TEST_F(TxtPrinter, PrintsCopiesAndRanges) {

@@ -168,6 +168,23 @@ TEST(DialogComponents, AboutShowsWhatThereIs) {
   });
 }
 
+TEST(DialogComponents, AnEmptyAboutSaysInAPreviewWhatToSet) {
+  TVRXAboutDlg about(nullptr);
+  const auto shown = [&](bool preview) {
+    QString text;
+    const TVRXDialogAnswers answers([&](QDialog& dialog) {
+      if (const auto* nothing = dialog.findChild<QLabel*>(QStringLiteral("nothing"))) text = nothing->text();
+      return Ok;
+    });
+    preview ? about.Preview() : static_cast<void>(about.Execute());
+    return text;
+  };
+  EXPECT_TRUE(shown(true).contains(QStringLiteral("ProgramName")));
+  EXPECT_EQ(shown(false), QString()) << "the program's own users can set nothing";
+  about.Set(TVRXAboutDlg::Version, QStringLiteral("2.5"));
+  EXPECT_EQ(shown(true), QString());
+}
+
 TEST(DialogComponents, TipsGoOnWhereTheyWere) {
   TVRXTipDlg tips(nullptr);
   Answered(tips, Ok, [](QDialog& dialog) { EXPECT_FALSE(In<QPushButton>(dialog, "next").isEnabled()); });
