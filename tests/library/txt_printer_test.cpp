@@ -218,7 +218,8 @@ TEST_F(TxtPrinter, LinesTabsUpFromWhereTextsBegin) {
       printer_.Font()->SetName(QString::fromLatin1(font));
       // Of each row, from the top: the number, the text, and what stands behind the tabs.
       std::map<double, std::vector<double>> rows;
-      for (const PdfRun& run : Printed().Pages.at(0).runs) rows[run.y].push_back(run.x);
+      const PdfPage page = Printed().Pages.at(0);
+      for (const PdfRun& run : page.runs) rows[run.y].push_back(run.x);
       ASSERT_EQ(rows.size(), 5u);
       const double text = rows.begin()->second.at(numbers ? 1 : 0);
       std::vector<double> stops;
