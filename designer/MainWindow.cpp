@@ -220,17 +220,8 @@ void MainWindow::ShowPane(WindowPane pane, bool shown) {
 
 void MainWindow::ChoosePackageOption(TEditorOption option, bool on) {
   if (session_ && (session_->IsBusy() || !CommitTyping())) return;
-  // The components are made anew meanwhile.
-  QStringList selected;
-  if (session_)
-    for (const TComponent* c : session_->SelectedComponents()) selected << c->Name();
   ChooseEditorOption(option, on);
   packages_.LoadAgain();
-  if (!session_) return;
-  std::vector<TComponent*> again;
-  for (const QString& name : selected)
-    if (TComponent* c = session_->GetComponent(name)) again.push_back(c);
-  if (!again.empty()) session_->Select(again);
 }
 
 void MainWindow::GoToFormOrInspector() {

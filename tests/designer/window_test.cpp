@@ -416,3 +416,49 @@ TEST_F(Window, APackageThatFailsLeavesTheOpenFormWhole) {
   Click(At("Button1"));
   EXPECT_EQ(Selected(), "Button1");
 }
+
+// Of two lists with something selected one is where the keys go.
+TEST_F(Window, OfSeveralListsTheOneWithTheKeysHasTheAccent) {
+  QWidget dialog;
+  auto* line = new QHBoxLayout(&dialog);
+  QListWidget* lists[2];
+  for (QListWidget*& list : lists) {
+    list = new QListWidget(&dialog);
+    list->addItem(QStringLiteral("chosen"));
+    list->item(0)->setFlags(list->item(0)->flags() | Qt::ItemIsEditable);
+    list->setCurrentRow(0);
+    line->addWidget(list);
+  }
+  const auto ground = [](QListWidget& list) {
+    const QRect row = list.visualItemRect(list.item(0));
+    return QColor(list.viewport()->grab().toImage().pixel(row.right() - 3, row.center().y()));
+  };
+  const auto distance = [](const QColor& a, const QColor& b) {
+    return std::abs(a.red() - b.red()) + std::abs(a.green() - b.green()) + std::abs(a.blue() - b.blue());
+  };
+  for (const TTheme theme : {TTheme::Dark, TTheme::Light}) {
+    ApplyTheme(theme);
+    QCoreApplication::processEvents();
+    dialog.show();
+    dialog.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&dialog));
+    const QPalette palette = ThemePalette(theme);
+    const QColor accent = palette.color(QPalette::Active, QPalette::Highlight),
+                 left = palette.color(QPalette::Inactive, QPalette::Highlight);
+    EXPECT_NE(accent, left);
+    for (const QColor& color : {accent, left})
+      EXPECT_GE(Contrast(palette.color(QPalette::HighlightedText), color), 4.5);
+    for (int i = 0; i < 2; ++i) {
+      lists[i]->setFocus();
+      // The mark of the focus lies over the accent.
+      EXPECT_LT(distance(ground(*lists[i]), accent), distance(ground(*lists[i]), left));
+      EXPECT_EQ(ground(*lists[1 - i]), left);
+    }
+    lists[1]->openPersistentEditor(lists[1]->item(0));
+    lists[1]->findChild<QLineEdit*>()->setFocus();
+    EXPECT_TRUE(lists[1]->style()->styleHint(QStyle::SH_ItemView_ChangeHighlightOnFocus, nullptr, lists[0]));
+    EXPECT_FALSE(lists[1]->style()->styleHint(QStyle::SH_ItemView_ChangeHighlightOnFocus, nullptr, lists[1]))
+        << "an editor in it has the keys";
+    lists[1]->closePersistentEditor(lists[1]->item(0));
+  }
+}

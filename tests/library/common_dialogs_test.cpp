@@ -262,6 +262,16 @@ TEST_F(CommonDialogs, PaperAndMarginsAreSet) {
     In<QRadioButton>(dialog, "landscape").setChecked(true);
     In<QDoubleSpinBox>(dialog, "bottom").setValue(31);
   };
+  {
+    const TVRXDialogAnswers answers([&](QDialog& dialog) {
+      dialog.show();
+      choose(dialog);
+      return Press(dialog, Ok);
+    });
+    dlg.Preview();
+  }
+  EXPECT_EQ(dlg.Get(D::PageWidth), 14800) << "a preview keeps nothing";
+  EXPECT_EQ(VRXPrinterSetup().Layout.orientation(), QPageLayout::Portrait);
   EXPECT_FALSE(Executed(dlg, Cancel, choose));
   EXPECT_EQ(dlg.Get(D::PageWidth), 14800);
   EXPECT_EQ(VRXPrinterSetup().Layout.orientation(), QPageLayout::Portrait);

@@ -17,7 +17,8 @@ TEST(CalculatorDialog, CountsEveryKeyAtAnySpeed) {
   constexpr std::pair<const char*, const char*> rows[] = {
       {"1122", "1122"}, {"9999999999", "9999999999"}, {"0.1+0.2=", "0.3"}, {"50--8*11=", "462"}};
   for (const int pause : {0, 30})
-    for (const auto& [typed, shown] : rows) {
+    for (const auto& row : rows) {
+      const char *const typed = row.first, *const shown = row.second;
       TVRXCalculatorDlg dlg(nullptr);
       Answered(dlg, QDialog::Accepted, [&](QDialog& dialog) {
         fields::ShowActive(dialog);

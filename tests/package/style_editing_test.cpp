@@ -118,6 +118,37 @@ TEST_F(StyleEditing, FloatsOfEverySizeAreTyped) {
   EXPECT_EQ(std::get<long double>(*Value(*d, "Double")), 128.0L);
 }
 
+TEST_F(StyleEditing, FloatsAreShownWithAllTheirDigits) {
+  manager.WritePropValue(Q("TButton"), Q("Double"), -2.5e-12L, Q("Double"));
+  const auto d = Shown();
+  const auto* spin = qobject_cast<QDoubleSpinBox*>(Open(*d, "Double"));
+  ASSERT_NE(spin, nullptr);
+  EXPECT_EQ(S(spin->text()), "-2.5e-12");
+}
+
+TEST_F(StyleEditing, ANameThatIsRefusedStaysInItsDialog) {
+  const auto d = Shown();
+  const auto refusedThen = [&](QToolButton* button, const char* wrong, const char* right) {
+    modal::NextOf<StyleInputDialog>([=](StyleInputDialog& input) {
+      input.input->setText(Q(wrong));
+      Click(input.OkBtn);
+      ASSERT_TRUE(input.isVisible());
+      EXPECT_EQ(S(input.input->selectedText()), wrong) << "what is typed next takes its place";
+      QTest::keyClicks(input.input, Q(right));
+      Click(input.OkBtn);
+      EXPECT_FALSE(input.isVisible());
+    });
+    Click(button);
+  };
+  Select(*d, "TButton");
+  refusedThen(d->btnAddStyle, ".Big", ".Bigger");
+  EXPECT_NE(Find(*d, "TButton|.Bigger"), nullptr);
+  EXPECT_EQ(answers.Said(), "Substyle '.Big' already exists in destination style!");
+  refusedThen(d->btnAddComponent, "TNowhere", "TEdit");
+  EXPECT_NE(Property(*d, "TEdit", "ReadOnly"), nullptr);
+  EXPECT_EQ(answers.Said(), "Cannot find component class 'TNowhere'!");
+}
+
 TEST_F(StyleEditing, IntegersWithoutASignHaveAllTheirBits) {
   const auto d = WithLooseProperties();
   Open(*d, "Cardinal");
