@@ -6,7 +6,11 @@
 
 #include "vcl/Theme.h"
 
-DayPicker::DayPicker(QWidget* parent) : QCalendarWidget(parent) { TakeColors(); }
+DayPicker::DayPicker(QWidget* parent) : QCalendarWidget(parent) {
+  // What is typed would count in the month of today.
+  setDateEditEnabled(false);
+  TakeColors();
+}
 
 void DayPicker::TakeColors() {
   const QColor red(IsDark(palette()) ? 0xff8a80 : 0xc62828);

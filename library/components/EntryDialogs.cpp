@@ -197,6 +197,8 @@ TVRXBaseDialog::Content TVRXCalculatorDlg::MakeContent() {
     // and it takes no other click for as long as it is shown pressed.
     if (qstrlen(key) == 1) {
       auto* typed = new QShortcut(QKeySequence(QLatin1StringView(key)), button);
+      // Keypads have a comma in many countries.
+      if (*key == '.') typed->setKeys({Qt::Key_Period, Qt::Key_Comma});
       QObject::connect(typed, &QShortcut::activated, display, [button, press] {
         press();
         button->setDown(true);
@@ -211,10 +213,22 @@ TVRXBaseDialog::Content TVRXCalculatorDlg::MakeContent() {
             if (engine->IsPending()) engine->Press(u"=");
             if (!engine->HasError()) Set(Value, engine->Value());
           },
-          true, QObject::tr("Calculator")};
+          true, QObject::tr("Calculator"),
+          [engine] {
+            TVRXCalculatorEngine result = *engine;
+            if (result.IsPending()) result.Press(u"=");
+            return result.HasError() ? QObject::tr("The calculation has no result. Press C and begin anew.")
+                                     : QString();
+          }};
 }
 
 TVRXBaseDialog::Content TVRXDirDlg::MakeContent() {
   auto* folders = new FolderTree(Get(Directory), {.hidden = Get(ShowHidden)});
-  return {folders, [this, folders] { Set(Directory, folders->Folder()); }, true, QObject::tr("Folder")};
+  return {
+      folders, [this, folders] { Set(Directory, folders->Folder()); }, true, QObject::tr("Folder"),
+      [folders] {
+        return QFileInfo(folders->Folder()).isDir()
+                   ? QString()
+                   : QObject::tr("There is no folder \"%1\". Pick one in the tree.").arg(folders->Folder());
+      }};
 }

@@ -36,7 +36,8 @@ bool TVRXCalculatorEngine::Press(QStringView key) {
                                          u"1/x", u"back", u"CE", u"C", u"MC", u"MR", u"MS", u"M+"};
   const bool digit = key.size() == 1 && key[0] >= u'0' && key[0] <= u'9';
   if (!digit && std::find(std::begin(keys), std::end(keys), key) == std::end(keys)) return false;
-  if (key == u"C") {
+  // What went wrong is all that there is to clear.
+  if (key == u"C" || (error_ && key == u"CE")) {
     *this = TVRXCalculatorEngine(0, memory_);
     return true;
   }

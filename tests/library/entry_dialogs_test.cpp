@@ -10,6 +10,7 @@
 #include "tests/support/AnsweredDialog.h"
 #include "tests/support/Contrast.h"
 #include "tests/support/Fields.h"
+#include "tests/support/Prompted.h"
 #include "tests/support/Waiting.h"
 #include "vcl/Theme.h"
 
@@ -150,4 +151,73 @@ TEST(FolderTree, ShowsADeepFolderInSightWithItsWholeName) {
     EXPECT_TRUE(QTest::qWaitFor([&] { return tree.model()->rowCount(above) == 17; }, WaitLimit));
     EXPECT_EQ(tree.verticalScrollBar()->value(), 0);
   });
+}
+
+namespace {
+// Does that, presses OK, and says what was warned of. Where OK is refused nothing is kept.
+template <class D>
+std::string Refused(D& component, const std::function<void(QDialog&)>& act) {
+  ScriptedPrompts prompts;
+  const TVRXDialogAnswers answers([&](QDialog& dialog) {
+    fields::ShowActive(dialog);
+    act(dialog);
+    return Press(dialog, QDialogButtonBox::Ok);
+  });
+  const bool confirmed = component.Execute();
+  EXPECT_EQ(confirmed, prompts.warned.isEmpty());
+  return prompts.warned.join(u'|').toStdString();
+}
+}  // namespace
+
+TEST(FolderDialogs, AreConfirmedOnAFolderOnly) {
+  const QTemporaryDir root;
+  const QString nowhere = root.filePath(QStringLiteral("nowhere")),
+                file = root.filePath(QStringLiteral("file"));
+  ASSERT_TRUE(QFile(file).open(QIODevice::WriteOnly));
+  TVRXDirDlg dlg(nullptr);
+  dlg.Set(TVRXDirDlg::Directory, root.path());
+  const auto type = [](const QString& path) {
+    return [path](QDialog& dialog) { In<QLineEdit>(dialog, "directory").setText(path); };
+  };
+  for (const QString& wrong : {nowhere, file}) {
+    EXPECT_EQ(Refused(dlg, type(wrong)),
+              "There is no folder \"" + wrong.toStdString() + "\". Pick one in the tree.");
+    EXPECT_EQ(dlg.Get(TVRXDirDlg::Directory), root.path());
+  }
+  EXPECT_NE(Refused(dlg, type({})), "");
+  EXPECT_EQ(Refused(dlg, type(QDir::rootPath())), "");
+  EXPECT_EQ(dlg.Get(TVRXDirDlg::Directory), QDir::rootPath());
+  // Looked at only: what is no folder is refused, and nothing changed.
+  dlg.Set(TVRXDirDlg::Directory, nowhere);
+  EXPECT_NE(Refused(dlg, [](QDialog&) {}), "");
+  EXPECT_EQ(dlg.Get(TVRXDirDlg::Directory), nowhere);
+}
+
+TEST(CalculatorDialog, TakesNoErrorForAResult) {
+  TVRXCalculatorDlg dlg(nullptr);
+  dlg.Set(TVRXCalculatorDlg::Value, 12.5);
+  const auto type = [](const char* keys) {
+    return [keys](QDialog& dialog) {
+      QTest::keyClicks(&In<QLineEdit>(dialog, "display"), QString::fromLatin1(keys));
+    };
+  };
+  for (const char* keys : {"1/0=", "1/0"}) {
+    EXPECT_EQ(Refused(dlg, type(keys)), "The calculation has no result. Press C and begin anew.") << keys;
+    EXPECT_EQ(dlg.Get(TVRXCalculatorDlg::Value), 12.5);
+  }
+  EXPECT_EQ(Refused(dlg, type("1,5+2")), "") << "a comma is a point";
+  EXPECT_EQ(dlg.Get(TVRXCalculatorDlg::Value), 3.5);
+}
+
+TEST_F(CalendarDialog, TypedDigitsAreNoDays) {
+  TVRXCalendarDlg dlg(nullptr);
+  dlg.Set(TVRXCalendarDlg::Date, TDateTime{45351});
+  EXPECT_EQ(Refused(dlg,
+                    [](QDialog& dialog) {
+                      auto& calendar = In<QCalendarWidget>(dialog, "calendar");
+                      QTest::keyClicks(calendar.findChild<QAbstractItemView*>(), QStringLiteral("15"));
+                      EXPECT_FALSE(calendar.isDateEditEnabled());
+                    }),
+            "");
+  EXPECT_EQ(dlg.Get(TVRXCalendarDlg::Date).Days, 45351);
 }
