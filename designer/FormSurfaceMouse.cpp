@@ -281,5 +281,8 @@ void FormSurface::contextMenuEvent(QContextMenuEvent* event) {
   if (!session_) return;
   if (event->reason() == QContextMenuEvent::Mouse)
     if (TComponent* c = ComponentAt(event->pos()); c && !session_->IsSelected(*c)) session_->Select({c});
-  emit ContextMenuWanted(event->globalPos());
+  // With the keys it opens on what is selected.
+  const bool keys = event->reason() == QContextMenuEvent::Keyboard;
+  const QRect place = WidgetRect(*session_->SelectedComponents().front()) & visibleRegion().boundingRect();
+  emit ContextMenuWanted(keys && !place.isEmpty() ? mapToGlobal(place.center()) : event->globalPos());
 }

@@ -102,7 +102,7 @@ const std::vector<WindowCommand>& WindowCommandTable() {
       {"findComponent",   Menu::Go, QT_TRANSLATE_NOOP("WindowCommands", "&Palette"),           "Ctrl+F", "", false, RunFindComponent,   nullptr, nullptr},
 
       {"zoomOut", Menu::Zoom, QT_TRANSLATE_NOOP("WindowCommands", "Zoom &out"), "Ctrl+-",         "zoom-out",      true,  RunZoomOut, nullptr, nullptr},
-      {"zoomIn",  Menu::Zoom, QT_TRANSLATE_NOOP("WindowCommands", "Zoom &in"),  "Ctrl++; Ctrl+=", "zoom-in",       true,  RunZoomIn,  nullptr, nullptr},
+      {"zoomIn",  Menu::Zoom, QT_TRANSLATE_NOOP("WindowCommands", "Zoom i&n"),  "Ctrl++; Ctrl+=", "zoom-in",       true,  RunZoomIn,  nullptr, nullptr},
       {"zoom100", Menu::Zoom, QT_TRANSLATE_NOOP("WindowCommands", "&100 %"),    "Ctrl+0",         "zoom-original", false, RunZoom100, nullptr, nullptr},
 
       {"light", Menu::Theme, QT_TRANSLATE_NOOP("WindowCommands", "&Light theme"), "", "", false, RunTheme<TTheme::Light>, nullptr, IsTheme<TTheme::Light>},

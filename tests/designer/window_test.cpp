@@ -462,3 +462,21 @@ TEST_F(Window, OfSeveralListsTheOneWithTheKeysHasTheAccent) {
     lists[1]->closePersistentEditor(lists[1]->item(0));
   }
 }
+
+TEST_F(Window, TheMenuKeyOpensTheMenuOnWhatIsSelected) {
+  for (const char* name : {"Button2", "Led", "Timer1"}) {
+    Select(name);
+    std::vector<QPoint> opened;
+    const auto heard =
+        QObject::connect(&Surface(), &FormSurface::ContextMenuWanted, &Surface(),
+                         [&](const QPoint& at) { opened.push_back(Surface().mapFromGlobal(at)); });
+    QTimer::singleShot(0, [] {
+      if (QWidget* menu = QApplication::activePopupWidget()) menu->close();
+    });
+    QContextMenuEvent key(QContextMenuEvent::Keyboard, QPoint(3, 4), Surface().mapToGlobal(QPoint(3, 4)));
+    QCoreApplication::sendEvent(&Surface(), &key);
+    QObject::disconnect(heard);
+    ASSERT_EQ(opened.size(), 1u);
+    EXPECT_TRUE(Surface().WidgetRect(Get(name)).contains(opened[0])) << name;
+  }
+}
