@@ -1,7 +1,6 @@
 // What the list of problems tells of, what it looks like, and that it is that of the open form.
-#include "designer/ProblemsList.h"
 #include "forms/Document.h"
-#include "tests/designer/InspectingTest.h"
+#include "tests/designer/ProblemsTest.h"
 
 namespace designer {
 namespace {
@@ -45,22 +44,9 @@ const QByteArray Refused = R"(object Main: TMain
 end
 )";
 
-// The list looks again at once here.
-constexpr int Patience = 60'000;  // milliseconds
-
-class ProblemsListTest : public Inspecting {
+class ProblemsListTest : public ListingProblems {
  protected:
-  explicit ProblemsListTest(const QByteArray& form = Refused) : Inspecting(form) {}
-  void SetUp() override {
-    Inspecting::SetUp();
-    for (QTimer* timer : List().findChildren<QTimer*>()) timer->setInterval(0);
-  }
-  ProblemsList& List() { return *window_->findChild<ProblemsList*>(); }
-  QStringList Told() {
-    QStringList told;
-    for (int i = 0; i < List().count(); ++i) told << List().item(i)->text();
-    return told;
-  }
+  explicit ProblemsListTest(const QByteArray& form = Refused) : ListingProblems(form) {}
   int RowOf(const char* word) {
     for (int i = 0; i < List().count(); ++i)
       if (List().item(i)->text().contains(QLatin1StringView(word))) return i;
@@ -154,7 +140,7 @@ TEST_F(ProblemsListTest, UnknownNamesAreNoProblems) {
   ASSERT_TRUE(Open("unknown.dfm", QByteArray(Plain).replace(
                                       "end\n", "  Foreign = 7\n  object Box: TMysteryBox\n  end\nend\n")));
   EXPECT_FALSE(Session().Findings().empty());
-  EXPECT_EQ(Told(), QStringList());
+  EXPECT_EQ(Texts(), QStringList());
 }
 
 TEST_F(ProblemsListTest, AMissingAncestorIsToldAndStaysTold) {
@@ -162,18 +148,18 @@ TEST_F(ProblemsListTest, AMissingAncestorIsToldAndStaysTold) {
                    "inherited Derived: TDerived\n  Caption = 'Derived'\n  object Extra: TButton\n    Left = "
                    "24\n    Top = 6\n    Width = 80\n    Height = 24\n  end\nend\n"));
   ASSERT_EQ(List().count(), 1);
-  const QStringList told = Told();
+  const QStringList told = Texts();
   EXPECT_TRUE(told[0].contains(QStringLiteral("Derived"))) << told[0].toStdString();
   QSignalSpy found(&Session(), &FormSession::FindingsChanged);
   Rename("Extra", "Other");
   ASSERT_TRUE(QTest::qWaitFor([&] { return !found.isEmpty(); }, Patience));
-  EXPECT_EQ(Told(), told);
+  EXPECT_EQ(Texts(), told);
 }
 
 TEST_F(ProblemsListTest, OfAFormWithoutLinesNoneAreTold) {
   ASSERT_TRUE(Open("binary.dfm", forms::Document::Parse(Refused).WriteAs(forms::Format::Binary)));
   ASSERT_EQ(List().count(), 4);
-  for (const QString& text : Told())
+  for (const QString& text : Texts())
     EXPECT_FALSE(text.startsWith(QStringLiteral("Line "))) << text.toStdString();
 }
 
@@ -181,7 +167,7 @@ TEST_F(ProblemsListTest, AnotherFormHasItsOwn) {
   Rename("Button2", "Other");
   ASSERT_TRUE(Open("plain.dfm", Plain));
   QSignalSpy found(&Session(), &FormSession::FindingsChanged);
-  EXPECT_EQ(Told(), QStringList());
+  EXPECT_EQ(Texts(), QStringList());
   for (int i = 0; i < 5; ++i) QCoreApplication::processEvents();
   EXPECT_TRUE(found.isEmpty()) << "nobody did anything to this one";
   ASSERT_TRUE(window_->OpenForm(file_));

@@ -1,8 +1,7 @@
 // What is wrong with the open form: the list below the surface and the signs in the inspector follow edits.
-#include "designer/ProblemsList.h"
 #include "designer/RowDelegate.h"
 #include "ide/operations/FormText.h"
-#include "tests/designer/InspectingTest.h"
+#include "tests/designer/ProblemsTest.h"
 #include "vcl/StatusBar.h"
 
 using namespace designer;
@@ -51,23 +50,14 @@ const QByteArray Form = R"(object Main: TMain
 end
 )";
 
-// The list looks again at once here.
-constexpr int Patience = 60'000;  // milliseconds
-
-class Problems : public Inspecting {
+class Problems : public ListingProblems {
  protected:
-  explicit Problems(const QByteArray& form = Form) : Inspecting(form) {}
-  void SetUp() override {
-    Inspecting::SetUp();
-    for (QTimer* timer : List().findChildren<QTimer*>()) timer->setInterval(0);
-  }
-  ProblemsList& List() { return *window_->findChild<ProblemsList*>(); }
+  explicit Problems(const QByteArray& form = Form) : ListingProblems(form) {}
   QDockWidget& Dock() { return dynamic_cast<QDockWidget&>(*List().parentWidget()); }
   // The line and the word after the last colon but one.
   std::string Told() {
     QStringList told;
-    for (int i = 0; i < List().count(); ++i) {
-      const QString text = List().item(i)->text();
+    for (const QString& text : Texts()) {
       for (const char* word : {"Nobody", "clStrange", "perhaps", "sideways", "Elsewhere"})
         if (text.contains(QLatin1StringView(word)))
           told << text.section(u':', 0, 0) + u' ' + QLatin1StringView(word);
