@@ -49,6 +49,8 @@ InspectorPane::InspectorPane(QWidget* parent) : QWidget(parent) {
   view_->header()->setStretchLastSection(true);
   view_->header()->resizeSection(0, 140);
   view_->setAccessibleName(tr("Properties"));
+  // The row is painted before its editor has the keys.
+  connect(qApp, &QApplication::focusChanged, view_, [this] { view_->viewport()->update(); });
   description_ = new QLabel;
   description_->setWordWrap(true);
   description_->setMinimumHeight(40);

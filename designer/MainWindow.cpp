@@ -309,6 +309,6 @@ void MainWindow::ShowContextMenu(const QPoint& pos) {
     }
   if (!menu.isEmpty()) menu.addSeparator();
   form_->AddTo(menu, {ActionGroup::Undo, ActionGroup::Clipboard, ActionGroup::Align, ActionGroup::Size,
-                      ActionGroup::Spacing, ActionGroup::Order});
+                      ActionGroup::Spacing, ActionGroup::Order, ActionGroup::Grid});
   menu.exec(pos);
 }

@@ -100,6 +100,8 @@ class OutlinedFusion : public QProxyStyle {
   // Fusion greys a disabled icon towards the light: in a dark theme it stands out more than before.
   QPixmap generatedIconPixmap(QIcon::Mode mode, const QPixmap& pixmap,
                               const QStyleOption* option) const override {
+    // A color is what it is on a selected row, too.
+    if (mode == QIcon::Selected) return pixmap;
     if (mode != QIcon::Disabled || !option || !IsDark(option->palette))
       return QProxyStyle::generatedIconPixmap(mode, pixmap, option);
     QImage faint = pixmap.toImage().convertToFormat(QImage::Format_ARGB32);

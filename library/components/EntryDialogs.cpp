@@ -208,6 +208,12 @@ TVRXBaseDialog::Content TVRXCalculatorDlg::MakeContent() {
     grid->addWidget(button, at / 4, at % 4);
     ++at;
   }
+  for (const auto& [code, key] : {std::pair{Qt::Key_Backspace, "back"}, {Qt::Key_Delete, "CE"}})
+    QObject::connect(new QShortcut(QKeySequence(code), pad), &QShortcut::activated, display,
+                     [engine, display, name = QLatin1StringView(key)] {
+                       engine->Press(QString(name));
+                       display->setText(engine->Display());
+                     });
   return {pad,
           [this, engine] {
             if (engine->IsPending()) engine->Press(u"=");

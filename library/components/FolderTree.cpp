@@ -26,7 +26,11 @@ FolderTree::FolderTree(const QString& folder, const Offer& offer)
         static_cast<QWidget*>(tree_->horizontalScrollBar())})
     part->installEventFilter(this);
   if (!offer.root.isEmpty()) tree_->setRootIndex(model_->index(offer.root));
-  if (const QModelIndex at = model_->index(folder); at.isValid()) {
+  // A path that is none is looked for as far as it goes; the line has it as it is.
+  QString shown = folder;
+  while (!offer.files && !shown.isEmpty() && !QFileInfo(shown).isDir() && QFileInfo(shown).path() != shown)
+    shown = QFileInfo(shown).path();
+  if (const QModelIndex at = model_->index(shown); at.isValid()) {
     tree_->setCurrentIndex(at);
     sought_ = at;
   }

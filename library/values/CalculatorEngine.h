@@ -14,8 +14,8 @@ class TVRXCalculatorEngine {
   bool Press(QStringView key);
   // After an error (a division by zero, a number that is too large) only "C" counts.
   bool HasError() const { return error_; }
-  // An operation waits for "=".
-  bool IsPending() const { return pending_ != 0; }
+  // An operation has its second number and waits for "=".
+  bool IsPending() const { return pending_ != 0 && hasRight_; }
   double Value() const;
   double Memory() const { return memory_; }
   void SetMemory(double memory) { memory_ = memory; }

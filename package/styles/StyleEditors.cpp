@@ -60,6 +60,26 @@ class ExactSpin : public QDoubleSpinBox {
   }
 };
 
+// Integers that have more than 31 bits. What is too large becomes the largest.
+class WideSpin : public QDoubleSpinBox {
+ public:
+  explicit WideSpin(QWidget* parent) : QDoubleSpinBox(parent) { setDecimals(0); }
+
+ protected:
+  double valueFromText(const QString& text) const override {
+    return std::clamp(text.toDouble(), minimum(), maximum());
+  }
+  QValidator::State validate(QString& text, int&) const override {
+    static const QRegularExpression whole(QStringLiteral("^-?\\d+$"));
+    return whole.match(text).hasMatch()     ? QValidator::Acceptable
+           : text.isEmpty() || text == u'-' ? QValidator::Intermediate
+                                            : QValidator::Invalid;
+  }
+  QString textFromValue(double value) const override {
+    return QString::number(static_cast<std::int64_t>(value));
+  }
+};
+
 // --- Sets
 
 // A list that stays open while its entries are checked.
@@ -132,11 +152,8 @@ Made MakeColor(const TTypeInfo*, const TVRXStyleValue* value, QWidget* parent) {
   if (value) combo->SetSelected(TColor(static_cast<std::uint32_t>(IntegerIn(value))));
   return {combo, [combo] { return static_cast<std::int64_t>(static_cast<std::int32_t>(combo->Selected())); }};
 }
-// Of integers that have more than 31 bits.
 Made MakeWideSpin(const TTypeInfo& type, const TVRXStyleValue* value, QWidget* parent) {
-  auto* edit = new QDoubleSpinBox(parent);
-  edit->setDecimals(0);
-  edit->setGroupSeparatorShown(false);
+  auto* edit = new WideSpin(parent);
   edit->setRange(static_cast<double>(type.MinValue), static_cast<double>(type.MaxValue));
   edit->setValue(static_cast<double>(IntegerIn(value)));
   return {edit, [edit] {

@@ -279,10 +279,24 @@ void TfrmVRXStyleManProp::btnAddStyleClick() {
 void TfrmVRXStyleManProp::btnDeleteStyleClick() {
   SavePropValue();
   Node* const node = Styles->Selected();
-  Node* const parent = node ? node->Parent : nullptr;
+  // The neighbor of the same kind is next, so that who deletes several properties does not come to the style.
+  Node *next = node ? node->Parent : nullptr, *before = nullptr;
+  if (next) {
+    bool behind = false;
+    for (const auto& child : node->Parent->Children) {
+      if (child->IsProperty() != node->IsProperty()) continue;
+      if (behind) {
+        before = child.get();
+        break;
+      }
+      behind = child.get() == node;
+      if (!behind) before = child.get();
+    }
+    if (before) next = before;
+  }
   bool deleted = false;
   Step([&] { deleted = tree_->Delete(node, cbConfirmDeletion->isChecked()); });
-  if (deleted) Styles->Select(parent);
+  if (deleted) Styles->Select(next);
 }
 
 void TfrmVRXStyleManProp::btnAddComponentClick() {

@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QPalette>
 #include <QPixmap>
+#include <QScopeGuard>
 
 #include "designintf/ComponentIcons.h"
 #include "vcl/ColorSwatch.h"
@@ -34,25 +35,33 @@ void StyleModel::Gone(const Node& node) {
   for (const auto& child : node.Children) Gone(*child);
 }
 
+void StyleModel::Begin() {
+  changing_ = true;
+  emit layoutAboutToBeChanged();
+}
+void StyleModel::End() {
+  rows_.clear();
+  const QModelIndexList kept = persistentIndexList();
+  for (const QModelIndex& index : kept)
+    changePersistentIndex(index, gone_.contains(index.internalPointer())
+                                     ? QModelIndex()
+                                     : IndexOf(NodeAt(index), index.column()));
+  changing_ = false;
+  emit layoutChanged();
+}
+
 void StyleModel::Do(const std::function<void()>& change) {
   gone_.clear();
-  emit layoutAboutToBeChanged();
-  const auto end = [this] {
-    rows_.clear();
-    const QModelIndexList kept = persistentIndexList();
-    for (const QModelIndex& index : kept)
-      changePersistentIndex(index, gone_.contains(index.internalPointer())
-                                       ? QModelIndex()
-                                       : IndexOf(NodeAt(index), index.column()));
-    emit layoutChanged();
-  };
-  try {
-    change();
-  } catch (...) {
-    end();
-    throw;
-  }
-  end();
+  Begin();
+  const auto end = qScopeGuard([this] { End(); });
+  change();
+}
+
+bool StyleModel::Aside(const std::function<bool()>& ask) {
+  if (!changing_) return ask();
+  End();
+  const auto again = qScopeGuard([this] { Begin(); });
+  return ask();
 }
 
 // Neighbours are asked for, too, as a rule.

@@ -18,6 +18,8 @@ class StyleModel : public QAbstractItemModel {
   QModelIndex IndexOf(const TVRXStyleNode* node, int column = 0) const;
   // All changes of the tree are made in here: what is selected and open stays so, wherever it moves.
   void Do(const std::function<void()>& change);
+  // What is asked or told during a change: the views are whole meanwhile.
+  bool Aside(const std::function<bool()>& ask);
   // Whether the last change took the node away.
   bool IsGone(const TVRXStyleNode* node) const { return gone_.contains(node); }
 
@@ -32,7 +34,10 @@ class StyleModel : public QAbstractItemModel {
  private:
   int RowOf(const TVRXStyleNode& node) const;
   void Gone(const TVRXStyleNode& node);
+  void Begin();
+  void End();
   TVRXStyleTree& tree_;
   mutable QHash<const TVRXStyleNode*, int> rows_;  // of those that were asked for, and their neighbours
   QSet<const void*> gone_;
+  bool changing_ = false;
 };

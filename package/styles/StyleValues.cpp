@@ -53,7 +53,8 @@ bool VRXIsExpandable(const TVRXPropListItem& item) {
 
 QString VRXDisplayValue(const TVRXStyleValue* value, TTypeKind kind, const QString& typeName,
                         const TTypeInfo* type) {
-  if (!value) return kind == tkClass ? QStringLiteral("(none)") : QString();
+  const bool object = kind == tkClass || typeName == Bitmap || typeName == Icon;
+  if (!value) return object ? QStringLiteral("(none)") : QString();
   return std::visit(ForEach{[](const QString& v) { return v; },
                             [&](std::int64_t v) { return OrdinalText(v, kind, typeName, type); },
                             [&](long double v) {

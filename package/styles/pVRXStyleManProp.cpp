@@ -3,6 +3,7 @@
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QHeaderView>
+#include <QKeyEvent>
 #include <QMenu>
 #include <QRadioButton>
 #include <QSplitter>
@@ -18,6 +19,7 @@
 #include "package/styles/StylePreview.h"
 #include "package/styles/StylesView.h"
 #include "package/styles/pVRXCstMain.h"
+#include "vcl/Prompts.h"
 
 using D = TfrmVRXStyleManProp;
 
@@ -64,7 +66,10 @@ QTreeWidget* List(QWidget* parent, const char* name, const char* hint) {
 TfrmVRXStyleManProp::TfrmVRXStyleManProp(QWidget* owner)
     : RowDialog(QString::fromLatin1(VRXStyleEditorTitle), owner) {
   setObjectName(QStringLiteral("frmVRXStyleManProp"));
-  tree_ = std::make_unique<TVRXStyleTree>(manager_, VRXStyleRegistry(), VRXStyleBoxesOf(this));
+  tree_ = std::make_unique<TVRXStyleTree>(manager_, VRXStyleRegistry(),
+                                          [this, show = VRXStyleBoxesOf(this)](const TVRXStyleBox& box) {
+                                            return model_->Aside([&] { return show(box); });
+                                          });
   model_ = new StyleModel(*tree_, this);
   auto* left = new QWidget(this);
   left->setLayout(PropertyPart());
@@ -314,6 +319,13 @@ void TfrmVRXStyleManProp::BuildMenus() {
   menu.addSeparator();
   mnuUndo = Action(menu, *Styles, "mnuUndo", "Undo", QKeySequence::Undo, [this] { Undo(); });
   mnuRedo = Action(menu, *Styles, "mnuRedo", "Redo", QKeySequence::Redo, [this] { Redo(); });
+  mnuRedo->setShortcuts({QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Z), QKeySequence(Qt::CTRL | Qt::Key_Y)});
+  // Wherever the keys are: who has dragged something is still on the other side.
+  for (QAction* action : {mnuUndo, mnuRedo}) {
+    action->setShortcutContext(Qt::WindowShortcut);
+    addAction(action);
+  }
+  mnuEdit->setShortcuts({QKeySequence(Qt::Key_Return), QKeySequence(Qt::Key_Enter)});
   PropMenu = new QMenu(this);
   mnuAddToStyle = Action(*PropMenu, *PropTree, "mnuAddToStyle", "Add to the selected style",
                          QKeySequence(Qt::Key_Insert), [this] {
@@ -352,6 +364,15 @@ void TfrmVRXStyleManProp::UpdateMenu() {
 bool TfrmVRXStyleManProp::ReturnConfirms() const {
   const QWidget* focus = focusWidget();
   return !Styles->Delegate().Editor() && focus != fltEdit && focus != Styles && focus != PropTree;
+}
+
+// Escape closes an editor, a list, a message: one too many does not throw the work away.
+void TfrmVRXStyleManProp::keyPressEvent(QKeyEvent* event) {
+  if (event->key() == Qt::Key_Escape && !undo_.empty() &&
+      !Prompts().Confirm(this, QString::fromLatin1(VRXStyleEditorTitle),
+                         QStringLiteral("Close without the changes that were made here?")))
+    return;
+  RowDialog::keyPressEvent(event);
 }
 
 void TfrmVRXStyleManProp::done(int result) {

@@ -83,6 +83,7 @@ class TfrmVRXStyleManProp : public RowDialog {
 
  protected:
   void done(int result) override;
+  void keyPressEvent(QKeyEvent* event) override;
   bool ReturnConfirms() const override;
 
  private:

@@ -188,9 +188,20 @@ TEST(FolderDialogs, AreConfirmedOnAFolderOnly) {
   EXPECT_EQ(Refused(dlg, type(QDir::rootPath())), "");
   EXPECT_EQ(dlg.Get(TVRXDirDlg::Directory), QDir::rootPath());
   // Looked at only: what is no folder is refused, and nothing changed.
-  dlg.Set(TVRXDirDlg::Directory, nowhere);
-  EXPECT_NE(Refused(dlg, [](QDialog&) {}), "");
-  EXPECT_EQ(dlg.Get(TVRXDirDlg::Directory), nowhere);
+  for (const QString& wrong : {nowhere, nowhere + QStringLiteral("/below"), file}) {
+    dlg.Set(TVRXDirDlg::Directory, wrong);
+    EXPECT_NE(Refused(dlg,
+                      [&](QDialog& dialog) {
+                        auto& tree = In<QTreeView>(dialog, "tree");
+                        EXPECT_EQ(
+                            dynamic_cast<QFileSystemModel&>(*tree.model()).filePath(tree.currentIndex()),
+                            root.path())
+                            << "where the tree begins";
+                        EXPECT_EQ(In<QLineEdit>(dialog, "directory").text(), wrong);
+                      }),
+              "");
+    EXPECT_EQ(dlg.Get(TVRXDirDlg::Directory), wrong);
+  }
 }
 
 TEST(CalculatorDialog, TakesNoErrorForAResult) {
@@ -207,6 +218,26 @@ TEST(CalculatorDialog, TakesNoErrorForAResult) {
   }
   EXPECT_EQ(Refused(dlg, type("1,5+2")), "") << "a comma is a point";
   EXPECT_EQ(dlg.Get(TVRXCalculatorDlg::Value), 3.5);
+  for (const auto& [keys, value] : {std::pair{"7+", 7.0}, {"2*", 2.0}, {"3+-", 3.0}, {"2+3=*", 5.0}}) {
+    EXPECT_EQ(Refused(dlg, type(keys)), "");
+    EXPECT_EQ(dlg.Get(TVRXCalculatorDlg::Value), value) << keys << ": what is shown, nothing is made up";
+  }
+}
+
+TEST(CalculatorDialog, TakesBackWithTheKeysForThat) {
+  TVRXCalculatorDlg dlg(nullptr);
+  EXPECT_EQ(Refused(dlg,
+                    [](QDialog& dialog) {
+                      auto& display = In<QLineEdit>(dialog, "display");
+                      QTest::keyClicks(&display, QStringLiteral("1234"));
+                      QTest::keyClick(&display, Qt::Key_Backspace);
+                      EXPECT_EQ(display.text(), QStringLiteral("123"));
+                      QTest::keyClicks(&display, QStringLiteral("+9"));
+                      QTest::keyClick(&display, Qt::Key_Delete);
+                      QTest::keyClicks(&display, QStringLiteral("7"));
+                    }),
+            "");
+  EXPECT_EQ(dlg.Get(TVRXCalculatorDlg::Value), 130);
 }
 
 TEST_F(CalendarDialog, TypedDigitsAreNoDays) {

@@ -22,11 +22,13 @@ class StyleAnswers : public ScriptedPrompts {
   bool Confirm(QWidget*, const QString& title, const QString& text) override {
     EXPECT_EQ(title, Q("Orlenvo-Kit Style Editor"));
     asked << text;
+    seen();
     return yes;
   }
   void Warn(QWidget*, const QString& title, const QString& text) override {
     EXPECT_EQ(title, Q("Orlenvo-Kit Style Editor"));
     warned << text;
+    seen();
   }
   QString SaveFileName(QWidget*, const QString&, const QString&, const QString&) override { return file; }
   // The only thing that was said since the last call.
@@ -37,6 +39,7 @@ class StyleAnswers : public ScriptedPrompts {
     return S(all);
   }
   bool yes = false;
+  std::function<void()> seen = [] {};  // while it is up
   QStringList asked;
 };
 

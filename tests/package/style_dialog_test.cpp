@@ -434,7 +434,7 @@ TEST_F(StyleDialog, KeysDoWhatTheMouseDoes) {
   Select(*d, ".Body", "Enabled");
   Press(*d, Qt::Key_Delete);
   EXPECT_EQ(Find(*d, ".Body", "Enabled"), nullptr);
-  EXPECT_EQ(d->Styles->Selected(), Find(*d, ".Body"));
+  EXPECT_EQ(d->Styles->Selected(), Find(*d, ".Body", "Width")) << "the next of the kind";
   Rename(*d, ".Body", ".Foot");
   EXPECT_EQ(Find(*d, ".Body"), nullptr);
   EXPECT_NE(Find(*d, ".Foot", "Width"), nullptr);

@@ -159,6 +159,14 @@ TEST_F(StyleEditing, IntegersWithoutASignHaveAllTheirBits) {
   Open(*d, "Cardinal");
   Press(*d, Qt::Key_Return);
   EXPECT_EQ(*Value(*d, "Cardinal"), TVRXStyleValue(std::int64_t{UINT32_MAX})) << "looked at";
+  Open(*d, "Cardinal");
+  Type(*d, "17");
+  Press(*d, Qt::Key_Return);
+  EXPECT_EQ(*Value(*d, "Cardinal"), TVRXStyleValue(std::int64_t{17}));
+  Open(*d, "Cardinal");
+  Type(*d, "5000000000");
+  Press(*d, Qt::Key_Return);
+  EXPECT_EQ(*Value(*d, "Cardinal"), TVRXStyleValue(std::int64_t{UINT32_MAX})) << "the nearest there is";
 }
 
 TEST_F(StyleEditing, WhereNothingCanBeDroppedTheMouseSaysSo) {
@@ -206,6 +214,64 @@ TEST_F(StyleEditing, WhatTheFilterFindsIsInSightAndTheRestComesBack) {
   EXPECT_TRUE(Property(*d, "TVRXLEDLabel")->isExpanded());
   EXPECT_FALSE(Property(*d, "TButton")->isExpanded());
   EXPECT_FALSE(Property(*d, "TCheckBox")->isExpanded());
+}
+
+TEST_F(StyleEditing, UndoWorksWhereverTheKeysAre) {
+  const auto d = Shown();
+  DragProperty(*d, Property(*d, "TCheckBox"), nullptr);
+  ASSERT_NE(Find(*d, "TCheckBox"), nullptr);
+  d->PropTree->setFocus();
+  QTest::keySequence(d->PropTree, QKeySequence::Undo);
+  EXPECT_EQ(Find(*d, "TCheckBox"), nullptr);
+  d->cbAlign->setFocus();
+  QTest::keyClick(d->cbAlign, Qt::Key_Y, Qt::ControlModifier);
+  EXPECT_NE(Find(*d, "TCheckBox"), nullptr);
+  d->fltEdit->setFocus();
+  QTest::keyClicks(d->fltEdit, Q("Co"));
+  QTest::keySequence(d->fltEdit, QKeySequence::Undo);
+  EXPECT_NE(Find(*d, "TCheckBox"), nullptr) << "that is the field's own";
+}
+
+TEST_F(StyleEditing, EscapeAsksBeforeItThrowsWorkAway) {
+  const auto d = Shown();
+  QTest::keyClick(d.get(), Qt::Key_Escape);
+  EXPECT_FALSE(d->isVisible()) << "nothing was done";
+  EXPECT_EQ(answers.Said(), "");
+  fields::ShowActive(*d);
+  DragProperty(*d, Property(*d, "TCheckBox"), nullptr);
+  QTest::keyClick(d.get(), Qt::Key_Escape);
+  EXPECT_TRUE(d->isVisible());
+  EXPECT_EQ(answers.Said(), "Close without the changes that were made here?");
+  answers.yes = true;
+  QTest::keyClick(d.get(), Qt::Key_Escape);
+  EXPECT_FALSE(d->isVisible());
+}
+
+// While a message is up the tree is as wide as before.
+TEST_F(StyleEditing, MessagesLeaveTheColumnsAsTheyAre) {
+  const auto d = Shown();
+  const int width = d->Styles->header()->sectionSize(1);
+  EXPECT_GT(width, 150);
+  int shown = 0;
+  answers.seen = [&] {
+    ++shown;
+    QCoreApplication::processEvents();
+    EXPECT_EQ(d->Styles->header()->sectionSize(1), width);
+    EXPECT_EQ(d->Styles->header()->count(), 2);
+  };
+  Select(*d, "TButton", "Width");
+  Press(*d, Qt::Key_Delete);
+  DragStyle(*d, Find(*d, "TButton"), Find(*d, "TButton|.Big"));
+  Rename(*d, ".Body", "a.b");
+  EXPECT_EQ(shown, 3);
+}
+
+TEST_F(StyleEditing, ReturnOpensTheEditorOfARow) {
+  const auto d = Shown();
+  Select(*d, "TButton", "Width");
+  QTest::keyClick(d->Styles, Qt::Key_Return);
+  EXPECT_NE(d->Styles->Delegate().Editor(), nullptr);
+  EXPECT_TRUE(d->isVisible());
 }
 
 TEST_F(StyleEditing, AControlListsTheStylesOfItsManager) {
