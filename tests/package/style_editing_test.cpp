@@ -55,6 +55,34 @@ TEST_F(StyleEditing, PropertiesWithoutAValueSayThatTheyHaveNone) {
   EXPECT_FALSE(width.data(Qt::ForegroundRole).isValid());
 }
 
+TEST_F(StyleEditing, APictureThatWasTakenAwayIsNone) {
+  manager.WritePropValue(Q("TButton"), Q("Sign"), QByteArray("BM?"), Q("TBitmap"));
+  const auto d = Shown();
+  Node* sign = Find(*d, "TButton", "Sign");
+  EXPECT_EQ(S(IndexOf(*d, sign).siblingAtColumn(1).data().toString()), "(TBitmap)");
+  d->Tree().ClearValue(*sign);
+  EXPECT_EQ(S(IndexOf(*d, sign).siblingAtColumn(1).data().toString()), "(none)");
+}
+
+TEST_F(StyleEditing, DeletingGoesOnWithTheNextOfTheKind) {
+  manager.WritePropValue(Q("TButton"), Q("Caption"), Q("x"), Q("TCaption"));
+  manager.WritePropValue(Q("TButton"), Q("Height"), std::int64_t{5}, Q("Integer"));
+  Fill(manager);
+  const auto d = Shown();
+  d->cbConfirmDeletion->setChecked(false);
+  Select(*d, "TButton", "Height");
+  Press(*d, Qt::Key_Delete);
+  EXPECT_EQ(d->Styles->Selected(), Find(*d, "TButton", "Width"));
+  Press(*d, Qt::Key_Delete);
+  EXPECT_EQ(d->Styles->Selected(), Find(*d, "TButton", "Caption")) << "the last one: the one before";
+  Press(*d, Qt::Key_Delete);
+  EXPECT_EQ(d->Styles->Selected(), Find(*d, "TButton"));
+  EXPECT_NE(Find(*d, "TButton|.Big", "Caption"), nullptr);
+  Select(*d, ".Body");
+  Press(*d, Qt::Key_Delete);
+  EXPECT_EQ(d->Styles->Selected(), Find(*d, "TButton")) << "a style";
+}
+
 TEST_F(StyleEditing, AnEditorThatIsOnlyLookedAtGivesNoValue) {
   const auto d = WithLooseProperties();
   const TVRXStyles before = d->Manager().Styles();
