@@ -66,9 +66,7 @@ class WideSpin : public QDoubleSpinBox {
   explicit WideSpin(QWidget* parent) : QDoubleSpinBox(parent) { setDecimals(0); }
 
  protected:
-  double valueFromText(const QString& text) const override {
-    return std::clamp(text.toDouble(), minimum(), maximum());
-  }
+  double valueFromText(const QString& text) const override { return text.toDouble(); }
   QValidator::State validate(QString& text, int&) const override {
     static const QRegularExpression whole(QStringLiteral("^-?\\d+$"));
     return whole.match(text).hasMatch()     ? QValidator::Acceptable

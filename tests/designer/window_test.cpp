@@ -480,3 +480,18 @@ TEST_F(Window, TheMenuKeyOpensTheMenuOnWhatIsSelected) {
     EXPECT_TRUE(Surface().WidgetRect(Get(name)).contains(opened[0])) << name;
   }
 }
+
+// A swatch is looked at for its color.
+TEST_F(Window, PicturesOfSelectedRowsKeepTheirColors) {
+  QImage swatch(7, 5, QImage::Format_ARGB32);
+  swatch.fill(qRgba(255, 0, 0, 255));
+  swatch.setPixelColor(1, 1, QColor(255, 255, 0, 90));
+  const QIcon icon(QPixmap::fromImage(swatch));
+  for (const TTheme theme : {TTheme::Dark, TTheme::Light}) {
+    ApplyTheme(theme);
+    const QImage selected =
+        icon.pixmap(swatch.size(), QIcon::Selected).toImage().convertToFormat(QImage::Format_ARGB32);
+    EXPECT_EQ(selected.pixel(3, 3), swatch.pixel(3, 3));
+    EXPECT_EQ(qAlpha(selected.pixel(1, 1)), 90);
+  }
+}
