@@ -13,6 +13,15 @@ using enum TPropertyAttribute;
 
 namespace {
 constexpr qsizetype LongestTyped = 32767;
+
+// The rows have the keys while one of them is edited.
+class RowsView : public QTreeView {
+ protected:
+  void initViewItemOption(QStyleOptionViewItem* option) const override {
+    QTreeView::initViewItemOption(option);
+    if (isAncestorOf(QApplication::focusWidget())) option->state |= QStyle::State_Active;
+  }
+};
 }  // namespace
 
 InspectorPane::InspectorPane(QWidget* parent) : QWidget(parent) {
@@ -30,7 +39,7 @@ InspectorPane::InspectorPane(QWidget* parent) : QWidget(parent) {
   grouped->setCheckable(true);
   grouped->setAutoRaise(true);
   grouped->setToolTip(tr("Groups the rows by category instead of by name"));
-  view_ = new QTreeView;
+  view_ = new RowsView;
   view_->setObjectName(QStringLiteral("inspector"));
   view_->setModel(&model_);
   delete view_->selectionModel();
@@ -49,8 +58,6 @@ InspectorPane::InspectorPane(QWidget* parent) : QWidget(parent) {
   view_->header()->setStretchLastSection(true);
   view_->header()->resizeSection(0, 140);
   view_->setAccessibleName(tr("Properties"));
-  // The row is painted before its editor has the keys.
-  connect(qApp, &QApplication::focusChanged, view_, [this] { view_->viewport()->update(); });
   description_ = new QLabel;
   description_->setWordWrap(true);
   description_->setMinimumHeight(40);

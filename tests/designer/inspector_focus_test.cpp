@@ -1,5 +1,6 @@
 // Where the focus and the current row of the inspector are, whatever happens to a value.
 #include "tests/designer/InspectingTest.h"
+#include "vcl/Theme.h"
 
 using namespace designer;
 
@@ -377,4 +378,19 @@ TEST_F(Inspecting, TheBoxOfComponentsFollowsSelectionAndNames) {
   Session().DeleteSelection();
   EXPECT_EQ(box.count(), count - 1);
   EXPECT_LT(box.findText(QStringLiteral("Clock"), Qt::MatchStartsWith), 0);
+}
+
+// The row has the keys while its value is typed.
+TEST_F(Inspecting, TheRowThatIsEditedHasTheAccent) {
+  ApplyTheme(TTheme::Light);
+  QCoreApplication::processEvents();
+  const QPalette palette = ThemePalette(TTheme::Light);
+  const auto ground = [&] {
+    const QRect name = View().visualRect(RowOf("Caption").siblingAtColumn(0));
+    return QColor(View().viewport()->grab().toImage().pixel(name.right() - 4, name.center().y()));
+  };
+  Show("Button1", "Caption");
+  EXPECT_EQ(ground(), palette.color(QPalette::Active, QPalette::Highlight));
+  Surface().setFocus();
+  EXPECT_EQ(ground(), palette.color(QPalette::Inactive, QPalette::Highlight));
 }
